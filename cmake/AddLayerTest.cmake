@@ -1,0 +1,22 @@
+# add_layer_test(LAYER SOURCES file... [LINKS library...])
+#
+# One test program per layer, which links that layer alone: a call upward then fails to link.
+# The program runs once in each of several time zones; New York and Paris have daylight saving on
+# the northern rule, Sydney on the southern, and none of them is the machine's own.
+find_package(GTest REQUIRED)
+find_package(Threads REQUIRED)
+
+set(NASCOR_TEST_ZONES UTC America/New_York Europe/Paris Australia/Sydney)
+
+function(add_layer_test layer)
+  cmake_parse_arguments(TEST "" "" "SOURCES;LINKS" ${ARGN})
+  set(program ${layer}_tests)
+  add_executable(${program} ${TEST_SOURCES})
+  target_link_libraries(${program} PRIVATE
+    nascor_options ${layer} test_support ${TEST_LINKS} GTest::gmock_main Threads::Threads)
+  foreach(zone IN LISTS NASCOR_TEST_ZONES)
+    add_test(NAME "${layer}@${zone}" COMMAND ${program} --gtest_brief=1)
+    set_tests_properties("${layer}@${zone}" PROPERTIES
+      ENVIRONMENT "TZ=${zone};LC_ALL=C.UTF-8" LABELS "core")
+  endforeach()
+endfunction()

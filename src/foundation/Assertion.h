@@ -1,0 +1,31 @@
+#pragma once
+
+#include <source_location>
+#include <stdexcept>
+#include <string>
+#include <utility>
+
+namespace nascor::foundation {
+
+/// Something that cannot be missing is missing: a programming error. It abandons the action in progress,
+/// with a message that names the source file and line, and never ends the process: documents may be unsaved.
+class AssertionFailure : public std::logic_error {
+ public:
+  AssertionFailure(const std::string& description, std::source_location where);
+  const std::source_location& where() const { return where_; }
+
+ private:
+  std::source_location where_;
+};
+
+[[noreturn]] void throwValueIsNil(std::source_location where);
+
+/// `value` itself when it is there (a pointer or an optional that is not empty); otherwise an
+/// AssertionFailure "Value==nil".
+template <class Value>
+Value&& required(Value&& value, std::source_location where = std::source_location::current()) {
+  if (!value) throwValueIsNil(where);
+  return std::forward<Value>(value);
+}
+
+}  // namespace nascor::foundation

@@ -1,0 +1,26 @@
+#include "foundation/Localizer.h"
+
+namespace nascor::foundation {
+
+std::string format(const Localizer& localizer, std::string_view table, std::string_view key,
+                   std::initializer_list<std::int64_t> numbers) {
+  constexpr std::string_view kPlaceHolder = "%ld";
+  const std::string pattern = localizer.text(table, key);
+  std::string result;
+  std::size_t from = 0;
+  for (const std::int64_t number : numbers) {
+    const std::size_t at = pattern.find(kPlaceHolder, from);
+    if (at == std::string::npos) break;
+    result += pattern.substr(from, at - from);
+    result += std::to_string(number);
+    from = at + kPlaceHolder.size();
+  }
+  result += pattern.substr(from);
+  return result;
+}
+
+std::string EnglishLocalizer::text(std::string_view, std::string_view key) const { return std::string(key); }
+ShortDateForm EnglishLocalizer::shortDateForm() const { return {.pattern = "M/d/yy", .monthNames = {}}; }
+char EnglishLocalizer::decimalSign() const { return '.'; }
+
+}  // namespace nascor::foundation

@@ -1,0 +1,10 @@
+#include "foundation/RangeError.h"
+
+namespace nascor::foundation {
+
+void throwRangeError(std::string index, std::size_t count, std::source_location where) {
+  throw RangeError("index " + std::move(index) + " is outside the " + std::to_string(count) + " elements",
+                   where);
+}
+
+}  // namespace nascor::foundation
