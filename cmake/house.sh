@@ -1,0 +1,190 @@
+# What run, test and .ci/run share: finding and installing packages, one build folder per user, quiet
+# building with progress. Sourced by bash; expects `root`, the top of the checkout.
+
+say() { printf '%s\n' "$*"; }
+fail() { printf '%s\n' "$*" >&2; exit 1; }
+
+# Whether the one changing line can be drawn.
+on_terminal() { [[ -t 1 && "${TERM:-dumb}" != dumb ]]; }
+
+# packages_of GROUP...: the packages of these groups of packages.txt, one a line.
+packages_of() {
+  local line group="" wanted=" $* "
+  while IFS= read -r line; do
+    line="${line%%#*}"
+    line="${line//[[:space:]]/}"
+    case "$line" in
+      "") ;;
+      \[*\]) group="${line:1:-1}" ;;
+      *) [[ "$wanted" == *" $group "* ]] && say "$line" ;;
+    esac
+  done <"$root/cmake/packages.txt"
+  return 0
+}
+
+# need_packages GROUP...: installs what is missing and says what. One look when nothing is missing.
+need_packages() {
+  local wanted missing
+  mapfile -t wanted < <(packages_of "$@")
+  if ! command -v dpkg-query >/dev/null || ! command -v apt-get >/dev/null; then
+    # Not a Debian system. Whoever has the tools may go on; CMake names what else is missing.
+    command -v cmake >/dev/null && command -v ninja >/dev/null && return 0
+    fail "This system has no apt-get, so please install these packages, or what they are called here: ${wanted[*]}"
+  fi
+  mapfile -t missing < <(
+    { dpkg-query -W -f '${db:Status-Status} ${Package}\n' "${wanted[@]}" 2>/dev/null || true; } |
+      awk -v wanted="${wanted[*]}" '
+        $1 == "installed" { have[$2] = 1 }
+        END { n = split(wanted, names, " "); for (i = 1; i <= n; ++i) if (!(names[i] in have)) print names[i] }')
+  ((${#missing[@]} == 0)) && return 0
+
+  local as_root=()
+  if ((EUID != 0)); then
+    command -v sudo >/dev/null ||
+      fail "Please have an administrator install these packages (there is no sudo here): ${missing[*]}"
+    as_root=(sudo)
+    [[ -t 0 ]] || as_root+=(-n)
+  fi
+  local log
+  log="$(mktemp "${TMPDIR:-/tmp}/nascor-install-XXXXXX.log")"
+  say "Installing: ${missing[*]}"
+  # sudo drops the variables of the caller, so env stands behind it. Another apt may hold the lock.
+  as_root+=(env DEBIAN_FRONTEND=noninteractive)
+  local apt=(apt-get -q -y -o DPkg::Lock::Timeout=120)
+  if ((EUID != 0)) && ! "${as_root[@]}" true 2>>"$log"; then
+    cat "$log" >&2
+    fail "sudo gave no permission. Please have an administrator install these packages: ${missing[*]}"
+  fi
+  # A stale package list still finds most packages, so a failed update alone is no reason to stop.
+  quietly "$log" "reading the package lists" "${as_root[@]}" "${apt[@]}" update ||
+    say "The package lists could not be brought up to date; going on with the old ones."
+  if ! quietly "$log" "installing ${#missing[@]} packages" \
+      "${as_root[@]}" "${apt[@]}" install --no-install-recommends "${missing[@]}"; then
+    tail -n 15 "$log" >&2
+    fail "Installing failed. The whole log is in $log"
+  fi
+  rm -f "$log"
+}
+
+# quietly LOG TITLE COMMAND...: runs the command with its output in LOG (appended). On a terminal, TITLE and the
+# last line that the command wrote stand in one changing line; elsewhere TITLE is printed once.
+quietly() {
+  local log="$1" title="$2" status=0
+  shift 2
+  if on_terminal; then
+    noting_status "$log" "$@" | tee -a "$log" | show_last_line "$title"
+    status="$(noted_status "$log")"
+  else
+    say "  $title"
+    "$@" >>"$log" 2>&1 </dev/null || status=$?
+  fi
+  return "$status"
+}
+
+# noting_status LOG COMMAND...: runs the command at the head of a pipe; noted_status LOG says how it ended.
+noting_status() {
+  local noted="$1.status" status=0
+  shift
+  "$@" 2>&1 </dev/null || status=$?
+  say "$status" >"$noted"
+}
+noted_status() { cat "$1.status" && rm -f "$1.status"; }
+
+# Draws standard input as one changing line behind a title, and wipes it at the end.
+show_last_line() {
+  local line width
+  while IFS= read -r line; do
+    width=$(($(tput cols 2>/dev/null || echo 80) - ${#1} - 4))
+    ((width > 0)) && printf '\r\033[K  %s  %s' "$1" "${line:0:width}"
+  done
+  printf '\r\033[K'
+}
+
+# How many compilers at once: one a processor, but none without 1.2 GB of memory of its own.
+jobs_here() {
+  local cpus memory
+  cpus="$(nproc 2>/dev/null || echo 2)"
+  memory="$(awk '/^MemAvailable:/ { print int($2 / 1200000) }' /proc/meminfo 2>/dev/null || true)"
+  [[ -n "$memory" ]] && ((memory < cpus)) && cpus=$((memory < 1 ? 1 : memory))
+  say "$cpus"
+}
+
+# own_folder NAME: makes NAME in the checkout and prints its path. What root makes in somebody else's checkout is
+# theirs, or root's build would lock them out. Where the checkout cannot be written, it lies in the cache.
+own_folder() {
+  local folder="$root/$1"
+  if mkdir -p "$folder" 2>/dev/null && [[ -w "$folder" ]]; then
+    ((EUID != 0)) || chown --reference="$root" "$root/${1%%/*}"
+  else
+    folder="${XDG_CACHE_HOME:-${HOME:-/tmp/nascor-$EUID}/.cache}/nascor/$1"
+    mkdir -p "$folder" || fail "Neither $root nor $folder can be written."
+  fi
+  say "$folder"
+}
+
+# build_folder PRESET: one folder per preset and user.
+build_folder() { own_folder "build/$1-$EUID"; }
+
+# build PRESET FOLDER [TARGET...]: configures where that is needed and builds, with progress.
+build() {
+  local preset="$1" folder="$2" log="$2/build.log" status=0
+  shift 2
+  # ccache needs a place to write; without one it would fail every compilation.
+  [[ -w "${CCACHE_DIR:-${XDG_CACHE_HOME:-${HOME:-/nonexistent}}}" ]] || export CCACHE_DISABLE=1
+
+  # A checkout that was moved or copied brings a build folder that points elsewhere.
+  if [[ -f "$folder/CMakeCache.txt" ]] && ! grep -qxF "CMAKE_HOME_DIRECTORY:INTERNAL=$root" "$folder/CMakeCache.txt"; then
+    rm -rf "$folder"
+    mkdir -p "$folder"
+  fi
+  : >"$log"
+  if [[ ! -f "$folder/build.ninja" || "$root/CMakePresets.json" -nt "$folder/build.ninja" ]]; then
+    if ! (cd "$root" && quietly "$log" "configuring ($preset)" cmake --preset "$preset" -B "$folder"); then
+      # The first error, with what CMake says about it; the rest follows from it.
+      grep -m1 -A15 'CMake Error' "$log" >&2 || tail -n 20 "$log" >&2
+      rm -f "$folder/build.ninja"
+      fail "Configuring failed. The whole log is in $log"
+    fi
+  fi
+
+  NINJA_STATUS="%f %t " noting_status "$log" ninja -C "$folder" -j "$(jobs_here)" "$@" |
+    tee -a "$log" | show_steps "building"
+  status="$(noted_status "$log")"
+  if ((status != 0)); then
+    # Ninja prints a failed command behind "FAILED:", then what it said. The first one tells the most.
+    awk '/^FAILED: / { ++n } n == 1 && /^[0-9]+ [0-9]+ / { exit } n == 1' "$log" | cut -c1-400 | head -n 40 >&2
+    fail "Building failed. The whole log is in $log"
+  fi
+}
+
+# Reads lines "DONE OF WHAT", draws them as one changing line on a terminal and as a line each tenth elsewhere.
+show_steps() {
+  local finished total what shown=-1
+  while read -r finished total what; do
+    [[ "$finished" =~ ^[0-9]+$ && "$total" =~ ^[0-9]+$ && "$total" != 0 ]] || continue
+    if on_terminal; then
+      printf '\r\033[K  %s %d of %d  %s' "$1" "$finished" "$total" "${what:0:50}"
+    elif ((total > 4 && finished * 10 / total != shown)); then
+      shown=$((finished * 10 / total))
+      say "  $1: $finished of $total"
+    fi
+  done
+  ! on_terminal || printf '\r\033[K'
+}
+
+# run_tests FOLDER [CTEST ARGUMENT...]: runs ctest with progress, shows what failed with its output, and ends with
+# ctest's closing line.
+run_tests() {
+  local folder="$1" log="$1/test.log" status=0
+  shift
+  noting_status "$log" ctest --test-dir "$folder" --output-on-failure --no-tests=error -j "$(jobs_here)" "$@" |
+    tee "$log" |
+    sed -u -n -E 's/^ *([0-9]+)\/([0-9]+) Test +#[0-9]+: ([^ ]+).*/\1 \2 \3/p' | show_steps "testing"
+  status="$(noted_status "$log")"
+  ((status == 0)) || grep -v -E '^ *[0-9]+/[0-9]+ Test .* Passed|^ *Start ' "$log" | sed '/tests passed/,$d' | tail -n 200
+  # Ctest's summary, its verdict last.
+  sed -n '/tests passed/,$p' "$log" | grep -v -E 'tests passed|^ *$|^Errors while|^Output from these|^Use "' || true
+  grep -E 'tests passed' "$log" || { tail -n 20 "$log"; status=1; }
+  ((status == 0)) || printf '%s\n' "The whole log is in $log" >&2
+  return "$status"
+}
