@@ -1,0 +1,21 @@
+#include "calc/Projection.h"
+
+#include "calc/LookUp.h"
+
+namespace nascor::calc {
+
+bool projectionIsShown(double ageAtLastExam, double plannedGestation) {
+  const bool hidden = (ageAtLastExam >= plannedGestation) || (ageAtLastExam < 30.0);
+  return !hidden;
+}
+
+double zScore(const ReferenceTable& table, double value, double age) {
+  return (value - meanForGestation(table, age)) / sdForGestation(table, age);
+}
+
+double projectedValue(const ReferenceTable& table, double value, double age, double plannedGestation) {
+  const double z = value != 0.0 ? zScore(table, value, age) : 0.0;
+  return meanForGestation(table, plannedGestation) + z * sdForGestation(table, plannedGestation);
+}
+
+}  // namespace nascor::calc
