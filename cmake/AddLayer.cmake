@@ -4,10 +4,16 @@
 # others: its only include root is a folder in the build tree that holds one link, to this layer's
 # sources. `#include "app/NCDocument.h"` in a lower layer therefore fails with "No such file".
 # Had the roots been src/ itself, every layer would see every other.
+#
+# USES names every layer whose headers this layer's files include; tests/house compares. LINKS names
+# libraries that are not ours.
 function(add_layer name)
   cmake_parse_arguments(LAYER "" "DIRECTORY" "USES;LINKS;HEADERS;SOURCES" ${ARGN})
   if(NOT LAYER_DIRECTORY)
     set(LAYER_DIRECTORY "${CMAKE_CURRENT_SOURCE_DIR}")
+  endif()
+  if(LAYER_UNPARSED_ARGUMENTS OR NOT LAYER_HEADERS)
+    message(FATAL_ERROR "add_layer(${name}): ${LAYER_UNPARSED_ARGUMENTS} is no part of it, or HEADERS is missing")
   endif()
 
   set(root "${CMAKE_BINARY_DIR}/include/${name}")
@@ -21,11 +27,12 @@ function(add_layer name)
     add_library(${name} INTERFACE)
     set(scope INTERFACE)
   endif()
-  list(TRANSFORM LAYER_HEADERS PREPEND "${root}/${name}/")
+  list(TRANSFORM LAYER_HEADERS PREPEND "${root}/${name}/" OUTPUT_VARIABLE headers)
   target_sources(${name} ${scope}
-    FILE_SET HEADERS BASE_DIRS "${root}" FILES ${LAYER_HEADERS})
+    FILE_SET HEADERS BASE_DIRS "${root}" FILES ${headers})
   # moc would run once on the file and once on its link.
-  set_source_files_properties(${LAYER_HEADERS} PROPERTIES SKIP_AUTOMOC ON)
+  set_source_files_properties(${headers} PROPERTIES SKIP_AUTOMOC ON)
+  # Makes the target all_verify_interface_header_sets compile each header alone.
   set_target_properties(${name} PROPERTIES VERIFY_INTERFACE_HEADER_SETS ON)
 
   file(RELATIVE_PATH inSource "${CMAKE_SOURCE_DIR}" "${LAYER_DIRECTORY}")
@@ -35,5 +42,16 @@ function(add_layer name)
   else()
     target_link_libraries(${name} INTERFACE nascor_options ${LAYER_USES} ${LAYER_LINKS})
   endif()
+
+  list(JOIN LAYER_USES "," uses)
+  list(JOIN LAYER_HEADERS "," headers)
   set_property(GLOBAL APPEND PROPERTY NASCOR_LAYERS ${name})
+  set_property(GLOBAL APPEND_STRING PROPERTY NASCOR_LAYER_TABLE "${name}|${inSource}|${uses}|${headers}\n")
+endfunction()
+
+# Writes the table of layers, lowest first, for the tests of the layer wall: name|folder|USES|HEADERS,
+# the last two separated by commas.
+function(write_layer_table file)
+  get_property(table GLOBAL PROPERTY NASCOR_LAYER_TABLE)
+  file(CONFIGURE OUTPUT "${file}" CONTENT "${table}" @ONLY)
 endfunction()

@@ -5,12 +5,13 @@ add_library(nascor_options INTERFACE)
 target_compile_options(nascor_options INTERFACE
   -Wall -Wextra -Wpedantic -Wshadow -Wconversion
   $<$<BOOL:${NASCOR_WERROR}>:-Werror>
-  # A fused multiply-add moves the last bits of the formulas, and look-ups at a table's own mean by a
-  # whole week. No target may use it, whatever processor it is built for.
-  -ffp-contract=off
   # Diagnostics, __FILE__ and coverage name files from the source root, on every machine alike.
   # The last map that matches wins; AddLayer.cmake adds one per layer behind this one.
   "-ffile-prefix-map=${CMAKE_SOURCE_DIR}/=")
+
+# A fused multiply-add moves the last bits of the formulas, and look-ups at a table's own mean by a whole
+# week. No target may use it, whatever processor it is built for; so this stands above all of them.
+add_compile_options(-ffp-contract=off)
 
 if(NASCOR_SANITIZE)
   target_compile_options(nascor_options INTERFACE
@@ -18,7 +19,19 @@ if(NASCOR_SANITIZE)
   target_link_options(nascor_options INTERFACE -fsanitize=${NASCOR_SANITIZE})
 endif()
 
+if(NASCOR_FUZZ)
+  if(NOT CMAKE_CXX_COMPILER_ID MATCHES "Clang")
+    message(FATAL_ERROR "The fuzzers need clang: cmake --preset fuzz")
+  endif()
+  # The layers count the branches that the fuzzer takes through them.
+  target_compile_options(nascor_options INTERFACE -fsanitize=fuzzer-no-link)
+endif()
+
 if(NASCOR_COVERAGE)
+  if(NOT CMAKE_CXX_COMPILER_ID MATCHES "Clang")
+    # gcc counts the edges of exceptions as branches, most of which no test can take.
+    message(FATAL_ERROR "Source coverage needs clang: cmake --preset coverage")
+  endif()
   target_compile_options(nascor_options INTERFACE -fprofile-instr-generate -fcoverage-mapping)
   target_link_options(nascor_options INTERFACE -fprofile-instr-generate)
 endif()

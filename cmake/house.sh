@@ -39,7 +39,7 @@ need_packages() {
   ((${#missing[@]} == 0)) && return 0
 
   local as_root=()
-  if ((EUID != 0)); then
+  if (($(id -u) != 0)); then
     command -v sudo >/dev/null ||
       fail "Please have an administrator install these packages (there is no sudo here): ${missing[*]}"
     as_root=(sudo)
@@ -51,7 +51,7 @@ need_packages() {
   # sudo drops the variables of the caller, so env stands behind it. Another apt may hold the lock.
   as_root+=(env DEBIAN_FRONTEND=noninteractive)
   local apt=(apt-get -q -y -o DPkg::Lock::Timeout=120)
-  if ((EUID != 0)) && ! "${as_root[@]}" true 2>>"$log"; then
+  if (($(id -u) != 0)) && ! "${as_root[@]}" true 2>>"$log"; then
     cat "$log" >&2
     fail "sudo gave no permission. Please have an administrator install these packages: ${missing[*]}"
   fi
@@ -114,16 +114,16 @@ jobs_here() {
 own_folder() {
   local folder="$root/$1"
   if mkdir -p "$folder" 2>/dev/null && [[ -w "$folder" ]]; then
-    ((EUID != 0)) || chown --reference="$root" "$root/${1%%/*}"
+    (($(id -u) != 0)) || chown --reference="$root" "$root/${1%%/*}"
   else
-    folder="${XDG_CACHE_HOME:-${HOME:-/tmp/nascor-$EUID}/.cache}/nascor/$1"
+    folder="${XDG_CACHE_HOME:-${HOME:-/tmp/nascor-$(id -u)}/.cache}/nascor/$1"
     mkdir -p "$folder" || fail "Neither $root nor $folder can be written."
   fi
   say "$folder"
 }
 
 # build_folder PRESET: one folder per preset and user.
-build_folder() { own_folder "build/$1-$EUID"; }
+build_folder() { own_folder "build/$1-$(id -u)"; }
 
 # build PRESET FOLDER [TARGET...]: configures where that is needed and builds, with progress.
 build() {
@@ -177,14 +177,14 @@ show_steps() {
 run_tests() {
   local folder="$1" log="$1/test.log" status=0
   shift
-  noting_status "$log" ctest --test-dir "$folder" --output-on-failure --no-tests=error -j "$(jobs_here)" "$@" |
+  noting_status "$log" ctest --test-dir "$folder" --output-on-failure --no-tests=error --no-label-summary -j "$(jobs_here)" "$@" |
     tee "$log" |
     sed -u -n -E 's/^ *([0-9]+)\/([0-9]+) Test +#[0-9]+: ([^ ]+).*/\1 \2 \3/p' | show_steps "testing"
   status="$(noted_status "$log")"
   ((status == 0)) || grep -v -E '^ *[0-9]+/[0-9]+ Test .* Passed|^ *Start ' "$log" | sed '/tests passed/,$d' | tail -n 200
   # Ctest's summary, its verdict last.
   sed -n '/tests passed/,$p' "$log" | grep -v -E 'tests passed|^ *$|^Errors while|^Output from these|^Use "' || true
+  ((status == 0)) || say "The whole log is in $log"
   grep -E 'tests passed' "$log" || { tail -n 20 "$log"; status=1; }
-  ((status == 0)) || printf '%s\n' "The whole log is in $log" >&2
   return "$status"
 }

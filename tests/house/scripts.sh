@@ -1,0 +1,104 @@
+# How run and test look for packages, with fakes of the system's programs: they ask once when nothing is missing,
+# bring the lists up to date before they install, and say in a sentence what stops them.
+. "$(dirname "$0")/common.sh" "$@"
+
+work="$(mktemp -d)"
+trap 'rm -rf "$work"' EXIT
+
+# fake NAME: a program of this name whose text is on standard input; it first notes its call.
+fake() {
+  { printf '#!/bin/bash\necho "%s $*" >>"%s/calls"\n' "$1" "$work"; cat; } >"$work/bin/$1"
+  chmod +x "$work/bin/$1"
+}
+
+# setting: a system of its own, without apt, sudo and compilers.
+setting() {
+  rm -rf "$work/bin" "$work/calls"
+  mkdir "$work/bin"
+  : >"$work/calls"
+  local tool
+  for tool in awk cat dirname env grep head mktemp rm sed tail tee tr true uname; do
+    ln -s "$(type -P "$tool")" "$work/bin/$tool"
+  done
+}
+
+# need USER-ID: runs need_packages for the group `build` as that user; its words are in said, its status in status.
+need() {
+  fake id <<<"echo $1"
+  status=0
+  said="$(PATH="$work/bin" TMPDIR="$work" bash_root="$root" "$BASH" -c '
+    set -euo pipefail; root="$bash_root"; . "$root/cmake/house.sh"; need_packages build' 2>&1 </dev/null)" || status=$?
+}
+
+expect() {
+  checks=$((checks + 1))
+  "${@:2}" || wrong "$1. Said: $said. Calls: $(tr '\n' ';' <"$work/calls")"
+}
+said_has() { [[ "$said" == *"$1"* ]]; }
+apt_calls_are() { [[ "$(grep "^apt-get" "$work/calls")" == "$1" ]]; }
+status_is() { [[ "$status" == "$1" ]]; }
+all_installed='for name; do [[ "$name" == -* || "$name" == *"{"* ]] || echo "installed $name"; done'
+all_but_ninja='for name; do [[ "$name" == -* || "$name" == *"{"* || "$name" == ninja* ]] || echo "installed $name"; done'
+
+setting
+fake dpkg-query <<<"$all_installed"
+fake apt-get <<<"exit 1"
+need 0
+expect "Nothing missing is no failure" status_is 0
+expect "Nothing missing is said in no word" [ -z "$said" ]
+expect "Nothing missing takes one look" [ "$(grep -vc '^id' "$work/calls")" = 1 ]
+
+setting
+fake dpkg-query <<<"$all_but_ninja; exit 1"
+fake apt-get <<<'[[ "$DEBIAN_FRONTEND" == noninteractive ]]'
+need 0
+expect "root installs" status_is 0
+expect "What is installed is said" said_has "Installing: ninja-build"
+expect "The lists come first, then the one package" apt_calls_are "apt-get -q -y -o DPkg::Lock::Timeout=120 update
+apt-get -q -y -o DPkg::Lock::Timeout=120 install --no-install-recommends ninja-build"
+
+setting
+fake dpkg-query <<<"$all_but_ninja"
+fake apt-get <<<'[[ "$*" == *update* ]] || { echo "E: Unable to locate package ninja-build"; exit 100; }'
+need 0
+expect "A failed installation fails" status_is 1
+expect "It shows what apt said" said_has "Unable to locate package"
+
+setting
+fake dpkg-query <<<"$all_but_ninja"
+fake apt-get <<<"exit 0"
+fake sudo <<<'[[ "$1" == -n ]] && shift; exec "$@"'
+need 1000
+expect "A user installs with sudo" status_is 0
+expect "sudo asks for nothing without a terminal" grep -q '^sudo -n env DEBIAN_FRONTEND=noninteractive apt-get' "$work/calls"
+
+setting
+fake dpkg-query <<<"$all_but_ninja"
+fake apt-get <<<"exit 0"
+need 1000
+expect "Without sudo a user is sent to the administrator" status_is 1
+expect "The sentence names the package" said_has "ninja-build"
+
+setting
+fake dpkg-query <<<"$all_but_ninja"
+fake apt-get <<<"exit 0"
+fake sudo <<<"exit 1"
+need 1000
+expect "A sudo that refuses stops with a sentence" said_has "sudo gave no permission"
+expect "Nothing is installed then" [ "$(grep -c '^apt-get' "$work/calls")" = 0 ]
+
+setting
+need 0
+expect "A system without apt is told so" status_is 1
+expect "The sentence names the packages there" said_has "no apt-get"
+
+for script in run test .ci/run; do
+  [[ -e "$root/$script" ]] || continue
+  checks=$((checks + 1))
+  "$BASH" -n "$root/$script" || wrong "$script is no valid script"
+done
+for script in run test; do
+  checks=$((checks + 1))
+  [[ "$("$root/$script" --help)" == "usage: ./$script"* ]] || wrong "./$script --help does not say how it is used"
+done
+conclude
