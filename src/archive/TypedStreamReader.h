@@ -1,0 +1,185 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <deque>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+#include "archive/Encoding.h"
+#include "archive/FormatError.h"
+#include "archive/TypeString.h"
+#include "archive/ValueWalk.h"
+
+namespace nascor::archive {
+
+/// A class, where one stands: the value of a `#`, or the class of an object.
+struct ClassValue {
+  std::size_t offset = 0;      ///< Where it begins.
+  std::optional<Label> label;  ///< The class; empty for nil.
+  /// Class records that stand here in full, root last; they are labelled from `*label` upward. 0: seen before.
+  std::size_t newRecords = 0;
+};
+
+/// An object, where one stands: the value of an `@`.
+struct ObjectValue {
+  enum class Kind {
+    nil,
+    reference,  ///< An object whose beginning stood earlier in the stream.
+    fresh       ///< Its groups follow, to be read until endObject().
+  };
+  std::size_t offset = 0;  ///< Where it begins.
+  Kind kind = Kind::nil;
+  Label label = 0;  ///< Not for nil.
+  ClassValue cls;   ///< Of a fresh object: its class as it stands here. Of a reference: the label alone.
+  /// False for a reference to an object that is still being read: the object would contain itself.
+  bool complete = false;
+
+  bool isNil() const { return kind == Kind::nil; }
+  bool isReference() const { return kind == Kind::reference; }
+  bool isFresh() const { return kind == Kind::fresh; }
+};
+
+/// A C string, where one stands: the value of a `*`.
+struct CStringValue {
+  std::size_t offset = 0;
+  std::optional<Label> label;  ///< Empty for nil.
+  bool fresh = false;          ///< It stands here, not earlier in the stream.
+  std::string_view text;
+};
+
+/// Reads a typed stream from its first byte to its last, one value at a time, as the caller asks for them.
+///
+/// A stream is a header and groups; a group is a type string and one value for each of its types; a value may be a
+/// fresh object, which holds groups again. No tree is built: the reader keeps the numbered strings, classes and
+/// objects that later values refer to, in memory proportional to the bytes read, never to a number in them.
+///
+/// Every function that reads throws FormatError when the bytes are malformed or are not what was asked for; it then
+/// says what was expected, in words, and where. Nothing past the end is read. Calls in an impossible order (a value where no
+/// group is open) are mistakes of the caller and throw std::logic_error.
+///
+/// All texts handed out point into the bytes given to the constructor, which must outlive the reader.
+class TypedStreamReader {
+ public:
+  /// Reads the header: version 4, one of the two signatures, and any system version.
+  explicit TypedStreamReader(std::span<const std::byte> bytes);
+  TypedStreamReader(const TypedStreamReader&) = delete;
+  TypedStreamReader& operator=(const TypedStreamReader&) = delete;
+
+  ByteOrder byteOrder() const { return byteOrder_; }
+  std::int64_t systemVersion() const { return systemVersion_; }
+
+  /// Where reading stopped: the bytes before the next one.
+  std::size_t offset() const { return position_; }
+  std::size_t bytesLeft() const { return bytes_.size() - position_; }
+
+  /// @name Groups
+  /// @{
+
+  /// True when another group follows: in an object until its end mark, at the top until the end of the file.
+  bool groupFollows();
+  /// Begins the next group, whatever it holds; returns its types. It ends by itself with its last value.
+  std::string_view beginGroup();
+  /// Begins the next group, which must be of exactly these types.
+  void expectGroup(std::string_view types);
+  /// The type of the value that is due: in the open group, array or structure. Null when there is none left.
+  const TypeNode* due() const { return walk_.due(); }
+
+  /// @}
+  /// @name Values; each must be due and of a fitting type
+  /// @{
+
+  /// Types c C B s S i I l L q Q. The value must fit the type. Larger unsigned values are stored as negative
+  /// numbers of the same width, and come as such.
+  std::int64_t readInteger();
+  double readReal();                              ///< Types f (widened) and d, stored in either form.
+  std::optional<std::string_view> readString();   ///< Types + : %, without a look at the bytes; empty for nil.
+  CStringValue readCString();                     ///< Type *
+  ClassValue readClass();                         ///< Type #, with the records that stand in full here.
+  std::span<const std::byte> readBytes();         ///< An array of c or C.
+  std::uint64_t beginArray();                     ///< Any array; returns the number of elements.
+  void endArray() { walk_.leaveArray(); }         ///< After the last element.
+  std::string_view beginStructure();              ///< Returns the name.
+  void endStructure() { walk_.leaveStructure(); }  ///< After the last member.
+  /// Type @. Groups follow when it is fresh, until endObject().
+  ObjectValue beginObject();
+  /// Ends the innermost open object, which must have no groups left.
+  void endObject();
+
+  /// @}
+  /// @name One group with one value, the usual case in documents
+  /// @{
+
+  std::int32_t takeInt();                         ///< A group of type i.
+  double takeFloat();                             ///< A group of type f, widened.
+  double takeDouble();                            ///< A group of type d.
+  std::optional<std::string_view> takeString();   ///< A group of type +, empty for nil.
+  ObjectValue takeObject();                       ///< A group of type @; groups follow when it is fresh.
+
+  /// @}
+  /// @name What is known so far; labels come from values read
+  /// @{
+
+  std::string_view className(Label cls) const { return strings_[labels_[cls].string].text; }
+  std::int64_t classVersion(Label cls) const { return labels_[cls].version; }
+  std::optional<Label> superclass(Label cls) const { return labels_[cls].cls; }
+  /// The class of an object.
+  Label classOf(Label object) const { return *labels_[object].cls; }
+  /// The class name of an object that is not nil.
+  std::string_view classNameOf(const ObjectValue& object) const { return className(*object.cls.label); }
+  /// The version in the class record of that name; empty when no such record has been read.
+  std::optional<std::int64_t> versionForClassName(std::string_view name) const;
+
+  /// "nil", "a new NSString", "object 3 (NSString)": for messages.
+  std::string describe(const ObjectValue& object) const;
+
+  /// @}
+
+ private:
+  enum class LabelKind : std::uint8_t { object, cls, cString };
+  struct LabelEntry {
+    LabelKind kind;
+    bool complete;             // objects
+    std::optional<Label> cls;  // the class of an object, the superclass of a class
+    std::size_t string;        // the name of a class, the text of a C string, as a number of strings_
+    std::int64_t version;      // classes
+  };
+  struct SharedString {
+    std::string_view text;
+    std::vector<TypeNode> types;
+    bool parsed;
+  };
+
+  // `wanted` is what the caller expected, in words ("an object"), for the message.
+  [[noreturn]] void refuse(std::size_t offset, std::string_view wanted, const std::string& instead) const;
+  std::span<const std::byte> take(std::uint64_t count, std::string_view wanted);
+  int peekHead(std::string_view wanted) const;
+  std::uint64_t takeFixed(std::size_t width, std::string_view wanted);
+  std::int64_t takeNumber(std::string_view wanted);
+  std::size_t takeNumberBelow(std::size_t limit, std::string_view thing, std::string_view wanted);
+  std::optional<std::string_view> takeUnshared(std::string_view wanted);
+  std::optional<std::size_t> takeShared(std::string_view wanted);
+  Label takeLabel(LabelKind kind, std::string_view wanted);
+  ClassValue takeClass(std::string_view wanted);
+  void readHeader();
+
+  std::size_t takeGroupTypes(std::string_view wanted);
+  const TypeNode& dueOf(std::string_view codes, std::string_view wanted) const;
+  void checkDepth() const;
+  std::string describeLabel(Label label) const;
+
+  std::span<const std::byte> bytes_;
+  std::size_t position_ = 0;
+  ByteOrder byteOrder_ = ByteOrder::little;
+  std::int64_t systemVersion_ = 0;
+  ValueWalk walk_;
+  std::deque<SharedString> strings_;  // a deque, since the walk points into it while it grows
+  std::vector<LabelEntry> labels_;
+  std::unordered_map<std::string_view, Label> classes_;  // the first record of each name
+};
+
+}  // namespace nascor::archive
