@@ -1,0 +1,29 @@
+#include "posix/PosixCalendar.h"
+
+#include <cmath>
+#include <ctime>
+
+namespace nascor::posix {
+
+namespace {
+
+/// From the epoch of the operating system, 1970-01-01, to 2001-01-01.
+constexpr double kEpochTo2001 = 978307200.0;
+
+/// Beyond it the operating system has no year to put the instant in: about two thousand million years.
+constexpr double kFarthest = 6.7e16;
+
+}  // namespace
+
+PosixCalendar::PosixCalendar() { ::tzset(); }
+
+double PosixCalendar::offsetFromUtc(foundation::Date instant) const {
+  const double seconds = std::floor(instant.secondsSince2001);
+  if (!(std::fabs(seconds) <= kFarthest)) return 0.0;
+  const auto systemTime = static_cast<std::time_t>(seconds + kEpochTo2001);
+  std::tm local{};
+  if (::localtime_r(&systemTime, &local) == nullptr) return 0.0;
+  return static_cast<double>(local.tm_gmtoff);
+}
+
+}  // namespace nascor::posix

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "foundation/Calendar.h"
+
+namespace nascor::posix {
+
+/// The time zone of this process: that of the environment variable `TZ`, else the system's. It is read when a
+/// calendar is made; a process that changes `TZ` makes a new one, which then counts for all.
+class PosixCalendar final : public foundation::Calendar {
+ public:
+  PosixCalendar();
+  double offsetFromUtc(foundation::Date instant) const override;
+};
+
+}  // namespace nascor::posix

@@ -1,0 +1,217 @@
+#include "posix/PosixFileStore.h"
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <climits>
+#include <cstdlib>
+#include <new>
+#include <stdexcept>
+#include <string_view>
+#include <system_error>
+#include <utility>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <sys/xattr.h>
+#include <unistd.h>
+
+namespace nascor::posix {
+
+namespace {
+
+using foundation::FileError;
+
+constexpr const char* kAccessList = "system.posix_acl_access";
+
+FileError systemError(int number = errno) { return FileError{std::generic_category().message(number)}; }
+FileError notAFile(mode_t mode) {
+  return S_ISDIR(mode) ? systemError(EISDIR) : FileError{"Not a regular file"};
+}
+
+/// The operating system would take such a path for another, shorter one.
+bool hasZeroByte(const std::string& path) { return path.find('\0') != std::string::npos; }
+
+/// Repeats a call of the operating system that a signal interrupted.
+template <class Call>
+auto uninterrupted(Call call) {
+  auto result = call();
+  while (result == -1 && errno == EINTR) result = call();
+  return result;
+}
+
+class Descriptor {
+ public:
+  explicit Descriptor(int number) : number_(number) {}
+  Descriptor(const Descriptor&) = delete;
+  Descriptor& operator=(const Descriptor&) = delete;
+  ~Descriptor() {
+    if (number_ >= 0) ::close(number_);
+  }
+
+  bool isOpen() const { return number_ >= 0; }
+  int number() const { return number_; }
+
+  /// False, with `errno` set, when the system reports a late failure to write.
+  bool close() { return ::close(std::exchange(number_, -1)) == 0 || errno == EINTR; }
+
+ private:
+  int number_;
+};
+
+/// A new file in the folder of the one that it shall replace, gone again unless it was renamed.
+class TemporaryFile {
+ public:
+  explicit TemporaryFile(const std::string& folder)
+      : path_(folder + ".nascor-XXXXXX"), descriptor_(::mkostemp(path_.data(), O_CLOEXEC)) {
+    isThere_ = descriptor_.isOpen();
+  }
+  TemporaryFile(const TemporaryFile&) = delete;
+  TemporaryFile& operator=(const TemporaryFile&) = delete;
+  ~TemporaryFile() {
+    if (isThere_) ::unlink(path_.c_str());
+  }
+
+  Descriptor& descriptor() { return descriptor_; }
+  int number() const { return descriptor_.number(); }
+
+  bool rename(const std::string& target) {
+    if (::rename(path_.c_str(), target.c_str()) != 0) return false;
+    isThere_ = false;
+    return true;
+  }
+
+ private:
+  std::string path_;
+  Descriptor descriptor_;
+  bool isThere_ = false;
+};
+
+/// `path` up to its last slash; empty for a name alone, which lies in the working folder.
+std::string folderOf(const std::string& path) { return path.substr(0, path.rfind('/') + 1); }
+
+/// The file that `path` means when it is a symbolic link, whether that file exists or not; else `path`.
+std::variant<std::string, FileError> linkTarget(std::string path) {
+  constexpr int kMostLinks = 40;
+  for (int i = 0; i < kMostLinks; ++i) {
+    std::array<char, PATH_MAX> target;
+    const ssize_t length = ::readlink(path.c_str(), target.data(), target.size());
+    if (length == -1) {
+      if (errno == EINVAL || errno == ENOENT) return path;
+      return systemError();
+    }
+    const std::string_view text(target.data(), static_cast<std::size_t>(length));
+    path = text.starts_with('/') ? std::string(text) : folderOf(path).append(text);
+  }
+  return systemError(ELOOP);
+}
+
+bool writeAll(int file, std::span<const std::byte> bytes) {
+  while (!bytes.empty()) {
+    const ssize_t written = uninterrupted([&] { return ::write(file, bytes.data(), bytes.size()); });
+    if (written < 0) return false;
+    if (written == 0) {
+      errno = ENOSPC;
+      return false;
+    }
+    bytes = bytes.subspan(static_cast<std::size_t>(written));
+  }
+  return true;
+}
+
+/// Gives `file` the access list of `oldPath`, or none when that has none. False when it has one that cannot be given.
+bool takeOverAccessList(int file, const std::string& oldPath) {
+  std::array<char, 4096> list;
+  const ssize_t size = ::getxattr(oldPath.c_str(), kAccessList, list.data(), list.size());
+  if (size > 0) return ::fsetxattr(file, kAccessList, list.data(), static_cast<std::size_t>(size), 0) == 0;
+  const bool hasNone = size == 0 || errno == ENODATA || errno == ENOTSUP;
+  // A folder may have given the new file a list of its own.
+  ::fremovexattr(file, kAccessList);
+  return hasNone;
+}
+
+/// Gives `file` the owner, group and permissions of the file that it shall replace.
+bool takeOverPermissions(int file, const std::string& oldPath, const struct stat& old) {
+  struct stat fresh {};
+  if (::fstat(file, &fresh) != 0) return false;
+  bool keepsGroup = fresh.st_gid == old.st_gid;
+  if (fresh.st_uid != old.st_uid || !keepsGroup) {
+    // Only root may give a file away; a group can be kept by its members.
+    keepsGroup = ::fchown(file, old.st_uid, old.st_gid) == 0 ||
+                 ::fchown(file, static_cast<uid_t>(-1), old.st_gid) == 0 || keepsGroup;
+  }
+  mode_t mode = old.st_mode & 0777;
+  // Without its access list, the group's bits of the mode are not what they were.
+  if (!takeOverAccessList(file, oldPath) || !keepsGroup) mode = (mode & 0707) | ((mode & 0007) << 3);
+  return ::fchmod(file, mode) == 0;
+}
+
+/// Makes the renaming last. Its failure changes nothing: old file or new, it is whole.
+void flushFolder(const std::string& folder) {
+  const Descriptor descriptor(::open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+  if (descriptor.isOpen()) uninterrupted([&] { return ::fsync(descriptor.number()); });
+}
+
+}  // namespace
+
+std::variant<std::vector<std::byte>, FileError> PosixFileStore::contents(const std::string& path) const {
+  if (hasZeroByte(path)) return systemError(EINVAL);
+  const Descriptor file(uninterrupted([&] { return ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NOCTTY); }));
+  if (!file.isOpen()) return systemError();
+  struct stat status {};
+  if (::fstat(file.number(), &status) != 0) return systemError();
+  if (!S_ISREG(status.st_mode) && !S_ISFIFO(status.st_mode)) return notAFile(status.st_mode);
+
+  // The size that a file states is a hint alone: it may be growing, or name far more than there is memory.
+  constexpr std::size_t kLeast = 4096;
+  constexpr std::size_t kMostAtOnce = std::size_t{1} << 24;
+  std::vector<std::byte> bytes;
+  try {
+    const auto stated = static_cast<std::size_t>(std::max<off_t>(status.st_size, 0));
+    // One byte more than stated, so that the end is met without growing once more.
+    bytes.resize(std::clamp(stated + 1, kLeast, kMostAtOnce));
+    std::size_t used = 0;
+    for (;;) {
+      if (used == bytes.size()) bytes.resize(bytes.size() * 2);
+      const ssize_t count =
+          uninterrupted([&] { return ::read(file.number(), bytes.data() + used, bytes.size() - used); });
+      if (count < 0) return systemError();
+      if (count == 0) break;
+      used += static_cast<std::size_t>(count);
+    }
+    bytes.resize(used);
+  } catch (const std::bad_alloc&) {
+    return systemError(ENOMEM);
+  } catch (const std::length_error&) {
+    return systemError(ENOMEM);
+  }
+  return bytes;
+}
+
+std::optional<FileError> PosixFileStore::replaceContents(const std::string& path, std::span<const std::byte> bytes) {
+  if (hasZeroByte(path)) return systemError(EINVAL);
+  const auto resolved = linkTarget(path);
+  if (const auto* error = std::get_if<FileError>(&resolved)) return *error;
+  const auto& target = std::get<std::string>(resolved);
+  // Such a path can only mean a folder, even where there is none.
+  if (target.ends_with('/')) return systemError(EISDIR);
+
+  struct stat old {};
+  const bool replaces = ::stat(target.c_str(), &old) == 0;
+  if (!replaces && errno != ENOENT) return systemError();
+  if (replaces && !S_ISREG(old.st_mode)) return notAFile(old.st_mode);
+  if (replaces && ::faccessat(AT_FDCWD, target.c_str(), W_OK, AT_EACCESS) != 0) return systemError();
+
+  const std::string folder = folderOf(target);
+  TemporaryFile fresh(folder);
+  if (!fresh.descriptor().isOpen()) return systemError();
+  const bool mayBeRead = replaces ? takeOverPermissions(fresh.number(), target, old)
+                                  : ::fchmod(fresh.number(), S_IRUSR | S_IWUSR) == 0;
+  if (!mayBeRead || !writeAll(fresh.number(), bytes)) return systemError();
+  if (uninterrupted([&] { return ::fsync(fresh.number()); }) != 0) return systemError();
+  if (!fresh.descriptor().close() || !fresh.rename(target)) return systemError();
+  flushFolder(folder);
+  return std::nullopt;
+}
+
+}  // namespace nascor::posix

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <span>
+#include <string>
+#include <variant>
+#include <vector>
+
+#include "foundation/FileStore.h"
+
+namespace nascor::posix {
+
+/// The files of the operating system. Reads files and pipes; writes files alone.
+class PosixFileStore final : public foundation::FileStore {
+ public:
+  std::variant<std::vector<std::byte>, foundation::FileError> contents(const std::string& path) const override;
+
+  /// A file that is write-protected for this user is not replaced, though its folder would allow it. The new file
+  /// takes over owner and group as far as the user may give them away, and permissions with access lists. A group
+  /// that could not be kept gets no more than everybody, so that a document never opens to strangers.
+  /// Other hard links of the old file keep the old contents.
+  std::optional<foundation::FileError> replaceContents(const std::string& path,
+                                                       std::span<const std::byte> bytes) override;
+};
+
+}  // namespace nascor::posix
