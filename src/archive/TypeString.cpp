@@ -113,7 +113,25 @@ std::string_view inWords(char code) {
   }
 }
 
+template <class Lowest, class Highest>
+constexpr IntegerRange range() {
+  return {std::numeric_limits<Lowest>::min(), std::numeric_limits<Highest>::max()};
+}
+
 }  // namespace
+
+IntegerRange integerRangeOf(char code) {
+  switch (code) {
+    case 'c': return range<std::int8_t, std::int8_t>();
+    case 'C':
+    case 'B': return range<std::uint8_t, std::uint8_t>();
+    case 's': return range<std::int16_t, std::int16_t>();
+    case 'S': return range<std::int16_t, std::uint16_t>();
+    case 'i': return range<std::int32_t, std::int32_t>();
+    case 'I': return range<std::int32_t, std::uint32_t>();
+    default: return range<std::int64_t, std::int64_t>();
+  }
+}
 
 std::vector<TypeNode> parseTypeString(std::string_view text) { return Parser(text).parse(); }
 

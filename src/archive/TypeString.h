@@ -20,11 +20,23 @@ struct TypeNode {
   std::uint64_t minBytes; ///< The least that a value takes in a stream; it saturates.
   std::string_view text;  ///< The type as it is spelled; points into the type string.
 
+  /// A single byte of no encoding.
+  bool isRawByte() const { return code == 'c' || code == 'C' || code == 'B'; }
   /// An array of raw bytes, which is read and written in one piece.
   bool isByteArray() const { return code == '[' && (this[1].code == 'c' || this[1].code == 'C'); }
   /// What stands before the '=' of a structure.
   std::string_view structureName() const { return text.substr(1, text.find('=') - 1); }
 };
+
+/// What an integer of a type may be in a stream.
+struct IntegerRange {
+  std::int64_t min;
+  std::int64_t max;
+};
+
+/// The range of one of the codes c C B s S i I l L q Q. Integers are signed in the stream, so that the larger half
+/// of an unsigned type may stand as negative numbers; both are taken. Raw bytes are what their code says.
+IntegerRange integerRangeOf(char code);
 
 /// Why a text is no type string, as the second half of a sentence: "ends inside an array".
 struct TypeStringError {

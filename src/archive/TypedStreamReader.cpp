@@ -1,7 +1,7 @@
 #include "archive/TypedStreamReader.h"
 
 #include <bit>
-#include <limits>
+#include <stdexcept>
 
 namespace nascor::archive {
 namespace {
@@ -28,22 +28,6 @@ std::string describeTag(int head) {
       const std::byte byte{static_cast<unsigned char>(head)};
       return "the meaningless byte " + quoted(asText({&byte, 1}));
     }
-  }
-}
-
-struct IntegerRange {
-  std::int64_t min;
-  std::int64_t max;
-};
-
-/// What a value of a type may be in the stream. Unsigned types may stand as the negative number of the same bits.
-IntegerRange rangeOf(char code) {
-  switch (code) {
-    case 's': return {std::numeric_limits<std::int16_t>::min(), std::numeric_limits<std::int16_t>::max()};
-    case 'S': return {std::numeric_limits<std::int16_t>::min(), std::numeric_limits<std::uint16_t>::max()};
-    case 'i': return {std::numeric_limits<std::int32_t>::min(), std::numeric_limits<std::int32_t>::max()};
-    case 'I': return {std::numeric_limits<std::int32_t>::min(), std::numeric_limits<std::uint32_t>::max()};
-    default: return {std::numeric_limits<std::int64_t>::min(), std::numeric_limits<std::int64_t>::max()};
   }
 }
 
@@ -259,13 +243,12 @@ std::int64_t TypedStreamReader::readInteger() {
   const TypeNode& type = dueOf("cCBsSiIlLqQ", "an integer");
   const std::size_t begin = position_;
   std::int64_t value = 0;
-  if (type.code == 'c') {
-    value = static_cast<std::int8_t>(takeFixed(1, "a byte"));
-  } else if (type.code == 'C' || type.code == 'B') {
-    value = static_cast<std::uint8_t>(takeFixed(1, "a byte"));
+  if (type.isRawByte()) {
+    const auto byte = takeFixed(1, "a byte");
+    value = type.code == 'c' ? static_cast<std::int8_t>(byte) : static_cast<std::uint8_t>(byte);
   } else {
     value = takeNumber("an integer");
-    const IntegerRange range = rangeOf(type.code);
+    const IntegerRange range = integerRangeOf(type.code);
     if (value < range.min || value > range.max) {
       refuse(begin, describeTypes(type.text), std::to_string(value) + " does not fit that");
     }

@@ -93,8 +93,8 @@ class TypedStreamReader {
   /// @name Values; each must be due and of a fitting type
   /// @{
 
-  /// Types c C B s S i I l L q Q. The value must fit the type. Larger unsigned values are stored as negative
-  /// numbers of the same width, and come as such.
+  /// Types c C B s S i I l L q Q. The value must fit the type. It comes as it is stored: an unsigned one of the
+  /// larger half may be a negative number.
   std::int64_t readInteger();
   double readReal();                              ///< Types f (widened) and d, stored in either form.
   std::optional<std::string_view> readString();   ///< Types + : %, without a look at the bytes; empty for nil.

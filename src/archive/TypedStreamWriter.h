@@ -1,0 +1,103 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <deque>
+#include <span>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+#include "archive/Encoding.h"
+#include "archive/TypeString.h"
+#include "archive/ValueWalk.h"
+
+namespace nascor::archive {
+
+/// A class as a stream records it. Usually a constant; what it points to must outlive its use.
+struct ClassDescription {
+  std::string_view name;
+  std::int64_t version = 0;
+  const ClassDescription* superclass = nullptr;  ///< Null above the root class.
+};
+
+/// Writes a typed stream, little-endian, byte for byte as the platform's own archiver does: shortest integers, whole
+/// reals as integers, every text, class and label by number from its second appearance on.
+///
+/// Groups, values and objects are written in the order in which TypedStreamReader reads them. A call that does not fit
+/// the type that is due, a number that does not fit its type, or a label that is none, is a mistake of the
+/// caller and throws std::logic_error; the writer is then of no further use.
+class TypedStreamWriter {
+ public:
+  /// Writes the header.
+  explicit TypedStreamWriter(std::int64_t systemVersion = kSystemVersion);
+  TypedStreamWriter(const TypedStreamWriter&) = delete;
+  TypedStreamWriter& operator=(const TypedStreamWriter&) = delete;
+
+  /// Begins a group of these types; it ends by itself with its last value.
+  void beginGroup(std::string_view types);
+
+  /// @name Values; each must be due and of a fitting type
+  /// @{
+
+  /// Types c C B s S i I l L q Q; the value must fit the type. Of unsigned types, negative values are taken as well.
+  void writeInteger(std::int64_t value);
+  /// Types f and d; for f the value must be a float's. A negative zero loses its sign, as the encoding has it.
+  void writeReal(double value);
+  void writeString(std::string_view text);             ///< Types + : %
+  Label writeCString(std::string_view text);           ///< Type *
+  void writeClass(const ClassDescription& cls);        ///< Type #
+  void writeBytes(std::span<const std::byte> bytes);   ///< An array of c or C, whole.
+  void beginArray();                                   ///< Any array; its elements follow.
+  void endArray() { walk_.leaveArray(); }
+  void beginStructure();  ///< Its members follow.
+  void endStructure() { walk_.leaveStructure(); }
+  /// Type @: a new object, whose groups follow until endObject(). Returns the label for later references. A class is
+  /// known by its name: where the name was written before, the rest of the description does not count.
+  Label beginObject(const ClassDescription& cls);
+  void endObject();
+  void writeNil();                   ///< Types @ # * + : %
+  void writeReference(Label label);  ///< Types @ and *: what was written before under that label.
+
+  /// @}
+  /// @name One group with one value, the usual case in documents
+  /// @{
+
+  void putInt(std::int32_t value);           ///< A group of type i.
+  void putFloat(float value);                ///< A group of type f.
+  void putDouble(double value);              ///< A group of type d.
+  void putString(std::string_view text);     ///< A group of type +.
+  Label putObject(const ClassDescription& cls);  ///< A group of type @; groups follow until endObject().
+  void putNil();                             ///< A group of type @ with nil.
+  void putReference(Label label);            ///< A group of type @.
+
+  /// @}
+
+  /// The whole stream. Every object and group must be complete.
+  std::vector<std::byte> finish() &&;
+
+ private:
+  struct SharedString {
+    std::string text;
+    std::vector<TypeNode> types;  // empty until first used as a type string
+  };
+
+  const TypeNode& dueOf(std::string_view codes) const;
+  void appendByte(int value) { bytes_.push_back(static_cast<std::byte>(static_cast<unsigned char>(value))); }
+  void appendFixed(std::uint64_t bits, std::size_t width);
+  void appendNumber(std::int64_t value);
+  void appendLabel(std::size_t number) { appendNumber(static_cast<std::int64_t>(number) + kFirstNumber); }
+  void appendUnshared(std::string_view text);
+  SharedString& appendShared(std::string_view text);
+  void appendClass(const ClassDescription* cls);
+
+  std::vector<std::byte> bytes_;
+  ValueWalk walk_;
+  std::deque<SharedString> strings_;  // a deque, since the walk and the map point into it while it grows
+  std::unordered_map<std::string_view, std::size_t> stringNumbers_;
+  std::unordered_map<std::string, Label> classes_;
+  std::vector<char> labels_;  // the type code of each: '@', '#' or '*'
+};
+
+}  // namespace nascor::archive
