@@ -1,0 +1,36 @@
+#pragma once
+
+#include <cstddef>
+#include <span>
+#include <string>
+
+namespace nascor::archive {
+
+/// Everything that a typed stream holds, of whatever classes, as one line of JSON without a line end:
+///
+///     {"byte_order":"little","system_version":1000,"groups":[{"types":"@","values":[...]}]}
+///
+/// All groups at the top are printed, not only the first. A value is
+///
+/// | value | JSON |
+/// | --- | --- |
+/// | integer, byte, real | a number, integers as they are stored; reals that are not finite are "nan", "inf" and "-inf" |
+/// | string, selector, shared string | `{"s":text}`; when it is no UTF-8 `{"hex":digits}` |
+/// | object | `{"obj":label,"class":class,"groups":[...]}` |
+/// | class | `{"cls":label,"name":text,"version":number,"super":class}` |
+/// | C string | `{"cstr":label,"s":text}`, or `"hex"` as above |
+/// | object, class or C string seen before | `{"ref":label}` |
+/// | array of bytes | `{"hex":digits}` |
+/// | other array, structure | a list of its values |
+/// | nil | null |
+///
+/// The whole stream is read before anything is returned. Throws FormatError when it is malformed, and when the text
+/// would grow beyond all proportion to the stream (texts may be repeated by number, so that a small stream can
+/// stand for an enormous text).
+std::string dumpAsJson(std::span<const std::byte> bytes);
+
+/// The same for people: one line a value, indented by what holds it, each line beginning with the byte where the
+/// value begins. Line ends are "\n". Throws as dumpAsJson() does.
+std::string dumpAsText(std::span<const std::byte> bytes);
+
+}  // namespace nascor::archive

@@ -1,0 +1,127 @@
+#include "foundation/JsonText.h"
+
+#include <cmath>
+
+#include "foundation/NumberText.h"
+#include "foundation/Utf8.h"
+
+namespace nascor::foundation {
+namespace {
+
+constexpr std::string_view kReplacement = "\xEF\xBF\xBD";
+
+/// Bytes of the UTF-8 character at the start of `text`, 0 when there is none.
+std::size_t characterLength(std::string_view text) {
+  for (std::size_t length = 1; length <= 4; ++length) {
+    if (isValidUtf8(text.substr(0, length))) return length;
+  }
+  return 0;
+}
+
+}  // namespace
+
+JsonText& JsonText::key(std::string_view name) {
+  startElement();
+  appendQuoted(name);
+  out_ += indent_ == 0 ? ":" : ": ";
+  afterKey_ = true;
+  return *this;
+}
+
+JsonText& JsonText::text(std::string_view value) {
+  startElement();
+  appendQuoted(value);
+  return *this;
+}
+
+JsonText& JsonText::number(double value) {
+  if (!std::isfinite(value)) return text(shortestText(value));
+  startElement();
+  out_ += shortestText(value);
+  return *this;
+}
+
+JsonText& JsonText::integer(std::int64_t value) {
+  startElement();
+  out_ += std::to_string(value);
+  return *this;
+}
+
+JsonText& JsonText::boolean(bool value) {
+  startElement();
+  out_ += value ? "true" : "false";
+  return *this;
+}
+
+JsonText& JsonText::null() {
+  startElement();
+  out_ += "null";
+  return *this;
+}
+
+JsonText& JsonText::open(char bracket) {
+  startElement();
+  out_ += bracket;
+  hasElements_.push_back(false);
+  return *this;
+}
+
+JsonText& JsonText::close(char bracket) {
+  const bool hadElements = hasElements_.back();
+  hasElements_.pop_back();
+  if (hadElements) startLine();
+  out_ += bracket;
+  return *this;
+}
+
+void JsonText::startElement() {
+  if (afterKey_) {
+    afterKey_ = false;
+  } else if (!hasElements_.empty()) {
+    if (hasElements_.back()) out_ += ',';
+    hasElements_.back() = true;
+    startLine();
+  }
+}
+
+void JsonText::startLine() {
+  if (indent_ == 0) return;
+  out_ += '\n';
+  out_.append(indent_ * hasElements_.size(), ' ');
+}
+
+void JsonText::appendQuoted(std::string_view value) {
+  constexpr std::string_view kHexDigits = "0123456789abcdef";
+  const bool allValid = isValidUtf8(value);
+  out_ += '"';
+  while (!value.empty()) {
+    const auto byte = static_cast<unsigned char>(value.front());
+    std::size_t length = 1;
+    switch (byte) {
+      case '"': out_ += "\\\""; break;
+      case '\\': out_ += "\\\\"; break;
+      case '\b': out_ += "\\b"; break;
+      case '\f': out_ += "\\f"; break;
+      case '\n': out_ += "\\n"; break;
+      case '\r': out_ += "\\r"; break;
+      case '\t': out_ += "\\t"; break;
+      default:
+        if (byte < 0x20) {
+          out_ += "\\u00";
+          out_ += kHexDigits[byte >> 4U];
+          out_ += kHexDigits[byte & 15U];
+        } else if (byte < 0x80 || allValid) {
+          out_ += value.front();
+        } else if (length = characterLength(value); length != 0) {
+          out_ += value.substr(0, length);
+        } else {
+          out_ += kReplacement;
+          length = 1;
+        }
+    }
+    value.remove_prefix(length);
+  }
+  out_ += '"';
+}
+
+}  // namespace nascor::foundation
