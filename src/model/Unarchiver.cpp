@@ -1,0 +1,171 @@
+#include "model/Unarchiver.h"
+
+#include <algorithm>
+
+#include "foundation/Utf8.h"
+
+namespace nascor::model {
+
+using archive::FormatError;
+using archive::ObjectValue;
+using foundation::Date;
+
+Unarchiver::Unarchiver(std::span<const std::byte> bytes) : size_(bytes.size()), reader_(bytes) {
+  facts_.byteOrder = reader_.byteOrder();
+}
+
+std::unique_ptr<PatientRecord> Unarchiver::decodeRoot() {
+  std::unique_ptr<PatientRecord> patient;
+  const ObjectValue root = takeObject({class_name::patientRecord}, "a PatientRecord");
+  if (!root.isNil()) {
+    patient = std::make_unique<PatientRecord>(PatientRecord::initWithCoder(*this));
+    reader_.endObject();
+  }
+  facts_.patientVersion = reader_.versionForClassName(class_name::patientRecord);
+  facts_.ncRecordVersion = reader_.versionForClassName(class_name::ncRecord);
+  facts_.measurementsVersion = reader_.versionForClassName(class_name::measurementsRecord);
+  facts_.trailingBytes = reader_.bytesLeft();
+  return patient;
+}
+
+std::int64_t Unarchiver::versionForClassName(std::string_view name) const {
+  return reader_.versionForClassName(name).value_or(0);
+}
+
+std::int64_t Unarchiver::decodeInteger() { return reader_.takeInt(); }
+
+double Unarchiver::decodeFloat() { return reader_.takeFloat(); }
+
+std::optional<std::string> Unarchiver::decodeString() {
+  const ObjectValue object = takeObject({class_name::string, class_name::mutableString}, "a string or nil");
+  if (object.isNil()) return std::nullopt;
+  if (object.isReference()) {
+    const auto text = decodedAt<std::string_view>(object);
+    chargeForCopy(object, text.size());
+    return std::string(text);
+  }
+  const std::optional<std::string_view> text = reader_.takeString();
+  if (!text || !foundation::isValidUtf8(*text)) {
+    throw FormatError(object.offset, "expected a string of UTF-8 text, but its bytes are " +
+                                         std::string(text ? "not UTF-8" : "missing"));
+  }
+  reader_.endObject();
+  decoded_.emplace(object.label, *text);
+  return std::string(*text);
+}
+
+std::optional<Date> Unarchiver::decodeDate() {
+  const ObjectValue object = takeObject({class_name::date}, "a date or nil");
+  if (object.isNil()) return std::nullopt;
+  if (object.isReference()) return decodedAt<Date>(object);
+  const Date date{reader_.takeDouble()};
+  reader_.endObject();
+  decoded_.emplace(object.label, date);
+  return date;
+}
+
+std::optional<std::string> Unarchiver::decodeGravidityText() {
+  facts_.gravidityText = decodeString();
+  return facts_.gravidityText;
+}
+
+PatientRecord::Examinations Unarchiver::decodeExaminations() {
+  PatientRecord::Examinations examinations;
+  const ObjectValue array = takeObject({class_name::array, class_name::mutableArray}, "an array of examinations or nil");
+  if (array.isNil()) {
+    ++facts_.missingArrays;
+    return examinations;
+  }
+  // The first array of a file: nothing before it could be referred to.
+  for (std::int32_t left = takeCount(); left > 0; --left) examinations.push_back(decodeExamination());
+  reader_.endObject();
+  return examinations;
+}
+
+std::unique_ptr<NCRecord> Unarchiver::decodeExamination() {
+  const ObjectValue object = takeObject({class_name::ncRecord}, "an NCRecord");
+  if (object.isNil()) throw FormatError(object.offset, "expected an NCRecord, but nil stands here");
+  if (object.isReference()) {
+    const NCRecord& shared = *decodedAt<const NCRecord*>(object);
+    chargeForCopy(object, shared.note().value_or("").size() + shared.measurements().size() * sizeof(MeasurementsRecord));
+    ++facts_.sharedRecords;
+    return std::make_unique<NCRecord>(shared);
+  }
+  auto examination = std::make_unique<NCRecord>(NCRecord::initWithCoder(*this));
+  reader_.endObject();
+  decoded_.emplace(object.label, examination.get());
+  return examination;
+}
+
+std::vector<MeasurementsRecord> Unarchiver::decodeMeasurements() {
+  std::vector<MeasurementsRecord> measurements;
+  const ObjectValue array = takeObject({class_name::array, class_name::mutableArray}, "an array of measurements or nil");
+  if (array.isNil()) {
+    ++facts_.missingArrays;
+    return measurements;
+  }
+  if (array.isReference()) {
+    const auto shared = decodedAt<Measurements>(array);
+    chargeForCopy(array, shared.size_bytes());
+    ++facts_.sharedRecords;
+    return {shared.begin(), shared.end()};
+  }
+  for (std::int32_t left = takeCount(); left > 0; --left) measurements.push_back(decodeMeasurementsRecord());
+  reader_.endObject();
+  // The elements stay where they are when the vector moves into its examination.
+  decoded_.emplace(array.label, Measurements(measurements));
+  return measurements;
+}
+
+MeasurementsRecord Unarchiver::decodeMeasurementsRecord() {
+  const ObjectValue object = takeObject({class_name::measurementsRecord}, "a MeasurementsRecord");
+  if (object.isNil()) throw FormatError(object.offset, "expected a MeasurementsRecord, but nil stands here");
+  if (object.isReference()) {
+    ++facts_.sharedRecords;
+    return decodedAt<MeasurementsRecord>(object);
+  }
+  const MeasurementsRecord record = MeasurementsRecord::initWithCoder(*this);
+  reader_.endObject();
+  decoded_.emplace(object.label, record);
+  return record;
+}
+
+ObjectValue Unarchiver::takeObject(std::initializer_list<std::string_view> classNames, std::string_view wanted) {
+  const ObjectValue object = reader_.takeObject();
+  if (object.isNil()) return object;
+  const bool fits = std::ranges::find(classNames, reader_.classNameOf(object)) != classNames.end();
+  if (!fits || (object.isReference() && !object.complete)) {
+    throw FormatError(object.offset, "expected " + std::string(wanted) + ", but " + reader_.describe(object) +
+                                         (fits ? " would contain itself" : " stands here"));
+  }
+  return object;
+}
+
+template <class Value>
+const Value& Unarchiver::decodedAt(const ObjectValue& reference) const {
+  // The class of the object has been checked, and each class is decoded to one kind of value.
+  return std::get<Value>(decoded_.at(reference.label));
+}
+
+void Unarchiver::chargeForCopy(const ObjectValue& reference, std::size_t bytes) {
+  constexpr std::size_t kCopiesPerByte = 64;
+  copiedBytes_ += bytes;
+  if (copiedBytes_ / kCopiesPerByte > size_) {
+    throw FormatError(reference.offset, "expected a document of a plausible size, but its references to " +
+                                            reader_.describe(reference) + " and others repeat " +
+                                            std::to_string(copiedBytes_) + " bytes in a file of " +
+                                            std::to_string(size_));
+  }
+}
+
+std::int32_t Unarchiver::takeCount() {
+  const std::size_t offset = reader_.offset();
+  const std::int32_t count = reader_.takeInt();
+  if (count < 0) {
+    throw FormatError(offset, "expected the number of elements of an array, but " + std::to_string(count) +
+                                  " stands here");
+  }
+  return count;
+}
+
+}  // namespace nascor::model
