@@ -4,14 +4,16 @@ add_library(nascor_options INTERFACE)
 
 target_compile_options(nascor_options INTERFACE
   -Wall -Wextra -Wpedantic -Wshadow -Wconversion
-  $<$<BOOL:${NASCOR_WERROR}>:-Werror>
-  # Diagnostics, __FILE__ and coverage name files from the source root, on every machine alike.
-  # The last map that matches wins; AddLayer.cmake adds one per layer behind this one.
-  "-ffile-prefix-map=${CMAKE_SOURCE_DIR}/=")
+  $<$<BOOL:${NASCOR_WERROR}>:-Werror>)
 
 # A fused multiply-add moves the last bits of the formulas, and look-ups at a table's own mean by a whole
 # week. No target may use it, whatever processor it is built for; so this stands above all of them.
 add_compile_options(-ffp-contract=off)
+
+# __FILE__ and debug information name files from the source root, on every machine alike. Of several maps that match
+# the last one wins with g++, so this stands before those that AddLayer.cmake gives each layer: what is set for the
+# folder comes first on the command line.
+add_compile_options("-ffile-prefix-map=${CMAKE_SOURCE_DIR}/=")
 
 if(NASCOR_SANITIZE)
   target_compile_options(nascor_options INTERFACE

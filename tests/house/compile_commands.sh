@@ -19,6 +19,7 @@ while IFS= read -r file && IFS= read -r command; do
   checks=$((checks + 1))
   eval "words=($command)"
   contract=""
+  layer_map=""
   for ((i = 0; i < ${#words[@]}; ++i)); do
     word="${words[i]}"
     case "$word" in
@@ -27,6 +28,10 @@ while IFS= read -r file && IFS= read -r command; do
       -iquote?*) check_include "$file" "${word#-iquote}" ;;
       -isystem?*) check_include "$file" "${word#-isystem}" ;;
       -idirafter?*) check_include "$file" "${word#-idirafter}" ;;
+      -ffile-prefix-map="$root"/=)
+        # The last map that matches wins: behind a layer's own it would name its headers by their links.
+        [[ -z "$layer_map" ]] || wrong "$file: the map of the source root stands behind a layer's map" ;;
+      -ffile-prefix-map=*) layer_map="$word" ;;
       -ffp-contract=*) contract="${word#*=}" ;;
       -ffast-math | -Ofast | -march=* | -mfma* | -mavx* | -funsafe-math-optimizations | -fassociative-math | \
         -freciprocal-math | -ffinite-math-only | -ffp-model=*)
