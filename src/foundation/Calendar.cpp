@@ -76,7 +76,9 @@ Date dateByAddingWallClockSeconds(Date date, double seconds, const Calendar& cal
   return Date{firstMomentAfterGap(before, after, sum + offsetAtDate, calendar)};
 }
 
-Date startOfDay(const CivilDay& day, const Calendar& calendar) { return dateFromWallClock(day, 0.0, calendar); }
+Date startOfDay(const CivilDay& day, const Calendar& calendar) {
+  return dateFromWallClock(day, 0.0, calendar);
+}
 
 Date dateFromWallClock(const CivilDay& day, double secondsOfDay, const Calendar& calendar) {
   const double wall = static_cast<double>(daysSince2001(day)) * kSecondsPerDay + secondsOfDay;

@@ -42,7 +42,8 @@ bool isDigit(char character) { return character >= '0' && character <= '9'; }
 std::string exactText(double value) {
   std::array<char, kMostDigits + 1 + kAllDecimals> buffer;
   const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value,
-                                 std::chars_format::fixed, kAllDecimals).ptr;
+                                 std::chars_format::fixed, kAllDecimals)
+                       .ptr;
   return {buffer.data(), end};
 }
 
@@ -71,7 +72,8 @@ std::string fixedText(double value, int decimals) {
   if (std::isnan(value)) return "nan";
   std::array<char, 1 + kMostDigits + 1 + 9> buffer;
   return {buffer.data(), std::to_chars(buffer.data(), buffer.data() + buffer.size(), value,
-                                       std::chars_format::fixed, decimals).ptr};
+                                       std::chars_format::fixed, decimals)
+                             .ptr};
 }
 
 std::string fieldText(double value, int decimals, char decimalSign) {
@@ -110,7 +112,8 @@ std::optional<double> numberFromFieldText(std::string_view text) {
   if (!hasDigit) return std::nullopt;
 
   double value = 0.0;
-  const auto result = std::from_chars(number.data(), number.data() + number.size(), value, std::chars_format::fixed);
+  const auto result =
+      std::from_chars(number.data(), number.data() + number.size(), value, std::chars_format::fixed);
   // Out of range: either too large to be a number, or so close to zero that it is zero.
   if (result.ec == std::errc::result_out_of_range) {
     const bool isSmall = number.find_first_of("123456789") > number.find('.');
@@ -123,7 +126,8 @@ std::optional<double> numberFromFieldText(std::string_view text) {
 std::optional<std::int64_t> integerFromFieldText(std::string_view text) {
   const auto split = splitFieldText(text);
   if (!split) return 0;
-  if (split->number.empty() || !std::all_of(split->number.begin(), split->number.end(), isDigit)) return std::nullopt;
+  if (split->number.empty() || !std::all_of(split->number.begin(), split->number.end(), isDigit))
+    return std::nullopt;
   return leadingInteger(text);
 }
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <span>
 #include <string>
 #include <utility>
 
@@ -26,8 +27,8 @@ struct Field {
 /// A pattern taken apart: text, field, text, field, text, field, text.
 struct Form {
   std::vector<Field> fields;
-  std::vector<std::string> texts{""};  ///< one more than `fields`
-  std::vector<std::string> monthNames;
+  std::vector<std::string> texts{""};       ///< one more than `fields`
+  std::span<const std::string> monthNames;  ///< empty when no field is a name
 };
 
 bool isDigit(char character) { return character >= '0' && character <= '9'; }
@@ -53,19 +54,22 @@ bool isOneOf(std::string_view character, const std::array<std::string_view, Coun
 
 /// Without the marks that only steer the direction of writing, and with every kind of blank as a space.
 std::string plain(std::string_view text) {
-  constexpr std::array<std::string_view, 14> kDirectionMarks{
-      "\u200E", "\u200F", "\u061C", "\u202A", "\u202B", "\u202C", "\u202D",
-      "\u202E", "\u2066", "\u2067", "\u2068", "\u2069", "\u200B", "\uFEFF"};
-  constexpr std::array<std::string_view, 10> kBlanks{" ",      "\t",     "\n",     "\r",     "\u00A0",
-                                                     "\u2007", "\u2009", "\u200A", "\u202F", "\u3000"};
+  constexpr std::array<std::string_view, 14> kDirectionMarks{"\u200E", "\u200F", "\u061C", "\u202A", "\u202B",
+                                                             "\u202C", "\u202D", "\u202E", "\u2066", "\u2067",
+                                                             "\u2068", "\u2069", "\u200B", "\uFEFF"};
+  constexpr std::array<std::string_view, 6> kWideBlanks{"\u00A0", "\u2007", "\u2009",
+                                                        "\u200A", "\u202F", "\u3000"};
   std::string result;
   while (!text.empty()) {
     const std::string_view character = text.substr(0, characterLength(text));
     text.remove_prefix(character.size());
-    if (isOneOf(character, kDirectionMarks)) continue;
-    if (isOneOf(character, kBlanks)) {
+    if (isAscii(character.front())) {
+      const bool isBlank =
+          character.front() == '\t' || character.front() == '\n' || character.front() == '\r';
+      result += isBlank ? ' ' : character.front();
+    } else if (isOneOf(character, kWideBlanks)) {
       result += ' ';
-    } else {
+    } else if (!isOneOf(character, kDirectionMarks)) {
       result += character;
     }
   }
@@ -91,9 +95,8 @@ bool isWhole(const Form& form) {
     const auto hasUnit = [unit](const Field& field) { return field.unit == unit; };
     if (std::none_of(form.fields.begin(), form.fields.end(), hasUnit)) return false;
   }
-  const auto needsNames = [](const Field& field) { return field.isName(); };
-  return form.monthNames.size() == kMonths ||
-         std::none_of(form.fields.begin(), form.fields.end(), needsNames);
+  const auto isName = [](const Field& field) { return field.isName(); };
+  return form.monthNames.size() == kMonths || std::none_of(form.fields.begin(), form.fields.end(), isName);
 }
 
 std::optional<Unit> unitOf(char letter) {
@@ -106,9 +109,10 @@ std::optional<Unit> unitOf(char letter) {
   }
 }
 
-/// Takes the pattern apart. Nothing when it does not show one day, one month and one year.
+/// Takes the pattern apart; the result points into `shortForm`. Nothing when it does not show one day, one
+/// month and one year.
 std::optional<Form> parsedForm(const ShortDateForm& shortForm) {
-  Form form{.fields = {}, .texts = {""}, .monthNames = shortForm.monthNames};
+  Form form;
   const std::string_view pattern = shortForm.pattern;
   bool quoted = false;
   for (std::size_t i = 0; i < pattern.size();) {
@@ -126,6 +130,7 @@ std::optional<Form> parsedForm(const ShortDateForm& shortForm) {
       // Three letters and more of the day are the name of a day of the week.
       if (*unit == Unit::day && end - i > 2) return std::nullopt;
       form.fields.push_back({.unit = *unit, .letters = end - i});
+      if (form.fields.back().isName()) form.monthNames = shortForm.monthNames;
       form.texts.emplace_back();
       i = end;
     } else {
@@ -163,7 +168,6 @@ std::string isoText(const CivilDay& day) {
 class Reader {
  public:
   explicit Reader(const Form& form) : form_(form) {
-    for (std::string& text : plainTexts_) text.clear();
     for (std::size_t i = 0; i < plainTexts_.size(); ++i) {
       for (const char character : plain(form.texts[i])) {
         if (character != ' ') plainTexts_[i] += character;
@@ -222,8 +226,9 @@ class Reader {
   }
 
   static bool isMark(std::string_view character) {
-    constexpr std::array<std::string_view, 12> kMarks{"\u00B7", "\u060C", "\u066B", "\u066C", "\u2010", "\u2011",
-                                                      "\u2012", "\u2013", "\u2212", "\u3001", "\u3002", "\uFF0F"};
+    constexpr std::array<std::string_view, 12> kMarks{"\u00B7", "\u060C", "\u066B", "\u066C",
+                                                      "\u2010", "\u2011", "\u2012", "\u2013",
+                                                      "\u2212", "\u3001", "\u3002", "\uFF0F"};
     if (!isAscii(character.front())) return isOneOf(character, kMarks);
     return character.front() > ' ' && character.front() < 0x7F && !isDigit(character.front()) &&
            !isAsciiLetter(character.front());
@@ -239,8 +244,9 @@ class Reader {
         if (const auto day = readSeparator(index, rest.substr(name.text.size()))) return day;
       }
     }
-    const std::size_t count = std::min(
-        static_cast<std::size_t>(std::find_if_not(rest.begin(), rest.end(), isDigit) - rest.begin()), rest.size());
+    const std::size_t count =
+        std::min(static_cast<std::size_t>(std::find_if_not(rest.begin(), rest.end(), isDigit) - rest.begin()),
+                 rest.size());
     if (count == 0 || count > (field.unit == Unit::year ? 4 : 2)) return std::nullopt;
     take(field.unit, rest.substr(0, count));
     return readSeparator(index, rest.substr(count));

@@ -148,7 +148,8 @@ bool takeOverPermissions(int file, const std::string& oldPath, const struct stat
 
 /// Makes the renaming last. Its failure changes nothing: old file or new, it is whole.
 void flushFolder(const std::string& folder) {
-  const Descriptor descriptor(::open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+  const Descriptor descriptor(
+      ::open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
   if (descriptor.isOpen()) uninterrupted([&] { return ::fsync(descriptor.number()); });
 }
 
@@ -188,7 +189,8 @@ std::variant<std::vector<std::byte>, FileError> PosixFileStore::contents(const s
   return bytes;
 }
 
-std::optional<FileError> PosixFileStore::replaceContents(const std::string& path, std::span<const std::byte> bytes) {
+std::optional<FileError> PosixFileStore::replaceContents(const std::string& path,
+                                                         std::span<const std::byte> bytes) {
   if (hasZeroByte(path)) return systemError(EINVAL);
   const auto resolved = linkTarget(path);
   if (const auto* error = std::get_if<FileError>(&resolved)) return *error;

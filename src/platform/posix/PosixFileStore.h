@@ -14,7 +14,8 @@ namespace nascor::posix {
 /// The files of the operating system. Reads files and pipes; writes files alone.
 class PosixFileStore final : public foundation::FileStore {
  public:
-  std::variant<std::vector<std::byte>, foundation::FileError> contents(const std::string& path) const override;
+  std::variant<std::vector<std::byte>, foundation::FileError> contents(
+      const std::string& path) const override;
 
   /// A file that is write-protected for this user is not replaced, though its folder would allow it. The new file
   /// takes over owner and group as far as the user may give them away, and permissions with access lists. A group

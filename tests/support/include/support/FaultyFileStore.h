@@ -21,7 +21,8 @@ class FaultyFileStore final : public foundation::FileStore {
   std::string reason = "No space left on device";
   std::map<std::string, std::vector<std::byte>, std::less<>> files;
 
-  std::variant<std::vector<std::byte>, foundation::FileError> contents(const std::string& path) const override {
+  std::variant<std::vector<std::byte>, foundation::FileError> contents(
+      const std::string& path) const override {
     if (reads_++ == failReadAt) return foundation::FileError{"Input/output error"};
     const auto found = files.find(path);
     if (found == files.end()) return foundation::FileError{"No such file or directory"};
