@@ -34,7 +34,8 @@ if(NASCOR_COVERAGE)
     # gcc counts the edges of exceptions as branches, most of which no test can take.
     message(FATAL_ERROR "Source coverage needs clang: cmake --preset coverage")
   endif()
-  target_compile_options(nascor_options INTERFACE -fprofile-instr-generate -fcoverage-mapping)
+  target_compile_options(nascor_options INTERFACE -fprofile-instr-generate -fcoverage-mapping
+    -fcoverage-compilation-dir=.)
   target_link_options(nascor_options INTERFACE -fprofile-instr-generate)
 endif()
 
