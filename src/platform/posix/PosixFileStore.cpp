@@ -191,6 +191,7 @@ std::variant<std::vector<std::byte>, FileError> PosixFileStore::contents(const s
 
 std::optional<FileError> PosixFileStore::replaceContents(const std::string& path,
                                                          std::span<const std::byte> bytes) {
+  if (path.empty()) return systemError(ENOENT);
   if (hasZeroByte(path)) return systemError(EINVAL);
   const auto resolved = linkTarget(path);
   if (const auto* error = std::get_if<FileError>(&resolved)) return *error;
