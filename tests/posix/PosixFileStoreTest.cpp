@@ -244,7 +244,7 @@ TEST_F(PosixFileStoreTest, writesNewFilesOfEverySize) {
 }
 
 TEST_F(PosixFileStoreTest, makesANewFileReadableByItsOwnerAloneWhateverTheUmask) {
-  for (const mode_t mask : {0, 022, 077, 0777}) {
+  for (const mode_t mask : {0U, 022U, 077U, 0777U}) {
     const ScopedUmask umask(mask);
     fs::remove(path("new"));
     ASSERT_EQ(whyNotReplaced(path("new")), "");
@@ -253,8 +253,8 @@ TEST_F(PosixFileStoreTest, makesANewFileReadableByItsOwnerAloneWhateverTheUmask)
 }
 
 TEST_F(PosixFileStoreTest, keepsThePermissionsOfAReplacedFileWhateverTheUmask) {
-  for (const mode_t mask : {0, 0777}) {
-    for (const mode_t old : {0644, 0640, 0700}) {
+  for (const mode_t mask : {0U, 0777U}) {
+    for (const mode_t old : {0644U, 0640U, 0700U}) {
       put("file", "old", old);
       const ScopedUmask umask(mask);
       ASSERT_EQ(whyNotReplaced(path("file")), "");
