@@ -155,6 +155,7 @@ build() {
     grep -m1 -A15 'CMake Error' "$log" >&2 || true
     # Ninja prints a failed command behind "FAILED:", then what it said. The first one tells the most.
     awk '/^FAILED: / { ++n } n == 1 && /^[0-9]+ [0-9]+ / { exit } n == 1' "$log" | cut -c1-400 | head -n 40 >&2
+    grep -q '^FAILED: ' "$log" || tail -n 5 "$log" >&2
     fail "Building failed. The whole log is in $log"
   fi
 }
