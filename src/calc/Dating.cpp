@@ -25,7 +25,8 @@ double menstrualAge(std::optional<Date> examDate, std::optional<Date> edd) {
 WeeksAndDays weeksAndDays(double gestation) {
   // No rounding aid: 230 / 7.0 * 7.0 lies just below 230, so an age of 32w 6d prints as 32w 5d. Existing
   // reports show it so; docs/oddities.md lists the seven ages.
-  return {.weeks = truncatedToInteger((gestation * 7.0) / 7.0), .days = truncatedToInteger(gestation * 7.0) % 7};
+  return {.weeks = truncatedToInteger((gestation * 7.0) / 7.0),
+          .days = truncatedToInteger(gestation * 7.0) % 7};
 }
 
 std::string gestationText(double gestation, const Localizer& localizer) {
@@ -93,7 +94,8 @@ std::optional<Date> eddFromLMP(Date lmp, std::int64_t cycle, std::int64_t luteal
   constexpr std::int64_t kSecondsIn266Days = 22982400;
   std::int64_t days = 0;
   std::int64_t seconds = 0;
-  if (__builtin_sub_overflow(cycle, luteal, &days) || __builtin_mul_overflow(days, std::int64_t{86400}, &seconds) ||
+  if (__builtin_sub_overflow(cycle, luteal, &days) ||
+      __builtin_mul_overflow(days, std::int64_t{86400}, &seconds) ||
       __builtin_add_overflow(seconds, kSecondsIn266Days, &seconds) || seconds < 0) {
     return std::nullopt;
   }
@@ -104,6 +106,24 @@ Date eddFromMeasurements(Date examDate, double averageGestation, const Calendar&
   // One day more than from a crown-rump length: deliberate, existing documents were dated so.
   const double seconds = (7.0 * (40.0 - averageGestation) + 1.0) * 24.0 * 60.0 * 60.0;
   return dateByAddingWallClockSeconds(examDate, seconds, calendar);
+}
+
+Date dateAtAge(Date edd, double weeks, const Calendar& calendar) {
+  return dateByAddingWallClockSeconds(edd, -((40.0 - weeks) * 7 * 24 * 60 * 60), calendar);
+}
+
+std::size_t nearestDate(Date target, std::span<const std::optional<Date>> dates) {
+  std::size_t nearest = 0;
+  std::int64_t nearestDistance = 999999;
+  for (std::size_t i = 0; i < dates.size(); ++i) {
+    if (!dates[i]) continue;
+    const std::int64_t distance = truncatedToInteger(std::abs(timeIntervalSince(target, *dates[i])));
+    if (distance < nearestDistance) {
+      nearest = i;
+      nearestDistance = distance;
+    }
+  }
+  return nearest;
 }
 
 double plannedGestation(double days) { return days / 7.0 + 40.0; }

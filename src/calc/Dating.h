@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <span>
@@ -71,5 +72,13 @@ double plannedGestation(double days);
 
 /// The date of a delivery planned `days` after the EDD.
 foundation::Date plannedDeliveryDate(foundation::Date edd, double days, const foundation::Calendar& calendar);
+
+/// The date at which a pregnancy is `weeks` old.
+foundation::Date dateAtAge(foundation::Date edd, double weeks, const foundation::Calendar& calendar);
+
+/// The place in `dates` of the one nearest to `target`, by whole seconds; the first of equals. 0 when none lies within
+/// 999999 seconds (eleven days and a half): deliberate, so that a click always shows an examination. Missing dates are
+/// passed over.
+std::size_t nearestDate(foundation::Date target, std::span<const std::optional<foundation::Date>> dates);
 
 }  // namespace nascor::calc

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "calc/Standards.h"
+#include "charts/ChartDocument.h"
+#include "foundation/NotificationCenter.h"
+#include "framework/CorvelGraphView.h"
+
+namespace nascor::charts {
+
+/// A view that owns the rows of a reference standard and rebuilds them whenever a standard is chosen.
+class UpdatingGraphView : public framework::CorvelGraphView {
+ public:
+  using CorvelGraphView::CorvelGraphView;
+
+  void initWithFrame(const framework::Rect& frame) override;
+  void dealloc() override;
+
+  /// Null while the view is being made.
+  ChartDocument* owningDocument() const { return owningDocument_; }
+  void setOwningDocument(ChartDocument* document);
+
+  /// The reference table: the live rows, created once with the view and never replaced.
+  const calc::ReferenceTable& standardData() const { return standardData_; }
+
+  /// Empties and rebuilds the table for the standard in force. Empty here.
+  virtual void resetStandards() {}
+
+  /// @name Append the rows of one standard to the table. Empty here.
+  /// @{
+  virtual void initASUMStandards() {}
+  virtual void initHadlockStandards() {}
+  virtual void initSchluterStandards() {}
+  virtual void initCFEFStandards() {}
+  /// @}
+
+ protected:
+  void updateStandards(const foundation::Notification& notification);
+  calc::ReferenceTable& table() { return standardData_; }
+
+ private:
+  ChartDocument* owningDocument_ = nullptr;
+  calc::ReferenceTable standardData_;
+  foundation::NotificationCenter::Subscription standardsSubscription_;
+};
+
+}  // namespace nascor::charts

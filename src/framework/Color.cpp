@@ -1,0 +1,43 @@
+#include "framework/Color.h"
+
+#include <array>
+
+namespace nascor::framework {
+namespace {
+
+struct ColorRow {
+  std::string_view name;
+  Rgba value;
+};
+
+constexpr Rgba rgb(int hex) {
+  return {((hex >> 16) & 0xFF) / 255.0, ((hex >> 8) & 0xFF) / 255.0, (hex & 0xFF) / 255.0, 1.0};
+}
+
+/// In the order of `NamedColor`.
+constexpr std::array<ColorRow, 16> kColors{{
+    {"Black", rgb(0x000000)},
+    {"Red", rgb(0xB3122D)},
+    {"ModerateRed", rgb(0xD9697A)},
+    {"QuiteFaintRed", rgb(0xF8DDE1)},
+    {"Orange", rgb(0xB45309)},
+    {"ModerateOrange", rgb(0xDE8A3C)},
+    {"FaintOrange", rgb(0xFBE5CC)},
+    {"Blue", rgb(0x1D4E9E)},
+    {"ModerateBlue", rgb(0x6A93D1)},
+    {"QuiteFaintBlue", rgb(0xDDE8F7)},
+    {"HeavyGreen", rgb(0x1B6E3C)},
+    {"FaintGreen", rgb(0xDCEFE0)},
+    {"Gray", rgb(0x808080)},
+    {"HeavyGray", rgb(0x404040)},
+    {"FaintGray", rgb(0xDADADA)},
+    {"DarkGray", rgb(0x555555)},
+}};
+
+}  // namespace
+
+std::string_view nameOf(NamedColor color) { return kColors.at(static_cast<std::size_t>(color)).name; }
+
+Rgba valueOf(NamedColor color) { return kColors.at(static_cast<std::size_t>(color)).value; }
+
+}  // namespace nascor::framework

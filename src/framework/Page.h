@@ -1,0 +1,50 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "framework/Geometry.h"
+#include "framework/Surface.h"
+#include "framework/ZuPrimitiveGraphView.h"
+
+namespace nascor::framework {
+
+/// A page of a document: a title line and views. Screen, paper and files all show it through `layout` and `paint`.
+/// Its coordinates begin at its upper left, y downward.
+class Page {
+ public:
+  /// The size that paper and files use; the window scales the whole.
+  static constexpr double kWidth = 800.0;
+  static constexpr double kHeight = 560.0;
+
+  /// The rectangle of a view on a page of that size.
+  using Placement = std::function<Rect(double width, double height)>;
+
+  explicit Page(std::string name) : name_(std::move(name)) {}
+
+  /// What the page is called in the window and in file names.
+  const std::string& name() const { return name_; }
+  void setTitle(std::string title) { title_ = std::move(title); }
+  const std::string& title() const { return title_; }
+
+  /// Adds a view in front of the others. It outlives the page.
+  void addView(ZuPrimitiveGraphView& view, Placement placement);
+
+  void layout(double width, double height);
+  /// Paints the page as it was last laid out.
+  void paint(Surface& surface) const;
+
+ private:
+  struct PlacedView {
+    ZuPrimitiveGraphView* view;
+    Placement placement;
+    Rect frame;
+  };
+  std::string name_;
+  std::string title_;
+  std::vector<PlacedView> views_;
+};
+
+}  // namespace nascor::framework

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace nascor::framework {
+
+/// The state of a pop-up button: what is offered and what is chosen. A view binds to `onChange`.
+class PopUpButton {
+ public:
+  struct Item {
+    std::string title;
+    std::string keyEquivalent;  ///< empty for none
+  };
+
+  /// Removing all items keeps the selected index for the items that follow: it is held within them, the last where it
+  /// is past the end, the first where there was none.
+  void removeAllItems();
+  void addItem(Item item);
+
+  std::int64_t numberOfItems() const { return static_cast<std::int64_t>(items_.size()); }
+  /// The title of an item. Throws RangeError.
+  const std::string& itemTitleAtIndex(std::int64_t index) const;
+  const std::vector<Item>& items() const { return items_; }
+
+  /// -1 when there is no item.
+  std::int64_t indexOfSelectedItem() const;
+  /// Empty when there is no item.
+  std::string titleOfSelectedItem() const;
+  /// Throws RangeError.
+  void selectItemAtIndex(std::int64_t index);
+
+  std::function<void()> onChange;  ///< set by the view that shows this button; may be empty
+
+ private:
+  void changed() const {
+    if (onChange) onChange();
+  }
+  std::vector<Item> items_;
+  std::int64_t wanted_ = 0;
+};
+
+}  // namespace nascor::framework

@@ -1,0 +1,126 @@
+#include "framework/ZuPrimitiveGraphView.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "foundation/ConvertInteger.h"
+#include "foundation/Localizer.h"
+#include "foundation/NumberText.h"
+
+namespace nascor::framework {
+namespace {
+
+constexpr double kTick = 5.0;
+constexpr double kMinorTick = 3.0;
+constexpr double kGap = 3.0;
+
+/// Calls `use` with the multiples of `interval` above `from`, and `from` itself, up to `to`. A range of more ticks than
+/// anybody could see apart has none.
+template <class Use>
+void forEachTick(double from, double to, double interval, Use use) {
+  constexpr double kMostTicks = 1000.0;
+  const double count = (to - from) / interval;
+  if (!(interval > 0.0) || !(count >= 0.0) || count > kMostTicks) return;
+  const std::int64_t last = foundation::truncatedToInteger(count + 1e-9);
+  for (std::int64_t i = 0; i <= last; ++i) use(from + static_cast<double>(i) * interval);
+}
+
+}  // namespace
+
+void ZuPrimitiveGraphView::initWithFrame(const Rect& frame) { setFrameSize(frame.width, frame.height); }
+
+void ZuPrimitiveGraphView::setFrameSize(double width, double height) {
+  bounds_ = {.x = 0.0, .y = 0.0, .width = width, .height = height};
+  setGraphRect(offeredGraphRect());
+}
+
+Point ZuPrimitiveGraphView::pointForXY(double x, double y) const {
+  const auto map = [](double value, double from, double to, double origin, double extent) {
+    return to > from && extent > 0.0 ? origin + (value - from) / (to - from) * extent : origin;
+  };
+  return {.x = map(x, minX_, maxX_, graphRect_.x, graphRect_.width),
+          .y = map(y, minY_, maxY_, graphRect_.y, graphRect_.height)};
+}
+
+double ZuPrimitiveGraphView::xForPoint(Point point) const {
+  if (!(graphRect_.width > 0.0)) return minX_;
+  return minX_ + (point.x - graphRect_.x) / graphRect_.width * (maxX_ - minX_);
+}
+
+void ZuPrimitiveGraphView::display(Canvas& canvas) {
+  canvas_ = &canvas;
+  drawRect(bounds_);
+  canvas_ = nullptr;
+}
+
+void ZuPrimitiveGraphView::drawRect(const Rect&) {
+  if (!(graphRect_.width > 0.0 && graphRect_.height > 0.0)) return;
+  drawXAxis();
+  drawYAxis();
+  drawReferenceTitle();
+  drawGraph();
+}
+
+void ZuPrimitiveGraphView::drawXAxis() {
+  const double base = graphRect_.y;
+  canvas().setColor(NamedColor::black);
+  canvas().strokePath(Path::line({graphRect_.x, base}, {graphRect_.x + graphRect_.width, base}));
+  forEachTick(minX_, maxX_, minorXInterval_, [&](double x) {
+    const double at = pointForXY(x, minY_).x;
+    canvas().strokePath(Path::line({at, base}, {at, base - kMinorTick}));
+  });
+  forEachTick(minX_, maxX_, majorXInterval_, [&](double x) {
+    const double at = pointForXY(x, minY_).x;
+    canvas().strokePath(Path::line({at, base}, {at, base - kTick}));
+    const std::string label = foundation::shortestText(x);
+    const double width = canvas().textWidth(label, {});
+    // A label at the end of the axis stays inside the view.
+    const double left =
+        std::clamp(at - width / 2.0, bounds_.x, std::max(bounds_.x, bounds_.x + bounds_.width - width));
+    canvas().text(label, {left, base - kTick - kGap - kTextHeight}, {});
+  });
+  canvas().text(xTitle_, {graphRect_.x, base - kTick - 3.0 * kGap - 2.0 * kTextHeight}, {});
+}
+
+void ZuPrimitiveGraphView::drawYAxis() {
+  const double left = graphRect_.x;
+  canvas().setColor(NamedColor::black);
+  canvas().strokePath(Path::line({left, graphRect_.y}, {left, graphRect_.y + graphRect_.height}));
+  double widest = 0.0;
+  forEachTick(minY_, maxY_, majorYInterval_, [&](double y) {
+    const double at = pointForXY(minX_, y).y;
+    canvas().strokePath(Path::line({left, at}, {left - kTick, at}));
+    const std::string label = foundation::shortestText(y);
+    const double width = canvas().textWidth(label, {});
+    widest = std::max(widest, width);
+    canvas().text(label, {left - kTick - kGap - width, at - kTextHeight / 2.0}, {});
+  });
+  const double length = canvas().textWidth(yTitle_, {});
+  const double middle = graphRect_.y + graphRect_.height / 2.0;
+  const double column = std::max(kTextHeight + kGap, left - kTick - 3.0 * kGap - widest);
+  canvas().text(yTitle_, {column, middle - length / 2.0}, {.degrees = 90.0});
+}
+
+void ZuPrimitiveGraphView::drawReferenceTitle() {
+  const double width = canvas().textWidth(referenceTitle_, {});
+  const double base = graphRect_.y - kTick - 3.0 * kGap - 2.0 * kTextHeight;
+  canvas().text(referenceTitle_, {graphRect_.x + graphRect_.width - width, base}, {});
+}
+
+void ZuPrimitiveGraphView::plotMark(int code, double x, double y) {
+  const Point point = pointForXY(x, y);
+  switch (code) {
+    case 1: plotCrossAtPoint(point); break;
+    case 2: plotXAtPoint(point); break;
+    case 3: plotTriangleAtPoint(point); break;
+    case 4: plotCircleAtPoint(point); break;
+    case 5: plotSquareAtPoint(point); break;
+    default: break;
+  }
+}
+
+std::string ZuPrimitiveGraphView::localized(std::string_view key) const {
+  return services_.localizer.text(foundation::string_table::standard, key);
+}
+
+}  // namespace nascor::framework
