@@ -16,7 +16,8 @@ struct Biometry {
 enum class Measurement { bpd, hc, ac, fl };
 
 /// The four in the order in which the program lists them everywhere.
-inline constexpr std::array kMeasurements{Measurement::bpd, Measurement::hc, Measurement::ac, Measurement::fl};
+inline constexpr std::array kMeasurements{Measurement::bpd, Measurement::hc, Measurement::ac,
+                                          Measurement::fl};
 
 /// The member of `Biometry` that holds `measurement`.
 constexpr double Biometry::*memberFor(Measurement measurement) {

@@ -41,7 +41,8 @@ double estimatedFetalWeightHadlock4(const Biometry& measured) {
   const auto [bpd, hc, ac, fl] = measured;
   if (anyMissing(bpd, hc, ac, fl)) return 0.0;
   return std::pow(10.0, 1.3596 - 0.00386 * (ac / 10.0) * (fl / 10.0) + 0.0064 * (hc / 10.0) +
-                            0.00061 * (bpd / 10.0) * (ac / 10.0) + 0.0424 * (ac / 10.0) + 0.174 * (fl / 10.0));
+                            0.00061 * (bpd / 10.0) * (ac / 10.0) + 0.0424 * (ac / 10.0) +
+                            0.174 * (fl / 10.0));
 }
 
 double estimatedFetalWeightCampbell(const Biometry& measured) {

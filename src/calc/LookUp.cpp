@@ -12,7 +12,8 @@ double interpolated(const ReferenceTable& table, double gestation, double (Datab
 
   const DatabaseRecord& before = table[i - 1];
   const DatabaseRecord& after = table[i];
-  return (before.*column)() + (gestation - before.observation()) / (after.observation() - before.observation()) *
+  return (before.*column)() + (gestation - before.observation()) /
+                                  (after.observation() - before.observation()) *
                                   ((after.*column)() - (before.*column)());
 }
 
@@ -27,8 +28,8 @@ double gestationForMeasurement(const ReferenceTable& table, double value) {
 
   const DatabaseRecord& before = table[i - 1];
   const DatabaseRecord& after = table[i];
-  return before.observation() +
-         (value - before.mean()) / (after.mean() - before.mean()) * (after.observation() - before.observation());
+  return before.observation() + (value - before.mean()) / (after.mean() - before.mean()) *
+                                    (after.observation() - before.observation());
 }
 
 double meanForGestation(const ReferenceTable& table, double gestation) {

@@ -36,7 +36,8 @@ class DatabaseRecord {
   friend bool operator==(const DatabaseRecord&, const DatabaseRecord&) = delete;
 
  private:
-  DatabaseRecord(double observation, double mean, double sd) : observation_(observation), mean_(mean), sd_(sd) {}
+  DatabaseRecord(double observation, double mean, double sd)
+      : observation_(observation), mean_(mean), sd_(sd) {}
 
   double observation_;
   double mean_;

@@ -185,8 +185,9 @@ constexpr CodePointRange kPunctuation[] = {
 
 template <std::size_t N>
 bool contains(const CodePointRange (&ranges)[N], char32_t point) {
-  const auto* after = std::upper_bound(std::begin(ranges), std::end(ranges), point,
-                                       [](char32_t p, const CodePointRange& range) { return p < range.first; });
+  const auto* after =
+      std::upper_bound(std::begin(ranges), std::end(ranges), point,
+                       [](char32_t p, const CodePointRange& range) { return p < range.first; });
   return after != std::begin(ranges) && point <= std::prev(after)->last;
 }
 

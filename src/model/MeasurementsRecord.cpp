@@ -16,14 +16,30 @@ MeasurementsRecord::MeasurementsRecord() {
 double MeasurementsRecord::estimatedFetalWeight(std::int64_t fetalWeightStandard) const {
   return calc::estimatedFetalWeight(measured_, fetalWeightStandard);
 }
-double MeasurementsRecord::estimatedFetalWeightHadlock1() const { return calc::estimatedFetalWeightHadlock1(measured_); }
-double MeasurementsRecord::estimatedFetalWeightHadlock2() const { return calc::estimatedFetalWeightHadlock2(measured_); }
-double MeasurementsRecord::estimatedFetalWeightHadlock3() const { return calc::estimatedFetalWeightHadlock3(measured_); }
-double MeasurementsRecord::estimatedFetalWeightHadlock4() const { return calc::estimatedFetalWeightHadlock4(measured_); }
-double MeasurementsRecord::estimatedFetalWeightCampbell() const { return calc::estimatedFetalWeightCampbell(measured_); }
-double MeasurementsRecord::estimatedFetalWeightCombs() const { return calc::estimatedFetalWeightCombs(measured_); }
-double MeasurementsRecord::estimatedFetalWeightOtt() const { return calc::estimatedFetalWeightOtt(measured_); }
-double MeasurementsRecord::estimatedFetalWeightShepard() const { return calc::estimatedFetalWeightShepard(measured_); }
+double MeasurementsRecord::estimatedFetalWeightHadlock1() const {
+  return calc::estimatedFetalWeightHadlock1(measured_);
+}
+double MeasurementsRecord::estimatedFetalWeightHadlock2() const {
+  return calc::estimatedFetalWeightHadlock2(measured_);
+}
+double MeasurementsRecord::estimatedFetalWeightHadlock3() const {
+  return calc::estimatedFetalWeightHadlock3(measured_);
+}
+double MeasurementsRecord::estimatedFetalWeightHadlock4() const {
+  return calc::estimatedFetalWeightHadlock4(measured_);
+}
+double MeasurementsRecord::estimatedFetalWeightCampbell() const {
+  return calc::estimatedFetalWeightCampbell(measured_);
+}
+double MeasurementsRecord::estimatedFetalWeightCombs() const {
+  return calc::estimatedFetalWeightCombs(measured_);
+}
+double MeasurementsRecord::estimatedFetalWeightOtt() const {
+  return calc::estimatedFetalWeightOtt(measured_);
+}
+double MeasurementsRecord::estimatedFetalWeightShepard() const {
+  return calc::estimatedFetalWeightShepard(measured_);
+}
 
 void MeasurementsRecord::encodeWithCoder(Archiver& coder) const {
   coder.encodeFloat(bpd());

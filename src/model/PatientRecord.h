@@ -32,7 +32,9 @@ class PatientRecord {
 
   /// The mother's identifier. Missing only in a file that says so.
   const std::optional<std::string>& maternalIDString() const { return maternalIDString_; }
-  void setMaternalIDString(std::optional<std::string> identifier) { maternalIDString_ = std::move(identifier); }
+  void setMaternalIDString(std::optional<std::string> identifier) {
+    maternalIDString_ = std::move(identifier);
+  }
 
   /// The estimated date of delivery; nothing when it is not known.
   const std::optional<foundation::Date>& edd() const { return edd_; }

@@ -71,7 +71,8 @@ std::optional<std::string> Unarchiver::decodeGravidityText() {
 
 PatientRecord::Examinations Unarchiver::decodeExaminations() {
   PatientRecord::Examinations examinations;
-  const ObjectValue array = takeObject({class_name::array, class_name::mutableArray}, "an array of examinations or nil");
+  const ObjectValue array =
+      takeObject({class_name::array, class_name::mutableArray}, "an array of examinations or nil");
   if (array.isNil()) {
     ++facts_.missingArrays;
     return examinations;
@@ -87,7 +88,8 @@ std::unique_ptr<NCRecord> Unarchiver::decodeExamination() {
   if (object.isNil()) throw FormatError(object.offset, "expected an NCRecord, but nil stands here");
   if (object.isReference()) {
     const NCRecord& shared = *decodedAt<const NCRecord*>(object);
-    chargeForCopy(object, shared.note().value_or("").size() + shared.measurements().size() * sizeof(MeasurementsRecord));
+    chargeForCopy(object, shared.note().value_or("").size() +
+                              shared.measurements().size() * sizeof(MeasurementsRecord));
     ++facts_.sharedRecords;
     return std::make_unique<NCRecord>(shared);
   }
@@ -99,7 +101,8 @@ std::unique_ptr<NCRecord> Unarchiver::decodeExamination() {
 
 std::vector<MeasurementsRecord> Unarchiver::decodeMeasurements() {
   std::vector<MeasurementsRecord> measurements;
-  const ObjectValue array = takeObject({class_name::array, class_name::mutableArray}, "an array of measurements or nil");
+  const ObjectValue array =
+      takeObject({class_name::array, class_name::mutableArray}, "an array of measurements or nil");
   if (array.isNil()) {
     ++facts_.missingArrays;
     return measurements;
@@ -130,7 +133,8 @@ MeasurementsRecord Unarchiver::decodeMeasurementsRecord() {
   return record;
 }
 
-ObjectValue Unarchiver::takeObject(std::initializer_list<std::string_view> classNames, std::string_view wanted) {
+ObjectValue Unarchiver::takeObject(std::initializer_list<std::string_view> classNames,
+                                   std::string_view wanted) {
   const ObjectValue object = reader_.takeObject();
   if (object.isNil()) return object;
   const bool fits = std::ranges::find(classNames, reader_.classNameOf(object)) != classNames.end();
@@ -162,8 +166,8 @@ std::int32_t Unarchiver::takeCount() {
   const std::size_t offset = reader_.offset();
   const std::int32_t count = reader_.takeInt();
   if (count < 0) {
-    throw FormatError(offset, "expected the number of elements of an array, but " + std::to_string(count) +
-                                  " stands here");
+    throw FormatError(
+        offset, "expected the number of elements of an array, but " + std::to_string(count) + " stands here");
   }
   return count;
 }

@@ -19,12 +19,14 @@ namespace nascor::model {
 /// What a file says of itself beside the patient: nothing of it is wrong, some of it is worth a look.
 struct ArchiveFacts {
   archive::ByteOrder byteOrder = archive::ByteOrder::little;
-  std::optional<std::int64_t> patientVersion;       ///< class versions; nothing for a class that is not in the file
+  std::optional<std::int64_t>
+      patientVersion;  ///< class versions; nothing for a class that is not in the file
   std::optional<std::int64_t> ncRecordVersion;
   std::optional<std::int64_t> measurementsVersion;
   std::optional<std::string> gravidityText;  ///< the place that held the gravidity before version 7
   std::size_t missingArrays = 0;             ///< arrays that are nil; read as empty
-  std::size_t sharedRecords = 0;  ///< places that share an examination, its measurements or one of them with another
+  std::size_t sharedRecords =
+      0;  ///< places that share an examination, its measurements or one of them with another
   std::size_t trailingBytes = 0;  ///< bytes after the patient; ignored
 };
 
@@ -59,7 +61,8 @@ class Unarchiver {
   using Decoded =
       std::variant<std::string_view, foundation::Date, MeasurementsRecord, Measurements, const NCRecord*>;
 
-  archive::ObjectValue takeObject(std::initializer_list<std::string_view> classNames, std::string_view wanted);
+  archive::ObjectValue takeObject(std::initializer_list<std::string_view> classNames,
+                                  std::string_view wanted);
   template <class Value>
   const Value& decodedAt(const archive::ObjectValue& reference) const;
   void chargeForCopy(const archive::ObjectValue& reference, std::size_t bytes);
