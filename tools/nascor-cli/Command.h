@@ -1,0 +1,63 @@
+#pragma once
+
+#include <map>
+#include <optional>
+#include <span>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "cli_commands/Console.h"
+
+namespace nascor::cli {
+
+/// The command was called wrongly. Ends the program with status 2, the sentence and a line on the right usage.
+class UsageError : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+/// What stands behind the name of a command on the command line, as the texts that were typed.
+struct Arguments {
+  std::map<std::string_view, std::string> options;  ///< by name; a flag that was given holds "true"
+  std::vector<std::string> operands;                ///< what belongs to no option, in order
+
+  bool has(std::string_view name) const { return options.contains(name); }
+  std::optional<std::string> option(std::string_view name) const;
+};
+
+struct OptionSpec {
+  std::string_view name;   ///< without the dashes
+  std::string_view value;  ///< what stands for the value in help; empty for a flag
+  std::string_view help;
+};
+
+struct OperandSpec {
+  std::string_view name;
+  std::string_view help;
+  bool repeated = false;  ///< one or more; of the last operand only
+};
+
+/// One command: all that the program knows of it.
+struct Command {
+  std::string_view name;
+  std::string_view usage;  ///< what follows the name
+  std::string_view summary;
+  std::string details;  ///< more paragraphs of help
+  std::span<const OperandSpec> operands;
+  std::span<const OptionSpec> options;
+  /// Throws UsageError for values that are not what help asks for. Input that turns out bad is told to the console.
+  void (*run)(const Arguments& arguments, Console& console);
+};
+
+/// All commands, in the order of help.
+std::span<const Command> commands();
+
+// The families, each in a source of its own.
+Command weightCommand();
+Command crlCommand();
+Command standardCommand();
+Command lookupCommand();
+
+}  // namespace nascor::cli

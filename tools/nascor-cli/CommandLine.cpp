@@ -1,0 +1,192 @@
+#include "cli_commands/CommandLine.h"
+
+#include <algorithm>
+#include <exception>
+#include <new>
+#include <source_location>
+
+#include <CLI/CLI.hpp>
+
+#include "cli_commands/Command.h"
+#include "foundation/Assertion.h"
+#include "foundation/RangeError.h"
+
+namespace nascor::cli {
+
+namespace {
+
+constexpr std::string_view kProgram = "nascor-cli";
+constexpr std::string_view kNotAMedicalDevice = "Not a medical device. Not validated for clinical use.";
+constexpr int kAllWell = 0;
+constexpr int kBadInput = 1;
+constexpr int kWrongUsage = 2;
+
+std::string usageOf(const Command& command) {
+  return "usage: " + std::string(kProgram) + " " + std::string(command.name) + " " +
+         std::string(command.usage) + "\n";
+}
+
+std::string usage() { return "usage: " + std::string(kProgram) + " COMMAND [ARGUMENT...]\n"; }
+
+std::string padded(std::string text, std::size_t width) {
+  if (text.size() < width) text.append(width - text.size(), ' ');
+  return text;
+}
+
+/// Two columns: a term and what it means.
+std::string listed(const std::vector<std::pair<std::string, std::string_view>>& terms) {
+  std::size_t width = 0;
+  for (const auto& [term, meaning] : terms) width = std::max(width, term.size());
+  std::string text;
+  for (const auto& [term, meaning] : terms)
+    text += "  " + padded(term, width + 2) + std::string(meaning) + "\n";
+  return text;
+}
+
+std::string version() {
+  return std::string(kProgram) + " " + NASCOR_VERSION + "\n" + std::string(kNotAMedicalDevice) + "\n";
+}
+
+std::string help() {
+  std::vector<std::pair<std::string, std::string_view>> terms;
+  for (const Command& command : commands()) terms.emplace_back(command.name, command.summary);
+  return usage() + "\nObstetric ultrasound biometry for shells and scripts.\n" +
+         std::string(kNotAMedicalDevice) + "\n\nCommands:\n" + listed(terms) + "\nOptions:\n" +
+         listed({{"--help, -h", "this text; behind a command, that command's help"},
+                 {"--version", "the version of the program"},
+                 {"--", "what follows is no option"}}) +
+         "\nLengths are in millimetres, weights in grams, ages in weeks after the last menstrual period.\n"
+         "A FILE or a value of - is standard input. No question is ever asked.\n"
+         "Exit status: 0 all well, 1 some input was bad, 2 wrong usage.\n";
+}
+
+std::string helpOn(const Command& command) {
+  std::vector<std::pair<std::string, std::string_view>> operands;
+  for (const OperandSpec& operand : command.operands) operands.emplace_back(operand.name, operand.help);
+  std::vector<std::pair<std::string, std::string_view>> options;
+  for (const OptionSpec& option : command.options) {
+    std::string term = "--" + std::string(option.name);
+    if (!option.value.empty()) term += " " + std::string(option.value);
+    options.emplace_back(term, option.help);
+  }
+  options.emplace_back("--help, -h", "this text");
+  return usageOf(command) + "\n" + std::string(command.summary) + "\n" + std::string(kNotAMedicalDevice) +
+         "\n" + (operands.empty() ? "" : "\n" + listed(operands)) + "\nOptions:\n" + listed(options) +
+         (command.details.empty() ? "" : "\n" + command.details);
+}
+
+/// A command as the parser knows it.
+class Parser {
+ public:
+  Parser(CLI::App& app, const Command& command)
+      : command_(&command), app_(app.add_subcommand(std::string(command.name))) {
+    app_->set_help_flag("-h,--help");
+    for (const OptionSpec& option : command.options) {
+      const std::string name = "--" + std::string(option.name);
+      options_.push_back(option.value.empty() ? app_->add_flag(name) : app_->add_option(name)->type_size(1));
+    }
+    // As many as there are, each taken as it was typed: otherwise the parser would split a file named "[a]", and take
+    // what follows "--" for options again once it has enough operands.
+    constexpr int kMany = 1 << 28;
+    operands_ = app_->add_option("operands");
+    operands_->type_size(1)->expected(kMany)->allow_extra_args(false);
+    operands_->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
+  }
+
+  const Command& command() const { return *command_; }
+  bool isChosen() const { return app_->parsed(); }
+
+  /// What was typed behind the command. Throws UsageError.
+  Arguments arguments() const {
+    Arguments arguments{.options = {}, .operands = operands_->results()};
+    for (std::size_t i = 0; i < options_.size(); ++i) {
+      if (options_[i]->count() == 0) continue;
+      const OptionSpec& spec = command_->options[i];
+      const std::string value = options_[i]->results().back();
+      if (spec.value.empty() && value != "true") {
+        throw UsageError("--" + std::string(spec.name) + " takes no value");
+      }
+      arguments.options.emplace(spec.name, value);
+    }
+    const auto specs = command_->operands;
+    const std::size_t given = arguments.operands.size();
+    if (given < specs.size()) throw UsageError(std::string(specs[given].name) + " is missing");
+    const bool anyNumber = !specs.empty() && specs.back().repeated;
+    if (given > specs.size() && !anyNumber) {
+      throw UsageError("\"" + oneLine(arguments.operands[specs.size()]) + "\" is one argument too many");
+    }
+    return arguments;
+  }
+
+ private:
+  const Command* command_;
+  CLI::App* app_;
+  std::vector<CLI::Option*> options_;
+  CLI::Option* operands_;
+};
+
+int wrongUsage(Console& console, std::string_view sentence, const std::string& usageLine) {
+  console.tell(std::string(kProgram) + ": " + oneLine(sentence) + "\n" + usageLine);
+  return kWrongUsage;
+}
+
+int parseAndRun(int argc, char** argv, Console& console) {
+  CLI::App app;
+  app.set_help_flag("-h,--help");
+  const CLI::Option* versionFlag = app.add_flag("--version");
+  app.require_subcommand(0, 1);
+  std::vector<Parser> parsers;
+  for (const Command& command : commands()) parsers.emplace_back(app, command);
+  const auto chosen = [&] { return std::ranges::find_if(parsers, &Parser::isChosen); };
+
+  try {
+    app.parse(argc, argv);
+    if (versionFlag->count() > 0) {
+      console.out() += version();
+      console.flush();
+      return kAllWell;
+    }
+    if (chosen() == parsers.end()) return wrongUsage(console, "a command is missing", help());
+    chosen()->command().run(chosen()->arguments(), console);
+    console.flush();
+    return console.allWell() ? kAllWell : kBadInput;
+  } catch (const CLI::CallForHelp&) {
+    console.out() += chosen() == parsers.end() ? help() : helpOn(chosen()->command());
+    console.flush();
+    return kAllWell;
+  } catch (const CLI::ParseError& error) {
+    return wrongUsage(console, error.what(),
+                      chosen() == parsers.end() ? usage() : usageOf(chosen()->command()));
+  } catch (const UsageError& error) {
+    return wrongUsage(console, error.what(), usageOf(chosen()->command()));
+  }
+}
+
+std::string placeOf(const std::source_location& where) {
+  return std::string(" (") + where.file_name() + ", line " + std::to_string(where.line()) + ")";
+}
+
+}  // namespace
+
+int runCommandLine(int argc, char** argv) {
+  Console console;
+  std::string sentence;
+  try {
+    return parseAndRun(argc, argv, console);
+  } catch (const OutputError& error) {
+    if (error.readerIsGone()) return kBadInput;
+    sentence = std::string("standard output: ") + error.what();
+  } catch (const foundation::RangeError& error) {
+    sentence = error.what() + placeOf(error.where());
+  } catch (const foundation::AssertionFailure& error) {
+    sentence = error.what();
+  } catch (const std::bad_alloc&) {
+    sentence = "there is not enough memory";
+  } catch (const std::exception& error) {
+    sentence = error.what();
+  }
+  console.tell(std::string(kProgram) + ": " + oneLine(sentence) + "\n");
+  return kBadInput;
+}
+
+}  // namespace nascor::cli

@@ -1,0 +1,17 @@
+#include "cli_commands/Command.h"
+
+namespace nascor::cli {
+
+std::optional<std::string> Arguments::option(std::string_view name) const {
+  const auto found = options.find(name);
+  if (found == options.end()) return std::nullopt;
+  return found->second;
+}
+
+std::span<const Command> commands() {
+  static const std::vector<Command> kCommands{weightCommand(), crlCommand(), standardCommand(),
+                                              lookupCommand()};
+  return kCommands;
+}
+
+}  // namespace nascor::cli

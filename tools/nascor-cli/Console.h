@@ -1,0 +1,62 @@
+#pragma once
+
+#include <cstddef>
+#include <span>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+
+namespace nascor::cli {
+
+/// Standard output could not be written. Ends the program with status 1.
+class OutputError : public std::runtime_error {
+ public:
+  OutputError(const std::string& reason, bool readerIsGone)
+      : std::runtime_error(reason), readerIsGone_(readerIsGone) {}
+
+  /// The program at the other end of the pipe has ended. That is its right and needs no words.
+  bool readerIsGone() const { return readerIsGone_; }
+
+ private:
+  bool readerIsGone_;
+};
+
+/// `text` with its control characters made visible (`\n`, `\x1b`) and bytes that are no UTF-8 replaced, so that a name
+/// from outside stays on one line and gives a terminal no orders.
+std::string oneLine(std::string_view text);
+
+/// Standard output and standard error.
+class Console {
+ public:
+  /// What goes to standard output next. Append whole lines, and call `lineDone` after them.
+  std::string& out() { return out_; }
+
+  /// Ends a line of `out` and sends it on: at once to a terminal, else when enough has come together.
+  void lineDone();
+
+  /// Sends on all of `out`. Throws OutputError.
+  void flush();
+
+  /// Bytes, not text, after all of `out`. Throws OutputError.
+  void writeBytes(std::span<const std::byte> bytes);
+
+  /// A bad input, in one line on standard error: "SOURCE: SENTENCE". The exit status will be 1.
+  void complain(std::string_view source, std::string_view sentence);
+
+  /// The same for something worth knowing that spoils nothing.
+  void warn(std::string_view source, std::string_view sentence);
+
+  /// Text for standard error as it stands. Nothing can be done when that fails.
+  void tell(std::string_view text);
+
+  bool outputIsTerminal() const;
+
+  /// Whether there was no complaint.
+  bool allWell() const { return allWell_; }
+
+ private:
+  std::string out_;
+  bool allWell_ = true;
+};
+
+}  // namespace nascor::cli

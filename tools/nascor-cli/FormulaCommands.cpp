@@ -1,0 +1,134 @@
+#include <array>
+
+#include "calc/Biometry.h"
+#include "calc/Dating.h"
+#include "calc/FetalWeight.h"
+#include "cli_commands/Command.h"
+#include "cli_commands/Input.h"
+#include "cli_commands/Numbers.h"
+#include "cli_commands/Table.h"
+#include "foundation/JsonText.h"
+#include "foundation/NumberText.h"
+
+namespace nascor::cli {
+
+namespace {
+
+using foundation::JsonText;
+using foundation::shortestText;
+
+/// For people: 0.0, which the formulas give where they do not apply, is a dash.
+std::string shown(double value) { return value == 0.0 ? "-" : shortestText(value); }
+
+void runWeight(const Arguments& arguments, Console& console) {
+  calc::Biometry measured;
+  bool anyGiven = false;
+  for (const calc::Measurement measurement : calc::kMeasurements) {
+    const auto value = arguments.option(calc::nameOf(measurement));
+    if (!value) continue;
+    anyGiven = true;
+    measured.*calc::memberFor(measurement) =
+        requiredNumber("--" + std::string(calc::nameOf(measurement)), *value);
+  }
+  if (!anyGiven) throw UsageError("a length is missing");
+
+  if (arguments.has("json")) {
+    JsonText json(console.out());
+    json.beginArray();
+    for (const calc::WeightFormula& formula : calc::weightFormulas()) json.number(formula.weight(measured));
+    json.endArray();
+    console.lineDone();
+    return;
+  }
+  Table table({{"", Table::Align::right}, {"Formula"}, {"Weight (g)"}});
+  std::size_t identifier = 0;
+  for (const calc::WeightFormula& formula : calc::weightFormulas()) {
+    table.addRow(
+        {std::to_string(identifier++), std::string(formula.longLabel), shown(formula.weight(measured))});
+  }
+  table.print(console);
+}
+
+void runCRL(const Arguments& arguments, Console& console) {
+  const bool asJson = arguments.has("json");
+  const auto answer = [&](std::optional<double> crl) {
+    std::string& out = console.out();
+    if (asJson && !crl) {
+      JsonText(out).null();
+    } else if (asJson) {
+      JsonText json(out);
+      json.beginArray();
+      for (const calc::CRLFormula& formula : calc::crlFormulas()) json.number(formula.menstrualAge(*crl));
+      json.endArray();
+    } else {
+      out += crl ? shortestText(*crl) : "nan";
+      for (const calc::CRLFormula& formula : calc::crlFormulas()) {
+        out += '\t';
+        out += crl ? shown(formula.menstrualAge(*crl)) : "nan";
+      }
+    }
+    console.lineDone();
+  };
+
+  // All are looked at before the first is answered: wrong usage prints nothing else.
+  std::vector<std::optional<double>> lengths;
+  for (const std::string& text : arguments.operands) {
+    lengths.push_back(text == "-" ? std::nullopt : std::optional(requiredNumber("MM", text)));
+  }
+  if (!asJson) {
+    console.out() += "CRL (mm)";
+    for (const calc::CRLFormula& formula : calc::crlFormulas()) {
+      console.out() += '\t';
+      console.out() += formula.label;
+    }
+    console.lineDone();
+  }
+  for (const auto& length : lengths) {
+    if (length) {
+      answer(length);
+    } else {
+      forEachNumberOfInput(console, answer);
+    }
+  }
+}
+
+}  // namespace
+
+Command weightCommand() {
+  static constexpr std::array<OptionSpec, 5> kOptions{{
+      {"bpd", "MM", "biparietal diameter"},
+      {"hc", "MM", "head circumference"},
+      {"ac", "MM", "abdominal circumference"},
+      {"fl", "MM", "femur length"},
+      {"json", "", "an array of eight numbers, by identifier of the formula"},
+  }};
+  return {.name = "weight",
+          .usage = "[--bpd MM] [--hc MM] [--ac MM] [--fl MM] [--json]",
+          .summary = "The estimated weight of one fetus by each of the eight formulas, in grams.",
+          .details =
+              "A length that is not given is 0, which means not measured. Where a formula needs it, the "
+              "weight is\n"
+              "a dash (0 in JSON).\n",
+          .operands = {},
+          .options = kOptions,
+          .run = runWeight};
+}
+
+Command crlCommand() {
+  static constexpr std::array<OperandSpec, 1> kOperands{
+      {{"MM...", "crown-rump lengths; - reads lengths from standard input, one a line", true}}};
+  static constexpr std::array<OptionSpec, 1> kOptions{
+      {{"json", "", "an array of four numbers a length, each on a line of its own"}}};
+  return {.name = "crl",
+          .usage = "MM... [--json]",
+          .summary = "The menstrual age at each crown-rump length by each of the four formulas, in weeks.",
+          .details =
+              "One line a length, columns separated by tabs. Outside the range of a formula the age is a "
+              "dash (0 in\n"
+              "JSON). A line of standard input that is no number is answered by nan (null in JSON).\n",
+          .operands = kOperands,
+          .options = kOptions,
+          .run = runCRL};
+}
+
+}  // namespace nascor::cli

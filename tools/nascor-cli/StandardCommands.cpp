@@ -1,0 +1,233 @@
+#include <array>
+
+#include "calc/Biometry.h"
+#include "calc/FetalWeight.h"
+#include "calc/LookUp.h"
+#include "calc/Standards.h"
+#include "cli_commands/Command.h"
+#include "cli_commands/Input.h"
+#include "cli_commands/Numbers.h"
+#include "cli_commands/Table.h"
+#include "foundation/JsonText.h"
+#include "foundation/NumberText.h"
+
+namespace nascor::cli {
+
+namespace {
+
+using foundation::JsonText;
+using foundation::shortestText;
+
+constexpr std::string_view kWeight = "efw";
+
+/// A column of a standard: one of the lengths, or the weight.
+struct Quantity {
+  std::string name;
+  std::string title;
+  calc::ReferenceTable table;
+};
+
+calc::ReferenceTable tableOf(std::int64_t standard, calc::Measurement measurement) {
+  calc::ReferenceTable table;
+  calc::appendStandard(table, standard, measurement);
+  return table;
+}
+
+Quantity weightOf(std::int64_t standard, std::int64_t formula) {
+  using calc::Measurement;
+  return {.name = std::string(kWeight),
+          .title = "EFW (g)",
+          .table = calc::fetalWeightTable(
+              tableOf(standard, Measurement::bpd), tableOf(standard, Measurement::hc),
+              tableOf(standard, Measurement::ac), tableOf(standard, Measurement::fl), formula)};
+}
+
+Quantity lengthOf(std::int64_t standard, calc::Measurement measurement) {
+  const std::string_view name = calc::nameOf(measurement);
+  return {.name = std::string(name),
+          .title = inCapitals(name) + " (mm)",
+          .table = tableOf(standard, measurement)};
+}
+
+std::int64_t standardIn(const std::string& text) {
+  return requiredIdentifier("N", text, calc::growthStandards().size());
+}
+
+std::optional<std::int64_t> formulaIn(const Arguments& arguments) {
+  const auto text = arguments.option("formula");
+  if (!text) return std::nullopt;
+  return requiredIdentifier("--formula", *text, calc::weightFormulas().size());
+}
+
+Quantity quantityOf(std::int64_t standard, const std::string& name, std::optional<std::int64_t> formula) {
+  for (const calc::Measurement measurement : calc::kMeasurements) {
+    if (name == calc::nameOf(measurement)) return lengthOf(standard, measurement);
+  }
+  if (name != kWeight) {
+    throw UsageError("expected bpd, hc, ac, fl or efw as the measurement, but \"" + oneLine(name) +
+                     "\" was given");
+  }
+  if (!formula) throw UsageError("efw needs --formula");
+  return weightOf(standard, *formula);
+}
+
+void writeRows(JsonText& json, const calc::ReferenceTable& table) {
+  json.beginArray();
+  for (const calc::DatabaseRecord& row : table) {
+    json.beginArray().number(row.observation()).number(row.mean()).number(row.sd()).endArray();
+  }
+  json.endArray();
+}
+
+void runStandard(const Arguments& arguments, Console& console) {
+  const std::int64_t standard = standardIn(arguments.operands[0]);
+  const auto formula = formulaIn(arguments);
+  const auto measurement = arguments.option("measurement");
+
+  std::vector<Quantity> quantities;
+  if (measurement) {
+    quantities.push_back(quantityOf(standard, *measurement, formula));
+  } else {
+    for (const calc::Measurement each : calc::kMeasurements) quantities.push_back(lengthOf(standard, each));
+    if (formula) quantities.push_back(weightOf(standard, *formula));
+  }
+
+  if (arguments.has("json")) {
+    JsonText json(console.out());
+    if (measurement) {
+      writeRows(json, quantities.front().table);
+    } else {
+      json.beginObject();
+      for (const Quantity& quantity : quantities) {
+        json.key(quantity.name);
+        writeRows(json, quantity.table);
+      }
+      json.endObject();
+    }
+    console.lineDone();
+    return;
+  }
+
+  console.out() += calc::growthStandards()[static_cast<std::size_t>(standard)].label;
+  if (formula && quantities.back().name == kWeight) {
+    console.out() += ", " + std::string(calc::weightFormulas()[static_cast<std::size_t>(*formula)].longLabel);
+  }
+  console.lineDone();
+  std::vector<Table::Column> columns{{"Week", Table::Align::right}};
+  for (const Quantity& quantity : quantities) {
+    columns.push_back({quantity.title});
+    columns.push_back({"SD"});
+  }
+  Table table(std::move(columns));
+  // The tables of one standard have the same weeks.
+  for (std::size_t row = 0; row < quantities.front().table.size(); ++row) {
+    std::vector<std::string> cells{shortestText(quantities.front().table[row].observation())};
+    for (const Quantity& quantity : quantities) {
+      cells.push_back(shortestText(quantity.table[row].mean()));
+      cells.push_back(shortestText(quantity.table[row].sd()));
+    }
+    table.addRow(std::move(cells));
+  }
+  table.print(console);
+}
+
+struct Question {
+  std::string_view option;
+  double (*answer)(const calc::ReferenceTable& table, double value);
+};
+constexpr std::array<Question, 3> kQuestions{{{"mean", calc::meanForGestation},
+                                              {"sd", calc::sdForGestation},
+                                              {"gestation", calc::gestationForMeasurement}}};
+
+void runLookup(const Arguments& arguments, Console& console) {
+  const std::int64_t standard = standardIn(arguments.operands[0]);
+  const Quantity quantity = quantityOf(standard, arguments.operands[1], formulaIn(arguments));
+  const Question* asked = nullptr;
+  for (const Question& question : kQuestions) {
+    if (!arguments.has(question.option)) continue;
+    if (asked) throw UsageError("--mean, --sd and --gestation exclude each other");
+    asked = &question;
+  }
+  if (!asked) throw UsageError("one of --mean, --sd and --gestation is missing");
+
+  const bool asJson = arguments.has("json");
+  const auto answer = [&](std::optional<double> value) {
+    if (!asJson) {
+      console.out() += value ? shortestText(asked->answer(quantity.table, *value)) : "nan";
+    } else if (value) {
+      JsonText(console.out()).number(asked->answer(quantity.table, *value));
+    } else {
+      JsonText(console.out()).null();
+    }
+    console.lineDone();
+  };
+  const std::string text = *arguments.option(asked->option);
+  if (text == "-") {
+    forEachNumberOfInput(console, answer);
+  } else {
+    answer(requiredNumber("--" + std::string(asked->option), text));
+  }
+}
+
+template <class Facts>
+std::string numbered(std::string_view title, Facts facts,
+                     std::string_view std::remove_cvref_t<decltype(facts[0])>::*label) {
+  std::string text = std::string(title) + "\n";
+  std::size_t identifier = 0;
+  for (const auto& fact : facts)
+    text += "  " + std::to_string(identifier++) + "  " + std::string(fact.*label) + "\n";
+  return text;
+}
+
+std::string identifiers() {
+  return numbered("Growth standards (N):", calc::growthStandards(), &calc::GrowthStandard::label) + "\n" +
+         numbered("Weight formulas (K):", calc::weightFormulas(), &calc::WeightFormula::longLabel);
+}
+
+}  // namespace
+
+Command standardCommand() {
+  static constexpr std::array<OperandSpec, 1> kOperands{{{"N", "growth standard, see below"}}};
+  static constexpr std::array<OptionSpec, 3> kOptions{{
+      {"measurement", "M", "one of bpd, hc, ac, fl, efw; without it the four lengths"},
+      {"formula", "K", "weight formula, see below; needed for efw"},
+      {"json", "", "rows [week, mean, sd]; without --measurement an object of such rows by measurement"},
+  }};
+  return {.name = "standard",
+          .usage = "N [--measurement M] [--formula K] [--json]",
+          .summary = "A reference table: mean and standard deviation at each week, in mm or g.",
+          .details = identifiers() +
+                     "\nThe mean weight is that of a fetus whose four lengths are the means. Its standard "
+                     "deviation is the\n"
+                     "error of the formula, not the spread of a population; 0 where none is published.\n",
+          .operands = kOperands,
+          .options = kOptions,
+          .run = runStandard};
+}
+
+Command lookupCommand() {
+  static constexpr std::array<OperandSpec, 2> kOperands{
+      {{"N", "growth standard, see below"}, {"M", "one of bpd, hc, ac, fl, efw"}}};
+  static constexpr std::array<OptionSpec, 5> kOptions{{
+      {"mean", "W", "the mean at W weeks"},
+      {"sd", "W", "the standard deviation at W weeks"},
+      {"gestation", "MM", "the age in weeks of which MM (grams for efw) is the mean"},
+      {"formula", "K", "weight formula, see below; needed for efw"},
+      {"json", "", "the same number as JSON"},
+  }};
+  return {.name = "lookup",
+          .usage = "N M (--mean W | --sd W | --gestation MM) [--formula K] [--json]",
+          .summary = "One look-up in a reference table, between whole weeks by linear interpolation.",
+          .details =
+              "The value may be -: then values are read from standard input, one a line, and answered one a "
+              "line; a\n"
+              "line that is no number is answered by nan (null in JSON). Nothing is extrapolated: beyond the "
+              "table\n"
+              "its first or last week counts.\n\n" +
+              identifiers(),
+          .operands = kOperands,
+          .options = kOptions,
+          .run = runLookup};
+}
+
+}  // namespace nascor::cli

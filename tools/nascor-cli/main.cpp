@@ -1,0 +1,3 @@
+#include "cli_commands/CommandLine.h"
+
+int main(int argc, char** argv) { return nascor::cli::runCommandLine(argc, argv); }
