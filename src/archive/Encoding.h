@@ -28,7 +28,8 @@ inline constexpr int kInt64Tag = -121;
 /// A head byte from here up to 127 is its own value. Label and string number n is written as n + this.
 inline constexpr int kFirstNumber = -110;
 
-/// The number of an object, a class or a C string: all three are counted together, from 0, in order of appearance.
+/// The number of an object, a class or a C string: all three are counted together, from 0, in order of
+/// appearance.
 using Label = std::size_t;
 
 /// Objects, arrays and structures may stand in each other this deep, and a class may have this many new

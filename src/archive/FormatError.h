@@ -6,11 +6,12 @@
 
 namespace nascor::archive {
 
-/// The stream is malformed, or does not hold what the caller asked for. The one exception that reading throws.
+/// The stream is malformed, or does not hold what the caller asked for. The one exception that reading
+/// throws.
 ///
-/// `what()` is one sentence with its place, e.g. "at byte 54: expected an object, but label -1 is outside the 12
-/// given so far". It names no file; the caller puts that in front ("AB-123.nascor: at byte 54: ...").
-/// A reader that has thrown is of no further use.
+/// `what()` is one sentence with its place, e.g. "at byte 54: expected an object, but label -1 is outside the
+/// 12 given so far". It names no file; the caller puts that in front ("AB-123.nascor: at byte 54: ..."). A
+/// reader that has thrown is of no further use.
 class FormatError : public std::runtime_error {
  public:
   FormatError(std::size_t offset, const std::string& sentence)

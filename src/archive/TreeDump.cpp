@@ -164,11 +164,12 @@ class TextForm final : public Form {
   }
   void endStream() override {}
 
-  // A group of one value is that value's line; the type stands there. Several values get a line for their types.
+  // A group of one value is that value's line; the type stands there. Several values get a line for their
+  // types.
   void beginGroup(std::size_t offset, std::string_view types) override {
     const TypeNode* first = reader_.due();
     const bool single = first != nullptr && first->text.size() == types.size();
-    if (!single) line(offset, "group " + inQuotes(types));
+    if (!single) line(offset, "group " + literal(types));
     levels_.push_back(single ? 0 : 1);
     depth_ += levels_.back();
   }
@@ -184,15 +185,15 @@ class TextForm final : public Form {
     line(offset, type, foundation::shortestText(value));
   }
   void string(std::size_t offset, const TypeNode& type, std::optional<std::string_view> value) override {
-    line(offset, type, value ? inQuotes(*value) : "nil");
+    line(offset, type, value ? literal(*value) : "nil");
   }
 
   void cString(const CStringValue& value) override {
     if (!value.label) {
       line(value.offset, "* nil");
     } else {
-      line(value.offset, (value.fresh ? "* C string " : "* -> C string ") + std::to_string(*value.label) + " " +
-                             inQuotes(value.text));
+      line(value.offset, (value.fresh ? "* C string " : "* -> C string ") + std::to_string(*value.label) +
+                             " " + literal(value.text));
     }
   }
 
@@ -221,14 +222,16 @@ class TextForm final : public Form {
   void endObject() override { --depth_; }
 
  private:
-  /// "NSString (class 4, version 1) < NSObject (class 2, version 0)"; a class seen before without its superclass.
+  /// "NSString (class 4, version 1) < NSObject (class 2, version 0)"; a class seen before without its
+  /// superclass.
   std::string classChain(const ClassValue& value) const {
     if (!value.label) return "nil";
     std::string chain;
     std::optional<Label> label = value.label;
     for (std::size_t i = 0; i < value.newRecords; ++i) {
       chain += reader_.className(*label);
-      chain += " (class " + std::to_string(*label) + ", version " + std::to_string(reader_.classVersion(*label)) + ")";
+      chain += " (class " + std::to_string(*label) + ", version " +
+               std::to_string(reader_.classVersion(*label)) + ")";
       label = reader_.superclass(*label);
       if (label) chain += " < ";
     }
@@ -239,7 +242,7 @@ class TextForm final : public Form {
     return chain;
   }
 
-  static std::string inQuotes(std::string_view text) {
+  static std::string literal(std::string_view text) {
     if (!foundation::isValidUtf8(text)) return "not UTF-8: " + hexDigits(text);
     std::string quotedText;
     foundation::JsonText(quotedText).text(text);
@@ -293,7 +296,8 @@ class Dump {
     while (const TypeNode* type = reader_.due()) {
       value(*type);
       if (form_.out.size() > longest_) {
-        throw FormatError(reader_.offset(), "the text of this stream is more than " + std::to_string(kTextPerByte) +
+        throw FormatError(reader_.offset(), "the text of this stream is more than " +
+                                                std::to_string(kTextPerByte) +
                                                 " times as long as the stream itself");
       }
     }

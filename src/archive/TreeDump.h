@@ -14,7 +14,8 @@ namespace nascor::archive {
 ///
 /// | value | JSON |
 /// | --- | --- |
-/// | integer, byte, real | a number, integers as they are stored; reals that are not finite are "nan", "inf" and "-inf" |
+/// | integer, byte | a number, as it is stored |
+/// | real | a number, or "nan", "inf" or "-inf" |
 /// | string, selector, shared string | `{"s":text}`; when it is no UTF-8 `{"hex":digits}` |
 /// | object | `{"obj":label,"class":class,"groups":[...]}` |
 /// | class | `{"cls":label,"name":text,"version":number,"super":class}` |
@@ -24,13 +25,13 @@ namespace nascor::archive {
 /// | other array, structure | a list of its values |
 /// | nil | null |
 ///
-/// The whole stream is read before anything is returned. Throws FormatError when it is malformed, and when the text
-/// would grow beyond all proportion to the stream (texts may be repeated by number, so that a small stream can
-/// stand for an enormous text).
+/// The whole stream is read before anything is returned. Throws FormatError when it is malformed, and when
+/// the text would grow beyond all proportion to the stream (texts may be repeated by number, so that a small
+/// stream can stand for an enormous text).
 std::string dumpAsJson(std::span<const std::byte> bytes);
 
-/// The same for people: one line a value, indented by what holds it, each line beginning with the byte where the
-/// value begins. Line ends are "\n". Throws as dumpAsJson() does.
+/// The same for people: one line a value, indented by what holds it, each line beginning with the byte where
+/// the value begins. Line ends are "\n". Throws as dumpAsJson() does.
 std::string dumpAsText(std::span<const std::byte> bytes);
 
 }  // namespace nascor::archive

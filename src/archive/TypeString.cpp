@@ -42,7 +42,7 @@ class Parser {
     } else if (code == '{') {
       parseStructure(self, depth);
     } else if (kPlainCodes.find(code) == std::string_view::npos) {
-      throw TypeStringError{"has the unknown type code " + quoted({&code, 1})};
+      throw TypeStringError{"has the unknown type code " + inQuotes({&code, 1})};
     }
     nodes_[self].size = nodes_.size() - self;
     nodes_[self].text = text_.substr(begin, at_ - begin);
@@ -137,7 +137,7 @@ std::vector<TypeNode> parseTypeString(std::string_view text) { return Parser(tex
 
 std::string describeTypes(std::string_view types) {
   const bool single = types.size() == 1 || types.starts_with('[') || types.starts_with('{');
-  return std::string(single ? inWords(types.front()) : "values") + " (type " + quoted(types) + ")";
+  return std::string(single ? inWords(types.front()) : "values") + " (type " + inQuotes(types) + ")";
 }
 
 std::string printable(std::string_view text) {
@@ -158,6 +158,6 @@ std::string printable(std::string_view text) {
   return result;
 }
 
-std::string quoted(std::string_view text) { return '"' + printable(text) + '"'; }
+std::string inQuotes(std::string_view text) { return '"' + printable(text) + '"'; }
 
 }  // namespace nascor::archive

@@ -14,11 +14,11 @@ namespace nascor::archive {
 ///     c C B one raw byte (signed, unsigned, truth value)        f d reals of 32 and 64 bits
 ///     s S i I l L q Q integers      [24c] array of 24 bytes     {name=ff} structure
 struct TypeNode {
-  char code;              ///< As above; '[' and '{' for arrays and structures.
-  std::size_t size;       ///< Nodes of this type, itself and all inside it: the next type stands at `this + size`.
-  std::uint64_t count;    ///< Elements of an array; 0 for everything else.
-  std::uint64_t minBytes; ///< The least that a value takes in a stream; it saturates.
-  std::string_view text;  ///< The type as it is spelled; points into the type string.
+  char code;         ///< As above; '[' and '{' for arrays and structures.
+  std::size_t size;  ///< Nodes of this type, itself and all inside it: the next type stands at `this + size`.
+  std::uint64_t count;     ///< Elements of an array; 0 for everything else.
+  std::uint64_t minBytes;  ///< The least that a value takes in a stream; it saturates.
+  std::string_view text;   ///< The type as it is spelled; points into the type string.
 
   /// A single byte of no encoding.
   bool isRawByte() const { return code == 'c' || code == 'C' || code == 'B'; }
@@ -34,8 +34,9 @@ struct IntegerRange {
   std::int64_t max;
 };
 
-/// The range of one of the codes c C B s S i I l L q Q. Integers are signed in the stream, so that the larger half
-/// of an unsigned type may stand as negative numbers; both are taken. Raw bytes are what their code says.
+/// The range of one of the codes c C B s S i I l L q Q. Integers are signed in the stream, so that the larger
+/// half of an unsigned type may stand as negative numbers; both are taken. Raw bytes are what their code
+/// says.
 IntegerRange integerRangeOf(char code);
 
 /// Why a text is no type string, as the second half of a sentence: "ends inside an array".
@@ -43,17 +44,19 @@ struct TypeStringError {
   std::string reason;
 };
 
-/// The types of `text`, which must outlive the result. Memory is proportional to the text, whatever counts it holds.
-/// Throws TypeStringError for unknown codes, nesting deeper than kDepthLimit, and arrays whose elements take no bytes
-/// (their count says nothing about the file, so a short file could ask for endless work).
+/// The types of `text`, which must outlive the result. Memory is proportional to the text, whatever counts it
+/// holds. Throws TypeStringError for unknown codes, nesting deeper than kDepthLimit, and arrays whose
+/// elements take no bytes (their count says nothing about the file, so a short file could ask for endless
+/// work).
 std::vector<TypeNode> parseTypeString(std::string_view text);
 
-/// A type string in words, with the text itself: `a 32-bit integer (type "i")`. Long texts are cut, odd bytes escaped.
+/// A type string in words, with the text itself: `a 32-bit integer (type "i")`. Long texts are cut, odd bytes
+/// escaped.
 std::string describeTypes(std::string_view types);
 
 /// `text` fit for a one-line message: long texts are cut, everything but printable ASCII is escaped.
 std::string printable(std::string_view text);
 /// The same in quotation marks.
-std::string quoted(std::string_view text);
+std::string inQuotes(std::string_view text);
 
 }  // namespace nascor::archive

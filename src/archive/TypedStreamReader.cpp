@@ -26,7 +26,7 @@ std::string describeTag(int head) {
     case kEndTag: return "the end of an object";
     default: {
       const std::byte byte{static_cast<unsigned char>(head)};
-      return "the meaningless byte " + quoted(asText({&byte, 1}));
+      return "the meaningless byte " + inQuotes(asText({&byte, 1}));
     }
   }
 }
@@ -37,7 +37,8 @@ TypedStreamReader::TypedStreamReader(std::span<const std::byte> bytes) : bytes_(
 
 // ---- Bytes and numbers
 
-void TypedStreamReader::refuse(std::size_t offset, std::string_view wanted, const std::string& instead) const {
+void TypedStreamReader::refuse(std::size_t offset, std::string_view wanted,
+                               const std::string& instead) const {
   throw FormatError(offset, "expected " + std::string(wanted) + ", but " + instead);
 }
 
@@ -93,7 +94,8 @@ std::optional<std::string_view> TypedStreamReader::takeUnshared(std::string_view
   return asText(take(static_cast<std::uint64_t>(length), wanted));
 }
 
-std::size_t TypedStreamReader::takeNumberBelow(std::size_t limit, std::string_view thing, std::string_view wanted) {
+std::size_t TypedStreamReader::takeNumberBelow(std::size_t limit, std::string_view thing,
+                                               std::string_view wanted) {
   const std::size_t begin = position_;
   const std::int64_t stored = takeNumber(wanted);
   // Unsigned, so that it wraps where a signed number would overflow.
@@ -175,7 +177,7 @@ void TypedStreamReader::readHeader() {
     byteOrder_ = ByteOrder::big;
   } else if (signature != kLittleEndianSignature) {
     refuse(begin, "the signature of a typed stream",
-           (signature ? quoted(*signature) : std::string("nil")) + " stands here");
+           (signature ? inQuotes(*signature) : std::string("nil")) + " stands here");
   }
   systemVersion_ = takeNumber("the system version");
 }
@@ -183,7 +185,7 @@ void TypedStreamReader::readHeader() {
 // ---- Groups
 
 bool TypedStreamReader::groupFollows() {
-  if (!walk_.betweenGroups()) throw std::logic_error("values of the open group are left");
+  walk_.requireBetweenGroups();
   if (!walk_.insideObject()) return bytesLeft() > 0;
   return peekHead("a group of values, or the end of an object") != kEndTag;
 }
@@ -191,6 +193,7 @@ bool TypedStreamReader::groupFollows() {
 /// Reads the types of the next group, where `wanted` types belong; returns their number.
 std::size_t TypedStreamReader::takeGroupTypes(std::string_view wanted) {
   const auto inWords = [wanted] { return wanted.empty() ? "a group of values" : describeTypes(wanted); };
+  walk_.requireBetweenGroups();
   const std::size_t begin = position_;
   if (bytesLeft() == 0) refuse(begin, inWords(), "the file ends here");
   if (walk_.insideObject() && peekHead(wanted) == kEndTag) {
@@ -199,12 +202,13 @@ std::size_t TypedStreamReader::takeGroupTypes(std::string_view wanted) {
   const auto number = takeShared("the types of a group");
   if (!number) refuse(begin, inWords(), "nil stands here");
   SharedString& types = strings_[*number];
-  if (!wanted.empty() && types.text != wanted) refuse(begin, inWords(), describeTypes(types.text) + " stands here");
+  if (!wanted.empty() && types.text != wanted)
+    refuse(begin, inWords(), describeTypes(types.text) + " stands here");
   if (!types.parsed) {
     try {
       types.types = parseTypeString(types.text);
     } catch (const TypeStringError& error) {
-      throw FormatError(begin, "the type string " + quoted(types.text) + " " + error.reason);
+      throw FormatError(begin, "the type string " + inQuotes(types.text) + " " + error.reason);
     }
     types.parsed = true;
   }
@@ -235,7 +239,8 @@ const TypeNode& TypedStreamReader::dueOf(std::string_view codes, std::string_vie
 
 void TypedStreamReader::checkDepth() const {
   if (walk_.atDepthLimit()) {
-    throw FormatError(position_, "objects, arrays and structures nest more than " + std::to_string(kDepthLimit) + " deep");
+    throw FormatError(
+        position_, "objects, arrays and structures nest more than " + std::to_string(kDepthLimit) + " deep");
   }
 }
 
@@ -294,8 +299,11 @@ CStringValue TypedStreamReader::readCString() {
       if (!number) refuse(value.offset, kWanted, "its text is nil");
       value.label = labels_.size();
       value.fresh = true;
-      labels_.push_back(
-          {.kind = LabelKind::cString, .complete = true, .cls = std::nullopt, .string = *number, .version = 0});
+      labels_.push_back({.kind = LabelKind::cString,
+                         .complete = true,
+                         .cls = std::nullopt,
+                         .string = *number,
+                         .version = 0});
       break;
     }
     default: value.label = takeLabel(LabelKind::cString, kWanted);
@@ -325,7 +333,8 @@ std::uint64_t TypedStreamReader::beginArray() {
   checkDepth();
   if (type.minBytes > bytesLeft()) {
     refuse(position_, describeTypes(type.text),
-           "it takes at least " + count(type.minBytes, "byte") + ", and " + std::to_string(bytesLeft()) + " are left");
+           "it takes at least " + count(type.minBytes, "byte") + ", and " + std::to_string(bytesLeft()) +
+               " are left");
   }
   walk_.enterArray();
   return type.count;
@@ -341,7 +350,8 @@ std::string_view TypedStreamReader::beginStructure() {
 ObjectValue TypedStreamReader::beginObject() {
   constexpr std::string_view kWanted = "an object";
   dueOf("@", kWanted);
-  ObjectValue value{.offset = position_, .kind = ObjectValue::Kind::nil, .label = 0, .cls = {}, .complete = true};
+  ObjectValue value{
+      .offset = position_, .kind = ObjectValue::Kind::nil, .label = 0, .cls = {}, .complete = true};
   switch (peekHead(kWanted)) {
     case kNilTag:
       ++position_;
@@ -353,7 +363,8 @@ ObjectValue TypedStreamReader::beginObject() {
       value.kind = ObjectValue::Kind::fresh;
       value.label = labels_.size();
       value.complete = false;
-      // The object is numbered before its class, and the class stands before anything can refer to the object.
+      // The object is numbered before its class, and the class stands before anything can refer to the
+      // object.
       labels_.push_back({.kind = LabelKind::object, .complete = false, .cls = {}, .string = 0, .version = 0});
       value.cls = takeClass("the class of an object");
       if (!value.cls.label) refuse(value.cls.offset, "the class of an object", "nil stands here");
@@ -372,9 +383,7 @@ ObjectValue TypedStreamReader::beginObject() {
 }
 
 void TypedStreamReader::endObject() {
-  if (!walk_.insideObject()) throw std::logic_error("no object is open");
-  const Label label = walk_.object();
-  walk_.leaveObject();
+  const Label label = walk_.leaveObject();
   const auto wanted = [&] { return "the end of " + describeLabel(label); };
   if (bytesLeft() == 0) refuse(position_, wanted(), "the file ends here");
   if (peekHead({}) != kEndTag) refuse(position_, wanted(), "more values follow");
@@ -428,7 +437,9 @@ std::string TypedStreamReader::describeLabel(Label label) const {
   switch (entry.kind) {
     case LabelKind::cls: return "class " + number + " (" + printable(className(label)) + ")";
     case LabelKind::cString: return "C string " + number;
-    default: return "object " + number + " (" + (entry.cls ? printable(className(*entry.cls)) : "of no class yet") + ")";
+    default:
+      return "object " + number + " (" + (entry.cls ? printable(className(*entry.cls)) : "of no class yet") +
+             ")";
   }
 }
 

@@ -21,7 +21,8 @@ namespace nascor::archive {
 struct ClassValue {
   std::size_t offset = 0;      ///< Where it begins.
   std::optional<Label> label;  ///< The class; empty for nil.
-  /// Class records that stand here in full, root last; they are labelled from `*label` upward. 0: seen before.
+  /// Class records that stand here in full, root last; they are labelled from `*label` upward. 0: seen
+  /// before.
   std::size_t newRecords = 0;
 };
 
@@ -54,13 +55,14 @@ struct CStringValue {
 
 /// Reads a typed stream from its first byte to its last, one value at a time, as the caller asks for them.
 ///
-/// A stream is a header and groups; a group is a type string and one value for each of its types; a value may be a
-/// fresh object, which holds groups again. No tree is built: the reader keeps the numbered strings, classes and
-/// objects that later values refer to, in memory proportional to the bytes read, never to a number in them.
+/// A stream is a header and groups; a group is a type string and one value for each of its types; a value may
+/// be a fresh object, which holds groups again. No tree is built: the reader keeps the numbered strings,
+/// classes and objects that later values refer to, in memory proportional to the bytes read, never to a
+/// number in them.
 ///
-/// Every function that reads throws FormatError when the bytes are malformed or are not what was asked for; it then
-/// says what was expected, in words, and where. Nothing past the end is read. Calls in an impossible order (a value where no
-/// group is open) are mistakes of the caller and throw std::logic_error.
+/// Every function that reads throws FormatError when the bytes are malformed or are not what was asked for;
+/// it then says what was expected, in words, and where. Nothing past the end is read. Calls in an impossible
+/// order (a value where no group is open) are mistakes of the caller and throw std::logic_error.
 ///
 /// All texts handed out point into the bytes given to the constructor, which must outlive the reader.
 class TypedStreamReader {
@@ -93,17 +95,17 @@ class TypedStreamReader {
   /// @name Values; each must be due and of a fitting type
   /// @{
 
-  /// Types c C B s S i I l L q Q. The value must fit the type. It comes as it is stored: an unsigned one of the
-  /// larger half may be a negative number.
+  /// Types c C B s S i I l L q Q. The value must fit the type. It comes as it is stored: an unsigned one of
+  /// the larger half may be a negative number.
   std::int64_t readInteger();
-  double readReal();                              ///< Types f (widened) and d, stored in either form.
-  std::optional<std::string_view> readString();   ///< Types + : %, without a look at the bytes; empty for nil.
-  CStringValue readCString();                     ///< Type *
-  ClassValue readClass();                         ///< Type #, with the records that stand in full here.
-  std::span<const std::byte> readBytes();         ///< An array of c or C.
-  std::uint64_t beginArray();                     ///< Any array; returns the number of elements.
-  void endArray() { walk_.leaveArray(); }         ///< After the last element.
-  std::string_view beginStructure();              ///< Returns the name.
+  double readReal();                             ///< Types f (widened) and d, stored in either form.
+  std::optional<std::string_view> readString();  ///< Types + : %, without a look at the bytes; empty for nil.
+  CStringValue readCString();                    ///< Type *
+  ClassValue readClass();                        ///< Type #, with the records that stand in full here.
+  std::span<const std::byte> readBytes();        ///< An array of c or C.
+  std::uint64_t beginArray();                    ///< Any array; returns the number of elements.
+  void endArray() { walk_.leaveArray(); }        ///< After the last element.
+  std::string_view beginStructure();             ///< Returns the name.
   void endStructure() { walk_.leaveStructure(); }  ///< After the last member.
   /// Type @. Groups follow when it is fresh, until endObject().
   ObjectValue beginObject();
@@ -114,11 +116,11 @@ class TypedStreamReader {
   /// @name One group with one value, the usual case in documents
   /// @{
 
-  std::int32_t takeInt();                         ///< A group of type i.
-  double takeFloat();                             ///< A group of type f, widened.
-  double takeDouble();                            ///< A group of type d.
-  std::optional<std::string_view> takeString();   ///< A group of type +, empty for nil.
-  ObjectValue takeObject();                       ///< A group of type @; groups follow when it is fresh.
+  std::int32_t takeInt();                        ///< A group of type i.
+  double takeFloat();                            ///< A group of type f, widened.
+  double takeDouble();                           ///< A group of type d.
+  std::optional<std::string_view> takeString();  ///< A group of type +, empty for nil.
+  ObjectValue takeObject();                      ///< A group of type @; groups follow when it is fresh.
 
   /// @}
   /// @name What is known so far; labels come from values read

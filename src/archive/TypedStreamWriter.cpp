@@ -14,8 +14,8 @@ bool fits(std::int64_t value) {
   return value >= std::numeric_limits<Integer>::min() && value <= std::numeric_limits<Integer>::max();
 }
 
-/// Whole numbers of 32 bits are written as integers, whatever the width of the real. The border is that of the
-/// conversion to a 32-bit integer, with which the value is compared; a NaN fails every comparison.
+/// Whole numbers of 32 bits are written as integers, whatever the width of the real. The border is that of
+/// the conversion to a 32-bit integer, with which the value is compared; a NaN fails every comparison.
 bool isWrittenAsInteger(double value) {
   return value >= -2147483648.0 && value < 2147483648.0 && value == std::trunc(value);
 }
@@ -85,13 +85,13 @@ void TypedStreamWriter::appendClass(const ClassDescription* cls) {
 // ---- Groups and values
 
 void TypedStreamWriter::beginGroup(std::string_view types) {
-  if (!walk_.betweenGroups()) throw std::logic_error("a group begins inside another");
+  walk_.requireBetweenGroups();
   SharedString& shared = appendShared(types);
   if (shared.types.empty()) {
     try {
       shared.types = parseTypeString(shared.text);
     } catch (const TypeStringError& error) {
-      throw std::logic_error("the type string " + quoted(types) + " " + error.reason);
+      throw std::logic_error("the type string " + inQuotes(types) + " " + error.reason);
     }
   }
   walk_.beginGroup(shared.types);
@@ -167,7 +167,8 @@ void TypedStreamWriter::writeClass(const ClassDescription& cls) {
 void TypedStreamWriter::writeBytes(std::span<const std::byte> bytes) {
   const TypeNode& type = dueOf("[");
   if (!type.isByteArray() || type.count != bytes.size()) {
-    throw std::logic_error(describeTypes(type.text) + " is due, not " + std::to_string(bytes.size()) + " bytes");
+    throw std::logic_error(describeTypes(type.text) + " is due, not " + std::to_string(bytes.size()) +
+                           " bytes");
   }
   bytes_.insert(bytes_.end(), bytes.begin(), bytes.end());
   walk_.passValue();
@@ -252,7 +253,8 @@ void TypedStreamWriter::putReference(Label label) {
 }
 
 std::vector<std::byte> TypedStreamWriter::finish() && {
-  if (walk_.insideObject() || !walk_.betweenGroups()) throw std::logic_error("an object or a group is not complete");
+  walk_.requireBetweenGroups();
+  if (walk_.insideObject()) throw std::logic_error("an object is still open");
   return std::move(bytes_);
 }
 

@@ -22,12 +22,12 @@ struct ClassDescription {
   const ClassDescription* superclass = nullptr;  ///< Null above the root class.
 };
 
-/// Writes a typed stream, little-endian, byte for byte as the platform's own archiver does: shortest integers, whole
-/// reals as integers, every text, class and label by number from its second appearance on.
+/// Writes a typed stream, little-endian, byte for byte as the platform's own archiver does: shortest
+/// integers, whole reals as integers, every text, class and label by number from its second appearance on.
 ///
-/// Groups, values and objects are written in the order in which TypedStreamReader reads them. A call that does not fit
-/// the type that is due, a number that does not fit its type, or a label that is none, is a mistake of the
-/// caller and throws std::logic_error; the writer is then of no further use.
+/// Groups, values and objects are written in the order in which TypedStreamReader reads them. A call that
+/// does not fit the type that is due, a number that does not fit its type, or a label that is none, is a
+/// mistake of the caller and throws std::logic_error; the writer is then of no further use.
 class TypedStreamWriter {
  public:
   /// Writes the header.
@@ -41,20 +41,23 @@ class TypedStreamWriter {
   /// @name Values; each must be due and of a fitting type
   /// @{
 
-  /// Types c C B s S i I l L q Q; the value must fit the type. Of unsigned types, negative values are taken as well.
+  /// Types c C B s S i I l L q Q; the value must fit the type. Of unsigned types, negative values are taken
+  /// as well.
   void writeInteger(std::int64_t value);
-  /// Types f and d; for f the value must be a float's. A negative zero loses its sign, as the encoding has it.
+  /// Types f and d; for f the value must be a float's. A negative zero loses its sign, as the encoding has
+  /// it.
   void writeReal(double value);
-  void writeString(std::string_view text);             ///< Types + : %
-  Label writeCString(std::string_view text);           ///< Type *
-  void writeClass(const ClassDescription& cls);        ///< Type #
-  void writeBytes(std::span<const std::byte> bytes);   ///< An array of c or C, whole.
-  void beginArray();                                   ///< Any array; its elements follow.
+  void writeString(std::string_view text);            ///< Types + : %
+  Label writeCString(std::string_view text);          ///< Type *
+  void writeClass(const ClassDescription& cls);       ///< Type #
+  void writeBytes(std::span<const std::byte> bytes);  ///< An array of c or C, whole.
+  void beginArray();                                  ///< Any array; its elements follow.
   void endArray() { walk_.leaveArray(); }
   void beginStructure();  ///< Its members follow.
   void endStructure() { walk_.leaveStructure(); }
-  /// Type @: a new object, whose groups follow until endObject(). Returns the label for later references. A class is
-  /// known by its name: where the name was written before, the rest of the description does not count.
+  /// Type @: a new object, whose groups follow until endObject(). Returns the label for later references. A
+  /// class is known by its name: where the name was written before, the rest of the description does not
+  /// count.
   Label beginObject(const ClassDescription& cls);
   void endObject();
   void writeNil();                   ///< Types @ # * + : %
@@ -64,13 +67,13 @@ class TypedStreamWriter {
   /// @name One group with one value, the usual case in documents
   /// @{
 
-  void putInt(std::int32_t value);           ///< A group of type i.
-  void putFloat(float value);                ///< A group of type f.
-  void putDouble(double value);              ///< A group of type d.
-  void putString(std::string_view text);     ///< A group of type +.
+  void putInt(std::int32_t value);               ///< A group of type i.
+  void putFloat(float value);                    ///< A group of type f.
+  void putDouble(double value);                  ///< A group of type d.
+  void putString(std::string_view text);         ///< A group of type +.
   Label putObject(const ClassDescription& cls);  ///< A group of type @; groups follow until endObject().
-  void putNil();                             ///< A group of type @ with nil.
-  void putReference(Label label);            ///< A group of type @.
+  void putNil();                                 ///< A group of type @ with nil.
+  void putReference(Label label);                ///< A group of type @.
 
   /// @}
 

@@ -20,14 +20,16 @@ bool ValueWalk::betweenGroups() const {
   return top.kind == Kind::object || (top.kind == Kind::group && top.next == top.end);
 }
 
+void ValueWalk::requireBetweenGroups() const {
+  if (!betweenGroups()) throw std::logic_error("values of the open group are left");
+}
+
 void ValueWalk::beginGroup(const std::vector<TypeNode>& types) {
-  if (!betweenGroups()) throw std::logic_error("a group begins inside another");
   if (!frames_.empty() && frames_.back().kind == Kind::group) frames_.pop_back();
   frames_.push_back({Kind::group, types.data(), types.data() + types.size(), 0});
 }
 
 void ValueWalk::passValue() {
-  if (due() == nullptr) throw std::logic_error("no value is due");
   Frame& top = frames_.back();
   if (top.kind == Kind::array) {
     --top.remaining;
@@ -51,11 +53,15 @@ void ValueWalk::enterStructure() {
   enter(Kind::structure, structure + 1, structure + structure->size, 0);
 }
 
-void ValueWalk::leaveObject() {
-  if (!insideObject() || !betweenGroups()) throw std::logic_error("no object can end here");
+Label ValueWalk::leaveObject() {
+  if (!insideObject()) throw std::logic_error("no object is open");
+  requireBetweenGroups();
   if (frames_.back().kind == Kind::group) frames_.pop_back();
-  leave(Kind::object);
+  frames_.pop_back();
+  --depth_;
+  const Label label = objects_.back();
   objects_.pop_back();
+  return label;
 }
 
 void ValueWalk::enter(Kind kind, const TypeNode* first, const TypeNode* end, std::uint64_t count) {

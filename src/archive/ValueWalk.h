@@ -9,10 +9,12 @@
 
 namespace nascor::archive {
 
-/// Which value is due next while a stream is read or written: the place in the open group, array, structure and
-/// object. Reader and writer drive it alike, so what the one lets through the other can write.
+/// Which value is due next while a stream is read or written: the place in the open group, array, structure
+/// and object. Reader and writer drive it alike, so what the one lets through the other can write.
 ///
-/// Calls out of order are mistakes of the calling code, whatever the stream holds, and throw std::logic_error.
+/// Calls out of order are mistakes of the calling code, whatever the stream holds. Those that depend on the
+/// order in which reader or writer are called throw std::logic_error; what they have looked at themselves
+/// ("only when") is not looked at again.
 class ValueWalk {
  public:
   /// The type of the value that is due; null between groups and at the end of an array or structure.
@@ -20,6 +22,8 @@ class ValueWalk {
 
   /// True where a group may begin: at the top, or in an object, with no value of the last group left.
   bool betweenGroups() const;
+  /// Throws unless betweenGroups().
+  void requireBetweenGroups() const;
   /// True when an object is open, however deep inside it the walk stands.
   bool insideObject() const { return !objects_.empty(); }
   /// The innermost open object. Only when insideObject().
@@ -27,14 +31,15 @@ class ValueWalk {
   /// True when one more object, array or structure would pass kDepthLimit.
   bool atDepthLimit() const { return depth_ == kDepthLimit; }
 
-  /// Opens a group of `types`, which must outlive it. A group ends by itself with its last value.
+  /// Opens a group of `types`, which must outlive it. Only betweenGroups(). A group ends by itself with its
+  /// last value.
   void beginGroup(const std::vector<TypeNode>& types);
 
-  void passValue();               ///< Goes over the value that is due.
-  void enterObject(Label label);  ///< Goes into the object that is due; its groups follow.
-  void leaveObject();
-  void enterArray();      ///< Goes into the array that is due.
-  void enterStructure();  ///< Goes into the structure that is due.
+  void passValue();               ///< Goes over the value that is due. Only when one is.
+  void enterObject(Label label);  ///< Goes into the object that is due; its groups follow. Only when one is.
+  Label leaveObject();            ///< Leaves the innermost open object and returns its label.
+  void enterArray();              ///< Goes into the array that is due. Only when one is.
+  void enterStructure();          ///< Goes into the structure that is due. Only when one is.
   void leaveArray() { leave(Kind::array); }
   void leaveStructure() { leave(Kind::structure); }
 

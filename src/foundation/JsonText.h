@@ -8,18 +8,19 @@
 
 namespace nascor::foundation {
 
-/// Writes JSON, value after value, at the end of a string. Nothing is kept but the open brackets, so that a text
-/// as long as wanted can be taken away piece by piece.
+/// Writes JSON, value after value, at the end of a string. Nothing is kept but the open brackets, so that a
+/// text as long as wanted can be taken away piece by piece.
 ///
 ///     JsonText json(out);
 ///     json.beginObject().key("weeks").number(20.5).key("formula").integer(3).endObject();
 ///
-/// Calls must come in an order that makes JSON: in an object a key before each value, every bracket closed. Values
-/// at the top may follow one another; what stands between them (a line end, say) is the caller's to write.
+/// Calls must come in an order that makes JSON: in an object a key before each value, every bracket closed.
+/// Values at the top may follow one another; what stands between them (a line end, say) is the caller's to
+/// write.
 class JsonText {
  public:
-  /// With an `indent` of 0 everything stands on one line without blanks; otherwise each element stands on a line of its own,
-  /// moved that many blanks to the right for each open bracket.
+  /// With an `indent` of 0 everything stands on one line without blanks; otherwise each element stands on a
+  /// line of its own, moved that many blanks to the right for each open bracket.
   explicit JsonText(std::string& out, std::size_t indent = 0) : out_(out), indent_(indent) {}
 
   JsonText& beginObject() { return open('{'); }
@@ -28,8 +29,8 @@ class JsonText {
   JsonText& endArray() { return close(']'); }
   JsonText& key(std::string_view name);
 
-  /// UTF-8 stays as it is; only quotation mark, backslash and control characters are escaped. Each byte that is no
-  /// UTF-8 becomes U+FFFD, since JSON has no way to write it.
+  /// UTF-8 stays as it is; only quotation mark, backslash and control characters are escaped. Each byte that
+  /// is no UTF-8 becomes U+FFFD, since JSON has no way to write it.
   JsonText& text(std::string_view value);
   /// The shortest digits that read back to the same double. Not finite: the texts "nan", "inf" and "-inf".
   JsonText& number(double value);
