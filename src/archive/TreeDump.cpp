@@ -1,7 +1,9 @@
 #include "archive/TreeDump.h"
 
+#include <algorithm>
 #include <optional>
 #include <string_view>
+#include <utility>
 
 #include "archive/TypedStreamReader.h"
 #include "foundation/JsonText.h"
@@ -258,7 +260,7 @@ class TextForm final : public Form {
   void line(std::size_t offset, const std::string& text) {
     constexpr std::size_t kOffsetWidth = 8;
     const std::string place = std::to_string(offset);
-    if (place.size() < kOffsetWidth) out.append(kOffsetWidth - place.size(), ' ');
+    out.append(kOffsetWidth - std::min(kOffsetWidth, place.size()), ' ');
     out += place;
     out.append(2 + 2 * depth_, ' ');
     out += text;

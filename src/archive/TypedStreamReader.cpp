@@ -14,12 +14,9 @@ std::string count(std::uint64_t number, std::string_view thing) {
   return std::to_string(number) + " " + std::string(thing) + (number == 1 ? "" : "s");
 }
 
-/// A head byte that is no number, in words.
+/// A head byte that begins no number, in words.
 std::string describeTag(int head) {
   switch (head) {
-    case kInt16Tag:
-    case kInt32Tag:
-    case kInt64Tag: return "a long number";
     case kRealTag: return "a real";
     case kNewTag: return "the mark of something new";
     case kNilTag: return "nil";

@@ -205,6 +205,9 @@ INSTANTIATE_TEST_SUITE_P(
             "integers", little("84 0d '[2147483647i]' 01 02"),
             "at byte 31: expected an array (type \"[2147483647i]\"), but it takes at least 2147483647 bytes, "
             "and 2 are left"},
+        BadCase{
+            "oneMore", little("84 04 '[1i]'"),
+            "at byte 22: expected an array (type \"[1i]\"), but it takes at least 1 byte, and 0 are left"},
         BadCase{"nothings", little("84 10 '[2147483647{A=}]'"),
                 "at byte 16: the type string \"[2147483647{A=}]\" has an array whose elements take no bytes"},
         BadCase{

@@ -120,6 +120,11 @@ TEST(DumpingAsText, putsTheValuesOfAGroupUnderItsTypes) {
 )");
 }
 
+TEST(DumpingAsText, showsAGroupOfNoValues) {
+  EXPECT_EQ(dumpAsText(little("84 00")),
+            "typed stream, little-endian, system version 1000\n      16  group \"\"\n");
+}
+
 // ---- Proportion
 
 TEST(DumpingAHostileStream, refusesATextOutOfAllProportion) {

@@ -45,6 +45,13 @@ TEST(ATypeString, mayHaveStructuresAndArraysOfNothing) {
   EXPECT_EQ(parseTypeString("[0{A=}]").size(), 2U);
 }
 
+TEST(ATypeString, tellsArraysOfBytesFromOthers) {
+  EXPECT_TRUE(parseTypeString("[4c]")[0].isByteArray());
+  EXPECT_TRUE(parseTypeString("[4C]")[0].isByteArray());
+  EXPECT_FALSE(parseTypeString("[4B]")[0].isByteArray());
+  EXPECT_FALSE(parseTypeString("c")[0].isByteArray());
+}
+
 TEST(ATypeString, saturatesTheLengthOfItsValues) {
   constexpr auto kMost = std::numeric_limits<std::uint64_t>::max();
   EXPECT_EQ(parseTypeString("[99999999999999999999999c]")[0].count, kMost);

@@ -254,6 +254,7 @@ TEST(ReadingObjects, walksAFreshPatient) {
   EXPECT_EQ(patient.label, 0U);
   EXPECT_EQ(patient.offset, 19U);
   EXPECT_FALSE(patient.complete);
+  EXPECT_EQ(reader.due(), nullptr);
   EXPECT_EQ(reader.classNameOf(patient), "PatientRecord");
   EXPECT_EQ(patient.cls.label, 1U);
   EXPECT_EQ(patient.cls.newRecords, 2U);
