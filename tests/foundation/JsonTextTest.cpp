@@ -1,0 +1,140 @@
+#include "foundation/JsonText.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdint>
+#include <limits>
+#include <string>
+
+namespace nascor::foundation {
+namespace {
+
+/// What `write` gives in compact form.
+template <class Write>
+std::string compact(Write write) {
+  std::string out;
+  JsonText json(out);
+  write(json);
+  return out;
+}
+
+TEST(JsonInCompactForm, hasNoBlanks) {
+  EXPECT_EQ(
+      compact([](JsonText& json) {
+        json.beginObject();
+        json.key("id").text("AB-123").key("weeks").number(20.5).key("fetuses").integer(2);
+        json.key("open").boolean(false).key("saved").boolean(true).key("edd").null();
+        json.key("rows").beginArray().integer(1).beginArray().endArray().beginObject().endObject().endArray();
+        json.endObject();
+      }),
+      R"({"id":"AB-123","weeks":20.5,"fetuses":2,"open":false,"saved":true,"edd":null,"rows":[1,[],{}]})");
+}
+
+TEST(JsonInCompactForm, isAppendedToWhatIsThere) {
+  std::string out = "# ";
+  JsonText json(out);
+  json.beginArray().null().endArray();
+  out += '\n';
+  json.beginObject().endObject();
+  EXPECT_EQ(out, "# [null]\n{}");
+}
+
+TEST(JsonInIndentedForm, hasALineForEachElement) {
+  std::string out;
+  JsonText(out, 2)
+      .beginObject()
+      .key("a")
+      .integer(1)
+      .key("b")
+      .beginArray()
+      .text("x")
+      .beginObject()
+      .endObject()
+      .beginArray()
+      .endArray()
+      .endArray()
+      .key("c")
+      .beginObject()
+      .key("d")
+      .null()
+      .endObject()
+      .endObject();
+  EXPECT_EQ(out, R"({
+  "a": 1,
+  "b": [
+    "x",
+    {},
+    []
+  ],
+  "c": {
+    "d": null
+  }
+})");
+}
+
+struct NumberCase {
+  double value;
+  const char* json;
+};
+class AJsonNumber : public testing::TestWithParam<NumberCase> {};
+
+TEST_P(AJsonNumber, hasTheShortestDigitsThatReadBack) {
+  EXPECT_EQ(compact([](JsonText& json) { json.number(GetParam().value); }), GetParam().json);
+}
+
+constexpr double kInfinity = std::numeric_limits<double>::infinity();
+
+INSTANTIATE_TEST_SUITE_P(ofEveryKind, AJsonNumber,
+                         testing::Values(NumberCase{0.0, "0"}, NumberCase{40.0, "40"},
+                                         NumberCase{25.3, "25.3"},
+                                         NumberCase{25.299999237060547, "25.299999237060547"},
+                                         NumberCase{-0.1, "-0.1"}, NumberCase{1e300, "1e+300"},
+                                         NumberCase{kInfinity, "\"inf\""}, NumberCase{-kInfinity, "\"-inf\""},
+                                         NumberCase{std::numeric_limits<double>::quiet_NaN(), "\"nan\""}));
+
+TEST(AJsonNumber, mayBeAnyInteger) {
+  EXPECT_EQ(compact([](JsonText& json) {
+              json.beginArray();
+              json.integer(std::numeric_limits<std::int64_t>::min());
+              json.integer(std::numeric_limits<std::int64_t>::max());
+              json.endArray();
+            }),
+            "[-9223372036854775808,9223372036854775807]");
+}
+
+struct TextCase {
+  const char* name;
+  std::string text;
+  const char* json;
+};
+class AJsonText : public testing::TestWithParam<TextCase> {};
+
+TEST_P(AJsonText, isEscapedWhereItMust) {
+  EXPECT_EQ(compact([](JsonText& json) { json.text(GetParam().text); }), GetParam().json);
+  EXPECT_EQ(compact([](JsonText& json) { json.beginObject().key(GetParam().text).null().endObject(); }),
+            "{" + std::string(GetParam().json) + ":null}");
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    ofEveryKind, AJsonText,
+    testing::Values(TextCase{"empty", "", R"("")"}, TextCase{"plain", "a/b '~", R"("a/b '~")"},
+                    TextCase{"quotesAndBackslash", "\"\\", R"("\"\\")"},
+                    TextCase{"namedControls", "\b\f\n\r\t", R"("\b\f\n\r\t")"},
+                    TextCase{"otherControls", std::string("\0\x1f\x10", 3), R"("\u0000\u001f\u0010")"},
+                    TextCase{"del", "\x7f", "\"\x7f\""},
+                    TextCase{"utf8", "\xc3\xa4\xe2\x82\xac\xf0\x9f\x98\x80",
+                             "\"\xc3\xa4\xe2\x82\xac\xf0\x9f\x98\x80\""}),
+    [](const auto& row) { return std::string(row.param.name); });
+
+// Every byte that is not part of a character becomes one U+FFFD (EF BF BD); what is around it stays.
+INSTANTIATE_TEST_SUITE_P(thatIsNoUtf8, AJsonText,
+                         testing::Values(TextCase{"strayByte", "a\xff\xc3\xa4", "\"a\xef\xbf\xbd\xc3\xa4\""},
+                                         TextCase{"cutCharacter", "\xe2\x82", "\"\xef\xbf\xbd\xef\xbf\xbd\""},
+                                         TextCase{"surrogate", "\xed\xa0\x80\"",
+                                                  "\"\xef\xbf\xbd\xef\xbf\xbd\xef\xbf\xbd\\\"\""},
+                                         TextCase{"wholeBesideBroken", "\xf0\x9f\x98\x80\xf0",
+                                                  "\"\xf0\x9f\x98\x80\xef\xbf\xbd\""}),
+                         [](const auto& row) { return std::string(row.param.name); });
+
+}  // namespace
+}  // namespace nascor::foundation
