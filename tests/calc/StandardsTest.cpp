@@ -305,6 +305,18 @@ TEST(TheWeightTable, hasTheWeeksOfTheBpdTableUnderEveryStandardAndFormula) {
   }
 }
 
+TEST(TheWeightTable, takesItsWeeksFromTheBpdTableWhateverTheOthersHold) {
+  FourTables tables(kWesterway);
+  for (ReferenceTable* other : {&tables.hc, &tables.ac, &tables.fl}) {
+    for (DatabaseRecord& row : *other) row.setObservation(0.0);
+  }
+  const ReferenceTable weights = tables.weights(0);
+  ASSERT_EQ(weights.size(), 31u);
+  for (std::size_t i = 0; i < weights.size(); ++i) {
+    EXPECT_EQ(weights[i].observation(), 11.0 + static_cast<double>(i));
+  }
+}
+
 TEST(TheWeightTable, isEmptyWithoutABpdTable) {
   FourTables tables(kWesterway);
   tables.bpd.clear();
