@@ -255,9 +255,13 @@ class Reader {
   std::optional<CivilDay> readSeparator(std::size_t index, std::string_view rest) {
     const std::size_t next = index + 1;
     if (next == form_.fields.size()) return readField(next, rest);
-    if (const auto after = afterFormText(next, rest)) {
-      // Digits are read as far as they go, so two numbers never meet here.
-      if (const auto day = readField(next, *after)) return day;
+    // A form that separates by blanks alone needs one in the text too. Where it has nothing between two parts
+    // one of them is a name: digits are read as far as they go, so two numbers never meet here.
+    if (!plainTexts_[next].empty() || form_.texts[next].empty()) {
+      const auto after = afterFormText(next, rest);
+      if (after) {
+        if (const auto day = readField(next, *after)) return day;
+      }
     }
     const auto after = afterSeparator(rest);
     return after ? readField(next, *after) : std::nullopt;
@@ -310,12 +314,23 @@ std::optional<CivilDay> dayFromIso(std::string_view text) {
   return isValid(day) ? std::optional(day) : std::nullopt;
 }
 
+/// `day` as the form writes it, whether that reads back or not.
+std::string writtenText(const CivilDay& day, const Form& form) {
+  std::string text = form.texts.front();
+  for (std::size_t i = 0; i < form.fields.size(); ++i) {
+    text += fieldText(day, form.fields[i], form) + form.texts[i + 1];
+  }
+  return text;
+}
+
 std::optional<CivilDay> dayFromText(std::string_view text, const Form* form) {
   const std::string plainText = plain(text);
-  if (form != nullptr) {
-    if (const auto day = Reader(*form).day(plainText)) return day;
-  }
-  return dayFromIso(trimmed(plainText));
+  const auto isoDay = dayFromIso(trimmed(plainText));
+  if (form == nullptr) return isoDay;
+  const auto formDay = Reader(*form).day(plainText);
+  // What looks like ISO is ISO, unless it is just what the form writes for another day.
+  if (isoDay && formDay != isoDay && !(formDay && writtenText(*formDay, *form) == text)) return isoDay;
+  return formDay;
 }
 
 }  // namespace
@@ -324,10 +339,7 @@ std::string shortDateText(const CivilDay& day, const ShortDateForm& shortForm) {
   if (!isValid(day)) return {};
   const auto form = parsedForm(shortForm);
   if (!form) return isoText(day);
-  std::string text = form->texts.front();
-  for (std::size_t i = 0; i < form->fields.size(); ++i) {
-    text += fieldText(day, form->fields[i], *form) + form->texts[i + 1];
-  }
+  std::string text = writtenText(day, *form);
   return dayFromText(text, &*form) == day ? text : isoText(day);
 }
 

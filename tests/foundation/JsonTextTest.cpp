@@ -112,7 +112,7 @@ class AJsonText : public testing::TestWithParam<TextCase> {};
 TEST_P(AJsonText, isEscapedWhereItMust) {
   EXPECT_EQ(compact([](JsonText& json) { json.text(GetParam().text); }), GetParam().json);
   EXPECT_EQ(compact([](JsonText& json) { json.beginObject().key(GetParam().text).null().endObject(); }),
-            "{" + std::string(GetParam().json) + ":null}");
+            std::string("{").append(GetParam().json).append(":null}"));
 }
 
 INSTANTIATE_TEST_SUITE_P(
