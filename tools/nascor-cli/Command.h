@@ -55,6 +55,9 @@ struct Command {
 std::span<const Command> commands();
 
 // The families, each in a source of its own.
+Command jsonCommand();
+Command makeCommand();
+Command dumpCommand();
 Command weightCommand();
 Command crlCommand();
 Command standardCommand();

@@ -1,0 +1,123 @@
+#include <array>
+
+#include "archive/FormatError.h"
+#include "archive/TreeDump.h"
+#include "cli_commands/Command.h"
+#include "cli_commands/Documents.h"
+#include "cli_commands/Input.h"
+#include "cli_commands/PatientJsonReader.h"
+#include "model/PatientJson.h"
+#include "posix/PosixCalendar.h"
+#include "posix/PosixFileStore.h"
+
+namespace nascor::cli {
+
+namespace {
+
+void runJson(const Arguments& arguments, Console& console) {
+  const posix::PosixCalendar calendar;
+  for (const std::string& path : arguments.operands) {
+    const auto document = documentIn(path, console);
+    if (!document) continue;
+    foundation::JsonText json(console.out());
+    model::writePatientJson(json, *document->patient, calendar, model::JsonNumbers::asInFile);
+    console.lineDone();
+  }
+}
+
+void runMake(const Arguments& arguments, Console& console) {
+  const std::string& path = arguments.operands[0];
+  const std::string target = arguments.option("out").value_or("-");
+  if (target == "-" && console.outputIsTerminal()) {
+    throw UsageError(
+        "a document is no text for a terminal; give --out FILE or send standard output to a file");
+  }
+  const auto contents = contentsOf(path, console);
+  if (!contents) return;
+
+  PatientFromJson document;
+  try {
+    const std::string_view text(reinterpret_cast<const char*>(contents->data()), contents->size());
+    document = patientFromJson(text, posix::PosixCalendar());
+  } catch (const JsonDocumentError& error) {
+    console.complain(nameOf(path), error.what());
+    return;
+  }
+  for (const std::string& warning : document.warnings) console.warn(nameOf(path), warning);
+
+  const auto bytes = model::archivedPatient(*document.patient);
+  if (target == "-") {
+    console.writeBytes(bytes);
+  } else if (const auto error = posix::PosixFileStore().replaceContents(target, bytes)) {
+    console.complain(target, error->reason);
+  }
+}
+
+void runDump(const Arguments& arguments, Console& console) {
+  const bool asJson = arguments.has("json");
+  for (const std::string& path : arguments.operands) {
+    const auto contents = contentsOf(path, console);
+    if (!contents) continue;
+    try {
+      std::string tree = asJson ? archive::dumpAsJson(*contents) : archive::dumpAsText(*contents);
+      if (!asJson) {
+        if (arguments.operands.size() > 1) console.out() += oneLine(nameOf(path)) + ": ";
+        tree.pop_back();  // the last line end, which follows
+      }
+      console.out() += tree;
+      console.lineDone();
+    } catch (const archive::FormatError& error) {
+      console.complain(nameOf(path), error.what());
+    }
+  }
+}
+
+constexpr std::string_view kDocument = "a document; - is standard input";
+
+}  // namespace
+
+Command jsonCommand() {
+  static constexpr std::array<OperandSpec, 1> kOperands{{{"FILE...", kDocument, true}}};
+  return {
+      .name = "json",
+      .usage = "FILE...",
+      .summary = "Each document as JSON: every field that it holds, one object on a line.",
+      .details = "Dates are seconds since 2001-01-01 UTC; beside each stands its local time as ISO text.\n",
+      .operands = kOperands,
+      .options = {},
+      .run = runJson};
+}
+
+Command makeCommand() {
+  static constexpr std::array<OperandSpec, 1> kOperands{
+      {{"FILE.json", "a document as JSON; - is standard input"}}};
+  static constexpr std::array<OptionSpec, 1> kOptions{
+      {{"out", "FILE", "where to write it, as a whole or not at all; without it, or -, to standard output"}}};
+  return {.name = "make",
+          .usage = "FILE.json [--out FILE]",
+          .summary = "A document from JSON.",
+          .details =
+              "Reads what json prints. Every key may be missing; an unknown one is an error. A date is a "
+              "number of\n"
+              "seconds since 2001-01-01 UTC, an ISO date (2027-04-10 is local midnight), an ISO date and "
+              "time, or\n"
+              "null. Lengths are stored in single precision, whole numbers in 32 bits.\n",
+          .operands = kOperands,
+          .options = kOptions,
+          .run = runMake};
+}
+
+Command dumpCommand() {
+  static constexpr std::array<OperandSpec, 1> kOperands{
+      {{"FILE...", "any typed stream; - is standard input", true}}};
+  static constexpr std::array<OptionSpec, 1> kOptions{{{"json", "", "one JSON object a stream, on a line"}}};
+  return {.name = "dump",
+          .usage = "FILE... [--json]",
+          .summary = "All that a typed stream holds, as a tree; of any program, not only documents.",
+          .details = "Each line begins with the byte at which the value begins.\n",
+          .operands = kOperands,
+          .options = kOptions,
+          .run = runDump};
+}
+
+}  // namespace nascor::cli

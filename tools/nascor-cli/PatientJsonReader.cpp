@@ -1,0 +1,463 @@
+#include "cli_commands/PatientJsonReader.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <cstdint>
+#include <limits>
+#include <optional>
+#include <set>
+#include <span>
+#include <utility>
+#include <variant>
+
+#include <nlohmann/json.hpp>
+
+#include "foundation/ConvertInteger.h"
+#include "foundation/IsoDate.h"
+#include "foundation/JsonText.h"
+#include "foundation/NumberText.h"
+
+namespace nascor::cli {
+
+namespace {
+
+using foundation::Date;
+using model::MeasurementsRecord;
+using model::NCRecord;
+using model::PatientRecord;
+
+/// What the reader stands in: the next value belongs to it.
+enum class Place { top, patient, examinations, examination, measurements, fetus };
+
+enum class Kind { text, date, dateText, integer, number, list };
+
+enum class Key {
+  maternalIDString,
+  edd,
+  eddISO,
+  standard,
+  fetalWeightStandard,
+  numberOfFetuses,
+  extrapolatedGestation,
+  crlStandard,
+  gravida,
+  examinations,
+  note,
+  examDate,
+  examDateISO,
+  measurements,
+  bpd,
+  hc,
+  ac,
+  fl
+};
+
+struct Field {
+  std::string_view name;
+  Key key;
+  Kind kind;
+};
+
+constexpr std::array kPatientFields{
+    Field{"maternalIDString", Key::maternalIDString, Kind::text},
+    Field{"edd", Key::edd, Kind::date},
+    Field{"eddISO", Key::eddISO, Kind::dateText},
+    Field{"standard", Key::standard, Kind::integer},
+    Field{"fetalWeightStandard", Key::fetalWeightStandard, Kind::integer},
+    Field{"numberOfFetuses", Key::numberOfFetuses, Kind::integer},
+    Field{"extrapolatedGestation", Key::extrapolatedGestation, Kind::number},
+    Field{"crlStandard", Key::crlStandard, Kind::integer},
+    Field{"gravida", Key::gravida, Kind::integer},
+    Field{"examinations", Key::examinations, Kind::list},
+};
+constexpr std::array kExaminationFields{
+    Field{"note", Key::note, Kind::text},
+    Field{"examDate", Key::examDate, Kind::date},
+    Field{"examDateISO", Key::examDateISO, Kind::dateText},
+    Field{"measurements", Key::measurements, Kind::list},
+};
+constexpr std::array kFetusFields{
+    Field{"bpd", Key::bpd, Kind::number},
+    Field{"hc", Key::hc, Kind::number},
+    Field{"ac", Key::ac, Kind::number},
+    Field{"fl", Key::fl, Kind::number},
+};
+
+std::span<const Field> fieldsOf(Place place) {
+  switch (place) {
+    case Place::patient: return kPatientFields;
+    case Place::examination: return kExaminationFields;
+    case Place::fetus: return kFetusFields;
+    default: return {};
+  }
+}
+
+std::string_view expectedBy(Kind kind) {
+  switch (kind) {
+    case Kind::text: return "a text or null";
+    case Kind::date: return "a date (seconds since 2001-01-01 UTC, an ISO text) or null";
+    case Kind::dateText: return "an ISO date or null";
+    case Kind::integer: return "a whole number";
+    case Kind::number: return "a number, \"nan\", \"inf\" or \"-inf\"";
+    case Kind::list: return "a list";
+  }
+  return "";
+}
+
+/// In quotation marks, on one line, and not longer than a reader wants.
+std::string inQuotes(std::string_view text) {
+  constexpr std::size_t kLongest = 40;
+  std::size_t length = std::min(text.size(), kLongest);
+  while (length < text.size() && length > 0 && (static_cast<unsigned char>(text[length]) & 0xC0U) == 0x80U)
+    --length;
+  std::string result;
+  foundation::JsonText(result).text(text.substr(0, length));
+  if (length < text.size()) result.insert(result.size() - 1, "...");
+  return result;
+}
+
+/// A number as it was written: JSON tells whole numbers from others, and -0 is a whole number that has lost its sign.
+struct Number {
+  double value = 0.0;
+  std::optional<std::int64_t> integer;  ///< when it is whole and no longer than 64 bits
+  std::string written;
+};
+
+using Scalar = std::variant<std::nullptr_t, bool, Number, std::string>;
+
+std::string describe(const Scalar& value) {
+  if (std::holds_alternative<std::nullptr_t>(value)) return "null";
+  if (const auto* truth = std::get_if<bool>(&value)) return *truth ? "true" : "false";
+  if (const auto* number = std::get_if<Number>(&value)) {
+    const std::string text = inQuotes(number->written);
+    return text.substr(1, text.size() - 2);
+  }
+  return "the text " + inQuotes(std::get<std::string>(value));
+}
+
+/// Receives the parts of the JSON in their order. Each function answers whether to go on; after false there is an error.
+class Receiver final : public nlohmann::json_sax<nlohmann::json> {
+ public:
+  Receiver(std::string_view source, const foundation::Calendar& calendar)
+      : source_(source), calendar_(calendar) {
+    patient().setMaternalIDString("");
+    patient().setNumberOfFetuses(1);
+    patient().setExtrapolatedGestation(40.0);
+  }
+
+  const std::string& error() const { return error_; }
+  PatientFromJson takeResult() { return std::move(result_); }
+
+  bool null() override { return scalar(nullptr); }
+  bool boolean(bool value) override { return scalar(value); }
+  bool number_integer(number_integer_t value) override {
+    // Whole numbers without a minus sign come as unsigned ones: a zero here was -0.
+    const double asDouble = value == 0 ? -0.0 : static_cast<double>(value);
+    return scalar(Number{.value = asDouble, .integer = value, .written = std::to_string(value)});
+  }
+  bool number_unsigned(number_unsigned_t value) override {
+    Number number{.value = static_cast<double>(value), .integer = {}, .written = std::to_string(value)};
+    if (std::in_range<std::int64_t>(value)) number.integer = static_cast<std::int64_t>(value);
+    return scalar(std::move(number));
+  }
+  bool number_float(number_float_t value, const string_t& written) override {
+    constexpr double kTwoTo63 = 9223372036854775808.0;
+    Number number{.value = value, .integer = {}, .written = written};
+    if (value == std::trunc(value) && value >= -kTwoTo63 && value < kTwoTo63) {
+      number.integer = static_cast<std::int64_t>(value);
+    }
+    return scalar(std::move(number));
+  }
+  bool string(string_t& value) override { return scalar(std::move(value)); }
+  bool binary(binary_t&) override { return unexpected("binary data"); }
+
+  bool start_object(std::size_t) override {
+    switch (place_) {
+      case Place::top: place_ = Place::patient; break;
+      case Place::examinations:
+        place_ = Place::examination;
+        patient().ncRecordsArray().push_back(std::make_unique<NCRecord>());
+        examination().setNote("");
+        break;
+      case Place::measurements:
+        place_ = Place::fetus;
+        examination().measurements().emplace_back();
+        break;
+      default: return unexpected("an object");
+    }
+    level() = {};
+    field_ = nullptr;
+    return true;
+  }
+
+  bool key(string_t& name) override {
+    const auto fields = fieldsOf(place_);
+    const auto found = std::ranges::find(fields, std::string_view(name), &Field::name);
+    field_ = nullptr;
+    if (found == fields.end()) {
+      std::string names;
+      for (const Field& field : fields) names.append(names.empty() ? "" : ", ").append(field.name);
+      return refuse("one of the keys " + names, inQuotes(name));
+    }
+    field_ = &*found;
+    if (!level().seen.insert(field_->key).second) return refuseAt(pointer(), "each key once", "this one stands twice");
+    return true;
+  }
+
+  bool end_object() override {
+    field_ = nullptr;
+    switch (place_) {
+      case Place::patient:
+        if (!takeDateText(Key::edd, "/eddISO")) return false;
+        place_ = Place::top;
+        break;
+      case Place::examination:
+        if (!takeDateText(Key::examDate, "/examDateISO")) return false;
+        place_ = Place::examinations;
+        break;
+      default: place_ = Place::measurements;
+    }
+    return true;
+  }
+
+  bool start_array(std::size_t) override {
+    if (!field_ || field_->kind != Kind::list) return unexpected("a list");
+    place_ = field_->key == Key::examinations ? Place::examinations : Place::measurements;
+    field_ = nullptr;
+    return true;
+  }
+
+  bool end_array() override {
+    place_ = place_ == Place::examinations ? Place::patient : Place::examination;
+    return true;
+  }
+
+  bool parse_error(std::size_t position, const std::string&,
+                   const nlohmann::json::exception& reason) override {
+    error_ = placeInText(source_, position) + "expected JSON, but " + inPlainWords(reason.what());
+    return false;
+  }
+
+  /// `at line 3, column 14: `, from the number of bytes read so far; the last of them is the offending one.
+  static std::string placeInText(std::string_view source, std::size_t bytesRead) {
+    const std::string_view before = source.substr(0, bytesRead == 0 ? 0 : bytesRead - 1);
+    const auto lines = std::ranges::count(before, '\n');
+    const std::string_view line = before.substr(before.rfind('\n') + 1);  // npos + 1 is 0
+    const auto characters = std::ranges::count_if(line, [](char byte) { return !continuesCharacter(byte); });
+    return "at line " + std::to_string(lines + 1) + ", column " + std::to_string(characters + 1) + ": ";
+  }
+
+ private:
+  /// What was met within one object.
+  struct Level {
+    std::set<Key> seen;
+    std::optional<std::string> dateText;
+  };
+
+  PatientRecord& patient() { return *result_.patient; }
+  NCRecord& examination() { return *patient().ncRecordsArray().back(); }
+  MeasurementsRecord& fetus() { return examination().measurements().back(); }
+
+  Level& level() {
+    switch (place_) {
+      case Place::examination: return examinationLevel_;
+      case Place::fetus: return fetusLevel_;
+      default: return patientLevel_;
+    }
+  }
+
+  /// The JSON pointer of what is being read; empty at the top.
+  std::string pointer() {
+    std::string path;
+    if (place_ >= Place::examinations) {
+      const std::size_t count = patient().ncRecordsArray().size();
+      path += "/examinations/" + std::to_string(place_ == Place::examinations ? count : count - 1);
+    }
+    if (place_ >= Place::measurements) {
+      const std::size_t count = examination().measurements().size();
+      path += "/measurements/" + std::to_string(place_ == Place::measurements ? count : count - 1);
+    }
+    if (field_) path.append("/").append(field_->name);
+    return path;
+  }
+
+  bool refuseAt(const std::string& path, std::string_view expected, std::string_view found) {
+    error_ = (path.empty() ? "at the top" : "at " + path) + ": expected ";
+    error_.append(expected).append(", but ").append(found);
+    return false;
+  }
+  bool refuse(std::string_view expected, const std::string& found) {
+    return refuseAt(pointer(), expected, found + " stands here");
+  }
+  bool unexpected(const std::string& found) {
+    return refuse(field_ ? expectedBy(field_->kind) : "an object", found);
+  }
+
+  void warn(const std::string& sentence) { result_.warnings.push_back("at " + pointer() + ": " + sentence); }
+
+  bool scalar(Scalar value) {
+    const bool fits = field_ && store(value);
+    return fits || (error_.empty() ? unexpected(describe(value)) : false);
+  }
+
+  /// False when the value is not of the kind that the field holds.
+  bool store(Scalar& value) {
+    switch (field_->kind) {
+      case Kind::text: return storeText(value);
+      case Kind::date: return storeDate(value);
+      case Kind::dateText: {
+        if (auto* text = std::get_if<std::string>(&value)) level().dateText = std::move(*text);
+        return std::holds_alternative<std::string>(value) || isNull(value);
+      }
+      case Kind::integer: return storeInteger(value);
+      case Kind::number: return storeNumber(value);
+      case Kind::list: break;
+    }
+    return false;
+  }
+
+  bool storeText(Scalar& value) {
+    std::optional<std::string> text;
+    if (auto* given = std::get_if<std::string>(&value)) {
+      text = std::move(*given);
+    } else if (!isNull(value)) {
+      return false;
+    }
+    if (field_->key == Key::note) {
+      examination().setNote(std::move(text));
+    } else {
+      patient().setMaternalIDString(std::move(text));
+    }
+    return true;
+  }
+
+  bool storeDate(const Scalar& value) {
+    std::optional<Date> date;
+    if (const auto seconds = numberIn(value)) {
+      date = Date{*seconds};
+    } else if (const auto* text = std::get_if<std::string>(&value)) {
+      date = foundation::dateFromIsoText(*text, calendar_);
+      if (!date) return false;
+    } else if (!isNull(value)) {
+      return false;
+    }
+    setDate(field_->key, date);
+    return true;
+  }
+
+  void setDate(Key key, std::optional<Date> date) {
+    if (key == Key::examDate) {
+      examination().setExamDate(date);
+    } else {
+      patient().setEDD(date);
+    }
+  }
+
+  /// The text beside a date counts where the date itself is missing.
+  bool takeDateText(Key dateKey, std::string_view textKey) {
+    const std::optional<std::string>& text = level().dateText;
+    if (!text || level().seen.contains(dateKey)) return true;
+    const auto date = foundation::dateFromIsoText(*text, calendar_);
+    if (!date) {
+      return refuseAt(pointer().append(textKey), expectedBy(Kind::dateText),
+                      describe(*text) + " stands here");
+    }
+    setDate(dateKey, date);
+    return true;
+  }
+
+  bool storeInteger(const Scalar& value) {
+    const auto* number = std::get_if<Number>(&value);
+    if (!number) return false;
+    if (!number->integer) {
+      const bool isWhole = number->value == std::trunc(number->value);
+      return refuse(isWhole ? "a whole number of at most 64 bits" : "a whole number", describe(value));
+    }
+    const std::int64_t integer = *number->integer;
+    if (const std::int32_t low = foundation::low32Bits(integer); low != integer) {
+      warn(std::to_string(integer) + " is longer than 32 bits; the file holds the low 32, which are " +
+           std::to_string(low));
+    }
+    switch (field_->key) {
+      case Key::standard: patient().setStandard(integer); break;
+      case Key::fetalWeightStandard: patient().setFetalWeightStandard(integer); break;
+      case Key::numberOfFetuses: patient().setNumberOfFetuses(integer); break;
+      case Key::crlStandard: patient().setCRLStandard(integer); break;
+      default: patient().setGravida(integer);
+    }
+    return true;
+  }
+
+  bool storeNumber(const Scalar& value) {
+    const auto number = numberIn(value);
+    if (!number) return false;
+    if (std::isfinite(*number) && !std::isfinite(foundation::narrowedToFloat(*number))) {
+      warn(foundation::shortestText(*number) + " is beyond single precision; the file holds " +
+           foundation::shortestText(foundation::narrowedToFloat(*number)));
+    }
+    switch (field_->key) {
+      case Key::bpd: fetus().setBPD(*number); break;
+      case Key::hc: fetus().setHC(*number); break;
+      case Key::ac: fetus().setAC(*number); break;
+      case Key::fl: fetus().setFL(*number); break;
+      default: patient().setExtrapolatedGestation(*number);
+    }
+    return true;
+  }
+
+  static bool isNull(const Scalar& value) { return std::holds_alternative<std::nullptr_t>(value); }
+
+  /// A number, or one of the three texts for those that JSON lacks.
+  static std::optional<double> numberIn(const Scalar& value) {
+    if (const auto* number = std::get_if<Number>(&value)) return number->value;
+    const auto* text = std::get_if<std::string>(&value);
+    if (!text) return std::nullopt;
+    constexpr double kInfinity = std::numeric_limits<double>::infinity();
+    for (const double special : {std::numeric_limits<double>::quiet_NaN(), kInfinity, -kInfinity}) {
+      if (*text == foundation::shortestText(special)) return special;
+    }
+    return std::nullopt;
+  }
+
+  static bool continuesCharacter(char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U; }
+
+  /// The library's reason without its own account of the place and without what it read last, which may be long.
+  static std::string inPlainWords(std::string_view reason) {
+    if (reason.find("number overflow") != std::string_view::npos) return "this number is beyond 64 bits";
+    if (const auto dash = reason.find(" - "); dash != std::string_view::npos) reason.remove_prefix(dash + 3);
+    std::string words(reason);
+    const auto lastRead = words.find("; last read: ");
+    const auto expected = words.rfind("; expected ");
+    if (lastRead == std::string::npos) return words;
+    const bool expectedFollows = expected != std::string::npos && expected > lastRead;
+    words.erase(lastRead, (expectedFollows ? expected : words.size()) - lastRead);
+    return words;
+  }
+
+  std::string_view source_;
+  const foundation::Calendar& calendar_;
+  PatientFromJson result_{.patient = std::make_unique<PatientRecord>(), .warnings = {}};
+  std::string error_;
+  Place place_ = Place::top;
+  const Field* field_ = nullptr;  ///< of the object at hand, once its key is read
+  Level patientLevel_;
+  Level examinationLevel_;
+  Level fetusLevel_;
+};
+
+}  // namespace
+
+PatientFromJson patientFromJson(std::string_view text, const foundation::Calendar& calendar) {
+  // The library takes a zero byte for the end, whatever follows.
+  if (const auto zero = text.find('\0'); zero != std::string_view::npos) {
+    throw JsonDocumentError(Receiver::placeInText(text, zero + 1) +
+                            "expected JSON, but a zero byte stands here");
+  }
+  Receiver receiver(text, calendar);
+  if (!nlohmann::json::sax_parse(text.begin(), text.end(), &receiver))
+    throw JsonDocumentError(receiver.error());
+  return receiver.takeResult();
+}
+
+}  // namespace nascor::cli

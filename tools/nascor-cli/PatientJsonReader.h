@@ -1,0 +1,34 @@
+#pragma once
+
+#include <memory>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "foundation/Calendar.h"
+#include "model/PatientRecord.h"
+
+namespace nascor::cli {
+
+/// A text that is no document in JSON. `what()` is one sentence: the place (line and column where the JSON itself is
+/// broken, else a JSON pointer such as /examinations/2/measurements/0/bpd), what was expected and what stands there.
+/// It names no file.
+class JsonDocumentError : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+struct PatientFromJson {
+  std::unique_ptr<model::PatientRecord> patient;  ///< never null
+  /// What a document's file cannot hold as it stands, a sentence each: whole numbers beyond 32 bits, numbers that are
+  /// infinite in single precision.
+  std::vector<std::string> warnings;
+};
+
+/// Reads what `json` prints (docs/json.md). A key may be missing; an unknown one, or one that stands twice, is an error.
+/// The text must be UTF-8 and hold nothing but the document. Dates without a zone are local times of `calendar`.
+/// Throws JsonDocumentError.
+PatientFromJson patientFromJson(std::string_view text, const foundation::Calendar& calendar);
+
+}  // namespace nascor::cli
