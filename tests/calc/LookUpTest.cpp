@@ -161,6 +161,14 @@ TEST(MeanAndSDForGestation, areReckonedToTheLastBit) {
   }
 }
 
+TEST(MeanAndSDForGestation, divideByTheDistanceOfTheRowsBeforeTheyMultiply) {
+  // No table of the program has such a gap; over a week the order of the two would not show.
+  const ReferenceTable gap{DatabaseRecord::initWithData(10.0, 20.1, 1.0),
+                           DatabaseRecord::initWithData(13.0, 50.7, 2.0)};
+  EXPECT_TRUE(isExactly(meanForGestation(gap, 11.0), 30.3));
+  EXPECT_TRUE(isExactly(meanForGestation(gap, 12.5), 45.60000000000001));
+}
+
 TEST(MeanAndSDForGestation, areThoseOfTheRowAtEveryWholeWeekOfEveryTable) {
   forEveryTable([](const ReferenceTable& table, const std::string& name) {
     for (const DatabaseRecord& row : table) {
