@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QApplication>
+#include <QString>
+
+namespace nascor::qt {
+
+QString programVersion();
+/// What stands wherever the program introduces itself.
+QString disclaimer();
+
+/// Why no text could be painted, in one sentence; nothing where there is a font. A PDF without fonts would have no text,
+/// and nobody would say so.
+QString missingFontSentence();
+
+/// The application and its edge: an exception in an event abandons what the event began, is told on standard error with
+/// its place in the sources, and goes no further.
+class Application final : public QApplication {
+ public:
+  Application(int& argc, char** argv);
+  bool notify(QObject* receiver, QEvent* event) override;
+};
+
+}  // namespace nascor::qt

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QLocale>
+
+#include "foundation/NotificationCenter.h"
+#include "foundation/Services.h"
+#include "posix/PosixCalendar.h"
+#include "posix/PosixFileStore.h"
+#include "posix/SystemClock.h"
+#include "qt/QtLocalizer.h"
+#include "qt/QtUserDefaults.h"
+#include "qt/SystemLog.h"
+
+namespace nascor::qt {
+
+/// Registers the program's five preferences. Before any document: a new patient takes the standards from them.
+void registerDefaults(foundation::UserDefaults& defaults);
+
+/// The application's answers to what documents ask of the platform. Outlives all documents.
+class Platform {
+ public:
+  explicit Platform(QLocale locale);
+  Platform(const Platform&) = delete;
+  Platform& operator=(const Platform&) = delete;
+
+  foundation::Services services();
+
+ private:
+  posix::SystemClock clock_;
+  posix::PosixCalendar calendar_;
+  QtLocalizer localizer_;
+  QtUserDefaults defaults_;
+  posix::PosixFileStore files_;
+  SystemLog log_;
+  foundation::NotificationCenter notifications_;
+};
+
+}  // namespace nascor::qt

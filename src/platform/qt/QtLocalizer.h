@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QLocale>
+
+#include "foundation/Localizer.h"
+
+namespace nascor::qt {
+
+/// Texts from the translations that the application has installed, ways of writing from a locale.
+class QtLocalizer final : public foundation::Localizer {
+ public:
+  explicit QtLocalizer(QLocale locale) : locale_(std::move(locale)) {}
+
+  std::string text(std::string_view table, std::string_view key) const override;
+  foundation::ShortDateForm shortDateForm() const override;
+  /// A point where the locale's own sign is no single byte.
+  char decimalSign() const override;
+
+ private:
+  QLocale locale_;
+};
+
+}  // namespace nascor::qt
