@@ -2,10 +2,10 @@
 
 namespace nascor::foundation {
 
-AssertionFailure::AssertionFailure(const std::string& description, std::source_location where)
+AssertionFailure::AssertionFailure(const std::string& description, SourceLocation where)
     : std::logic_error(description + " (" + where.file_name() + ":" + std::to_string(where.line()) + ")"),
       where_(where) {}
 
-void throwValueIsNil(std::source_location where) { throw AssertionFailure("Value==nil", where); }
+void throwValueIsNil(SourceLocation where) { throw AssertionFailure("Value==nil", where); }
 
 }  // namespace nascor::foundation

@@ -1,9 +1,10 @@
 #pragma once
 
-#include <source_location>
 #include <stdexcept>
 #include <string>
 #include <utility>
+
+#include "foundation/SourceLocation.h"
 
 namespace nascor::foundation {
 
@@ -11,19 +12,19 @@ namespace nascor::foundation {
 /// with a message that names the source file and line, and never ends the process: documents may be unsaved.
 class AssertionFailure : public std::logic_error {
  public:
-  AssertionFailure(const std::string& description, std::source_location where);
-  const std::source_location& where() const { return where_; }
+  AssertionFailure(const std::string& description, SourceLocation where);
+  const SourceLocation& where() const { return where_; }
 
  private:
-  std::source_location where_;
+  SourceLocation where_;
 };
 
-[[noreturn]] void throwValueIsNil(std::source_location where);
+[[noreturn]] void throwValueIsNil(SourceLocation where);
 
 /// `value` itself when it is there (a pointer or an optional that is not empty); otherwise an
 /// AssertionFailure "Value==nil".
 template <class Value>
-Value&& required(Value&& value, std::source_location where = std::source_location::current()) {
+Value&& required(Value&& value, SourceLocation where = SourceLocation::current()) {
   if (!value) throwValueIsNil(where);
   return std::forward<Value>(value);
 }

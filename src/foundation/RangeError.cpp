@@ -2,7 +2,7 @@
 
 namespace nascor::foundation {
 
-void throwRangeError(std::string index, std::size_t count, std::source_location where) {
+void throwRangeError(std::string index, std::size_t count, SourceLocation where) {
   throw RangeError("index " + std::move(index) + " is outside the " + std::to_string(count) + " elements",
                    where);
 }

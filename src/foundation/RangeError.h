@@ -2,10 +2,11 @@
 
 #include <concepts>
 #include <cstdint>
-#include <source_location>
 #include <stdexcept>
 #include <string>
 #include <utility>
+
+#include "foundation/SourceLocation.h"
 
 namespace nascor::foundation {
 
@@ -13,20 +14,18 @@ namespace nascor::foundation {
 /// program alone (the event loop, the scripting interface, the command line's main).
 class RangeError : public std::out_of_range {
  public:
-  RangeError(const std::string& what, std::source_location where)
-      : std::out_of_range(what), where_(where) {}
-  const std::source_location& where() const { return where_; }
+  RangeError(const std::string& what, SourceLocation where) : std::out_of_range(what), where_(where) {}
+  const SourceLocation& where() const { return where_; }
 
  private:
-  std::source_location where_;
+  SourceLocation where_;
 };
 
-[[noreturn]] void throwRangeError(std::string index, std::size_t count, std::source_location where);
+[[noreturn]] void throwRangeError(std::string index, std::size_t count, SourceLocation where);
 
 /// The element at `index`, or a RangeError; negative indices are out of range like any other.
 template <class Container, std::integral Index>
-auto& checkedAt(Container& container, Index index,
-                std::source_location where = std::source_location::current()) {
+auto& checkedAt(Container& container, Index index, SourceLocation where = SourceLocation::current()) {
   if (std::cmp_less(index, 0) || std::cmp_greater_equal(index, container.size())) {
     throwRangeError(std::to_string(index), container.size(), where);
   }

@@ -3,13 +3,13 @@
 #include <algorithm>
 #include <exception>
 #include <new>
-#include <source_location>
 
 #include <CLI/CLI.hpp>
 
 #include "cli_commands/Command.h"
 #include "foundation/Assertion.h"
 #include "foundation/RangeError.h"
+#include "foundation/SourceLocation.h"
 
 namespace nascor::cli {
 
@@ -162,7 +162,7 @@ int parseAndRun(int argc, char** argv, Console& console) {
   }
 }
 
-std::string placeOf(const std::source_location& where) {
+std::string placeOf(const foundation::SourceLocation& where) {
   return std::string(" (") + where.file_name() + ", line " + std::to_string(where.line()) + ")";
 }
 
