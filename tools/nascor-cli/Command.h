@@ -55,6 +55,8 @@ struct Command {
 std::span<const Command> commands();
 
 // The families, each in a source of its own.
+Command reportCommand();
+Command checkCommand();
 Command jsonCommand();
 Command makeCommand();
 Command dumpCommand();

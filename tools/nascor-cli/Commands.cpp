@@ -9,9 +9,9 @@ std::optional<std::string> Arguments::option(std::string_view name) const {
 }
 
 std::span<const Command> commands() {
-  static const std::vector<Command> kCommands{weightCommand(), crlCommand(),  standardCommand(),
-                                              lookupCommand(), makeCommand(), jsonCommand(),
-                                              dumpCommand()};
+  static const std::vector<Command> kCommands{reportCommand(), checkCommand(),    makeCommand(),
+                                              jsonCommand(),   dumpCommand(),     weightCommand(),
+                                              crlCommand(),    standardCommand(), lookupCommand()};
   return kCommands;
 }
 

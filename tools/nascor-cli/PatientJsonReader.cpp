@@ -201,7 +201,8 @@ class Receiver final : public nlohmann::json_sax<nlohmann::json> {
       return refuse("one of the keys " + names, inQuotes(name));
     }
     field_ = &*found;
-    if (!level().seen.insert(field_->key).second) return refuseAt(pointer(), "each key once", "this one stands twice");
+    if (!level().seen.insert(field_->key).second)
+      return refuseAt(pointer(), "each key once", "this one stands twice");
     return true;
   }
 

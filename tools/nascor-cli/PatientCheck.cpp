@@ -1,0 +1,171 @@
+#include "cli_commands/PatientCheck.h"
+
+#include <cmath>
+#include <utility>
+
+#include "calc/Dating.h"
+#include "calc/EditingBounds.h"
+#include "calc/FetalWeight.h"
+#include "calc/Report.h"
+#include "calc/Standards.h"
+#include "cli_commands/Table.h"
+#include "foundation/IsoDate.h"
+#include "foundation/NumberText.h"
+#include "model/ClassNames.h"
+
+namespace nascor::cli {
+
+namespace {
+
+using foundation::shortestText;
+using model::NCRecord;
+using model::PatientRecord;
+
+class Check {
+ public:
+  Check(const model::UnarchivedPatient& document, const foundation::Calendar& calendar)
+      : facts_(document.facts), patient_(*document.patient), calendar_(calendar) {}
+
+  std::vector<Oddity> run() {
+    file();
+    patient();
+    for (std::size_t i = 0; i < patient_.ncRecordsArray().size(); ++i) examination(i);
+    return std::move(oddities_);
+  }
+
+ private:
+  void file() {
+    if (facts_.byteOrder == archive::ByteOrder::big) add("byteOrder", "its byte order is big");
+    version(model::class_name::patientRecord, facts_.patientVersion, model::class_version::patientRecord);
+    version(model::class_name::ncRecord, facts_.ncRecordVersion, model::class_version::ncRecord);
+    version(model::class_name::measurementsRecord, facts_.measurementsVersion,
+            model::class_version::measurementsRecord);
+    if (facts_.patientVersion >= model::class_version::patientRecord &&
+        facts_.gravidityText != kNoGravidityText) {
+      add("gravidityText", facts_.gravidityText
+                               ? "the old place of the gravidity holds " + inQuotes(*facts_.gravidityText)
+                               : "the old place of the gravidity holds nothing");
+    }
+    if (facts_.missingArrays > 0)
+      add("missingList", counted(facts_.missingArrays, "list is", "lists are") + " missing");
+    if (facts_.sharedRecords > 0) {
+      add("sharedRecord",
+          counted(facts_.sharedRecords, "record stands", "records stand") + " in several places");
+    }
+    if (facts_.trailingBytes > 0) {
+      add("trailingBytes", counted(facts_.trailingBytes, "byte follows", "bytes follow") + " the patient");
+    }
+  }
+
+  void version(std::string_view className, std::optional<std::int64_t> found, std::int64_t written) {
+    if (!found || *found == written) return;
+    add("classVersion", std::string(className) + " has version " + std::to_string(*found) +
+                            (*found < written ? ", older than " : ", newer than ") + std::to_string(written));
+  }
+
+  void patient() {
+    if (!patient_.maternalIDString()) add("missingText", "the identifier is missing");
+    date(patient_.edd(), "EDD");
+    if (patient_.gravida() < calc::kLeastGravida) {
+      add("bounds", "the gravidity " + std::to_string(patient_.gravida()) + " is negative");
+    }
+    identifier("growth standard", patient_.standard(), calc::growthStandard(patient_.standard()) != nullptr);
+    identifier("weight formula", patient_.fetalWeightStandard(),
+               calc::weightFormula(patient_.fetalWeightStandard()) != nullptr);
+    identifier("CRL formula", patient_.crlStandard(), calc::crlFormula(patient_.crlStandard()) != nullptr);
+    const auto days = calc::plannedDeliveryDays(patient_.standard());
+    const double planned = calc::deliveryAdjustment(patient_.extrapolatedGestation());
+    if (!days.permit(planned)) {
+      add("plannedDelivery", "the planned delivery, " + shortestText(planned) +
+                                 " days from 40 weeks, is outside " + shortestText(days.least) + " to " +
+                                 shortestText(days.greatest) + " days");
+    }
+    const std::int64_t fetuses = patient_.numberOfFetuses();
+    if (fetuses < calc::kFewestFetuses || fetuses > calc::kMostFetuses) {
+      add("fetusCount", "the number of fetuses, " + std::to_string(fetuses) + ", is outside " +
+                            std::to_string(calc::kFewestFetuses) + " to " +
+                            std::to_string(calc::kMostFetuses));
+    }
+    if (patient_.ncRecordsArray().empty()) add("noExamination", "there is no examination");
+  }
+
+  void identifier(std::string_view what, std::int64_t value, bool isKnown) {
+    if (!isKnown)
+      add("unknownStandard", "the " + std::string(what) + " " + std::to_string(value) + " is unknown");
+  }
+
+  void examination(std::size_t index) {
+    const NCRecord& examination = *patient_.ncRecordsArray()[index];
+    examination_ = index + 1;
+    if (!examination.note()) add("missingText", "the note is missing");
+    date(examination.examDate(), "date");
+    if (index > 0 && examination.compare(*patient_.ncRecordsArray()[index - 1]) < 0) {
+      add("order", "it is earlier than the one before it");
+    }
+    const auto& measurements = examination.measurements();
+    if (!std::cmp_equal(measurements.size(), patient_.numberOfFetuses())) {
+      add("fetusCount", "it has " + counted(measurements.size(), "fetus", "fetuses") + ", the patient " +
+                            std::to_string(patient_.numberOfFetuses()));
+    }
+    for (std::size_t fetus = 0; fetus < measurements.size(); ++fetus) {
+      fetus_ = fetus + 1;
+      for (const calc::Measurement measurement : calc::kMeasurements) {
+        length(measurement, measurements[fetus].biometry().*calc::memberFor(measurement));
+      }
+    }
+    fetus_.reset();
+    examination_.reset();
+  }
+
+  void length(calc::Measurement measurement, double value) {
+    const auto bounds = calc::editingBounds(measurement);
+    if (bounds.permit(value)) return;
+    add("bounds", inCapitals(calc::nameOf(measurement)) + " " + shortestText(value) + " mm is outside " +
+                      shortestText(bounds.least) + " to " + shortestText(bounds.greatest) + " mm");
+  }
+
+  void date(const std::optional<foundation::Date>& date, const std::string& name) {
+    if (!date) {
+      add("missingDate", "the " + name + " is missing");
+    } else if (!std::isfinite(date->secondsSince2001)) {
+      add("date", "the " + name + " is " + shortestText(date->secondsSince2001));
+    } else if (isoDayText(*date, calendar_).empty()) {
+      add("date", "the " + name + ", " + shortestText(date->secondsSince2001) +
+                      " s from 2001-01-01, is outside the years 1 to 9999");
+    }
+  }
+
+  void add(std::string_view kind, const std::string& sentence) {
+    std::string text;
+    if (examination_) text += "examination " + std::to_string(*examination_);
+    if (fetus_) text += ", fetus " + std::to_string(*fetus_);
+    if (!text.empty()) text += ": ";
+    oddities_.push_back(
+        {.kind = kind, .text = text + sentence, .examination = examination_, .fetus = fetus_});
+  }
+
+  static std::string counted(std::size_t count, std::string_view one, std::string_view many) {
+    return std::to_string(count) + " " + std::string(count == 1 ? one : many);
+  }
+
+  static std::string inQuotes(const std::string& text) { return '"' + text + '"'; }
+
+  /// What stands in the old place since the gravidity is a number of its own.
+  static constexpr std::string_view kNoGravidityText = "Deprecated";
+
+  const model::ArchiveFacts& facts_;
+  const PatientRecord& patient_;
+  const foundation::Calendar& calendar_;
+  std::vector<Oddity> oddities_;
+  std::optional<std::size_t> examination_;
+  std::optional<std::size_t> fetus_;
+};
+
+}  // namespace
+
+std::vector<Oddity> odditiesOf(const model::UnarchivedPatient& document,
+                               const foundation::Calendar& calendar) {
+  return Check(document, calendar).run();
+}
+
+}  // namespace nascor::cli
