@@ -7,6 +7,7 @@
 #include <optional>
 #include <set>
 #include <string>
+#include <vector>
 
 #include "ExpectedValues.h"
 #include "support/Bits.h"
@@ -305,6 +306,58 @@ TEST(PlannedDelivery, countsDaysFromTheEdd) {
     EXPECT_TRUE(isExactly(plannedDeliveryDate(Date{0.0}, row.days, kUtc).secondsSince2001, row.seconds))
         << row.days;
   }
+}
+
+// From an age to an examination.
+
+TEST(DateAtAge, liesTheRestOf40WeeksBeforeTheEdd) {
+  struct Case {
+    double edd;
+    double weeks;
+    double date;
+  };
+  constexpr Case kCases[] = {
+      {0.0, 40.0, 0.0},
+      {0.0, 20.5, -11793600.0},
+      {0.0, 33.3, -4052160.000000002},
+      {0.0, 41.7, 1028160.0000000017},
+      {787467600.0, 12.1, 770593680.0},
+      {0.0, kNaN, kNaN},
+  };
+  for (const Case& row : kCases) {
+    EXPECT_TRUE(isExactly(dateAtAge(Date{row.edd}, row.weeks, kUtc).secondsSince2001, row.date)) << row.weeks;
+  }
+}
+
+TEST(DateAtAge, isALocalMidnightForALocalMidnightAndAWholeDay) {
+  // New York: 140 days before 2025-12-15 is 2025-07-28, in summer.
+  const Zone newYork = tests::newYork();
+  EXPECT_TRUE(isExactly(dateAtAge(Date{787467600.0}, 20.0, newYork.calendar).secondsSince2001, 775368000.0));
+}
+
+TEST(NearestDate, isTheFirstOfTheNearestWithinElevenDaysAndAHalf) {
+  using Dates = std::vector<std::optional<Date>>;
+  const auto at = [](double seconds) { return std::optional(Date{seconds}); };
+  struct Case {
+    const char* name;
+    Dates dates;
+    std::size_t nearest;
+  };
+  const Case kCases[] = {
+      {"none at all", {}, 0},
+      {"the only one", {at(5.0)}, 0},
+      {"the second", {at(-100.0), at(99.0)}, 1},
+      {"the earlier in the list of equals", {at(-100.0), at(100.0)}, 0},
+      {"equal in whole seconds", {at(-100.0), at(99.5), at(100.9)}, 1},
+      {"equal in whole seconds, the later one a little nearer", {at(-100.9), at(100.1)}, 0},
+      {"none within reach shows the first", {at(-5e6), at(2e6), at(999999.0)}, 0},
+      {"just within reach", {at(-5e6), at(2e6), at(999998.9)}, 2},
+      {"just within reach on the other side", {at(-5e6), at(-999998.0)}, 1},
+      {"without a date", {std::nullopt, at(50.0), std::nullopt}, 1},
+      {"none has a date", {std::nullopt, std::nullopt}, 0},
+      {"a date beyond all integers", {at(kInfinity), at(-1e300), at(4.0)}, 2},
+  };
+  for (const Case& row : kCases) EXPECT_EQ(nearestDate(Date{0.0}, row.dates), row.nearest) << row.name;
 }
 
 // The EDD on the wall clock. The instants come from the zones' own rules, in seconds since 2001.
