@@ -21,7 +21,7 @@ std::optional<std::size_t> refusal(std::string (*dump)(std::span<const std::byte
                                    std::span<const std::byte> stream) {
   try {
     const std::string text = dump(stream);
-    if (text.size() > 100'000'000 + 2'000 * stream.size()) std::abort();
+    if (text.size() > 1'000'000 + 1'000 * stream.size()) std::abort();
     return std::nullopt;
   } catch (const FormatError& error) {
     if (error.offset() > stream.size()) std::abort();

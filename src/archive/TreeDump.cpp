@@ -13,8 +13,8 @@
 namespace nascor::archive {
 namespace {
 
-/// Known streams give 10 to 25 bytes of text a byte; the deepest indentation could give 600.
-constexpr std::size_t kTextPerByte = 1000;
+/// Known streams give up to 25 bytes of text a byte, the deepest indentation gives some 120.
+constexpr std::size_t kTextPerByte = 250;
 constexpr std::size_t kTextAllowed = 64 * 1024;
 
 std::string hexDigits(std::span<const std::byte> bytes) {
@@ -259,10 +259,11 @@ class TextForm final : public Form {
 
   void line(std::size_t offset, const std::string& text) {
     constexpr std::size_t kOffsetWidth = 8;
+    constexpr std::size_t kDeepestIndentation = 50;
     const std::string place = std::to_string(offset);
     out.append(kOffsetWidth - std::min(kOffsetWidth, place.size()), ' ');
     out += place;
-    out.append(2 + 2 * depth_, ' ');
+    out.append(2 + 2 * std::min(depth_, kDeepestIndentation), ' ');
     out += text;
     out += '\n';
   }

@@ -2,6 +2,7 @@
 
 #include <bit>
 #include <stdexcept>
+#include <utility>
 
 namespace nascor::archive {
 namespace {
@@ -114,7 +115,7 @@ std::optional<std::size_t> TypedStreamReader::takeShared(std::string_view wanted
       ++position_;
       const auto text = takeUnshared(wanted);
       if (!text) refuse(begin, wanted, "its text is nil");
-      strings_.push_back({.text = *text, .types = {}, .parsed = false});
+      strings_.push_back({.text = *text, .types = {}, .parsed = false, .namesAClass = false});
       return strings_.size() - 1;
     }
     default: return takeNumberBelow(strings_.size(), "string", wanted);
@@ -141,7 +142,9 @@ ClassValue TypedStreamReader::takeClass(std::string_view wanted) {
     const Label label = labels_.size();
     labels_.push_back(
         {.kind = LabelKind::cls, .complete = true, .cls = std::nullopt, .string = *name, .version = version});
-    classes_.try_emplace(strings_[*name].text, label);
+    // Only once for each text: a short file can name one long text very often, and looking it up takes its
+    // length.
+    if (!std::exchange(strings_[*name].namesAClass, true)) classes_.try_emplace(strings_[*name].text, label);
     if (value.newRecords == 0) {
       value.label = label;
     } else {

@@ -153,7 +153,8 @@ class TypedStreamReader {
   struct SharedString {
     std::string_view text;
     std::vector<TypeNode> types;
-    bool parsed;
+    bool parsed;       // types are those of the text
+    bool namesAClass;  // and stands in classes_
   };
 
   // `wanted` is what the caller expected, in words ("an object"), for the message.

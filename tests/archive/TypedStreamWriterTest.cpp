@@ -282,6 +282,21 @@ TEST(WritingADocument, givesAFreshPatientByteForByte) {
   EXPECT_EQ(std::move(writer).finish(), freshPatient());
 }
 
+// The stream that docs/file-format.md goes through byte by byte.
+TEST(WritingADocument, givesTheStreamOfTheManual) {
+  TypedStreamWriter writer;
+  writer.putObject(kArray);
+  writer.putInt(2);
+  const Label text = writer.putObject(kString);
+  writer.putString("AB");
+  writer.endObject();
+  writer.putReference(text);
+  writer.endObject();
+  EXPECT_EQ(std::move(writer).finish(),
+            little("84 01 '@' 84 84 84 07 'NSArray' 00 84 84 08 'NSObject' 00 85 84 01 'i' 02"
+                   "92 84 84 84 08 'NSString' 01 94 84 01 '+' 02 'AB' 86 92 95 86"));
+}
+
 TEST(WritingADocument, canStateAnotherSystemVersion) {
   TypedStreamWriter writer(7);
   EXPECT_EQ(std::move(writer).finish(), bytes("04 0b 'streamtyped' 07"));
