@@ -1,6 +1,6 @@
 #include "qt/Application.h"
 
-#include <QFontDatabase>
+#include <QFontInfo>
 #include <cstdio>
 #include <exception>
 #include <string>
@@ -23,7 +23,7 @@ QString disclaimer() {
 }
 
 QString missingFontSentence() {
-  if (!QFontDatabase::families().isEmpty()) return {};
+  if (!QFontInfo(QApplication::font()).family().isEmpty()) return {};
   return QCoreApplication::translate(
       "Application",
       "No font is installed, so no text could be shown. Please install one, such as DejaVu Sans.");
