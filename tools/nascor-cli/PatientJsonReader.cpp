@@ -425,17 +425,13 @@ class Receiver final : public nlohmann::json_sax<nlohmann::json> {
 
   static bool continuesCharacter(char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U; }
 
-  /// The library's reason without its own account of the place and without what it read last, which may be long.
+  /// The library's reason without its own account of the place, and without what it read last and what follows that:
+  /// the text may be long, and may look like the rest of the reason.
   static std::string inPlainWords(std::string_view reason) {
+    reason = reason.substr(0, reason.find("; last read: "));
     if (reason.find("number overflow") != std::string_view::npos) return "this number is beyond 64 bits";
     if (const auto dash = reason.find(" - "); dash != std::string_view::npos) reason.remove_prefix(dash + 3);
-    std::string words(reason);
-    const auto lastRead = words.find("; last read: ");
-    const auto expected = words.rfind("; expected ");
-    if (lastRead == std::string::npos) return words;
-    const bool expectedFollows = expected != std::string::npos && expected > lastRead;
-    words.erase(lastRead, (expectedFollows ? expected : words.size()) - lastRead);
-    return words;
+    return std::string(reason);
   }
 
   std::string_view source_;
