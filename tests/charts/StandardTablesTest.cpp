@@ -24,6 +24,13 @@ TEST_F(AChartsTable, isThatOfTheUsersPreferenceBeforeThereIsADocument) {
   EXPECT_EQ(chart->referenceTitle(), "Nascor Standard: CFEF (Biométrie 2000)");
 }
 
+TEST_F(AChartsTable, isRebuiltByThePreferenceWhileThereIsNoDocument) {
+  const auto chart = framework::make<BPDGraphView>(platform.services(), {});
+  platform.defaults.setValue(foundation::defaults_key::standard, "3");
+  platform.notifications.post(NotificationName::updateStandards, nullptr);
+  EXPECT_EQ(chart->standardData().size(), 25U);
+}
+
 TEST_F(AChartsTable, isThatOfTheDocumentOnceItHasOne) {
   platform.defaults.setValue(foundation::defaults_key::standard, "3");
   document.growthStandard = 1;
