@@ -15,7 +15,7 @@ namespace {
 
 /// Known streams give up to 25 bytes of text a byte, the deepest indentation gives some 120.
 constexpr std::size_t kTextPerByte = 250;
-constexpr std::size_t kTextAllowed = 64 * 1024;
+constexpr std::size_t kTextAllowed = 65'536;
 
 std::string hexDigits(std::span<const std::byte> bytes) {
   constexpr std::string_view kDigits = "0123456789abcdef";

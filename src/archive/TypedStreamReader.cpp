@@ -35,8 +35,7 @@ TypedStreamReader::TypedStreamReader(std::span<const std::byte> bytes) : bytes_(
 
 // ---- Bytes and numbers
 
-void TypedStreamReader::refuse(std::size_t offset, std::string_view wanted,
-                               const std::string& instead) const {
+void TypedStreamReader::refuse(std::size_t offset, std::string_view wanted, const std::string& instead) {
   throw FormatError(offset, "expected " + std::string(wanted) + ", but " + instead);
 }
 

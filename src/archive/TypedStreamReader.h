@@ -158,8 +158,8 @@ class TypedStreamReader {
   };
 
   // `wanted` is what the caller expected, in words ("an object"), for the message.
-  [[noreturn]] void refuse(std::size_t offset, std::string_view wanted, const std::string& instead) const;
-  std::span<const std::byte> take(std::uint64_t count, std::string_view wanted);
+  [[noreturn]] static void refuse(std::size_t offset, std::string_view wanted, const std::string& instead);
+  std::span<const std::byte> take(std::uint64_t length, std::string_view wanted);
   int peekHead(std::string_view wanted) const;
   std::uint64_t takeFixed(std::size_t width, std::string_view wanted);
   std::int64_t takeNumber(std::string_view wanted);

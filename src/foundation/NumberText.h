@@ -12,7 +12,7 @@ namespace nascor::foundation {
 std::string shortestText(double value);
 
 /// What C's "%.*f" gives in the C locale: the exact value rounded to `decimals` places (0 to 9), ties
-/// to even. For the report and logs. No locale.
+/// to even; a NaN is `nan` whatever its sign bit. For the report and logs. No locale.
 std::string fixedText(double value, int decimals);
 
 /// What a number field shows: the exact decimal value rounded half away from zero to `decimals` places
@@ -21,7 +21,8 @@ std::string fixedText(double value, int decimals);
 std::string fieldText(double value, int decimals, char decimalSign);
 
 /// Reads a number field: blanks around, one sign, digits, one decimal point or comma. An empty or
-/// blank text is 0. Nothing for any other text (exponents, `inf`, `nan`, units, two signs).
+/// blank text is 0. Nothing for any other text (exponents, `inf`, `nan`, units, two signs) and for a
+/// number beyond the greatest double. A minus before zero is dropped.
 std::optional<double> numberFromFieldText(std::string_view text);
 
 /// The same for a field of whole numbers: no point or comma. Saturates at the 64-bit limits.

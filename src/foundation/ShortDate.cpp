@@ -102,8 +102,7 @@ bool isWhole(const Form& form) {
 std::optional<Unit> unitOf(char letter) {
   switch (letter) {
     case 'd': return Unit::day;
-    case 'M':
-    case 'L': return Unit::month;
+    case 'M': return Unit::month;
     case 'y': return Unit::year;
     default: return std::nullopt;
   }
@@ -127,8 +126,6 @@ std::optional<Form> parsedForm(const ShortDateForm& shortForm) {
       i += isDoubled ? 2 : 1;
     } else if (const auto unit = quoted ? std::nullopt : unitOf(character)) {
       const std::size_t end = std::min(pattern.find_first_not_of(character, i), pattern.size());
-      // Three letters and more of the day are the name of a day of the week.
-      if (*unit == Unit::day && end - i > 2) return std::nullopt;
       form.fields.push_back({.unit = *unit, .letters = end - i});
       if (form.fields.back().isName()) form.monthNames = shortForm.monthNames;
       form.texts.emplace_back();
@@ -176,8 +173,6 @@ class Reader {
     for (std::size_t month = 0; month < form.monthNames.size(); ++month) {
       addName(plain(form.monthNames[month]), static_cast<int>(month) + 1);
     }
-    std::stable_sort(names_.begin(), names_.end(),
-                     [](const Name& a, const Name& b) { return a.text.size() > b.text.size(); });
   }
 
   /// `text` is plain.

@@ -13,6 +13,8 @@ namespace {
 constexpr double kTick = 5.0;
 constexpr double kMinorTick = 3.0;
 constexpr double kGap = 3.0;
+/// From the middle of a number down to the lower edge of its box, which leaves room for letters that hang lower.
+constexpr double kBelowMiddle = 6.0;
 
 /// Calls `use` with the multiples of `interval` above `from`, and `from` itself, up to `to`. A range of more ticks than
 /// anybody could see apart has none.
@@ -93,7 +95,7 @@ void ZuPrimitiveGraphView::drawYAxis() {
     const std::string label = foundation::shortestText(y);
     const double width = canvas().textWidth(label, {});
     widest = std::max(widest, width);
-    canvas().text(label, {left - kTick - kGap - width, at - kTextHeight / 2.0}, {});
+    canvas().text(label, {left - kTick - kGap - width, at - kBelowMiddle}, {});
   });
   const double length = canvas().textWidth(yTitle_, {});
   const double middle = graphRect_.y + graphRect_.height / 2.0;

@@ -250,6 +250,12 @@ TEST(WallClockAddingTo, farAwayDatesEnds) {
   EXPECT_TRUE(std::isfinite(dateByAddingWallClockSeconds({0.0}, -1e17, calendar).secondsSince2001));
 }
 
+TEST(WallClockAddingTo, fitsTheOffsetAfterASecondChangeToo) {
+  // The plain sum falls before the second change and the moment sought after it.
+  const RuleCalendar calendar(0.0, {{1000.0, -kHour}, {10500.0, -kHour / 2}});
+  EXPECT_EQ(dateByAddingWallClockSeconds({0.0}, 10000.0, calendar).secondsSince2001, 11800.0);
+}
+
 TEST(WallClockAddingTo, findsTheEndOfAGapToTheLastBit) {
   const RuleCalendar calendar(0.0, {{1000000.125, kHour}});
   EXPECT_EQ(dateByAddingWallClockSeconds({0.0}, 1000001.0, calendar).secondsSince2001, 1000000.125);
@@ -299,6 +305,13 @@ TEST(DateFromWallClock, takesTheFirstOfTwoAndTheEndOfAGap) {
   EXPECT_EQ(dateFromWallClock({2025, 3, 9}, 3.0 * kHour, zone.calendar).secondsSince2001, 763196400.0);
   EXPECT_EQ(dateFromWallClock({2025, 3, 9}, 2.0 * kHour - 0.25, zone.calendar).secondsSince2001,
             763196399.75);
+}
+
+TEST(DateFromWallClock, knowsAnOffsetThatLastsForADayAlone) {
+  const CivilDay day{2026, 6, 1};
+  const double midnight = static_cast<double>(daysSince2001(day)) * 86400.0;
+  const RuleCalendar calendar(0.0, {{midnight - 12.0 * kHour, kHour}, {midnight + 12.0 * kHour, 0.0}});
+  EXPECT_EQ(startOfDay(day, calendar).secondsSince2001, midnight - kHour);
 }
 
 TEST(LocalDay, changesAtLocalMidnight) {

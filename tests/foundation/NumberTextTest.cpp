@@ -139,6 +139,13 @@ TEST(FieldText, showsTheUsersDecimalSign) {
   EXPECT_EQ(fieldText(45.25, 0, ','), "45");
 }
 
+TEST(FieldText, roundsWhatIsJustBelowATieDown) {
+  // 0.000000000499999999999999937...: rounded to twenty places first it would be a tie.
+  EXPECT_EQ(fieldText(std::nextafter(5e-10, 0.0), 9, '.'), "0.000000000");
+  EXPECT_EQ(fieldText(5e-10, 9, '.'), "0.000000001");
+  EXPECT_EQ(fieldText(std::nextafter(25.25, 0.0), 1, '.'), "25.2");
+}
+
 TEST(FieldText, carriesThroughNinesToANewDigit) {
   EXPECT_EQ(fieldText(9.75, 0, '.'), "10");
   EXPECT_EQ(fieldText(999.96875, 1, '.'), "1000.0");

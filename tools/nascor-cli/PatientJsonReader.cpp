@@ -164,7 +164,9 @@ class Receiver final : public nlohmann::json_sax<nlohmann::json> {
   bool number_float(number_float_t value, const string_t& written) override {
     constexpr double kTwoTo63 = 9223372036854775808.0;
     Number number{.value = value, .integer = {}, .written = written};
-    if (value == std::trunc(value) && value >= -kTwoTo63 && value < kTwoTo63) {
+    // Digits alone come here when they are too many for 64 bits.
+    const bool digitsAlone = written.find_first_of(".eE") == string_t::npos;
+    if (!digitsAlone && value == std::trunc(value) && value >= -kTwoTo63 && value < kTwoTo63) {
       number.integer = static_cast<std::int64_t>(value);
     }
     return scalar(std::move(number));

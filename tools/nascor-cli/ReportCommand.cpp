@@ -3,6 +3,7 @@
 #include <numeric>
 
 #include "calc/Dating.h"
+#include "calc/EditingBounds.h"
 #include "calc/FetalWeight.h"
 #include "calc/Projection.h"
 #include "calc/Report.h"
@@ -104,7 +105,7 @@ class Report {
   void forEachFetus(Take take) const {
     const auto& examinations = patient_.ncRecordsArray();
     const auto counted =
-        static_cast<std::size_t>(std::clamp<std::int64_t>(patient_.numberOfFetuses(), 0, kMostCounted));
+        static_cast<std::size_t>(std::clamp<std::int64_t>(patient_.numberOfFetuses(), 0, calc::kMostFetuses));
     std::vector<std::size_t> places(examinations.size());
     std::iota(places.begin(), places.end(), std::size_t{0});
     for (std::size_t fetus = 0;; ++fetus) {
@@ -118,8 +119,6 @@ class Report {
   }
 
  private:
-  static constexpr std::int64_t kMostCounted = 5;
-
   static calc::Biometry lengthsOf(const NCRecord& examination, std::size_t fetus) {
     const auto& measurements = examination.measurements();
     return fetus < measurements.size() ? measurements[fetus].biometry() : calc::Biometry{};

@@ -1,8 +1,7 @@
 #include "qt/Application.h"
 
-#include <QFontDatabase>
+#include <QFontInfo>
 #include <cstdio>
-#include <exception>
 #include <string>
 
 #include "foundation/RangeError.h"
@@ -23,10 +22,19 @@ QString disclaimer() {
 }
 
 QString missingFontSentence() {
-  if (!QFontDatabase::families().isEmpty()) return {};
+  if (!QFontInfo(QApplication::font()).family().isEmpty()) return {};
   return QCoreApplication::translate(
       "Application",
       "No font is installed, so no text could be shown. Please install one, such as DejaVu Sans.");
+}
+
+void tellAbandoned(const std::exception& error) {
+  std::string what = error.what();  // a failed assertion names its place itself
+  if (const auto* range = dynamic_cast<const foundation::RangeError*>(&error)) {
+    what +=
+        std::string(" (") + range->where().file_name() + ":" + std::to_string(range->where().line()) + ")";
+  }
+  tell(what);
 }
 
 Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
@@ -39,11 +47,8 @@ Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
 bool Application::notify(QObject* receiver, QEvent* event) {
   try {
     return QApplication::notify(receiver, event);
-  } catch (const foundation::RangeError& error) {
-    tell(std::string(error.what()) + " (" + error.where().file_name() + ":" +
-         std::to_string(error.where().line()) + ")");
   } catch (const std::exception& error) {
-    tell(error.what());  // a failed assertion names its place itself
+    tellAbandoned(error);
   } catch (...) {
     tell("unknown exception");
   }

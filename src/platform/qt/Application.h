@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QString>
+#include <exception>
 
 namespace nascor::qt {
 
@@ -12,6 +13,9 @@ QString disclaimer();
 /// Why no text could be painted, in one sentence; nothing where there is a font. A PDF without fonts would have no text,
 /// and nobody would say so.
 QString missingFontSentence();
+
+/// Tells on standard error that an action was abandoned, and where in the sources.
+void tellAbandoned(const std::exception& error);
 
 /// The application and its edge: an exception in an event abandons what the event began, is told on standard error with
 /// its place in the sources, and goes no further.

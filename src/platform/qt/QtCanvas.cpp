@@ -110,7 +110,7 @@ void QtCanvas::mark(MarkSymbol symbol, Point centre) {
       break;
     case MarkSymbol::circle: painter_.drawEllipse(QPointF(0.0, 0.0), 3.2, 3.2); break;
     case MarkSymbol::triangle:
-      painter_.drawPolygon(QPolygonF({QPointF(0.0, -3.8), QPointF(3.5, 2.4), QPointF(-3.5, 2.4)}));
+      painter_.drawPolygon(QPolygonF({QPointF(0.0, -3.2), QPointF(3.1, 2.4), QPointF(-3.1, 2.4)}));
       break;
     case MarkSymbol::square: painter_.drawRect(QRectF(-3.0, -3.0, 6.0, 6.0)); break;
     case MarkSymbol::x:

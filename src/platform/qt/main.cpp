@@ -28,9 +28,7 @@ bool hasArgument(std::span<char*> arguments, std::initializer_list<std::string_v
   });
 }
 
-}  // namespace
-
-int main(int argc, char** argv) {
+int nascorMain(int argc, char** argv) {
   const std::span arguments(argv, static_cast<std::size_t>(argc));
   // What paints no window needs no display.
   if (hasArgument(arguments, {"--write-pages", "--help", "-h", "--version", "-v"}) &&
@@ -92,4 +90,15 @@ int main(int argc, char** argv) {
     return kFailed;
   }
   return Application::exec();
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  try {
+    return nascorMain(argc, argv);
+  } catch (const std::exception& error) {
+    tellAbandoned(error);
+    return kFailed;
+  }
 }

@@ -1,0 +1,87 @@
+#include "qt/QtUserDefaults.h"
+
+#include <gtest/gtest.h>
+
+#include <QFile>
+#include <QFileInfo>
+#include <QSettings>
+#include <QTemporaryDir>
+
+#include "Sample.h"
+#include "qt/Platform.h"
+
+namespace nascor::tests {
+namespace {
+
+using foundation::defaults_key::showAll;
+using foundation::defaults_key::standard;
+using qt::QtUserDefaults;
+
+/// A configuration folder of each test's own.
+class ThePreferences : public testing::Test {
+ protected:
+  ThePreferences() { QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, home.path()); }
+  ~ThePreferences() override {
+    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, qEnvironmentVariable("XDG_CONFIG_HOME"));
+  }
+  QString path() const { return home.filePath(QStringLiteral("Nascor/nascor.ini")); }
+  QByteArray contents() const {
+    QFile file(path());
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+  }
+
+  QTemporaryDir home;
+};
+
+TEST_F(ThePreferences, knowNothingAtFirst) { EXPECT_EQ(QtUserDefaults().value(standard), std::nullopt); }
+
+TEST_F(ThePreferences, areKeptFromOneStartToTheNext) {
+  QtUserDefaults().setValue(standard, "3");
+  EXPECT_EQ(QtUserDefaults().value(standard), "3");
+}
+
+TEST_F(ThePreferences, areWrittenAtOnce) {
+  QtUserDefaults defaults;
+  defaults.setValue(standard, "3");
+  EXPECT_TRUE(contents().contains("Standard=3")) << contents().toStdString();
+}
+
+TEST_F(ThePreferences, keepNamesWithBlanksAndTextsWithSigns) {
+  const std::string text = "a, \"b\"; =%1 ü\nsecond line @x";
+  QtUserDefaults().setValue(showAll, text);
+  EXPECT_EQ(QtUserDefaults().value("Show All"), text);
+}
+
+TEST_F(ThePreferences, readAsRegisteredUntilTheUserChooses) {
+  QtUserDefaults defaults;
+  defaults.registerDefault(showAll, "YES");
+  EXPECT_EQ(defaults.value(showAll), "YES");
+  defaults.setValue(showAll, "NO");
+  EXPECT_EQ(defaults.value(showAll), "NO");
+  EXPECT_FALSE(foundation::boolForKey(defaults, showAll));
+}
+
+TEST_F(ThePreferences, doNotStoreWhatIsOnlyRegistered) {
+  { QtUserDefaults().registerDefault(showAll, "YES"); }
+  EXPECT_FALSE(QFileInfo::exists(path()));
+  EXPECT_EQ(QtUserDefaults().value(showAll), std::nullopt);
+}
+
+TEST_F(ThePreferences, registeredByThePlatformAreFive) {
+  qt::Platform platform(QLocale::c());
+  const foundation::UserDefaults& defaults = platform.services().defaults;
+  EXPECT_EQ(defaults.value("DataFile Extension"), "nascor");
+  EXPECT_EQ(defaults.value("Show All"), "YES");
+  EXPECT_EQ(defaults.value("Standard"), "0");
+  EXPECT_EQ(defaults.value("Estimated Fetal Weight Standard"), "0");
+  EXPECT_EQ(defaults.value("CRL Standard"), "0");
+}
+
+TEST(TheConfigurationFolder, isTheOneThatTheEnvironmentNames) {
+  QtUserDefaults().setValue(standard, "2");
+  EXPECT_TRUE(
+      QFileInfo::exists(qEnvironmentVariable("XDG_CONFIG_HOME") + QStringLiteral("/Nascor/nascor.ini")));
+}
+
+}  // namespace
+}  // namespace nascor::tests
