@@ -39,7 +39,8 @@ constexpr std::array<StandardsMenu, 3> kStandardsMenus{{
 
 }  // namespace
 
-NCAppController::NCAppController(const foundation::Services& services, framework::DocumentController& documents)
+NCAppController::NCAppController(const foundation::Services& services,
+                                 framework::DocumentController& documents)
     : CorvelAppController(services, documents) {}
 
 void NCAppController::awakeFromNib() {

@@ -26,7 +26,8 @@ Rect chartPlacement(double width, double height) {
 /// Under the chart, as far to the right and as wide as the chart's plotting area.
 Rect stripPlacement(double width, double height) {
   const Rect chart = chartPlacement(width, height);
-  return {.x = chart.x + 50.0, .y = chart.y + chart.height, .width = chart.width - 60.0, .height = kStripHeight};
+  return {
+      .x = chart.x + 50.0, .y = chart.y + chart.height, .width = chart.width - 60.0, .height = kStripHeight};
 }
 
 }  // namespace
@@ -103,7 +104,8 @@ bool NCDocument::loadDataRepresentation(std::span<const std::byte> data, std::st
 
 std::int64_t NCDocument::lastExam() const { return std::max<std::int64_t>(numberOfExaminations() - 1, 0); }
 
-const model::MeasurementsRecord* NCDocument::measurementsForFetus(std::int64_t fetus, std::int64_t exam) const {
+const model::MeasurementsRecord* NCDocument::measurementsForFetus(std::int64_t fetus,
+                                                                  std::int64_t exam) const {
   const model::NCRecord* record = examination(exam);
   if (!record || fetus < 0 || std::cmp_greater_equal(fetus, record->measurements().size())) return nullptr;
   return &record->measurementsForFetus(fetus);

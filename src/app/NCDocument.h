@@ -174,7 +174,9 @@ class NCDocument final : public framework::CorvelDocument,
   double extrapolatedACForCurrentFetus();
   double extrapolatedFLForCurrentFetus();
   /// What the four last computed; all zero in a new document; never stored in a file.
-  const model::MeasurementsRecord& extrapolatedMeasurements() const { return extrapolatedMeasurementsRecord_; }
+  const model::MeasurementsRecord& extrapolatedMeasurements() const {
+    return extrapolatedMeasurementsRecord_;
+  }
 
   /// @}
   /// @name Charts
@@ -255,7 +257,8 @@ class NCDocument final : public framework::CorvelDocument,
   std::vector<framework::TextField*> textFields_;
   std::array<framework::CheckBox*, 4> checkBoxes_{&measurementsWindowBPDCheck_, &measurementsWindowHCCheck_,
                                                   &measurementsWindowACCheck_, &measurementsWindowFLCheck_};
-  std::array<framework::Panel*, 4> panels_{&crlWindow_, &lmpWindow_, &measurementsWindow_, &adjustDeliveryPanel_};
+  std::array<framework::Panel*, 4> panels_{&crlWindow_, &lmpWindow_, &measurementsWindow_,
+                                           &adjustDeliveryPanel_};
 
   framework::ViewOwner<charts::BPDGraphView> bpdGraph_;
   framework::ViewOwner<charts::HeadCircumferenceGraphView> hcGraph_;
@@ -263,9 +266,9 @@ class NCDocument final : public framework::CorvelDocument,
   framework::ViewOwner<charts::FemurLengthGraphView> flGraph_;
   /// Under the four charts, in their order.
   std::array<framework::ViewOwner<charts::NoYaxisGraphView>, 4> axes_;
-  std::array<framework::Page, 7> pages_{framework::Page("Trends"), framework::Page("BPD"), framework::Page("HC"),
-                                        framework::Page("AC"),     framework::Page("FL"),  framework::Page("Weight"),
-                                        framework::Page("Report")};
+  std::array<framework::Page, 7> pages_{
+      framework::Page("Trends"), framework::Page("BPD"),    framework::Page("HC"),    framework::Page("AC"),
+      framework::Page("FL"),     framework::Page("Weight"), framework::Page("Report")};
 };
 
 }  // namespace nascor::app

@@ -19,9 +19,15 @@ std::string NCDocument::menstrualAgeStringForGestation(double weeks) const {
   return calc::gestationText(weeks, services().localizer);
 }
 
-double NCDocument::menstrualAgeFromCRLHadlock(double crl) const { return calc::menstrualAgeFromCRLHadlock(crl); }
-double NCDocument::menstrualAgeFromCRLNelson(double crl) const { return calc::menstrualAgeFromCRLNelson(crl); }
-double NCDocument::menstrualAgeFromCRLRobinson(double crl) const { return calc::menstrualAgeFromCRLRobinson(crl); }
+double NCDocument::menstrualAgeFromCRLHadlock(double crl) const {
+  return calc::menstrualAgeFromCRLHadlock(crl);
+}
+double NCDocument::menstrualAgeFromCRLNelson(double crl) const {
+  return calc::menstrualAgeFromCRLNelson(crl);
+}
+double NCDocument::menstrualAgeFromCRLRobinson(double crl) const {
+  return calc::menstrualAgeFromCRLRobinson(crl);
+}
 double NCDocument::menstrualAgeFromCRLWesterway(double crl) const {
   return calc::menstrualAgeFromCRLWesterway(crl);
 }

@@ -28,7 +28,8 @@ void NCDocument::setCurrentRecordFromRecord(const model::NCRecord* record) {
   if (!patientRecord_) return;
   const auto& examinations = patientRecord_->ncRecordsArray();
   const auto place = std::ranges::find(examinations, record, &std::unique_ptr<model::NCRecord>::get);
-  setCurrentExam(place != examinations.end() ? place - examinations.begin() : std::clamp<std::int64_t>(currentExam(), 0, lastExam()));
+  setCurrentExam(place != examinations.end() ? place - examinations.begin()
+                                             : std::clamp<std::int64_t>(currentExam(), 0, lastExam()));
 }
 
 void NCDocument::setCurrentRecordFromClick(double weeks) {
@@ -46,9 +47,8 @@ void NCDocument::updateArrayOrder() {
   if (!patientRecord_) return;
   const model::NCRecord* onShow = examination(currentExam());
   synchronizeToData();
-  std::ranges::stable_sort(patientRecord_->ncRecordsArray(), [](const auto& one, const auto& other) {
-    return one->compare(*other) < 0;
-  });
+  std::ranges::stable_sort(patientRecord_->ncRecordsArray(),
+                           [](const auto& one, const auto& other) { return one->compare(*other) < 0; });
   setCurrentRecordFromRecord(onShow);
   synchronizeFromData();
 }
@@ -67,7 +67,8 @@ void NCDocument::addFetus(Sender) {
   patientRecord_->addFetus();
   updateChangeCount(ChangeType::changeDone);
   updateMultiplePopUp();
-  if (multiplePopUp_.numberOfItems() > 0) multiplePopUp_.selectItemAtIndex(multiplePopUp_.numberOfItems() - 1);
+  if (multiplePopUp_.numberOfItems() > 0)
+    multiplePopUp_.selectItemAtIndex(multiplePopUp_.numberOfItems() - 1);
   chooseFetus(multiplePopUp_);
 }
 

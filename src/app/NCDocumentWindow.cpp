@@ -22,8 +22,9 @@ void NCDocument::windowControllerDidLoadNib() {
     patientRecord_ = std::make_unique<model::PatientRecord>(services().clock, services().defaults);
     setLookUpRequired(true);
   }
-  showAllSubscription_ = services().notifications.subscribe(
-      foundation::NotificationName::updateShowAll, [this](const foundation::Notification&) { updateShowAll(); });
+  showAllSubscription_ =
+      services().notifications.subscribe(foundation::NotificationName::updateShowAll,
+                                         [this](const foundation::Notification&) { updateShowAll(); });
 
   // A file holds the gestation in single precision. A whole number of days is shown as such, or every opening would plan
   // the delivery a second early, which is the day before.
@@ -56,7 +57,8 @@ void NCDocument::synchronizeFromData() {
   const model::NCRecord* exam = currentExamination();
   examDateField().setText(exam ? shortDateText(exam->examDate()) : "");
   const model::MeasurementsRecord* measured = currentMeasurements();
-  for (const Measurement measurement : {Measurement::hc, Measurement::bpd, Measurement::ac, Measurement::fl}) {
+  for (const Measurement measurement :
+       {Measurement::hc, Measurement::bpd, Measurement::ac, Measurement::fl}) {
     if (measured) {
       fieldFor(measurement).setDoubleValue(measured->biometry().*calc::memberFor(measurement));
     } else {
@@ -210,10 +212,13 @@ bool NCDocument::currentExaminationHoldsData() const {
 bool NCDocument::holdsMoreThanIdentity() const {
   if (!patientRecord_) return false;
   // The fields, not the records: what was typed before the look-up may not have got there.
-  const auto typed = [](const framework::TextField& field) { return field.wasEdited() && !field.text().empty(); };
+  const auto typed = [](const framework::TextField& field) {
+    return field.wasEdited() && !field.text().empty();
+  };
   return currentExaminationHoldsData() || patientRecord_->edd() || numberOfExaminations() > 1 ||
          patientRecord_->numberOfFetuses() > 1 || typed(birthDateField()) || typed(examDateField()) ||
-         typed(bpdField_) || typed(hcField_) || typed(acField_) || typed(flField_) || notesField().wasEdited();
+         typed(bpdField_) || typed(hcField_) || typed(acField_) || typed(flField_) ||
+         notesField().wasEdited();
 }
 
 }  // namespace nascor::app

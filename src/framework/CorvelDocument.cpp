@@ -128,13 +128,13 @@ std::vector<foundation::FileEntry> CorvelDocument::documentsOfPatient(const std:
 bool CorvelDocument::userOpens(const foundation::FileEntry& file) const {
   const auto& localizer = services().localizer;
   const auto day = foundation::localDay(file.modified, services().calendar);
-  std::string information = file.name + "\n" +
-                            (day ? foundation::shortDateText(*day, localizer.shortDateForm()) + ", " : "") +
-                            foundation::format(localizer, string_table::corvelDocument, "%ld bytes", {file.size});
+  std::string information =
+      file.name + "\n" + (day ? foundation::shortDateText(*day, localizer.shortDateForm()) + ", " : "") +
+      foundation::format(localizer, string_table::corvelDocument, "%ld bytes", {file.size});
   if (holdsMoreThanIdentity()) {
     information += "\n";
     information += localizer.text(string_table::corvelDocument,
-                                         "What was entered here besides reference ID and gravidity will be lost.");
+                                  "What was entered here besides reference ID and gravidity will be lost.");
   }
   return environment_.alerts.runModal(
              {.message = localizer.text(string_table::corvelDocument, "This patient has a document already."),

@@ -48,7 +48,8 @@ void DocumentController::openDocuments() {
   for (const std::string& path : panels_.chooseFilesToOpen()) {
     std::string error;
     if (!openDocument(path, error)) {
-      alerts_.tell(services_.localizer.text(string_table::corvelDocument, "The document cannot be opened."), error);
+      alerts_.tell(services_.localizer.text(string_table::corvelDocument, "The document cannot be opened."),
+                   error);
     }
   }
 }
@@ -86,8 +87,8 @@ bool DocumentController::closeDocument(ZuDocument& document) {
          text(string_table::zuVersion, "Cancel")});
     enum : std::size_t { kSave = 0, kDiscard = 1 };
     if (answer == kSave) {
-      const auto path = document.filePath() ? document.filePath()
-                                            : panels_.chooseFileToSave(suggestedFileName(document));
+      const auto path =
+          document.filePath() ? document.filePath() : panels_.chooseFileToSave(suggestedFileName(document));
       if (!path || !write(document, *path)) return false;
     } else if (answer != kDiscard) {
       return false;
@@ -107,7 +108,8 @@ bool DocumentController::closeAllDocuments() {
 bool DocumentController::replaceDocument(ZuDocument& document, const std::string& path) {
   std::string error;
   if (!openDocument(path, error)) {
-    alerts_.tell(services_.localizer.text(string_table::corvelDocument, "The document cannot be opened."), error);
+    alerts_.tell(services_.localizer.text(string_table::corvelDocument, "The document cannot be opened."),
+                 error);
     return false;
   }
   remove(document);

@@ -122,9 +122,11 @@ const std::map<std::string, Operation, std::less<>>& operations() {
        [](NCDocument& d, Arguments& a) { return lengths(d.measurementsForCurrentFetus(a.integer())); }},
       {"lastMeasurementsRecordForCurrentFetus",
        [](NCDocument& d, Arguments&) { return lengths(d.lastMeasurementsRecordForCurrentFetus()); }},
-      {"extrapolatedMeasurements", [](NCDocument& d, Arguments&) { return lengths(&d.extrapolatedMeasurements()); }},
+      {"extrapolatedMeasurements",
+       [](NCDocument& d, Arguments&) { return lengths(&d.extrapolatedMeasurements()); }},
       // Dating
-      {"menstrualAgeForRecord", [](NCDocument& d, Arguments& a) { return Json(d.menstrualAgeForRecord(a.index())); }},
+      {"menstrualAgeForRecord",
+       [](NCDocument& d, Arguments& a) { return Json(d.menstrualAgeForRecord(a.index())); }},
       {"menstrualAgeStringForRecord",
        [](NCDocument& d, Arguments& a) { return Json(d.menstrualAgeStringForRecord(a.index())); }},
       {"menstrualAgeStringForGestation",
@@ -168,7 +170,8 @@ const std::map<std::string, Operation, std::less<>>& operations() {
       // Examinations and fetuses
       {"addExamination", act([](NCDocument& d, Arguments&) { d.addExamination(); })},
       {"deleteCurrentExamination", act([](NCDocument& d, Arguments&) { d.deleteCurrentExamination(); })},
-      {"setCurrentRecordFromClick", act([](NCDocument& d, Arguments& a) { d.setCurrentRecordFromClick(a.number()); })},
+      {"setCurrentRecordFromClick",
+       act([](NCDocument& d, Arguments& a) { d.setCurrentRecordFromClick(a.number()); })},
       {"updateArrayOrder", act([](NCDocument& d, Arguments&) { d.updateArrayOrder(); })},
       {"chooseFetus", act([](NCDocument& d, Arguments&) { d.chooseFetus(d.multiplePopUp()); })},
       {"addFetus", act([](NCDocument& d, Arguments&) { d.addFetus(&d); })},
@@ -249,7 +252,9 @@ Driver::Driver()
     };
     return document;
   });
-  documents_.onDocumentAdded = [this](framework::ZuDocument& added) { numbers_.emplace(&added, nextNumber_++); };
+  documents_.onDocumentAdded = [this](framework::ZuDocument& added) {
+    numbers_.emplace(&added, nextNumber_++);
+  };
   documents_.onDocumentRemoved = [this](framework::ZuDocument& removed) { numbers_.erase(&removed); };
   application_.awakeFromNib();
 }
@@ -268,12 +273,14 @@ Driver::~Driver() {
 
 void Driver::recordPosts() {
   // The first observer of each name, so that a post stands here before anybody acts on it.
-  for (const NotificationName name : {NotificationName::updateStandards, NotificationName::updateStandardsForEFW,
-                                      NotificationName::updateShowAll}) {
+  for (const NotificationName name :
+       {NotificationName::updateStandards, NotificationName::updateStandardsForEFW,
+        NotificationName::updateShowAll}) {
     postSubscriptions_.push_back(
         notifications_.subscribe(name, [this](const foundation::Notification& notification) {
-          posted_.push_back({std::string(notification.name.text()),
-                             notification.sender ? Json(std::string(notification.sender->className())) : Json()});
+          posted_.push_back(
+              {std::string(notification.name.text()),
+               notification.sender ? Json(std::string(notification.sender->className())) : Json()});
         }));
   }
 }
@@ -296,22 +303,14 @@ std::string Driver::answer(std::string_view line) {
 
 Json Driver::perform(const std::string& key, const Json& argument) {
   static const std::map<std::string, Json (Driver::*)(const Json&), std::less<>> lines{
-      {"open", &Driver::openDocument},
-      {"use", &Driver::use},
-      {"save", &Driver::save},
-      {"close", &Driver::close},
-      {"edit", &Driver::edit},
-      {"visit", &Driver::visit},
-      {"revert", &Driver::revert},
-      {"answer", &Driver::answerQuestions},
-      {"do", &Driver::operation},
-      {"app", &Driver::applicationOperation},
-      {"menu", &Driver::menu},
-      {"choose", &Driver::choose},
-      {"step", &Driver::step},
-      {"tab", &Driver::tab},
-      {"advance", &Driver::advance},
-      {"zone", &Driver::zone},
+      {"open", &Driver::openDocument}, {"use", &Driver::use},
+      {"save", &Driver::save},         {"close", &Driver::close},
+      {"edit", &Driver::edit},         {"visit", &Driver::visit},
+      {"revert", &Driver::revert},     {"answer", &Driver::answerQuestions},
+      {"do", &Driver::operation},      {"app", &Driver::applicationOperation},
+      {"menu", &Driver::menu},         {"choose", &Driver::choose},
+      {"step", &Driver::step},         {"tab", &Driver::tab},
+      {"advance", &Driver::advance},   {"zone", &Driver::zone},
       {"locale", &Driver::locale},
   };
   if (key == "new" || key == "state") {
@@ -360,7 +359,8 @@ Json Driver::save(const Json& target) {
 
 Json Driver::close(const Json& word) {
   const std::string choice = textArgument(word, "\"save\", \"discard\" or \"cancel\"");
-  if (choice != "save" && choice != "discard" && choice != "cancel") refuse("expected save, discard or cancel");
+  if (choice != "save" && choice != "discard" && choice != "cancel")
+    refuse("expected save, discard or cancel");
   alerts_.choice = choice;
   return {{"closed", documents_.closeDocument(document())}};
 }
@@ -453,7 +453,8 @@ Json Driver::menu(const Json& choice) {
   }
   const bool enabled = application_.validateMenuItem(*item);
   const std::int64_t state = item->state;
-  if (enabled && !application_.chooseStandard(*item)) application_.toggleShowAll(application_.showAllMenuItem());
+  if (enabled && !application_.chooseStandard(*item))
+    application_.toggleShowAll(application_.showAllMenuItem());
   return {{"enabled", enabled}, {"state", state}};
 }
 

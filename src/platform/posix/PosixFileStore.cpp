@@ -221,7 +221,8 @@ std::optional<FileError> PosixFileStore::replaceContents(const std::string& path
 std::vector<foundation::FileEntry> PosixFileStore::entries(const std::string& folder) const {
   std::vector<foundation::FileEntry> found;
   std::error_code error;
-  for (std::filesystem::directory_iterator entry(folder, error), end; !error && entry != end; entry.increment(error)) {
+  for (std::filesystem::directory_iterator entry(folder, error), end; !error && entry != end;
+       entry.increment(error)) {
     struct stat status {};
     const std::string path = entry->path().string();
     if (::stat(path.c_str(), &status) != 0 || !S_ISREG(status.st_mode)) continue;
@@ -243,7 +244,8 @@ std::string PosixFileStore::documentsFolder() const {
 
 std::string PosixFileStore::resolvedPath(const std::string& path) const {
   std::error_code error;
-  const std::filesystem::path resolved = std::filesystem::weakly_canonical(std::filesystem::absolute(path, error), error);
+  const std::filesystem::path resolved =
+      std::filesystem::weakly_canonical(std::filesystem::absolute(path, error), error);
   return error ? path : resolved.string();
 }
 

@@ -42,10 +42,11 @@ class FaultyFileStore final : public foundation::FileStore {
       const std::size_t slash = path.rfind('/');
       if (slash == std::string::npos || path.substr(0, slash) != folder) continue;
       const auto modified = modificationDates.find(path);
-      found.push_back({.path = path,
-                       .name = path.substr(slash + 1),
-                       .size = static_cast<std::int64_t>(bytes.size()),
-                       .modified = modified == modificationDates.end() ? foundation::Date{} : modified->second});
+      found.push_back(
+          {.path = path,
+           .name = path.substr(slash + 1),
+           .size = static_cast<std::int64_t>(bytes.size()),
+           .modified = modified == modificationDates.end() ? foundation::Date{} : modified->second});
     }
     return found;
   }

@@ -27,7 +27,8 @@ class ScriptedAlerts final : public framework::Alerts {
     return answer == alert.defaultButton ? framework::AlertReturn::defaultButton
                                          : framework::AlertReturn::alternate;
   }
-  void beginSheet(const framework::Alert& alert, std::function<void(framework::AlertReturn)> didEnd) override {
+  void beginSheet(const framework::Alert& alert,
+                  std::function<void(framework::AlertReturn)> didEnd) override {
     didEnd(runModal(alert));
   }
   std::size_t chooseOne(const std::string& message, const std::string&,
@@ -44,8 +45,8 @@ class ScriptedAlerts final : public framework::Alerts {
     told.push_back(message + " " + information);
   }
 
-  std::deque<std::string> answers;      ///< titles of the buttons to press, in order; "Cancel" when there is none
-  std::string choice = "Cancel";        ///< the button that `chooseOne` presses, in any case of letters
+  std::deque<std::string> answers;  ///< titles of the buttons to press, in order; "Cancel" when there is none
+  std::string choice = "Cancel";    ///< the button that `chooseOne` presses, in any case of letters
   std::vector<framework::Alert> asked;  ///< the questions with two answers
   std::vector<std::string> choices;     ///< the messages of the questions with more
   std::vector<std::string> told;        ///< what the user was told
