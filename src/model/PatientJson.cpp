@@ -52,7 +52,7 @@ class Writer {
 
   void date(std::string_view key, const std::optional<foundation::Date>& value) {
     json_.key(key);
-    value ? json_.number(value->secondsSince2001) : json_.null();
+    value ? json_.number(inFile(value->secondsSince2001)) : json_.null();
     const std::string iso = value ? isoDateTimeText(*value, calendar_) : std::string();
     json_.key(std::string(key) + "ISO");
     iso.empty() ? json_.null() : json_.text(iso);
@@ -63,8 +63,11 @@ class Writer {
   }
 
   void number(std::string_view key, double value) {
-    json_.key(key).number(narrowed_ ? static_cast<double>(foundation::narrowedToFloat(value)) : value);
+    json_.key(key).number(narrowed_ ? inFile(foundation::narrowedToFloat(value)) : value);
   }
+
+  /// A file has no negative zero.
+  double inFile(double value) const { return narrowed_ && value == 0.0 ? 0.0 : value; }
 
   foundation::JsonText& json_;
   const foundation::Calendar& calendar_;

@@ -7,7 +7,7 @@
 namespace nascor::model {
 
 /// Which numbers are printed: those in memory, or those that a document's file would hold (lengths and the planned
-/// gestation as the nearest single-precision number, whole numbers as their low 32 bits).
+/// gestation as the nearest single-precision number, whole numbers as their low 32 bits, no negative zero).
 enum class JsonNumbers { inMemory, asInFile };
 
 /// Writes one object with every field that a document archives, in a fixed order of keys. Lengths are in millimetres,

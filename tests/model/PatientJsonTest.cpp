@@ -112,5 +112,16 @@ TEST(PatientJson, keepsTheNumbersInMemoryOrThoseOfTheFile) {
   EXPECT_NE(inFile.find(R"("edd":0.1,)"), std::string::npos) << "dates keep every bit";
 }
 
+TEST(PatientJson, keepsTheSignOfZeroInMemoryOnly) {
+  PatientRecord patient;
+  patient.setEDD(Date{-0.0});
+  patient.setExtrapolatedGestation(-0.0);
+  EXPECT_NE(json(patient).find(R"("edd":-0,)"), std::string::npos);
+  EXPECT_NE(json(patient).find(R"("extrapolatedGestation":-0,)"), std::string::npos);
+  const std::string inFile = json(patient, JsonNumbers::asInFile);
+  EXPECT_NE(inFile.find(R"("edd":0,)"), std::string::npos);
+  EXPECT_NE(inFile.find(R"("extrapolatedGestation":0,)"), std::string::npos);
+}
+
 }  // namespace
 }  // namespace nascor::tests

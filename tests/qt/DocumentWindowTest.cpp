@@ -109,6 +109,25 @@ TEST_F(TheDocumentWindow, goesBackAndForthByTheKeyboard) {
   EXPECT_FALSE(isHighlighted(20.0, 48.0));
 }
 
+/// Counts how often a widget is painted.
+class PaintCounter final : public QObject {
+ public:
+  bool eventFilter(QObject*, QEvent* event) override {
+    if (event->type() == QEvent::Paint) ++paints;
+    return false;
+  }
+  int paints = 0;
+};
+
+TEST_F(TheDocumentWindow, repaintsItsPageForAnotherExamination) {
+  open(singleton());
+  QCoreApplication::processEvents();
+  PaintCounter counter;
+  widget<QWidget>("BPDPage").installEventFilter(&counter);
+  click("previousButton");
+  EXPECT_TRUE(QTest::qWaitFor([&] { return counter.paints > 0; }));
+}
+
 TEST_F(TheDocumentWindow, goesByAFocusedButtonAndTheSpaceBar) {
   open(singleton());
   widget<QToolButton>("previousButton").setFocus();

@@ -69,10 +69,16 @@ std::string oneLine(std::string_view text) {
   return line;
 }
 
+Console::Console() : outputIsTerminal_(::isatty(STDOUT_FILENO) == 1) {}
+
 void Console::lineDone() {
-  constexpr std::size_t kEnough = std::size_t{1} << 16;
   out_ += '\n';
-  if (out_.size() >= kEnough || outputIsTerminal()) flush();
+  outputIsTerminal_ ? flush() : partDone();
+}
+
+void Console::partDone() {
+  constexpr std::size_t kEnough = std::size_t{1} << 16;
+  if (out_.size() >= kEnough) flush();
 }
 
 void Console::flush() {
@@ -98,7 +104,5 @@ void Console::warn(std::string_view source, std::string_view sentence) {
 }
 
 void Console::tell(std::string_view text) { writeAll(STDERR_FILENO, text); }
-
-bool Console::outputIsTerminal() const { return ::isatty(STDOUT_FILENO) == 1; }
 
 }  // namespace nascor::cli

@@ -28,11 +28,16 @@ std::string oneLine(std::string_view text);
 /// Standard output and standard error.
 class Console {
  public:
+  Console();
+
   /// What goes to standard output next. Append whole lines, and call `lineDone` after them.
   std::string& out() { return out_; }
 
   /// Ends a line of `out` and sends it on: at once to a terminal, else when enough has come together.
   void lineDone();
+
+  /// Sends on what `out` holds of a long line, when enough has come together.
+  void partDone();
 
   /// Sends on all of `out`. Throws OutputError.
   void flush();
@@ -49,13 +54,14 @@ class Console {
   /// Text for standard error as it stands. Nothing can be done when that fails.
   void tell(std::string_view text);
 
-  bool outputIsTerminal() const;
+  bool outputIsTerminal() const { return outputIsTerminal_; }
 
   /// Whether there was no complaint.
   bool allWell() const { return allWell_; }
 
  private:
   std::string out_;
+  bool outputIsTerminal_;
   bool allWell_ = true;
 };
 

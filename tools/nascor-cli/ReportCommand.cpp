@@ -205,7 +205,8 @@ void printReport(const std::string& path, const Report& report, Console& console
 
 class JsonReport {
  public:
-  JsonReport(JsonText& json, const Report& report) : json_(json), report_(report) {}
+  JsonReport(Console& console, const Report& report)
+      : console_(console), json_(console.out()), report_(report) {}
 
   void write(const std::string& path) {
     const PatientRecord& patient = report_.patient();
@@ -250,6 +251,7 @@ class JsonReport {
       json_.key("examination").integer(static_cast<std::int64_t>(place) + 1);
       date("examDate", examination.examDate(), report_.dayText(examination.examDate()));
       values(row, calc::reportedWeight(row.weight));
+      console_.partDone();
     }
     json_.endArray().key("projected");
     if (report_.projectionIsShown()) {
@@ -286,7 +288,8 @@ class JsonReport {
     json_.key(std::string(key) + "Text").text(report_.ageText(value));
   }
 
-  JsonText& json_;
+  Console& console_;
+  JsonText json_;
   const Report& report_;
 };
 
@@ -298,8 +301,7 @@ void runReport(const Arguments& arguments, Console& console) {
     if (!document) continue;
     const Report report(*document->patient, calendar);
     if (arguments.has("json")) {
-      JsonText json(console.out());
-      JsonReport(json, report).write(path);
+      JsonReport(console, report).write(path);
       console.lineDone();
     } else {
       if (!isFirst) console.lineDone();

@@ -1,7 +1,5 @@
 #include "qt/Platform.h"
 
-#include <utility>
-
 namespace nascor::qt {
 
 void registerDefaults(foundation::UserDefaults& defaults) {
@@ -13,7 +11,7 @@ void registerDefaults(foundation::UserDefaults& defaults) {
   defaults.registerDefault(key::crlStandard, "0");
 }
 
-Platform::Platform(QLocale locale) : localizer_(std::move(locale)) { registerDefaults(defaults_); }
+Platform::Platform(const QLocale& locale) : localizer_(locale) { registerDefaults(defaults_); }
 
 foundation::Services Platform::services() {
   return {.clock = clock_,

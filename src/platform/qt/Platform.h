@@ -19,7 +19,7 @@ void registerDefaults(foundation::UserDefaults& defaults);
 /// The application's answers to what documents ask of the platform. Outlives all documents.
 class Platform {
  public:
-  explicit Platform(QLocale locale);
+  explicit Platform(const QLocale& locale);
   Platform(const Platform&) = delete;
   Platform& operator=(const Platform&) = delete;
 

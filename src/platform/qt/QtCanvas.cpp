@@ -55,7 +55,7 @@ QtCanvas::QtCanvas(QPainter& painter, double height, bool isFlipped)
     : painter_(painter),
       height_(height),
       isFlipped_(isFlipped),
-      hasPixels_(painter.paintEngine() && painter.paintEngine()->type() == QPaintEngine::Raster),
+      hasPixels_(painter.paintEngine() != nullptr && painter.paintEngine()->type() == QPaintEngine::Raster),
       color_(Qt::black) {
   painter_.setRenderHint(QPainter::Antialiasing);
 }

@@ -9,7 +9,7 @@ namespace nascor::qt {
 /// Texts from the translations that the application has installed, ways of writing from a locale.
 class QtLocalizer final : public foundation::Localizer {
  public:
-  explicit QtLocalizer(QLocale locale) : locale_(std::move(locale)) {}
+  explicit QtLocalizer(const QLocale& locale) : locale_(locale) {}
 
   std::string text(std::string_view table, std::string_view key) const override;
   foundation::ShortDateForm shortDateForm() const override;
