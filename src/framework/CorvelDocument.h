@@ -53,7 +53,10 @@ class CorvelDocument : public ZuDocument, public virtual GraphDocument, protecte
 
   std::int64_t currentExam() const override { return currentExam_; }
   void setCurrentExam(std::int64_t exam) { currentExam_ = exam; }
-  bool shouldShowGraphHilite() const override { return true; }
+  /// Not on paper, where the disc around the examination on show would read as a finding.
+  bool shouldShowGraphHilite() const override { return !isOnPaper_; }
+  /// Whether the pages go to paper or into files from now on.
+  void setOnPaper(bool onPaper) { isOnPaper_ = onPaper; }
 
   void nextExamination();
   void previousExamination();
@@ -126,6 +129,7 @@ class CorvelDocument : public ZuDocument, public virtual GraphDocument, protecte
   FieldEditor fieldEditor_;
   std::int64_t currentExam_ = 0;
   bool lookUpRequired_ = false;
+  bool isOnPaper_ = false;
 };
 
 }  // namespace nascor::framework
