@@ -200,6 +200,8 @@ class NCDocument final : public framework::CorvelDocument,
   framework::NumberField& fieldFor(calc::Measurement measurement);
   /// The measurement that `field` shows; nothing for another field.
   std::optional<calc::Measurement> measurementOf(const framework::TextField& field);
+  /// Shows `title` over that page.
+  void setHeader(std::size_t page, const std::string& title);
   bool mayModify(std::string_view message, std::string_view information);
   const model::NCRecord* examination(std::int64_t exam) const;
   model::NCRecord* currentExamination();
@@ -216,6 +218,8 @@ class NCDocument final : public framework::CorvelDocument,
   /// A fetus was removed and the fields still show its numbers: until they are read anew, only what the user types in them
   /// belongs to the fetus that took its place.
   bool measurementFieldsAreStale_ = false;
+  /// Read back as the day it already was, or another: the records do not tell that it was typed.
+  bool examDateWasTyped_ = false;
   foundation::NotificationCenter::Subscription showAllSubscription_;
 
   framework::IntegerField gravidaField_;
@@ -230,6 +234,11 @@ class NCDocument final : public framework::CorvelDocument,
   framework::TextField headerACField_{"headerACField"};
   framework::TextField headerFLField_{"headerFLField"};
   framework::TextField headerEFWField_{"headerEFWField"};
+
+  /// The title lines of the pages, in their order; the report, the last page, has none.
+  const std::array<framework::TextField*, 6> headers_{&headerSummaryField_, &headerBPDField_,
+                                                      &headerHCField_,      &headerACField_,
+                                                      &headerFLField_,      &headerEFWField_};
 
   framework::Panel crlWindow_{"crlWindow"};
   framework::TextField crlWindowDate_{"crlWindowDate"};

@@ -14,8 +14,9 @@ namespace string_table = foundation::string_table;
 
 void NCDocument::addExamination() {
   if (!patientRecord_) return;
-  // A file may name any number; no examination needs more records than there can be fetuses.
-  const std::int64_t fetuses = std::min(patientRecord_->numberOfFetuses(), calc::kMostFetuses);
+  // A damaged file may name a number of fetuses that no memory holds.
+  constexpr std::int64_t kMostRecords = 1000;
+  const std::int64_t fetuses = std::min(patientRecord_->numberOfFetuses(), kMostRecords);
   patientRecord_->addNCRecordWithNumberOfFetuses(fetuses, services().clock);
   setCurrentExam(numberOfExaminations() - 1);
 }
@@ -106,7 +107,7 @@ void NCDocument::updateMultiplePopUp() {
   }
   if (currentFetus_ > count - 1) currentFetus_ = std::max<std::int64_t>(count - 1, 0);
   tabView().setNeedsDisplay();
-  headerSummaryField_.setText(preferredFileName(true));
+  setHeader(0, preferredFileName(true));
 }
 
 }  // namespace nascor::app

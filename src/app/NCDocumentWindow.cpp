@@ -22,6 +22,7 @@ void NCDocument::windowControllerDidLoadNib() {
     patientRecord_ = std::make_unique<model::PatientRecord>(services().clock, services().defaults);
     setLookUpRequired(true);
   }
+  examDateWasTyped_ = false;
   showAllSubscription_ =
       services().notifications.subscribe(foundation::NotificationName::updateShowAll,
                                          [this](const foundation::Notification&) { updateShowAll(); });
@@ -37,6 +38,8 @@ void NCDocument::windowControllerDidLoadNib() {
 
   setCurrentExam(lastExam());
   setCurrentFetus(0);
+  // A document that is read again has a fetus selected already.
+  if (multiplePopUp_.numberOfItems() > 0) multiplePopUp_.selectItemAtIndex(0);
   updateMultiplePopUp();
   synchronizeFromData();
   services().notifications.post(foundation::NotificationName::updateStandards, this);
@@ -62,7 +65,7 @@ void NCDocument::synchronizeFromData() {
     if (measured) {
       fieldFor(measurement).setDoubleValue(measured->biometry().*calc::memberFor(measurement));
     } else {
-      fieldFor(measurement).setText("");
+      fieldFor(measurement).clear();
     }
   }
   measurementFieldsAreStale_ = false;
@@ -94,14 +97,14 @@ void NCDocument::synchronizeToData() {
 void NCDocument::updateDisplay() {
   CorvelDocument::updateDisplay();
   const std::string title = preferredFileName(true);
-  for (TextField* header : {&headerSummaryField_, &headerBPDField_, &headerHCField_, &headerACField_,
-                            &headerFLField_, &headerEFWField_}) {
-    header->setText(title);
-  }
-  // The report, the last page, has no title line.
-  for (std::size_t page = 0; page + 1 < pages_.size(); ++page) pages_.at(page).setTitle(title);
+  for (std::size_t page = 0; page < headers_.size(); ++page) setHeader(page, title);
   ageField().setText(menstrualAgeStringForRecord(static_cast<std::uint64_t>(currentExam())));
   tabView().setNeedsDisplay();
+}
+
+void NCDocument::setHeader(std::size_t page, const std::string& title) {
+  headers_.at(page)->setText(title);
+  pages_.at(page).setTitle(title);
 }
 
 void NCDocument::switchToGraph(std::int64_t tabIndex) { tabView().selectPage(tabIndex); }
@@ -128,6 +131,7 @@ bool NCDocument::controlTextShouldEndEditing(TextField& field, std::string_view 
 
 void NCDocument::controlTextDidEndEditing(TextField& field) {
   setLookUpRequired(&field == &gravidaField_ && isBlank());
+  if (&field == &examDateField()) examDateWasTyped_ = true;
   if (&field == &referenceIDField() && isBlank()) {
     field.takeEditedText(services().localizer.upperCased(field.text()));
   }
@@ -211,14 +215,9 @@ bool NCDocument::currentExaminationHoldsData() const {
 
 bool NCDocument::holdsMoreThanIdentity() const {
   if (!patientRecord_) return false;
-  // The fields, not the records: what was typed before the look-up may not have got there.
-  const auto typed = [](const framework::TextField& field) {
-    return field.wasEdited() && !field.text().empty();
-  };
+  // Every field was left before, and reached the records; the note may still wait in its view.
   return currentExaminationHoldsData() || patientRecord_->edd() || numberOfExaminations() > 1 ||
-         patientRecord_->numberOfFetuses() > 1 || typed(birthDateField()) || typed(examDateField()) ||
-         typed(bpdField_) || typed(hcField_) || typed(acField_) || typed(flField_) ||
-         notesField().wasEdited();
+         patientRecord_->numberOfFetuses() > 1 || examDateWasTyped_ || notesField().wasEdited();
 }
 
 }  // namespace nascor::app

@@ -6,6 +6,7 @@
 #include "foundation/Localizer.h"
 #include "foundation/UserDefaults.h"
 #include "framework/DocumentController.h"
+#include "framework/FileName.h"
 
 namespace nascor::framework {
 
@@ -23,10 +24,11 @@ CorvelDocument::CorvelDocument(const DocumentEnvironment& environment)
 }
 
 bool CorvelDocument::commitEditing() {
-  if (!fieldEditor_.end()) return false;
-  // The note has no field editor: what was typed waits in its view for the next synchronisation.
+  const bool ended = fieldEditor_.end();
+  // The note has no field editor: what was typed waits in its view for the next synchronisation. It is stored beside a
+  // field that refuses too, or closing with such a field would lose it.
   if (notesField_.wasEdited()) synchronizeToData();
-  return true;
+  return ended;
 }
 
 void CorvelDocument::nextExamination() { showExamination(currentExam_ + 1); }
@@ -101,16 +103,17 @@ bool CorvelDocument::controlTextShouldBeginEditing(TextField&) { return true; }
 void CorvelDocument::controlTextDidBeginEditing(TextField&) { updateChangeCount(ChangeType::changeDone); }
 
 std::vector<foundation::FileEntry> CorvelDocument::documentsOfPatient(const std::string& name) const {
-  std::string extension(".");
-  extension += services().defaults.value(foundation::defaults_key::dataFileExtension).value_or("nascor");
-  const std::string exactName = name + extension;
+  const std::string extension =
+      services().defaults.value(foundation::defaults_key::dataFileExtension).value_or("nascor");
+  const std::string exactName = fileName(name, extension);
   // Documents of the same reference ID under any gravidity.
-  const std::string prefix = referenceIDForFileName() + " (G";
-  std::string suffix(")");
-  suffix += extension;
+  const std::string prefix = fileNameText(referenceIDForFileName() + " (G");
+  const std::string suffix = ")." + extension;
 
+  const foundation::FileStore& files = services().files;
   std::vector<foundation::FileEntry> found;
-  for (const foundation::FileEntry& file : services().files.entries(services().files.documentsFolder())) {
+  for (const foundation::FileEntry& file : files.entries(files.documentsFolder())) {
+    if (filePath() && files.resolvedPath(file.path) == files.resolvedPath(*filePath())) continue;
     if (file.name == exactName || (file.name.starts_with(prefix) && file.name.ends_with(suffix) &&
                                    file.name.size() >= prefix.size() + suffix.size())) {
       found.push_back(file);

@@ -6,6 +6,7 @@
 
 #include "foundation/Localizer.h"
 #include "foundation/UserDefaults.h"
+#include "framework/FileName.h"
 
 namespace nascor::framework {
 
@@ -56,17 +57,22 @@ void DocumentController::openDocuments() {
 
 bool DocumentController::saveDocument(ZuDocument& document) {
   if (!document.filePath()) return saveDocumentAs(document);
-  return document.commitEditing() && write(document, *document.filePath());
+  return document.commitEditing() && isOpen(document) && write(document, *document.filePath());
 }
 
 bool DocumentController::saveDocumentAs(ZuDocument& document) {
-  if (!document.commitEditing()) return false;
+  if (!document.commitEditing() || !isOpen(document)) return false;
   const auto path = panels_.chooseFileToSave(suggestedFileName(document));
   return path && write(document, *path);
 }
 
 bool DocumentController::write(ZuDocument& document, const std::string& path) {
-  const auto error = document.writeToFile(path);
+  const ZuDocument* holder = documentOfFile(path);
+  // Two windows on one file would overwrite each other's patient.
+  const auto error =
+      holder && holder != &document
+          ? FileError{services_.localizer.text(string_table::corvelDocument, "It is open in another window.")}
+          : document.writeToFile(path);
   if (!error) return true;
   alerts_.tell(services_.localizer.text(string_table::corvelDocument, "The document was not saved."),
                path + ": " + error->reason);
@@ -76,6 +82,8 @@ bool DocumentController::write(ZuDocument& document, const std::string& path) {
 bool DocumentController::closeDocument(ZuDocument& document) {
   // What a field accepts is saved or discarded with the rest; what it refuses goes with the window.
   static_cast<void>(document.commitEditing());
+  // Committing a gravidity may have put another document into this one's place.
+  if (!isOpen(document)) return true;
   if (document.isDocumentEdited()) {
     const auto text = [&](std::string_view table, std::string_view key) {
       return services_.localizer.text(table, key);
@@ -140,12 +148,17 @@ ZuDocument& DocumentController::add(std::unique_ptr<ZuDocument> document) {
 }
 
 void DocumentController::remove(ZuDocument& document) {
-  document.windowWillClose();
   const auto place = std::ranges::find(documents_, &document, &std::unique_ptr<ZuDocument>::get);
+  if (place == documents_.end()) return;
+  document.windowWillClose();
   closed_.push_back(std::move(*place));
   documents_.erase(place);
   if (onDocumentRemoved) onDocumentRemoved(document);
   if (ZuDocument* front = currentDocument(); front && onDocumentInFront) onDocumentInFront(*front);
+}
+
+bool DocumentController::isOpen(const ZuDocument& document) const {
+  return std::ranges::find(documents_, &document, &std::unique_ptr<ZuDocument>::get) != documents_.end();
 }
 
 ZuDocument* DocumentController::documentOfFile(const std::string& path) const {
@@ -161,8 +174,8 @@ ZuDocument* DocumentController::documentOfFile(const std::string& path) const {
 std::string DocumentController::suggestedFileName(const ZuDocument& document) const {
   if (document.filePath()) return document.displayName();
   const std::string name = document.suggestedFileName();
-  return (name.empty() ? document.displayName() : name) + "." +
-         services_.defaults.value(foundation::defaults_key::dataFileExtension).value_or("nascor");
+  return fileName(name.empty() ? document.displayName() : name,
+                  services_.defaults.value(foundation::defaults_key::dataFileExtension).value_or("nascor"));
 }
 
 }  // namespace nascor::framework

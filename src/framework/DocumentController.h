@@ -35,11 +35,12 @@ class DocumentController {
   void openDocuments();
 
   /// Saves to the document's file, or where the user says when it has none. False when a field refuses its text, the user
-  /// cancels, or the file cannot be written (which the user is told).
+  /// cancels, the document was replaced by one that the user looked up, or the file cannot be written: it is open in another
+  /// window, or the system refuses (which the user is told).
   bool saveDocument(ZuDocument& document);
   bool saveDocumentAs(ZuDocument& document);
   /// Asks whether to save when the document was edited, then closes it. False when the user cancels or saving fails. A
-  /// text that its field refuses is dropped with the window.
+  /// text that its field refuses is dropped with the window; a cancelled close keeps it in edit.
   bool closeDocument(ZuDocument& document);
   /// Closes all documents, the one in front first, until one is not closed. True when none is left.
   bool closeAllDocuments();
@@ -68,6 +69,7 @@ class DocumentController {
   ZuDocument& add(std::unique_ptr<ZuDocument> document);
   void remove(ZuDocument& document);
   bool write(ZuDocument& document, const std::string& path);
+  bool isOpen(const ZuDocument& document) const;
   ZuDocument* documentOfFile(const std::string& path) const;
   std::string suggestedFileName(const ZuDocument& document) const;
 

@@ -26,6 +26,11 @@ void NumberField::setDoubleValue(double value) {
   show(shown(), false);
 }
 
+void NumberField::clear() {
+  value_ = 0.0;
+  show("", false);
+}
+
 bool NumberField::accepts(std::string_view text) const {
   return foundation::numberFromFieldText(text).has_value();
 }

@@ -72,6 +72,8 @@ class NumberField final : public TextField {
 
   double doubleValue() const { return value_; }
   void setDoubleValue(double value);
+  /// Shows nothing and holds 0: there is no number.
+  void clear();
 
   /// Digits with a sign and a decimal point or comma; empty is 0.
   bool accepts(std::string_view text) const override;

@@ -38,6 +38,11 @@ std::optional<FileError> ZuDocument::revertToSaved() {
   } catch (const std::runtime_error& error) {
     return FileError{error.what()};
   }
+  if (!holdsContents()) {
+    // As when it is opened: a blank document, which never overwrites that file.
+    filePath_.reset();
+    docIsBlank_ = true;
+  }
   windowControllerDidLoadNib();
   updateChangeCount(ChangeType::changeCleared);
   return std::nullopt;

@@ -59,7 +59,8 @@ class ZuDocument {
   /// Writes the model as it stands to `path`, whole or not at all. On success that is the document's file from now on, it
   /// is not edited any more, and not blank. On failure nothing changes.
   std::optional<foundation::FileError> writeToFile(const std::string& path);
-  /// Reads the document's file again; all edits are lost. On failure nothing changes.
+  /// Reads the document's file again; all edits are lost. A file that now says that it holds nothing leaves an untitled
+  /// blank document. On failure nothing changes.
   std::optional<foundation::FileError> revertToSaved();
 
   /// @}
