@@ -175,6 +175,9 @@ const std::map<std::string, Operation, std::less<>>& operations() {
       {"updateArrayOrder", act([](NCDocument& d, Arguments&) { d.updateArrayOrder(); })},
       {"chooseFetus", act([](NCDocument& d, Arguments&) { d.chooseFetus(d.multiplePopUp()); })},
       {"addFetus", act([](NCDocument& d, Arguments&) { d.addFetus(&d); })},
+      {"deleteFetusAlertDidEnd", act([](NCDocument& d, Arguments& a) {
+         d.deleteFetusAlertDidEnd(static_cast<framework::AlertReturn>(a.integer()));
+       })},
       {"deleteFetus", act([](NCDocument& d, Arguments&) { d.deleteFetus(&d); })},
       {"updateMultiplePopUp", act([](NCDocument& d, Arguments&) { d.updateMultiplePopUp(); })},
       {"updateShowAll", act([](NCDocument& d, Arguments&) { d.updateShowAll(); })},
@@ -231,7 +234,7 @@ Driver::Driver()
       startZone_(::getenv("TZ") ? std::optional<std::string>(::getenv("TZ")) : std::nullopt),
       clock_({816948000.0}),  // 2026-11-21 10:00 UTC
       calendar_((setZone("UTC"), std::make_unique<posix::PosixCalendar>())),
-      files_(scratchFolder_.string()),
+      files_(scratchFolder_.string(), clock_),
       panels_(scratchFolder_.string()),
       services_{.clock = clock_,
                 .calendar = *calendar_,
@@ -385,15 +388,20 @@ Json Driver::edit(const Json& fieldAndText) {
 Json Driver::visit(const Json& field) {
   const std::string name = textArgument(field, "the name of a field");
   NCDocument& visited = document();
-  if (name != visited.notesField().name()) static_cast<void>(fieldNamed(visited, name));
-  // Entering a field leaves the one before; a visit itself changes nothing.
-  const bool left = visited.fieldEditor().end();
-  return {{"began", left}, {"ended", left}};
+  const framework::TextField* entered =
+      name == visited.notesField().name() ? nullptr : &fieldNamed(visited, name);
+  // Entering a field leaves the one before; a visit itself changes nothing. A field that refuses is in edit already.
+  const bool isInEdit = entered && visited.fieldEditor().field() == entered;
+  const bool ended = visited.fieldEditor().end();
+  return {{"began", isInEdit || ended}, {"ended", ended}};
 }
 
 Json Driver::revert(const Json& field) {
+  const std::string name = textArgument(field, "the name of a field");
   NCDocument& reverted = document();
-  const framework::TextField& named = fieldNamed(reverted, textArgument(field, "the name of a field"));
+  // What is typed into the note is there at once.
+  if (name == reverted.notesField().name()) return Json::object();
+  const framework::TextField& named = fieldNamed(reverted, name);
   if (reverted.fieldEditor().field() == &named) reverted.fieldEditor().revert();
   return Json::object();
 }

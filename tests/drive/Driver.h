@@ -15,7 +15,6 @@
 #include "foundation/NotificationCenter.h"
 #include "framework/DocumentController.h"
 #include "posix/PosixCalendar.h"
-#include "posix/PosixFileStore.h"
 #include "support/FixedClock.h"
 #include "support/MemoryUserDefaults.h"
 #include "support/ScriptedAlerts.h"
@@ -76,7 +75,7 @@ class Driver {
   std::unique_ptr<posix::PosixCalendar> calendar_;
   StoryLocalizer localizer_;
   tests::MemoryUserDefaults defaults_;
-  posix::PosixFileStore files_;
+  StoryFileStore files_;
   tests::MemoryLog log_;
   foundation::NotificationCenter notifications_;
   tests::ScriptedAlerts alerts_;

@@ -1,6 +1,10 @@
 #include "drive/Ports.h"
 
+#include <fcntl.h>
+#include <sys/stat.h>
+
 #include <algorithm>
+#include <cmath>
 
 #include "drive/UpperCase.h"
 
@@ -23,6 +27,19 @@ bool StoryLocalizer::choose(std::string_view locale) {
   form_.pattern = row->shortDatePattern;
   decimalSign_ = row->decimalSign;
   return true;
+}
+
+std::optional<foundation::FileError> StoryFileStore::replaceContents(const std::string& path,
+                                                                     std::span<const std::byte> bytes) {
+  if (auto error = files_.replaceContents(path, bytes)) return error;
+  constexpr double kUnixTimeOf2001 = 978307200.0;
+  constexpr double kMillisecond = 0.001;
+  const double written = clock_.now().secondsSince2001 + kUnixTimeOf2001 + kMillisecond * ++writes_;
+  const timespec stamp{.tv_sec = static_cast<time_t>(std::floor(written)),
+                       .tv_nsec = static_cast<long>((written - std::floor(written)) * 1e9)};
+  const timespec stamps[] = {stamp, stamp};
+  if (::utimensat(AT_FDCWD, path.c_str(), stamps, 0) != 0) return foundation::FileError{"no date can be set"};
+  return std::nullopt;
 }
 
 }  // namespace nascor::drive
