@@ -66,6 +66,7 @@ DocumentWindow::DocumentWindow(NCDocument& document, WindowEnvironment environme
   ui_->statusBar->addWidget(refusalLabel_, 1);
   growthLabel_ = new QLabel;
   growthLabel_->setObjectName(QStringLiteral("growthStandardLabel"));
+  growthLabel_->setContentsMargins(12, 0, 12, 0);
   ui_->statusBar->addPermanentWidget(growthLabel_);
   weightLabel_ = new QLabel;
   weightLabel_->setObjectName(QStringLiteral("fetalWeightLabel"));
@@ -134,6 +135,7 @@ void DocumentWindow::perform(const DocumentAction& action) {
     if (!document_->commitEditing()) {
       focusFieldInEdit();
     } else if (document_) {  // still there: leaving a field may have put another document into its place
+      placePopUp();
       action(*document_);
     }
   });
@@ -206,6 +208,7 @@ void DocumentWindow::bindPopUp() {
 
 void DocumentWindow::bindPages() {
   framework::TabView& tabs = document_->tabView();
+  QString taken = mnemonicOf(ui_->showAllAction->text());
   for (std::int64_t i = 0; i < tabs.numberOfPages(); ++i) {
     framework::Page& page = tabs.page(i);
     auto* view = new PageView(page);
@@ -214,7 +217,8 @@ void DocumentWindow::bindPages() {
     view->setAccessibleName(name);
     ui_->tabView->addTab(view, name);
     pageViews_.push_back(view);
-    auto* action = new QAction(withMnemonic(name, u""), this);
+    auto* action = new QAction(withMnemonic(name, taken), this);
+    taken += mnemonicOf(action->text());
     action->setObjectName(fromUtf8(page.name()) + QStringLiteral("Action"));
     action->setShortcut(QKeySequence(QStringLiteral("Alt+%1").arg(i + 1)));
     connect(action, &QAction::triggered, this,
@@ -262,6 +266,11 @@ void DocumentWindow::bindActions() {
   ui_->deleteExaminationButton->setDefaultAction(ui_->deleteExaminationAction);
   ui_->addFetusButton->setDefaultAction(ui_->addFetusAction);
   ui_->deleteFetusButton->setDefaultAction(ui_->deleteFetusAction);
+  // The short texts tell what is added or removed by their place alone.
+  for (QToolButton* button : {ui_->addExaminationButton, ui_->deleteExaminationButton, ui_->addFetusButton,
+                              ui_->deleteFetusButton}) {
+    button->setAccessibleName(button->defaultAction()->text().remove(u'&'));
+  }
 
   bindFileActions();
   bindEditActions();
@@ -502,10 +511,11 @@ void DocumentWindow::showAbout() {
   box.setText(said("Nascor %1").arg(programVersion()));
   box.setInformativeText(
       QStringLiteral("%1\n\n%2\n\n%3")
-          .arg(disclaimer(), said("Copyright (c) 2026 The Nascor developers. MIT License."),
-               said("Linked with Qt %1 (GNU LGPL 3) and the GNU C++ library (GNU GPL 3 with the GCC Runtime "
-                    "Library Exception).")
-                   .arg(QLatin1String(qVersion()))));
+          .arg(
+              disclaimer(), said("Copyright (c) 2026 The Nascor developers. MIT License."),
+              said("Linked with Qt %1 (GNU LGPL 3), the D-Bus library (AFL 2.1 or GNU GPL 2) and the GNU C++ "
+                   "library (GNU GPL 3 with the GCC Runtime Library Exception).")
+                  .arg(QLatin1String(qVersion()))));
   box.exec();
 }
 
@@ -549,9 +559,7 @@ void DocumentWindow::dropEvent(QDropEvent* event) {
       this, [this, paths] { environment_.openFiles(paths); }, Qt::QueuedConnection);
 }
 
-void DocumentWindow::resizeEvent(QResizeEvent* event) {
-  QMainWindow::resizeEvent(event);
-  if (!document_) return;
+void DocumentWindow::placePopUp() {
   const QPoint at = ui_->multiplePopUp->mapTo(this, QPoint());
   document_->multiplePopUp().setFrame({.x = static_cast<double>(at.x()),
                                        .y = static_cast<double>(at.y()),

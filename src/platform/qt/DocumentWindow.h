@@ -60,7 +60,6 @@ class DocumentWindow final : public QMainWindow {
   void closeEvent(QCloseEvent* event) override;
   void dragEnterEvent(QDragEnterEvent* event) override;
   void dropEvent(QDropEvent* event) override;
-  void resizeEvent(QResizeEvent* event) override;
 
  private:
   using DocumentAction = std::function<void(app::NCDocument&)>;
@@ -77,6 +76,8 @@ class DocumentWindow final : public QMainWindow {
   void showRecentFiles();
   void describeFields();
 
+  /// Tells the document where its pop-up stands.
+  void placePopUp();
   void focusFieldInEdit();
   void showEditing();
   void showFetuses();

@@ -52,7 +52,7 @@ void FieldBinding::release() {
 }
 
 void FieldBinding::refresh() {
-  if (!field_) return;
+  if (!field_ || isBeginning_) return;
   show(edit_, fromUtf8(isInEdit() ? editor_.text() : field_->text()));
   edit_.setRefusing(isInEdit() && editor_.isRefusing());
   if (field_->isRed() != edit_.property("isRed").toBool()) {
@@ -67,15 +67,17 @@ void FieldBinding::typed(const QString& text) {
     editor_.replace(toUtf8(text));
     return;
   }
-  // Beginning may end another field, which shows everything anew, and may ask: what was typed waits meanwhile.
-  const int cursor = edit_.cursorPosition();
+  // Beginning may end another field, which shows everything anew, and may ask. What was typed stays meanwhile, with what
+  // can be undone of it.
   const QPointer<FieldBinding> self = this;
   bool began = false;
-  const bool asked = actions_.perform([&] { began = editor_.begin(*field_); });
-  if (!self || !field_) return;
-  if (asked && began) {
+  isBeginning_ = true;
+  actions_.perform([&] { began = editor_.begin(*field_); });
+  if (!self) return;
+  isBeginning_ = false;
+  if (!field_) return;
+  if (began) {
     editor_.replace(toUtf8(text));
-    edit_.setCursorPosition(cursor);
   } else {
     refresh();
     edit_.selectAll();

@@ -40,6 +40,7 @@ class FieldBinding final : public QObject {
   framework::TextField* field_;
   framework::FieldEditor& editor_;
   Actions& actions_;
+  bool isBeginning_ = false;
 };
 
 /// A line that shows a field and takes no typing.

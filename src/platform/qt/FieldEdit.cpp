@@ -19,6 +19,12 @@ void FieldEdit::setRefusing(bool refusing) {
   update();
 }
 
+QSize FieldEdit::minimumSizeHint() const {
+  const QSize least = QLineEdit::minimumSizeHint();
+  const int room = fontMetrics().horizontalAdvance(QStringLiteral("30 Mmm 2027"));
+  return {least.width() + room, least.height()};
+}
+
 void FieldEdit::focusOutEvent(QFocusEvent* event) {
   QLineEdit::focusOutEvent(event);
   switch (event->reason()) {

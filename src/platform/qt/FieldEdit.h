@@ -13,6 +13,8 @@ class FieldEdit final : public QLineEdit {
   /// Outlines the field, or not.
   void setRefusing(bool refusing);
   bool isRefusing() const { return isRefusing_; }
+  /// Room for a date at least.
+  QSize minimumSizeHint() const override;
 
   std::function<void()>
       onLeave;  ///< the focus went to another widget of the window, not to a menu or another window
