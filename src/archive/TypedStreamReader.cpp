@@ -265,7 +265,9 @@ double TypedStreamReader::readReal() {
   const TypeNode& type = dueOf("fd", "a real");
   double value = 0;
   if (peekHead("a real") != kRealTag) {
-    value = static_cast<double>(takeNumber("a real"));
+    // A single-precision real is one in whichever form it is written.
+    const std::int64_t whole = takeNumber("a real");
+    value = type.code == 'f' ? static_cast<double>(static_cast<float>(whole)) : static_cast<double>(whole);
   } else if (++position_; type.code == 'f') {
     value = std::bit_cast<float>(static_cast<std::uint32_t>(takeFixed(4, "a real")));
   } else {

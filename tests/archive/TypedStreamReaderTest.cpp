@@ -148,6 +148,8 @@ INSTANTIATE_TEST_SUITE_P(
                     RealCase{"twoByteInteger", kLittle, 'f', "81 f4 00", 244.0},
                     RealCase{"fourByteInteger", kLittle, 'f', "82 80 96 98 00", 1e7},
                     RealCase{"fourByteIntegerBig", kBig, 'f', "82 00 98 96 80", 1e7},
+                    RealCase{"integerThatSinglePrecisionRounds", kLittle, 'f', "82 01 00 00 01", 16777216.0},
+                    RealCase{"integerThatDoublePrecisionKeeps", kLittle, 'd', "82 01 00 00 01", 16777217.0},
                     RealCase{"fraction", kLittle, 'f', "83 91 90 10 3f", 0.5647059082984924},
                     RealCase{"fractionBig", kBig, 'f', "83 3f 2a aa ab", 0.6666666865348816},
                     RealCase{"wholeBeyondIntegers", kLittle, 'f', "83 ee ff 7f 7f", 3.402820018375656e+38},

@@ -463,8 +463,11 @@ struct LookUpCase {
 inline constexpr LookUpCase kGestations[] = {
     {0, Measurement::bpd, 1.0, 11.0},
     {0, Measurement::bpd, 25.3, 13.581812759265784},
+    {0, Measurement::bpd, 25.8, 13.717376569151096},
+    {0, Measurement::bpd, 38.1, 17.188087866725635},
     {0, Measurement::bpd, 47.414, 19.999999999999996},
     {0, Measurement::bpd, 60.1, 24.15862957417917},
+    {0, Measurement::bpd, 73.1, 28.936745233565006},
     {0, Measurement::bpd, 92.9, 37.89431192660549},
     {0, Measurement::bpd, 150.0, 41.0},
     {0, Measurement::hc, 100.0, 14.169117484465868},

@@ -86,6 +86,14 @@ TEST(GestationForMeasurement, ofTheMeanOfAWeekIsThatWeekInEveryTable) {
   });
 }
 
+TEST(GestationForMeasurement, ofAMeanIsItsRowsOwnWeekAndNotReckoned) {
+  // No table of the program has such a gap: 0.2 + (0.9 - 0.2) is not 0.9.
+  const ReferenceTable gap{DatabaseRecord::initWithData(0.2, 20.0, 1.0),
+                           DatabaseRecord::initWithData(0.9, 30.0, 2.0),
+                           DatabaseRecord::initWithData(1.0, 40.0, 2.0)};
+  EXPECT_TRUE(isExactly(gestationForMeasurement(gap, 30.0), 0.9));
+}
+
 TEST(GestationForMeasurement, aboveTheLastMeanButOneIsTheLastWeekInEveryTable) {
   forEveryTable([](const ReferenceTable& table, const std::string& name) {
     const DatabaseRecord& lastButOne = table[table.size() - 2];

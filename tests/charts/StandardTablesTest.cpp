@@ -1,5 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <string>
+#include <vector>
+
 #include "calc/Standards.h"
 #include "charts/MeasurementCharts.h"
 #include "foundation/UserDefaults.h"
@@ -63,6 +66,55 @@ INSTANTIATE_TEST_SUITE_P(byIdentifier, EveryStandard,
                                          TitleCase{3, "Nascor Standard: CFEF (Biométrie 2000)", 25},
                                          TitleCase{4, "Nascor Standard: ", 0},
                                          TitleCase{-1, "Nascor Standard: ", 0}));
+
+struct RowsCase {
+  std::int64_t standard;
+  double bpd, hc, ac, fl;  ///< the published means at 20 weeks, mm to three decimals
+};
+class TheRowsOfEachStandard : public AChartsTable, public testing::WithParamInterface<RowsCase> {};
+
+TEST_P(TheRowsOfEachStandard, areInTheTableOfEachMeasurement) {
+  document.growthStandard = GetParam().standard;
+  EXPECT_NEAR(make<BPDGraphView>()->meanForGestation(20.0), GetParam().bpd, 0.0005);
+  EXPECT_NEAR(make<HeadCircumferenceGraphView>()->meanForGestation(20.0), GetParam().hc, 0.0005);
+  EXPECT_NEAR(make<AbdoCircumferenceGraphView>()->meanForGestation(20.0), GetParam().ac, 0.0005);
+  EXPECT_NEAR(make<FemurLengthGraphView>()->meanForGestation(20.0), GetParam().fl, 0.0005);
+}
+
+INSTANTIATE_TEST_SUITE_P(byIdentifier, TheRowsOfEachStandard,
+                         testing::Values(RowsCase{0, 47.414, 174.01, 154.374, 32.117},
+                                         RowsCase{1, 46.32, 176.816, 149.08, 32.7},
+                                         RowsCase{2, 46.674, 172.269, 149.553, 31.496},
+                                         RowsCase{3, 48.22, 172.47, 151.4, 32.23}));
+
+TEST_F(AChartsTable, growsWithEachBuilderWhichDoesNotEmptyIt) {
+  document.growthStandard = 4;  // begins without rows
+  const auto chart = make<BPDGraphView>();
+  std::vector<std::size_t> rows;
+  for (const auto builder : {&BPDGraphView::initASUMStandards, &BPDGraphView::initHadlockStandards,
+                             &BPDGraphView::initSchluterStandards, &BPDGraphView::initCFEFStandards}) {
+    (chart.get()->*builder)();
+    rows.push_back(chart->standardData().size());
+  }
+  EXPECT_EQ(rows, (std::vector<std::size_t>{31, 31 + 29, 31 + 29 + 31, 31 + 29 + 31 + 25}));
+}
+
+/// Notes how many rows there are whenever the title is set.
+class NotingGraphView : public BPDGraphView {
+ public:
+  using BPDGraphView::BPDGraphView;
+  void setReferenceTitle(const std::string& title) override {
+    rowsAtTitle.push_back(standardData().size());
+    BPDGraphView::setReferenceTitle(title);
+  }
+  std::vector<std::size_t> rowsAtTitle;
+};
+
+TEST_F(AChartsTable, isFilledBeforeTheTitleIsSet) {
+  document.growthStandard = 3;
+  EXPECT_EQ(make<NotingGraphView>()->rowsAtTitle, (std::vector<std::size_t>{31, 25}))
+      << "the preference's rows first, then the document's";
+}
 
 TEST_F(AChartsTable, isRebuiltWhenAStandardIsChosenAndAsksForARedraw) {
   const auto chart = make<BPDGraphView>();

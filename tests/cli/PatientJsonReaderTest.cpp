@@ -345,6 +345,10 @@ INSTANTIATE_TEST_SUITE_P(
                    "line 1, column 4: expected JSON, but a zero byte"},
         BrokenCase{"columnsAreCharacters", "{\"maternalIDString\":\"Größe\" x}",
                    "line 1, column 29: expected JSON, but invalid literal"},
+        BrokenCase{"textThatLooksLikeAReason", "\"; expected " + std::string(100000, 'x'),
+                   "line 1, column 100013: expected JSON, but invalid string: missing closing quote"},
+        BrokenCase{"overflowInAText", "\"number overflow",
+                   "line 1, column 17: expected JSON, but invalid string"},
         BrokenCase{"longGarbage", "{\"maternalIDString\":\"" + std::string(1000000, 'x'),
                    "line 1, column 1000022: expected JSON, but invalid string: missing closing quote"}),
     [](const auto& row) { return std::string(row.param.name); });

@@ -134,10 +134,10 @@ struct RankedDate {
 };
 
 // Examinations of the same rank are equal, those of a lower one come first.
-const std::vector<RankedDate> kRankedDates{{std::nullopt, 0},       {Date{kNaN}, 0},     {Date{-kNaN}, 0},
-                                           {Date{-kInfinity}, 1},   {Date{-1.0}, 2},     {Date{-0.0}, 3},
-                                           {Date{0.0}, 3},          {Date{1.0}, 4},      {Date{1.0}, 4},
-                                           {Date{220000000.25}, 5}, {Date{kInfinity}, 6}};
+const std::vector<RankedDate> kRankedDates{
+    {std::nullopt, 0}, {Date{kNaN}, 0},         {Date{-kNaN}, 0},       {Date{-kInfinity}, 1},
+    {Date{-1.0}, 2},   {Date{-0.0}, 3},         {Date{0.0}, 3},         {Date{1.0}, 4},
+    {Date{1.0}, 4},    {Date{220000000.25}, 5}, {Date{220000000.5}, 6}, {Date{kInfinity}, 7}};
 
 TEST(TheOrderOfExaminations, isByDateWithTheUndatedFirst) {
   for (const RankedDate& left : kRankedDates) {

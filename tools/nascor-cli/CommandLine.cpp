@@ -125,8 +125,8 @@ class Parser {
   CLI::Option* operands_;
 };
 
-int wrongUsage(Console& console, std::string_view sentence, const std::string& usageLine) {
-  console.tell(std::string(kProgram) + ": " + oneLine(sentence) + "\n" + usageLine);
+int wrongUsage(std::string_view sentence, const std::string& usageLine) {
+  Console::tell(std::string(kProgram) + ": " + oneLine(sentence) + "\n" + usageLine);
   return kWrongUsage;
 }
 
@@ -146,7 +146,7 @@ int parseAndRun(int argc, char** argv, Console& console) {
       console.flush();
       return kAllWell;
     }
-    if (chosen() == parsers.end()) return wrongUsage(console, "a command is missing", help());
+    if (chosen() == parsers.end()) return wrongUsage("a command is missing", help());
     chosen()->command().run(chosen()->arguments(), console);
     console.flush();
     return console.allWell() ? kAllWell : kBadInput;
@@ -155,10 +155,9 @@ int parseAndRun(int argc, char** argv, Console& console) {
     console.flush();
     return kAllWell;
   } catch (const CLI::ParseError& error) {
-    return wrongUsage(console, error.what(),
-                      chosen() == parsers.end() ? usage() : usageOf(chosen()->command()));
+    return wrongUsage(error.what(), chosen() == parsers.end() ? usage() : usageOf(chosen()->command()));
   } catch (const UsageError& error) {
-    return wrongUsage(console, error.what(), usageOf(chosen()->command()));
+    return wrongUsage(error.what(), usageOf(chosen()->command()));
   }
 }
 
@@ -185,7 +184,7 @@ int runCommandLine(int argc, char** argv) {
   } catch (const std::exception& error) {
     sentence = error.what();
   }
-  console.tell(std::string(kProgram) + ": " + oneLine(sentence) + "\n");
+  Console::tell(std::string(kProgram) + ": " + oneLine(sentence) + "\n");
   return kBadInput;
 }
 

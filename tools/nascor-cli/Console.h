@@ -52,7 +52,7 @@ class Console {
   void warn(std::string_view source, std::string_view sentence);
 
   /// Text for standard error as it stands. Nothing can be done when that fails.
-  void tell(std::string_view text);
+  static void tell(std::string_view text);
 
   bool outputIsTerminal() const { return outputIsTerminal_; }
 

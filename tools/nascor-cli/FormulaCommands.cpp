@@ -49,40 +49,45 @@ void runWeight(const Arguments& arguments, Console& console) {
   table.print(console);
 }
 
+/// The ages at one length, or the answer to a line that is no number.
+void answerCRL(std::optional<double> crl, bool asJson, Console& console) {
+  std::string& out = console.out();
+  if (asJson && !crl) {
+    JsonText(out).null();
+  } else if (asJson) {
+    JsonText json(out);
+    json.beginArray();
+    for (const calc::CRLFormula& formula : calc::crlFormulas()) json.number(formula.menstrualAge(*crl));
+    json.endArray();
+  } else {
+    out += crl ? shortestText(*crl) : "nan";
+    for (const calc::CRLFormula& formula : calc::crlFormulas()) {
+      out += '\t';
+      out += crl ? shown(formula.menstrualAge(*crl)) : "nan";
+    }
+  }
+  console.lineDone();
+}
+
+void printCRLTitles(Console& console) {
+  console.out() += "CRL (mm)";
+  for (const calc::CRLFormula& formula : calc::crlFormulas()) {
+    console.out() += '\t';
+    console.out() += formula.label;
+  }
+  console.lineDone();
+}
+
 void runCRL(const Arguments& arguments, Console& console) {
   const bool asJson = arguments.has("json");
-  const auto answer = [&](std::optional<double> crl) {
-    std::string& out = console.out();
-    if (asJson && !crl) {
-      JsonText(out).null();
-    } else if (asJson) {
-      JsonText json(out);
-      json.beginArray();
-      for (const calc::CRLFormula& formula : calc::crlFormulas()) json.number(formula.menstrualAge(*crl));
-      json.endArray();
-    } else {
-      out += crl ? shortestText(*crl) : "nan";
-      for (const calc::CRLFormula& formula : calc::crlFormulas()) {
-        out += '\t';
-        out += crl ? shown(formula.menstrualAge(*crl)) : "nan";
-      }
-    }
-    console.lineDone();
-  };
+  const auto answer = [&](std::optional<double> crl) { answerCRL(crl, asJson, console); };
 
   // All are looked at before the first is answered: wrong usage prints nothing else.
   std::vector<std::optional<double>> lengths;
   for (const std::string& text : arguments.operands) {
     lengths.push_back(text == "-" ? std::nullopt : std::optional(requiredNumber("MM", text)));
   }
-  if (!asJson) {
-    console.out() += "CRL (mm)";
-    for (const calc::CRLFormula& formula : calc::crlFormulas()) {
-      console.out() += '\t';
-      console.out() += formula.label;
-    }
-    console.lineDone();
-  }
+  if (!asJson) printCRLTitles(console);
   for (const auto& length : lengths) {
     if (length) {
       answer(length);

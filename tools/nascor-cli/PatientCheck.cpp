@@ -1,6 +1,7 @@
 #include "cli_commands/PatientCheck.h"
 
 #include <cmath>
+#include <compare>
 #include <utility>
 
 #include "calc/Dating.h"
@@ -99,7 +100,7 @@ class Check {
     examination_ = index + 1;
     if (!examination.note()) add("missingText", "the note is missing");
     date(examination.examDate(), "date");
-    if (index > 0 && examination.compare(*patient_.ncRecordsArray()[index - 1]) < 0) {
+    if (index > 0 && std::is_lt(examination.compare(*patient_.ncRecordsArray()[index - 1]))) {
       add("order", "it is earlier than the one before it");
     }
     const auto& measurements = examination.measurements();

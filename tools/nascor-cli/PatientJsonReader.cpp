@@ -99,7 +99,7 @@ std::string_view expectedBy(Kind kind) {
     case Kind::date: return "a date (seconds since 2001-01-01 UTC, an ISO text) or null";
     case Kind::dateText: return "an ISO date or null";
     case Kind::integer: return "a whole number";
-    case Kind::number: return "a number, \"nan\", \"inf\" or \"-inf\"";
+    case Kind::number: return R"(a number, "nan", "inf" or "-inf")";
     case Kind::list: return "a list";
   }
   return "";
@@ -159,7 +159,7 @@ class Receiver final : public nlohmann::json_sax<nlohmann::json> {
   bool number_unsigned(number_unsigned_t value) override {
     Number number{.value = static_cast<double>(value), .integer = {}, .written = std::to_string(value)};
     if (std::in_range<std::int64_t>(value)) number.integer = static_cast<std::int64_t>(value);
-    return scalar(std::move(number));
+    return scalar(number);
   }
   bool number_float(number_float_t value, const string_t& written) override {
     constexpr double kTwoTo63 = 9223372036854775808.0;
@@ -169,7 +169,7 @@ class Receiver final : public nlohmann::json_sax<nlohmann::json> {
     if (!digitsAlone && value == std::trunc(value) && value >= -kTwoTo63 && value < kTwoTo63) {
       number.integer = static_cast<std::int64_t>(value);
     }
-    return scalar(std::move(number));
+    return scalar(number);
   }
   bool string(string_t& value) override { return scalar(std::move(value)); }
   bool binary(binary_t&) override { return unexpected("binary data"); }
@@ -258,9 +258,9 @@ class Receiver final : public nlohmann::json_sax<nlohmann::json> {
     std::optional<std::string> dateText;
   };
 
-  PatientRecord& patient() { return *result_.patient; }
-  NCRecord& examination() { return *patient().ncRecordsArray().back(); }
-  MeasurementsRecord& fetus() { return examination().measurements().back(); }
+  PatientRecord& patient() const { return *result_.patient; }
+  NCRecord& examination() const { return *patient().ncRecordsArray().back(); }
+  MeasurementsRecord& fetus() const { return examination().measurements().back(); }
 
   Level& level() {
     switch (place_) {
@@ -271,7 +271,7 @@ class Receiver final : public nlohmann::json_sax<nlohmann::json> {
   }
 
   /// The JSON pointer of what is being read; empty at the top.
-  std::string pointer() {
+  std::string pointer() const {
     std::string path;
     if (place_ >= Place::examinations) {
       const std::size_t count = patient().ncRecordsArray().size();
@@ -299,18 +299,18 @@ class Receiver final : public nlohmann::json_sax<nlohmann::json> {
 
   void warn(const std::string& sentence) { result_.warnings.push_back("at " + pointer() + ": " + sentence); }
 
-  bool scalar(Scalar value) {
-    const bool fits = field_ && store(value);
-    return fits || (error_.empty() ? unexpected(describe(value)) : false);
+  bool scalar(const Scalar& value) {
+    const bool fits = field_ != nullptr && store(value);
+    return fits || (error_.empty() && unexpected(describe(value)));
   }
 
   /// False when the value is not of the kind that the field holds.
-  bool store(Scalar& value) {
+  bool store(const Scalar& value) {
     switch (field_->kind) {
       case Kind::text: return storeText(value);
       case Kind::date: return storeDate(value);
       case Kind::dateText: {
-        if (auto* text = std::get_if<std::string>(&value)) level().dateText = std::move(*text);
+        if (const auto* text = std::get_if<std::string>(&value)) level().dateText = *text;
         return std::holds_alternative<std::string>(value) || isNull(value);
       }
       case Kind::integer: return storeInteger(value);
@@ -320,10 +320,10 @@ class Receiver final : public nlohmann::json_sax<nlohmann::json> {
     return false;
   }
 
-  bool storeText(Scalar& value) {
+  bool storeText(const Scalar& value) {
     std::optional<std::string> text;
-    if (auto* given = std::get_if<std::string>(&value)) {
-      text = std::move(*given);
+    if (const auto* given = std::get_if<std::string>(&value)) {
+      text = *given;
     } else if (!isNull(value)) {
       return false;
     }
@@ -425,17 +425,13 @@ class Receiver final : public nlohmann::json_sax<nlohmann::json> {
 
   static bool continuesCharacter(char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U; }
 
-  /// The library's reason without its own account of the place and without what it read last, which may be long.
+  /// The library's reason without its own account of the place, and without what it read last and what follows that:
+  /// the text may be long, and may look like the rest of the reason.
   static std::string inPlainWords(std::string_view reason) {
+    reason = reason.substr(0, reason.find("; last read: "));
     if (reason.find("number overflow") != std::string_view::npos) return "this number is beyond 64 bits";
     if (const auto dash = reason.find(" - "); dash != std::string_view::npos) reason.remove_prefix(dash + 3);
-    std::string words(reason);
-    const auto lastRead = words.find("; last read: ");
-    const auto expected = words.rfind("; expected ");
-    if (lastRead == std::string::npos) return words;
-    const bool expectedFollows = expected != std::string::npos && expected > lastRead;
-    words.erase(lastRead, (expectedFollows ? expected : words.size()) - lastRead);
-    return words;
+    return std::string(reason);
   }
 
   std::string_view source_;

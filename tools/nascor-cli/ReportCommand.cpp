@@ -65,7 +65,7 @@ class Report {
 
   bool projectionIsShown() const {
     const NCRecord* last = lastExamination();
-    return last && calc::projectionIsShown(age(*last), patient_.extrapolatedGestation());
+    return last != nullptr && calc::projectionIsShown(age(*last), patient_.extrapolatedGestation());
   }
 
   /// "Days to Go:", a tab and the days. Empty when there are none to show.
