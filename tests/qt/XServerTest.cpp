@@ -224,7 +224,10 @@ TEST_F(OnAnXServer, takesANewPatientsTwinsAndGivesThemBackToTheNextProcess) {
   press({"Tab"});
   keep("new-7-refused.png");
   press({"Escape", "ctrl+q"});
+  focus(windowTitled(QStringLiteral("^Nascor$")));
+  press({"Tab", "space"});  // Discard
   endsWell();
+  EXPECT_EQ(readFile(path).ncRecordsArray().at(2)->measurements().at(1).bpd(), 0.0);
 }
 
 TEST_F(OnAnXServer, asksBeforeAnEDDIsChangedAndBeforeEditsAreLost) {

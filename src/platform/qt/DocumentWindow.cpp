@@ -523,7 +523,8 @@ void DocumentWindow::restoreWindowGeometry() {
   const auto kept = environment_.services.defaults.value(kGeometryKey);
   if (kept && restoreGeometry(QByteArray::fromBase64(QByteArray::fromStdString(*kept)))) return;
   if (const QScreen* here = screen()) {
-    resize(size().boundedTo(here->availableSize()));
+    const QSize frame(16, 48);  // what a window manager may add
+    resize(size().boundedTo(here->availableSize() - frame));
     move(here->availableGeometry().center() - QRect(QPoint(), size()).center());
   }
 }
