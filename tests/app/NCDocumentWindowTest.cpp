@@ -9,6 +9,7 @@
 #include "foundation/UserDefaults.h"
 #include "model/PatientFile.h"
 #include "support/MarkedLocalizer.h"
+#include "support/RecordingCanvas.h"
 #include "support/TestApplication.h"
 
 namespace nascor::app {
@@ -350,6 +351,21 @@ TEST_F(TheWindow, keepsAPlanThatIsNoWholeNumberOfDays) {
     const double kept = document->patientRecord()->extrapolatedGestation();
     EXPECT_TRUE(std::isnan(odd) ? std::isnan(kept) : kept == odd);
   }
+}
+
+TEST_F(TheWindow, drawsTheRecordsAsTheyStandAtEachDrawing) {
+  const auto document = opened(twins());
+  framework::Page& page = document->tabView().page(1);
+  page.layout(800, 560);
+  const auto heightOfMark = [&] {
+    tests::RecordingSurface surface;
+    page.paint(surface);
+    return surface.views.at(0).canvas.of(tests::RecordingCanvas::Entry::Kind::fillOval).at(0).rect.y + 10.0;
+  };
+  EXPECT_DOUBLE_EQ(heightOfMark(), document->BPDGraph().pointForXY(20, float{47.4F}).y);
+  // Nobody tells the chart.
+  document->patientRecord()->ncRecordsArray()[1]->measurementsForFetus(0).setBPD(60);
+  EXPECT_DOUBLE_EQ(heightOfMark(), document->BPDGraph().pointForXY(20, 60).y);
 }
 
 TEST_F(TheWindow, selectsTheBPDForTypingWhenAFetusIsChosen) {

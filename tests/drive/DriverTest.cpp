@@ -201,6 +201,23 @@ TEST(ADriversClock, countsInstantsFromTheStatedMorning) {
   EXPECT_EQ(state["document"]["examinations"][0]["examDate"], 816951600.5);
 }
 
+TEST(ADriversCapitals, areThoseOfAllOfUnicode) {
+  Driver driver;
+  driver.answer(R"({"new":true})");
+  for (const auto& [typed, shown] : {std::pair{"abc-xyz 1", "ABC-XYZ 1"},
+                                     {"\u00e9\u00f1\u00ff", "\u00c9\u00d1\u0178"},
+                                     {"stra\u00dfe", "STRASSE"},
+                                     {"\ufb01", "FI"},
+                                     {"\u03c3\u03c2", "\u03a3\u03a3"},
+                                     {"\u0434\u0436", "\u0414\u0416"},
+                                     {"\u0131i", "II"},
+                                     {"\U00010428", "\U00010400"},
+                                     {"\u4e2d\u05d0", "\u4e2d\u05d0"}}) {
+    driver.answer(Json{{"edit", {"referenceIDField", typed}}}.dump());
+    EXPECT_EQ(Json::parse(driver.answer(R"({"state":true})"))["fields"]["referenceIDField"], shown);
+  }
+}
+
 struct LocaleCase {
   const char* name;
   const char* day;  ///< 2027-02-05

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "DocumentsUnderTest.h"
+#include "support/MarkedLocalizer.h"
 
 namespace nascor::framework {
 namespace {
@@ -161,6 +162,31 @@ TEST_F(ALookUp, tellsFileDateAndSizeAndWhatWouldBeLost) {
   EXPECT_EQ(application.alerts.asked[1].information,
             "ID (G1).nascor\n4/11/01, 22 bytes\nWhat was entered here besides reference ID and gravidity "
             "will be lost.");
+}
+
+TEST_F(ALookUp, takesItsTextsFromTheFrameworksTables) {
+  const tests::MarkedLocalizer marked;
+  const foundation::Services services{.clock = application.clock,
+                                      .calendar = application.calendar,
+                                      .localizer = marked,
+                                      .defaults = application.defaults,
+                                      .files = application.files,
+                                      .log = application.log,
+                                      .notifications = application.notifications};
+  TextDocument translated(
+      {.services = services, .alerts = application.alerts, .controller = application.documents});
+  EXPECT_EQ(translated.displayName(), "[CorvelDocument:Untitled]");
+  translated.holdsMore = true;
+  putDated("ID (G1).nascor", 100);
+  translated.lookUp("ID (G0)", true);
+  const Alert& alert = application.alerts.asked.at(0);
+  EXPECT_EQ(alert.message, "[CorvelDocument:This patient has a document already.]");
+  EXPECT_EQ(
+      alert.information,
+      "ID (G1).nascor\n11.4.2001, [CorvelDocument:22 bytes]\n[CorvelDocument:What was entered here besides "
+      "reference ID and gravidity will be lost.]");
+  EXPECT_EQ(alert.defaultButton, "[CorvelDocument:Open]");
+  EXPECT_EQ(alert.alternateButton, "[ZuVersion:Cancel]");
 }
 
 TEST_F(ALookUp, storesTheFieldsWhenNothingIsOpened) {
