@@ -1,14 +1,9 @@
 #include "app/NCDocument.h"
 
-#include <algorithm>
-#include <array>
 #include <utility>
 
 #include "calc/Dating.h"
 #include "calc/Projection.h"
-#include "foundation/Calendar.h"
-#include "foundation/Localizer.h"
-#include "foundation/ShortDate.h"
 #include "model/PatientFile.h"
 
 namespace nascor::app {
@@ -16,6 +11,7 @@ namespace {
 
 using framework::Rect;
 
+// A chart page: its title line, the chart, the axis strip under it.
 constexpr double kTitleHeight = 30.0;
 constexpr double kStripHeight = 50.0;
 constexpr double kMargin = 10.0;
@@ -34,36 +30,65 @@ Rect stripPlacement(double width, double height) {
       .x = chart.x + 50.0, .y = chart.y + chart.height, .width = chart.width - 60.0, .height = kStripHeight};
 }
 
-/// What the fetuses are called, by their number.
-struct FetusLabels {
-  std::int64_t fetuses;
-  std::array<std::string_view, 5> titles;
-};
-
-constexpr std::array<FetusLabels, 5> kFetusLabels{{
-    {1, {"Singleton"}},
-    {2, {"Twin 1", "Twin 2"}},
-    {3, {"Triplet 1 of 3", "Triplet 2 of 3", "Triplet 3 of 3"}},
-    {4, {"Quad 1 of 4", "Quad 2 of 4", "Quad 3 of 4", "Quad 4 of 4"}},
-    {5, {"Quin 1 of 5", "Quin 2 of 5", "Quin 3 of 5", "Quin 4 of 5", "Quin 5 of 5"}},
-}};
-
 }  // namespace
 
-NCDocument::NCDocument(const foundation::Services& services)
-    : CorvelDocument(services),
-      bpdGraph_(framework::make<charts::BPDGraphView>(services, {})),
-      hcGraph_(framework::make<charts::HeadCircumferenceGraphView>(services, {})),
-      acGraph_(framework::make<charts::AbdoCircumferenceGraphView>(services, {})),
-      flGraph_(framework::make<charts::FemurLengthGraphView>(services, {})),
-      bpdAxis_(framework::make<charts::NoYaxisGraphView>(services, {})),
-      bpdPage_("BPD") {
-  for (charts::UpdatingGraphView* view : std::initializer_list<charts::UpdatingGraphView*>{
-           bpdGraph_.get(), hcGraph_.get(), acGraph_.get(), flGraph_.get(), bpdAxis_.get()}) {
-    view->setOwningDocument(this);
+NCDocument::NCDocument(const framework::DocumentEnvironment& environment)
+    : CorvelDocument(environment),
+      gravidaField_("gravidaField", this),
+      bpdField_("bpdField", 1, services().localizer, this),
+      hcField_("hcField", 1, services().localizer, this),
+      acField_("acField", 1, services().localizer, this),
+      flField_("flField", 1, services().localizer, this),
+      crlWindowCRL_("crlWindowCRL", 1, services().localizer),
+      adjustDeliveryStepper_(-280.0, 7.0, 1.0),
+      bpdGraph_(framework::make<charts::BPDGraphView>(services(), {})),
+      hcGraph_(framework::make<charts::HeadCircumferenceGraphView>(services(), {})),
+      acGraph_(framework::make<charts::AbdoCircumferenceGraphView>(services(), {})),
+      flGraph_(framework::make<charts::FemurLengthGraphView>(services(), {})) {
+  textFields_ = {&referenceIDField(),
+                 &gravidaField_,
+                 &birthDateField(),
+                 &examDateField(),
+                 &ageField(),
+                 &bpdField_,
+                 &hcField_,
+                 &acField_,
+                 &flField_,
+                 &headerSummaryField_,
+                 &headerBPDField_,
+                 &headerHCField_,
+                 &headerACField_,
+                 &headerFLField_,
+                 &headerEFWField_,
+                 &crlWindowDate_,
+                 &crlWindowCRL_,
+                 &crlStandardReference_,
+                 &lmpWindowLMP_,
+                 &lmpWindowCycleField_,
+                 &lmpWindowLutealField_,
+                 &measurementsWindowBPDGestation_,
+                 &measurementsWindowHCGestation_,
+                 &measurementsWindowACGestation_,
+                 &measurementsWindowFLGestation_,
+                 &measurementsWindowAvGestation_,
+                 &adjustEDDField_,
+                 &adjustDeliverOnField_,
+                 &adjustDeliverAtField_};
+  // The usual cycle; whoever knows better types over it.
+  lmpWindowCycleField_.setIntegerValue(28);
+  lmpWindowLutealField_.setIntegerValue(14);
+
+  const std::array<charts::NascorGraphView*, 4> graphs{bpdGraph_.get(), hcGraph_.get(), acGraph_.get(),
+                                                       flGraph_.get()};
+  constexpr std::size_t kFirstChartPage = 1;
+  for (std::size_t i = 0; i < graphs.size(); ++i) {
+    axes_.at(i) = framework::make<charts::NoYaxisGraphView>(services(), {});
+    graphs.at(i)->setOwningDocument(this);
+    axes_.at(i)->setOwningDocument(this);
+    pages_.at(kFirstChartPage + i).addView(*graphs.at(i), chartPlacement);
+    pages_.at(kFirstChartPage + i).addView(*axes_.at(i), stripPlacement);
   }
-  bpdPage_.addView(*bpdGraph_, chartPlacement);
-  bpdPage_.addView(*bpdAxis_, stripPlacement);
+  for (framework::Page& page : pages_) tabView().addPage(page);
 }
 
 NCDocument::~NCDocument() = default;
@@ -75,64 +100,6 @@ std::vector<std::byte> NCDocument::dataRepresentationOfType(std::string_view) co
 bool NCDocument::loadDataRepresentation(std::span<const std::byte> data, std::string_view) {
   patientRecord_ = model::unarchivedPatient(data).patient;
   return true;
-}
-
-void NCDocument::windowControllerDidLoadNib() {
-  if (!patientRecord_) {
-    patientRecord_ = std::make_unique<model::PatientRecord>(services().clock, services().defaults);
-  }
-  setCurrentExam(lastExam());
-  setCurrentFetus(0);
-  updateMultiplePopUp();
-  synchronizeFromData();
-  services().notifications.post(foundation::NotificationName::updateStandards, this);
-}
-
-void NCDocument::synchronizeFromData() {
-  if (!patientRecord_) return;
-  referenceIDField_.setText(patientRecord_->maternalIDString().value_or(""));
-  birthDateField_.setText(shortDateText(patientRecord_->edd()));
-  const model::NCRecord* exam = examination(currentExam());
-  examDateField_.setText(exam ? shortDateText(exam->examDate()) : "");
-  updateDisplay();
-}
-
-void NCDocument::updateDisplay() {
-  bpdPage_.setTitle(preferredFileName(true));
-  ageField_.setText(menstrualAgeStringForRecord(static_cast<std::uint64_t>(currentExam())));
-  if (onDisplayChanged) onDisplayChanged();
-}
-
-void NCDocument::updateMultiplePopUp() {
-  const std::int64_t count = patientRecord_ ? patientRecord_->numberOfFetuses() : 0;
-  multiplePopUp_.removeAllItems();
-  const auto row = std::ranges::find(kFetusLabels, count, &FetusLabels::fetuses);
-  if (row != kFetusLabels.end()) {
-    for (std::int64_t fetus = 0; fetus < count; ++fetus) {
-      const std::string_view title = row->titles.at(static_cast<std::size_t>(fetus));
-      multiplePopUp_.addItem({.title = services().localizer.text(foundation::string_table::ncDocument, title),
-                              .keyEquivalent = count > 1 ? std::to_string(fetus + 1) : std::string()});
-    }
-  }
-  if (currentFetus_ > count - 1) currentFetus_ = std::max<std::int64_t>(count - 1, 0);
-}
-
-std::string NCDocument::preferredFileName(bool withFetus) const {
-  std::string name = referenceIDField_.text();
-  std::ranges::replace(name, '/', '-');
-  if (name.empty() || !patientRecord_) return name;
-  name += " (G" + std::to_string(patientRecord_->gravida()) + ")";
-  if (withFetus && patientRecord_->numberOfFetuses() > 1) {
-    name += foundation::format(services().localizer, foundation::string_table::ncDocument, " %ld of %ld",
-                               {currentFetus_ + 1, patientRecord_->numberOfFetuses()});
-  }
-  return name;
-}
-
-std::int64_t NCDocument::standard() const { return patientRecord_ ? patientRecord_->standard() : 0; }
-
-std::int64_t NCDocument::fetalWeightStandard() const {
-  return patientRecord_ ? patientRecord_->fetalWeightStandard() : 0;
 }
 
 std::int64_t NCDocument::lastExam() const { return std::max<std::int64_t>(numberOfExaminations() - 1, 0); }
@@ -152,39 +119,21 @@ const model::MeasurementsRecord* NCDocument::lastMeasurementsRecordForCurrentFet
   return measurementsForCurrentFetus(numberOfExaminations() - 1);
 }
 
-void NCDocument::setCurrentRecordFromClick(double weeks) {
-  if (!patientRecord_ || !patientRecord_->edd()) return;
-  std::vector<std::optional<foundation::Date>> dates;
-  for (const auto& record : patientRecord_->ncRecordsArray()) dates.push_back(record->examDate());
-  const auto target = calc::dateAtAge(*patientRecord_->edd(), weeks, services().calendar);
-  setCurrentExam(static_cast<std::int64_t>(calc::nearestDate(target, dates)));
-  synchronizeFromData();
+std::int64_t NCDocument::numberOfExaminations() const {
+  return patientRecord_ ? static_cast<std::int64_t>(patientRecord_->ncRecordsArray().size()) : 0;
 }
 
-double NCDocument::menstrualAgeForRecord(std::uint64_t exam) const {
-  const model::NCRecord* record = examination(static_cast<std::int64_t>(exam));
-  return record ? calc::menstrualAge(record->examDate(), patientRecord_->edd()) : 0.0;
+const model::NCRecord* NCDocument::examination(std::int64_t exam) const {
+  if (exam < 0 || exam >= numberOfExaminations()) return nullptr;
+  return patientRecord_->ncRecordsArray()[static_cast<std::size_t>(exam)].get();
 }
 
-std::string NCDocument::menstrualAgeStringForRecord(std::uint64_t exam) const {
-  return menstrualAgeStringForGestation(menstrualAgeForRecord(exam));
+model::NCRecord* NCDocument::currentExamination() {
+  return const_cast<model::NCRecord*>(examination(currentExam()));
 }
 
-std::string NCDocument::menstrualAgeStringForGestation(double weeks) const {
-  return calc::gestationText(weeks, services().localizer);
-}
-
-double NCDocument::menstrualAgeFromCRLHadlock(double crl) const {
-  return calc::menstrualAgeFromCRLHadlock(crl);
-}
-double NCDocument::menstrualAgeFromCRLNelson(double crl) const {
-  return calc::menstrualAgeFromCRLNelson(crl);
-}
-double NCDocument::menstrualAgeFromCRLRobinson(double crl) const {
-  return calc::menstrualAgeFromCRLRobinson(crl);
-}
-double NCDocument::menstrualAgeFromCRLWesterway(double crl) const {
-  return calc::menstrualAgeFromCRLWesterway(crl);
+model::MeasurementsRecord* NCDocument::currentMeasurements() {
+  return const_cast<model::MeasurementsRecord*>(measurementsForFetus(currentFetus_, currentExam()));
 }
 
 double NCDocument::extrapolatedBPDForCurrentFetus() {
@@ -211,20 +160,6 @@ double NCDocument::projected(double (model::MeasurementsRecord::*value)() const,
                                              patientRecord_->extrapolatedGestation());
   (extrapolatedMeasurementsRecord_.*store)(result);
   return result;
-}
-
-std::int64_t NCDocument::numberOfExaminations() const {
-  return patientRecord_ ? static_cast<std::int64_t>(patientRecord_->ncRecordsArray().size()) : 0;
-}
-
-const model::NCRecord* NCDocument::examination(std::int64_t exam) const {
-  if (exam < 0 || exam >= numberOfExaminations()) return nullptr;
-  return patientRecord_->ncRecordsArray()[static_cast<std::size_t>(exam)].get();
-}
-
-std::string NCDocument::shortDateText(const std::optional<foundation::Date>& date) const {
-  const auto day = date ? foundation::localDay(*date, services().calendar) : std::nullopt;
-  return day ? foundation::shortDateText(*day, services().localizer.shortDateForm()) : std::string();
 }
 
 }  // namespace nascor::app

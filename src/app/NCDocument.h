@@ -1,8 +1,8 @@
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
-#include <functional>
 #include <memory>
 #include <optional>
 #include <span>
@@ -10,89 +10,147 @@
 #include <string_view>
 #include <vector>
 
+#include "calc/Biometry.h"
 #include "charts/ChartDocument.h"
 #include "charts/MeasurementCharts.h"
 #include "foundation/NotificationCenter.h"
+#include "framework/Controls.h"
 #include "framework/CorvelDocument.h"
 #include "framework/MakeView.h"
 #include "framework/Page.h"
+#include "framework/PopUpButton.h"
 #include "framework/TextField.h"
 #include "model/PatientRecord.h"
 
 namespace nascor::app {
 
-/// The document of one patient: owns the records, the charts, and the state of the window's fields.
+/// The document of one patient: owns the records and the charts, and keeps the window's fields and the records in step.
 ///
-/// A null record means that there is none: readers take 0 or nothing, nothing fails.
-class NCDocument : public framework::CorvelDocument,
-                   public charts::ChartDocument,
-                   public foundation::NotificationSender {
+/// Between synchronisations the records are the truth: an action that changes the examination or the fetus on show writes
+/// the fields to the records, changes the index, and reads the fields back. A null record means that there is none:
+/// readers take 0 or nothing, writers do nothing.
+class NCDocument final : public framework::CorvelDocument,
+                         public charts::ChartDocument,
+                         public foundation::NotificationSender {
  public:
+  /// Whoever sent an action: the document itself, or anybody else (null will do).
+  using Sender = const foundation::NotificationSender*;
+
   /// A document without a patient; `windowControllerDidLoadNib` gives it a blank one unless a file was loaded.
-  explicit NCDocument(const foundation::Services& services);
+  explicit NCDocument(const framework::DocumentEnvironment& environment);
   ~NCDocument() override;
+
+  std::string_view className() const override { return "NCDocument"; }
 
   /// @name The document file
   /// @{
 
-  // Selector: dataRepresentationOfType:
-  /// The patient as it stands, whatever the type. Edits that have not reached the records are not in it.
-  std::vector<std::byte> dataRepresentationOfType(std::string_view type) const;
-  // Selector: loadDataRepresentation:ofType:
-  /// Replaces the patient by the one in the file, whatever the type. True also for a file whose root is nil, which leaves
-  /// no patient. Throws archive::FormatError for a malformed file, and then keeps the patient.
-  bool loadDataRepresentation(std::span<const std::byte> data, std::string_view type);
+  /// The patient as it stands. Edits that have not reached the records are not in it.
+  std::vector<std::byte> dataRepresentationOfType(std::string_view type) const override;
+  /// True also for a file whose root is nil, which leaves no patient. Throws archive::FormatError for a malformed file.
+  bool loadDataRepresentation(std::span<const std::byte> data, std::string_view type) override;
+  bool holdsContents() const override { return patientRecord_ != nullptr; }
+  std::string suggestedFileName() const override { return preferredFileName(false); }
 
   /// @}
   /// @name The window
   /// @{
 
-  // Selector: windowControllerDidLoadNib:
-  /// Shows the newest examination of the first fetus; a document without a patient gets a blank one.
-  void windowControllerDidLoadNib();
+  static constexpr std::string_view windowNibName = "MyDocument";
+  void windowControllerDidLoadNib() override;
+  void windowWillClose() override;
 
-  framework::TextField& referenceIDField() { return referenceIDField_; }
-  framework::TextField& birthDateField() { return birthDateField_; }  ///< the estimated date of delivery
-  framework::TextField& examDateField() { return examDateField_; }
-  framework::TextField& ageField() { return ageField_; }  ///< menstrual age at the examination on show
+  framework::IntegerField& gravidaField() { return gravidaField_; }
+  framework::NumberField& bpdField() { return bpdField_; }
+  framework::NumberField& hcField() { return hcField_; }
+  framework::NumberField& acField() { return acField_; }
+  framework::NumberField& flField() { return flField_; }
   framework::PopUpButton& multiplePopUp() { return multiplePopUp_; }
   const framework::PopUpButton& multiplePopUp() const override { return multiplePopUp_; }
-  /// The chart of the biparietal diameter with its axis.
-  framework::Page& bpdPage() { return bpdPage_; }
+
+  /// Every text field of the window and its dialogs that bears a name, the note apart.
+  std::span<framework::TextField* const> textFields() const { return textFields_; }
+  std::span<framework::CheckBox* const> checkBoxes() const { return checkBoxes_; }
+  std::span<framework::Panel* const> panels() const { return panels_; }
+  framework::Stepper& adjustDeliveryStepper() { return adjustDeliveryStepper_; }
 
   void synchronizeFromData() override;
-  void updateDisplay();
+  void synchronizeToData() override;
+  void updateDisplay() override;
+  // Selector: switchToGraph:
+  /// Shows that page. Throws RangeError.
+  void switchToGraph(std::int64_t tabIndex);
+
+  /// @}
+  /// @name Examinations and fetuses
+  /// @{
+
+  void addExamination() override;
+  void deleteCurrentExamination() override;
+  // Selector: setCurrentRecordFromRecord:
+  /// Makes that very object the current examination; one that is not there leaves the index, held within the array.
+  void setCurrentRecordFromRecord(const model::NCRecord* record);
+  /// Shows the examination nearest to that menstrual age; nothing happens without an EDD.
+  void setCurrentRecordFromClick(double weeks) override;
+  void updateArrayOrder() override;
+  // Selector: chooseFetus:
+  /// Shows the fetus that is selected in the pop-up.
+  void chooseFetus(const framework::PopUpButton& popUp);
+  // Selector: addFetus:
+  /// One fetus more, shown at once; nothing happens with five.
+  void addFetus(Sender sender);
+  // Selector: deleteFetus:
+  /// Asks, then removes the fetus on show from every examination; nothing happens with one.
+  void deleteFetus(Sender sender);
+  // Selector: deleteFetusAlertDidEnd:returnCode:contextInfo:
+  void deleteFetusAlertDidEnd(framework::AlertReturn returnCode);
   /// Rebuilds the choice of fetus from the number of fetuses; `currentFetus` stays within it.
   void updateMultiplePopUp();
+
+  /// @}
+  /// @name Standards; none of these marks the document as edited
+  /// @{
+
+  std::int64_t standard() const override;
+  std::int64_t fetalWeightStandard() const;
+  void doSetStandard(std::int64_t standard);
+  void doSetEFWStandard(std::int64_t standard);
+  void doSetCRLStandard(std::int64_t standard);
+  void updateShowAll();
+
+  /// @}
+  /// @name Planned delivery
+  /// @{
+
+  // Selector: doAdjustDeliveryDate:
+  void doAdjustDeliveryDate(Sender sender);
+  // Selector: adjustDeliveryDate:
+  /// Plans the delivery the stepper's days from the EDD, and shows it; unless the document itself asks, everything is
+  /// stored and drawn anew.
+  void adjustDeliveryDate(Sender sender);
+  /// Limits the stepper for the growth standard, then plans the delivery anew.
+  void updateAdjustDeliveryStepperForNewStandard();
+
+  /// @}
 
   // Selector: preferredFileName:
   /// The patient's title: reference ID as typed with "/" as "-", gravidity, and, when asked for and there are several,
   /// which fetus is on show. Empty without a reference ID.
   std::string preferredFileName(bool withFetus) const;
 
-  /// Sent after everything that is on show may have changed; set by the window layer, may be empty.
-  std::function<void()> onDisplayChanged;
-
-  /// @}
   /// @name Records
   /// @{
 
   const model::PatientRecord* patientRecord() const override { return patientRecord_.get(); }
   model::PatientRecord* patientRecord() { return patientRecord_.get(); }
-  std::int64_t standard() const override;
-  std::int64_t fetalWeightStandard() const;
-
   std::int64_t currentFetus() const { return currentFetus_; }
   void setCurrentFetus(std::int64_t fetus) { currentFetus_ = fetus; }
-
   /// The index of the last examination; 0 when there is none.
   std::int64_t lastExam() const;
   const model::MeasurementsRecord* measurementsForFetus(std::int64_t fetus, std::int64_t exam) const override;
   const model::MeasurementsRecord* measurementsForCurrentFetus(std::int64_t exam) const;
   const model::MeasurementsRecord* lastMeasurementsRecordForCurrentFetus() const;
-
-  /// Shows the examination nearest to that menstrual age; nothing happens without an EDD.
-  void setCurrentRecordFromClick(double weeks) override;
+  std::int64_t numberOfExaminations() const override;
 
   /// @}
   /// @name Dating (calc/Dating.h)
@@ -132,28 +190,94 @@ class NCDocument : public framework::CorvelDocument,
   /// @}
 
  private:
-  std::int64_t numberOfExaminations() const override;
+  bool controlTextShouldBeginEditing(framework::TextField& field) override;
+  bool controlTextShouldEndEditing(framework::TextField& field, std::string_view text) override;
+  void controlTextDidEndEditing(framework::TextField& field) override;
+  bool currentExaminationHoldsData() const override;
+  bool holdsMoreThanIdentity() const override;
+  std::string referenceIDForFileName() const override;
+
+  framework::NumberField& fieldFor(calc::Measurement measurement);
+  /// The measurement that `field` shows; nothing for another field.
+  std::optional<calc::Measurement> measurementOf(const framework::TextField& field);
+  /// Shows `title` over that page.
+  void setHeader(std::size_t page, const std::string& title);
+  bool mayModify(std::string_view message, std::string_view information);
   const model::NCRecord* examination(std::int64_t exam) const;
+  model::NCRecord* currentExamination();
+  model::MeasurementsRecord* currentMeasurements();
   std::string shortDateText(const std::optional<foundation::Date>& date) const;
+  std::optional<foundation::Date> dateFromField(const framework::TextField& field,
+                                                const std::optional<foundation::Date>& held) const;
   double projected(double (model::MeasurementsRecord::*value)() const,
                    void (model::MeasurementsRecord::*store)(double), const charts::NascorGraphView& graph);
 
   std::unique_ptr<model::PatientRecord> patientRecord_;
   model::MeasurementsRecord extrapolatedMeasurementsRecord_;
   std::int64_t currentFetus_ = 0;
+  /// A fetus was removed and the fields still show its numbers: until they are read anew, only what the user types in them
+  /// belongs to the fetus that took its place.
+  bool measurementFieldsAreStale_ = false;
+  /// Read back as the day it already was, or another: the records do not tell that it was typed.
+  bool examDateWasTyped_ = false;
+  foundation::NotificationCenter::Subscription showAllSubscription_;
 
-  framework::TextField referenceIDField_;
-  framework::TextField birthDateField_;
-  framework::TextField examDateField_;
-  framework::TextField ageField_;
+  framework::IntegerField gravidaField_;
+  framework::NumberField bpdField_;
+  framework::NumberField hcField_;
+  framework::NumberField acField_;
+  framework::NumberField flField_;
   framework::PopUpButton multiplePopUp_;
+  framework::TextField headerSummaryField_{"headerSummaryField"};
+  framework::TextField headerBPDField_{"headerBPDField"};
+  framework::TextField headerHCField_{"headerHCField"};
+  framework::TextField headerACField_{"headerACField"};
+  framework::TextField headerFLField_{"headerFLField"};
+  framework::TextField headerEFWField_{"headerEFWField"};
+
+  /// The title lines of the pages, in their order; the report, the last page, has none.
+  const std::array<framework::TextField*, 6> headers_{&headerSummaryField_, &headerBPDField_,
+                                                      &headerHCField_,      &headerACField_,
+                                                      &headerFLField_,      &headerEFWField_};
+
+  framework::Panel crlWindow_{"crlWindow"};
+  framework::TextField crlWindowDate_{"crlWindowDate"};
+  framework::NumberField crlWindowCRL_;
+  framework::TextField crlStandardReference_{"crlStandardReference"};
+  framework::Panel lmpWindow_{"lmpWindow"};
+  framework::TextField lmpWindowLMP_{"lmpWindowLMP"};
+  framework::IntegerField lmpWindowCycleField_{"lmpWindowCycleField"};
+  framework::IntegerField lmpWindowLutealField_{"lmpWindowLutealField"};
+  framework::Panel measurementsWindow_{"measurementsWindow"};
+  framework::CheckBox measurementsWindowBPDCheck_{"measurementsWindowBPDCheck", true};
+  framework::TextField measurementsWindowBPDGestation_{"measurementsWindowBPDGestation"};
+  framework::CheckBox measurementsWindowHCCheck_{"measurementsWindowHCCheck", true};
+  framework::TextField measurementsWindowHCGestation_{"measurementsWindowHCGestation"};
+  framework::CheckBox measurementsWindowACCheck_{"measurementsWindowACCheck", true};
+  framework::TextField measurementsWindowACGestation_{"measurementsWindowACGestation"};
+  framework::CheckBox measurementsWindowFLCheck_{"measurementsWindowFLCheck", true};
+  framework::TextField measurementsWindowFLGestation_{"measurementsWindowFLGestation"};
+  framework::TextField measurementsWindowAvGestation_{"measurementsWindowAvGestation"};
+  framework::Panel adjustDeliveryPanel_{"adjustDeliveryPanel"};
+  framework::Stepper adjustDeliveryStepper_;
+  framework::TextField adjustEDDField_{"adjustEDDField"};
+  framework::TextField adjustDeliverOnField_{"adjustDeliverOnField"};
+  framework::TextField adjustDeliverAtField_{"adjustDeliverAtField"};
+  std::vector<framework::TextField*> textFields_;
+  std::array<framework::CheckBox*, 4> checkBoxes_{&measurementsWindowBPDCheck_, &measurementsWindowHCCheck_,
+                                                  &measurementsWindowACCheck_, &measurementsWindowFLCheck_};
+  std::array<framework::Panel*, 4> panels_{&crlWindow_, &lmpWindow_, &measurementsWindow_,
+                                           &adjustDeliveryPanel_};
 
   framework::ViewOwner<charts::BPDGraphView> bpdGraph_;
   framework::ViewOwner<charts::HeadCircumferenceGraphView> hcGraph_;
   framework::ViewOwner<charts::AbdoCircumferenceGraphView> acGraph_;
   framework::ViewOwner<charts::FemurLengthGraphView> flGraph_;
-  framework::ViewOwner<charts::NoYaxisGraphView> bpdAxis_;
-  framework::Page bpdPage_;
+  /// Under the four charts, in their order.
+  std::array<framework::ViewOwner<charts::NoYaxisGraphView>, 4> axes_;
+  std::array<framework::Page, 7> pages_{
+      framework::Page("Trends"), framework::Page("BPD"),    framework::Page("HC"),    framework::Page("AC"),
+      framework::Page("FL"),     framework::Page("Weight"), framework::Page("Report")};
 };
 
 }  // namespace nascor::app

@@ -12,6 +12,7 @@ namespace nascor::charts {
 class NoXaxisGraphView : public NascorGraphView {
  public:
   using NascorGraphView::NascorGraphView;
+  std::string_view className() const override { return "NoXaxisGraphView"; }
 
   /// Inside the rectangle offered: 50 on the left, 10 on the right, 5 above and below are left free.
   void setGraphRect(const framework::Rect& rect) override;
@@ -26,6 +27,7 @@ class NoXaxisGraphView : public NascorGraphView {
 class NoYaxisGraphView : public NascorGraphView {
  public:
   using NascorGraphView::NascorGraphView;
+  std::string_view className() const override { return "NoYaxisGraphView"; }
   void initWithFrame(const framework::Rect& frame) override;
 
  protected:
@@ -100,24 +102,28 @@ inline constexpr MeasurementChart kFemurLengthChart{.measurement = calc::Measure
 class BPDGraphView : public MeasurementGraphView {
  public:
   explicit BPDGraphView(const foundation::Services& services) : MeasurementGraphView(services, kBPDChart) {}
+  std::string_view className() const override { return "BPDGraphView"; }
 };
 
 class HeadCircumferenceGraphView : public MeasurementGraphView {
  public:
   explicit HeadCircumferenceGraphView(const foundation::Services& services)
       : MeasurementGraphView(services, kHeadCircumferenceChart) {}
+  std::string_view className() const override { return "HeadCircumferenceGraphView"; }
 };
 
 class AbdoCircumferenceGraphView : public MeasurementGraphView {
  public:
   explicit AbdoCircumferenceGraphView(const foundation::Services& services)
       : MeasurementGraphView(services, kAbdoCircumferenceChart) {}
+  std::string_view className() const override { return "AbdoCircumferenceGraphView"; }
 };
 
 class FemurLengthGraphView : public MeasurementGraphView {
  public:
   explicit FemurLengthGraphView(const foundation::Services& services)
       : MeasurementGraphView(services, kFemurLengthChart) {}
+  std::string_view className() const override { return "FemurLengthGraphView"; }
 };
 
 }  // namespace nascor::charts

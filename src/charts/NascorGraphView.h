@@ -12,6 +12,7 @@ class NascorGraphView : public UpdatingGraphView {
  public:
   using UpdatingGraphView::UpdatingGraphView;
 
+  std::string_view className() const override { return "NascorGraphView"; }
   void initWithFrame(const framework::Rect& frame) override;
 
   /// Rebuilds the table for the document's growth standard (for the user's preference while there is no document), sets

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <span>
 #include <string>
@@ -8,11 +9,21 @@
 #include <variant>
 #include <vector>
 
+#include "foundation/Date.h"
+
 namespace nascor::foundation {
 
 /// Why a file could not be read or written: the system's own words, without the file's name.
 struct FileError {
   std::string reason;
+};
+
+/// One file of a folder.
+struct FileEntry {
+  std::string path;
+  std::string name;
+  std::int64_t size = 0;  ///< bytes
+  Date modified;
 };
 
 /// Where document files live. Implemented once for the operating system; tests inject faults.
@@ -26,7 +37,15 @@ class FileStore {
   /// Replaces the whole file `path` by `bytes`, or leaves the old file untouched and says why not. Never
   /// truncates in place: a temporary file in the same folder is written, flushed and renamed. A replaced file
   /// keeps its permissions; a new one is readable by its owner alone. A link is followed, not replaced.
-  virtual std::optional<FileError> replaceContents(const std::string& path, std::span<const std::byte> bytes) = 0;
+  virtual std::optional<FileError> replaceContents(const std::string& path,
+                                                   std::span<const std::byte> bytes) = 0;
+
+  /// The regular files of a folder, in no order; none where there is no such folder.
+  virtual std::vector<FileEntry> entries(const std::string& folder) const = 0;
+  /// The folder in which the user keeps documents.
+  virtual std::string documentsFolder() const = 0;
+  /// A name by which two paths of one file are the same: absolute, without links. A file need not be there.
+  virtual std::string resolvedPath(const std::string& path) const = 0;
 };
 
 }  // namespace nascor::foundation

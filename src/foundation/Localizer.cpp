@@ -23,4 +23,12 @@ std::string EnglishLocalizer::text(std::string_view, std::string_view key) const
 ShortDateForm EnglishLocalizer::shortDateForm() const { return {.pattern = "M/d/yy", .monthNames = {}}; }
 char EnglishLocalizer::decimalSign() const { return '.'; }
 
+std::string EnglishLocalizer::upperCased(std::string_view text) const {
+  std::string result(text);
+  for (char& letter : result) {
+    if (letter >= 'a' && letter <= 'z') letter = static_cast<char>(letter - 'a' + 'A');
+  }
+  return result;
+}
+
 }  // namespace nascor::foundation

@@ -27,6 +27,8 @@ class Localizer {
   virtual std::string text(std::string_view table, std::string_view key) const = 0;
   virtual ShortDateForm shortDateForm() const = 0;
   virtual char decimalSign() const = 0;
+  /// `text` in capital letters, as the user's language and all of Unicode have them.
+  virtual std::string upperCased(std::string_view text) const = 0;
 };
 
 /// The translation of `key` with each "%ld" replaced by the next of `numbers`, in order. Nothing else is a
@@ -40,6 +42,8 @@ class EnglishLocalizer final : public Localizer {
   std::string text(std::string_view table, std::string_view key) const override;
   ShortDateForm shortDateForm() const override;
   char decimalSign() const override;
+  /// The letters a to z; others are left.
+  std::string upperCased(std::string_view text) const override;
 };
 
 }  // namespace nascor::foundation

@@ -30,6 +30,8 @@ inline constexpr NotificationName NotificationName::updateShowAll{"UpdateShowAll
 class NotificationSender {
  public:
   virtual ~NotificationSender() = default;
+  /// The name of its class; what is posted is told apart by it in tests and stories.
+  virtual std::string_view className() const = 0;
 };
 
 struct Notification {
@@ -48,6 +50,8 @@ class NotificationCenter {
   class Subscription {
    public:
     Subscription() = default;
+    Subscription(Subscription&&) = default;
+    Subscription& operator=(Subscription&&) = default;
     void reset() { observer_.reset(); }
 
    private:

@@ -1,6 +1,35 @@
 #include "framework/CorvelDocument.h"
 
+#include <algorithm>
+
+#include "foundation/Calendar.h"
+#include "foundation/Localizer.h"
+#include "foundation/UserDefaults.h"
+#include "framework/DocumentController.h"
+#include "framework/FileName.h"
+
 namespace nascor::framework {
+
+namespace string_table = foundation::string_table;
+
+CorvelDocument::CorvelDocument(const DocumentEnvironment& environment)
+    : ZuDocument(environment.services),
+      environment_(environment),
+      referenceIDField_("referenceIDField", this),
+      birthDateField_("birthDateField", this),
+      examDateField_("examDateField", this),
+      ageField_("ageField"),
+      notesField_("notesField") {
+  notesField_.onEdit = [this] { updateChangeCount(ChangeType::changeDone); };
+}
+
+bool CorvelDocument::commitEditing() {
+  const bool ended = fieldEditor_.end();
+  // The note has no field editor: what was typed waits in its view for the next synchronisation. It is stored beside a
+  // field that refuses too, or closing with such a field would lose it.
+  if (notesField_.wasEdited()) synchronizeToData();
+  return ended;
+}
 
 void CorvelDocument::nextExamination() { showExamination(currentExam_ + 1); }
 
@@ -8,8 +37,114 @@ void CorvelDocument::previousExamination() { showExamination(currentExam_ - 1); 
 
 void CorvelDocument::showExamination(std::int64_t exam) {
   if (exam < 0 || exam >= numberOfExaminations()) return;
+  synchronizeToData();
   currentExam_ = exam;
   synchronizeFromData();
+}
+
+void CorvelDocument::addExaminationAction() {
+  // The old examination's fields must reach it before the new one is the current one.
+  synchronizeToData();
+  addExamination();
+  synchronizeFromData();
+  updateArrayOrder();
+  updateChangeCount(ChangeType::changeDone);
+}
+
+void CorvelDocument::deleteExaminationAction() {
+  synchronizeToData();
+  if (numberOfExaminations() <= 1) return;
+  if (!currentExaminationHoldsData()) {
+    removeExamination();
+    return;
+  }
+  const auto& localizer = services().localizer;
+  environment_.alerts.beginSheet(
+      {.message =
+           localizer.text(string_table::ncDocument, "Are you sure you want to remove this examination?"),
+       .information = "",
+       .defaultButton = localizer.text(string_table::corvelDocument, "Remove"),
+       .alternateButton = localizer.text(string_table::zuVersion, "Cancel")},
+      [this](AlertReturn answer) {
+        if (answer == AlertReturn::defaultButton) removeExamination();
+      });
+}
+
+void CorvelDocument::removeExamination() {
+  // No synchronisation in between: the fields show an examination that is gone.
+  deleteCurrentExamination();
+  currentExam_ = std::min(currentExam_, numberOfExaminations() - 1);
+  synchronizeFromData();
+  updateChangeCount(ChangeType::changeDone);
+}
+
+void CorvelDocument::lookUp(const std::string& name, bool ask) {
+  for (const foundation::FileEntry& file : documentsOfPatient(name)) {
+    if (ask && !userOpens(file)) continue;
+    // This document is gone once the other has taken its place.
+    if (environment_.controller.replaceDocument(*this, file.path)) return;
+  }
+  if (!holdsContents()) return;
+  directUpdateDisplayAndSetDirty(true);
+}
+
+void CorvelDocument::directUpdateDisplayAndSetDirty(bool dirty) {
+  synchronizeToData();
+  updateDisplay();
+  if (dirty) updateChangeCount(ChangeType::changeDone);
+}
+
+void CorvelDocument::updateDisplay() {
+  if (onDisplayChanged) onDisplayChanged();
+}
+
+bool CorvelDocument::controlTextShouldBeginEditing(TextField&) { return true; }
+
+void CorvelDocument::controlTextDidBeginEditing(TextField&) { updateChangeCount(ChangeType::changeDone); }
+
+std::vector<foundation::FileEntry> CorvelDocument::documentsOfPatient(const std::string& name) const {
+  const std::string extension =
+      services().defaults.value(foundation::defaults_key::dataFileExtension).value_or("nascor");
+  const std::string exactName = fileName(name, extension);
+  // Documents of the same reference ID under any gravidity.
+  const std::string prefix = fileNameText(referenceIDForFileName() + " (G");
+  const std::string suffix = ")." + extension;
+
+  const foundation::FileStore& files = services().files;
+  std::vector<foundation::FileEntry> found;
+  for (const foundation::FileEntry& file : files.entries(files.documentsFolder())) {
+    if (filePath() && files.resolvedPath(file.path) == files.resolvedPath(*filePath())) continue;
+    if (file.name == exactName || (file.name.starts_with(prefix) && file.name.ends_with(suffix) &&
+                                   file.name.size() >= prefix.size() + suffix.size())) {
+      found.push_back(file);
+    }
+  }
+  std::ranges::stable_sort(found, [&](const auto& one, const auto& other) {
+    const bool oneIsExact = one.name == exactName;
+    const bool otherIsExact = other.name == exactName;
+    if (oneIsExact != otherIsExact) return oneIsExact;
+    return one.modified.secondsSince2001 > other.modified.secondsSince2001;
+  });
+  return found;
+}
+
+bool CorvelDocument::userOpens(const foundation::FileEntry& file) const {
+  const auto& localizer = services().localizer;
+  const auto day = foundation::localDay(file.modified, services().calendar);
+  std::string information =
+      file.name + "\n" + (day ? foundation::shortDateText(*day, localizer.shortDateForm()) + ", " : "") +
+      foundation::format(localizer, string_table::corvelDocument, "%ld bytes", {file.size});
+  if (holdsMoreThanIdentity()) {
+    information += "\n";
+    information += localizer.text(string_table::corvelDocument,
+                                  "What was entered here besides reference ID and gravidity will be lost.");
+  }
+  return environment_.alerts.runModal(
+             {.message = localizer.text(string_table::corvelDocument, "This patient has a document already."),
+              .information = information,
+              .defaultButton = localizer.text(string_table::corvelDocument, "Open"),
+              .alternateButton = localizer.text(string_table::zuVersion, "Cancel")}) ==
+         AlertReturn::defaultButton;
 }
 
 }  // namespace nascor::framework

@@ -1,40 +1,135 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
+#include <string>
+#include <vector>
 
-#include "foundation/Services.h"
+#include "framework/Alerts.h"
+#include "framework/Controls.h"
+#include "framework/FieldEditor.h"
+#include "framework/FilePanels.h"
 #include "framework/GraphDocument.h"
+#include "framework/TextField.h"
+#include "framework/ZuDocument.h"
 
 namespace nascor::framework {
 
-/// A document about one patient, seen at a series of examinations of which one is on show.
-class CorvelDocument : public virtual GraphDocument {
+class DocumentController;
+
+/// What a document asks of the application around it.
+struct DocumentEnvironment {
+  foundation::Services services;
+  Alerts& alerts;
+  DocumentController& controller;
+};
+
+/// The document of one patient, with a window of fields and pages, seen at a series of examinations of which one is on
+/// show. A subclass holds the model and keeps fields and model in step.
+class CorvelDocument : public ZuDocument, public virtual GraphDocument, protected TextFieldDelegate {
  public:
-  explicit CorvelDocument(const foundation::Services& services) : services_(services) {}
-  CorvelDocument(const CorvelDocument&) = delete;
-  CorvelDocument& operator=(const CorvelDocument&) = delete;
+  explicit CorvelDocument(const DocumentEnvironment& environment);
+
+  /// @name The window
+  /// @{
+
+  TextField& referenceIDField() { return referenceIDField_; }
+  const TextField& referenceIDField() const { return referenceIDField_; }
+  TextField& birthDateField() { return birthDateField_; }
+  const TextField& birthDateField() const { return birthDateField_; }
+  TextField& examDateField() { return examDateField_; }
+  const TextField& examDateField() const { return examDateField_; }
+  TextField& ageField() { return ageField_; }
+  TextView& notesField() { return notesField_; }
+  const TextView& notesField() const { return notesField_; }
+  TabView& tabView() { return tabView_; }
+  FieldEditor& fieldEditor() { return fieldEditor_; }
+
+  bool commitEditing() override;
+
+  /// @}
+  /// @name The examination on show
+  /// @{
 
   std::int64_t currentExam() const override { return currentExam_; }
   void setCurrentExam(std::int64_t exam) { currentExam_ = exam; }
-  bool shouldShowGraphHilite() const override { return true; }
+  /// Not on paper, where the disc around the examination on show would read as a finding.
+  bool shouldShowGraphHilite() const override { return !isOnPaper_; }
+  /// Whether the pages go to paper or into files from now on.
+  void setOnPaper(bool onPaper) { isOnPaper_ = onPaper; }
 
-  /// @name The examination on show moves by one; nothing happens at the ends
-  /// @{
   void nextExamination();
   void previousExamination();
+  /// Adds an examination dated now, shows it, and puts it into its place.
+  void addExaminationAction();
+  /// Removes the examination on show and shows its neighbour; never the last one. Asks first when anything was measured
+  /// or noted.
+  void deleteExaminationAction();
+
   /// @}
 
- protected:
-  const foundation::Services& services() const { return services_; }
-  virtual std::int64_t numberOfExaminations() const = 0;
-  /// The model is shown anew.
+  /// Whether the patient is to be looked up when the next field is left.
+  bool lookUpRequired() const { return lookUpRequired_; }
+  void setLookUpRequired(bool required) { lookUpRequired_ = required; }
+
+  // Selector: lookUp:askForConfirmation:
+  /// Offers the documents of the patient called `name` that lie in the documents folder, each by one question (without
+  /// one when `ask` is false). The chosen one takes this window's place; otherwise the fields are stored and work goes on.
+  void lookUp(const std::string& name, bool ask);
+
+  // Selector: directUpdateDisplayAndSetDirty:
+  /// The fields go to the model, everything is shown anew, and the document is edited.
+  void directUpdateDisplayAndSetDirty(bool dirty);
+
+  /// @name What the subclass provides
+  /// @{
+
   virtual void synchronizeFromData() = 0;
+  virtual void synchronizeToData() = 0;
+  virtual void updateDisplay();
+  /// Appends an examination dated now and makes it the current one; neither sorts nor synchronises.
+  virtual void addExamination() = 0;
+  /// Removes the current examination; neither guards the last one nor moves `currentExam`.
+  virtual void deleteCurrentExamination() = 0;
+  /// The fields go to the model, the examinations are put in order of date, and the same one stays on show.
+  virtual void updateArrayOrder() = 0;
+  virtual std::int64_t numberOfExaminations() const = 0;
+
+  /// @}
+
+  /// Sent after everything on show may have changed; set by the window layer.
+  std::function<void()> onDisplayChanged;
+
+ protected:
+  const DocumentEnvironment& environment() const { return environment_; }
+
+  bool controlTextShouldBeginEditing(TextField& field) override;
+  void controlTextDidBeginEditing(TextField& field) override;
+
+  /// Whether the current examination holds anything that its removal would lose.
+  virtual bool currentExaminationHoldsData() const = 0;
+  /// Whether anything but reference ID and gravidity was entered.
+  virtual bool holdsMoreThanIdentity() const = 0;
+  /// The reference ID in the form that file names have.
+  virtual std::string referenceIDForFileName() const = 0;
 
  private:
   void showExamination(std::int64_t exam);
+  void removeExamination();
+  std::vector<foundation::FileEntry> documentsOfPatient(const std::string& name) const;
+  bool userOpens(const foundation::FileEntry& file) const;
 
-  foundation::Services services_;
+  DocumentEnvironment environment_;
+  TextField referenceIDField_;
+  TextField birthDateField_;
+  TextField examDateField_;
+  TextField ageField_;
+  TextView notesField_;
+  TabView tabView_;
+  FieldEditor fieldEditor_;
   std::int64_t currentExam_ = 0;
+  bool lookUpRequired_ = false;
+  bool isOnPaper_ = false;
 };
 
 }  // namespace nascor::framework

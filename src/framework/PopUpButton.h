@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+#include "framework/Geometry.h"
+
 namespace nascor::framework {
 
 /// The state of a pop-up button: what is offered and what is chosen. A view binds to `onChange`.
@@ -32,6 +34,15 @@ class PopUpButton {
   /// Throws RangeError.
   void selectItemAtIndex(std::int64_t index);
 
+  /// Where the button stands in its window, set by the view that shows it.
+  const Rect& frame() const { return frame_; }
+  void setFrame(const Rect& frame) { frame_ = frame; }
+  /// Plays an animation of the platform at a point of the window: 10 is a puff of smoke.
+  void showAnimationEffect(int effect, Point at) const {
+    if (onAnimationEffect) onAnimationEffect(effect, at);
+  }
+
+  std::function<void(int effect, Point at)> onAnimationEffect;  ///< set by the view; may be empty
   std::function<void()> onChange;  ///< set by the view that shows this button; may be empty
 
  private:
@@ -40,6 +51,7 @@ class PopUpButton {
   }
   std::vector<Item> items_;
   std::int64_t wanted_ = 0;
+  Rect frame_;
 };
 
 }  // namespace nascor::framework

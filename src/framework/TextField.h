@@ -1,23 +1,105 @@
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <string>
+#include <string_view>
 #include <utility>
+
+#include "foundation/Localizer.h"
 
 namespace nascor::framework {
 
-/// The state of one text field. The document reads and writes it; a view binds to `onChange`.
+class TextFieldDelegate;
+
+/// The state of one text field. The document reads and writes it, and a view binds to `onChange`. What a user types
+/// comes through the window's FieldEditor alone, so a text that is refused never reaches the field.
 class TextField {
  public:
+  /// `name` is the field's name in the window's layout.
+  explicit TextField(std::string name, TextFieldDelegate* delegate = nullptr)
+      : name_(std::move(name)), delegate_(delegate) {}
+  virtual ~TextField() = default;
+  TextField(const TextField&) = delete;
+  TextField& operator=(const TextField&) = delete;
+
+  const std::string& name() const { return name_; }
+  /// Asked and told by the field editor; null for a field that anything may be typed into.
+  TextFieldDelegate* delegate() const { return delegate_; }
+
   const std::string& text() const { return text_; }
-  void setText(std::string text) {
-    text_ = std::move(text);
-    if (onChange) onChange();
+  /// The program shows a text.
+  void setText(std::string text);
+
+  /// Whether `text` is one that the field can hold at all.
+  virtual bool accepts(std::string_view text) const;
+  /// The user has typed `text`, which the field accepts.
+  virtual void takeEditedText(const std::string& text);
+  /// Whether the user has typed here since the program last showed a text (or since `forgetEdits`).
+  bool wasEdited() const { return wasEdited_; }
+  void forgetEdits() { wasEdited_ = false; }
+
+  /// Whether the text is to be shown in red.
+  bool isRed() const { return isRed_; }
+  void setRed(bool red);
+
+  /// Asks the view to select the text, so that typing replaces it.
+  void selectText() const {
+    if (onSelectText) onSelectText();
   }
-  std::function<void()> onChange;  ///< set by the view that shows this field; may be empty
+
+  std::function<void()> onChange;      ///< set by the view that shows this field; may be empty
+  std::function<void()> onSelectText;  ///< likewise
+
+ protected:
+  void show(std::string text, bool wasEdited);
 
  private:
+  std::string name_;
+  TextFieldDelegate* delegate_;
   std::string text_;
+  bool wasEdited_ = false;
+  bool isRed_ = false;
+};
+
+/// A field that holds a number and shows it rounded. Only what the user types replaces the number, so showing a value and
+/// reading it back never changes it.
+class NumberField final : public TextField {
+ public:
+  NumberField(std::string name, int decimals, const foundation::Localizer& localizer,
+              TextFieldDelegate* delegate = nullptr)
+      : TextField(std::move(name), delegate), decimals_(decimals), localizer_(localizer) {}
+
+  double doubleValue() const { return value_; }
+  void setDoubleValue(double value);
+  /// Shows nothing and holds 0: there is no number.
+  void clear();
+
+  /// Digits with a sign and a decimal point or comma; empty is 0.
+  bool accepts(std::string_view text) const override;
+  void takeEditedText(const std::string& text) override;
+
+ private:
+  std::string shown() const;
+  int decimals_;
+  const foundation::Localizer& localizer_;
+  double value_ = 0.0;
+};
+
+/// A field that holds a whole number.
+class IntegerField final : public TextField {
+ public:
+  using TextField::TextField;
+
+  std::int64_t integerValue() const { return value_; }
+  void setIntegerValue(std::int64_t value);
+
+  /// Digits with a sign; empty is 0.
+  bool accepts(std::string_view text) const override;
+  void takeEditedText(const std::string& text) override;
+
+ private:
+  std::int64_t value_ = 0;
 };
 
 }  // namespace nascor::framework

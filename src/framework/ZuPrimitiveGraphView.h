@@ -21,6 +21,8 @@ class ZuPrimitiveGraphView : public foundation::NotificationSender {
   ZuPrimitiveGraphView(const ZuPrimitiveGraphView&) = delete;
   ZuPrimitiveGraphView& operator=(const ZuPrimitiveGraphView&) = delete;
 
+  std::string_view className() const override { return "ZuPrimitiveGraphView"; }
+
   virtual void initWithFrame(const Rect& frame);
   /// Ends the view's subscriptions; sent before it is destroyed.
   virtual void dealloc() {}

@@ -7,7 +7,7 @@
 
 #include "app/NCDocument.h"
 #include "model/PatientFile.h"
-#include "support/TestServices.h"
+#include "support/TestApplication.h"
 
 namespace nascor::app {
 namespace {
@@ -20,7 +20,7 @@ constexpr Date kEDD{829008000.0};
 /// What a document answers of its records, and what it computes of them for itself.
 class TheRecordsOfADocument : public testing::Test {
  protected:
-  tests::TestServices platform;
+  tests::TestApplication platform;
 
   /// A patient of one fetus, measured at 32 weeks, with the delivery planned at `planned` weeks.
   model::PatientRecord patientPlannedAt(double planned, const calc::Biometry& measured = {}) const {
@@ -34,7 +34,7 @@ class TheRecordsOfADocument : public testing::Test {
   }
 
   std::unique_ptr<NCDocument> opened(const model::PatientRecord& patient) {
-    auto document = std::make_unique<NCDocument>(platform.services());
+    auto document = std::make_unique<NCDocument>(platform.environment());
     document->loadDataRepresentation(model::archivedPatient(patient), "");
     document->windowControllerDidLoadNib();
     return document;

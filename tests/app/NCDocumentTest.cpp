@@ -11,7 +11,7 @@
 #include "foundation/UserDefaults.h"
 #include "model/PatientFile.h"
 #include "support/RecordingCanvas.h"
-#include "support/TestServices.h"
+#include "support/TestApplication.h"
 
 namespace nascor::app {
 namespace {
@@ -26,7 +26,7 @@ Date daysBeforeEDD(double days) { return {kEDD.secondsSince2001 - days * kDay}; 
 
 class ADocument : public testing::Test {
  protected:
-  tests::TestServices platform;
+  tests::TestApplication platform;
 
   void SetUp() override {
     platform.defaults.registerDefault(foundation::defaults_key::showAll, "YES");
@@ -46,7 +46,7 @@ class ADocument : public testing::Test {
       patient.addNCRecordWithNumberOfFetuses(fetuses, platform.clock);
       patient.ncRecordsArray().back()->setExamDate(daysBeforeEDD(days));
     }
-    auto result = std::make_unique<NCDocument>(platform.services());
+    auto result = std::make_unique<NCDocument>(platform.environment());
     result->loadDataRepresentation(model::archivedPatient(patient), "");
     result->windowControllerDidLoadNib();
     return result;
@@ -54,14 +54,14 @@ class ADocument : public testing::Test {
 };
 
 TEST_F(ADocument, startsWithoutAPatientAndWithNothingProjected) {
-  NCDocument document(platform.services());
+  NCDocument document(platform.environment());
   EXPECT_EQ(std::as_const(document).patientRecord(), nullptr);
   EXPECT_EQ(document.extrapolatedMeasurements().bpd(), 0.0);
   EXPECT_EQ(document.extrapolatedMeasurements().fl(), 0.0);
 }
 
 TEST_F(ADocument, withoutAPatientAnswersZeroAndNothing) {
-  NCDocument document(platform.services());
+  NCDocument document(platform.environment());
   EXPECT_EQ(document.standard(), 0);
   EXPECT_EQ(document.fetalWeightStandard(), 0);
   EXPECT_EQ(document.lastExam(), 0);
@@ -79,7 +79,7 @@ TEST_F(ADocument, withoutAPatientAnswersZeroAndNothing) {
 }
 
 TEST_F(ADocument, getsABlankPatientWithItsWindow) {
-  NCDocument document(platform.services());
+  NCDocument document(platform.environment());
   document.windowControllerDidLoadNib();
   const auto& exams = document.patientRecord()->ncRecordsArray();
   ASSERT_EQ(exams.size(), 1U);
@@ -92,7 +92,7 @@ TEST_F(ADocument, keepsThePatientOfItsFileAndTheFilesStandards) {
   model::PatientRecord patient;
   patient.setStandard(1);
   patient.setFetalWeightStandard(99);
-  NCDocument document(platform.services());
+  NCDocument document(platform.environment());
   EXPECT_TRUE(document.loadDataRepresentation(model::archivedPatient(patient), "whatever"));
   document.windowControllerDidLoadNib();
   EXPECT_EQ(document.standard(), 1);
@@ -139,7 +139,7 @@ TEST_F(ADocument, opensOnItsNewestExaminationAndItsFirstFetus) {
   EXPECT_EQ(opened->birthDateField().text(), "4/10/27");
   EXPECT_EQ(opened->examDateField().text(), "2/9/27");  // 60 days before
   EXPECT_EQ(opened->ageField().text(), "31w 3d");       // 220 days
-  EXPECT_EQ(opened->bpdPage().title(), "AB-123 (G2) 1 of 2");
+  EXPECT_EQ(opened->tabView().page(1).title(), "AB-123 (G2) 1 of 2");
 }
 
 TEST_F(ADocument, movesThroughItsExaminationsAndStopsAtTheEnds) {
@@ -162,11 +162,11 @@ TEST_F(ADocument, movesTheHighlightWithTheExamination) {
   const auto opened = document(kEDD, {140, 100});
   for (const auto& exam : opened->patientRecord()->ncRecordsArray()) exam->measurementsForFetus(0).setBPD(50);
   tests::RecordingSurface before;
-  opened->bpdPage().layout(800, 560);
-  opened->bpdPage().paint(before);
+  opened->tabView().page(1).layout(800, 560);
+  opened->tabView().page(1).paint(before);
   opened->previousExamination();
   tests::RecordingSurface after;
-  opened->bpdPage().paint(after);
+  opened->tabView().page(1).paint(after);
   const auto disc = [&](const tests::RecordingSurface& surface) {
     return surface.views.at(0).canvas.of(tests::RecordingCanvas::Entry::Kind::fillOval).at(0).rect.x + 10;
   };
@@ -176,9 +176,9 @@ TEST_F(ADocument, movesTheHighlightWithTheExamination) {
 
 TEST_F(ADocument, putsTheAxisStripUnderItsChart) {
   const auto opened = document(kEDD, {100});
-  opened->bpdPage().layout(800, 560);
+  opened->tabView().page(1).layout(800, 560);
   tests::RecordingSurface surface;
-  opened->bpdPage().paint(surface);
+  opened->tabView().page(1).paint(surface);
   ASSERT_EQ(surface.views.size(), 2U);
   const auto& [chart, chartFrame, chartCanvas] = surface.views[0];
   const auto& [strip, stripFrame, stripCanvas] = surface.views[1];
@@ -226,7 +226,7 @@ TEST_F(ADocument, knowsNoAgeWithoutBothDates) {
 }
 
 TEST_F(ADocument, datesByCrownRumpLength) {
-  NCDocument document(platform.services());
+  NCDocument document(platform.environment());
   EXPECT_NEAR(document.menstrualAgeFromCRLHadlock(45), 11.33, 0.005);
   EXPECT_NEAR(document.menstrualAgeFromCRLNelson(45), 11.14, 0.005);
   EXPECT_NEAR(document.menstrualAgeFromCRLRobinson(45), 11.10, 0.005);
@@ -242,6 +242,7 @@ TEST_F(ADocument, projectsTheLastExaminationOfTheCurrentFetusOnTheSameZScore) {
   const double sd = bpd.standardData()[32 - 11].sd();
   exams[1]->measurementsForFetus(1).setBPD(mean + 1.5 * sd);
   opened->setCurrentFetus(1);
+  opened->synchronizeFromData();
   opened->previousExamination();  // what is on show does not matter
   const auto& at40 = bpd.standardData()[40 - 11];
   EXPECT_NEAR(opened->extrapolatedBPDForCurrentFetus(), at40.mean() + 1.5 * at40.sd(), 1e-9);

@@ -22,6 +22,7 @@ class TableLocalizer final : public Localizer {
   }
   ShortDateForm shortDateForm() const override { return {}; }
   char decimalSign() const override { return ','; }
+  std::string upperCased(std::string_view text) const override { return std::string(text); }
 };
 
 TEST(Format, putsNumbersInOrderIntoTheTranslation) {

@@ -17,7 +17,10 @@ using testing::IsEmpty;
 constexpr NotificationName kStandards = NotificationName::updateStandards;
 constexpr NotificationName kWeights = NotificationName::updateStandardsForEFW;
 
-class Sender final : public NotificationSender {};
+class Sender final : public NotificationSender {
+ public:
+  std::string_view className() const override { return "Sender"; }
+};
 
 class NotificationCenterTest : public testing::Test {
  protected:

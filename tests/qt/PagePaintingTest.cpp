@@ -17,7 +17,7 @@ using framework::NamedColor;
 
 class PagePainting : public testing::Test {
  protected:
-  PagePainting() : document(platform.services()) {}
+  PagePainting() : document(platform.environment()) {}
 
   void load(const model::PatientRecord& record) {
     document.loadDataRepresentation(model::archivedPatient(record), {});
@@ -28,7 +28,7 @@ class PagePainting : public testing::Test {
     QImage image((QSizeF(800.0, 560.0) * scale).toSize(), QImage::Format_RGB32);
     image.fill(Qt::red);
     QPainter painter(&image);
-    qt::paintPage(painter, document.bpdPage(), QRectF(image.rect()));
+    qt::paintPage(painter, document.tabView().page(1), QRectF(image.rect()));
     return image;
   }
 
@@ -109,14 +109,14 @@ TEST_F(PagePainting, fillsThePaperAndNothingBesideIt) {
   QImage image(1000, 700, QImage::Format_RGB32);
   image.fill(Qt::red);
   QPainter painter(&image);
-  qt::paintPage(painter, document.bpdPage(), QRectF(100.0, 70.0, 800.0, 560.0));
+  qt::paintPage(painter, document.tabView().page(1), QRectF(100.0, 70.0, 800.0, 560.0));
   EXPECT_EQ(colorAt(image, {101.5, 71.5}), QColor(Qt::white));
   EXPECT_EQ(colorAt(image, {98.5, 300.5}), QColor(Qt::red));
   EXPECT_EQ(colorAt(image, {500.5, 632.5}), QColor(Qt::red));
 }
 
 TEST_F(PagePainting, keepsThePagesShapeInAnyWidget) {
-  qt::PageView view(document.bpdPage());
+  qt::PageView view(document.tabView().page(1));
   view.resize(1000, 560);
   EXPECT_EQ(view.paper(), QRectF(100.0, 0.0, 800.0, 560.0));
   view.resize(400, 560);
@@ -127,7 +127,7 @@ TEST_F(PagePainting, isBlackOnWhiteOnADarkDesktopToo) {
   load(singleton());
   const QPalette before = QApplication::palette();
   QApplication::setPalette(QPalette(QColor(40, 40, 40)));
-  qt::PageView view(document.bpdPage());
+  qt::PageView view(document.tabView().page(1));
   view.resize(1000, 560);
   const QImage image = view.grab().toImage();
   QApplication::setPalette(before);

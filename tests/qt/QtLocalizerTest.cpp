@@ -56,6 +56,10 @@ TEST(QtLocalizer, showsInEveryLocaleADateThatReadsBackToTheSameDay) {
   }
 }
 
+TEST(QtLocalizer, writesCapitalLettersOfAllAlphabets) {
+  EXPECT_EQ(QtLocalizer(QLocale::c()).upperCased("ab-1/ zoë straße ψ"), "AB-1/ ZOË STRASSE Ψ");
+}
+
 class Shouting final : public QTranslator {
  public:
   bool isEmpty() const override { return false; }

@@ -8,7 +8,7 @@
 #include <QTemporaryDir>
 
 #include "Sample.h"
-#include "qt/Platform.h"
+#include "qt/DocumentApplication.h"
 
 namespace nascor::tests {
 namespace {
@@ -67,9 +67,18 @@ TEST_F(ThePreferences, doNotStoreWhatIsOnlyRegistered) {
   EXPECT_EQ(QtUserDefaults().value(showAll), std::nullopt);
 }
 
-TEST_F(ThePreferences, registeredByThePlatformAreFive) {
-  qt::Platform platform(QLocale::c());
-  const foundation::UserDefaults& defaults = platform.services().defaults;
+TEST_F(ThePreferences, registeredByTheApplicationAreFive) {
+  QtUserDefaults defaults;
+  TestPlatform platform;
+  foundation::Services services = platform.services();
+  const foundation::Services withFile{.clock = services.clock,
+                                      .calendar = services.calendar,
+                                      .localizer = services.localizer,
+                                      .defaults = defaults,
+                                      .files = services.files,
+                                      .log = services.log,
+                                      .notifications = services.notifications};
+  const qt::DocumentApplication application(withFile);
   EXPECT_EQ(defaults.value("DataFile Extension"), "nascor");
   EXPECT_EQ(defaults.value("Show All"), "YES");
   EXPECT_EQ(defaults.value("Standard"), "0");

@@ -1,30 +1,34 @@
 #pragma once
 
 #include <QFile>
+#include <QLocale>
 #include <QString>
+#include <QTemporaryDir>
 #include <memory>
 #include <string>
 #include <vector>
 
+#include "app/NCAppController.h"
 #include "foundation/Calendar.h"
 #include "foundation/Log.h"
 #include "foundation/NotificationCenter.h"
 #include "foundation/Services.h"
+#include "framework/DocumentController.h"
 #include "model/PatientFile.h"
 #include "model/PatientRecord.h"
 #include "posix/PosixCalendar.h"
 #include "posix/PosixFileStore.h"
-#include "qt/Platform.h"
 #include "qt/QtLocalizer.h"
 #include "support/FixedClock.h"
 #include "support/MemoryUserDefaults.h"
+#include "support/ScriptedAlerts.h"
 
 namespace nascor::tests {
 
 /// The platform with preferences in memory, a clock that stands, and the United States' ways of writing.
 class TestPlatform {
  public:
-  TestPlatform() { qt::registerDefaults(defaults); }
+  TestPlatform() { app::NCAppController(services(), documents).awakeFromNib(); }
 
   foundation::Services services() { return servicesWith(files); }
   foundation::Services servicesWith(foundation::FileStore& store) {
@@ -36,19 +40,29 @@ class TestPlatform {
             .log = log,
             .notifications = notifications};
   }
+  /// For a document without a window.
+  framework::DocumentEnvironment environment() {
+    return {.services = services(), .alerts = alerts, .controller = documents};
+  }
 
-  FixedClock clock;
+  FixedClock clock{foundation::Date{816948000.0}};  // 2026-11-21 10:00 UTC
   posix::PosixCalendar calendar;
   qt::QtLocalizer localizer{QLocale(QLocale::English, QLocale::UnitedStates)};
   MemoryUserDefaults defaults;
-  posix::PosixFileStore files;
+  QTemporaryDir documentsFolder;
+  posix::PosixFileStore files{documentsFolder.path().toStdString()};
   foundation::NotificationCenter notifications;
+  ScriptedAlerts alerts;
+  ScriptedFilePanels panels{documentsFolder.path().toStdString()};
 
  private:
   struct NoLog final : foundation::Log {
     void write(std::string_view) override {}
   };
   NoLog log;
+
+ public:
+  framework::DocumentController documents{services(), alerts, panels};
 };
 
 /// One examination: its day, and the biparietal diameter of each fetus.

@@ -74,6 +74,24 @@ class OnAnXServer : public testing::Test {
     EXPECT_TRUE(screenshot().save(QStringLiteral(NASCOR_ARTEFACTS "/") + QLatin1String(name)));
   }
 
+  void focus(const QString& window) {
+    ASSERT_EQ(run("xdotool", {"windowfocus", "--sync", window}).status, 0);
+  }
+  static void press(const QStringList& keys) {
+    ASSERT_EQ(run("xdotool", QStringList{"key", "--clearmodifiers"} + keys).status, 0);
+  }
+  /// Replaces the text of the field that has the focus.
+  static void type(const QString& text) {
+    press({"ctrl+a"});
+    ASSERT_EQ(run("xdotool", {"type", "--clearmodifiers", "--delay", "20", text}).status, 0);
+  }
+  /// What the application says on standard output and error, and that it has ended well.
+  void endsWell() {
+    ASSERT_TRUE(nascor.waitForFinished(kPatience));
+    EXPECT_EQ(nascor.exitStatus(), QProcess::NormalExit);
+    EXPECT_EQ(nascor.exitCode(), 0);
+  }
+
   QTemporaryDir folder;
   QProcess nascor;
 };
@@ -83,6 +101,8 @@ TEST_F(OnAnXServer, opensADocumentAndGoesBackByTheKeyboard) {
   writeFile(path, documentBytes(singleton()));
   start({path});
   const QString window = windowTitled(QStringLiteral("AB-123"));
+  ASSERT_EQ(run("xdotool", {"windowfocus", "--sync", window}).status, 0);
+  ASSERT_EQ(run("xdotool", {"key", "alt+2"}).status, 0);  // the page of the biparietal diameter
   EXPECT_EQ(run("xdotool", {"getwindowname", window}).output, "AB-123.nascor \u2014 Nascor\n");
 
   QPoint newest;
@@ -90,7 +110,6 @@ TEST_F(OnAnXServer, opensADocumentAndGoesBackByTheKeyboard) {
       << "no examination is highlighted on the screen";
   keep("window.png");
 
-  ASSERT_EQ(run("xdotool", {"windowfocus", "--sync", window}).status, 0);
   ASSERT_EQ(run("xdotool", {"key", "alt+Left"}).status, 0);
   // Four weeks earlier and 12 mm smaller: to the left and down.
   EXPECT_TRUE(QTest::qWaitFor(
@@ -118,6 +137,194 @@ TEST_F(OnAnXServer, tellsOfAFileThatItCannotReadAndEndsWithAFailure) {
   ASSERT_EQ(run("xdotool", {"key", "Return"}).status, 0);
   ASSERT_TRUE(nascor.waitForFinished(kPatience));
   EXPECT_EQ(nascor.exitCode(), 1);
+}
+
+/// One record of one examination, as the saved file holds it.
+model::PatientRecord readFile(const QString& path) {
+  QFile file(path);
+  if (!file.open(QIODevice::ReadOnly)) throw std::runtime_error("there is no file");
+  const QByteArray bytes = file.readAll();
+  auto read = model::unarchivedPatient(
+      std::as_bytes(std::span(bytes.data(), static_cast<std::size_t>(bytes.size()))));
+  return std::move(*read.patient);
+}
+
+TEST_F(OnAnXServer, takesANewPatientsTwinsAndGivesThemBackToTheNextProcess) {
+  const QString path = folder.filePath(QStringLiteral("XY-9.nascor"));
+  start({});
+  focus(windowTitled(QStringLiteral("Untitled")));
+  type(QStringLiteral("xy-9"));
+  press({"Tab"});
+  type(QStringLiteral("2"));
+  press({"Tab"});
+  type(QStringLiteral("2027-04-10"));
+  press({"Tab"});
+  keep("new-1-patient.png");
+
+  // The second of three examinations first, then the last, then the first.
+  type(QStringLiteral("2026-12-19"));
+  for (const char* length : {"60", "220", "200", "44"}) {
+    press({"Tab"});
+    type(QString::fromLatin1(length));
+  }
+  press({"Tab"});
+  type(QStringLiteral("second visit"));
+  keep("new-2-examination.png");
+  for (const auto& [day, bpd] : {std::pair{"2027-01-16", "71"}, std::pair{"2026-11-21", "48"}}) {
+    press({"ctrl+shift+e", "alt+t"});
+    type(QString::fromLatin1(day));
+    press({"Tab"});
+    type(QString::fromLatin1(bpd));
+    press({"Tab"});
+  }
+  keep("new-3-examinations.png");
+  press({"ctrl+shift+f", "alt+b"});  // the second twin, at the first examination, which is on show
+  type(QStringLiteral("47.5"));
+  press({"Tab"});
+  keep("new-4-twins.png");
+
+  press({"ctrl+s"});
+  focus(windowTitled(QStringLiteral("Save As")));
+  type(path);
+  press({"Return"});
+  const QString saved = windowTitled(QStringLiteral("^XY-9.nascor"));
+  focus(saved);
+  keep("new-5-saved.png");
+  press({"ctrl+q"});
+  endsWell();
+
+  const model::PatientRecord patient = readFile(path);
+  EXPECT_EQ(patient.maternalIDString(), "XY-9");
+  EXPECT_EQ(patient.gravida(), 2);
+  const posix::PosixCalendar calendar;
+  ASSERT_TRUE(patient.edd());
+  EXPECT_EQ(foundation::localDay(*patient.edd(), calendar), (foundation::CivilDay{2027, 4, 10}));
+  EXPECT_EQ(patient.numberOfFetuses(), 2);
+  const auto& visits = patient.ncRecordsArray();
+  ASSERT_EQ(visits.size(), 3U);
+  const foundation::CivilDay days[] = {{2026, 11, 21}, {2026, 12, 19}, {2027, 1, 16}};
+  const double first[] = {48.0, 60.0, 71.0};
+  for (std::size_t i = 0; i < 3; ++i) {
+    EXPECT_EQ(foundation::localDay(*visits[i]->examDate(), calendar), days[i]);
+    EXPECT_EQ(visits[i]->measurements().at(0).bpd(), first[i]);
+  }
+  EXPECT_EQ(visits[0]->measurements().at(1).bpd(), 47.5);
+  EXPECT_EQ(visits[1]->measurements().at(0).hc(), 220.0);
+  EXPECT_EQ(visits[1]->measurements().at(0).ac(), 200.0);
+  EXPECT_EQ(visits[1]->measurements().at(0).fl(), 44.0);
+  EXPECT_EQ(visits[1]->note(), "second visit");
+
+  start({path});
+  const QString again = windowTitled(QStringLiteral("^XY-9.nascor"));
+  focus(again);
+  press({"alt+2", "ctrl+2"});
+  keep("new-6-opened-again.png");
+  press({"alt+b"});
+  type(QStringLiteral("900"));
+  press({"Tab"});
+  keep("new-7-refused.png");
+  press({"Escape", "ctrl+q"});
+  focus(windowTitled(QStringLiteral("^Nascor$")));
+  press({"Tab", "space"});  // Discard
+  endsWell();
+  EXPECT_EQ(readFile(path).ncRecordsArray().at(2)->measurements().at(1).bpd(), 0.0);
+}
+
+TEST_F(OnAnXServer, asksBeforeAnEDDIsChangedAndBeforeEditsAreLost) {
+  const QString path = folder.filePath(QStringLiteral("AB-123.nascor"));
+  writeFile(path, documentBytes(singleton()));
+  start({path});
+  const QString window = windowTitled(QStringLiteral("^AB-123.nascor"));
+  focus(window);
+  press({"alt+d", "5"});
+  const QString question = windowTitled(QStringLiteral("^Nascor$"));
+  keep("question-edd.png");
+  focus(question);
+  press({"Return"});  // Modify
+  ASSERT_TRUE(QTest::qWaitFor(
+      [&] {
+        return run("xdotool", {"search", "--onlyvisible", "--name", "^Nascor$"}).status != 0;
+      },
+      kPatience));
+  focus(window);
+  type(QStringLiteral("2027-04-11"));
+  press({"Tab", "ctrl+q"});
+  const QString closing = windowTitled(QStringLiteral("^Nascor$"));
+  keep("question-save.png");
+  focus(closing);
+  press({"Return"});  // Save
+  endsWell();
+  EXPECT_EQ(foundation::localDay(*readFile(path).edd(), posix::PosixCalendar()),
+            (foundation::CivilDay{2027, 4, 11}));
+}
+
+/// A bus of the test's own, which ends with it.
+class SessionBus {
+ public:
+  SessionBus() {
+    bus_.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    bus_.start(QStringLiteral("dbus-daemon"), {"--session", "--nofork", "--print-address"});
+    while (!bus_.canReadLine() && bus_.waitForReadyRead(kPatience)) {
+    }
+    qputenv("DBUS_SESSION_BUS_ADDRESS", bus_.readLine().trimmed());
+  }
+  ~SessionBus() {
+    qunsetenv("DBUS_SESSION_BUS_ADDRESS");
+    bus_.terminate();
+    bus_.waitForFinished(kPatience);
+  }
+
+ private:
+  QProcess bus_;
+};
+
+TEST_F(OnAnXServer, handsTheFilesOfASecondStartToTheOneThatRuns) {
+  const SessionBus bus;
+  ASSERT_FALSE(qEnvironmentVariableIsEmpty("DBUS_SESSION_BUS_ADDRESS"));
+  const QString first = folder.filePath(QStringLiteral("first.nascor"));
+  const QString second = folder.filePath(QStringLiteral("second & 2%.nascor"));
+  writeFile(first, documentBytes(singleton()));
+  writeFile(second, documentBytes(twins()));
+  start({first});
+  windowTitled(QStringLiteral("^first.nascor"));
+  const Answer answer = run(QStringLiteral(NASCOR_PROGRAM), {second});
+  EXPECT_EQ(answer.status, 0) << answer.error;
+  const QString window = windowTitled(QStringLiteral("^second & 2%.nascor"));
+  EXPECT_EQ(run("xdotool", {"getwindowpid", window}).output, std::to_string(nascor.processId()) + "\n");
+  // Without a file it is a new document.
+  EXPECT_EQ(run(QStringLiteral(NASCOR_PROGRAM), {}).status, 0);
+  focus(windowTitled(QStringLiteral("^Untitled")));
+  press({"ctrl+q"});
+  endsWell();
+}
+
+TEST_F(OnAnXServer, refusesWhatIsNoFileOfThisMachineOnTheBus) {
+  const SessionBus bus;
+  start({});
+  windowTitled(QStringLiteral("^Untitled"));
+  const auto call = [](const QString& method, const QStringList& arguments) {
+    return run("gdbus",
+               QStringList{"call", "--session", "--dest", "org.nascor.Nascor", "--object-path",
+                           "/org/nascor/Nascor", "--method", "org.freedesktop.Application." + method} +
+                   arguments);
+  };
+  EXPECT_THAT(call("Open", {"['https://somewhere/a.nascor']", "{}"}).error, HasSubstr("InvalidArgs"));
+  EXPECT_NE(call("Open", {"'a text'"}).status, 0);
+  EXPECT_NE(call("ActivateAction", {"unknown", "[]", "{}"}).status, 0);
+  EXPECT_EQ(call("Activate", {"{}"}).status, 0);
+}
+
+TEST_F(OnAnXServer, standsAloneWithoutABus) {
+  start({});
+  windowTitled(QStringLiteral("^Untitled"));
+  const QString path = folder.filePath(QStringLiteral("other.nascor"));
+  writeFile(path, documentBytes(singleton()));
+  QProcess other;
+  other.start(QStringLiteral(NASCOR_PROGRAM), {path});
+  const QString window = windowTitled(QStringLiteral("^other.nascor"));
+  EXPECT_EQ(run("xdotool", {"getwindowpid", window}).output, std::to_string(other.processId()) + "\n");
+  other.kill();
+  other.waitForFinished(kPatience);
 }
 
 /// An X server of its own, which chooses its number itself and says so when it is ready.
@@ -151,6 +358,8 @@ int main(int argc, char** argv) {
   const QTemporaryDir home;
   qputenv("XDG_CONFIG_HOME", home.path().toUtf8());
   qputenv("XDG_RUNTIME_DIR", home.path().toUtf8());
+  // Neither the tests' application nor the user's own is to find the other.
+  qunsetenv("DBUS_SESSION_BUS_ADDRESS");
   nascor::tests::XServer server;
   if (!server.start()) {
     std::fputs("Xvfb did not start\n", stderr);

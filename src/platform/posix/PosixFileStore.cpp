@@ -5,6 +5,7 @@
 #include <cerrno>
 #include <climits>
 #include <cstdlib>
+#include <filesystem>
 #include <new>
 #include <stdexcept>
 #include <string_view>
@@ -215,6 +216,37 @@ std::optional<FileError> PosixFileStore::replaceContents(const std::string& path
   if (!fresh.descriptor().close() || !fresh.rename(target)) return systemError();
   flushFolder(folder);
   return std::nullopt;
+}
+
+std::vector<foundation::FileEntry> PosixFileStore::entries(const std::string& folder) const {
+  std::vector<foundation::FileEntry> found;
+  std::error_code error;
+  for (std::filesystem::directory_iterator entry(folder, error), end; !error && entry != end;
+       entry.increment(error)) {
+    struct stat status {};
+    const std::string path = entry->path().string();
+    if (::stat(path.c_str(), &status) != 0 || !S_ISREG(status.st_mode)) continue;
+    constexpr double kUnixTimeOf2001 = 978307200.0;
+    found.push_back({.path = path,
+                     .name = entry->path().filename().string(),
+                     .size = status.st_size,
+                     .modified = {static_cast<double>(status.st_mtim.tv_sec) - kUnixTimeOf2001 +
+                                  static_cast<double>(status.st_mtim.tv_nsec) * 1e-9}});
+  }
+  return found;
+}
+
+std::string PosixFileStore::documentsFolder() const {
+  if (!documentsFolder_.empty()) return documentsFolder_;
+  const char* home = std::getenv("HOME");
+  return std::string(home ? home : ".") + "/Documents";
+}
+
+std::string PosixFileStore::resolvedPath(const std::string& path) const {
+  std::error_code error;
+  const std::filesystem::path resolved =
+      std::filesystem::weakly_canonical(std::filesystem::absolute(path, error), error);
+  return error ? path : resolved.string();
 }
 
 }  // namespace nascor::posix

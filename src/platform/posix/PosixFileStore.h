@@ -4,6 +4,7 @@
 #include <optional>
 #include <span>
 #include <string>
+#include <utility>
 #include <variant>
 #include <vector>
 
@@ -14,6 +15,9 @@ namespace nascor::posix {
 /// The files of the operating system. Reads files and pipes; writes files alone.
 class PosixFileStore final : public foundation::FileStore {
  public:
+  /// `documentsFolder` is where the user keeps documents; empty for the folder "Documents" of the user's home.
+  explicit PosixFileStore(std::string documentsFolder = {}) : documentsFolder_(std::move(documentsFolder)) {}
+
   std::variant<std::vector<std::byte>, foundation::FileError> contents(
       const std::string& path) const override;
 
@@ -23,6 +27,13 @@ class PosixFileStore final : public foundation::FileStore {
   /// Other hard links of the old file keep the old contents.
   std::optional<foundation::FileError> replaceContents(const std::string& path,
                                                        std::span<const std::byte> bytes) override;
+
+  std::vector<foundation::FileEntry> entries(const std::string& folder) const override;
+  std::string documentsFolder() const override;
+  std::string resolvedPath(const std::string& path) const override;
+
+ private:
+  std::string documentsFolder_;
 };
 
 }  // namespace nascor::posix

@@ -1,124 +1,484 @@
 #include "qt/DocumentWindow.h"
 
+#include <QCloseEvent>
 #include <QComboBox>
 #include <QCoreApplication>
-#include <QFileInfo>
-#include <QLineEdit>
+#include <QDragEnterEvent>
+#include <QFile>
+#include <QLabel>
 #include <QMessageBox>
+#include <QMimeData>
+#include <QPointer>
 #include <QScreen>
+#include <QScrollBar>
 #include <QSignalBlocker>
 
+#include "calc/EditingBounds.h"
+#include "calc/FetalWeight.h"
+#include "calc/Standards.h"
 #include "foundation/Localizer.h"
-#include "model/PatientRecord.h"
+#include "foundation/UserDefaults.h"
+#include "qt/AdjustDeliveryDialog.h"
 #include "qt/Application.h"
+#include "qt/FieldBinding.h"
+#include "qt/LongDate.h"
+#include "qt/Mnemonics.h"
 #include "qt/PageView.h"
+#include "qt/Puff.h"
+#include "qt/QtAlerts.h"
 #include "qt/Text.h"
 #include "ui_MyDocument.h"
 
 namespace nascor::qt {
+
+using app::NCDocument;
+
 namespace {
 
 /// The context under which the texts of the window's form are translated.
 constexpr const char* kTable = "MyDocument";
+constexpr std::string_view kGeometryKey = "Window Geometry";
 
 QString said(const char* sentence) { return QCoreApplication::translate(kTable, sentence); }
 
-void bind(QLineEdit* edit, framework::TextField& field) {
-  // A value to read and to copy, not a field to type in.
-  edit->setReadOnly(true);
-  edit->setFrame(false);
-  QPalette palette;
-  palette.setBrush(QPalette::Base, Qt::transparent);
-  edit->setPalette(palette);
-  field.onChange = [edit, &field] {
-    edit->setText(fromUtf8(field.text()));
-    edit->setCursorPosition(0);
-  };
-  field.onChange();
+/// `action` done to the text that has the focus, if one has.
+template <class LineAction, class NoteAction>
+void editText(QWidget* focus, LineAction line, NoteAction note) {
+  if (auto* edit = qobject_cast<QLineEdit*>(focus)) (edit->*line)();
+  if (auto* edit = qobject_cast<QPlainTextEdit*>(focus)) (edit->*note)();
 }
 
-void bind(QComboBox* box, framework::PopUpButton& button) {
-  button.onChange = [box, &button] {
-    const QSignalBlocker quiet(box);
-    box->clear();
-    for (const auto& item : button.items()) box->addItem(fromUtf8(item.title));
-    box->setCurrentIndex(static_cast<int>(button.indexOfSelectedItem()));
-  };
-  button.onChange();
+QStringList localFiles(const QMimeData* data) {
+  QStringList paths;
+  for (const QUrl& url : data->urls()) {
+    if (url.isLocalFile()) paths << url.toLocalFile();
+  }
+  return paths;
 }
 
 }  // namespace
 
-DocumentWindow::DocumentWindow(std::unique_ptr<app::NCDocument> document, const QString& path,
-                               const foundation::Services& services)
-    : services_(services), document_(std::move(document)), ui_(std::make_unique<Ui::MyDocument>()) {
-  setAttribute(Qt::WA_DeleteOnClose);
+DocumentWindow::DocumentWindow(NCDocument& document, WindowEnvironment environment)
+    : environment_(std::move(environment)), document_(&document), ui_(std::make_unique<Ui::MyDocument>()) {
   ui_->setupUi(this);
-  setWindowFilePath(path);
-  setWindowTitle((path.isEmpty() ? said("Untitled") : QFileInfo(path).fileName()) + QStringLiteral("[*]"));
+  refusalLabel_ = new QLabel;
+  refusalLabel_->setObjectName(QStringLiteral("refusalLabel"));
+  ui_->statusBar->addWidget(refusalLabel_, 1);
+  growthLabel_ = new QLabel;
+  growthLabel_->setObjectName(QStringLiteral("growthStandardLabel"));
+  growthLabel_->setContentsMargins(12, 0, 12, 0);
+  ui_->statusBar->addPermanentWidget(growthLabel_);
+  weightLabel_ = new QLabel;
+  weightLabel_->setObjectName(QStringLiteral("fetalWeightLabel"));
+  ui_->statusBar->addPermanentWidget(weightLabel_);
 
-  addPage(document_->bpdPage());
+  bindPages();
+  describeFields();
   bindFields();
+  bindPopUp();
   bindActions();
-  for (const auto& name :
-       {foundation::NotificationName::updateStandards, foundation::NotificationName::updateShowAll}) {
-    subscriptions_.push_back(services_.notifications.subscribe(name, [this](const auto&) { refresh(); }));
-  }
-  document_->onDisplayChanged = [this] { refresh(); };
-  document_->windowControllerDidLoadNib();
-  if (const QScreen* here = screen()) resize(size().boundedTo(here->availableSize()));
+  adjustDelivery_ = new AdjustDeliveryDialog(
+      document, environment_.services, [this](const DocumentAction& action) { perform(action); }, this);
+
+  foundation::NotificationCenter& notifications = environment_.services.notifications;
+  subscriptions_.push_back(notifications.subscribe(foundation::NotificationName::updateStandards,
+                                                   [this](const auto&) { showStandards(); }));
+  subscriptions_.push_back(
+      notifications.subscribe(foundation::NotificationName::updateShowAll, [this](const auto&) {
+        ui_->showAllAction->setChecked(environment_.application.showAllMenuItem().state != 0);
+      }));
+  document.onDisplayChanged = [this] { showExaminations(); };
+  document.onStateChanged = [this] { showState(); };
+  document.fieldEditor().onChange = [this] { showEditing(); };
+
+  // The panel scrolls up and down where the screen is low, never sideways.
+  ui_->patientPanel->ensurePolished();
+  ui_->panelScroll->setMinimumWidth(ui_->patientPanel->minimumSizeHint().width() +
+                                    ui_->panelScroll->verticalScrollBar()->sizeHint().width());
+  restoreWindowGeometry();
+  showState();
+  showExaminations();
+  showStandards();
+  showLongDates();
+  ui_->referenceIDField->setFocus();
 }
 
-DocumentWindow::~DocumentWindow() = default;
+DocumentWindow::~DocumentWindow() { release(); }
+
+void DocumentWindow::release() {
+  if (!document_) return;
+  environment_.services.defaults.setValue(kGeometryKey, saveGeometry().toBase64().toStdString());
+  for (FieldBinding* binding : bindings_) binding->release();
+  adjustDelivery_->release();
+  adjustDelivery_->hide();
+  document_->ageField().onChange = nullptr;
+  document_->notesField().onChange = nullptr;
+  document_->multiplePopUp().onChange = nullptr;
+  document_->multiplePopUp().onAnimationEffect = nullptr;
+  document_->tabView().onSelect = nullptr;
+  document_->tabView().onNeedsDisplay = nullptr;
+  document_->fieldEditor().onChange = nullptr;
+  document_->onDisplayChanged = nullptr;
+  document_->onStateChanged = nullptr;
+  document_ = nullptr;
+  subscriptions_.clear();
+  for (PageView* view : pageViews_) view->release();
+  hide();
+  deleteLater();
+}
+
+void DocumentWindow::perform(const DocumentAction& action) {
+  if (!document_ || hasSheet(*this)) return;
+  environment_.actions.perform([&] {
+    if (environment_.documents.currentDocument() != document_)
+      environment_.documents.setCurrentDocument(*document_);
+    if (!document_->commitEditing()) {
+      focusFieldInEdit();
+    } else if (document_) {  // still there: leaving a field may have put another document into its place
+      placePopUp();
+      action(*document_);
+    }
+  });
+}
+
+void DocumentWindow::focusFieldInEdit() {
+  for (FieldBinding* binding : bindings_) {
+    if (binding->field() != document_->fieldEditor().field()) continue;
+    FieldEdit& edit = binding->edit();
+    // The click or the key that began the action may yet move the focus.
+    QMetaObject::invokeMethod(
+        &edit, [&edit] { edit.setFocus(); }, Qt::QueuedConnection);
+  }
+}
 
 void DocumentWindow::bindFields() {
-  bind(ui_->referenceIDField, document_->referenceIDField());
-  bind(ui_->birthDateField, document_->birthDateField());
-  bind(ui_->examDateField, document_->examDateField());
-  bind(ui_->ageField, document_->ageField());
-  bind(ui_->multiplePopUp, document_->multiplePopUp());
+  framework::FieldEditor& editor = document_->fieldEditor();
+  const std::pair<FieldEdit*, framework::TextField*> fields[] = {
+      {ui_->referenceIDField, &document_->referenceIDField()},
+      {ui_->gravidaField, &document_->gravidaField()},
+      {ui_->birthDateField, &document_->birthDateField()},
+      {ui_->examDateField, &document_->examDateField()},
+      {ui_->bpdField, &document_->bpdField()},
+      {ui_->hcField, &document_->hcField()},
+      {ui_->acField, &document_->acField()},
+      {ui_->flField, &document_->flField()}};
+  for (const auto& [edit, field] : fields)
+    bindings_.push_back(new FieldBinding(*edit, *field, editor, environment_.actions));
+  bindReadOnly(*ui_->ageField, document_->ageField());
+  for (const FieldEdit* edit : {ui_->birthDateField, ui_->examDateField})
+    connect(edit, &QLineEdit::textChanged, this, [this] { showLongDates(); });
+
+  framework::TextView& note = document_->notesField();
+  NoteEdit* noteEdit = ui_->notesField;
+  note.onChange = [noteEdit, &note] {
+    const QString text = fromUtf8(note.text());
+    if (noteEdit->toPlainText() == text) return;
+    const QSignalBlocker quiet(noteEdit);
+    noteEdit->setPlainText(text);
+  };
+  connect(noteEdit, &QPlainTextEdit::textChanged, this, [this] {
+    if (document_) document_->notesField().takeEditedText(toUtf8(ui_->notesField->toPlainText()));
+  });
+}
+
+void DocumentWindow::bindPopUp() {
+  document_->multiplePopUp().onChange = [this] { showFetuses(); };
+  document_->multiplePopUp().onAnimationEffect = [this](int, framework::Point at) {
+    showPuff(*this, QPointF(at.x, at.y).toPoint());
+  };
+  const auto choose = [this](int index) {
+    perform([index](NCDocument& document) {
+      document.multiplePopUp().selectItemAtIndex(index);
+      document.chooseFetus(document.multiplePopUp());
+    });
+    showFetuses();
+  };
   // Only what the user chooses: the box also changes while it is filled.
-  connect(ui_->multiplePopUp, &QComboBox::activated, this, [this](int index) {
-    document_->multiplePopUp().selectItemAtIndex(index);
-    document_->setCurrentFetus(index);
-    document_->synchronizeFromData();
+  connect(ui_->multiplePopUp, &QComboBox::activated, this, choose);
+  for (std::size_t i = 0; i < fetusActions_.size(); ++i) {
+    auto* action = new QAction(this);
+    action->setObjectName(QStringLiteral("fetusAction%1").arg(i + 1));
+    action->setCheckable(true);
+    connect(action, &QAction::triggered, this, [choose, i] { choose(static_cast<int>(i)); });
+    ui_->patientMenu->addAction(action);
+    fetusActions_[i] = action;
+  }
+  showFetuses();
+}
+
+void DocumentWindow::bindPages() {
+  framework::TabView& tabs = document_->tabView();
+  QString taken = mnemonicOf(ui_->showAllAction->text());
+  for (std::int64_t i = 0; i < tabs.numberOfPages(); ++i) {
+    framework::Page& page = tabs.page(i);
+    auto* view = new PageView(page);
+    const QString name = said(page.name().c_str());
+    view->setObjectName(fromUtf8(page.name()) + QStringLiteral("Page"));
+    view->setAccessibleName(name);
+    ui_->tabView->addTab(view, name);
+    pageViews_.push_back(view);
+    auto* action = new QAction(withMnemonic(name, taken), this);
+    taken += mnemonicOf(action->text());
+    action->setObjectName(fromUtf8(page.name()) + QStringLiteral("Action"));
+    action->setShortcut(QKeySequence(QStringLiteral("Alt+%1").arg(i + 1)));
+    connect(action, &QAction::triggered, this,
+            [this, i] { ui_->tabView->setCurrentIndex(static_cast<int>(i)); });
+    ui_->viewMenu->addAction(action);
+  }
+  const auto showSelected = [this] {
+    const QSignalBlocker quiet(ui_->tabView);
+    ui_->tabView->setCurrentIndex(static_cast<int>(document_->tabView().indexOfSelectedPage()));
+  };
+  tabs.onSelect = showSelected;
+  tabs.onNeedsDisplay = [this] { updatePages(); };
+  connect(ui_->tabView, &QTabWidget::currentChanged, this, [this, showSelected](int index) {
+    if (!document_ || index == document_->tabView().indexOfSelectedPage()) return;
+    perform([index](NCDocument& document) { document.switchToGraph(index); });
+    if (document_) showSelected();
   });
 }
 
 void DocumentWindow::bindActions() {
-  connect(ui_->openAction, &QAction::triggered, this, [this] {
-    if (onOpen) onOpen();
+  const auto bind = [this](QAction* action, DocumentAction what) {
+    connect(action, &QAction::triggered, this, [this, what = std::move(what)] { perform(what); });
+  };
+  bind(ui_->previousAction, [](NCDocument& document) { document.previousExamination(); });
+  bind(ui_->nextAction, [](NCDocument& document) { document.nextExamination(); });
+  bind(ui_->addExaminationAction, [](NCDocument& document) { document.addExaminationAction(); });
+  bind(ui_->deleteExaminationAction, [](NCDocument& document) { document.deleteExaminationAction(); });
+  bind(ui_->addFetusAction, [](NCDocument& document) { document.addFetus(nullptr); });
+  bind(ui_->deleteFetusAction, [](NCDocument& document) { document.deleteFetus(nullptr); });
+  bind(ui_->adjustDeliveryAction,
+       [this](NCDocument&) { environment_.application.doAdjustDeliveryDate(&environment_.application); });
+  bind(ui_->showAllAction, [this](NCDocument&) {
+    environment_.application.toggleShowAll(environment_.application.showAllMenuItem());
   });
-  connect(ui_->closeAction, &QAction::triggered, this, [this] { close(); });
-  connect(ui_->quitAction, &QAction::triggered, this, [] { QCoreApplication::quit(); });
-  connect(ui_->previousAction, &QAction::triggered, this, [this] { document_->previousExamination(); });
-  connect(ui_->nextAction, &QAction::triggered, this, [this] { document_->nextExamination(); });
-  connect(ui_->aboutAction, &QAction::triggered, this, [this] { showAbout(); });
+  connect(ui_->showAllAction, &QAction::triggered, this, [this] {  // also when it was not done
+    ui_->showAllAction->setChecked(environment_.application.showAllMenuItem().state != 0);
+  });
+  ui_->showAllAction->setChecked(environment_.application.showAllMenuItem().state != 0);
+
   ui_->previousButton->setDefaultAction(ui_->previousAction);
   ui_->nextButton->setDefaultAction(ui_->nextAction);
   ui_->previousButton->setArrowType(Qt::LeftArrow);
   ui_->nextButton->setArrowType(Qt::RightArrow);
+  ui_->addExaminationButton->setDefaultAction(ui_->addExaminationAction);
+  ui_->deleteExaminationButton->setDefaultAction(ui_->deleteExaminationAction);
+  ui_->addFetusButton->setDefaultAction(ui_->addFetusAction);
+  ui_->deleteFetusButton->setDefaultAction(ui_->deleteFetusAction);
+  // The short texts tell what is added or removed by their place alone.
+  for (QToolButton* button : {ui_->addExaminationButton, ui_->deleteExaminationButton, ui_->addFetusButton,
+                              ui_->deleteFetusButton}) {
+    button->setAccessibleName(button->defaultAction()->text().remove(u'&'));
+  }
+
+  bindFileActions();
+  bindEditActions();
+  bindStandardsMenus();
+  connect(ui_->aboutAction, &QAction::triggered, this, [this] { showAbout(); });
 }
 
-void DocumentWindow::addPage(framework::Page& page) {
-  auto* view = new PageView(page);
-  const QString name = fromUtf8(page.name());
-  view->setObjectName(name + QStringLiteral("Page"));
-  view->setAccessibleName(name);
-  ui_->tabView->addTab(view, name);
-  pageViews_.push_back(view);
+void DocumentWindow::bindFileActions() {
+  // A field that refuses its text holds back what is done to its own document, not what is done to others.
+  connect(ui_->newAction, &QAction::triggered, this,
+          [this] { environment_.actions.perform([this] { environment_.documents.newDocument(); }); });
+  connect(ui_->openAction, &QAction::triggered, this, [this] { environment_.chooseFilesToOpen(); });
+  connect(ui_->recentMenu, &QMenu::aboutToShow, this, [this] { showRecentFiles(); });
+  connect(ui_->saveAction, &QAction::triggered, this, [this] {
+    perform([this](NCDocument& document) { environment_.documents.saveDocument(document); });
+  });
+  connect(ui_->saveAsAction, &QAction::triggered, this, [this] {
+    perform([this](NCDocument& document) { environment_.documents.saveDocumentAs(document); });
+  });
+  connect(ui_->revertAction, &QAction::triggered, this, [this] { revert(); });
+  connect(ui_->closeAction, &QAction::triggered, this, [this] { close(); });
+  connect(ui_->quitAction, &QAction::triggered, this, [this] { environment_.quit(); });
+  showRecentFiles();
 }
 
-void DocumentWindow::refresh() {
+void DocumentWindow::showRecentFiles() {
+  ui_->recentMenu->clear();
+  const QStringList paths = environment_.recentFiles.paths();
+  int number = 0;
+  for (const QString& path : paths) {
+    QString name = path.mid(path.lastIndexOf(u'/') + 1);
+    name.replace(u'&', QStringLiteral("&&"));
+    QAction* action =
+        ui_->recentMenu->addAction(QStringLiteral("&%1  %2").arg(QString::number(++number % 10), name));
+    action->setToolTip(path);
+    action->setData(path);
+    connect(action, &QAction::triggered, this, [this, path] { environment_.openFiles({path}); });
+  }
+  if (!paths.isEmpty()) ui_->recentMenu->addSeparator();
+  QAction* clear = ui_->recentMenu->addAction(said("&Clear"));
+  clear->setObjectName(QStringLiteral("clearRecentAction"));
+  clear->setEnabled(!paths.isEmpty());
+  connect(clear, &QAction::triggered, this, [this] { environment_.recentFiles.clear(); });
+}
+
+void DocumentWindow::bindEditActions() {
+  const auto bind = [this](QAction* action, auto line, auto note) {
+    connect(action, &QAction::triggered, this, [this, line, note] { editText(focusWidget(), line, note); });
+  };
+  bind(ui_->undoAction, &QLineEdit::undo, &QPlainTextEdit::undo);
+  bind(ui_->redoAction, &QLineEdit::redo, &QPlainTextEdit::redo);
+  bind(ui_->cutAction, &QLineEdit::cut, &QPlainTextEdit::cut);
+  bind(ui_->copyAction, &QLineEdit::copy, &QPlainTextEdit::copy);
+  bind(ui_->pasteAction, &QLineEdit::paste, &QPlainTextEdit::paste);
+  bind(ui_->selectAllAction, &QLineEdit::selectAll, &QPlainTextEdit::selectAll);
+}
+
+void DocumentWindow::bindStandardsMenus() {
+  // The menus of this form stand in the order in which the controller gives theirs.
+  QMenu* const menus[] = {ui_->standardsMenu, ui_->fetalWeightMenu, ui_->crownRumpLengthMenu};
+  QString taken = mnemonicsOf(*ui_->menuBar, *ui_->patientPanel);
+  std::size_t next = 0;
+  std::string title;
+  QMenu* menu = nullptr;
+  QString takenItems;
+  for (const framework::MenuItem& item : environment_.application.standardsMenuItems()) {
+    if (!menu || item.menuTitle != title) {
+      if (next == std::size(menus)) break;
+      menu = menus[next++];
+      title = item.menuTitle;
+      takenItems.clear();
+      menu->setTitle(withMnemonic(fromUtf8(title), taken));
+      taken += mnemonicOf(menu->title());
+    }
+    QAction* action = menu->addAction(withMnemonic(fromUtf8(item.title), takenItems));
+    takenItems += mnemonicOf(action->text());
+    action->setCheckable(true);
+    const auto validate = [this, action, item] {
+      framework::MenuItem validated = item;
+      action->setEnabled(environment_.application.validateMenuItem(validated));
+      action->setChecked(validated.state != 0);
+    };
+    connect(menu, &QMenu::aboutToShow, action, validate);
+    connect(action, &QAction::triggered, this, [this, validate, item] {
+      perform([this, &item](NCDocument&) { environment_.application.chooseStandard(item); });
+      validate();
+    });
+  }
+}
+
+void DocumentWindow::describeFields() {
+  const auto describe = [](QWidget* edit, QWidget* label, const QString& text) {
+    edit->setToolTip(text);
+    edit->setAccessibleDescription(text);
+    if (label) label->setToolTip(text);
+  };
+  struct Row {
+    calc::Measurement measurement;
+    FieldEdit* edit;
+    QLabel* label;
+    QLabel* hint;
+  };
+  for (const Row& row : {Row{calc::Measurement::bpd, ui_->bpdField, ui_->bpdLabel, ui_->bpdHint},
+                         Row{calc::Measurement::hc, ui_->hcField, ui_->hcLabel, ui_->hcHint},
+                         Row{calc::Measurement::ac, ui_->acField, ui_->acLabel, ui_->acHint},
+                         Row{calc::Measurement::fl, ui_->flField, ui_->flLabel, ui_->flHint}}) {
+    const calc::EditingBounds bounds = calc::editingBounds(row.measurement);
+    const QString least = QString::number(static_cast<int>(bounds.least));
+    const QString greatest = QString::number(static_cast<int>(bounds.greatest));
+    row.hint->setText(said("mm (%1\u2013%2)").arg(least, greatest));
+    describe(row.edit, row.label, said("%1, %2 to %3 mm").arg(row.edit->toolTip(), least, greatest));
+  }
+  const foundation::ShortDateForm form = environment_.services.localizer.shortDateForm();
+  const QString example = fromUtf8(foundation::shortDateText({2027, 3, 24}, form));
+  for (FieldEdit* edit : {ui_->birthDateField, ui_->examDateField})
+    describe(edit, nullptr, said("%1, for example %2").arg(edit->toolTip(), example));
+  const int room = fontMetrics().horizontalAdvance(longestDateText());
+  ui_->birthDateLongForm->setMinimumWidth(room);
+  ui_->examDateLongForm->setMinimumWidth(room);
+  ui_->multiplePopUp->setAccessibleDescription(said("The fetus on show"));
+}
+
+void DocumentWindow::showEditing() {
+  QString permitted;
+  for (FieldBinding* binding : bindings_) {
+    binding->refresh();
+    if (binding->edit().isRefusing()) permitted = binding->edit().toolTip();
+    const QString description = binding->edit().toolTip();
+    binding->edit().setAccessibleDescription(
+        binding->edit().isRefusing() ? said("Not permitted. %1").arg(description) : description);
+  }
+  refusalLabel_->setText(permitted.isEmpty() ? QString() : said("Permitted: %1").arg(permitted));
+  showLongDates();
+}
+
+void DocumentWindow::showLongDates() {
+  const foundation::ShortDateForm form = environment_.services.localizer.shortDateForm();
+  const QString example = said("such as %1").arg(fromUtf8(foundation::shortDateText({2027, 3, 24}, form)));
+  const std::pair<const FieldEdit*, QLabel*> dates[] = {{ui_->birthDateField, ui_->birthDateLongForm},
+                                                        {ui_->examDateField, ui_->examDateLongForm}};
+  for (const auto& [edit, label] : dates) {
+    const QString text = edit->text().trimmed();
+    const QString inWords = longDateText(text, form);
+    label->setText(!inWords.isEmpty() ? inWords : text.isEmpty() ? example : said("no date"));
+  }
+}
+
+void DocumentWindow::showFetuses() {
+  if (!document_) return;
+  const framework::PopUpButton& popUp = document_->multiplePopUp();
+  QComboBox& box = *ui_->multiplePopUp;
+  const QSignalBlocker quiet(&box);
+  box.clear();
+  for (const auto& item : popUp.items()) box.addItem(fromUtf8(item.title));
+  const auto selected = static_cast<int>(popUp.indexOfSelectedItem());
+  box.setCurrentIndex(selected);
+  for (std::size_t i = 0; i < fetusActions_.size(); ++i) {
+    QAction& action = *fetusActions_.at(i);
+    const bool isThere = i < popUp.items().size();
+    action.setVisible(isThere);
+    action.setEnabled(isThere);
+    if (!isThere) continue;
+    const auto& item = popUp.items().at(i);
+    // The last sign tells them apart.
+    action.setText(QStringLiteral("&%1  %2").arg(QString::number(i + 1), fromUtf8(item.title)));
+    action.setShortcut(item.keyEquivalent.empty()
+                           ? QKeySequence()
+                           : QKeySequence(QStringLiteral("Ctrl+") + fromUtf8(item.keyEquivalent)));
+    action.setChecked(static_cast<int>(i) == selected);
+  }
+  ui_->addFetusAction->setEnabled(popUp.numberOfItems() < calc::kMostFetuses);
+  ui_->deleteFetusAction->setEnabled(popUp.numberOfItems() > calc::kFewestFetuses);
+}
+
+void DocumentWindow::showState() {
+  if (!document_) return;
+  setWindowTitle(fromUtf8(document_->displayName()) + QStringLiteral("[*]"));
+  setWindowModified(document_->isDocumentEdited());
+  ui_->revertAction->setEnabled(document_->filePath().has_value());
+  const QString path = document_->filePath()
+                           ? QFile::decodeName(QByteArray::fromStdString(*document_->filePath()))
+                           : QString();
+  if (path == notedPath_) return;
+  notedPath_ = path;
+  if (!path.isEmpty()) environment_.recentFiles.note(path);
+}
+
+void DocumentWindow::showExaminations() {
+  if (!document_) return;
   const std::int64_t exam = document_->currentExam();
-  const std::int64_t count =
-      document_->patientRecord()
-          ? static_cast<std::int64_t>(document_->patientRecord()->ncRecordsArray().size())
-          : 0;
-  ui_->examinationLabel->setText(fromUtf8(
-      foundation::format(services_.localizer, kTable, "%ld of %ld", {count > 0 ? exam + 1 : 0, count})));
+  const std::int64_t count = document_->numberOfExaminations();
+  ui_->examinationLabel->setText(fromUtf8(foundation::format(
+      environment_.services.localizer, kTable, "%ld of %ld", {count > 0 ? exam + 1 : 0, count})));
   ui_->previousAction->setEnabled(exam > 0);
   ui_->nextAction->setEnabled(exam + 1 < count);
+  ui_->deleteExaminationAction->setEnabled(count > 1);
+  updatePages();
+}
+
+void DocumentWindow::showStandards() {
+  if (!document_) return;
+  const foundation::Localizer& localizer = environment_.services.localizer;
+  growthLabel_->setText(fromUtf8(calc::growthStandardTitle(document_->standard(), localizer)));
+  weightLabel_->setText(fromUtf8(calc::fetalWeightTitle(document_->fetalWeightStandard(), localizer)));
+}
+
+void DocumentWindow::updatePages() {
+  if (!document_) return;
   const QString description = said("Growth chart of %1. Examination %2, %3.")
                                   .arg(fromUtf8(document_->preferredFileName(true)),
                                        ui_->examinationLabel->text(), fromUtf8(document_->ageField().text()));
@@ -128,6 +488,22 @@ void DocumentWindow::refresh() {
   }
 }
 
+void DocumentWindow::revert() {
+  perform([this](NCDocument& document) {
+    if (!document.filePath()) return;
+    QtAlerts alerts(environment_.actions);
+    alerts.frontWindow = [this] { return this; };
+    const auto answer = alerts.runModal(
+        {.message = toUtf8(said("Do you want to go back to the document as it was last saved?")),
+         .information = toUtf8(said("All changes since then will be lost.")),
+         .defaultButton = toUtf8(said("Revert")),
+         .alternateButton = toUtf8(said("Cancel"))});
+    if (answer != framework::AlertReturn::defaultButton || !document_) return;
+    if (const auto error = document.revertToSaved())
+      alerts.tell(toUtf8(said("The document cannot be read.")), *document.filePath() + ": " + error->reason);
+  });
+}
+
 void DocumentWindow::showAbout() {
   QMessageBox box(this);
   box.setWindowTitle(said("About Nascor"));
@@ -135,11 +511,61 @@ void DocumentWindow::showAbout() {
   box.setText(said("Nascor %1").arg(programVersion()));
   box.setInformativeText(
       QStringLiteral("%1\n\n%2\n\n%3")
-          .arg(disclaimer(), said("Copyright (c) 2026 The Nascor developers. MIT License."),
-               said("Linked with Qt %1 (GNU LGPL 3) and the GNU C++ library (GNU GPL 3 with the GCC Runtime "
-                    "Library Exception).")
-                   .arg(QLatin1String(qVersion()))));
+          .arg(
+              disclaimer(), said("Copyright (c) 2026 The Nascor developers. MIT License."),
+              said("Linked with Qt %1 (GNU LGPL 3), the D-Bus library (AFL 2.1 or GNU GPL 2) and the GNU C++ "
+                   "library (GNU GPL 3 with the GCC Runtime Library Exception).")
+                  .arg(QLatin1String(qVersion()))));
   box.exec();
+}
+
+void DocumentWindow::restoreWindowGeometry() {
+  const auto kept = environment_.services.defaults.value(kGeometryKey);
+  if (kept && restoreGeometry(QByteArray::fromBase64(QByteArray::fromStdString(*kept)))) return;
+  if (const QScreen* here = screen()) {
+    const QSize frame(16, 48);  // what a window manager may add
+    resize(size().boundedTo(here->availableSize() - frame));
+    move(here->availableGeometry().center() - QRect(QPoint(), size()).center());
+  }
+}
+
+void DocumentWindow::changeEvent(QEvent* event) {
+  QMainWindow::changeEvent(event);
+  if (event->type() != QEvent::ActivationChange || !isActiveWindow() || !document_) return;
+  if (environment_.actions.isRunning() || environment_.documents.currentDocument() == document_) return;
+  environment_.documents.setCurrentDocument(*document_);
+}
+
+void DocumentWindow::closeEvent(QCloseEvent* event) {
+  if (!document_) return;
+  event->ignore();
+  if (hasSheet(*this)) return;
+  // A text that its field refuses goes with the window, so this does not wait for it.
+  environment_.actions.perform([this] {
+    environment_.documents.setCurrentDocument(*document_);
+    environment_.documents.closeDocument(*document_);
+  });
+}
+
+void DocumentWindow::dragEnterEvent(QDragEnterEvent* event) {
+  if (!localFiles(event->mimeData()).isEmpty()) event->acceptProposedAction();
+}
+
+void DocumentWindow::dropEvent(QDropEvent* event) {
+  const QStringList paths = localFiles(event->mimeData());
+  if (paths.isEmpty()) return;
+  event->acceptProposedAction();
+  // Whoever dragged the files waits for the drop to end; a question must not hold it up.
+  QMetaObject::invokeMethod(
+      this, [this, paths] { environment_.openFiles(paths); }, Qt::QueuedConnection);
+}
+
+void DocumentWindow::placePopUp() {
+  const QPoint at = ui_->multiplePopUp->mapTo(this, QPoint());
+  document_->multiplePopUp().setFrame({.x = static_cast<double>(at.x()),
+                                       .y = static_cast<double>(at.y()),
+                                       .width = static_cast<double>(ui_->multiplePopUp->width()),
+                                       .height = static_cast<double>(ui_->multiplePopUp->height())});
 }
 
 }  // namespace nascor::qt

@@ -2,12 +2,21 @@
 
 #include <QMainWindow>
 #include <QString>
+#include <QStringList>
+#include <array>
 #include <functional>
 #include <memory>
+#include <vector>
 
+#include "app/NCAppController.h"
 #include "app/NCDocument.h"
 #include "foundation/NotificationCenter.h"
 #include "foundation/Services.h"
+#include "framework/DocumentController.h"
+#include "qt/Actions.h"
+#include "qt/RecentFiles.h"
+
+class QLabel;
 
 namespace Ui {
 class MyDocument;
@@ -15,34 +24,84 @@ class MyDocument;
 
 namespace nascor::qt {
 
+class AdjustDeliveryDialog;
+class FieldBinding;
+class FieldEdit;
 class PageView;
 
-/// The window of one patient: the fields on the left, the pages on the right. Owns its document, and deletes itself when
-/// it is closed.
+/// What a window asks of the application around it.
+struct WindowEnvironment {
+  foundation::Services services;
+  framework::DocumentController& documents;
+  app::NCAppController& application;
+  Actions& actions;
+  RecentFiles& recentFiles;
+  std::function<void(const QStringList&)> openFiles;
+  std::function<void()> chooseFilesToOpen;
+  std::function<void()> quit;
+};
+
+/// The window of one patient: the fields on the left, the pages on the right. Whatever the user does there goes to the
+/// document, one action at a time, after the text in edit has got there.
 class DocumentWindow final : public QMainWindow {
  public:
-  /// `path` is the document's file, empty for a new document.
-  DocumentWindow(std::unique_ptr<app::NCDocument> document, const QString& path,
-                 const foundation::Services& services);
+  /// Binds the window to `document`, which is about to be loaded. `release` ends that.
+  DocumentWindow(app::NCDocument& document, WindowEnvironment environment);
   ~DocumentWindow() override;
 
-  app::NCDocument& document() { return *document_; }
+  /// Null once the document is closed.
+  app::NCDocument* document() { return document_; }
 
-  /// The user wants to open documents; set by whoever opens windows.
-  std::function<void()> onOpen;
+  /// Lets go of the document, which is closed, and goes away itself.
+  void release();
+
+ protected:
+  void changeEvent(QEvent* event) override;
+  void closeEvent(QCloseEvent* event) override;
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
 
  private:
-  void bindFields();
-  void bindActions();
-  void addPage(framework::Page& page);
-  /// Shows what no field shows by itself: which examination of how many, and the pages.
-  void refresh();
-  void showAbout();
+  using DocumentAction = std::function<void(app::NCDocument&)>;
 
-  foundation::Services services_;
-  std::unique_ptr<app::NCDocument> document_;
+  /// Does `action` unless another is in progress, a sheet is open, or a field refuses its text, which then has the focus.
+  void perform(const DocumentAction& action);
+  void bindFields();
+  void bindPopUp();
+  void bindPages();
+  void bindActions();
+  void bindFileActions();
+  void bindEditActions();
+  void bindStandardsMenus();
+  void showRecentFiles();
+  void describeFields();
+
+  /// Tells the document where its pop-up stands.
+  void placePopUp();
+  void focusFieldInEdit();
+  void showEditing();
+  void showFetuses();
+  void showState();
+  /// Shows what no field shows by itself: which examination of how many, what can be done, the pages.
+  void showExaminations();
+  void showStandards();
+  void showLongDates();
+  void updatePages();
+  void showAbout();
+  void revert();
+  void restoreWindowGeometry();
+
+  WindowEnvironment environment_;
+  app::NCDocument* document_;
   std::unique_ptr<Ui::MyDocument> ui_;
+  std::vector<FieldBinding*> bindings_;
   std::vector<PageView*> pageViews_;
+  std::array<QAction*, 5> fetusActions_{};
+  QLabel* refusalLabel_ = nullptr;
+  QLabel* growthLabel_ = nullptr;
+  QLabel* weightLabel_ = nullptr;
+  AdjustDeliveryDialog* adjustDelivery_ = nullptr;
+  QString notedPath_;
   std::vector<foundation::NotificationCenter::Subscription> subscriptions_;
 };
 

@@ -12,10 +12,14 @@
 #include <QPdfWriter>
 #include <QSet>
 #include <cmath>
+#include <stdexcept>
+#include <variant>
 
+#include "app/NCAppController.h"
 #include "app/NCDocument.h"
 #include "foundation/FileStore.h"
-#include "qt/DocumentFile.h"
+#include "foundation/UserDefaults.h"
+#include "framework/DocumentController.h"
 #include "qt/QtSurface.h"
 #include "qt/Text.h"
 
@@ -28,14 +32,58 @@ namespace {
 constexpr double kPointsPerInch = 72.0;
 constexpr double kPngScale = 2.0;
 
-/// A document whose pages go into files. There the disc around the examination on show would read as a finding.
-class DocumentOnPaper final : public app::NCDocument {
+constexpr std::int64_t kBPDPage = 1;
+
+/// There is nobody to ask.
+class NoAlerts final : public framework::Alerts {
  public:
-  using NCDocument::NCDocument;
-  bool shouldShowGraphHilite() const override { return false; }
+  framework::AlertReturn runModal(const framework::Alert&) override {
+    return framework::AlertReturn::alternate;
+  }
+  void beginSheet(const framework::Alert&, std::function<void(framework::AlertReturn)>) override {}
+  std::size_t chooseOne(const std::string&, const std::string&,
+                        const std::vector<std::string>& buttons) override {
+    return buttons.size() - 1;
+  }
+  void tell(const std::string&, const std::string&) override {}
+};
+class NoPanels final : public framework::FilePanels {
+ public:
+  std::vector<std::string> chooseFilesToOpen() override { return {}; }
+  std::optional<std::string> chooseFileToSave(const std::string&) override { return std::nullopt; }
+};
+
+/// The user's preferences, which painting pages does not change.
+class ReadOnlyDefaults final : public foundation::UserDefaults {
+ public:
+  explicit ReadOnlyDefaults(foundation::UserDefaults& defaults) : defaults_(defaults) {}
+  std::optional<std::string> value(std::string_view key) const override { return defaults_.value(key); }
+  void setValue(std::string_view, std::string) override {}
+  void registerDefault(std::string_view key, std::string value) override {
+    defaults_.registerDefault(key, std::move(value));
+  }
+
+ private:
+  foundation::UserDefaults& defaults_;
 };
 
 QString said(const char* sentence) { return QCoreApplication::translate("PageFiles", sentence); }
+
+/// Reads a document file. Returns why that failed, in one sentence that names the file.
+std::optional<QString> loadDocument(app::NCDocument& document, const QString& path,
+                                    const foundation::FileStore& files) {
+  const auto failure = [&](const std::string& reason) {
+    return said("%1 could not be opened: %2.").arg(path, fromUtf8(reason));
+  };
+  const auto read = files.contents(QFile::encodeName(path).toStdString());
+  if (const auto* error = std::get_if<foundation::FileError>(&read)) return failure(error->reason);
+  try {
+    document.loadDataRepresentation(std::get<std::vector<std::byte>>(read), {});
+  } catch (const std::runtime_error& error) {
+    return failure(error.what());
+  }
+  return std::nullopt;
+}
 
 /// `name`, or where that is taken the first of "name (2)", "name (3)", ... that is not.
 QString untaken(const QString& name, QSet<QString>& taken) {
@@ -93,7 +141,19 @@ QString fileNameFrom(const QString& stem) {
 }
 
 WrittenPages writePages(const QString& folder, const QStringList& files,
-                        const foundation::Services& services) {
+                        const foundation::Services& userServices) {
+  ReadOnlyDefaults defaults(userServices.defaults);
+  const foundation::Services services{.clock = userServices.clock,
+                                      .calendar = userServices.calendar,
+                                      .localizer = userServices.localizer,
+                                      .defaults = defaults,
+                                      .files = userServices.files,
+                                      .log = userServices.log,
+                                      .notifications = userServices.notifications};
+  NoAlerts alerts;
+  NoPanels panels;
+  framework::DocumentController controller(services, alerts, panels);
+  app::NCAppController(services, controller).awakeFromNib();
   WrittenPages result;
   if (!QDir().mkpath(folder)) {
     result.sentences << said("The folder %1 could not be made.").arg(folder);
@@ -101,7 +161,8 @@ WrittenPages writePages(const QString& folder, const QStringList& files,
   }
   QSet<QString> taken;
   for (const QString& file : files) {
-    DocumentOnPaper document(services);
+    app::NCDocument document({.services = services, .alerts = alerts, .controller = controller});
+    document.setOnPaper(true);
     if (const auto sentence = loadDocument(document, file, services.files)) {
       result.sentences << *sentence;
       continue;
@@ -111,7 +172,7 @@ WrittenPages writePages(const QString& folder, const QStringList& files,
       continue;
     }
     document.windowControllerDidLoadNib();
-    Page& page = document.bpdPage();
+    Page& page = document.tabView().page(kBPDPage);
     const QString name = untaken(
         fileNameFrom(QFileInfo(file).completeBaseName()) + QStringLiteral(" - ") + fromUtf8(page.name()),
         taken);

@@ -8,7 +8,7 @@ namespace nascor::qt {
 
 using framework::Page;
 
-PageView::PageView(Page& page, QWidget* parent) : QWidget(parent), page_(page) {
+PageView::PageView(Page& page, QWidget* parent) : QWidget(parent), page_(&page) {
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 }
 
@@ -21,7 +21,7 @@ QSize PageView::minimumSizeHint() const { return sizeHint() * 0.6; }
 void PageView::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.fillRect(rect(), Qt::white);
-  paintPage(painter, page_, paper());
+  if (page_) paintPage(painter, *page_, paper());
 }
 
 }  // namespace nascor::qt

@@ -9,8 +9,11 @@ namespace nascor::qt {
 /// Shows a page on white, as large as fits, whatever the colours of the desktop.
 class PageView final : public QWidget {
  public:
-  /// `page` outlives the view's last painting.
+  /// `page` outlives the view, or `release` is called before it goes.
   explicit PageView(framework::Page& page, QWidget* parent = nullptr);
+
+  /// Shows blank paper from now on.
+  void release() { page_ = nullptr; }
 
   /// Where the page lies in the widget.
   QRectF paper() const;
@@ -21,7 +24,7 @@ class PageView final : public QWidget {
   void paintEvent(QPaintEvent* event) override;
 
  private:
-  framework::Page& page_;
+  framework::Page* page_;
 };
 
 }  // namespace nascor::qt

@@ -1,17 +1,14 @@
 #include "qt/Platform.h"
 
+#include <QFile>
+#include <QStandardPaths>
+
 namespace nascor::qt {
 
-void registerDefaults(foundation::UserDefaults& defaults) {
-  namespace key = foundation::defaults_key;
-  defaults.registerDefault(key::dataFileExtension, "nascor");
-  defaults.registerDefault(key::showAll, "YES");
-  defaults.registerDefault(key::standard, "0");
-  defaults.registerDefault(key::estimatedFetalWeightStandard, "0");
-  defaults.registerDefault(key::crlStandard, "0");
-}
-
-Platform::Platform(const QLocale& locale) : localizer_(locale) { registerDefaults(defaults_); }
+Platform::Platform(const QLocale& locale)
+    : localizer_(locale),
+      files_(QFile::encodeName(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation))
+                 .toStdString()) {}
 
 foundation::Services Platform::services() {
   return {.clock = clock_,

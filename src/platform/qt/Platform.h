@@ -13,9 +13,6 @@
 
 namespace nascor::qt {
 
-/// Registers the program's five preferences. Before any document: a new patient takes the standards from them.
-void registerDefaults(foundation::UserDefaults& defaults);
-
 /// The application's answers to what documents ask of the platform. Outlives all documents.
 class Platform {
  public:

@@ -26,4 +26,8 @@ char QtLocalizer::decimalSign() const {
   return sign.size() == 1 && sign[0].unicode() < 0x80 ? sign[0].toLatin1() : '.';
 }
 
+std::string QtLocalizer::upperCased(std::string_view text) const {
+  return toUtf8(locale_.toUpper(fromUtf8(text)));
+}
+
 }  // namespace nascor::qt

@@ -15,6 +15,7 @@ class QtLocalizer final : public foundation::Localizer {
   foundation::ShortDateForm shortDateForm() const override;
   /// A point where the locale's own sign is no single byte.
   char decimalSign() const override;
+  std::string upperCased(std::string_view text) const override;
 
  private:
   QLocale locale_;

@@ -1,12 +1,14 @@
 #include <QCommandLineParser>
 #include <QLocale>
+#include <QSessionManager>
 #include <algorithm>
 #include <cstdio>
 #include <span>
 #include <string_view>
 
 #include "qt/Application.h"
-#include "qt/DocumentWindows.h"
+#include "qt/ApplicationService.h"
+#include "qt/DocumentApplication.h"
 #include "qt/PageFiles.h"
 #include "qt/Platform.h"
 
@@ -83,11 +85,27 @@ int nascorMain(int argc, char** argv) {
     return written.sentences.isEmpty() ? kAllWell : kFailed;
   }
 
-  DocumentWindows windows(platform.services());
+  ApplicationService service;
+  DocumentApplication documents(platform.services());
+  service.onOpen = [&](const QStringList& paths) { documents.openFiles(paths); };
+  service.onNew = [&] { documents.newDocument(); };
+  service.onActivate = [&] { documents.activate(); };
+  if (service.start(files) == ApplicationService::Start::handedOver) return kAllWell;
+
+  Application::setQuitOnLastWindowClosed(false);  // a window that another document takes over is not the end
+  QObject::connect(&application, &QGuiApplication::commitDataRequest, &application,
+                   [&](QSessionManager& session) {
+                     if (session.allowsInteraction() && !documents.quit()) session.cancel();
+                   });
+  documents.onLastDocumentClosed = [] {
+    QMetaObject::invokeMethod(
+        qApp, [] { Application::exit(kAllWell); }, Qt::QueuedConnection);
+  };
   if (files.isEmpty()) {
-    windows.openUntitled();
-  } else if (windows.open(files) == 0) {
-    return kFailed;
+    documents.newDocument();
+  } else {
+    documents.openFiles(files);
+    if (documents.documents().documents().empty()) return kFailed;
   }
   return Application::exec();
 }

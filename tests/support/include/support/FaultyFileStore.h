@@ -36,6 +36,24 @@ class FaultyFileStore final : public foundation::FileStore {
     return std::nullopt;
   }
 
+  std::vector<foundation::FileEntry> entries(const std::string& folder) const override {
+    std::vector<foundation::FileEntry> found;
+    for (const auto& [path, bytes] : files) {
+      const std::size_t slash = path.rfind('/');
+      if (slash == std::string::npos || path.substr(0, slash) != folder) continue;
+      const auto modified = modificationDates.find(path);
+      found.push_back(
+          {.path = path,
+           .name = path.substr(slash + 1),
+           .size = static_cast<std::int64_t>(bytes.size()),
+           .modified = modified == modificationDates.end() ? foundation::Date{} : modified->second});
+    }
+    return found;
+  }
+  std::string documentsFolder() const override { return "/documents"; }
+  std::string resolvedPath(const std::string& path) const override { return path; }
+  std::map<std::string, foundation::Date, std::less<>> modificationDates;
+
   int writes() const { return writes_; }  ///< how often `replaceContents` was called
   int reads() const { return reads_; }    ///< how often `contents` was called
 

@@ -18,6 +18,7 @@ class MarkedLocalizer final : public foundation::Localizer {
     return {.pattern = "d.M.yyyy", .monthNames = {}};
   }
   char decimalSign() const override { return ','; }
+  std::string upperCased(std::string_view text) const override { return std::string(text); }
 };
 
 }  // namespace nascor::tests

@@ -1,0 +1,113 @@
+// Examinations and fetuses: adding, removing, putting in order, choosing.
+
+#include <algorithm>
+
+#include "app/NCDocument.h"
+#include "calc/Dating.h"
+#include "calc/EditingBounds.h"
+#include "foundation/Localizer.h"
+#include "model/FetusLabels.h"
+
+namespace nascor::app {
+
+namespace string_table = foundation::string_table;
+
+void NCDocument::addExamination() {
+  if (!patientRecord_) return;
+  // A damaged file may name a number of fetuses that no memory holds.
+  constexpr std::int64_t kMostRecords = 1000;
+  const std::int64_t fetuses = std::min(patientRecord_->numberOfFetuses(), kMostRecords);
+  patientRecord_->addNCRecordWithNumberOfFetuses(fetuses, services().clock);
+  setCurrentExam(numberOfExaminations() - 1);
+}
+
+void NCDocument::deleteCurrentExamination() {
+  if (patientRecord_) patientRecord_->deleteNCRecordWithIndex(static_cast<std::uint64_t>(currentExam()));
+}
+
+void NCDocument::setCurrentRecordFromRecord(const model::NCRecord* record) {
+  if (!patientRecord_) return;
+  const auto& examinations = patientRecord_->ncRecordsArray();
+  const auto place = std::ranges::find(examinations, record, &std::unique_ptr<model::NCRecord>::get);
+  setCurrentExam(place != examinations.end() ? place - examinations.begin()
+                                             : std::clamp<std::int64_t>(currentExam(), 0, lastExam()));
+}
+
+void NCDocument::setCurrentRecordFromClick(double weeks) {
+  if (!patientRecord_ || !patientRecord_->edd()) return;
+  std::vector<std::optional<foundation::Date>> dates;
+  for (const auto& record : patientRecord_->ncRecordsArray()) dates.push_back(record->examDate());
+  const auto target = calc::dateAtAge(*patientRecord_->edd(), weeks, services().calendar);
+  const auto nearest = static_cast<std::int64_t>(calc::nearestDate(target, dates));
+  synchronizeToData();
+  setCurrentExam(nearest);
+  synchronizeFromData();
+}
+
+void NCDocument::updateArrayOrder() {
+  if (!patientRecord_) return;
+  const model::NCRecord* onShow = examination(currentExam());
+  synchronizeToData();
+  std::ranges::stable_sort(patientRecord_->ncRecordsArray(),
+                           [](const auto& one, const auto& other) { return one->compare(*other) < 0; });
+  setCurrentRecordFromRecord(onShow);
+  synchronizeFromData();
+}
+
+void NCDocument::chooseFetus(const framework::PopUpButton& popUp) {
+  const std::int64_t selected = popUp.indexOfSelectedItem();
+  if (selected < 0) return;
+  synchronizeToData();
+  setCurrentFetus(selected);
+  synchronizeFromData();
+  bpdField_.selectText();
+}
+
+void NCDocument::addFetus(Sender) {
+  if (!patientRecord_ || patientRecord_->numberOfFetuses() >= calc::kMostFetuses) return;
+  patientRecord_->addFetus();
+  updateChangeCount(ChangeType::changeDone);
+  updateMultiplePopUp();
+  if (multiplePopUp_.numberOfItems() > 0)
+    multiplePopUp_.selectItemAtIndex(multiplePopUp_.numberOfItems() - 1);
+  chooseFetus(multiplePopUp_);
+}
+
+void NCDocument::deleteFetus(Sender) {
+  if (!patientRecord_ || patientRecord_->numberOfFetuses() <= calc::kFewestFetuses) return;
+  const foundation::Localizer& localizer = services().localizer;
+  environment().alerts.beginSheet(
+      {.message = localizer.text(string_table::ncDocument, "Are you sure you want to remove this fetus?"),
+       .information = "",
+       .defaultButton = localizer.text(string_table::corvelDocument, "Remove"),
+       .alternateButton = localizer.text(string_table::zuVersion, "Cancel")},
+      [this](framework::AlertReturn returnCode) { deleteFetusAlertDidEnd(returnCode); });
+}
+
+void NCDocument::deleteFetusAlertDidEnd(framework::AlertReturn returnCode) {
+  if (returnCode != framework::AlertReturn::defaultButton || !patientRecord_) return;
+  updateChangeCount(ChangeType::changeDone);
+  patientRecord_->deleteFetus(currentFetus_);
+  // The fields go on showing the removed fetus, and no pop-up item is chosen anew. What they show belongs to nobody.
+  measurementFieldsAreStale_ = true;
+  for (const calc::Measurement measurement : calc::kMeasurements) fieldFor(measurement).forgetEdits();
+  updateMultiplePopUp();
+  constexpr int kPuffOfSmoke = 10;
+  const framework::Rect& frame = multiplePopUp_.frame();
+  multiplePopUp_.showAnimationEffect(kPuffOfSmoke, {.x = frame.x - 20.0, .y = frame.y + frame.height / 2.0});
+}
+
+void NCDocument::updateMultiplePopUp() {
+  const std::int64_t count = patientRecord_ ? patientRecord_->numberOfFetuses() : 0;
+  multiplePopUp_.removeAllItems();
+  const auto labels = model::fetusLabels(count);
+  for (std::size_t fetus = 0; fetus < labels.size(); ++fetus) {
+    multiplePopUp_.addItem({.title = services().localizer.text(string_table::ncDocument, labels[fetus]),
+                            .keyEquivalent = labels.size() > 1 ? std::to_string(fetus + 1) : std::string()});
+  }
+  if (currentFetus_ > count - 1) currentFetus_ = std::max<std::int64_t>(count - 1, 0);
+  tabView().setNeedsDisplay();
+  setHeader(0, preferredFileName(true));
+}
+
+}  // namespace nascor::app

@@ -1,0 +1,223 @@
+// The document's window: loading, fields to records and back, the rules of editing, the title.
+
+#include <algorithm>
+#include <cmath>
+
+#include "app/NCDocument.h"
+#include "calc/EditingBounds.h"
+#include "foundation/Calendar.h"
+#include "foundation/Localizer.h"
+#include "foundation/NumberText.h"
+#include "foundation/ShortDate.h"
+
+namespace nascor::app {
+
+using calc::Measurement;
+using foundation::Date;
+using framework::TextField;
+namespace string_table = foundation::string_table;
+
+void NCDocument::windowControllerDidLoadNib() {
+  if (!patientRecord_) {
+    patientRecord_ = std::make_unique<model::PatientRecord>(services().clock, services().defaults);
+    setLookUpRequired(true);
+  }
+  examDateWasTyped_ = false;
+  showAllSubscription_ =
+      services().notifications.subscribe(foundation::NotificationName::updateShowAll,
+                                         [this](const foundation::Notification&) { updateShowAll(); });
+
+  // A file holds the gestation in single precision. A whole number of days is shown as such, or every opening would plan
+  // the delivery a second early, which is the day before.
+  const double days = (patientRecord_->extrapolatedGestation() - 40.0) * 7.0;
+  const double whole = std::round(days);
+  const double shown = std::abs(days - whole) < 0.001 ? whole : days;
+  adjustDeliveryStepper_.setMinimum(std::min(adjustDeliveryStepper_.minimum(), std::floor(shown)));
+  adjustDeliveryStepper_.setMaximum(std::max(7.0, std::ceil(shown)));
+  adjustDeliveryStepper_.setValue(shown);
+
+  setCurrentExam(lastExam());
+  setCurrentFetus(0);
+  // A document that is read again has a fetus selected already.
+  if (multiplePopUp_.numberOfItems() > 0) multiplePopUp_.selectItemAtIndex(0);
+  updateMultiplePopUp();
+  synchronizeFromData();
+  services().notifications.post(foundation::NotificationName::updateStandards, this);
+  updateAdjustDeliveryStepperForNewStandard();
+  doSetCRLStandard(patientRecord_->crlStandard());
+}
+
+void NCDocument::windowWillClose() { showAllSubscription_.reset(); }
+
+void NCDocument::synchronizeFromData() {
+  if (!patientRecord_) return;
+  fieldEditor().revert();
+  referenceIDField().setText(patientRecord_->maternalIDString().value_or(""));
+  gravidaField_.setIntegerValue(patientRecord_->gravida());
+  birthDateField().setText(shortDateText(patientRecord_->edd()));
+  adjustDeliveryDate(this);
+
+  const model::NCRecord* exam = currentExamination();
+  examDateField().setText(exam ? shortDateText(exam->examDate()) : "");
+  const model::MeasurementsRecord* measured = currentMeasurements();
+  for (const Measurement measurement :
+       {Measurement::hc, Measurement::bpd, Measurement::ac, Measurement::fl}) {
+    if (measured) {
+      fieldFor(measurement).setDoubleValue(measured->biometry().*calc::memberFor(measurement));
+    } else {
+      fieldFor(measurement).clear();
+    }
+  }
+  measurementFieldsAreStale_ = false;
+  notesField().setText(exam ? exam->note().value_or("") : "");
+  updateDisplay();
+}
+
+void NCDocument::synchronizeToData() {
+  if (!patientRecord_) return;
+  patientRecord_->setMaternalIDString(referenceIDField().text());
+  patientRecord_->setGravida(gravidaField_.integerValue());
+  patientRecord_->setEDD(dateFromField(birthDateField(), patientRecord_->edd()));
+  notesField().forgetEdits();
+  model::NCRecord* exam = currentExamination();
+  if (!exam) return;
+  exam->setExamDate(dateFromField(examDateField(), exam->examDate()));
+  if (model::MeasurementsRecord* measured = currentMeasurements()) {
+    calc::Biometry lengths = measured->biometry();
+    for (const Measurement measurement : calc::kMeasurements) {
+      const framework::NumberField& field = fieldFor(measurement);
+      if (measurementFieldsAreStale_ && !field.wasEdited()) continue;
+      lengths.*calc::memberFor(measurement) = field.doubleValue();
+    }
+    *measured = model::MeasurementsRecord(lengths);
+  }
+  exam->setNote(notesField().text());
+}
+
+void NCDocument::updateDisplay() {
+  CorvelDocument::updateDisplay();
+  const std::string title = preferredFileName(true);
+  for (std::size_t page = 0; page < headers_.size(); ++page) setHeader(page, title);
+  ageField().setText(menstrualAgeStringForRecord(static_cast<std::uint64_t>(currentExam())));
+  tabView().setNeedsDisplay();
+}
+
+void NCDocument::setHeader(std::size_t page, const std::string& title) {
+  headers_.at(page)->setText(title);
+  pages_.at(page).setTitle(title);
+}
+
+void NCDocument::switchToGraph(std::int64_t tabIndex) { tabView().selectPage(tabIndex); }
+
+bool NCDocument::controlTextShouldBeginEditing(TextField& field) {
+  if (&field == &gravidaField_ && patientRecord_ && patientRecord_->gravida() != 0) {
+    return mayModify("Gravidity is already specified", "Are you sure you want to modify it?");
+  }
+  if (&field == &birthDateField() && patientRecord_ && patientRecord_->edd()) {
+    return mayModify("EDD is already specified", "Are you sure you want to modify the established EDD?");
+  }
+  return CorvelDocument::controlTextShouldBeginEditing(field);
+}
+
+bool NCDocument::controlTextShouldEndEditing(TextField& field, std::string_view text) {
+  if (&field == &gravidaField_) {
+    return foundation::integerFromFieldText(text).value_or(0) >= calc::kLeastGravida;
+  }
+  if (const auto measurement = measurementOf(field)) {
+    return calc::editingBounds(*measurement).permit(foundation::numberFromFieldText(text).value_or(0.0));
+  }
+  return true;
+}
+
+void NCDocument::controlTextDidEndEditing(TextField& field) {
+  setLookUpRequired(&field == &gravidaField_ && isBlank());
+  if (&field == &examDateField()) examDateWasTyped_ = true;
+  if (&field == &referenceIDField() && isBlank()) {
+    field.takeEditedText(services().localizer.upperCased(field.text()));
+  }
+  const std::string name = preferredFileName(false);
+  if (lookUpRequired() && !name.empty()) {
+    setDocIsBlank(false);
+    setLookUpRequired(false);
+    lookUp(name, true);
+    return;
+  }
+  updateArrayOrder();
+}
+
+std::string NCDocument::preferredFileName(bool withFetus) const {
+  std::string name = referenceIDForFileName();
+  if (name.empty()) return name;
+  name += " (G" + std::to_string(patientRecord_ ? patientRecord_->gravida() : 0) + ")";
+  if (withFetus && patientRecord_ && patientRecord_->numberOfFetuses() > 1) {
+    name += foundation::format(services().localizer, string_table::ncDocument, " %ld of %ld",
+                               {currentFetus_ + 1, patientRecord_->numberOfFetuses()});
+  }
+  return name;
+}
+
+std::string NCDocument::referenceIDForFileName() const {
+  std::string name = referenceIDField().text();
+  std::ranges::replace(name, '/', '-');
+  return name;
+}
+
+framework::NumberField& NCDocument::fieldFor(Measurement measurement) {
+  switch (measurement) {
+    case Measurement::bpd: return bpdField_;
+    case Measurement::hc: return hcField_;
+    case Measurement::ac: return acField_;
+    case Measurement::fl: break;
+  }
+  return flField_;
+}
+
+std::optional<Measurement> NCDocument::measurementOf(const TextField& field) {
+  for (const Measurement measurement : calc::kMeasurements) {
+    if (&field == &fieldFor(measurement)) return measurement;
+  }
+  return std::nullopt;
+}
+
+bool NCDocument::mayModify(std::string_view message, std::string_view information) {
+  const foundation::Localizer& localizer = services().localizer;
+  return environment().alerts.runModal(
+             {.message = localizer.text(string_table::ncDocument, message),
+              .information = localizer.text(string_table::ncDocument, information),
+              .defaultButton = localizer.text(string_table::corvelDocument, "Modify"),
+              .alternateButton = localizer.text(string_table::zuVersion, "Cancel")}) ==
+         framework::AlertReturn::defaultButton;
+}
+
+std::string NCDocument::shortDateText(const std::optional<Date>& date) const {
+  const auto day = date ? foundation::localDay(*date, services().calendar) : std::nullopt;
+  return day ? foundation::shortDateText(*day, services().localizer.shortDateForm()) : std::string();
+}
+
+std::optional<Date> NCDocument::dateFromField(const TextField& field, const std::optional<Date>& held) const {
+  // A date that has no text is shown as nothing; it stays until the user types in its field.
+  if (held && field.text().empty() && !field.wasEdited() && shortDateText(held).empty()) return held;
+  const auto day = foundation::civilDayFromShortText(field.text(), services().localizer.shortDateForm());
+  if (!day) return std::nullopt;
+  return foundation::startOfDay(*day, services().calendar);
+}
+
+bool NCDocument::currentExaminationHoldsData() const {
+  const model::NCRecord* exam = examination(currentExam());
+  if (!exam) return false;
+  if (!exam->note().value_or("").empty()) return true;
+  return std::ranges::any_of(exam->measurements(), [](const model::MeasurementsRecord& record) {
+    return std::ranges::any_of(calc::kMeasurements, [&](Measurement measurement) {
+      return record.biometry().*calc::memberFor(measurement) != 0.0;
+    });
+  });
+}
+
+bool NCDocument::holdsMoreThanIdentity() const {
+  if (!patientRecord_) return false;
+  // Every field was left before, and reached the records; the note may still wait in its view.
+  return currentExaminationHoldsData() || patientRecord_->edd() || numberOfExaminations() > 1 ||
+         patientRecord_->numberOfFetuses() > 1 || examDateWasTyped_ || notesField().wasEdited();
+}
+
+}  // namespace nascor::app

@@ -1,0 +1,143 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "framework/Geometry.h"
+#include "framework/Page.h"
+
+namespace nascor::framework {
+
+// The state of the simpler controls of a window. The document reads and writes them, views bind to `onChange`.
+
+/// A text of several lines, typed straight into.
+class TextView {
+ public:
+  explicit TextView(std::string name) : name_(std::move(name)) {}
+
+  const std::string& name() const { return name_; }
+  const std::string& text() const { return text_; }
+  void setText(std::string text) { show(std::move(text), false); }
+  /// The user has typed `text`.
+  void takeEditedText(std::string text) {
+    show(std::move(text), true);
+    if (onEdit) onEdit();
+  }
+  bool wasEdited() const { return wasEdited_; }
+  void forgetEdits() { wasEdited_ = false; }
+
+  std::function<void()> onChange;  ///< set by the view
+  std::function<void()> onEdit;    ///< set by the document
+
+ private:
+  void show(std::string text, bool wasEdited) {
+    text_ = std::move(text);
+    wasEdited_ = wasEdited;
+    if (onChange) onChange();
+  }
+  std::string name_;
+  std::string text_;
+  bool wasEdited_ = false;
+};
+
+class CheckBox {
+ public:
+  CheckBox(std::string name, bool isOn) : name_(std::move(name)), isOn_(isOn) {}
+
+  const std::string& name() const { return name_; }
+  bool isOn() const { return isOn_; }
+  void setOn(bool on) {
+    isOn_ = on;
+    if (onChange) onChange();
+  }
+  std::function<void()> onChange;
+
+ private:
+  std::string name_;
+  bool isOn_;
+};
+
+/// A number that is moved in steps between two limits. No change of its own tells anybody but its view.
+class Stepper {
+ public:
+  Stepper(double minimum, double maximum, double increment)
+      : minimum_(minimum), maximum_(maximum), increment_(increment) {}
+
+  double value() const { return value_; }
+  double minimum() const { return minimum_; }
+  double maximum() const { return maximum_; }
+  double increment() const { return increment_; }
+  /// Held within the limits; a value that is not a number stays one.
+  void setValue(double value);
+  void setMinimum(double minimum);
+  void setMaximum(double maximum);
+
+  std::function<void()> onChange;
+
+ private:
+  double minimum_;
+  double maximum_;
+  double increment_;
+  double value_ = 0.0;
+};
+
+/// A window beside the document's own: shown or not, and where.
+class Panel {
+ public:
+  explicit Panel(std::string name) : name_(std::move(name)) {}
+
+  const std::string& name() const { return name_; }
+  bool isShown() const { return isShown_; }
+  void center() const {
+    if (onCenter) onCenter();
+  }
+  /// Shows it in front of the others, ready for typing.
+  void makeKeyAndOrderFront();
+  void close();
+
+  std::function<void()> onCenter;
+  std::function<void()> onChange;  ///< sent whenever it is shown, brought to the front or closed
+
+ private:
+  std::string name_;
+  bool isShown_ = false;
+};
+
+/// The pages of a document window, one of which is on show.
+class TabView {
+ public:
+  void addPage(Page& page) { pages_.push_back(&page); }
+
+  std::int64_t numberOfPages() const { return static_cast<std::int64_t>(pages_.size()); }
+  /// Throws RangeError.
+  Page& page(std::int64_t index) const;
+  std::int64_t indexOfSelectedPage() const { return selected_; }
+  /// Throws RangeError.
+  void selectPage(std::int64_t index);
+
+  /// Asks for the page on show to be drawn anew.
+  void setNeedsDisplay();
+  /// How often that was asked.
+  std::int64_t timesDisplayAsked() const { return timesDisplayAsked_; }
+
+  std::function<void()> onSelect;
+  std::function<void()> onNeedsDisplay;
+
+ private:
+  std::vector<Page*> pages_;
+  std::int64_t selected_ = 0;
+  std::int64_t timesDisplayAsked_ = 0;
+};
+
+/// One item of the main menu.
+struct MenuItem {
+  std::string menuTitle;
+  std::string title;
+  std::int64_t tag = 0;
+  std::int64_t state = 0;  ///< 1 when it is ticked
+};
+
+}  // namespace nascor::framework

@@ -1,0 +1,181 @@
+#include "framework/DocumentController.h"
+
+#include <algorithm>
+#include <stdexcept>
+#include <variant>
+
+#include "foundation/Localizer.h"
+#include "foundation/UserDefaults.h"
+#include "framework/FileName.h"
+
+namespace nascor::framework {
+
+using foundation::FileError;
+namespace string_table = foundation::string_table;
+
+ZuDocument& DocumentController::newDocument() {
+  ZuDocument& document = add(factory_());
+  document.setDocIsBlank(true);
+  document.windowControllerDidLoadNib();
+  return document;
+}
+
+ZuDocument* DocumentController::openDocument(const std::string& path, std::string& error) {
+  if (ZuDocument* open = documentOfFile(path)) {
+    setCurrentDocument(*open);
+    return open;
+  }
+  const auto contents = services_.files.contents(path);
+  if (const auto* unreadable = std::get_if<FileError>(&contents)) {
+    error = path + ": " + unreadable->reason;
+    return nullptr;
+  }
+  auto document = factory_();
+  try {
+    document->loadDataRepresentation(std::get<std::vector<std::byte>>(contents), "");
+  } catch (const std::runtime_error& malformed) {
+    error = path + ": " + malformed.what();
+    return nullptr;
+  }
+  const bool holdsContents = document->holdsContents();
+  if (holdsContents) document->setFilePath(path);
+  ZuDocument& added = add(std::move(document));
+  added.setDocIsBlank(!holdsContents);
+  added.windowControllerDidLoadNib();
+  return &added;
+}
+
+void DocumentController::openDocuments() {
+  for (const std::string& path : panels_.chooseFilesToOpen()) {
+    std::string error;
+    if (!openDocument(path, error)) {
+      alerts_.tell(services_.localizer.text(string_table::corvelDocument, "The document cannot be opened."),
+                   error);
+    }
+  }
+}
+
+bool DocumentController::saveDocument(ZuDocument& document) {
+  if (!document.filePath()) return saveDocumentAs(document);
+  return document.commitEditing() && isOpen(document) && write(document, *document.filePath());
+}
+
+bool DocumentController::saveDocumentAs(ZuDocument& document) {
+  if (!document.commitEditing() || !isOpen(document)) return false;
+  const auto path = panels_.chooseFileToSave(suggestedFileName(document));
+  return path && write(document, *path);
+}
+
+bool DocumentController::write(ZuDocument& document, const std::string& path) {
+  const ZuDocument* holder = documentOfFile(path);
+  // Two windows on one file would overwrite each other's patient.
+  const auto error =
+      holder && holder != &document
+          ? FileError{services_.localizer.text(string_table::corvelDocument, "It is open in another window.")}
+          : document.writeToFile(path);
+  if (!error) return true;
+  alerts_.tell(services_.localizer.text(string_table::corvelDocument, "The document was not saved."),
+               path + ": " + error->reason);
+  return false;
+}
+
+bool DocumentController::closeDocument(ZuDocument& document) {
+  // What a field accepts is saved or discarded with the rest; what it refuses goes with the window.
+  static_cast<void>(document.commitEditing());
+  // Committing a gravidity may have put another document into this one's place.
+  if (!isOpen(document)) return true;
+  if (document.isDocumentEdited()) {
+    const auto text = [&](std::string_view table, std::string_view key) {
+      return services_.localizer.text(table, key);
+    };
+    const std::size_t answer = alerts_.chooseOne(
+        text(string_table::corvelDocument, "Do you want to save the changes of this document?"),
+        document.displayName(),
+        {text(string_table::corvelDocument, "Save"), text(string_table::corvelDocument, "Discard"),
+         text(string_table::zuVersion, "Cancel")});
+    enum : std::size_t { kSave = 0, kDiscard = 1 };
+    if (answer == kSave) {
+      const auto path =
+          document.filePath() ? document.filePath() : panels_.chooseFileToSave(suggestedFileName(document));
+      if (!path || !write(document, *path)) return false;
+    } else if (answer != kDiscard) {
+      return false;
+    }
+  }
+  remove(document);
+  return true;
+}
+
+bool DocumentController::closeAllDocuments() {
+  while (ZuDocument* front = currentDocument()) {
+    if (!closeDocument(*front)) return false;
+  }
+  return true;
+}
+
+bool DocumentController::replaceDocument(ZuDocument& document, const std::string& path) {
+  std::string error;
+  if (!openDocument(path, error)) {
+    alerts_.tell(services_.localizer.text(string_table::corvelDocument, "The document cannot be opened."),
+                 error);
+    return false;
+  }
+  remove(document);
+  return true;
+}
+
+ZuDocument* DocumentController::currentDocument() const {
+  return documents_.empty() ? nullptr : documents_.back().get();
+}
+
+void DocumentController::setCurrentDocument(ZuDocument& document) {
+  const auto place = std::ranges::find(documents_, &document, &std::unique_ptr<ZuDocument>::get);
+  if (place == documents_.end()) return;
+  std::rotate(place, place + 1, documents_.end());
+  if (onDocumentInFront) onDocumentInFront(document);
+}
+
+std::vector<ZuDocument*> DocumentController::documents() const {
+  std::vector<ZuDocument*> open;
+  for (const auto& document : documents_) open.push_back(document.get());
+  return open;
+}
+
+ZuDocument& DocumentController::add(std::unique_ptr<ZuDocument> document) {
+  ZuDocument& added = *documents_.emplace_back(std::move(document));
+  if (onDocumentAdded) onDocumentAdded(added);
+  return added;
+}
+
+void DocumentController::remove(ZuDocument& document) {
+  const auto place = std::ranges::find(documents_, &document, &std::unique_ptr<ZuDocument>::get);
+  if (place == documents_.end()) return;
+  document.windowWillClose();
+  closed_.push_back(std::move(*place));
+  documents_.erase(place);
+  if (onDocumentRemoved) onDocumentRemoved(document);
+  if (ZuDocument* front = currentDocument(); front && onDocumentInFront) onDocumentInFront(*front);
+}
+
+bool DocumentController::isOpen(const ZuDocument& document) const {
+  return std::ranges::find(documents_, &document, &std::unique_ptr<ZuDocument>::get) != documents_.end();
+}
+
+ZuDocument* DocumentController::documentOfFile(const std::string& path) const {
+  const std::string wanted = services_.files.resolvedPath(path);
+  for (const auto& document : documents_) {
+    if (document->filePath() && services_.files.resolvedPath(*document->filePath()) == wanted) {
+      return document.get();
+    }
+  }
+  return nullptr;
+}
+
+std::string DocumentController::suggestedFileName(const ZuDocument& document) const {
+  if (document.filePath()) return document.displayName();
+  const std::string name = document.suggestedFileName();
+  return fileName(name.empty() ? document.displayName() : name,
+                  services_.defaults.value(foundation::defaults_key::dataFileExtension).value_or("nascor"));
+}
+
+}  // namespace nascor::framework

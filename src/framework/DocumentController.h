@@ -1,0 +1,84 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "foundation/Services.h"
+#include "framework/Alerts.h"
+#include "framework/FilePanels.h"
+#include "framework/ZuDocument.h"
+
+namespace nascor::framework {
+
+/// The open documents, and which of them is in front.
+class DocumentController {
+ public:
+  using Factory = std::function<std::unique_ptr<ZuDocument>()>;
+
+  DocumentController(const foundation::Services& services, Alerts& alerts, FilePanels& panels)
+      : services_(services), alerts_(alerts), panels_(panels) {}
+
+  /// What makes an empty document. Set once, before any other call.
+  void setFactory(Factory factory) { factory_ = std::move(factory); }
+
+  // Selector: newDocument:
+  /// A new untitled document, in front.
+  ZuDocument& newDocument();
+  /// The document of the file at `path`, in front: the one that is open already, or a new one. A file that says that it
+  /// holds nothing opens as an untitled blank document, so that saving never overwrites it. Null, and the reason in
+  /// `error` (which names the file), when the file cannot be read.
+  ZuDocument* openDocument(const std::string& path, std::string& error);
+  /// Opens the files that the user chooses and says which of them cannot be read.
+  void openDocuments();
+
+  /// Saves to the document's file, or where the user says when it has none. False when a field refuses its text, the user
+  /// cancels, the document was replaced by one that the user looked up, or the file cannot be written: it is open in another
+  /// window, or the system refuses (which the user is told).
+  bool saveDocument(ZuDocument& document);
+  bool saveDocumentAs(ZuDocument& document);
+  /// Asks whether to save when the document was edited, then closes it. False when the user cancels or saving fails. A
+  /// text that its field refuses is dropped with the window; a cancelled close keeps it in edit.
+  bool closeDocument(ZuDocument& document);
+  /// Closes all documents, the one in front first, until one is not closed. True when none is left.
+  bool closeAllDocuments();
+  /// Puts the document at `path` into the place of `document`, which is closed without a question. False, and the user is
+  /// told, when the file cannot be read.
+  bool replaceDocument(ZuDocument& document, const std::string& path);
+
+  /// The document in front; null for none.
+  ZuDocument* currentDocument() const;
+  void setCurrentDocument(ZuDocument& document);
+  /// The open documents, the one in front last.
+  std::vector<ZuDocument*> documents() const;
+
+  /// Ends the life of the documents that were closed. They wait for this call, because a document may be closed in the
+  /// middle of an action of its own; whoever runs the actions sends it between two of them.
+  void releaseClosedDocuments() { closed_.clear(); }
+
+  /// Sent when a document has got its place among the open ones, before its window is loaded: the window layer makes its
+  /// window. May be empty, as may the other two.
+  std::function<void(ZuDocument&)> onDocumentAdded;
+  std::function<void(ZuDocument&)> onDocumentInFront;
+  /// Sent when a document is no longer among the open ones.
+  std::function<void(ZuDocument&)> onDocumentRemoved;
+
+ private:
+  ZuDocument& add(std::unique_ptr<ZuDocument> document);
+  void remove(ZuDocument& document);
+  bool write(ZuDocument& document, const std::string& path);
+  bool isOpen(const ZuDocument& document) const;
+  ZuDocument* documentOfFile(const std::string& path) const;
+  std::string suggestedFileName(const ZuDocument& document) const;
+
+  foundation::Services services_;
+  Alerts& alerts_;
+  FilePanels& panels_;
+  Factory factory_;
+  std::vector<std::unique_ptr<ZuDocument>> documents_;
+  std::vector<std::unique_ptr<ZuDocument>> closed_;
+};
+
+}  // namespace nascor::framework

@@ -1,0 +1,57 @@
+#include "framework/FieldEditor.h"
+
+#include <utility>
+
+namespace nascor::framework {
+
+bool FieldEditor::begin(TextField& field) {
+  if (field_ == &field) return true;
+  if (!end()) return false;
+  TextFieldDelegate* delegate = field.delegate();
+  if (delegate && !delegate->controlTextShouldBeginEditing(field)) return false;
+  field_ = &field;
+  text_ = field.text();
+  isRefusing_ = false;
+  if (delegate) delegate->controlTextDidBeginEditing(field);
+  changed();
+  return true;
+}
+
+void FieldEditor::replace(std::string text) {
+  if (!field_) return;
+  text_ = std::move(text);
+  isRefusing_ = false;
+  changed();
+}
+
+bool FieldEditor::end() {
+  if (!field_ || isEnding_) return true;
+  TextField& field = *field_;
+  TextFieldDelegate* delegate = field.delegate();
+  isRefusing_ = !field.accepts(text_) || (delegate && !delegate->controlTextShouldEndEditing(field, text_));
+  if (isRefusing_) {
+    changed();
+    return false;
+  }
+  field_ = nullptr;
+  field.takeEditedText(std::exchange(text_, {}));
+  // What the delegate does now may ask the user, and leave the window's fields meanwhile.
+  isEnding_ = true;
+  struct Ended {
+    bool& flag;
+    ~Ended() { flag = false; }
+  } const ended{isEnding_};
+  if (delegate) delegate->controlTextDidEndEditing(field);
+  changed();
+  return true;
+}
+
+void FieldEditor::revert() {
+  if (!field_) return;
+  field_ = nullptr;
+  text_.clear();
+  isRefusing_ = false;
+  changed();
+}
+
+}  // namespace nascor::framework

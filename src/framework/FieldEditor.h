@@ -1,0 +1,59 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+
+#include "framework/TextField.h"
+
+namespace nascor::framework {
+
+/// Rules for editing fields, kept by their document.
+class TextFieldDelegate {
+ public:
+  virtual ~TextFieldDelegate() = default;
+  // Selector: control:textShouldBeginEditing:
+  /// Whether the user may begin to change `field`. May ask the user.
+  virtual bool controlTextShouldBeginEditing(TextField& field) = 0;
+  /// The user has begun to change `field`.
+  virtual void controlTextDidBeginEditing(TextField& field) = 0;
+  // Selector: control:textShouldEndEditing:
+  /// Whether `field` may be left with `text`, which it accepts.
+  virtual bool controlTextShouldEndEditing(TextField& field, std::string_view text) = 0;
+  /// The user has left `field`, which holds the new text.
+  virtual void controlTextDidEndEditing(TextField& field) = 0;
+};
+
+/// Edits the fields of one window, one at a time. A visit without a change does not come here.
+class FieldEditor {
+ public:
+  /// Begins to change `field`: asks its delegate. The field in edit before is ended first. False when that one refuses
+  /// or the delegate declines. A field that is in edit already stays so and is not asked again.
+  bool begin(TextField& field);
+  /// Changes the edited text only. Does nothing when no field is in edit.
+  void replace(std::string text);
+  /// Ends editing: when field and delegate agree the field takes the text and the delegate is told. False, and the field
+  /// stays in edit, when they refuse. True when no field is in edit.
+  bool end();
+  /// Drops the edited text and ends editing without asking; the field shows what it held.
+  void revert();
+
+  /// The field in edit; null for none.
+  const TextField* field() const { return field_; }
+  const std::string& text() const { return text_; }
+  /// Whether the field in edit has refused its text and not been changed since.
+  bool isRefusing() const { return isRefusing_; }
+
+  std::function<void()> onChange;  ///< set by the view; may be empty
+
+ private:
+  void changed() const {
+    if (onChange) onChange();
+  }
+  TextField* field_ = nullptr;
+  std::string text_;
+  bool isRefusing_ = false;
+  bool isEnding_ = false;
+};
+
+}  // namespace nascor::framework

@@ -1,0 +1,95 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "foundation/FileStore.h"
+#include "foundation/Services.h"
+
+namespace nascor::framework {
+
+/// A document: its file, its name, whether it was edited, whether it holds anything yet.
+class ZuDocument {
+ public:
+  enum class ChangeType { changeDone = 0, changeUndone = 1, changeCleared = 2 };
+
+  explicit ZuDocument(const foundation::Services& services) : services_(services) {}
+  virtual ~ZuDocument() = default;
+  ZuDocument(const ZuDocument&) = delete;
+  ZuDocument& operator=(const ZuDocument&) = delete;
+
+  /// @name What a subclass provides
+  /// @{
+
+  // Selector: dataRepresentationOfType:
+  /// The contents of the document's file.
+  virtual std::vector<std::byte> dataRepresentationOfType(std::string_view type) const = 0;
+  // Selector: loadDataRepresentation:ofType:
+  /// Takes the contents of a file. Throws std::runtime_error, whose text is a sentence for the user, when they are not
+  /// those of a document, and then changes nothing.
+  virtual bool loadDataRepresentation(std::span<const std::byte> data, std::string_view type) = 0;
+  /// Whether a load has given the document anything: a file may say that it holds nothing.
+  virtual bool holdsContents() const = 0;
+  // Selector: windowControllerDidLoadNib:
+  /// The document's window is there and empty: fill it.
+  virtual void windowControllerDidLoadNib() = 0;
+  /// The window is about to go.
+  virtual void windowWillClose() = 0;
+  /// The user's pending edits go to the model. False when a field refuses its text: then nothing else may be done.
+  virtual bool commitEditing() = 0;
+  /// A file name for a new document, without extension; may be empty.
+  virtual std::string suggestedFileName() const = 0;
+
+  /// @}
+  /// @name File and name
+  /// @{
+
+  /// Nothing for a document that was never saved.
+  const std::optional<std::string>& filePath() const { return filePath_; }
+  void setFilePath(std::optional<std::string> path);
+  /// The file's name, or "Untitled".
+  std::string displayName() const;
+
+  /// Writes the model as it stands to `path`, whole or not at all. On success that is the document's file from now on, it
+  /// is not edited any more, and not blank. On failure nothing changes.
+  std::optional<foundation::FileError> writeToFile(const std::string& path);
+  /// Reads the document's file again; all edits are lost. A file that now says that it holds nothing leaves an untitled
+  /// blank document. On failure nothing changes.
+  std::optional<foundation::FileError> revertToSaved();
+
+  /// @}
+  /// @name State
+  /// @{
+
+  // Selector: updateChangeCount:
+  void updateChangeCount(ChangeType change);
+  bool isDocumentEdited() const { return changeCount_ != 0; }
+  /// Whether the document holds no patient yet: new, and nobody identified.
+  bool isBlank() const { return docIsBlank_; }
+  void setDocIsBlank(bool blank) { docIsBlank_ = blank; }
+
+  /// Sent when name or edited state may have changed; set by the window layer.
+  std::function<void()> onStateChanged;
+
+  /// @}
+
+ protected:
+  const foundation::Services& services() const { return services_; }
+
+ private:
+  void stateChanged() const {
+    if (onStateChanged) onStateChanged();
+  }
+  foundation::Services services_;
+  std::optional<std::string> filePath_;
+  std::int64_t changeCount_ = 0;
+  bool docIsBlank_ = false;
+};
+
+}  // namespace nascor::framework

@@ -1,0 +1,150 @@
+#include "qt/DocumentApplication.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QMetaObject>
+
+#include "foundation/Localizer.h"
+#include "qt/Text.h"
+
+namespace nascor::qt {
+
+using framework::ZuDocument;
+
+DocumentApplication::DocumentApplication(const foundation::Services& services)
+    : services_(services),
+      alerts_(actions_),
+      panels_(services),
+      documents_(services, alerts_, panels_),
+      controller_(services, documents_),
+      recentFiles_(services.defaults) {
+  alerts_.frontWindow = [this] { return frontWindow(); };
+  panels_.frontWindow = [this] { return frontWindow(); };
+  documents_.setFactory([this] {
+    return std::make_unique<app::NCDocument>(
+        framework::DocumentEnvironment{.services = services_, .alerts = alerts_, .controller = documents_});
+  });
+  documents_.onDocumentAdded = [this](ZuDocument& document) { addWindow(document); };
+  documents_.onDocumentInFront = [this](ZuDocument& document) { bringToFront(document); };
+  documents_.onDocumentRemoved = [this](ZuDocument& document) { removeWindow(document); };
+  // Between two actions: in the middle of one a document may be gone that is still at work.
+  actions_.onIdle = [this] {
+    QMetaObject::invokeMethod(
+        &context_,
+        [this] {
+          if (!actions_.isRunning()) documents_.releaseClosedDocuments();
+        },
+        Qt::QueuedConnection);
+  };
+  controller_.awakeFromNib();
+}
+
+DocumentApplication::~DocumentApplication() {
+  documents_.onDocumentAdded = nullptr;
+  documents_.onDocumentInFront = nullptr;
+  documents_.onDocumentRemoved = nullptr;
+  for (const auto& [document, window] : windows_) {
+    window->release();
+    delete window;
+  }
+}
+
+DocumentWindow* DocumentApplication::windowOf(const ZuDocument& document) const {
+  const auto found = windows_.find(&document);
+  return found == windows_.end() ? nullptr : found->second;
+}
+
+void DocumentApplication::newDocument() {
+  actions_.performInTurn([this] { documents_.newDocument(); });
+}
+
+void DocumentApplication::openFiles(const QStringList& paths) {
+  actions_.performInTurn([this, paths] { openNow(paths); });
+}
+
+void DocumentApplication::chooseFilesToOpen() {
+  actions_.perform([this] {
+    QStringList paths;
+    for (const std::string& path : panels_.chooseFilesToOpen())
+      paths << QFile::decodeName(QByteArray::fromStdString(path));
+    openNow(paths);
+  });
+}
+
+void DocumentApplication::openNow(const QStringList& paths) {
+  QStringList sentences;
+  for (const QString& path : paths) {
+    std::string error;
+    if (documents_.openDocument(QFile::encodeName(path).toStdString(), error)) continue;
+    recentFiles_.forget(path);
+    sentences << fromUtf8(error);
+  }
+  if (sentences.isEmpty()) return;
+  const char* message =
+      sentences.size() == 1 ? "The document cannot be opened." : "These documents cannot be opened.";
+  alerts_.tell(services_.localizer.text(foundation::string_table::corvelDocument, message),
+               toUtf8(sentences.join(QStringLiteral("\n\n"))));
+}
+
+void DocumentApplication::activate() {
+  actions_.performInTurn([this] {
+    if (ZuDocument* front = documents_.currentDocument()) {
+      bringToFront(*front);
+    } else {
+      documents_.newDocument();
+    }
+  });
+}
+
+bool DocumentApplication::quit() {
+  for (const auto& [document, window] : windows_) {
+    if (!hasSheet(*window)) continue;
+    // What was asked there wants its answer first.
+    window->activateWindow();
+    window->raise();
+    return false;
+  }
+  bool areClosed = false;
+  actions_.perform([&] { areClosed = documents_.closeAllDocuments(); });
+  return areClosed;
+}
+
+void DocumentApplication::addWindow(ZuDocument& document) {
+  auto* window = new DocumentWindow(dynamic_cast<app::NCDocument&>(document),
+                                    {.services = services_,
+                                     .documents = documents_,
+                                     .application = controller_,
+                                     .actions = actions_,
+                                     .recentFiles = recentFiles_,
+                                     .openFiles = [this](const QStringList& paths) { openFiles(paths); },
+                                     .chooseFilesToOpen = [this] { chooseFilesToOpen(); },
+                                     .quit = [this] { quit(); }});
+  windows_.emplace(&document, window);
+  window->show();
+  window->raise();
+  window->activateWindow();
+}
+
+void DocumentApplication::removeWindow(ZuDocument& document) {
+  const auto found = windows_.find(&document);
+  if (found == windows_.end()) return;
+  found->second->release();
+  windows_.erase(found);
+  if (windows_.empty() && onLastDocumentClosed) onLastDocumentClosed();
+}
+
+void DocumentApplication::bringToFront(ZuDocument& document) {
+  DocumentWindow* window = windowOf(document);
+  if (!window || window->isActiveWindow()) return;
+  if (window->isMinimized()) window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
+  window->show();
+  window->raise();
+  window->activateWindow();
+}
+
+QWidget* DocumentApplication::frontWindow() const {
+  const ZuDocument* front = documents_.currentDocument();
+  return front ? windowOf(*front) : nullptr;
+}
+
+}  // namespace nascor::qt

@@ -1,0 +1,65 @@
+#pragma once
+
+#include <QStringList>
+#include <functional>
+#include <map>
+
+#include "app/NCAppController.h"
+#include "foundation/Services.h"
+#include "framework/DocumentController.h"
+#include "qt/Actions.h"
+#include "qt/DocumentWindow.h"
+#include "qt/QtAlerts.h"
+#include "qt/QtFilePanels.h"
+#include "qt/RecentFiles.h"
+
+namespace nascor::qt {
+
+/// The application around the documents: makes a window for each, and asks its questions in front of them.
+class DocumentApplication {
+ public:
+  /// Registers the preferences. `services` outlives it.
+  explicit DocumentApplication(const foundation::Services& services);
+  DocumentApplication(const DocumentApplication&) = delete;
+  DocumentApplication& operator=(const DocumentApplication&) = delete;
+  /// Takes the windows along, without a question.
+  ~DocumentApplication();
+
+  framework::DocumentController& documents() { return documents_; }
+  app::NCAppController& controller() { return controller_; }
+  RecentFiles& recentFiles() { return recentFiles_; }
+  /// Null for a document that is closed.
+  DocumentWindow* windowOf(const framework::ZuDocument& document) const;
+
+  void newDocument();
+  /// Opens each file, or brings its window to the front, and then tells of all that could not be read. As soon as no
+  /// other action is in progress.
+  void openFiles(const QStringList& paths);
+  /// Asks for files and opens them.
+  void chooseFilesToOpen();
+  /// Brings the window in front to where the user sees it; a new document where there is none.
+  void activate();
+  /// Closes all documents, each with its question. False when the user keeps one.
+  bool quit();
+
+  std::function<void()> onLastDocumentClosed;  ///< may be empty
+
+ private:
+  void openNow(const QStringList& paths);
+  void addWindow(framework::ZuDocument& document);
+  void removeWindow(framework::ZuDocument& document);
+  void bringToFront(framework::ZuDocument& document);
+  QWidget* frontWindow() const;
+
+  foundation::Services services_;
+  Actions actions_;
+  QtAlerts alerts_;
+  QtFilePanels panels_;
+  framework::DocumentController documents_;
+  app::NCAppController controller_;
+  RecentFiles recentFiles_;
+  std::map<const framework::ZuDocument*, DocumentWindow*> windows_;
+  QObject context_;  ///< what is queued ends with it
+};
+
+}  // namespace nascor::qt

@@ -1,0 +1,112 @@
+#include "qt/FieldBinding.h"
+
+#include <QMetaObject>
+
+#include "qt/Text.h"
+
+namespace nascor::qt {
+namespace {
+
+void show(QLineEdit& edit, const QString& text) {
+  if (edit.text() == text) return;
+  edit.setText(text);
+  edit.setCursorPosition(0);
+}
+
+QPalette withTextColor(const QLineEdit& edit, bool isRed) {
+  QPalette palette = edit.palette();
+  if (isRed) {
+    palette.setColor(QPalette::Text, refusalColor(palette));
+  } else {
+    palette.setColor(QPalette::Text, palette.color(QPalette::WindowText));
+  }
+  return palette;
+}
+
+}  // namespace
+
+FieldBinding::FieldBinding(FieldEdit& edit, framework::TextField& field, framework::FieldEditor& editor,
+                           Actions& actions)
+    : QObject(&edit), edit_(edit), field_(&field), editor_(editor), actions_(actions) {
+  field.onChange = [this] { refresh(); };
+  field.onSelectText = [this] {
+    edit_.setFocus();
+    edit_.selectAll();
+  };
+  connect(&edit, &QLineEdit::textEdited, this, [this](const QString& text) { typed(text); });
+  connect(&edit, &QLineEdit::returnPressed, this, [this] { leave(); });
+  // Not at once: the next widget is to have the focus before the user is asked anything.
+  edit.onLeave = [this] {
+    QMetaObject::invokeMethod(
+        this, [this] { leave(); }, Qt::QueuedConnection);
+  };
+  edit.onEscape = [this] { return escape(); };
+  refresh();
+}
+
+void FieldBinding::release() {
+  if (!field_) return;
+  field_->onChange = nullptr;
+  field_->onSelectText = nullptr;
+  field_ = nullptr;
+}
+
+void FieldBinding::refresh() {
+  if (!field_ || isBeginning_) return;
+  show(edit_, fromUtf8(isInEdit() ? editor_.text() : field_->text()));
+  edit_.setRefusing(isInEdit() && editor_.isRefusing());
+  if (field_->isRed() != edit_.property("isRed").toBool()) {
+    edit_.setProperty("isRed", field_->isRed());
+    edit_.setPalette(withTextColor(edit_, field_->isRed()));
+  }
+}
+
+void FieldBinding::typed(const QString& text) {
+  if (!field_) return;
+  if (isInEdit()) {
+    editor_.replace(toUtf8(text));
+    return;
+  }
+  // Beginning may end another field, which shows everything anew, and may ask. What was typed stays meanwhile, with what
+  // can be undone of it.
+  const QPointer<FieldBinding> self = this;
+  bool began = false;
+  isBeginning_ = true;
+  actions_.perform([&] { began = editor_.begin(*field_); });
+  if (!self) return;
+  isBeginning_ = false;
+  if (!field_) return;
+  if (began) {
+    editor_.replace(toUtf8(text));
+  } else {
+    refresh();
+    edit_.selectAll();
+  }
+}
+
+void FieldBinding::leave() {
+  if (!isInEdit()) return;
+  actions_.performInTurn([self = QPointer<FieldBinding>(this)] {
+    if (!self || !self->isInEdit() || self->editor_.end()) return;
+    // Refused: the user stays where the mistake is.
+    self->edit_.setFocus();
+  });
+}
+
+bool FieldBinding::escape() {
+  if (!isInEdit()) return false;
+  editor_.revert();
+  refresh();
+  edit_.selectAll();
+  return true;
+}
+
+void bindReadOnly(QLineEdit& edit, framework::TextField& field) {
+  QPalette palette = edit.palette();
+  palette.setBrush(QPalette::Base, Qt::transparent);
+  edit.setPalette(palette);
+  field.onChange = [&edit, &field] { show(edit, fromUtf8(field.text())); };
+  field.onChange();
+}
+
+}  // namespace nascor::qt

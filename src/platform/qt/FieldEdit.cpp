@@ -1,0 +1,72 @@
+#include "qt/FieldEdit.h"
+
+#include <QDragEnterEvent>
+#include <QFocusEvent>
+#include <QKeyEvent>
+#include <QMimeData>
+#include <QPainter>
+
+namespace nascor::qt {
+
+QColor refusalColor(const QPalette& palette) {
+  const bool isDark = palette.color(QPalette::Base).lightness() < 128;
+  return isDark ? QColor(0xff, 0x8a, 0x80) : QColor(0xb7, 0x1c, 0x1c);
+}
+
+void FieldEdit::setRefusing(bool refusing) {
+  if (isRefusing_ == refusing) return;
+  isRefusing_ = refusing;
+  update();
+}
+
+QSize FieldEdit::minimumSizeHint() const {
+  const QSize least = QLineEdit::minimumSizeHint();
+  const int room = fontMetrics().horizontalAdvance(QStringLiteral("30 Mmm 2027"));
+  return {least.width() + room, least.height()};
+}
+
+void FieldEdit::focusOutEvent(QFocusEvent* event) {
+  QLineEdit::focusOutEvent(event);
+  switch (event->reason()) {
+    // The focus comes back by itself: whoever looks at another window has not left the field.
+    case Qt::PopupFocusReason:
+    case Qt::ActiveWindowFocusReason:
+    case Qt::MenuBarFocusReason: return;
+    default: break;
+  }
+  if (onLeave) onLeave();
+}
+
+bool FieldEdit::event(QEvent* event) {
+  // While the field is in edit Escape is its own, whatever shortcut it may be elsewhere.
+  if (event->type() == QEvent::ShortcutOverride && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape)
+    event->accept();
+  return QLineEdit::event(event);
+}
+
+void FieldEdit::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Escape && onEscape && onEscape()) {
+    event->accept();
+    return;
+  }
+  QLineEdit::keyPressEvent(event);
+}
+
+void FieldEdit::dragEnterEvent(QDragEnterEvent* event) {
+  if (event->mimeData()->hasUrls()) {
+    event->ignore();
+    return;
+  }
+  QLineEdit::dragEnterEvent(event);
+}
+
+void FieldEdit::paintEvent(QPaintEvent* event) {
+  QLineEdit::paintEvent(event);
+  if (!isRefusing_) return;
+  constexpr qreal kWidth = 2.0;
+  QPainter painter(this);
+  painter.setPen(QPen(refusalColor(palette()), kWidth));
+  painter.drawRect(QRectF(rect()).adjusted(kWidth / 2, kWidth / 2, -kWidth / 2, -kWidth / 2));
+}
+
+}  // namespace nascor::qt

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QLineEdit>
+#include <functional>
+
+namespace nascor::qt {
+
+/// A line to type in that can be outlined while it refuses what was typed. Files that are dropped on it go to its window.
+class FieldEdit final : public QLineEdit {
+ public:
+  using QLineEdit::QLineEdit;
+
+  /// Outlines the field, or not.
+  void setRefusing(bool refusing);
+  bool isRefusing() const { return isRefusing_; }
+  /// Room for a date at least.
+  QSize minimumSizeHint() const override;
+
+  std::function<void()>
+      onLeave;  ///< the focus went to another widget of the window, not to a menu or another window
+  std::function<bool()> onEscape;  ///< the user pressed Escape; true when that did something
+
+ protected:
+  void focusOutEvent(QFocusEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+  bool event(QEvent* event) override;
+
+ private:
+  bool isRefusing_ = false;
+};
+
+/// The colour of the outline on this palette: at least 3:1 against the field and the window.
+QColor refusalColor(const QPalette& palette);
+
+}  // namespace nascor::qt

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QString>
+
+#include "foundation/ShortDate.h"
+
+namespace nascor::qt {
+
+/// What the text of a date field is read as, with its month in words: "4 March 2027". Empty for a text that is no date.
+QString longDateText(const QString& text, const foundation::ShortDateForm& form);
+/// The longest such text, to leave room for.
+QString longestDateText();
+
+}  // namespace nascor::qt

@@ -1,0 +1,98 @@
+#include "qt/QtAlerts.h"
+
+#include <QCoreApplication>
+#include <QMessageBox>
+#include <QPushButton>
+
+#include "qt/Text.h"
+
+namespace nascor::qt {
+
+using framework::Alert;
+using framework::AlertReturn;
+
+namespace {
+
+const QString kSheetName = QStringLiteral("sheet");
+
+void setUp(QMessageBox& box, const std::string& message, const std::string& information) {
+  box.setWindowTitle(QCoreApplication::applicationName());
+  box.setTextFormat(Qt::PlainText);
+  box.setText(fromUtf8(message));
+  box.setInformativeText(fromUtf8(information));
+}
+
+/// An ampersand in a text is no mnemonic.
+QString buttonText(const std::string& text) { return fromUtf8(text).replace(u'&', QStringLiteral("&&")); }
+
+void setUp(QMessageBox& box, const Alert& alert) {
+  setUp(box, alert.message, alert.information);
+  box.setIcon(QMessageBox::Question);
+  box.setDefaultButton(box.addButton(buttonText(alert.defaultButton), QMessageBox::AcceptRole));
+  box.setEscapeButton(box.addButton(buttonText(alert.alternateButton), QMessageBox::RejectRole));
+}
+
+AlertReturn answerOf(const QMessageBox& box) {
+  return box.clickedButton() && box.buttonRole(box.clickedButton()) == QMessageBox::AcceptRole
+             ? AlertReturn::defaultButton
+             : AlertReturn::alternate;
+}
+
+}  // namespace
+
+AlertReturn QtAlerts::runModal(const Alert& alert) {
+  QMessageBox box(parent());
+  setUp(box, alert);
+  box.exec();
+  return answerOf(box);
+}
+
+void QtAlerts::beginSheet(const Alert& alert, std::function<void(AlertReturn)> didEnd) {
+  auto* box = new QMessageBox(parent());
+  box->setObjectName(kSheetName);
+  box->setAttribute(Qt::WA_DeleteOnClose);
+  setUp(*box, alert);
+  // Without the window the box goes unanswered, and so does the question.
+  QObject::connect(box, &QDialog::finished, box, [this, box, didEnd = std::move(didEnd)] {
+    actions_.performInTurn([didEnd, answer = answerOf(*box)] { didEnd(answer); });
+  });
+  box->open();
+}
+
+std::size_t QtAlerts::chooseOne(const std::string& message, const std::string& information,
+                                const std::vector<std::string>& buttons) {
+  QMessageBox box(parent());
+  setUp(box, message, information);
+  box.setIcon(QMessageBox::Question);
+  std::vector<QPushButton*> added;
+  for (std::size_t i = 0; i < buttons.size(); ++i) {
+    const bool isFirst = i == 0;
+    const bool isLast = i + 1 == buttons.size();
+    added.push_back(box.addButton(buttonText(buttons[i]), isFirst  ? QMessageBox::AcceptRole
+                                                          : isLast ? QMessageBox::RejectRole
+                                                                   : QMessageBox::DestructiveRole));
+  }
+  if (added.empty()) return 0;
+  box.setDefaultButton(added.front());
+  box.setEscapeButton(added.back());
+  box.exec();
+  for (std::size_t i = 0; i < added.size(); ++i) {
+    if (box.clickedButton() == added[i]) return i;
+  }
+  return added.size() - 1;
+}
+
+void QtAlerts::tell(const std::string& message, const std::string& information) {
+  QMessageBox box(parent());
+  setUp(box, message, information);
+  box.setIcon(QMessageBox::Warning);
+  box.addButton(QMessageBox::Ok);
+  box.exec();
+}
+
+bool hasSheet(const QWidget& window) {
+  const auto* box = window.findChild<QMessageBox*>(kSheetName, Qt::FindDirectChildrenOnly);
+  return box && box->isVisible();
+}
+
+}  // namespace nascor::qt

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QWidget>
+#include <functional>
+
+#include "framework/Alerts.h"
+#include "qt/Actions.h"
+
+namespace nascor::qt {
+
+/// Asks in message boxes. Their texts are shown as they are, without markup.
+class QtAlerts final : public framework::Alerts {
+ public:
+  /// The answer of a sheet is acted on through `actions`, in its turn.
+  explicit QtAlerts(Actions& actions) : actions_(actions) {}
+
+  framework::AlertReturn runModal(const framework::Alert& alert) override;
+  void beginSheet(const framework::Alert& alert, std::function<void(framework::AlertReturn)> didEnd) override;
+  std::size_t chooseOne(const std::string& message, const std::string& information,
+                        const std::vector<std::string>& buttons) override;
+  void tell(const std::string& message, const std::string& information) override;
+
+  /// The window in front; set by whoever makes windows. May return null.
+  std::function<QWidget*()> frontWindow;
+
+ private:
+  QWidget* parent() const { return frontWindow ? frontWindow() : nullptr; }
+  Actions& actions_;
+};
+
+/// Whether a sheet is open on `window`.
+bool hasSheet(const QWidget& window);
+
+}  // namespace nascor::qt

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QString>
+#include <QWidget>
+#include <functional>
+
+#include "foundation/Services.h"
+#include "framework/FilePanels.h"
+
+namespace nascor::qt {
+
+/// The toolkit's file dialogs. They begin in the folder that was chosen last, at first in that of the user's documents.
+class QtFilePanels final : public framework::FilePanels {
+ public:
+  explicit QtFilePanels(const foundation::Services& services) : services_(services) {}
+
+  std::vector<std::string> chooseFilesToOpen() override;
+  /// Under a name that is safe for a file, with the documents' extension unless the user types another.
+  std::optional<std::string> chooseFileToSave(const std::string& suggestedName) override;
+
+  std::function<QWidget*()> frontWindow;  ///< set by whoever makes windows; may return null
+
+ private:
+  QWidget* parent() const { return frontWindow ? frontWindow() : nullptr; }
+  QString extension() const;
+  QString folder() const;
+  QString filters() const;
+
+  foundation::Services services_;
+  QString lastFolder_;
+};
+
+}  // namespace nascor::qt

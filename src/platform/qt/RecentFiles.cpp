@@ -1,0 +1,46 @@
+#include "qt/RecentFiles.h"
+
+#include <QFileInfo>
+#include <QUrl>
+
+#include "qt/Text.h"
+
+namespace nascor::qt {
+namespace {
+
+constexpr std::string_view kKey = "Recent Files";
+
+}  // namespace
+
+QStringList RecentFiles::paths() const {
+  QStringList paths;
+  // As URLs, which hold neither blanks nor line ends whatever a file is called.
+  for (const QString& url : fromUtf8(defaults_.value(kKey).value_or("")).split(u' ', Qt::SkipEmptyParts)) {
+    const QString path = QUrl(url, QUrl::StrictMode).toLocalFile();
+    if (!path.isEmpty()) paths << path;
+  }
+  return paths;
+}
+
+void RecentFiles::note(const QString& path) {
+  const QString absolute = QFileInfo(path).absoluteFilePath();
+  QStringList all = paths();
+  all.removeAll(absolute);
+  all.prepend(absolute);
+  keep(all.mid(0, kMost));
+}
+
+void RecentFiles::forget(const QString& path) {
+  QStringList all = paths();
+  if (all.removeAll(QFileInfo(path).absoluteFilePath()) > 0) keep(all);
+}
+
+void RecentFiles::clear() { keep({}); }
+
+void RecentFiles::keep(const QStringList& all) {
+  QStringList urls;
+  for (const QString& path : all) urls << QString::fromLatin1(QUrl::fromLocalFile(path).toEncoded());
+  defaults_.setValue(kKey, toUtf8(urls.join(u' ')));
+}
+
+}  // namespace nascor::qt

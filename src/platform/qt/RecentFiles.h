@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include "foundation/UserDefaults.h"
+
+namespace nascor::qt {
+
+/// The documents that were opened or saved last, the latest first, kept among the preferences. Their names tell of
+/// patients, so the user can forget them.
+class RecentFiles {
+ public:
+  static constexpr qsizetype kMost = 10;
+
+  explicit RecentFiles(foundation::UserDefaults& defaults) : defaults_(defaults) {}
+
+  QStringList paths() const;
+  void note(const QString& path);
+  void forget(const QString& path);
+  void clear();
+
+ private:
+  void keep(const QStringList& paths);
+  foundation::UserDefaults& defaults_;
+};
+
+}  // namespace nascor::qt

@@ -1,0 +1,614 @@
+#include "drive/Driver.h"
+
+#include <stdlib.h>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <functional>
+#include <stdexcept>
+
+#include "foundation/ConvertInteger.h"
+#include "foundation/IsoDate.h"
+#include "foundation/JsonText.h"
+#include "foundation/UserDefaults.h"
+#include "model/PatientJson.h"
+
+namespace nascor::drive {
+namespace {
+
+using app::NCDocument;
+using foundation::NotificationName;
+
+/// A line that cannot be done; the text says why.
+struct CannotBeDone : std::runtime_error {
+  using std::runtime_error::runtime_error;
+};
+
+[[noreturn]] void refuse(const std::string& sentence) { throw CannotBeDone(sentence); }
+
+std::string textArgument(const Json& json, std::string_view wanted) {
+  if (!json.is_string()) refuse("expected " + std::string(wanted));
+  return json.get<std::string>();
+}
+
+std::int64_t integerArgument(const Json& json, std::string_view wanted) {
+  if (!json.is_number_integer()) refuse("expected " + std::string(wanted));
+  return json.get<std::int64_t>();
+}
+
+double numberArgument(const Json& json, std::string_view wanted) {
+  if (json.is_string()) {
+    const auto text = json.get<std::string>();
+    if (text == "nan") return std::nan("");
+    if (text == "inf") return HUGE_VAL;
+    if (text == "-inf") return -HUGE_VAL;
+  }
+  if (!json.is_number()) refuse("expected " + std::string(wanted));
+  return json.get<double>();
+}
+
+bool boolArgument(const Json& json, std::string_view wanted) {
+  if (!json.is_boolean()) refuse("expected " + std::string(wanted));
+  return json.get<bool>();
+}
+
+std::filesystem::path makeScratchFolder() {
+  std::string name = (std::filesystem::temp_directory_path() / "nascor-drive-XXXXXX").string();
+  if (!::mkdtemp(name.data())) throw std::runtime_error("no scratch folder can be made");
+  return std::filesystem::canonical(name);
+}
+
+void setZone(const std::string& name) {
+  ::setenv("TZ", name.c_str(), 1);
+  ::tzset();
+}
+
+framework::TextField& fieldNamed(NCDocument& document, const std::string& name) {
+  for (framework::TextField* field : document.textFields()) {
+    if (field->name() == name) return *field;
+  }
+  refuse("there is no field \"" + name + "\"");
+}
+
+Json lengths(const model::MeasurementsRecord* record) {
+  if (!record) return nullptr;
+  return {{"bpd", record->bpd()}, {"hc", record->hc()}, {"ac", record->ac()}, {"fl", record->fl()}};
+}
+
+/// The arguments of an operation, taken one after the other.
+class Arguments {
+ public:
+  explicit Arguments(const Json& call) : call_(call) {}
+  std::int64_t integer() { return integerArgument(next(), "a whole number"); }
+  std::uint64_t index() { return static_cast<std::uint64_t>(integer()); }
+  double number() { return numberArgument(next(), "a number"); }
+  bool truth() { return boolArgument(next(), "true or false"); }
+  std::string text() { return textArgument(next(), "a text"); }
+  bool truthOr(bool missing) { return at_ < call_.size() ? truth() : missing; }
+
+ private:
+  const Json& next() {
+    if (at_ >= call_.size()) refuse("an argument is missing");
+    return call_[at_++];
+  }
+  const Json& call_;
+  std::size_t at_ = 1;
+};
+
+using Operation = std::function<Json(NCDocument&, Arguments&)>;
+
+template <class Action>
+Operation act(Action action) {
+  return [action](NCDocument& document, Arguments& arguments) -> Json {
+    action(document, arguments);
+    return nullptr;
+  };
+}
+
+const std::map<std::string, Operation, std::less<>>& operations() {
+  static const std::map<std::string, Operation, std::less<>> table{
+      // Records
+      {"lastExam", [](NCDocument& d, Arguments&) { return Json(d.lastExam()); }},
+      {"currentExam", [](NCDocument& d, Arguments&) { return Json(d.currentExam()); }},
+      {"currentFetus", [](NCDocument& d, Arguments&) { return Json(d.currentFetus()); }},
+      {"numberOfExaminations", [](NCDocument& d, Arguments&) { return Json(d.numberOfExaminations()); }},
+      {"measurementsForFetus",
+       [](NCDocument& d, Arguments& a) {
+         const auto fetus = a.integer();
+         return lengths(d.measurementsForFetus(fetus, a.integer()));
+       }},
+      {"measurementsForCurrentFetus",
+       [](NCDocument& d, Arguments& a) { return lengths(d.measurementsForCurrentFetus(a.integer())); }},
+      {"lastMeasurementsRecordForCurrentFetus",
+       [](NCDocument& d, Arguments&) { return lengths(d.lastMeasurementsRecordForCurrentFetus()); }},
+      {"extrapolatedMeasurements",
+       [](NCDocument& d, Arguments&) { return lengths(&d.extrapolatedMeasurements()); }},
+      // Dating
+      {"menstrualAgeForRecord",
+       [](NCDocument& d, Arguments& a) { return Json(d.menstrualAgeForRecord(a.index())); }},
+      {"menstrualAgeStringForRecord",
+       [](NCDocument& d, Arguments& a) { return Json(d.menstrualAgeStringForRecord(a.index())); }},
+      {"menstrualAgeStringForGestation",
+       [](NCDocument& d, Arguments& a) { return Json(d.menstrualAgeStringForGestation(a.number())); }},
+      {"menstrualAgeFromCRLHadlock",
+       [](NCDocument& d, Arguments& a) { return Json(d.menstrualAgeFromCRLHadlock(a.number())); }},
+      {"menstrualAgeFromCRLNelson",
+       [](NCDocument& d, Arguments& a) { return Json(d.menstrualAgeFromCRLNelson(a.number())); }},
+      {"menstrualAgeFromCRLRobinson",
+       [](NCDocument& d, Arguments& a) { return Json(d.menstrualAgeFromCRLRobinson(a.number())); }},
+      {"menstrualAgeFromCRLWesterway",
+       [](NCDocument& d, Arguments& a) { return Json(d.menstrualAgeFromCRLWesterway(a.number())); }},
+      {"adjustDeliveryDate", act([](NCDocument& d, Arguments&) { d.adjustDeliveryDate(&d); })},
+      {"updateAdjustDeliveryStepperForNewStandard",
+       act([](NCDocument& d, Arguments&) { d.updateAdjustDeliveryStepperForNewStandard(); })},
+      {"doAdjustDeliveryDate", act([](NCDocument& d, Arguments&) { d.doAdjustDeliveryDate(&d); })},
+      // Projection
+      {"extrapolatedBPDForCurrentFetus",
+       [](NCDocument& d, Arguments&) { return Json(d.extrapolatedBPDForCurrentFetus()); }},
+      {"extrapolatedHCForCurrentFetus",
+       [](NCDocument& d, Arguments&) { return Json(d.extrapolatedHCForCurrentFetus()); }},
+      {"extrapolatedACForCurrentFetus",
+       [](NCDocument& d, Arguments&) { return Json(d.extrapolatedACForCurrentFetus()); }},
+      {"extrapolatedFLForCurrentFetus",
+       [](NCDocument& d, Arguments&) { return Json(d.extrapolatedFLForCurrentFetus()); }},
+      // The window
+      {"windowControllerDidLoadNib", act([](NCDocument& d, Arguments&) { d.windowControllerDidLoadNib(); })},
+      {"windowWillClose", act([](NCDocument& d, Arguments&) { d.windowWillClose(); })},
+      {"synchronizeFromData", act([](NCDocument& d, Arguments&) { d.synchronizeFromData(); })},
+      {"synchronizeToData", act([](NCDocument& d, Arguments&) { d.synchronizeToData(); })},
+      {"updateDisplay", act([](NCDocument& d, Arguments&) { d.updateDisplay(); })},
+      {"directUpdateDisplayAndSetDirty",
+       act([](NCDocument& d, Arguments& a) { d.directUpdateDisplayAndSetDirty(a.truthOr(true)); })},
+      {"switchToGraph", act([](NCDocument& d, Arguments& a) { d.switchToGraph(a.integer()); })},
+      {"isBlank", [](NCDocument& d, Arguments&) { return Json(d.isBlank()); }},
+      {"lookUp", act([](NCDocument& d, Arguments& a) {
+         const std::string name = a.text();
+         d.lookUp(name, a.truthOr(true));
+       })},
+      {"preferredFileName", [](NCDocument& d, Arguments& a) { return Json(d.preferredFileName(a.truth())); }},
+      // Examinations and fetuses
+      {"addExamination", act([](NCDocument& d, Arguments&) { d.addExamination(); })},
+      {"deleteCurrentExamination", act([](NCDocument& d, Arguments&) { d.deleteCurrentExamination(); })},
+      {"setCurrentRecordFromClick",
+       act([](NCDocument& d, Arguments& a) { d.setCurrentRecordFromClick(a.number()); })},
+      {"updateArrayOrder", act([](NCDocument& d, Arguments&) { d.updateArrayOrder(); })},
+      {"chooseFetus", act([](NCDocument& d, Arguments&) { d.chooseFetus(d.multiplePopUp()); })},
+      {"addFetus", act([](NCDocument& d, Arguments&) { d.addFetus(&d); })},
+      {"deleteFetusAlertDidEnd", act([](NCDocument& d, Arguments& a) {
+         d.deleteFetusAlertDidEnd(static_cast<framework::AlertReturn>(a.integer()));
+       })},
+      {"deleteFetus", act([](NCDocument& d, Arguments&) { d.deleteFetus(&d); })},
+      {"updateMultiplePopUp", act([](NCDocument& d, Arguments&) { d.updateMultiplePopUp(); })},
+      {"updateShowAll", act([](NCDocument& d, Arguments&) { d.updateShowAll(); })},
+      {"addExaminationAction", act([](NCDocument& d, Arguments&) { d.addExaminationAction(); })},
+      {"deleteExaminationAction", act([](NCDocument& d, Arguments&) { d.deleteExaminationAction(); })},
+      {"nextExamination", act([](NCDocument& d, Arguments&) { d.nextExamination(); })},
+      {"previousExamination", act([](NCDocument& d, Arguments&) { d.previousExamination(); })},
+      // Standards
+      {"standard", [](NCDocument& d, Arguments&) { return Json(d.standard()); }},
+      {"fetalWeightStandard", [](NCDocument& d, Arguments&) { return Json(d.fetalWeightStandard()); }},
+      {"doSetStandard", act([](NCDocument& d, Arguments& a) { d.doSetStandard(a.integer()); })},
+      {"doSetEFWStandard", act([](NCDocument& d, Arguments& a) { d.doSetEFWStandard(a.integer()); })},
+      {"doSetCRLStandard", act([](NCDocument& d, Arguments& a) { d.doSetCRLStandard(a.integer()); })},
+  };
+  return table;
+}
+
+void write(foundation::JsonText& out, const Json& json) {
+  switch (json.type()) {
+    case Json::value_t::object:
+      out.beginObject();
+      for (const auto& [key, value] : json.items()) {
+        out.key(key);
+        write(out, value);
+      }
+      out.endObject();
+      break;
+    case Json::value_t::array:
+      out.beginArray();
+      for (const Json& element : json) write(out, element);
+      out.endArray();
+      break;
+    case Json::value_t::string: out.text(json.get_ref<const std::string&>()); break;
+    case Json::value_t::boolean: out.boolean(json.get<bool>()); break;
+    case Json::value_t::number_integer:
+    case Json::value_t::number_unsigned: out.integer(json.get<std::int64_t>()); break;
+    case Json::value_t::number_float: out.number(json.get<double>()); break;
+    default: out.null(); break;
+  }
+}
+
+}  // namespace
+
+std::string textOf(const Json& json) {
+  std::string text;
+  foundation::JsonText out(text);
+  write(out, json);
+  return text;
+}
+
+Driver::Driver()
+    : startFolder_(std::filesystem::current_path()),
+      scratchFolder_(makeScratchFolder()),
+      startZone_(::getenv("TZ") ? std::optional<std::string>(::getenv("TZ")) : std::nullopt),
+      clock_({816948000.0}),  // 2026-11-21 10:00 UTC
+      calendar_((setZone("UTC"), std::make_unique<posix::PosixCalendar>())),
+      files_(scratchFolder_.string(), clock_),
+      panels_(scratchFolder_.string()),
+      services_{.clock = clock_,
+                .calendar = *calendar_,
+                .localizer = localizer_,
+                .defaults = defaults_,
+                .files = files_,
+                .log = log_,
+                .notifications = notifications_},
+      documents_(services_, alerts_, panels_),
+      application_(services_, documents_) {
+  std::filesystem::current_path(scratchFolder_);
+  recordPosts();
+  documents_.setFactory([this] {
+    auto document = std::make_unique<NCDocument>(
+        framework::DocumentEnvironment{.services = services_, .alerts = alerts_, .controller = documents_});
+    document->multiplePopUp().onAnimationEffect = [this](int effect, framework::Point at) {
+      effects_.push_back({effect, at.x, at.y});
+    };
+    return document;
+  });
+  documents_.onDocumentAdded = [this](framework::ZuDocument& added) {
+    numbers_.emplace(&added, nextNumber_++);
+  };
+  documents_.onDocumentRemoved = [this](framework::ZuDocument& removed) { numbers_.erase(&removed); };
+  application_.awakeFromNib();
+}
+
+Driver::~Driver() {
+  std::error_code ignored;
+  std::filesystem::current_path(startFolder_, ignored);
+  std::filesystem::remove_all(scratchFolder_, ignored);
+  if (startZone_) {
+    setZone(*startZone_);
+  } else {
+    ::unsetenv("TZ");
+    ::tzset();
+  }
+}
+
+void Driver::recordPosts() {
+  // The first observer of each name, so that a post stands here before anybody acts on it.
+  for (const NotificationName name :
+       {NotificationName::updateStandards, NotificationName::updateStandardsForEFW,
+        NotificationName::updateShowAll}) {
+    postSubscriptions_.push_back(
+        notifications_.subscribe(name, [this](const foundation::Notification& notification) {
+          posted_.push_back(
+              {std::string(notification.name.text()),
+               notification.sender ? Json(std::string(notification.sender->className())) : Json()});
+        }));
+  }
+}
+
+std::string Driver::answer(std::string_view line) {
+  Json result;
+  try {
+    const Json request = Json::parse(line);
+    if (!request.is_object() || request.size() != 1) refuse("expected one JSON object with one key");
+    const auto member = request.begin();
+    result = perform(member.key(), member.value());
+  } catch (const Json::exception& error) {
+    result = {{"error", error.what()}};
+  } catch (const std::exception& error) {
+    result = {{"error", error.what()}};
+  }
+  documents_.releaseClosedDocuments();
+  return textOf(result);
+}
+
+Json Driver::perform(const std::string& key, const Json& argument) {
+  static const std::map<std::string, Json (Driver::*)(const Json&), std::less<>> lines{
+      {"open", &Driver::openDocument}, {"use", &Driver::use},
+      {"save", &Driver::save},         {"close", &Driver::close},
+      {"edit", &Driver::edit},         {"visit", &Driver::visit},
+      {"revert", &Driver::revert},     {"answer", &Driver::answerQuestions},
+      {"do", &Driver::operation},      {"app", &Driver::applicationOperation},
+      {"menu", &Driver::menu},         {"choose", &Driver::choose},
+      {"step", &Driver::step},         {"tab", &Driver::tab},
+      {"advance", &Driver::advance},   {"zone", &Driver::zone},
+      {"locale", &Driver::locale},
+  };
+  if (key == "new" || key == "state") {
+    if (argument != Json(true)) refuse("expected true");
+    return key == "new" ? newDocument() : state();
+  }
+  const auto line = lines.find(key);
+  if (line == lines.end()) refuse("there is no line \"" + key + "\"");
+  return (this->*line->second)(argument);
+}
+
+Json Driver::newDocument() { return {{"number", numbers_.at(&documents_.newDocument())}}; }
+
+Json Driver::openDocument(const Json& path) {
+  std::string error;
+  const framework::ZuDocument* opened = documents_.openDocument(textArgument(path, "a path"), error);
+  if (!opened) refuse(error);
+  return {{"number", numbers_.at(opened)}};
+}
+
+Json Driver::use(const Json& number) {
+  const std::int64_t wanted = integerArgument(number, "the number of a document");
+  for (framework::ZuDocument* open : documents_.documents()) {
+    if (numbers_.at(open) != wanted) continue;
+    documents_.setCurrentDocument(*open);
+    return Json::object();
+  }
+  refuse("there is no document " + std::to_string(wanted));
+}
+
+Json Driver::save(const Json& target) {
+  NCDocument& saved = document();
+  if (!target.is_string() && target != Json(true)) refuse("expected a path or true");
+  if (auto refusal = heldBack(saved)) return *refusal;
+  std::string path;
+  if (target.is_string()) {
+    path = std::filesystem::absolute(target.get<std::string>()).string();
+  } else if (saved.filePath()) {
+    path = *saved.filePath();
+  } else {
+    refuse("the document has no file yet");
+  }
+  if (const auto error = saved.writeToFile(path)) refuse(path + ": " + error->reason);
+  return {{"saved", true}};
+}
+
+Json Driver::close(const Json& word) {
+  const std::string choice = textArgument(word, "\"save\", \"discard\" or \"cancel\"");
+  if (choice != "save" && choice != "discard" && choice != "cancel")
+    refuse("expected save, discard or cancel");
+  alerts_.choice = choice;
+  return {{"closed", documents_.closeDocument(document())}};
+}
+
+Json Driver::edit(const Json& fieldAndText) {
+  if (!fieldAndText.is_array() || fieldAndText.size() != 2) refuse("expected a field and a text");
+  const std::string name = textArgument(fieldAndText[0], "the name of a field");
+  const std::string text = textArgument(fieldAndText[1], "a text");
+  NCDocument& edited = document();
+  if (name == edited.notesField().name()) {
+    const bool began = edited.fieldEditor().end();
+    if (began) edited.notesField().takeEditedText(text);
+    return {{"began", began}, {"ended", began}};
+  }
+  framework::TextField& field = fieldNamed(edited, name);
+  framework::FieldEditor& editor = edited.fieldEditor();
+  if (!editor.begin(field)) return {{"began", false}, {"ended", false}};
+  editor.replace(text);
+  return {{"began", true}, {"ended", editor.end()}};
+}
+
+Json Driver::visit(const Json& field) {
+  const std::string name = textArgument(field, "the name of a field");
+  NCDocument& visited = document();
+  const framework::TextField* entered =
+      name == visited.notesField().name() ? nullptr : &fieldNamed(visited, name);
+  // Entering a field leaves the one before; a visit itself changes nothing. A field that refuses is in edit already.
+  const bool isInEdit = entered && visited.fieldEditor().field() == entered;
+  const bool ended = visited.fieldEditor().end();
+  return {{"began", isInEdit || ended}, {"ended", ended}};
+}
+
+Json Driver::revert(const Json& field) {
+  const std::string name = textArgument(field, "the name of a field");
+  NCDocument& reverted = document();
+  // What is typed into the note is there at once.
+  if (name == reverted.notesField().name()) return Json::object();
+  const framework::TextField& named = fieldNamed(reverted, name);
+  if (reverted.fieldEditor().field() == &named) reverted.fieldEditor().revert();
+  return Json::object();
+}
+
+Json Driver::answerQuestions(const Json& buttons) {
+  if (!buttons.is_array()) refuse("expected the titles of buttons");
+  for (const Json& button : buttons) alerts_.answers.push_back(textArgument(button, "the title of a button"));
+  return Json::object();
+}
+
+Json Driver::operation(const Json& call) {
+  if (!call.is_array() || call.empty()) refuse("expected an operation and its arguments");
+  const std::string name = textArgument(call[0], "the name of an operation");
+  const auto found = operations().find(name);
+  if (found == operations().end()) refuse("there is no operation \"" + name + "\"");
+  Arguments arguments(call);
+  return {{"result", found->second(document(), arguments)}};
+}
+
+Json Driver::applicationOperation(const Json& call) {
+  if (!call.is_array() || call.empty()) refuse("expected an operation and its arguments");
+  const std::string name = textArgument(call[0], "the name of an operation");
+  Arguments arguments(call);
+  const auto tagged = [&] {
+    framework::MenuItem item;
+    item.tag = arguments.integer();
+    return item;
+  };
+  if (name == "toggleShowAll") {
+    application_.toggleShowAll(application_.showAllMenuItem());
+  } else if (name == "doAdjustDeliveryDate") {
+    application_.doAdjustDeliveryDate(&application_);
+  } else if (name == "doSetStandard") {
+    application_.doSetStandard(tagged());
+  } else if (name == "doSetEFWStandard") {
+    application_.doSetEFWStandard(tagged());
+  } else if (name == "doSetCRLStandard") {
+    application_.doSetCRLStandard(tagged());
+  } else {
+    refuse("there is no operation \"" + name + "\" of the application");
+  }
+  return {{"result", nullptr}};
+}
+
+Json Driver::menu(const Json& choice) {
+  if (!choice.is_array() || choice.size() != 2) refuse("expected a menu and an item");
+  const std::string menuTitle = textArgument(choice[0], "the title of a menu");
+  std::vector<framework::MenuItem> items = application_.standardsMenuItems();
+  items.push_back(application_.showAllMenuItem());
+  const auto item = std::ranges::find_if(items, [&](const framework::MenuItem& candidate) {
+    if (candidate.menuTitle != menuTitle) return false;
+    return choice[1].is_string() ? choice[1] == Json(candidate.title) : choice[1] == Json(candidate.tag);
+  });
+  if (item == items.end()) refuse("there is no such item");
+  if (NCDocument* front = currentDocument()) {
+    if (auto refusal = heldBack(*front)) return *refusal;
+  }
+  const bool enabled = application_.validateMenuItem(*item);
+  const std::int64_t state = item->state;
+  if (enabled && !application_.chooseStandard(*item))
+    application_.toggleShowAll(application_.showAllMenuItem());
+  return {{"enabled", enabled}, {"state", state}};
+}
+
+Json Driver::choose(const Json& index) {
+  NCDocument& chosen = document();
+  const std::int64_t wanted = integerArgument(index, "the index of an item");
+  if (auto refusal = heldBack(chosen)) return *refusal;
+  chosen.multiplePopUp().selectItemAtIndex(wanted);
+  chosen.chooseFetus(chosen.multiplePopUp());
+  return Json::object();
+}
+
+Json Driver::step(const Json& days) {
+  NCDocument& stepped = document();
+  const double wanted = numberArgument(days, "a number of days");
+  if (auto refusal = heldBack(stepped)) return *refusal;
+  stepped.adjustDeliveryStepper().setValue(wanted);
+  stepped.adjustDeliveryDate(nullptr);
+  return {{"value", stepped.adjustDeliveryStepper().value()}};
+}
+
+Json Driver::tab(const Json& page) {
+  NCDocument& shown = document();
+  const std::int64_t wanted = integerArgument(page, "the index of a page");
+  if (auto refusal = heldBack(shown)) return *refusal;
+  shown.switchToGraph(wanted);
+  return Json::object();
+}
+
+Json Driver::advance(const Json& seconds) {
+  clock_.advance(numberArgument(seconds, "a number of seconds"));
+  return Json::object();
+}
+
+Json Driver::zone(const Json& name) {
+  const std::string wanted = textArgument(name, "the name of a zone");
+  if (wanted != "UTC" && (wanted.find("..") != std::string::npos ||
+                          !std::filesystem::is_regular_file("/usr/share/zoneinfo/" + wanted))) {
+    refuse("there is no zone \"" + wanted + "\"");
+  }
+  setZone(wanted);
+  *calendar_ = posix::PosixCalendar();
+  return Json::object();
+}
+
+Json Driver::locale(const Json& name) {
+  const std::string wanted = textArgument(name, "the name of a locale");
+  if (!localizer_.choose(wanted)) refuse("there is no locale \"" + wanted + "\"");
+  return Json::object();
+}
+
+Json Driver::state() {
+  Json result = currentDocument() ? documentState(*currentDocument()) : Json::object();
+  result["defaults"] = defaultsState();
+  result["posted"] = std::exchange(posted_, Json::array());
+  Json asked = Json::array();
+  for (const framework::Alert& alert : std::exchange(alerts_.asked, {})) {
+    asked.push_back({alert.message, alert.information, alert.defaultButton, alert.alternateButton});
+  }
+  result["alerts"] = std::move(asked);
+  result["log"] = std::exchange(log_.lines, {});
+  result["exports"] = Json::array();
+  result["prints"] = Json::array();
+  result["opened"] = Json::array();
+  result["effects"] = std::exchange(effects_, Json::array());
+  return result;
+}
+
+Json Driver::documentState(NCDocument& shown) {
+  Json fields = Json::object();
+  Json marked = Json::object();
+  for (const framework::TextField* field : shown.textFields()) {
+    fields[field->name()] = field->text();
+    if (field->isRed()) marked[field->name()] = "red";
+  }
+  fields[shown.notesField().name()] = shown.notesField().text();
+
+  Json titles = Json::array();
+  Json keys = Json::array();
+  for (const auto& item : shown.multiplePopUp().items()) {
+    titles.push_back(item.title);
+    keys.push_back(item.keyEquivalent);
+  }
+  Json windows = Json::object();
+  for (const framework::Panel* panel : shown.panels()) windows[panel->name()] = panel->isShown();
+  Json checks = Json::object();
+  for (const framework::CheckBox* box : shown.checkBoxes()) checks[box->name()] = box->isOn();
+  const framework::Stepper& stepper = shown.adjustDeliveryStepper();
+
+  std::string patient;
+  if (shown.patientRecord()) {
+    foundation::JsonText text(patient);
+    model::writePatientJson(text, *shown.patientRecord(), *calendar_, model::JsonNumbers::inMemory);
+  }
+  return {{"number", numbers_.at(&shown)},
+          {"fields", fields},
+          {"popup",
+           {{"titles", titles}, {"keys", keys}, {"selected", shown.multiplePopUp().indexOfSelectedItem()}}},
+          {"tab", shown.tabView().indexOfSelectedPage()},
+          {"currentExam", shown.currentExam()},
+          {"currentFetus", shown.currentFetus()},
+          {"edited", shown.isDocumentEdited()},
+          {"blank", shown.isBlank()},
+          {"lookUpRequired", shown.lookUpRequired()},
+          {"windows", windows},
+          {"checks", checks},
+          {"stepper",
+           {{"value", stepper.value()},
+            {"minimum", stepper.minimum()},
+            {"maximum", stepper.maximum()},
+            {"increment", stepper.increment()}}},
+          {"marked", marked},
+          {"displays", shown.tabView().timesDisplayAsked()},
+          {"document", patient.empty() ? Json() : Json::parse(patient)}};
+}
+
+Json Driver::defaultsState() const {
+  namespace key = foundation::defaults_key;
+  Json result = Json::object();
+  result[key::dataFileExtension] = defaults_.value(key::dataFileExtension).value_or("");
+  // Registered as a text, written as a truth value.
+  if (defaults_.written().contains(key::showAll)) {
+    result[key::showAll] = foundation::boolForKey(defaults_, key::showAll);
+  } else {
+    result[key::showAll] = defaults_.value(key::showAll).value_or("");
+  }
+  for (const std::string_view name : {key::standard, key::estimatedFetalWeightStandard, key::crlStandard}) {
+    result[name] = foundation::integerForKey(defaults_, name);
+  }
+  for (const auto& [name, value] : defaults_.written()) {
+    if (!result.contains(name)) result[name] = value;
+  }
+  return result;
+}
+
+NCDocument* Driver::currentDocument() { return dynamic_cast<NCDocument*>(documents_.currentDocument()); }
+
+NCDocument& Driver::document() {
+  NCDocument* current = currentDocument();
+  if (!current) refuse("there is no document");
+  return *current;
+}
+
+std::optional<Json> Driver::heldBack(NCDocument& held) {
+  if (held.commitEditing()) return std::nullopt;
+  return Json{{"refused", held.fieldEditor().field()->name()}};
+}
+
+}  // namespace nascor::drive

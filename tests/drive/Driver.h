@@ -1,0 +1,97 @@
+#pragma once
+
+#include <filesystem>
+#include <map>
+#include <memory>
+#include <nlohmann/json.hpp>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "app/NCAppController.h"
+#include "app/NCDocument.h"
+#include "drive/Ports.h"
+#include "foundation/NotificationCenter.h"
+#include "framework/DocumentController.h"
+#include "posix/PosixCalendar.h"
+#include "support/FixedClock.h"
+#include "support/MemoryUserDefaults.h"
+#include "support/ScriptedAlerts.h"
+#include "support/TestServices.h"
+
+namespace nascor::drive {
+
+using Json = nlohmann::ordered_json;
+
+/// Plays the user of the application, one line at a time: the real documents and controllers over ports that a story
+/// controls. It works in a scratch folder, empty at the start and removed at the end, where relative paths lie.
+class Driver {
+ public:
+  Driver();
+  ~Driver();
+  Driver(const Driver&) = delete;
+  Driver& operator=(const Driver&) = delete;
+
+  /// Does what one line says and answers it; a line that cannot be done is answered by `{"error": sentence}`.
+  std::string answer(std::string_view line);
+
+ private:
+  Json perform(const std::string& key, const Json& argument);
+
+  Json newDocument();
+  Json openDocument(const Json& path);
+  Json use(const Json& number);
+  Json save(const Json& target);
+  Json close(const Json& word);
+  Json edit(const Json& fieldAndText);
+  Json visit(const Json& field);
+  Json revert(const Json& field);
+  Json answerQuestions(const Json& buttons);
+  Json operation(const Json& call);
+  Json applicationOperation(const Json& call);
+  Json menu(const Json& choice);
+  Json choose(const Json& index);
+  Json step(const Json& days);
+  Json tab(const Json& page);
+  Json advance(const Json& seconds);
+  Json zone(const Json& name);
+  Json locale(const Json& name);
+  Json state();
+
+  app::NCDocument* currentDocument();
+  app::NCDocument& document();
+  Json documentState(app::NCDocument& document);
+  Json defaultsState() const;
+  /// What a refusing field answers to an action that it holds back; nothing when the edits were committed.
+  std::optional<Json> heldBack(app::NCDocument& document);
+  void recordPosts();
+
+  std::filesystem::path startFolder_;
+  std::filesystem::path scratchFolder_;
+  std::optional<std::string> startZone_;
+
+  tests::FixedClock clock_;
+  std::unique_ptr<posix::PosixCalendar> calendar_;
+  StoryLocalizer localizer_;
+  tests::MemoryUserDefaults defaults_;
+  StoryFileStore files_;
+  tests::MemoryLog log_;
+  foundation::NotificationCenter notifications_;
+  tests::ScriptedAlerts alerts_;
+  tests::ScriptedFilePanels panels_;
+  foundation::Services services_;
+  framework::DocumentController documents_;
+  app::NCAppController application_;
+
+  std::vector<foundation::NotificationCenter::Subscription> postSubscriptions_;
+  Json posted_ = Json::array();
+  Json effects_ = Json::array();
+  std::map<const framework::ZuDocument*, std::int64_t> numbers_;
+  std::int64_t nextNumber_ = 0;
+};
+
+/// `json` as text: numbers with the shortest digits that read back, those that JSON lacks as the texts nan, inf, -inf.
+std::string textOf(const Json& json);
+
+}  // namespace nascor::drive

@@ -1,0 +1,119 @@
+#include "drive/Story.h"
+
+#include <filesystem>
+#include <fstream>
+#include <string_view>
+
+#include "drive/Driver.h"
+
+namespace nascor::drive {
+namespace {
+
+constexpr std::string_view kAndMore = "...";
+
+/// Whether `actual` is `expected`, in which "..." stands for any text.
+bool fits(std::string_view actual, std::string_view expected) {
+  std::size_t gap = expected.find(kAndMore);
+  if (gap == std::string_view::npos) return actual == expected;
+  if (!actual.starts_with(expected.substr(0, gap))) return false;
+  actual.remove_prefix(gap);
+  for (;;) {
+    expected.remove_prefix(gap + kAndMore.size());
+    gap = expected.find(kAndMore);
+    if (gap == std::string_view::npos) return actual.ends_with(expected);
+    const std::size_t at = actual.find(expected.substr(0, gap));
+    if (at == std::string_view::npos) return false;
+    actual.remove_prefix(at + gap);
+  }
+}
+
+/// Whether `actual` holds all that `expected` names.
+bool holds(const Json& actual, const Json& expected) {
+  if (expected.is_object()) {
+    if (!actual.is_object()) return false;
+    for (const auto& [key, value] : expected.items()) {
+      if (!actual.contains(key) || !holds(actual[key], value)) return false;
+    }
+    return true;
+  }
+  if (expected.is_array()) {
+    const bool hasMore = !expected.empty() && expected.back() == Json(kAndMore);
+    const std::size_t named = expected.size() - (hasMore ? 1 : 0);
+    if (!actual.is_array() || actual.size() < named || (actual.size() > named && !hasMore)) return false;
+    for (std::size_t i = 0; i < named; ++i) {
+      if (!holds(actual[i], expected[i])) return false;
+    }
+    return true;
+  }
+  if (actual.is_string() && expected.is_string()) {
+    return fits(actual.get_ref<const std::string&>(), expected.get_ref<const std::string&>());
+  }
+  return actual == expected;
+}
+
+std::string withDataFolder(std::string_view line, const std::string& folder) {
+  constexpr std::string_view kPlace = "$DATA";
+  std::string result(line);
+  for (std::size_t at = 0; (at = result.find(kPlace, at)) != std::string::npos; at += folder.size()) {
+    result.replace(at, kPlace.size(), folder);
+  }
+  return result;
+}
+
+}  // namespace
+
+bool playStory(const std::string& path, std::ostream& out) {
+  std::ifstream story(path);
+  if (!story) {
+    out << path << ": cannot be read\n";
+    return false;
+  }
+  const std::string dataFolder =
+      (std::filesystem::absolute(path).parent_path().parent_path() / "data").string();
+  Driver driver;
+  bool isWell = true;
+  int number = 0;
+  int answeredAt = 0;
+  int expectations = 0;
+  bool isExpected = true;
+  std::string answer;
+  const auto fail = [&](int line, const std::string& what) {
+    out << path << ":" << line << ": " << what << "\n";
+    if (!answer.empty()) out << "  answered " << answer << "\n";
+    isWell = false;
+  };
+  const auto checkNoError = [&] {
+    if (!isExpected && Json::parse(answer).contains("error")) fail(answeredAt, "an error was not expected");
+  };
+  for (std::string line; std::getline(story, line);) {
+    ++number;
+    const std::size_t start = line.find_first_not_of(' ');
+    const std::string_view text = start == std::string::npos ? "" : std::string_view(line).substr(start);
+    if (text.starts_with('{')) {
+      checkNoError();
+      answer = driver.answer(withDataFolder(text, dataFolder));
+      answeredAt = number;
+      isExpected = false;
+    } else if (text.starts_with('=')) {
+      const bool isWhole = text.starts_with("=> ");
+      if ((!isWhole && !text.starts_with("=~ ")) || answer.empty()) {
+        fail(number, "not an expectation");
+        continue;
+      }
+      isExpected = true;
+      ++expectations;
+      const Json expected = Json::parse(withDataFolder(text.substr(3), dataFolder), nullptr, false);
+      const Json actual = Json::parse(answer);
+      if (expected.is_discarded()) {
+        fail(number, "the expectation is not JSON");
+      } else if (isWhole ? actual != expected : !holds(actual, expected)) {
+        fail(number, "expected " + textOf(expected));
+      }
+    }
+  }
+  checkNoError();
+  if (expectations == 0) fail(number, "nothing was expected");
+  return isWell;
+}
+
+}  // namespace nascor::drive

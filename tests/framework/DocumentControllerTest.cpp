@@ -1,0 +1,274 @@
+#include "framework/DocumentController.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "DocumentsUnderTest.h"
+
+namespace nascor::framework {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class TheDocuments : public testing::Test {
+ protected:
+  TextApplication application;
+  DocumentController& documents = application.documents;
+};
+
+TEST_F(TheDocuments, areNoneAtTheStart) {
+  EXPECT_EQ(documents.currentDocument(), nullptr);
+  EXPECT_THAT(documents.documents(), IsEmpty());
+  EXPECT_TRUE(documents.closeAllDocuments());
+}
+
+TEST_F(TheDocuments, beginBlankAndInFront) {
+  std::vector<std::string> told;
+  documents.onDocumentAdded = [&](ZuDocument& added) {
+    told.push_back(dynamic_cast<TextDocument&>(added).calls.empty() ? "added before its window" : "too late");
+  };
+  TextDocument& document = application.newDocument();
+  EXPECT_THAT(told, ElementsAre("added before its window"));
+  EXPECT_THAT(document.calls, ElementsAre("window loaded"));
+  EXPECT_TRUE(document.isBlank());
+  EXPECT_EQ(documents.currentDocument(), &document);
+}
+
+TEST_F(TheDocuments, openFromFilesWithTheirContents) {
+  application.put("/documents/a", "text");
+  TextDocument* document = application.open("/documents/a");
+  ASSERT_NE(document, nullptr);
+  EXPECT_EQ(document->model, "text");
+  EXPECT_EQ(document->filePath(), "/documents/a");
+  EXPECT_FALSE(document->isBlank());
+  EXPECT_FALSE(document->isDocumentEdited());
+}
+
+TEST_F(TheDocuments, openOncePerFile) {
+  application.put("/documents/a", "text");
+  TextDocument* document = application.open("/documents/a");
+  application.newDocument();
+  EXPECT_EQ(application.open("/documents/a"), document);
+  EXPECT_EQ(documents.currentDocument(), document);
+  EXPECT_EQ(application.files.reads(), 1);
+}
+
+TEST_F(TheDocuments, sayWhyAFileDoesNotOpen) {
+  application.put("/documents/bad", "bad");
+  EXPECT_EQ(application.open("/documents/bad"), nullptr);
+  EXPECT_EQ(application.error, "/documents/bad: this is no document");
+  EXPECT_EQ(application.open("/documents/none"), nullptr);
+  EXPECT_EQ(application.error, "/documents/none: No such file or directory");
+  EXPECT_THAT(documents.documents(), IsEmpty());
+}
+
+TEST_F(TheDocuments, areUntitledWhenTheirFileHoldsNothing) {
+  application.put("/documents/nil", "nil");
+  TextDocument* document = application.open("/documents/nil");
+  ASSERT_NE(document, nullptr);
+  EXPECT_EQ(document->filePath(), std::nullopt);
+  EXPECT_TRUE(document->isBlank());
+}
+
+TEST_F(TheDocuments, openFromThePanelAndTellOfThoseThatDoNot) {
+  application.put("/documents/a", "text");
+  application.put("/documents/bad", "bad");
+  application.panels.filesToOpen = {"/documents/bad", "/documents/a"};
+  documents.openDocuments();
+  EXPECT_EQ(application.front()->model, "text");
+  EXPECT_THAT(application.alerts.told,
+              ElementsAre("The document cannot be opened. /documents/bad: this is no document"));
+}
+
+TEST_F(TheDocuments, areSavedToTheirFile) {
+  application.put("/documents/a", "text");
+  TextDocument& document = *application.open("/documents/a");
+  document.model = "more";
+  EXPECT_TRUE(documents.saveDocument(document));
+  EXPECT_EQ(application.textOf("/documents/a"), "more");
+  EXPECT_THAT(application.panels.suggested, IsEmpty());
+}
+
+TEST_F(TheDocuments, askWhereToSaveWhenTheyHaveNoFile) {
+  TextDocument& document = application.newDocument();
+  EXPECT_TRUE(documents.saveDocument(document));
+  document.name = "A (G1)";
+  EXPECT_TRUE(documents.saveDocumentAs(document));
+  TextDocument& other = application.newDocument();
+  other.name = ".B/1";
+  EXPECT_TRUE(documents.saveDocument(other));
+  EXPECT_THAT(application.panels.suggested, ElementsAre("Untitled.nascor", "Untitled.nascor", "_B-1.nascor"));
+  application.panels.isCancelled = true;
+  EXPECT_FALSE(documents.saveDocumentAs(other));
+  EXPECT_EQ(application.files.writes(), 3);
+}
+
+TEST_F(TheDocuments, areNotSavedWhileAFieldRefuses) {
+  TextDocument& document = application.newDocument();
+  document.fieldEditor().begin(document.birthDateField());
+  document.fieldEditor().replace("refused");
+  EXPECT_FALSE(documents.saveDocument(document));
+  EXPECT_FALSE(documents.saveDocumentAs(document));
+  document.setFilePath("/documents/a");
+  EXPECT_FALSE(documents.saveDocument(document));
+  EXPECT_EQ(application.files.writes(), 0);
+  EXPECT_THAT(application.panels.suggested, IsEmpty());
+}
+
+TEST_F(TheDocuments, tellWhyAFileWasNotWritten) {
+  TextDocument& document = application.newDocument();
+  document.setFilePath("/documents/a");
+  application.files.failWriteAt = 0;
+  EXPECT_FALSE(documents.saveDocument(document));
+  EXPECT_THAT(application.alerts.told,
+              ElementsAre("The document was not saved. /documents/a: No space left on device"));
+}
+
+TEST_F(TheDocuments, areNotSavedOverOneThatIsOpen) {
+  application.put("/documents/Untitled.nascor", "text");
+  application.open("/documents/Untitled.nascor");
+  TextDocument& document = application.newDocument();
+  EXPECT_FALSE(documents.saveDocument(document));
+  EXPECT_EQ(application.textOf("/documents/Untitled.nascor"), "text");
+  EXPECT_THAT(application.alerts.told,
+              ElementsAre("The document was not saved. /documents/Untitled.nascor: It is "
+                          "open in another window."));
+  EXPECT_EQ(document.filePath(), std::nullopt);
+}
+
+TEST_F(TheDocuments, closeWithoutAQuestionWhenTheyWereNotEdited) {
+  TextDocument& document = application.newDocument();
+  application.alerts.choice = "Cancel";
+  EXPECT_TRUE(documents.closeDocument(document));
+  EXPECT_THAT(application.alerts.choices, IsEmpty());
+  EXPECT_EQ(documents.currentDocument(), nullptr);
+  EXPECT_THAT(document.calls, ElementsAre("window loaded", "window closes"))
+      << "it lives until it is released";
+}
+
+struct CloseCase {
+  const char* button;
+  bool hasFile;
+  int failWriteAt;
+  bool isPanelCancelled;
+  bool closes;
+  int writes;
+};
+class AnEditedDocument : public testing::TestWithParam<CloseCase> {};
+
+TEST_P(AnEditedDocument, closesOnlyWhenNothingIsLostUnasked) {
+  const CloseCase& given = GetParam();
+  TextApplication application;
+  TextDocument& document = application.newDocument();
+  if (given.hasFile) document.setFilePath("/documents/a");
+  document.updateChangeCount(ZuDocument::ChangeType::changeDone);
+  application.alerts.choice = given.button;
+  application.files.failWriteAt = given.failWriteAt;
+  application.panels.isCancelled = given.isPanelCancelled;
+  EXPECT_EQ(application.documents.closeDocument(document), given.closes);
+  EXPECT_THAT(application.alerts.choices, ElementsAre("Do you want to save the changes of this document?"));
+  EXPECT_EQ(application.documents.currentDocument() == nullptr, given.closes);
+  EXPECT_EQ(application.files.writes(), given.writes);
+  EXPECT_EQ(document.isDocumentEdited(), given.writes == 0 || !given.closes);
+}
+
+INSTANTIATE_TEST_SUITE_P(all, AnEditedDocument,
+                         testing::Values(CloseCase{"Save", true, -1, false, true, 1},
+                                         CloseCase{"Save", false, -1, false, true, 1},
+                                         CloseCase{"Save", false, -1, true, false, 0},
+                                         CloseCase{"Save", true, 0, false, false, 1},
+                                         CloseCase{"Discard", true, -1, false, true, 0},
+                                         CloseCase{"Discard", false, -1, false, true, 0},
+                                         CloseCase{"Cancel", true, -1, false, false, 0}));
+
+TEST_F(TheDocuments, dropARefusedTextWithTheirWindow) {
+  TextDocument& document = application.newDocument();
+  document.setFilePath("/documents/a");
+  document.model = "kept";
+  document.fieldEditor().begin(document.birthDateField());
+  document.fieldEditor().replace("refused");
+  application.alerts.choice = "Cancel";
+  EXPECT_FALSE(documents.closeDocument(document));
+  EXPECT_EQ(document.fieldEditor().text(), "refused");
+  application.alerts.choice = "Save";
+  EXPECT_TRUE(documents.closeDocument(document));
+  EXPECT_EQ(application.textOf("/documents/a"), "kept");
+}
+
+TEST_F(TheDocuments, storeANoteBesideAFieldThatRefusesWhenTheyClose) {
+  TextDocument& document = application.newDocument();
+  document.notesField().takeEditedText("note");
+  document.fieldEditor().begin(document.birthDateField());
+  document.fieldEditor().replace("refused");
+  application.alerts.choice = "Discard";
+  documents.closeDocument(document);
+  EXPECT_THAT(document.calls, ElementsAre("window loaded", "to data", "window closes"));
+}
+
+TEST_F(TheDocuments, arePutInFrontInTheOrderOfTheirUse) {
+  TextDocument& one = application.newDocument();
+  TextDocument& two = application.newDocument();
+  TextDocument& three = application.newDocument();
+  std::vector<ZuDocument*> inFront;
+  documents.onDocumentInFront = [&](ZuDocument& front) { inFront.push_back(&front); };
+  documents.setCurrentDocument(one);
+  EXPECT_THAT(documents.documents(), ElementsAre(&two, &three, &one));
+  documents.closeDocument(one);
+  EXPECT_EQ(documents.currentDocument(), &three);
+  EXPECT_THAT(inFront, ElementsAre(&one, &three));
+  TextDocument stranger(application.environment());
+  documents.setCurrentDocument(stranger);
+  EXPECT_EQ(documents.currentDocument(), &three);
+}
+
+TEST_F(TheDocuments, areClosedFromTheFrontUntilOneStays) {
+  TextDocument& one = application.newDocument();
+  TextDocument& two = application.newDocument();
+  application.newDocument();
+  two.updateChangeCount(ZuDocument::ChangeType::changeDone);
+  EXPECT_FALSE(documents.closeAllDocuments());
+  EXPECT_THAT(documents.documents(), ElementsAre(&one, &two));
+  application.alerts.choice = "Discard";
+  EXPECT_TRUE(documents.closeAllDocuments());
+}
+
+TEST_F(TheDocuments, takeTheirPlaceFromOneAnother) {
+  application.put("/documents/a", "text");
+  application.put("/documents/bad", "bad");
+  TextDocument& blank = application.newDocument();
+  std::vector<ZuDocument*> removed;
+  documents.onDocumentRemoved = [&](ZuDocument& document) { removed.push_back(&document); };
+  EXPECT_FALSE(documents.replaceDocument(blank, "/documents/bad"));
+  EXPECT_THAT(application.alerts.told,
+              ElementsAre("The document cannot be opened. /documents/bad: this is no document"));
+  EXPECT_EQ(documents.currentDocument(), &blank);
+  EXPECT_TRUE(documents.replaceDocument(blank, "/documents/a"));
+  EXPECT_EQ(application.front()->model, "text");
+  EXPECT_THAT(removed, ElementsAre(&blank));
+  EXPECT_EQ(documents.documents().size(), 1U);
+}
+
+TEST_F(TheDocuments, closeOnceWhenALookUpOnTheWayReplacesThem) {
+  application.put("/documents/a", "text");
+  TextDocument& blank = application.newDocument();
+  blank.afterEnd = [&] { documents.replaceDocument(blank, "/documents/a"); };
+  blank.fieldEditor().begin(blank.birthDateField());
+  EXPECT_TRUE(documents.closeDocument(blank));
+  EXPECT_THAT(application.alerts.choices, IsEmpty());
+  ASSERT_NE(application.front(), nullptr);
+  EXPECT_EQ(application.front()->model, "text") << "the document that was found stays open";
+}
+
+TEST_F(TheDocuments, areNotSavedAfterALookUpReplacedThem) {
+  application.put("/documents/a", "text");
+  TextDocument& blank = application.newDocument();
+  blank.afterEnd = [&] { documents.replaceDocument(blank, "/documents/a"); };
+  blank.fieldEditor().begin(blank.birthDateField());
+  EXPECT_FALSE(documents.saveDocument(blank));
+  EXPECT_EQ(application.files.writes(), 0);
+  documents.releaseClosedDocuments();
+}
+
+}  // namespace
+}  // namespace nascor::framework

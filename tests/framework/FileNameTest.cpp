@@ -1,0 +1,38 @@
+#include "framework/FileName.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+namespace nascor::framework {
+namespace {
+
+TEST(AFileName, isTheNameWithItsExtension) {
+  EXPECT_EQ(fileName("AB-123 (G2)", "nascor"), "AB-123 (G2).nascor");
+  EXPECT_EQ(fileName("\u00dc %1", "pdf"), "\u00dc %1.pdf");
+}
+
+TEST(AFileName, hasNoCharacterThatAFolderDoesNotTake) {
+  using std::string_literals::operator""s;
+  EXPECT_EQ(fileName("a/b\0c\nd\x7f"s, "x"), "a-b-c-d-.x");
+}
+
+TEST(AFileName, neitherHidesTheFileNorReadsAsAnOption) {
+  EXPECT_EQ(fileName(".profile", "x"), "_profile.x");
+  EXPECT_EQ(fileName("-rf", "x"), "_rf.x");
+  EXPECT_EQ(fileName("/a", "x"), "_a.x");
+  EXPECT_EQ(fileName("a.-", "x"), "a.-.x");
+  EXPECT_EQ(fileNameText(""), "");
+}
+
+TEST(AFileName, isCutToWhatAFolderTakesBetweenCharacters) {
+  EXPECT_EQ(fileName(std::string(300, 'a'), "nascor"), std::string(248, 'a') + ".nascor");
+  EXPECT_EQ(fileName(std::string(248, 'a'), "nascor"), std::string(248, 'a') + ".nascor");
+  // 247 letters and a character of two bytes would end at 249.
+  EXPECT_EQ(fileName(std::string(247, 'a') + "\u00dc\u00dc", "nascor"), std::string(247, 'a') + ".nascor");
+  EXPECT_EQ(fileName(std::string(246, 'a') + "\u00dc\u00dc", "nascor"),
+            std::string(246, 'a') + "\u00dc.nascor");
+}
+
+}  // namespace
+}  // namespace nascor::framework

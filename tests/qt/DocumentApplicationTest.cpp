@@ -1,0 +1,283 @@
+#include "qt/DocumentApplication.h"
+
+#include <QDragEnterEvent>
+#include <QDropEvent>
+#include <QFileDialog>
+#include <QMenu>
+#include <QMimeData>
+#include <QUrl>
+
+#include "WindowTest.h"
+
+namespace nascor::tests {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+class TheApplicationOfDocuments : public WindowTest {
+ protected:
+  static std::vector<std::string> titles() {
+    std::vector<std::string> result;
+    for (const QWidget* shown : QApplication::topLevelWidgets()) {
+      if (dynamic_cast<const qt::DocumentWindow*>(shown) && shown->isVisible())
+        result.push_back(shown->windowTitle().toStdString());
+    }
+    std::ranges::sort(result);
+    return result;
+  }
+  /// Names the file in the file dialog that opens next.
+  void choose(const QString& path) {
+    QTimer::singleShot(0, [path] {
+      auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+      ASSERT_TRUE(dialog);
+      dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(path);
+      QTest::keyClick(dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit")), Qt::Key_Return);
+    });
+  }
+  void drop(QWidget& target, const QList<QUrl>& urls) {
+    QMimeData data;
+    data.setUrls(urls);
+    const QPoint at = target.mapTo(&front(), target.rect().center());
+    QDragEnterEvent enter(at, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&front(), &enter);
+    EXPECT_TRUE(enter.isAccepted());
+    QDropEvent event(at, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&front(), &event);
+    settle();
+  }
+};
+
+TEST_F(TheApplicationOfDocuments, givesEachDocumentAWindow) {
+  application.openFiles({file(QStringLiteral("b.nascor"), documentBytes(twins())),
+                         file(QStringLiteral("a.nascor"), documentBytes(singleton()))});
+  EXPECT_THAT(titles(), ElementsAre("a.nascor[*]", "b.nascor[*]"));
+}
+
+TEST_F(TheApplicationOfDocuments, bringsAFileThatIsOpenAlreadyToTheFront) {
+  open(singleton(), QStringLiteral("a.nascor"));
+  open(twins(), QStringLiteral("b.nascor"));
+  application.openFiles({folder.filePath(QStringLiteral("./a.nascor"))});
+  EXPECT_EQ(front().windowTitle(), QStringLiteral("a.nascor[*]"));
+  EXPECT_EQ(titles().size(), 2U);
+}
+
+TEST_F(TheApplicationOfDocuments, tellsOnceOfAllThatCannotBeOpenedAndTakesNoMarkup) {
+  answers = {"OK"};
+  application.openFiles({file(QStringLiteral("cut.nascor"), cutDocument()),
+                         file(QStringLiteral("good.nascor"), documentBytes(singleton())),
+                         folder.filePath(QStringLiteral("<b>gone"))});
+  EXPECT_THAT(titles(), ElementsAre("good.nascor[*]"));
+  ASSERT_EQ(asked.size(), 1U);
+  EXPECT_THAT(asked[0].information, HasSubstr("cut.nascor: at byte "));
+  EXPECT_THAT(asked[0].information, HasSubstr("<b>gone: No such file or directory"));
+}
+
+TEST_F(TheApplicationOfDocuments, opensAFileWithoutAPatientAsANewDocument) {
+  const QByteArray bytes = documentBytes(singleton());
+  const QByteArray nilRoot = bytes.left(bytes.indexOf("\x01@") + 2) + '\x85';
+  application.openFiles({file(QStringLiteral("nil.nascor"), nilRoot)});
+  EXPECT_THAT(titles(), ElementsAre("Untitled[*]"));
+}
+
+TEST_F(TheApplicationOfDocuments, makesANewDocumentByItsKey) {
+  open(singleton());
+  press(Qt::Key_N, Qt::ControlModifier);
+  EXPECT_THAT(titles(), ElementsAre("AB-123.nascor[*]", "Untitled[*]"));
+  EXPECT_EQ(focus(), "referenceIDField");
+}
+
+TEST_F(TheApplicationOfDocuments, asksWhatToOpen) {
+  openBlank();
+  choose(file(QStringLiteral("a.nascor"), documentBytes(singleton())));
+  press(Qt::Key_O, Qt::ControlModifier);
+  EXPECT_EQ(front().windowTitle(), QStringLiteral("a.nascor[*]"));
+}
+
+TEST_F(TheApplicationOfDocuments, asksWhereToSaveWhatIsNew) {
+  openBlank();
+  enter("referenceIDField", "n/1");
+  type("bpdField", "44.5");  // still in edit: saving commits it
+  const QString path = folder.filePath(QStringLiteral("new"));
+  choose(path);
+  press(Qt::Key_S, Qt::ControlModifier);
+  EXPECT_EQ(front().windowTitle(), QStringLiteral("new.nascor[*]"));
+  EXPECT_FALSE(front().isWindowModified());
+  QFile saved(path + QStringLiteral(".nascor"));
+  ASSERT_TRUE(saved.open(QIODevice::ReadOnly));
+  const QByteArray bytes = saved.readAll();
+  const auto read = model::unarchivedPatient(
+      std::as_bytes(std::span(bytes.data(), static_cast<std::size_t>(bytes.size()))));
+  EXPECT_EQ(read.patient->maternalIDString(), "N/1");
+  EXPECT_EQ(read.patient->ncRecordsArray().at(0)->measurements().at(0).bpd(), 44.5);
+}
+
+TEST_F(TheApplicationOfDocuments, savesUnderAnotherName) {
+  open(singleton());
+  choose(folder.filePath(QStringLiteral("other.nascor")));
+  press(Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
+  EXPECT_EQ(front().windowTitle(), QStringLiteral("other.nascor[*]"));
+  EXPECT_TRUE(QFile::exists(folder.filePath(QStringLiteral("AB-123.nascor"))));
+}
+
+TEST_F(TheApplicationOfDocuments, tellsWhyADocumentWasNotSaved) {
+  open(singleton());
+  enter("bpdField", "81");
+  ASSERT_TRUE(QFile::remove(folder.filePath(QStringLiteral("AB-123.nascor"))));
+  ASSERT_TRUE(QDir().mkdir(folder.filePath(QStringLiteral("AB-123.nascor"))));
+  answers = {"OK"};
+  press(Qt::Key_S, Qt::ControlModifier);
+  ASSERT_EQ(asked.size(), 1U);
+  EXPECT_EQ(asked[0].message, "The document was not saved.");
+  EXPECT_TRUE(front().isWindowModified());
+}
+
+TEST_F(TheApplicationOfDocuments, opensWhatIsDroppedOnAWindowAndNotAsText) {
+  openBlank();
+  const QString path = file(QStringLiteral("a.nascor"), documentBytes(singleton()));
+  drop(widget<QWidget>("tabView"), {QUrl::fromLocalFile(path)});
+  EXPECT_THAT(titles(), ElementsAre("Untitled[*]", "a.nascor[*]"));
+
+  // On a field or the note too, where a text would be inserted.
+  for (const char* name : {"referenceIDField", "notesField"}) {
+    SCOPED_TRACE(name);
+    const QString next = file(QLatin1String(name) + QStringLiteral(".nascor"), documentBytes(twins()));
+    QMimeData data;
+    data.setUrls({QUrl::fromLocalFile(next)});
+    data.setText(next);
+    QWidget* target = &widget<QWidget>(name);
+    if (auto* note = qobject_cast<QPlainTextEdit*>(target)) target = note->viewport();
+    QDragEnterEvent enter({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(target, &enter);
+    EXPECT_TRUE(enter.isAccepted());
+    QDropEvent event({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(target, &event);
+    settle();
+    EXPECT_EQ(front().windowTitle(), QLatin1String(name) + QStringLiteral(".nascor[*]"));
+  }
+  for (const char* title : {"a.nascor[*]", "referenceIDField.nascor[*]"}) {
+    for (const QWidget* shown : QApplication::topLevelWidgets()) {
+      if (shown->windowTitle() == QLatin1String(title)) {
+        EXPECT_FALSE(shown->isWindowModified()) << title;
+      }
+    }
+  }
+}
+
+TEST_F(TheApplicationOfDocuments, remembersWhatWasOpenedAndForgetsItWhenAsked) {
+  open(singleton(), QStringLiteral("a & b.nascor"));
+  open(singleton(), QStringLiteral("b%20 c.nascor"));
+  const QString first = folder.filePath(QStringLiteral("a & b.nascor"));
+  const QString second = folder.filePath(QStringLiteral("b%20 c.nascor"));
+  EXPECT_EQ(application.recentFiles().paths(), (QStringList{second, first}));
+  QMenu& menu = widget<QMenu>("recentMenu");
+  emit menu.aboutToShow();
+  EXPECT_EQ(menu.actions()[1]->text(), QStringLiteral("&2  a && b.nascor"));
+  menu.actions()[1]->trigger();
+  EXPECT_EQ(front().windowTitle(), QStringLiteral("a & b.nascor[*]"));
+  emit widget<QMenu>("recentMenu").aboutToShow();
+  action("clearRecentAction").trigger();
+  EXPECT_THAT(application.recentFiles().paths(), IsEmpty());
+}
+
+TEST_F(TheApplicationOfDocuments, forgetsARecentFileThatIsGone) {
+  open(singleton());
+  const QString gone = file(QStringLiteral("gone.nascor"), documentBytes(twins()));
+  open(twins(), QStringLiteral("gone.nascor")).close();
+  settle();
+  ASSERT_EQ(application.recentFiles().paths().size(), 2);
+  ASSERT_TRUE(QFile::remove(gone));
+  answers = {"OK"};
+  application.openFiles({gone});
+  EXPECT_EQ(application.recentFiles().paths(), QStringList{folder.filePath(QStringLiteral("AB-123.nascor"))});
+}
+
+TEST_F(TheApplicationOfDocuments, keepsTenRecentFilesTheLatestFirst) {
+  for (int i = 0; i < 12; ++i) application.recentFiles().note(QStringLiteral("/d/%1.nascor").arg(i));
+  application.recentFiles().note(QStringLiteral("/d/5.nascor"));
+  const QStringList paths = application.recentFiles().paths();
+  ASSERT_EQ(paths.size(), 10);
+  EXPECT_EQ(paths.first(), QStringLiteral("/d/5.nascor"));
+  EXPECT_EQ(paths.count(QStringLiteral("/d/5.nascor")), 1);
+}
+
+TEST_F(TheApplicationOfDocuments, closesAnUneditedDocumentWithoutAQuestion) {
+  open(singleton());
+  int ends = 0;
+  application.onLastDocumentClosed = [&] { ++ends; };
+  press(Qt::Key_W, Qt::ControlModifier);
+  EXPECT_THAT(titles(), IsEmpty());
+  EXPECT_EQ(ends, 1);
+}
+
+TEST_F(TheApplicationOfDocuments, savesBeforeItClosesWhenTheUserSaysSo) {
+  open(singleton());
+  type("bpdField", "77");
+  answers = {"Save"};
+  front().close();
+  settle();
+  ASSERT_EQ(asked.size(), 1U);
+  EXPECT_EQ(asked[0].message, "Do you want to save the changes of this document?");
+  EXPECT_EQ(asked[0].information, "AB-123.nascor");
+  EXPECT_THAT(asked[0].buttons, testing::UnorderedElementsAre("Save", "Discard", "Cancel"));
+  application.openFiles({folder.filePath(QStringLiteral("AB-123.nascor"))});
+  EXPECT_EQ(field("bpdField"), "77.0");
+}
+
+TEST_F(TheApplicationOfDocuments, asksForEachEditedDocumentWhenItQuitsAndStopsAtCancel) {
+  open(singleton(), QStringLiteral("a.nascor"));
+  enter("bpdField", "70");
+  open(singleton(), QStringLiteral("b.nascor"));
+  open(singleton(), QStringLiteral("c.nascor"));
+  enter("bpdField", "70");
+  answers = {"Discard", "Cancel"};
+  press(Qt::Key_Q, Qt::ControlModifier);
+  ASSERT_EQ(asked.size(), 2U);
+  EXPECT_EQ(asked[0].information, "c.nascor");
+  EXPECT_EQ(asked[1].information, "a.nascor");
+  EXPECT_THAT(titles(), ElementsAre("a.nascor[*]"));
+  answers = {"Save"};
+  EXPECT_TRUE(application.quit());
+  EXPECT_THAT(titles(), IsEmpty());
+}
+
+TEST_F(TheApplicationOfDocuments, doesNotQuitWhileAQuestionIsOpenOnAWindow) {
+  open(twins());
+  answersQuestions(false);
+  click("deleteFetusButton");
+  EXPECT_FALSE(application.quit());
+  action("addFetusAction").trigger();
+  EXPECT_EQ(document().patientRecord()->numberOfFetuses(), 2);
+  EXPECT_EQ(titles().size(), 1U);
+  answers = {"Cancel"};
+  answersQuestions(true);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return asked.size() == 1; }));
+}
+
+TEST_F(TheApplicationOfDocuments, opensWhatComesWhileAQuestionIsOpenAfterIt) {
+  open(singleton());
+  enter("bpdField", "70");
+  const QString other = file(QStringLiteral("b.nascor"), documentBytes(twins()));
+  std::size_t windowsAtTheQuestion = 0;
+  answers = {"Cancel"};
+  QTimer::singleShot(0, [&] {
+    application.openFiles({other});
+    windowsAtTheQuestion = titles().size();
+  });
+  front().close();
+  EXPECT_EQ(windowsAtTheQuestion, 1U);
+  EXPECT_THAT(titles(), ElementsAre("AB-123.nascor[*]", "b.nascor[*]"));
+}
+
+TEST_F(TheApplicationOfDocuments, takesItsWindowsAlong) {
+  {
+    qt::DocumentApplication shortLived(platform.services());
+    shortLived.newDocument();
+    EXPECT_EQ(titles().size(), 1U);
+  }
+  EXPECT_THAT(titles(), IsEmpty());
+}
+
+}  // namespace
+}  // namespace nascor::tests

@@ -1,0 +1,278 @@
+// Typing, leaving and refusing: real keys and clicks on real widgets.
+#include <QClipboard>
+#include <QDragEnterEvent>
+#include <QDropEvent>
+#include <QInputMethodEvent>
+#include <QMimeData>
+
+#include "WindowTest.h"
+
+namespace nascor::tests {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+class Editing : public WindowTest {
+ protected:
+  double bpd() { return document().measurementsForCurrentFetus(document().currentExam())->bpd(); }
+  bool isOutlined(const char* name) { return widget<qt::FieldEdit>(name).isRefusing(); }
+};
+
+TEST_F(Editing, bringsWhatIsTypedIntoTheRecordWhenTheFieldIsLeft) {
+  open(singleton());
+  type("bpdField", "83.25");
+  EXPECT_EQ(bpd(), 82.0);
+  EXPECT_TRUE(front().isWindowModified());
+  press(Qt::Key_Tab);
+  EXPECT_EQ(bpd(), 83.25);
+  EXPECT_EQ(field("bpdField"), "83.3");
+}
+
+TEST_F(Editing, endsWithTheReturnKeyToo) {
+  open(singleton());
+  type("bpdField", "84");
+  press(Qt::Key_Return);
+  EXPECT_EQ(bpd(), 84.0);
+  EXPECT_EQ(focus(), "bpdField");
+}
+
+TEST_F(Editing, givesTheOldTextBackWithTheEscapeKey) {
+  open(singleton());
+  type("bpdField", "900");
+  press(Qt::Key_Escape);
+  EXPECT_EQ(field("bpdField"), "82.0");
+  press(Qt::Key_Tab);
+  EXPECT_EQ(bpd(), 82.0);
+  EXPECT_EQ(focus(), "hcField");
+}
+
+TEST_F(Editing, changesNothingByVisitingEveryField) {
+  open(singleton());
+  widget<QLineEdit>("referenceIDField").setFocus();
+  for (int i = 0; i < 30; ++i) press(Qt::Key_Tab);
+  EXPECT_FALSE(front().isWindowModified());
+  EXPECT_TRUE(asked.empty());
+}
+
+TEST_F(Editing, keepsTheFocusInAFieldThatRefusesAndSaysWhatIsPermitted) {
+  open(singleton());
+  type("bpdField", "200.1");
+  EXPECT_FALSE(isOutlined("bpdField"));
+  press(Qt::Key_Tab);
+  EXPECT_EQ(focus(), "bpdField");
+  EXPECT_EQ(field("bpdField"), "200.1");
+  EXPECT_TRUE(isOutlined("bpdField"));
+  EXPECT_EQ(label("refusalLabel"), "Permitted: Biparietal diameter, 0 to 200 mm");
+  EXPECT_THAT(widget<QWidget>("bpdField").accessibleDescription().toStdString(), HasSubstr("Not permitted"));
+  EXPECT_EQ(bpd(), 82.0);
+  EXPECT_TRUE(asked.empty());
+  QTest::keyClick(&widget<QWidget>("bpdField"), Qt::Key_Backspace);  // "200."
+  EXPECT_FALSE(isOutlined("bpdField"));
+  EXPECT_EQ(label("refusalLabel"), "");
+  press(Qt::Key_Tab);
+  EXPECT_EQ(bpd(), 200.0);
+  EXPECT_EQ(focus(), "hcField");
+}
+
+TEST_F(Editing, holdsBackEveryActionWhileAFieldRefuses) {
+  open(twins());
+  type("hcField", "five");
+  click("previousButton");
+  EXPECT_EQ(label("examinationLabel"), "2 of 2");
+  EXPECT_EQ(focus(), "hcField");
+  press(Qt::Key_2, Qt::ControlModifier);
+  EXPECT_EQ(document().currentFetus(), 0);
+  EXPECT_EQ(widget<QComboBox>("multiplePopUp").currentIndex(), 0);
+  click("addFetusButton");
+  EXPECT_EQ(document().patientRecord()->numberOfFetuses(), 2);
+  press(Qt::Key_2, Qt::AltModifier);
+  EXPECT_EQ(widget<QTabWidget>("tabView").currentIndex(), 0);
+  press(Qt::Key_S, Qt::ControlModifier);
+  EXPECT_TRUE(front().isWindowModified());
+  EXPECT_EQ(field("hcField"), "five");
+  EXPECT_TRUE(isOutlined("hcField"));
+}
+
+TEST_F(Editing, letsTheWindowOfARefusingFieldClose) {
+  open(singleton());
+  const QPointer<qt::DocumentWindow> window = &front();
+  type("bpdField", "201");
+  press(Qt::Key_Tab);
+  answers = {"Discard"};
+  QTimer::singleShot(0, [window] { window->close(); });
+  EXPECT_TRUE(QTest::qWaitFor([&] { return window.isNull(); }));
+  EXPECT_TRUE(application.documents().documents().empty());
+}
+
+TEST_F(Editing, keepsARefusedTextWhenTheUserDoesNotCloseAfterAll) {
+  open(singleton());
+  type("bpdField", "201");
+  answers = {"Cancel"};
+  front().close();
+  settle();
+  EXPECT_EQ(field("bpdField"), "201");
+  EXPECT_EQ(application.documents().documents().size(), 1U);
+}
+
+TEST_F(Editing, doesNotEndWhenAnotherWindowComesToTheFront) {
+  open(singleton());
+  type("bpdField", "201");
+  QWidget other;
+  other.show();
+  other.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
+  settle();
+  EXPECT_EQ(document().fieldEditor().text(), "201");
+  EXPECT_FALSE(document().fieldEditor().isRefusing());
+}
+
+TEST_F(Editing, asksOnceBeforeAGravidityIsChanged) {
+  open(singleton());
+  answers = {"Modify"};
+  enter("gravidaField", "3");
+  ASSERT_EQ(asked.size(), 1U);
+  EXPECT_EQ(asked[0].message, "Gravidity is already specified");
+  EXPECT_EQ(asked[0].information, "Are you sure you want to modify it?");
+  EXPECT_THAT(asked[0].buttons, ElementsAre("Modify", "Cancel"));
+  EXPECT_EQ(document().patientRecord()->gravida(), 3);
+}
+
+TEST_F(Editing, leavesTheEDDWhenTheUserCancels) {
+  open(singleton());
+  answers = {"Cancel"};
+  type("birthDateField", "x");
+  ASSERT_EQ(asked.size(), 1U);
+  EXPECT_EQ(asked[0].message, "EDD is already specified");
+  EXPECT_EQ(asked[0].information, "Are you sure you want to modify the established EDD?");
+  EXPECT_EQ(field("birthDateField"), "4/10/27");
+  EXPECT_FALSE(front().isWindowModified());
+}
+
+struct Way {
+  const char* name;
+  void (*change)(QLineEdit& edit);
+};
+class EveryWayToType : public Editing, public testing::WithParamInterface<Way> {};
+
+TEST_P(EveryWayToType, asksOnceAndRestoresTheTextOnCancel) {
+  open(singleton());
+  QLineEdit& edit = widget<QLineEdit>("birthDateField");
+  edit.setFocus();
+  edit.selectAll();
+  answers = {"Cancel"};
+  GetParam().change(edit);
+  settle();
+  EXPECT_EQ(asked.size(), 1U);
+  EXPECT_EQ(edit.text(), QStringLiteral("4/10/27"));
+
+  front().activateWindow();
+  edit.setFocus();
+  edit.selectAll();
+  answers = {"Modify"};
+  GetParam().change(edit);
+  settle();
+  EXPECT_EQ(asked.size(), 2U);
+  EXPECT_EQ(edit.text(), QStringLiteral("5"));
+  QTest::keyClicks(&edit, QStringLiteral("/1/27"));
+  EXPECT_EQ(asked.size(), 2U);
+  EXPECT_EQ(edit.text(), QStringLiteral("5/1/27"));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    ways, EveryWayToType,
+    testing::Values(
+        Way{"aKey", [](QLineEdit& edit) { QTest::keyClick(&edit, Qt::Key_5); }},
+        Way{"pasting",
+            [](QLineEdit& edit) {
+              QGuiApplication::clipboard()->setText(QStringLiteral("5"));
+              QTest::keyClick(&edit, Qt::Key_V, Qt::ControlModifier);
+            }},
+        Way{"anInputMethod",
+            [](QLineEdit& edit) {
+              QInputMethodEvent event;
+              event.setCommitString(QStringLiteral("5"));
+              QCoreApplication::sendEvent(&edit, &event);
+            }},
+        Way{"dropping",
+            [](QLineEdit& edit) {
+              edit.clear();
+              QMimeData data;
+              data.setText(QStringLiteral("5"));
+              QDragEnterEvent enter({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+              QCoreApplication::sendEvent(&edit, &enter);
+              QDropEvent event(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+              QCoreApplication::sendEvent(&edit, &event);
+            }}),
+    [](const auto& row) { return std::string(row.param.name); });
+
+TEST_F(Editing, putsTheExaminationIntoItsPlaceWhenItsDateIsTyped) {
+  open(singleton());
+  enter("examDateField", "9/1/26");
+  EXPECT_EQ(label("examinationLabel"), "1 of 6");
+  EXPECT_EQ(field("bpdField"), "82.0");
+}
+
+TEST_F(Editing, saysHowADateIsRead) {
+  open(singleton());
+  EXPECT_EQ(label("birthDateLongForm"), "10 April 2027");
+  type("examDateField", "3/4/27");
+  EXPECT_EQ(label("examDateLongForm"), "4 March 2027");
+  type("examDateField", "soon");
+  EXPECT_EQ(label("examDateLongForm"), "no date");
+  QTest::keyClick(&widget<QWidget>("examDateField"), Qt::Key_A, Qt::ControlModifier);
+  QTest::keyClick(&widget<QWidget>("examDateField"), Qt::Key_Delete);
+  EXPECT_EQ(label("examDateLongForm"), "such as 3/24/27");
+}
+
+TEST_F(Editing, writesTheReferenceIDOfANewPatientInCapitals) {
+  openBlank();
+  enter("referenceIDField", "ab-7");
+  EXPECT_EQ(field("referenceIDField"), "AB-7");
+}
+
+TEST_F(Editing, keepsTheNoteWithItsExamination) {
+  open(singleton());
+  type("notesField", "breech");
+  EXPECT_TRUE(front().isWindowModified());
+  click("previousButton");
+  EXPECT_EQ(widget<QPlainTextEdit>("notesField").toPlainText(), QString());
+  click("nextButton");
+  EXPECT_EQ(widget<QPlainTextEdit>("notesField").toPlainText(), QStringLiteral("breech"));
+}
+
+TEST_F(Editing, goesFromFieldToFieldInTheOrderOfTheWork) {
+  open(singleton());
+  widget<QLineEdit>("examDateField").setFocus();
+  std::vector<std::string> visited;
+  for (int i = 0; i < 6; ++i) {
+    visited.push_back(focus());
+    press(Qt::Key_Tab);
+  }
+  EXPECT_THAT(visited,
+              ElementsAre("examDateField", "bpdField", "hcField", "acField", "flField", "notesField"));
+}
+
+TEST_F(Editing, opensAPatientsOwnDocumentInPlaceOfTheBlankOne) {
+  model::PatientRecord known = singleton();
+  writeFile(QString::fromStdString(platform.files.documentsFolder() + "/AB-123 (G2).nascor"),
+            documentBytes(known));
+  openBlank();
+  enter("referenceIDField", "ab-123");
+  answers = {"Open"};
+  enter("gravidaField", "2");
+  settle();
+  ASSERT_EQ(application.documents().documents().size(), 1U);
+  EXPECT_EQ(front().windowTitle(), QStringLiteral("AB-123 (G2).nascor[*]"));
+  EXPECT_EQ(field("bpdField"), "82.0");
+}
+
+TEST_F(Editing, refusesANegativeGravidity) {
+  openBlank();
+  enter("gravidaField", "-1");
+  EXPECT_EQ(focus(), "gravidaField");
+  EXPECT_THAT(label("refusalLabel"), HasSubstr("a whole number, 0 or more"));
+}
+
+}  // namespace
+}  // namespace nascor::tests

@@ -1,0 +1,172 @@
+// A walk over everything that is shown: in light and dark, with texts as they are and with longer ones.
+#include <QDialog>
+#include <QDir>
+#include <QMenu>
+#include <QMenuBar>
+#include <QSpinBox>
+#include <QStatusBar>
+#include <QStyleFactory>
+#include <QTranslator>
+
+#include "WindowTest.h"
+
+namespace nascor::tests {
+namespace {
+
+/// A language whose texts are 40 % longer.
+class Longer final : public QTranslator {
+ public:
+  bool isEmpty() const override { return false; }
+  QString translate(const char*, const char* source, const char*, int) const override {
+    const QString text = QString::fromUtf8(source);
+    if (text == QStringLiteral("d MMMM yyyy")) return text;
+    return text + QString((text.size() * 2 + 4) / 5, u'\u0151');
+  }
+};
+
+QPalette darkPalette() {
+  QPalette palette(QColor(0x30, 0x30, 0x30));
+  palette.setColor(QPalette::Base, QColor(0x20, 0x20, 0x20));
+  palette.setColor(QPalette::Highlight, QColor(0x2a, 0x60, 0xa8));
+  palette.setColor(QPalette::HighlightedText, Qt::white);
+  return palette;
+}
+
+double luminance(const QColor& color) {
+  const auto linear = [](double part) {
+    return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+  };
+  return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
+}
+double contrast(const QColor& a, const QColor& b) {
+  const double one = luminance(a) + 0.05;
+  const double other = luminance(b) + 0.05;
+  return std::max(one, other) / std::min(one, other);
+}
+
+struct Look {
+  const char* name;
+  bool isDark;
+  bool isLong;
+};
+
+class EveryWidget : public WindowTest, public testing::WithParamInterface<Look> {
+ protected:
+  EveryWidget() : oldPalette(QApplication::palette()) {
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setPalette(GetParam().isDark ? darkPalette() : QApplication::style()->standardPalette());
+    if (GetParam().isLong) QCoreApplication::installTranslator(&longer);
+  }
+  ~EveryWidget() override {
+    QCoreApplication::removeTranslator(&longer);
+    QApplication::setPalette(oldPalette);
+  }
+
+  static QString nameOf(const QWidget& shown) {
+    return QString::fromLatin1(shown.metaObject()->className()) + u' ' + shown.objectName();
+  }
+  static void expectRoom(const QWidget& shown) {
+    SCOPED_TRACE(nameOf(shown).toStdString());
+    if (const auto* edit = qobject_cast<const QLineEdit*>(&shown)) {
+      EXPECT_GE(edit->height(), edit->minimumSizeHint().height());
+      EXPECT_GE(edit->width(), edit->fontMetrics().horizontalAdvance(edit->text()) + 6);
+    } else if (qobject_cast<const QPlainTextEdit*>(&shown)) {
+      EXPECT_GE(shown.height(), 2 * shown.fontMetrics().lineSpacing());
+    } else {
+      EXPECT_GE(shown.width(), shown.sizeHint().width());
+      EXPECT_GE(shown.height(), shown.sizeHint().height());
+    }
+  }
+  static void expectContrast(const QWidget& shown) {
+    SCOPED_TRACE(nameOf(shown).toStdString());
+    const QPalette& palette = shown.palette();
+    const auto color = [&](QPalette::ColorRole role) { return palette.color(QPalette::Active, role); };
+    // A field that is only read lets the window through.
+    const auto background = [&](QPalette::ColorRole role) {
+      return color(role).alpha() > 0 ? color(role) : color(QPalette::Window);
+    };
+    EXPECT_GE(contrast(color(shown.foregroundRole()), background(shown.backgroundRole())), 4.5);
+    EXPECT_GE(contrast(color(QPalette::Text), background(QPalette::Base)), 4.5);
+    EXPECT_GE(contrast(color(QPalette::ButtonText), color(QPalette::Button)), 4.5);
+    if (dynamic_cast<const qt::FieldEdit*>(&shown)) {
+      EXPECT_GE(contrast(qt::refusalColor(palette), color(QPalette::Window)), 3.0);
+      EXPECT_GE(contrast(qt::refusalColor(palette), color(QPalette::Base)), 3.0);
+    }
+  }
+  /// The widgets of ours in `parent`: not those of which the toolkit makes its own.
+  static void walk(const QWidget& parent) {
+    QWidgetList siblings;
+    for (QObject* child : parent.children()) {
+      auto* shown = qobject_cast<QWidget*>(child);
+      if (!shown || !shown->isVisible() || shown->isWindow()) continue;
+      siblings << shown;
+      const bool isOurs = qobject_cast<QLabel*>(shown) || qobject_cast<QLineEdit*>(shown) ||
+                          qobject_cast<QAbstractButton*>(shown) || qobject_cast<QComboBox*>(shown) ||
+                          qobject_cast<QSpinBox*>(shown) || qobject_cast<QPlainTextEdit*>(shown);
+      if (isOurs) {
+        expectRoom(*shown);
+        expectContrast(*shown);
+      } else if (!qobject_cast<QMenuBar*>(shown) && !qobject_cast<QTabWidget*>(shown)) {
+        walk(*shown);
+      }
+    }
+    for (qsizetype i = 0; i < siblings.size(); ++i) {
+      for (qsizetype j = i + 1; j < siblings.size(); ++j) {
+        EXPECT_FALSE(siblings[i]->geometry().intersects(siblings[j]->geometry()))
+            << nameOf(*siblings[i]).toStdString() << " lies over " << nameOf(*siblings[j]).toStdString();
+      }
+    }
+  }
+  void keep(QWidget& shown, const char* what) {
+    QDir().mkpath(QStringLiteral(NASCOR_ARTEFACTS));
+    const QString path = QStringLiteral(NASCOR_ARTEFACTS "/%1-%2-%3x%4@%5.png")
+                             .arg(QLatin1String(what), QLatin1String(GetParam().name))
+                             .arg(shown.width())
+                             .arg(shown.height())
+                             .arg(shown.devicePixelRatio());
+    EXPECT_TRUE(shown.grab().save(path));
+  }
+
+  Longer longer;
+  QPalette oldPalette;
+};
+
+TEST_P(EveryWidget, hasItsRoomAndCanBeRead) {
+  open(twins());
+  qt::DocumentWindow& window = front();
+  widget<QTabWidget>("tabView").setCurrentIndex(1);
+  for (const QSize size : {window.minimumSizeHint(), QSize(1280, 800), QSize(1920, 1080)}) {
+    SCOPED_TRACE(size.width());
+    window.resize(size);
+    settle();
+    walk(window);
+    keep(window, "window");
+  }
+  EXPECT_LE(window.minimumSizeHint().width(), 1280);
+  EXPECT_LE(window.minimumSizeHint().height(), 720);
+  type("bpdField", "201");
+  press(Qt::Key_Tab);
+  settle();
+  walk(window);
+  keep(window, "refusing");
+  press(Qt::Key_Escape);
+  EXPECT_GE(contrast(window.palette().color(QPalette::Active, QPalette::WindowText),
+                     window.palette().color(QPalette::Active, QPalette::Window)),
+            4.5);
+
+  action("adjustDeliveryAction").trigger();
+  auto* panel = window.findChild<QDialog*>(QStringLiteral("adjustDeliveryPanel"));
+  ASSERT_TRUE(panel->isVisible());
+  settle();
+  walk(*panel);
+  keep(*panel, "adjust-delivery");
+  panel->close();
+}
+
+INSTANTIATE_TEST_SUITE_P(looks, EveryWidget,
+                         testing::Values(Look{"light", false, false}, Look{"dark", true, false},
+                                         Look{"lightLong", false, true}, Look{"darkLong", true, true}),
+                         [](const auto& row) { return std::string(row.param.name); });
+
+}  // namespace
+}  // namespace nascor::tests
