@@ -217,8 +217,9 @@ std::string upperCased(std::string_view text) {
     std::size_t length = 1;
     while (length < text.size() && (static_cast<unsigned char>(text[length]) & 0xC0) == 0x80) ++length;
     const std::string_view letter = text.substr(0, length);
-    const auto* form = std::lower_bound(std::begin(kCapitals), std::end(kCapitals), letter,
-                                        [](const CapitalForm& row, std::string_view wanted) { return row.letter < wanted; });
+    const auto* form =
+        std::lower_bound(std::begin(kCapitals), std::end(kCapitals), letter,
+                         [](const CapitalForm& row, std::string_view wanted) { return row.letter < wanted; });
     result += form != std::end(kCapitals) && form->letter == letter ? form->capital : letter;
     text.remove_prefix(length);
   }
