@@ -48,6 +48,13 @@ TEST_F(TheDocumentWindow, showsTheNewestExaminationOfItsPatient) {
   EXPECT_TRUE(isHighlighted(32.0, 82.0));
 }
 
+TEST_F(TheDocumentWindow, beginsWithTheExaminationOfAKnownPatientAndWithTheNameOfANewOne) {
+  open(singleton());
+  EXPECT_EQ(focus(), "examDateField");
+  openBlank();
+  EXPECT_EQ(focus(), "referenceIDField");
+}
+
 TEST_F(TheDocumentWindow, isTitledWithTheFilesNameAndMarkedWhenItWasEdited) {
   open(singleton());
   EXPECT_EQ(front().windowTitle(), QStringLiteral("AB-123.nascor[*]"));

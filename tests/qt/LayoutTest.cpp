@@ -149,6 +149,10 @@ TEST_P(EveryWidget, hasItsRoomAndCanBeRead) {
   settle();
   walk(window);
   keep(window, "refusing");
+  window.resize(window.minimumSizeHint());
+  settle();
+  walk(window);
+  keep(window, "refusing");
   press(Qt::Key_Escape);
   EXPECT_GE(contrast(window.palette().color(QPalette::Active, QPalette::WindowText),
                      window.palette().color(QPalette::Active, QPalette::Window)),

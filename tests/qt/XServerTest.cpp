@@ -2,6 +2,8 @@
 #include <gmock/gmock.h>
 
 #include <QApplication>
+#include <QDBusConnection>
+#include <QDBusMessage>
 #include <QDir>
 #include <QProcess>
 #include <QScreen>
@@ -302,16 +304,27 @@ TEST_F(OnAnXServer, refusesWhatIsNoFileOfThisMachineOnTheBus) {
   const SessionBus bus;
   start({});
   windowTitled(QStringLiteral("^Untitled"));
-  const auto call = [](const QString& method, const QStringList& arguments) {
-    return run("gdbus",
-               QStringList{"call", "--session", "--dest", "org.nascor.Nascor", "--object-path",
-                           "/org/nascor/Nascor", "--method", "org.freedesktop.Application." + method} +
-                   arguments);
-  };
-  EXPECT_THAT(call("Open", {"['https://somewhere/a.nascor']", "{}"}).error, HasSubstr("InvalidArgs"));
-  EXPECT_NE(call("Open", {"'a text'"}).status, 0);
-  EXPECT_NE(call("ActivateAction", {"unknown", "[]", "{}"}).status, 0);
-  EXPECT_EQ(call("Activate", {"{}"}).status, 0);
+  const QString name = QStringLiteral("a caller");
+  {
+    QDBusConnection caller =
+        QDBusConnection::connectToBus(qEnvironmentVariable("DBUS_SESSION_BUS_ADDRESS"), name);
+    ASSERT_TRUE(caller.isConnected());
+    const auto call = [&](const QString& method, const QVariantList& arguments) {
+      QDBusMessage message = QDBusMessage::createMethodCall(
+          QStringLiteral("org.nascor.Nascor"), QStringLiteral("/org/nascor/Nascor"),
+          QStringLiteral("org.freedesktop.Application"), method);
+      message.setArguments(arguments);
+      return caller.call(message, QDBus::Block, kPatience).errorName().toStdString();
+    };
+    const std::string wrong = "org.freedesktop.DBus.Error.InvalidArgs";
+    const std::string unknown = "org.freedesktop.DBus.Error.UnknownMethod";
+    EXPECT_EQ(call("Open", {QStringList{"https://somewhere/a.nascor"}, QVariantMap()}), wrong);
+    EXPECT_EQ(call("Open", {QStringLiteral("a text")}), wrong);
+    EXPECT_EQ(call("Close", {}), unknown);
+    EXPECT_EQ(call("ActivateAction", {QStringLiteral("unknown"), QVariantList(), QVariantMap()}), wrong);
+    EXPECT_EQ(call("Activate", {QVariantMap()}), "");
+  }
+  QDBusConnection::disconnectFromBus(name);
 }
 
 TEST_F(OnAnXServer, standsAloneWithoutABus) {

@@ -1,6 +1,7 @@
 A planned delivery is the day that it says (America/New_York)
 
-A day is not always 24 hours long: the clocks there spring forward on 14 March. A delivery planned a number of days from the EDD is on the day that
+A day is not always 24 hours long: the clocks there spring forward on 14 March.
+A delivery planned a number of days from the EDD is on the day that
 one counts to on the calendar, before and after such a change.
 
 {"zone":"America/New_York"}

@@ -1,6 +1,7 @@
 A planned delivery is the day that it says (Australia/Sydney)
 
-A day is not always 24 hours long: the clocks there fall back on 4 April. A delivery planned a number of days from the EDD is on the day that
+A day is not always 24 hours long: the clocks there fall back on 4 April.
+A delivery planned a number of days from the EDD is on the day that
 one counts to on the calendar, before and after such a change.
 
 {"zone":"Australia/Sydney"}

@@ -3,8 +3,8 @@
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>
-#include <QDir>
 #include <QFileInfo>
+#include <QHash>
 #include <QMetaObject>
 #include <QUrl>
 #include <QVariantMap>
@@ -74,25 +74,33 @@ QString ApplicationService::introspect(const QString&) const {
 }
 
 bool ApplicationService::handleMessage(const QDBusMessage& message, const QDBusConnection& connection) {
-  if (message.interface() != kInterface && !message.interface().isEmpty()) return false;
-  const QString member = message.member();
-  const QString signature = message.signature();
+  if (message.interface() != kInterface) return false;
+  const auto refuse = [&](QDBusError::ErrorType error, const QString& sentence) {
+    connection.send(message.createErrorReply(error, message.member() + QStringLiteral(": ") + sentence));
+    return true;
+  };
+  static const QHash<QString, QString> signatures{
+      {QStringLiteral("Activate"), QStringLiteral("a{sv}")},
+      {QStringLiteral("Open"), QStringLiteral("asa{sv}")},
+      {QStringLiteral("ActivateAction"), QStringLiteral("sava{sv}")}};
+  const auto signature = signatures.constFind(message.member());
+  if (signature == signatures.constEnd())
+    return refuse(QDBusError::UnknownMethod, QStringLiteral("there is no such method"));
+  if (message.signature() != *signature)
+    return refuse(QDBusError::InvalidArgs, QStringLiteral("expected the arguments ") + *signature);
+
   std::function<void()> act;
-  if (member == QStringLiteral("Open") && signature == QStringLiteral("asa{sv}")) {
+  if (message.member() == QStringLiteral("Open")) {
     const auto paths = localPaths(message.arguments().constFirst().toStringList());
-    if (!paths) {
-      connection.send(message.createErrorReply(QDBusError::InvalidArgs,
-                                               QStringLiteral("Open: only files of this machine")));
-      return true;
-    }
+    if (!paths)
+      return refuse(QDBusError::InvalidArgs, QStringLiteral("only files of this machine can be opened"));
     act = [this, files = *paths] { onOpen(files); };
-  } else if (member == QStringLiteral("Activate") && signature == QStringLiteral("a{sv}")) {
+  } else if (message.member() == QStringLiteral("Activate")) {
     act = [this] { onActivate(); };
-  } else if (member == QStringLiteral("ActivateAction") && signature == QStringLiteral("sava{sv}") &&
-             message.arguments().constFirst().toString() == QStringLiteral("new")) {
-    act = [this] { onNew(); };
   } else {
-    return false;
+    if (message.arguments().constFirst().toString() != QStringLiteral("new"))
+      return refuse(QDBusError::InvalidArgs, QStringLiteral("the one action is \"new\""));
+    act = [this] { onNew(); };
   }
   // Answered first: what follows may ask the user, and the caller is not to wait for that.
   connection.send(message.createReply());

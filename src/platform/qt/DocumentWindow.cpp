@@ -100,7 +100,8 @@ DocumentWindow::DocumentWindow(NCDocument& document, WindowEnvironment environme
   showExaminations();
   showStandards();
   showLongDates();
-  ui_->referenceIDField->setFocus();
+  // The work on a known patient begins with the examination; a stray key is not to change who it is.
+  (document.filePath() ? ui_->examDateField : ui_->referenceIDField)->setFocus();
 }
 
 DocumentWindow::~DocumentWindow() { release(); }
