@@ -264,7 +264,8 @@ class TextForm final : public Form {
     out.append(kOffsetWidth - std::min(kOffsetWidth, place.size()), ' ');
     out += place;
     out.append(2 + 2 * std::min(depth_, kDeepestIndentation), ' ');
-    out += text;
+    // Names of classes and types come from outside.
+    out += foundation::oneLine(text);
     out += '\n';
   }
 

@@ -1,5 +1,6 @@
 #include "charts/NascorGraphView.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "calc/LookUp.h"
@@ -132,8 +133,12 @@ void NascorGraphView::plotDataPoints() {
     if (selected >= 0) plotFetus(selected, true);
     return;
   }
+  // A file may name any number of fetuses. Those beyond the symbols show nothing unless they are selected.
+  constexpr std::int64_t kSymbols = 5;
   const std::int64_t count = owningDocument()->patientRecord()->numberOfFetuses();
-  for (std::int64_t fetus = 0; fetus < count; ++fetus) plotFetus(fetus, fetus == selected);
+  for (std::int64_t fetus = 0; fetus < std::min(count, kSymbols); ++fetus)
+    plotFetus(fetus, fetus == selected);
+  if (selected >= kSymbols && selected < count) plotFetus(selected, true);
 }
 
 void NascorGraphView::plotFetus(std::int64_t fetus, bool isSelected) {

@@ -40,4 +40,31 @@ bool isValidUtf8(std::string_view bytes) {
   return true;
 }
 
+std::string oneLine(std::string_view text) {
+  constexpr std::string_view kHexDigits = "0123456789abcdef";
+  std::string line;
+  while (!text.empty()) {
+    const std::size_t length = characterLength(text);
+    const auto byte = static_cast<unsigned char>(text.front());
+    // U+0080 to U+009F are control characters too; in UTF-8 they begin with C2.
+    const bool isC1 = length == 2 && byte == 0xC2 && static_cast<unsigned char>(text[1]) < 0xA0;
+    if (length == 0) {
+      line += "\xEF\xBF\xBD";
+    } else if (byte == '\n') {
+      line += "\\n";
+    } else if (byte == '\t') {
+      line += "\\t";
+    } else if (byte < 0x20 || byte == 0x7F || isC1) {
+      const auto code = isC1 ? static_cast<unsigned char>(text[1]) : byte;
+      line += "\\x";
+      line += kHexDigits[code >> 4U];
+      line += kHexDigits[code & 15U];
+    } else {
+      line += text.substr(0, length);
+    }
+    text.remove_prefix(length == 0 ? 1 : length);
+  }
+  return line;
+}
+
 }  // namespace nascor::foundation

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <string_view>
 
 namespace nascor::foundation {
@@ -7,5 +8,9 @@ namespace nascor::foundation {
 /// Whether `bytes` are well-formed UTF-8: no overlong forms, no surrogates, nothing above U+10FFFF. NUL is a
 /// character like any other.
 bool isValidUtf8(std::string_view bytes);
+
+/// `text` with its control characters made visible (`\n`, `\x1b`) and bytes that are no UTF-8 replaced, so that a name
+/// from outside stays on one line and gives a terminal no orders.
+std::string oneLine(std::string_view text);
 
 }  // namespace nascor::foundation

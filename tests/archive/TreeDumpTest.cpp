@@ -120,6 +120,14 @@ TEST(DumpingAsText, putsTheValuesOfAGroupUnderItsTypes) {
 )");
 }
 
+TEST(DumpingAsText, givesATerminalNoOrders) {
+  const std::string text = dumpAsText(little("84 01 '#' 84 84 05 1b '[31m' 00 85"));
+  EXPECT_EQ(text.find('\x1b'), std::string::npos);
+  EXPECT_NE(text.find("\\x1b[31m"), std::string::npos);
+  // DEL, and the control characters beyond ASCII.
+  EXPECT_NE(dumpAsText(little("84 01 '+' 04 7f c2 9b 'm'")).find("\\x7f\\x9bm"), std::string::npos);
+}
+
 TEST(DumpingAsText, showsAGroupOfNoValues) {
   EXPECT_EQ(dumpAsText(little("84 00")),
             "typed stream, little-endian, system version 1000\n      16  group \"\"\n");

@@ -247,6 +247,14 @@ TEST_F(AGrowthChart, writesTheTitleOfASixthFetusWithoutASymbol) {
   EXPECT_NE(canvas.text("Fetus 5"), nullptr);
 }
 
+TEST_F(AGrowthChart, takesNoLongerForAFetusCountThatADamagedFileNames) {
+  document.setFetuses(2);
+  document.addExamination(20, {{.bpd = 47}, {.bpd = 48}});
+  document.patient.setNumberOfFetuses(std::int64_t{1} << 50);
+  make<BPDGraphView>()->display(canvas);
+  EXPECT_EQ(canvas.of(Kind::mark).size(), 2U + 2U);
+}
+
 TEST_F(AGrowthChart, isDrawnWithoutADocumentAndWithoutAPatient) {
   const auto bare = framework::make<BPDGraphView>(platform.services(), {0, 0, 800, 500});
   bare->display(canvas);

@@ -155,9 +155,9 @@ TEST_F(TheDocumentWindow, choosesEachFetusByItsKey) {
   const Qt::Key keys[] = {Qt::Key_1, Qt::Key_2, Qt::Key_3, Qt::Key_4, Qt::Key_5};
   for (const int i : {4, 1, 3, 0, 2}) {
     press(keys[i], Qt::ControlModifier);
-    EXPECT_EQ(field("bpdField"), "3" + std::to_string(i + 1) + ".0");
+    EXPECT_EQ(field("bpdField"), std::to_string(30 + i + 1).append(".0"));
     EXPECT_EQ(widget<QComboBox>("multiplePopUp").currentText(), QStringLiteral("Quin %1 of 5").arg(i + 1));
-    EXPECT_TRUE(action(("fetusAction" + std::to_string(i + 1)).c_str()).isChecked());
+    EXPECT_TRUE(action(std::string("fetusAction").append(std::to_string(i + 1)).c_str()).isChecked());
   }
   EXPECT_FALSE(widget<QToolButton>("addFetusButton").isEnabled());
 }

@@ -64,7 +64,9 @@ Command checkCommand() {
               "length beyond\n"
               "what can be typed, an old class version. It leaves the exit status at 0; a file that cannot "
               "be read\n"
-              "makes it 1.\n",
+              "makes it 1. Keys of the JSON: file, and oddities, an array of objects with kind, examination, "
+              "fetus,\n"
+              "text.\n",
           .operands = kOperands,
           .options = kOptions,
           .run = runCheck};

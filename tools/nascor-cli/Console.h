@@ -6,6 +6,8 @@
 #include <string>
 #include <string_view>
 
+#include "foundation/Utf8.h"
+
 namespace nascor::cli {
 
 /// Standard output could not be written. Ends the program with status 1.
@@ -21,9 +23,7 @@ class OutputError : public std::runtime_error {
   bool readerIsGone_;
 };
 
-/// `text` with its control characters made visible (`\n`, `\x1b`) and bytes that are no UTF-8 replaced, so that a name
-/// from outside stays on one line and gives a terminal no orders.
-std::string oneLine(std::string_view text);
+using foundation::oneLine;
 
 /// Standard output and standard error.
 class Console {

@@ -20,7 +20,7 @@ void runJson(const Arguments& arguments, Console& console) {
     const auto document = documentIn(path, console);
     if (!document) continue;
     foundation::JsonText json(console.out());
-    model::writePatientJson(json, *document->patient, calendar, model::JsonNumbers::asInFile);
+    model::writePatientJson(json, *document->patient, calendar, model::JsonNumbers::inMemory);
     console.lineDone();
   }
 }
@@ -82,7 +82,13 @@ Command jsonCommand() {
       .name = "json",
       .usage = "FILE...",
       .summary = "Each document as JSON: every field that it holds, one object on a line.",
-      .details = "Dates are seconds since 2001-01-01 UTC; beside each stands its local time as ISO text.\n",
+      .details =
+          "Keys: maternalIDString, edd, eddISO, standard, fetalWeightStandard, numberOfFetuses,\n"
+          "extrapolatedGestation (weeks), crlStandard, gravida, and examinations, an array of objects with "
+          "note,\n"
+          "examDate, examDateISO and measurements, an array of objects with bpd, hc, ac and fl (mm; 0 = not\n"
+          "measured). Dates are seconds since 2001-01-01 UTC; beside each stands its local time as ISO "
+          "text.\n",
       .operands = kOperands,
       .options = {},
       .run = runJson};
@@ -93,18 +99,22 @@ Command makeCommand() {
       {{"FILE.json", "a document as JSON; - is standard input"}}};
   static constexpr std::array<OptionSpec, 1> kOptions{
       {{"out", "FILE", "where to write it, as a whole or not at all; without it, or -, to standard output"}}};
-  return {.name = "make",
-          .usage = "FILE.json [--out FILE]",
-          .summary = "A document from JSON.",
-          .details =
-              "Reads what json prints. Every key may be missing; an unknown one is an error. A date is a "
-              "number of\n"
-              "seconds since 2001-01-01 UTC, an ISO date (2027-04-10 is local midnight), an ISO date and "
-              "time, or\n"
-              "null. Lengths are stored in single precision, whole numbers in 32 bits.\n",
-          .operands = kOperands,
-          .options = kOptions,
-          .run = runMake};
+  return {
+      .name = "make",
+      .usage = "FILE.json [--out FILE]",
+      .summary = "A document from JSON.",
+      .details =
+          "Reads what json prints: maternalIDString, edd, standard, fetalWeightStandard, numberOfFetuses,\n"
+          "extrapolatedGestation (weeks), crlStandard, gravida, and examinations, an array of objects with\n"
+          "note, examDate and measurements, an array of objects with bpd, hc, ac and fl (mm). Every key may "
+          "be\n"
+          "missing; an unknown one is an error. A date is a number of\n"
+          "seconds since 2001-01-01 UTC, an ISO date (2027-04-10 is local midnight), an ISO date and "
+          "time, or\n"
+          "null. Lengths are stored in single precision, whole numbers in 32 bits.\n",
+      .operands = kOperands,
+      .options = kOptions,
+      .run = runMake};
 }
 
 Command dumpCommand() {
@@ -114,7 +124,10 @@ Command dumpCommand() {
   return {.name = "dump",
           .usage = "FILE... [--json]",
           .summary = "All that a typed stream holds, as a tree; of any program, not only documents.",
-          .details = "Each line begins with the byte at which the value begins.\n",
+          .details =
+              "Each line begins with the byte at which the value begins. Keys of the JSON: byte_order,\n"
+              "system_version, and groups, an array of objects with types and values; docs/json.md lists the "
+              "values.\n",
           .operands = kOperands,
           .options = kOptions,
           .run = runDump};

@@ -107,16 +107,19 @@ Command weightCommand() {
       {"fl", "MM", "femur length"},
       {"json", "", "an array of eight numbers, by identifier of the formula"},
   }};
-  return {.name = "weight",
-          .usage = "[--bpd MM] [--hc MM] [--ac MM] [--fl MM] [--json]",
-          .summary = "The estimated weight of one fetus by each of the eight formulas, in grams.",
-          .details =
-              "A length that is not given is 0, which means not measured. Where a formula needs it, the "
-              "weight is\n"
-              "a dash (0 in JSON).\n",
-          .operands = {},
-          .options = kOptions,
-          .run = runWeight};
+  return {
+      .name = "weight",
+      .usage = "[--bpd MM] [--hc MM] [--ac MM] [--fl MM] [--json]",
+      .summary = "The estimated weight of one fetus by each of the eight formulas, in grams.",
+      .details =
+          "A length that is not given is 0, which means not measured. Where a formula needs it, the "
+          "weight is\n"
+          "a dash (0 in JSON). The formulas, by identifier: 0 Hadlock 1 (HC/AC/FL), 1 Hadlock 2 (AC/FL),\n"
+          "2 Hadlock 3 (BPD/AC/FL), 3 Hadlock 4 (BPD/HC/AC/FL), 4 Campbell (AC), 5 Combs (HC/AC/FL),\n"
+          "6 Ott (HC/AC/FL), 7 Shepard (BPD/AC).\n",
+      .operands = {},
+      .options = kOptions,
+      .run = runWeight};
 }
 
 Command crlCommand() {
@@ -130,7 +133,9 @@ Command crlCommand() {
           .details =
               "One line a length, columns separated by tabs. Outside the range of a formula the age is a "
               "dash (0 in\n"
-              "JSON). A line of standard input that is no number is answered by nan (null in JSON).\n",
+              "JSON). A line of standard input that is no number is answered by nan (null in JSON).\n"
+              "The formulas, by identifier: 0 Hadlock (1992), 2 to 120 mm; 1 Nelson (1981), 6.7 to 82.4 mm;\n"
+              "2 Robinson (1975), 7 to 79.6 mm; 3 Westerway (2000), 2 to 87 mm.\n",
           .operands = kOperands,
           .options = kOptions,
           .run = runCRL};

@@ -21,6 +21,8 @@ constexpr std::string_view kStandardInput = "standard input";
 bool readStandardInput(Console& console, const std::function<bool(std::span<const char>)>& take) {
   std::array<char, 65536> piece;
   for (;;) {
+    // Whoever waits for an answer before writing the next line has it now.
+    console.flush();
     const ssize_t count = ::read(STDIN_FILENO, piece.data(), piece.size());
     if (count == 0) return true;
     if (count > 0) {

@@ -324,7 +324,11 @@ Command reportCommand() {
           .details =
               "Date and Menstrual Age are those of the last examination. Days are those of the local time "
               "zone. The\n"
-              "projection is there when the last examination lies from 30 weeks to the planned delivery.\n",
+              "projection is there when the last examination lies from 30 weeks to the planned delivery. "
+              "Keys of\n"
+              "the JSON, among others: file, maternalIDString, edd, fetuses, in each examinations (age in "
+              "weeks;\n"
+              "bpd, hc, ac, fl in mm; efw in g) and projected; docs/json.md lists them all.\n",
           .operands = kOperands,
           .options = kOptions,
           .run = runReport};

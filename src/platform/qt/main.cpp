@@ -57,6 +57,7 @@ int nascorMain(int argc, char** argv) {
                                "[FILE...]");
   if (!parser.parse(QCoreApplication::arguments())) {
     say(stderr, parser.errorText());
+    say(stderr, QStringLiteral("usage: nascor [--write-pages FOLDER] [FILE...]"));
     return kWrongUsage;
   }
   if (parser.isSet(help)) {
