@@ -1,5 +1,6 @@
 #include "app/NCAppController.h"
 
+#include <algorithm>
 #include <array>
 
 #include "calc/Dating.h"
@@ -10,7 +11,6 @@
 
 namespace nascor::app {
 
-using foundation::Localizer;
 using framework::MenuItem;
 namespace defaults_key = foundation::defaults_key;
 namespace string_table = foundation::string_table;
@@ -107,12 +107,12 @@ std::vector<MenuItem> NCAppController::standardsMenuItems() const {
 }
 
 bool NCAppController::chooseStandard(const MenuItem& item) {
-  for (const StandardsMenu& menu : kStandardsMenus) {
-    if (item.menuTitle != localized(menu.title)) continue;
-    (this->*menu.choose)(item);
-    return true;
-  }
-  return false;
+  const auto menu = std::ranges::find_if(kStandardsMenus, [&](const StandardsMenu& candidate) {
+    return item.menuTitle == localized(candidate.title);
+  });
+  if (menu == kStandardsMenus.end()) return false;
+  (this->*menu->choose)(item);
+  return true;
 }
 
 NCDocument* NCAppController::currentDocument() const {

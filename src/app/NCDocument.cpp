@@ -129,11 +129,14 @@ const model::NCRecord* NCDocument::examination(std::int64_t exam) const {
 }
 
 model::NCRecord* NCDocument::currentExamination() {
-  return const_cast<model::NCRecord*>(examination(currentExam()));
+  if (currentExam() < 0 || currentExam() >= numberOfExaminations()) return nullptr;
+  return patientRecord_->ncRecordsArray()[static_cast<std::size_t>(currentExam())].get();
 }
 
 model::MeasurementsRecord* NCDocument::currentMeasurements() {
-  return const_cast<model::MeasurementsRecord*>(measurementsForFetus(currentFetus_, currentExam()));
+  model::NCRecord* exam = currentExamination();
+  if (exam == nullptr || measurementsForFetus(currentFetus_, currentExam()) == nullptr) return nullptr;
+  return &exam->measurementsForFetus(currentFetus_);
 }
 
 double NCDocument::extrapolatedBPDForCurrentFetus() {

@@ -1,6 +1,7 @@
 // Examinations and fetuses: adding, removing, putting in order, choosing.
 
 #include <algorithm>
+#include <compare>
 
 #include "app/NCDocument.h"
 #include "calc/Dating.h"
@@ -48,8 +49,9 @@ void NCDocument::updateArrayOrder() {
   if (!patientRecord_) return;
   const model::NCRecord* onShow = examination(currentExam());
   synchronizeToData();
-  std::ranges::stable_sort(patientRecord_->ncRecordsArray(),
-                           [](const auto& one, const auto& other) { return one->compare(*other) < 0; });
+  std::ranges::stable_sort(patientRecord_->ncRecordsArray(), [](const auto& one, const auto& other) {
+    return std::is_lt(one->compare(*other));
+  });
   setCurrentRecordFromRecord(onShow);
   synchronizeFromData();
 }

@@ -28,7 +28,8 @@ bool FieldEditor::end() {
   if (!field_ || isEnding_) return true;
   TextField& field = *field_;
   TextFieldDelegate* delegate = field.delegate();
-  isRefusing_ = !field.accepts(text_) || (delegate && !delegate->controlTextShouldEndEditing(field, text_));
+  isRefusing_ =
+      !field.accepts(text_) || (delegate != nullptr && !delegate->controlTextShouldEndEditing(field, text_));
   if (isRefusing_) {
     changed();
     return false;

@@ -1,7 +1,9 @@
 #include "model/CharacterSets.h"
 
 #include <algorithm>
+#include <array>
 #include <iterator>
+#include <span>
 
 namespace nascor::model {
 namespace {
@@ -13,7 +15,7 @@ struct CodePointRange {
 
 // Unicode 14.0.0, general categories L* and M*, and P*.
 // clang-format off
-constexpr CodePointRange kLetters[] = {
+constexpr auto kLetters = std::to_array<CodePointRange>({
     {0x0041, 0x005A}, {0x0061, 0x007A}, {0x00AA, 0x00AA}, {0x00B5, 0x00B5}, {0x00BA, 0x00BA}, {0x00C0, 0x00D6},
     {0x00D8, 0x00F6}, {0x00F8, 0x02C1}, {0x02C6, 0x02D1}, {0x02E0, 0x02E4}, {0x02EC, 0x02EC}, {0x02EE, 0x02EE},
     {0x0300, 0x0374}, {0x0376, 0x0377}, {0x037A, 0x037D}, {0x037F, 0x037F}, {0x0386, 0x0386}, {0x0388, 0x038A},
@@ -143,9 +145,9 @@ constexpr CodePointRange kLetters[] = {
     {0x1EE79, 0x1EE7C}, {0x1EE7E, 0x1EE7E}, {0x1EE80, 0x1EE89}, {0x1EE8B, 0x1EE9B}, {0x1EEA1, 0x1EEA3},
     {0x1EEA5, 0x1EEA9}, {0x1EEAB, 0x1EEBB}, {0x20000, 0x2A6DF}, {0x2A700, 0x2B738}, {0x2B740, 0x2B81D},
     {0x2B820, 0x2CEA1}, {0x2CEB0, 0x2EBE0}, {0x2F800, 0x2FA1D}, {0x30000, 0x3134A}, {0xE0100, 0xE01EF},
-};
+});
 
-constexpr CodePointRange kPunctuation[] = {
+constexpr auto kPunctuation = std::to_array<CodePointRange>({
     {0x0021, 0x0023}, {0x0025, 0x002A}, {0x002C, 0x002F}, {0x003A, 0x003B}, {0x003F, 0x0040}, {0x005B, 0x005D},
     {0x005F, 0x005F}, {0x007B, 0x007B}, {0x007D, 0x007D}, {0x00A1, 0x00A1}, {0x00A7, 0x00A7}, {0x00AB, 0x00AB},
     {0x00B6, 0x00B7}, {0x00BB, 0x00BB}, {0x00BF, 0x00BF}, {0x037E, 0x037E}, {0x0387, 0x0387}, {0x055A, 0x055F},
@@ -180,15 +182,12 @@ constexpr CodePointRange kPunctuation[] = {
     {0x11FFF, 0x11FFF}, {0x12470, 0x12474}, {0x12FF1, 0x12FF2}, {0x16A6E, 0x16A6F}, {0x16AF5, 0x16AF5},
     {0x16B37, 0x16B3B}, {0x16B44, 0x16B44}, {0x16E97, 0x16E9A}, {0x16FE2, 0x16FE2}, {0x1BC9F, 0x1BC9F},
     {0x1DA87, 0x1DA8B}, {0x1E95E, 0x1E95F},
-};
+});
 // clang-format on
 
-template <std::size_t N>
-bool contains(const CodePointRange (&ranges)[N], char32_t point) {
-  const auto* after =
-      std::upper_bound(std::begin(ranges), std::end(ranges), point,
-                       [](char32_t p, const CodePointRange& range) { return p < range.first; });
-  return after != std::begin(ranges) && point <= std::prev(after)->last;
+bool contains(std::span<const CodePointRange> ranges, char32_t point) {
+  const auto after = std::ranges::upper_bound(ranges, point, {}, &CodePointRange::first);
+  return after != ranges.begin() && point <= std::prev(after)->last;
 }
 
 bool isContinuation(char byte) { return (static_cast<unsigned char>(byte) & 0xC0) == 0x80; }

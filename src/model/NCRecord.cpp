@@ -33,7 +33,10 @@ std::weak_ordering NCRecord::compare(const NCRecord& other) const {
   const auto isDated = [](const NCRecord& record) {
     return record.examDate_ && !std::isnan(record.examDate_->secondsSince2001);
   };
-  if (!isDated(*this) || !isDated(other)) return isDated(*this) <=> isDated(other);
+  if (isDated(*this) != isDated(other)) {
+    return isDated(other) ? std::weak_ordering::less : std::weak_ordering::greater;
+  }
+  if (!isDated(*this)) return std::weak_ordering::equivalent;
   const double mine = examDate_->secondsSince2001;
   const double others = other.examDate_->secondsSince2001;
   if (mine < others) return std::weak_ordering::less;

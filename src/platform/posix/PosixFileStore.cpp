@@ -64,9 +64,9 @@ class Descriptor {
 class TemporaryFile {
  public:
   explicit TemporaryFile(const std::string& folder)
-      : path_(folder + ".nascor-XXXXXX"), descriptor_(::mkostemp(path_.data(), O_CLOEXEC)) {
-    isThere_ = descriptor_.isOpen();
-  }
+      : path_(folder + ".nascor-XXXXXX"),
+        descriptor_(::mkostemp(path_.data(), O_CLOEXEC)),
+        isThere_(descriptor_.isOpen()) {}
   TemporaryFile(const TemporaryFile&) = delete;
   TemporaryFile& operator=(const TemporaryFile&) = delete;
   ~TemporaryFile() {

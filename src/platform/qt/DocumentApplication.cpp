@@ -75,7 +75,7 @@ void DocumentApplication::openNow(const QStringList& paths) {
   QStringList sentences;
   for (const QString& path : paths) {
     std::string error;
-    if (documents_.openDocument(QFile::encodeName(path).toStdString(), error)) continue;
+    if (documents_.openDocument(QFile::encodeName(path).toStdString(), error) != nullptr) continue;
     recentFiles_.forget(path);
     sentences << fromUtf8(error);
   }
@@ -133,7 +133,7 @@ void DocumentApplication::removeWindow(ZuDocument& document) {
   if (windows_.empty() && onLastDocumentClosed) onLastDocumentClosed();
 }
 
-void DocumentApplication::bringToFront(ZuDocument& document) {
+void DocumentApplication::bringToFront(const ZuDocument& document) const {
   DocumentWindow* window = windowOf(document);
   if (!window || window->isActiveWindow()) return;
   if (window->isMinimized()) window->setWindowState(window->windowState() & ~Qt::WindowMinimized);

@@ -48,7 +48,7 @@ class DocumentApplication {
   void openNow(const QStringList& paths);
   void addWindow(framework::ZuDocument& document);
   void removeWindow(framework::ZuDocument& document);
-  void bringToFront(framework::ZuDocument& document);
+  void bringToFront(const framework::ZuDocument& document) const;
   QWidget* frontWindow() const;
 
   foundation::Services services_;

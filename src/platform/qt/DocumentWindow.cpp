@@ -12,6 +12,7 @@
 #include <QScreen>
 #include <QScrollBar>
 #include <QSignalBlocker>
+#include <array>
 
 #include "calc/EditingBounds.h"
 #include "calc/FetalWeight.h"
@@ -59,16 +60,18 @@ QStringList localFiles(const QMimeData* data) {
 }  // namespace
 
 DocumentWindow::DocumentWindow(NCDocument& document, WindowEnvironment environment)
-    : environment_(std::move(environment)), document_(&document), ui_(std::make_unique<Ui::MyDocument>()) {
+    : environment_(std::move(environment)),
+      document_(&document),
+      ui_(std::make_unique<Ui::MyDocument>()),
+      refusalLabel_(new QLabel),
+      growthLabel_(new QLabel),
+      weightLabel_(new QLabel) {
   ui_->setupUi(this);
-  refusalLabel_ = new QLabel;
   refusalLabel_->setObjectName(QStringLiteral("refusalLabel"));
   ui_->statusBar->addWidget(refusalLabel_, 1);
-  growthLabel_ = new QLabel;
   growthLabel_->setObjectName(QStringLiteral("growthStandardLabel"));
   growthLabel_->setContentsMargins(12, 0, 12, 0);
   ui_->statusBar->addPermanentWidget(growthLabel_);
-  weightLabel_ = new QLabel;
   weightLabel_->setObjectName(QStringLiteral("fetalWeightLabel"));
   ui_->statusBar->addPermanentWidget(weightLabel_);
 
@@ -154,15 +157,15 @@ void DocumentWindow::focusFieldInEdit() {
 
 void DocumentWindow::bindFields() {
   framework::FieldEditor& editor = document_->fieldEditor();
-  const std::pair<FieldEdit*, framework::TextField*> fields[] = {
-      {ui_->referenceIDField, &document_->referenceIDField()},
-      {ui_->gravidaField, &document_->gravidaField()},
-      {ui_->birthDateField, &document_->birthDateField()},
-      {ui_->examDateField, &document_->examDateField()},
-      {ui_->bpdField, &document_->bpdField()},
-      {ui_->hcField, &document_->hcField()},
-      {ui_->acField, &document_->acField()},
-      {ui_->flField, &document_->flField()}};
+  const std::array<std::pair<FieldEdit*, framework::TextField*>, 8> fields{
+      {{ui_->referenceIDField, &document_->referenceIDField()},
+       {ui_->gravidaField, &document_->gravidaField()},
+       {ui_->birthDateField, &document_->birthDateField()},
+       {ui_->examDateField, &document_->examDateField()},
+       {ui_->bpdField, &document_->bpdField()},
+       {ui_->hcField, &document_->hcField()},
+       {ui_->acField, &document_->acField()},
+       {ui_->flField, &document_->flField()}}};
   for (const auto& [edit, field] : fields)
     bindings_.push_back(new FieldBinding(*edit, *field, editor, environment_.actions));
   bindReadOnly(*ui_->ageField, document_->ageField());
@@ -331,7 +334,7 @@ void DocumentWindow::bindEditActions() {
 
 void DocumentWindow::bindStandardsMenus() {
   // The menus of this form stand in the order in which the controller gives theirs.
-  QMenu* const menus[] = {ui_->standardsMenu, ui_->fetalWeightMenu, ui_->crownRumpLengthMenu};
+  const std::array menus{ui_->standardsMenu, ui_->fetalWeightMenu, ui_->crownRumpLengthMenu};
   QString taken = mnemonicsOf(*ui_->menuBar, *ui_->patientPanel);
   std::size_t next = 0;
   std::string title;
@@ -410,8 +413,8 @@ void DocumentWindow::showEditing() {
 void DocumentWindow::showLongDates() {
   const foundation::ShortDateForm form = environment_.services.localizer.shortDateForm();
   const QString example = said("such as %1").arg(fromUtf8(foundation::shortDateText({2027, 3, 24}, form)));
-  const std::pair<const FieldEdit*, QLabel*> dates[] = {{ui_->birthDateField, ui_->birthDateLongForm},
-                                                        {ui_->examDateField, ui_->examDateLongForm}};
+  const std::array<std::pair<const FieldEdit*, QLabel*>, 2> dates{
+      {{ui_->birthDateField, ui_->birthDateLongForm}, {ui_->examDateField, ui_->examDateLongForm}}};
   for (const auto& [edit, label] : dates) {
     const QString text = edit->text().trimmed();
     const QString inWords = longDateText(text, form);

@@ -34,7 +34,7 @@ class FieldBinding final : public QObject {
   void typed(const QString& text);
   void leave();
   bool escape();
-  bool isInEdit() const { return field_ && editor_.field() == field_; }
+  bool isInEdit() const { return field_ != nullptr && editor_.field() == field_; }
 
   FieldEdit& edit_;
   framework::TextField* field_;

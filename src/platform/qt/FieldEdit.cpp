@@ -39,7 +39,8 @@ void FieldEdit::focusOutEvent(QFocusEvent* event) {
 
 bool FieldEdit::event(QEvent* event) {
   // While the field is in edit Escape is its own, whatever shortcut it may be elsewhere.
-  if (event->type() == QEvent::ShortcutOverride && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape)
+  const auto* key = dynamic_cast<const QKeyEvent*>(event);
+  if (event->type() == QEvent::ShortcutOverride && key != nullptr && key->key() == Qt::Key_Escape)
     event->accept();
   return QLineEdit::event(event);
 }

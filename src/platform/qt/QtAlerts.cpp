@@ -92,7 +92,7 @@ void QtAlerts::tell(const std::string& message, const std::string& information) 
 
 bool hasSheet(const QWidget& window) {
   const auto* box = window.findChild<QMessageBox*>(kSheetName, Qt::FindDirectChildrenOnly);
-  return box && box->isVisible();
+  return box != nullptr && box->isVisible();
 }
 
 }  // namespace nascor::qt

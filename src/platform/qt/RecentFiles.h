@@ -21,7 +21,7 @@ class RecentFiles {
   void clear();
 
  private:
-  void keep(const QStringList& paths);
+  void keep(const QStringList& all);
   foundation::UserDefaults& defaults_;
 };
 
