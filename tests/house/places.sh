@@ -3,7 +3,7 @@
 . "$(dirname "$0")/common.sh" "$@"
 cd "$root"
 
-for layer in foundation model calc framework charts app; do
+for layer in foundation model calc framework charts app scripting; do
   checks=$((checks + 1))
   [[ "${folder_of[$layer]:-}" == "src/$layer" ]] || wrong "The layer $layer stands in ${folder_of[$layer]:-no folder}"
 done

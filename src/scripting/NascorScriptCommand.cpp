@@ -1,0 +1,36 @@
+#include "scripting/NascorScriptCommand.h"
+
+#include "app/NCDocument.h"
+#include "foundation/Assertion.h"
+
+namespace nascor::scripting {
+namespace {
+
+using foundation::SourceLocation;
+
+// What is reported when something is missing. Callers know the three cases by these lines, so they do not move with the
+// text of this file.
+constexpr const char* kSource = "NascorScriptCommand";
+constexpr SourceLocation kNoDescription = SourceLocation::current(kSource, 10);
+constexpr SourceLocation kNoName = SourceLocation::current(kSource, 11);
+constexpr SourceLocation kNoDocument = SourceLocation::current(kSource, 22);
+
+}  // namespace
+
+ScriptValue NascorScriptCommand::performDefaultImplementation() {
+  const std::string& name =
+      *foundation::required(foundation::required(commandDescription(), kNoDescription)->commandName, kNoName);
+  if (name == "make new document") {
+    log_.write(name);
+    documents_.newDocument();
+  }
+  if (name == "export to file") {
+    log_.write(name);
+    auto* document =
+        foundation::required(dynamic_cast<app::NCDocument*>(documents_.currentDocument()), kNoDocument);
+    static_cast<void>(document);
+  }
+  return {};
+}
+
+}  // namespace nascor::scripting

@@ -1,0 +1,68 @@
+#include "scripting/NascorScriptCommand.h"
+
+#include <gmock/gmock.h>
+
+#include "app/NCDocument.h"
+#include "foundation/Assertion.h"
+#include "support/TestApplication.h"
+
+namespace nascor::scripting {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class ACommand : public testing::Test {
+ protected:
+  void SetUp() override {
+    platform.documents.setFactory(
+        [this] { return std::make_unique<app::NCDocument>(platform.environment()); });
+  }
+  ScriptValue perform(std::optional<ScriptCommandDescription> description) {
+    NascorScriptCommand command(std::move(description), platform.documents, platform.log);
+    ScriptCommand& asTheApplicationHoldsIt = command;
+    return asTheApplicationHoldsIt.performDefaultImplementation();
+  }
+  ScriptValue perform(const char* name) { return perform(ScriptCommandDescription{name}); }
+  /// The line that the failed assertion names, of the source that it must name; 0 when none fails.
+  unsigned failingLine(std::optional<ScriptCommandDescription> description) {
+    try {
+      perform(std::move(description));
+    } catch (const foundation::AssertionFailure& failure) {
+      EXPECT_STREQ(failure.where().file_name(), "NascorScriptCommand");
+      EXPECT_THAT(failure.what(), testing::StartsWith("Value==nil"));
+      return failure.where().line();
+    }
+    return 0;
+  }
+  tests::TestApplication platform;
+};
+
+TEST_F(ACommand, toMakeANewDocumentOpensExactlyOne) {
+  EXPECT_EQ(perform("make new document"), ScriptValue());
+  ASSERT_EQ(platform.documents.documents().size(), 1U);
+  EXPECT_TRUE(platform.documents.currentDocument()->isBlank());
+  EXPECT_THAT(platform.log.lines, ElementsAre("make new document"));
+}
+
+TEST_F(ACommand, ofAnotherNameDoesNothing) {
+  for (const char* name : {"", "Make New Document", "make new document ", "quit"}) {
+    EXPECT_EQ(perform(name), ScriptValue()) << name;
+  }
+  EXPECT_THAT(platform.documents.documents(), IsEmpty());
+  EXPECT_THAT(platform.log.lines, IsEmpty());
+}
+
+TEST_F(ACommand, withoutDescriptionOrNameIsAnError) {
+  EXPECT_EQ(failingLine(std::nullopt), 10U);
+  EXPECT_EQ(failingLine(ScriptCommandDescription{std::nullopt}), 11U);
+  EXPECT_THAT(platform.log.lines, IsEmpty());
+}
+
+TEST_F(ACommand, toExportNeedsADocument) {
+  EXPECT_EQ(failingLine(ScriptCommandDescription{"export to file"}), 22U);
+  EXPECT_THAT(platform.log.lines, ElementsAre("export to file"));
+}
+
+}  // namespace
+}  // namespace nascor::scripting
