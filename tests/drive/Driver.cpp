@@ -8,6 +8,7 @@
 #include <functional>
 #include <stdexcept>
 
+#include "drive/Script.h"
 #include "foundation/ConvertInteger.h"
 #include "foundation/IsoDate.h"
 #include "foundation/JsonText.h"
@@ -320,6 +321,7 @@ Json Driver::perform(const std::string& key, const Json& argument) {
     if (argument != Json(true)) refuse("expected true");
     return key == "new" ? newDocument() : state();
   }
+  if (key == "script") return script(argument, documents_, services_);
   const auto line = lines.find(key);
   if (line == lines.end()) refuse("there is no line \"" + key + "\"");
   return (this->*line->second)(argument);
