@@ -119,6 +119,51 @@ class NCDocument final : public framework::CorvelDocument,
   void updateShowAll();
 
   /// @}
+  /// @name Dating dialogs (NCDocumentDatingDialogs.cpp)
+  ///
+  /// Each opens in front of the window and stays open beside it. Its OK enters the EDD into the window's field, closes the
+  /// dialog, stores and draws everything and plans the delivery anew; where no EDD comes of it, nothing happens.
+  /// @{
+
+  /// What a dialog would enter as the EDD.
+  struct ProposedEDD {
+    std::string text;                                    ///< empty when there is none
+    std::vector<const framework::TextField*> obstacles;  ///< then, what stands in its way
+  };
+
+  // Selector: doSetEDDfromCRL:
+  void doSetEDDfromCRL(Sender sender);
+  // Selector: okSetEDDfromCRL:
+  void okSetEDDfromCRL(Sender sender);
+  ProposedEDD eddFromCRL() const;
+
+  // Selector: doSetEDDfromLMP:
+  void doSetEDDfromLMP(Sender sender);
+  // Selector: okSetEDDfromLMP:
+  void okSetEDDfromLMP(Sender sender);
+  ProposedEDD eddFromLMP() const;
+
+  // Selector: doSetEDDfromMeasurements:
+  void doSetEDDfromMeasurements(Sender sender);
+  // Selector: updateEDDfromMeasurements:
+  /// Dates the lengths that the window shows, each by the mean of its chart, and averages those whose box is checked. What
+  /// lies more than two standard deviations from the mean at the average turns red, checked or not.
+  void updateEDDfromMeasurements(Sender sender);
+  // Selector: okSetEDDfromMeasurements:
+  void okSetEDDfromMeasurements(Sender sender);
+  ProposedEDD eddFromMeasurements() const;
+  /// The average, in weeks, as `updateEDDfromMeasurements` last found it; 0.0 with no box checked.
+  double avGestation() const { return avGestation_; }
+
+  // Selector: checkOverwriteEDD:
+  /// Asks, on `window`, whether an established EDD is to be modified; without one nothing happens.
+  void checkOverwriteEDD(framework::Panel& window);
+  // Selector: checkOverwriteEDDAlertDidEnd:returnCode:contextInfo:
+  void checkOverwriteEDDAlertDidEnd(framework::AlertReturn returnCode, framework::Panel& contextInfo);
+  /// Closes `window` and changes nothing; a text in edit there is dropped.
+  void cancelDialog(framework::Panel& window);
+
+  /// @}
   /// @name Planned delivery
   /// @{
 
@@ -207,6 +252,13 @@ class NCDocument final : public framework::CorvelDocument,
   model::NCRecord* currentExamination();
   model::MeasurementsRecord* currentMeasurements();
   std::string shortDateText(const std::optional<foundation::Date>& date) const;
+  std::optional<foundation::Date> dateFromText(const framework::TextField& field) const;
+  /// `date` as what is entered; nothing, because of `obstacles`, when it has no text that reads back to the same day.
+  ProposedEDD proposed(const std::optional<foundation::Date>& date,
+                       std::vector<const framework::TextField*> obstacles) const;
+  void enterEDD(const ProposedEDD& proposal, framework::Panel& window);
+  /// The dialog of the measurements shows what the window shows, as long as it is open.
+  void refreshEDDfromMeasurements();
   std::optional<foundation::Date> dateFromField(const framework::TextField& field,
                                                 const std::optional<foundation::Date>& held) const;
   double projected(double (model::MeasurementsRecord::*value)() const,
@@ -215,6 +267,7 @@ class NCDocument final : public framework::CorvelDocument,
   std::unique_ptr<model::PatientRecord> patientRecord_;
   model::MeasurementsRecord extrapolatedMeasurementsRecord_;
   std::int64_t currentFetus_ = 0;
+  double avGestation_ = 0.0;
   /// A fetus was removed and the fields still show its numbers: until they are read anew, only what the user types in them
   /// belongs to the fetus that took its place.
   bool measurementFieldsAreStale_ = false;

@@ -23,6 +23,7 @@ void NCDocument::doSetStandard(std::int64_t standard) {
   updateAdjustDeliveryStepperForNewStandard();
   services().notifications.post(NotificationName::updateStandards, this);
   services().defaults.setValue(defaults_key::standard, std::to_string(patientRecord_->standard()));
+  refreshEDDfromMeasurements();
 }
 
 void NCDocument::doSetEFWStandard(std::int64_t standard) {

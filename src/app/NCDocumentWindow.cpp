@@ -45,6 +45,7 @@ void NCDocument::windowControllerDidLoadNib() {
   services().notifications.post(foundation::NotificationName::updateStandards, this);
   updateAdjustDeliveryStepperForNewStandard();
   doSetCRLStandard(patientRecord_->crlStandard());
+  refreshEDDfromMeasurements();
 }
 
 void NCDocument::windowWillClose() { showAllSubscription_.reset(); }
@@ -71,6 +72,7 @@ void NCDocument::synchronizeFromData() {
   measurementFieldsAreStale_ = false;
   notesField().setText(exam ? exam->note().value_or("") : "");
   updateDisplay();
+  refreshEDDfromMeasurements();
 }
 
 void NCDocument::synchronizeToData() {
@@ -197,6 +199,10 @@ std::string NCDocument::shortDateText(const std::optional<Date>& date) const {
 std::optional<Date> NCDocument::dateFromField(const TextField& field, const std::optional<Date>& held) const {
   // A date that has no text is shown as nothing; it stays until the user types in its field.
   if (held && field.text().empty() && !field.wasEdited() && shortDateText(held).empty()) return held;
+  return dateFromText(field);
+}
+
+std::optional<Date> NCDocument::dateFromText(const TextField& field) const {
   const auto day = foundation::civilDayFromShortText(field.text(), services().localizer.shortDateForm());
   if (!day) return std::nullopt;
   return foundation::startOfDay(*day, services().calendar);

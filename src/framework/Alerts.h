@@ -6,12 +6,15 @@
 
 namespace nascor::framework {
 
+class Panel;
+
 /// A question with two answers.
 struct Alert {
   std::string message;
   std::string information;  ///< may be empty
   std::string defaultButton;
   std::string alternateButton;
+  const Panel* window = nullptr;  ///< the panel that is asked on; null for the document's own window
 };
 
 /// What was answered: 1 for the default button, 0 for the alternate one.

@@ -72,6 +72,13 @@ framework::TextField& fieldNamed(NCDocument& document, const std::string& name) 
   refuse("there is no field \"" + name + "\"");
 }
 
+framework::Panel& panelNamed(NCDocument& document, const std::string& name) {
+  for (framework::Panel* panel : document.panels()) {
+    if (panel->name() == name) return *panel;
+  }
+  refuse("there is no window \"" + name + "\"");
+}
+
 Json lengths(const model::MeasurementsRecord* record) {
   if (!record) return nullptr;
   return {{"bpd", record->bpd()}, {"hc", record->hc()}, {"ac", record->ac()}, {"fl", record->fl()}};
@@ -144,6 +151,20 @@ const std::map<std::string, Operation, std::less<>>& operations() {
       {"updateAdjustDeliveryStepperForNewStandard",
        act([](NCDocument& d, Arguments&) { d.updateAdjustDeliveryStepperForNewStandard(); })},
       {"doAdjustDeliveryDate", act([](NCDocument& d, Arguments&) { d.doAdjustDeliveryDate(&d); })},
+      {"doSetEDDfromCRL", act([](NCDocument& d, Arguments&) { d.doSetEDDfromCRL(&d); })},
+      {"okSetEDDfromCRL", act([](NCDocument& d, Arguments&) { d.okSetEDDfromCRL(&d); })},
+      {"doSetEDDfromLMP", act([](NCDocument& d, Arguments&) { d.doSetEDDfromLMP(&d); })},
+      {"okSetEDDfromLMP", act([](NCDocument& d, Arguments&) { d.okSetEDDfromLMP(&d); })},
+      {"doSetEDDfromMeasurements", act([](NCDocument& d, Arguments&) { d.doSetEDDfromMeasurements(&d); })},
+      {"updateEDDfromMeasurements", act([](NCDocument& d, Arguments&) { d.updateEDDfromMeasurements(&d); })},
+      {"okSetEDDfromMeasurements", act([](NCDocument& d, Arguments&) { d.okSetEDDfromMeasurements(&d); })},
+      {"avGestation", [](NCDocument& d, Arguments&) { return Json(d.avGestation()); }},
+      {"checkOverwriteEDD",
+       act([](NCDocument& d, Arguments& a) { d.checkOverwriteEDD(panelNamed(d, a.text())); })},
+      {"checkOverwriteEDDAlertDidEnd", act([](NCDocument& d, Arguments& a) {
+         const auto returnCode = static_cast<framework::AlertReturn>(a.integer());
+         d.checkOverwriteEDDAlertDidEnd(returnCode, panelNamed(d, a.text()));
+       })},
       // Projection
       {"extrapolatedBPDForCurrentFetus",
        [](NCDocument& d, Arguments&) { return Json(d.extrapolatedBPDForCurrentFetus()); }},
@@ -311,6 +332,7 @@ Json Driver::perform(const std::string& key, const Json& argument) {
       {"save", &Driver::save},         {"close", &Driver::close},
       {"edit", &Driver::edit},         {"visit", &Driver::visit},
       {"revert", &Driver::revert},     {"answer", &Driver::answerQuestions},
+      {"check", &Driver::check},       {"cancel", &Driver::cancel},
       {"do", &Driver::operation},      {"app", &Driver::applicationOperation},
       {"menu", &Driver::menu},         {"choose", &Driver::choose},
       {"step", &Driver::step},         {"tab", &Driver::tab},
@@ -474,6 +496,25 @@ Json Driver::choose(const Json& index) {
   if (auto refusal = heldBack(chosen)) return *refusal;
   chosen.multiplePopUp().selectItemAtIndex(wanted);
   chosen.chooseFetus(chosen.multiplePopUp());
+  return Json::object();
+}
+
+Json Driver::check(const Json& boxAndState) {
+  if (!boxAndState.is_array() || boxAndState.size() != 2) refuse("expected a check box and true or false");
+  const std::string name = textArgument(boxAndState[0], "the name of a check box");
+  const bool isOn = boolArgument(boxAndState[1], "true or false");
+  NCDocument& changed = document();
+  const auto box = std::ranges::find(changed.checkBoxes(), name, &framework::CheckBox::name);
+  if (box == changed.checkBoxes().end()) refuse("there is no check box \"" + name + "\"");
+  if (auto refusal = heldBack(changed)) return *refusal;
+  (*box)->setOn(isOn);
+  changed.updateEDDfromMeasurements(nullptr);
+  return Json::object();
+}
+
+Json Driver::cancel(const Json& window) {
+  NCDocument& shown = document();
+  shown.cancelDialog(panelNamed(shown, textArgument(window, "the name of a window")));
   return Json::object();
 }
 

@@ -52,6 +52,8 @@ class Driver {
   Json applicationOperation(const Json& call);
   Json menu(const Json& choice);
   Json choose(const Json& index);
+  Json check(const Json& boxAndState);
+  Json cancel(const Json& window);
   Json step(const Json& days);
   Json tab(const Json& page);
   Json advance(const Json& seconds);

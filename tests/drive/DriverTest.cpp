@@ -86,6 +86,13 @@ TEST_F(ADriver, refusesArgumentsOfTheWrongKind) {
                            R"({"choose":"0"})",
                            R"({"choose":1})",
                            R"({"choose":-1})",
+                           R"({"check":"measurementsWindowBPDCheck"})",
+                           R"({"check":["measurementsWindowBPDCheck",1]})",
+                           R"({"check":["crlWindow",true]})",
+                           R"({"cancel":true})",
+                           R"({"cancel":"nowhere"})",
+                           R"({"do":["checkOverwriteEDD"]})",
+                           R"({"do":["checkOverwriteEDD","nowhere"]})",
                            R"({"step":"one"})",
                            R"({"tab":"0"})",
                            R"({"tab":7})",
@@ -106,7 +113,8 @@ TEST_F(ADriver, refusesWhatNeedsADocumentWhenThereIsNone) {
   for (const char* line :
        {R"({"save":true})", R"({"save":"a.nascor"})", R"({"close":"save"})", R"({"edit":["bpdField","1"]})",
         R"({"visit":"bpdField"})", R"({"revert":"bpdField"})", R"({"do":["lastExam"]})", R"({"choose":0})",
-        R"({"step":0})", R"({"tab":0})", R"({"use":0})"}) {
+        R"({"check":["measurementsWindowBPDCheck",true]})", R"({"cancel":"crlWindow"})", R"({"step":0})",
+        R"({"tab":0})", R"({"use":0})"}) {
     EXPECT_TRUE(isRefused(line)) << line;
   }
 }

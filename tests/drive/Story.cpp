@@ -10,6 +10,7 @@ namespace nascor::drive {
 namespace {
 
 constexpr std::string_view kAndMore = "...";
+constexpr std::string_view kNotThere = "<none>";
 
 /// Whether `actual` is `expected`, in which "..." stands for any text.
 bool fits(std::string_view actual, std::string_view expected) {
@@ -32,7 +33,10 @@ bool holds(const Json& actual, const Json& expected) {
   if (expected.is_object()) {
     if (!actual.is_object()) return false;
     for (const auto& [key, value] : expected.items()) {
-      if (!actual.contains(key) || !holds(actual[key], value)) return false;
+      if (value == Json(kNotThere) ? actual.contains(key)
+                                   : !actual.contains(key) || !holds(actual[key], value)) {
+        return false;
+      }
     }
     return true;
   }

@@ -12,7 +12,8 @@ namespace nascor::drive {
 ///
 ///     => {"began":true,"ended":false}     exactly this
 ///     =~ {"fields":{"bpdField":"62.1"}}   at least this: other members of the objects may be there, "..." in a text
-///                                         stands for any text, and as the last element of an array for any more
+///                                         stands for any text, and as the last element of an array for any more; a
+///                                         member "<none>" must not be there
 ///
 /// `$DATA` in such lines is the folder "data" beside the story's folder. A line without an expectation must not be answered
 /// by an error, and a story without any expectation fails. All other lines are for the reader.

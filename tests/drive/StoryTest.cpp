@@ -56,6 +56,8 @@ TEST_F(AStory, wantsTheWholeAnswerOrAPartOfIt) {
   EXPECT_FALSE(
       isWell("{\"new\":true}\n{\"state\":true}\n=~ {\"tab\":0,\"fields\":{\"bpdField\":\"0.1\"}}\n"));
   EXPECT_FALSE(isWell("{\"new\":true}\n{\"state\":true}\n=~ {\"nothing\":0}\n"));
+  EXPECT_TRUE(isWell("{\"new\":true}\n{\"state\":true}\n=~ {\"nothing\":\"<none>\"}\n")) << told();
+  EXPECT_FALSE(isWell("{\"new\":true}\n{\"state\":true}\n=~ {\"tab\":\"<none>\"}\n"));
 }
 
 TEST_F(AStory, mayLeaveOutAnyTextAndTheRestOfAList) {

@@ -1,0 +1,172 @@
+// The three dialogs that set the EDD, and the question before an established one is modified.
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+#include "app/NCDocument.h"
+#include "calc/Dating.h"
+#include "foundation/Calendar.h"
+#include "foundation/Clock.h"
+#include "foundation/Localizer.h"
+#include "foundation/ShortDate.h"
+
+namespace nascor::app {
+
+using framework::Panel;
+using framework::TextField;
+namespace string_table = foundation::string_table;
+
+void NCDocument::doSetEDDfromCRL(Sender) {
+  if (crlWindowDate_.text().empty()) {
+    crlWindowDate_.setText(shortDateText(services().clock.now()));
+    crlWindow_.center();
+  }
+  crlWindow_.makeKeyAndOrderFront();
+  checkOverwriteEDD(crlWindow_);
+}
+
+void NCDocument::okSetEDDfromCRL(Sender) { enterEDD(eddFromCRL(), crlWindow_); }
+
+NCDocument::ProposedEDD NCDocument::eddFromCRL() const {
+  if (!patientRecord_) return {};
+  ProposedEDD refused;
+  const auto scan = dateFromText(crlWindowDate_);
+  if (!scan) refused.obstacles.push_back(&crlWindowDate_);
+  const std::int64_t standard = patientRecord_->crlStandard();
+  const double age = calc::menstrualAgeFromCRL(crlWindowCRL_.doubleValue(), standard);
+  if (!calc::crlFormula(standard)) {
+    refused.obstacles.push_back(&crlStandardReference_);
+  } else if (age == 0.0) {
+    refused.obstacles.push_back(&crlWindowCRL_);
+  }
+  if (!refused.obstacles.empty()) return refused;
+  return proposed(calc::eddFromAgeAtScan(*scan, age, services().calendar), {&crlWindowDate_});
+}
+
+void NCDocument::doSetEDDfromLMP(Sender) {
+  if (lmpWindowLMP_.text().empty()) lmpWindow_.center();
+  lmpWindow_.makeKeyAndOrderFront();
+  checkOverwriteEDD(lmpWindow_);
+}
+
+void NCDocument::okSetEDDfromLMP(Sender) { enterEDD(eddFromLMP(), lmpWindow_); }
+
+NCDocument::ProposedEDD NCDocument::eddFromLMP() const {
+  const auto lmp = dateFromText(lmpWindowLMP_);
+  if (!lmp) return {.text = {}, .obstacles = {&lmpWindowLMP_}};
+  const auto edd = calc::eddFromLMP(*lmp, lmpWindowCycleField_.integerValue(),
+                                    lmpWindowLutealField_.integerValue(), services().calendar);
+  return proposed(edd, {&lmpWindowCycleField_, &lmpWindowLutealField_});
+}
+
+void NCDocument::doSetEDDfromMeasurements(Sender) {
+  updateEDDfromMeasurements(this);
+  measurementsWindow_.center();
+  measurementsWindow_.makeKeyAndOrderFront();
+  checkOverwriteEDD(measurementsWindow_);
+}
+
+void NCDocument::updateEDDfromMeasurements(Sender) {
+  struct Row {
+    const framework::NumberField& length;
+    const charts::NascorGraphView& graph;
+    const framework::CheckBox& check;
+    TextField& text;
+    double gestation = 0.0;
+  };
+  std::array<Row, 4> rows{
+      {{bpdField_, *bpdGraph_, measurementsWindowBPDCheck_, measurementsWindowBPDGestation_},
+       {hcField_, *hcGraph_, measurementsWindowHCCheck_, measurementsWindowHCGestation_},
+       {acField_, *acGraph_, measurementsWindowACCheck_, measurementsWindowACGestation_},
+       {flField_, *flGraph_, measurementsWindowFLCheck_, measurementsWindowFLGestation_}}};
+  avGestation_ = 0.0;
+  int checked = 0;
+  for (Row& row : rows) {
+    row.gestation = row.graph.gestationForMeasurement(row.length.doubleValue());
+    if (!row.check.isOn()) continue;
+    avGestation_ += row.gestation;
+    ++checked;
+  }
+  if (checked > 1) avGestation_ /= checked;
+  for (const Row& row : rows) {
+    // At an average of 0 mean and deviation are 0 as well: whatever was measured is far from them.
+    const double distance = std::abs(row.length.doubleValue() - row.graph.meanForGestation(avGestation_));
+    row.text.setRed(distance > 2.0 * row.graph.sdForGestation(avGestation_));
+    row.text.setText(menstrualAgeStringForGestation(row.gestation));
+  }
+  measurementsWindowAvGestation_.setText(menstrualAgeStringForGestation(avGestation_));
+}
+
+void NCDocument::refreshEDDfromMeasurements() {
+  if (measurementsWindow_.isShown()) updateEDDfromMeasurements(this);
+}
+
+void NCDocument::okSetEDDfromMeasurements(Sender) { enterEDD(eddFromMeasurements(), measurementsWindow_); }
+
+NCDocument::ProposedEDD NCDocument::eddFromMeasurements() const {
+  const model::NCRecord* exam = examination(currentExam());
+  if (!exam || !exam->examDate()) return {.text = {}, .obstacles = {&examDateField()}};
+  // An average of 0, with nothing checked, is dated like any other.
+  return proposed(calc::eddFromMeasurements(*exam->examDate(), avGestation_, services().calendar),
+                  {&examDateField()});
+}
+
+NCDocument::ProposedEDD NCDocument::proposed(const std::optional<foundation::Date>& date,
+                                             std::vector<const TextField*> obstacles) const {
+  const foundation::ShortDateForm form = services().localizer.shortDateForm();
+  std::string text = shortDateText(date);
+  // The records take the date from this text.
+  if (text.empty() ||
+      foundation::civilDayFromShortText(text, form) != foundation::localDay(*date, services().calendar)) {
+    return {.text = {}, .obstacles = std::move(obstacles)};
+  }
+  return {.text = std::move(text), .obstacles = {}};
+}
+
+void NCDocument::enterEDD(const ProposedEDD& proposal, Panel& window) {
+  if (!patientRecord_ || proposal.text.empty()) return;
+  birthDateField().setText(proposal.text);
+  cancelDialog(window);
+  directUpdateDisplayAndSetDirty(true);
+  adjustDeliveryDate(this);
+}
+
+void NCDocument::checkOverwriteEDD(Panel& window) {
+  if (!patientRecord_ || !patientRecord_->edd()) return;
+  const foundation::Localizer& localizer = services().localizer;
+  environment().alerts.beginSheet(
+      {.message = localizer.text(string_table::ncDocument, "EDD is already specified"),
+       .information =
+           localizer.text(string_table::ncDocument, "Are you sure you want to modify the established EDD?"),
+       .defaultButton = localizer.text(string_table::corvelDocument, "Modify"),
+       .alternateButton = localizer.text(string_table::zuVersion, "Cancel"),
+       .window = &window},
+      [this, &window](framework::AlertReturn returnCode) {
+        checkOverwriteEDDAlertDidEnd(returnCode, window);
+      });
+}
+
+void NCDocument::checkOverwriteEDDAlertDidEnd(framework::AlertReturn returnCode, Panel& contextInfo) {
+  if (returnCode == framework::AlertReturn::defaultButton) {
+    contextInfo.makeKeyAndOrderFront();
+  } else {
+    cancelDialog(contextInfo);
+  }
+}
+
+void NCDocument::cancelDialog(Panel& window) {
+  // A field that refuses its text must not go on refusing where nobody sees it.
+  const std::array<std::pair<const Panel*, const TextField*>, 5> fields{
+      {{&crlWindow_, &crlWindowDate_},
+       {&crlWindow_, &crlWindowCRL_},
+       {&lmpWindow_, &lmpWindowLMP_},
+       {&lmpWindow_, &lmpWindowCycleField_},
+       {&lmpWindow_, &lmpWindowLutealField_}}};
+  for (const auto& [panel, field] : fields) {
+    if (panel == &window && fieldEditor().field() == field) fieldEditor().revert();
+  }
+  window.close();
+}
+
+}  // namespace nascor::app
