@@ -1,6 +1,7 @@
 #include "framework/CorvelDocument.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "foundation/Calendar.h"
 #include "foundation/Localizer.h"
@@ -100,7 +101,15 @@ void CorvelDocument::updateDisplay() {
 
 bool CorvelDocument::controlTextShouldBeginEditing(TextField&) { return true; }
 
-void CorvelDocument::controlTextDidBeginEditing(TextField&) { updateChangeCount(ChangeType::changeDone); }
+void CorvelDocument::controlTextDidBeginEditing(TextField&) {
+  isMarkedByEdit_ = true;
+  updateChangeCount(ChangeType::changeDone);
+}
+
+void CorvelDocument::controlTextDidDropEditing(TextField&) {
+  // Typing that was taken back changed nothing.
+  if (std::exchange(isMarkedByEdit_, false)) updateChangeCount(ChangeType::changeUndone);
+}
 
 std::vector<foundation::FileEntry> CorvelDocument::documentsOfPatient(const std::string& name) const {
   const std::string extension =

@@ -105,6 +105,8 @@ class CorvelDocument : public ZuDocument, public virtual GraphDocument, protecte
 
   bool controlTextShouldBeginEditing(TextField& field) override;
   void controlTextDidBeginEditing(TextField& field) override;
+  void controlTextDidDropEditing(TextField& field) override;
+  void changesWereCleared() override { isMarkedByEdit_ = false; }
 
   /// Whether the current examination holds anything that its removal would lose.
   virtual bool currentExaminationHoldsData() const = 0;
@@ -130,6 +132,7 @@ class CorvelDocument : public ZuDocument, public virtual GraphDocument, protecte
   std::int64_t currentExam_ = 0;
   bool lookUpRequired_ = false;
   bool isOnPaper_ = false;
+  bool isMarkedByEdit_ = false;  ///< whether the change count holds a change for the field in edit
 };
 
 }  // namespace nascor::framework

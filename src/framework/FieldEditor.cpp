@@ -49,9 +49,10 @@ bool FieldEditor::end() {
 
 void FieldEditor::revert() {
   if (!field_) return;
-  field_ = nullptr;
+  TextField& field = *std::exchange(field_, nullptr);
   text_.clear();
   isRefusing_ = false;
+  if (TextFieldDelegate* delegate = field.delegate()) delegate->controlTextDidDropEditing(field);
   changed();
 }
 

@@ -22,6 +22,8 @@ class TextFieldDelegate {
   virtual bool controlTextShouldEndEditing(TextField& field, std::string_view text) = 0;
   /// The user has left `field`, which holds the new text.
   virtual void controlTextDidEndEditing(TextField& field) = 0;
+  /// What the user had typed into `field` was dropped; the field holds what it held.
+  virtual void controlTextDidDropEditing(TextField& field) = 0;
 };
 
 /// Edits the fields of one window, one at a time. A visit without a change does not come here.
@@ -35,7 +37,7 @@ class FieldEditor {
   /// Ends editing: when field and delegate agree the field takes the text and the delegate is told. False, and the field
   /// stays in edit, when they refuse. True when no field is in edit.
   bool end();
-  /// Drops the edited text and ends editing without asking; the field shows what it held.
+  /// Drops the edited text, ends editing without asking, and tells the delegate; the field shows what it held.
   void revert();
 
   /// The field in edit; null for none.

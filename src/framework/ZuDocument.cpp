@@ -52,7 +52,10 @@ void ZuDocument::updateChangeCount(ChangeType change) {
   switch (change) {
     case ChangeType::changeDone: ++changeCount_; break;
     case ChangeType::changeUndone: --changeCount_; break;
-    case ChangeType::changeCleared: changeCount_ = 0; break;
+    case ChangeType::changeCleared:
+      changeCount_ = 0;
+      changesWereCleared();
+      break;
   }
   stateChanged();
 }

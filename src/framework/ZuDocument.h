@@ -81,6 +81,8 @@ class ZuDocument {
 
  protected:
   const foundation::Services& services() const { return services_; }
+  /// There are no changes any more: the document was saved, or read again.
+  virtual void changesWereCleared() {}
 
  private:
   void stateChanged() const {

@@ -106,6 +106,35 @@ TEST_F(APatientsDocument, isEditedFromTheFirstChangeOfAField) {
   EXPECT_TRUE(document.isDocumentEdited());
 }
 
+TEST_F(APatientsDocument, isNotEditedByTypingThatWasTakenBack) {
+  FieldEditor& editor = document.fieldEditor();
+  editor.begin(document.referenceIDField());
+  editor.replace("x");
+  editor.revert();
+  EXPECT_FALSE(document.isDocumentEdited());
+
+  editor.begin(document.referenceIDField());
+  editor.end();
+  editor.begin(document.examDateField());
+  editor.revert();
+  EXPECT_TRUE(document.isDocumentEdited()) << "the reference ID was typed and left";
+}
+
+TEST_F(APatientsDocument, staysEditedByANoteWhenTypingOlderThanItsLastSaveIsTakenBack) {
+  FieldEditor& editor = document.fieldEditor();
+  editor.begin(document.examDateField());
+  editor.replace("refused");
+  ASSERT_EQ(document.writeToFile("/documents/a"), std::nullopt);
+  editor.revert();
+  EXPECT_FALSE(document.isDocumentEdited());
+
+  editor.begin(document.examDateField());
+  ASSERT_EQ(document.writeToFile("/documents/a"), std::nullopt);
+  document.notesField().takeEditedText("n");
+  editor.revert();
+  EXPECT_TRUE(document.isDocumentEdited());
+}
+
 TEST_F(APatientsDocument, commitsTheFieldInEditAndATypedNote) {
   EXPECT_TRUE(document.commitEditing());
   EXPECT_THAT(document.takeCalls(), IsEmpty());

@@ -29,6 +29,7 @@ struct RecordingDelegate final : TextFieldDelegate {
     calls.push_back("should end " + field.name() + " with " + std::string(text));
     return text != refusedText;
   }
+  void controlTextDidDropEditing(TextField& field) override { calls.push_back("did drop " + field.name()); }
   void controlTextDidEndEditing(TextField& field) override {
     calls.push_back("did end " + field.name() + " as " + field.text());
     if (afterEnd) afterEnd();
@@ -126,7 +127,11 @@ TEST_F(AFieldEditor, givesTheTextBackWithoutAsking) {
   EXPECT_FALSE(one.wasEdited());
   EXPECT_TRUE(editor.end());
   editor.revert();
-  EXPECT_THAT(delegate.calls, IsEmpty());
+  EXPECT_THAT(delegate.calls, ElementsAre("did drop one"));
+  editor.begin(free);
+  editor.replace("x");
+  editor.revert();
+  EXPECT_EQ(free.text(), "");
 }
 
 TEST_F(AFieldEditor, editsAFieldWithoutADelegate) {
