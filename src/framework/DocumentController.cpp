@@ -79,29 +79,47 @@ bool DocumentController::write(ZuDocument& document, const std::string& path) {
   return false;
 }
 
-bool DocumentController::closeDocument(ZuDocument& document) {
+bool DocumentController::mayGo(ZuDocument& document) {
   // What a field accepts is saved or discarded with the rest; what it refuses goes with the window.
   static_cast<void>(document.commitEditing());
   // Committing a gravidity may have put another document into this one's place.
-  if (!isOpen(document)) return true;
-  if (document.isDocumentEdited()) {
-    const auto text = [&](std::string_view table, std::string_view key) {
-      return services_.localizer.text(table, key);
-    };
-    const std::size_t answer = alerts_.chooseOne(
-        text(string_table::corvelDocument, "Do you want to save the changes of this document?"),
-        document.displayName(),
-        {text(string_table::corvelDocument, "Save"), text(string_table::corvelDocument, "Discard"),
-         text(string_table::zuVersion, "Cancel")});
-    enum : std::size_t { kSave = 0, kDiscard = 1 };
-    if (answer == kSave) {
-      const auto path =
-          document.filePath() ? document.filePath() : panels_.chooseFileToSave(suggestedFileName(document));
-      if (!path || !write(document, *path)) return false;
-    } else if (answer != kDiscard) {
-      return false;
-    }
+  if (!isOpen(document) || !document.isDocumentEdited()) return true;
+  const auto text = [&](std::string_view table, std::string_view key) {
+    return services_.localizer.text(table, key);
+  };
+  const std::size_t answer = alerts_.chooseOne(
+      text(string_table::corvelDocument, "Do you want to save the changes of this document?"),
+      document.displayName(),
+      {text(string_table::corvelDocument, "Save"), text(string_table::corvelDocument, "Discard"),
+       text(string_table::zuVersion, "Cancel")});
+  enum : std::size_t { kSave = 0, kDiscard = 1 };
+  if (answer == kDiscard) return true;
+  if (answer != kSave) return false;
+  const auto path =
+      document.filePath() ? document.filePath() : panels_.chooseFileToSave(suggestedFileName(document));
+  return path && write(document, *path);
+}
+
+bool DocumentController::closeDocument(ZuDocument& document) {
+  if (!mayGo(document)) return false;
+  if (isOpen(document)) remove(document);
+  return true;
+}
+
+bool DocumentController::saveEditedDocuments() {
+  std::vector<ZuDocument*> all = documents();
+  std::ranges::reverse(all);
+  for (ZuDocument* document : all) {
+    if (!isOpen(*document) || !document->isDocumentEdited()) continue;
+    setCurrentDocument(*document);
+    if (!mayGo(*document)) return false;
   }
+  return true;
+}
+
+bool DocumentController::closeUntouchedDocument(ZuDocument& document) {
+  if (!isOpen(document) || !document.isBlank() || document.isDocumentEdited() || document.filePath())
+    return false;
   remove(document);
   return true;
 }

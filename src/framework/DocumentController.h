@@ -44,6 +44,11 @@ class DocumentController {
   bool closeDocument(ZuDocument& document);
   /// Closes all documents, the one in front first, until one is not closed. True when none is left.
   bool closeAllDocuments();
+  /// Asks of each edited document, the one in front first, whether to save it, and closes none: the session is about to
+  /// end. False when the user cancels or saving fails.
+  bool saveEditedDocuments();
+  /// Closes `document` when it is a new one in which nothing was done yet; nobody is asked. False when it stays.
+  bool closeUntouchedDocument(ZuDocument& document);
   /// Puts the document at `path` into the place of `document`, which is closed without a question. False, and the user is
   /// told, when the file cannot be read.
   bool replaceDocument(ZuDocument& document, const std::string& path);
@@ -69,6 +74,8 @@ class DocumentController {
   ZuDocument& add(std::unique_ptr<ZuDocument> document);
   void remove(ZuDocument& document);
   bool write(ZuDocument& document, const std::string& path);
+  /// Whether nothing of the document would be lost that the user wants to keep.
+  bool mayGo(ZuDocument& document);
   bool isOpen(const ZuDocument& document) const;
   ZuDocument* documentOfFile(const std::string& path) const;
   std::string suggestedFileName(const ZuDocument& document) const;

@@ -233,6 +233,67 @@ TEST_F(TheDocuments, areClosedFromTheFrontUntilOneStays) {
   EXPECT_TRUE(documents.closeAllDocuments());
 }
 
+TEST_F(TheDocuments, areAskedAboutOneByOneWhenTheSessionEndsAndStayOpen) {
+  TextDocument& one = application.newDocument();
+  TextDocument& two = application.newDocument();
+  TextDocument& three = application.newDocument();
+  one.setFilePath("/documents/one");
+  three.setFilePath("/documents/three");
+  one.updateChangeCount(ZuDocument::ChangeType::changeDone);
+  three.fieldEditor().begin(three.birthDateField());
+  std::vector<ZuDocument*> inFront;
+  documents.onDocumentInFront = [&](ZuDocument& front) { inFront.push_back(&front); };
+  application.alerts.choice = "Save";
+  EXPECT_TRUE(documents.saveEditedDocuments());
+  EXPECT_EQ(application.alerts.choices.size(), 2U);
+  EXPECT_THAT(inFront, ElementsAre(&three, &one)) << "the user sees which one is asked about";
+  EXPECT_TRUE(application.files.files.contains("/documents/one"));
+  EXPECT_TRUE(application.files.files.contains("/documents/three"));
+  EXPECT_FALSE(one.isDocumentEdited());
+  EXPECT_FALSE(three.isDocumentEdited());
+  EXPECT_THAT(documents.documents(), testing::UnorderedElementsAre(&one, &two, &three));
+}
+
+TEST_F(TheDocuments, keepWhatIsDiscardedAtTheEndOfASessionUntilItHasEnded) {
+  TextDocument& document = application.newDocument();
+  document.updateChangeCount(ZuDocument::ChangeType::changeDone);
+  application.alerts.choice = "Discard";
+  EXPECT_TRUE(documents.saveEditedDocuments());
+  EXPECT_TRUE(document.isDocumentEdited());
+  EXPECT_EQ(application.files.writes(), 0);
+}
+
+TEST_F(TheDocuments, endNoSessionThatTheUserCancelsOrThatTheyCannotBeSavedFor) {
+  TextDocument& one = application.newDocument();
+  one.setFilePath("/documents/one");
+  one.updateChangeCount(ZuDocument::ChangeType::changeDone);
+  TextDocument& two = application.newDocument();
+  two.updateChangeCount(ZuDocument::ChangeType::changeDone);
+  EXPECT_FALSE(documents.saveEditedDocuments());
+  EXPECT_EQ(application.alerts.choices.size(), 1U) << "after Cancel nothing more is asked";
+  application.alerts.choice = "Save";
+  application.files.failWriteAt = 0;
+  EXPECT_FALSE(documents.saveEditedDocuments());
+  EXPECT_TRUE(one.isDocumentEdited());
+}
+
+TEST_F(TheDocuments, makeWayOnlyWhenTheyAreUntouched) {
+  application.put("/documents/a", "text");
+  TextDocument& untouched = application.newDocument();
+  EXPECT_TRUE(documents.closeUntouchedDocument(untouched));
+  EXPECT_EQ(documents.currentDocument(), nullptr);
+  EXPECT_FALSE(documents.closeUntouchedDocument(untouched)) << "it is closed already";
+
+  EXPECT_FALSE(documents.closeUntouchedDocument(*application.open("/documents/a")));
+  TextDocument& typedIn = application.newDocument();
+  typedIn.fieldEditor().begin(typedIn.referenceIDField());
+  EXPECT_FALSE(documents.closeUntouchedDocument(typedIn));
+  TextDocument& identified = application.newDocument();
+  identified.setDocIsBlank(false);
+  EXPECT_FALSE(documents.closeUntouchedDocument(identified));
+  EXPECT_EQ(documents.documents().size(), 3U);
+}
+
 TEST_F(TheDocuments, takeTheirPlaceFromOneAnother) {
   application.put("/documents/a", "text");
   application.put("/documents/bad", "bad");

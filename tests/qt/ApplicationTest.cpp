@@ -5,6 +5,7 @@
 #include <QEvent>
 #include <QEventLoop>
 #include <QTimer>
+#include <QWidget>
 
 #include "foundation/Assertion.h"
 #include "foundation/RangeError.h"
@@ -64,6 +65,19 @@ TEST(AnExceptionInAnEvent, doesNotStopTheEventLoop) {
 
 TEST(TheApplicationItself, isKnownToTheDesktopByItsEntry) {
   EXPECT_EQ(QGuiApplication::desktopFileName(), QStringLiteral("nascor"));
+}
+
+TEST(TheApplicationItself, asksWhoeverEndsItWhenTheSessionWantsItGone) {
+  auto& application = *dynamic_cast<qt::Application*>(QCoreApplication::instance());
+  int requests = 0;
+  application.onQuitRequest = [&] { ++requests; };
+  QWidget window;
+  window.show();
+  QEvent quit(QEvent::Quit);
+  QCoreApplication::sendEvent(&application, &quit);
+  EXPECT_EQ(requests, 1);
+  EXPECT_TRUE(window.isVisible()) << "no window is closed behind the documents' back";
+  application.onQuitRequest = nullptr;
 }
 
 }  // namespace

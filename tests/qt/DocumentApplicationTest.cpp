@@ -137,7 +137,7 @@ TEST_F(TheApplicationOfDocuments, opensWhatIsDroppedOnAWindowAndNotAsText) {
   openBlank();
   const QString path = file(QStringLiteral("a.nascor"), documentBytes(singleton()));
   drop(widget<QWidget>("tabView"), {QUrl::fromLocalFile(path)});
-  EXPECT_THAT(titles(), ElementsAre("Untitled[*]", "a.nascor[*]"));
+  EXPECT_THAT(titles(), ElementsAre("a.nascor[*]"));
 
   // On a field or the note too, where a text would be inserted.
   for (const char* name : {"referenceIDField", "notesField"}) {
@@ -179,6 +179,24 @@ TEST_F(TheApplicationOfDocuments, remembersWhatWasOpenedAndForgetsItWhenAsked) {
   emit widget<QMenu>("recentMenu").aboutToShow();
   action("clearRecentAction").trigger();
   EXPECT_THAT(application.recentFiles().paths(), IsEmpty());
+}
+
+TEST_F(TheApplicationOfDocuments, keepsNoRecentFilesWhenTheUserDoesNotWantThem) {
+  open(singleton(), QStringLiteral("a.nascor"));
+  emit widget<QMenu>("recentMenu").aboutToShow();
+  EXPECT_TRUE(action("rememberRecentAction").isChecked());
+  action("rememberRecentAction").trigger();
+  EXPECT_THAT(application.recentFiles().paths(), IsEmpty());
+  open(singleton(), QStringLiteral("b.nascor"));
+  EXPECT_THAT(application.recentFiles().paths(), IsEmpty());
+  EXPECT_EQ(platform.defaults.written().at("Recent Files"), "") << "no name stays in the preferences";
+
+  emit widget<QMenu>("recentMenu").aboutToShow();
+  EXPECT_FALSE(action("rememberRecentAction").isChecked());
+  EXPECT_FALSE(action("clearRecentAction").isEnabled());
+  action("rememberRecentAction").trigger();
+  open(singleton(), QStringLiteral("c.nascor"));
+  EXPECT_EQ(application.recentFiles().paths(), QStringList{folder.filePath(QStringLiteral("c.nascor"))});
 }
 
 TEST_F(TheApplicationOfDocuments, forgetsARecentFileThatIsGone) {
@@ -268,6 +286,140 @@ TEST_F(TheApplicationOfDocuments, opensWhatComesWhileAQuestionIsOpenAfterIt) {
   front().close();
   EXPECT_EQ(windowsAtTheQuestion, 1U);
   EXPECT_THAT(titles(), ElementsAre("AB-123.nascor[*]", "b.nascor[*]"));
+}
+
+TEST_F(TheApplicationOfDocuments, letsAnUntouchedNewDocumentMakeWayForAFile) {
+  openBlank().resize(1010, 710);
+  settle();
+  const QPoint place = front().pos();
+  const QString good = file(QStringLiteral("a.nascor"), documentBytes(singleton()));
+  answers = {"OK"};
+  application.openFiles({file(QStringLiteral("cut.nascor"), cutDocument())});
+  EXPECT_THAT(titles(), ElementsAre("Untitled[*]")) << "nothing came into its place";
+  application.openFiles({good});
+  EXPECT_THAT(titles(), ElementsAre("a.nascor[*]"));
+  EXPECT_EQ(front().size(), QSize(1010, 710));
+  EXPECT_EQ(front().pos(), place);
+}
+
+TEST_F(TheApplicationOfDocuments, keepsANewDocumentInWhichSomethingWasDone) {
+  const QString good = file(QStringLiteral("a.nascor"), documentBytes(singleton()));
+  openBlank();
+  enter("bpdField", "44");
+  application.openFiles({good});
+  EXPECT_THAT(titles(), ElementsAre("Untitled[*]", "a.nascor[*]"));
+  front().close();
+  settle();
+
+  press(Qt::Key_N, Qt::ControlModifier);
+  action("adjustDeliveryAction").trigger();
+  application.openFiles({good});
+  EXPECT_THAT(titles(), ElementsAre("Untitled[*]", "Untitled[*]", "a.nascor[*]")) << "its dialog is open";
+}
+
+TEST_F(TheApplicationOfDocuments, closesWithoutAQuestionAfterTypingWasTakenBack) {
+  open(singleton());
+  type("bpdField", "7");
+  EXPECT_TRUE(front().isWindowModified());
+  press(Qt::Key_Escape);
+  EXPECT_FALSE(front().isWindowModified());
+  press(Qt::Key_W, Qt::ControlModifier);
+  EXPECT_THAT(titles(), IsEmpty());
+}
+
+/// Ends the session, and what came of it.
+class TheEndOfTheSession : public TheApplicationOfDocuments {
+ protected:
+  void end() {
+    application.endSession(
+        [this] {
+          ++questionsForLeave;
+          return mayAsk;
+        },
+        [this] { ++cancels; });
+  }
+  QByteArray bytesOf(const char* name) {
+    QFile kept(folder.filePath(QLatin1String(name)));
+    return kept.open(QIODevice::ReadOnly) ? kept.readAll() : QByteArray();
+  }
+  bool mayAsk = true;
+  int questionsForLeave = 0;
+  int cancels = 0;
+};
+
+TEST_F(TheEndOfTheSession, isNoneOfTheUsersBusinessWhenNothingWasEdited) {
+  open(singleton(), QStringLiteral("a.nascor"));
+  openBlank();
+  end();
+  EXPECT_EQ(questionsForLeave, 0);
+  EXPECT_EQ(cancels, 0);
+  EXPECT_EQ(titles().size(), 2U);
+}
+
+TEST_F(TheEndOfTheSession, savesTheEditedDocumentsOneByOneAndClosesNone) {
+  open(singleton(), QStringLiteral("a.nascor"));
+  enter("bpdField", "70");
+  open(singleton(), QStringLiteral("b.nascor"));
+  open(singleton(), QStringLiteral("c.nascor"));
+  type("hcField", "222");  // still in edit
+  const QByteArray a = bytesOf("a.nascor");
+  const QByteArray b = bytesOf("b.nascor");
+  const QByteArray c = bytesOf("c.nascor");
+  answers = {"Save", "Discard"};
+  end();
+  ASSERT_EQ(asked.size(), 2U);
+  EXPECT_EQ(asked[0].information, "c.nascor");
+  EXPECT_EQ(asked[1].information, "a.nascor");
+  EXPECT_EQ(cancels, 0);
+  EXPECT_EQ(titles().size(), 3U) << "another program may yet stop the end";
+  EXPECT_EQ(bytesOf("a.nascor"), a);
+  EXPECT_EQ(bytesOf("b.nascor"), b);
+  EXPECT_NE(bytesOf("c.nascor"), c);
+
+  int ends = 0;
+  application.onLastDocumentClosed = [&] { ++ends; };
+  application.leaveSession();
+  EXPECT_EQ(ends, 1);
+  EXPECT_EQ(asked.size(), 2U) << "nothing is asked twice";
+}
+
+TEST_F(TheEndOfTheSession, isStoppedByTheUserAtAnyDocument) {
+  open(singleton(), QStringLiteral("a.nascor"));
+  enter("bpdField", "70");
+  open(singleton(), QStringLiteral("b.nascor"));
+  enter("bpdField", "71");
+  answers = {"Save", "Cancel"};
+  end();
+  EXPECT_EQ(cancels, 1);
+  EXPECT_EQ(titles().size(), 2U);
+  // Were the program to go all the same, it asks again.
+  answers = {"Cancel"};
+  application.leaveSession();
+  EXPECT_EQ(asked.size(), 3U);
+}
+
+TEST_F(TheEndOfTheSession, isStoppedWhileAQuestionIsOpen) {
+  open(twins());
+  enter("bpdField", "70");
+  answersQuestions(false);
+  click("deleteFetusButton");
+  end();
+  EXPECT_EQ(cancels, 1);
+  answers = {"Cancel"};
+  answersQuestions(true);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return asked.size() == 1; }));
+}
+
+TEST_F(TheEndOfTheSession, asksNobodyWhenItMayNot) {
+  open(singleton());
+  enter("bpdField", "70");
+  const QByteArray before = bytesOf("AB-123.nascor");
+  mayAsk = false;
+  end();
+  EXPECT_THAT(asked, IsEmpty());
+  EXPECT_EQ(cancels, 0);
+  EXPECT_EQ(bytesOf("AB-123.nascor"), before);
+  EXPECT_TRUE(front().isWindowModified());
 }
 
 TEST_F(TheApplicationOfDocuments, takesItsWindowsAlong) {

@@ -1,5 +1,6 @@
 #include "qt/Application.h"
 
+#include <QEvent>
 #include <QFontInfo>
 #include <cstdio>
 #include <string>
@@ -53,6 +54,12 @@ bool Application::notify(QObject* receiver, QEvent* event) {
     tell("unknown exception");
   }
   return false;
+}
+
+bool Application::event(QEvent* event) {
+  if (event->type() != QEvent::Quit || !onQuitRequest) return QApplication::event(event);
+  onQuitRequest();
+  return true;
 }
 
 }  // namespace nascor::qt

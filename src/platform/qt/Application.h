@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QString>
 #include <exception>
+#include <functional>
 
 namespace nascor::qt {
 
@@ -23,6 +24,12 @@ class Application final : public QApplication {
  public:
   Application(int& argc, char** argv);
   bool notify(QObject* receiver, QEvent* event) override;
+
+  /// The session wants the program gone. Without it all windows are closed one by one until one stays.
+  std::function<void()> onQuitRequest;
+
+ protected:
+  bool event(QEvent* event) override;
 };
 
 }  // namespace nascor::qt

@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QFile>
 #include <QMetaObject>
+#include <algorithm>
 
 #include "foundation/Localizer.h"
 #include "qt/Text.h"
@@ -74,8 +75,14 @@ void DocumentApplication::chooseFilesToOpen() {
 void DocumentApplication::openNow(const QStringList& paths) {
   QStringList sentences;
   for (const QString& path : paths) {
+    ZuDocument* before = documents_.currentDocument();
+    if (before && windowOf(*before)) windowOf(*before)->keepGeometry();
     std::string error;
-    if (documents_.openDocument(QFile::encodeName(path).toStdString(), error) != nullptr) continue;
+    if (const ZuDocument* opened = documents_.openDocument(QFile::encodeName(path).toStdString(), error)) {
+      if (before && before != opened && !windowOf(*before)->hasDialog())
+        documents_.closeUntouchedDocument(*before);
+      continue;
+    }
     recentFiles_.forget(path);
     sentences << fromUtf8(error);
   }
@@ -96,17 +103,39 @@ void DocumentApplication::activate() {
   });
 }
 
-bool DocumentApplication::quit() {
+bool DocumentApplication::hasOpenQuestion() {
   for (const auto& [document, window] : windows_) {
     if (!hasSheet(*window)) continue;
     // What was asked there wants its answer first.
     window->activateWindow();
     window->raise();
-    return false;
+    return true;
   }
+  return false;
+}
+
+bool DocumentApplication::quit() {
+  if (hasOpenQuestion()) return false;
   bool areClosed = false;
   actions_.perform([&] { areClosed = documents_.closeAllDocuments(); });
   return areClosed;
+}
+
+void DocumentApplication::endSession(const std::function<bool()>& mayAsk,
+                                     const std::function<void()>& cancel) {
+  const auto documents = documents_.documents();
+  isSessionEndAgreed_ = std::ranges::none_of(documents, &ZuDocument::isDocumentEdited);
+  if (isSessionEndAgreed_ || !mayAsk()) return;
+  if (!hasOpenQuestion()) actions_.perform([&] { isSessionEndAgreed_ = documents_.saveEditedDocuments(); });
+  if (!isSessionEndAgreed_) cancel();
+}
+
+void DocumentApplication::leaveSession() {
+  if (!isSessionEndAgreed_) {
+    quit();
+  } else if (onLastDocumentClosed) {
+    onLastDocumentClosed();
+  }
 }
 
 void DocumentApplication::addWindow(ZuDocument& document) {

@@ -41,11 +41,19 @@ class DocumentApplication {
   void activate();
   /// Closes all documents, each with its question. False when the user keeps one.
   bool quit();
+  /// The session is about to end: asks of each edited document whether to save it, and closes none, since another program
+  /// may yet stop the end. `mayAsk` asks the session whether the user may be asked, and is sent only where something was
+  /// edited; what nobody may be asked about stays as it is. Sends `cancel` when the user stops the end of the session, or a
+  /// question is open already.
+  void endSession(const std::function<bool()>& mayAsk, const std::function<void()>& cancel);
+  /// The session wants the program gone: everything was asked when its end was announced; otherwise like `quit`.
+  void leaveSession();
 
-  std::function<void()> onLastDocumentClosed;  ///< may be empty
+  std::function<void()> onLastDocumentClosed;  ///< sent when there is nothing left to do; may be empty
 
  private:
   void openNow(const QStringList& paths);
+  bool hasOpenQuestion();
   void addWindow(framework::ZuDocument& document);
   void removeWindow(framework::ZuDocument& document);
   void bringToFront(const framework::ZuDocument& document) const;
@@ -59,6 +67,7 @@ class DocumentApplication {
   app::NCAppController controller_;
   RecentFiles recentFiles_;
   std::map<const framework::ZuDocument*, DocumentWindow*> windows_;
+  bool isSessionEndAgreed_ = false;
   QObject context_;  ///< what is queued ends with it
 };
 

@@ -3,6 +3,7 @@
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QCoreApplication>
+#include <QDialog>
 #include <QDragEnterEvent>
 #include <QFile>
 #include <QLabel>
@@ -12,6 +13,7 @@
 #include <QScreen>
 #include <QScrollBar>
 #include <QSignalBlocker>
+#include <algorithm>
 #include <array>
 
 #include "calc/EditingBounds.h"
@@ -109,9 +111,18 @@ DocumentWindow::DocumentWindow(NCDocument& document, WindowEnvironment environme
 
 DocumentWindow::~DocumentWindow() { release(); }
 
+bool DocumentWindow::hasDialog() const {
+  const auto dialogs = findChildren<QDialog*>();
+  return std::ranges::any_of(dialogs, [](const QDialog* dialog) { return dialog->isVisible(); });
+}
+
+void DocumentWindow::keepGeometry() const {
+  environment_.services.defaults.setValue(kGeometryKey, saveGeometry().toBase64().toStdString());
+}
+
 void DocumentWindow::release() {
   if (!document_) return;
-  environment_.services.defaults.setValue(kGeometryKey, saveGeometry().toBase64().toStdString());
+  keepGeometry();
   for (FieldBinding* binding : bindings_) binding->release();
   adjustDelivery_->release();
   adjustDelivery_->hide();
@@ -318,6 +329,11 @@ void DocumentWindow::showRecentFiles() {
   clear->setObjectName(QStringLiteral("clearRecentAction"));
   clear->setEnabled(!paths.isEmpty());
   connect(clear, &QAction::triggered, this, [this] { environment_.recentFiles.clear(); });
+  QAction* remember = ui_->recentMenu->addAction(said("&Remember Recent Documents"));
+  remember->setObjectName(QStringLiteral("rememberRecentAction"));
+  remember->setCheckable(true);
+  remember->setChecked(environment_.recentFiles.isKept());
+  connect(remember, &QAction::toggled, this, [this](bool kept) { environment_.recentFiles.setKept(kept); });
 }
 
 void DocumentWindow::bindEditActions() {

@@ -52,6 +52,11 @@ class DocumentWindow final : public QMainWindow {
   /// Null once the document is closed.
   app::NCDocument* document() { return document_; }
 
+  /// Whether a dialog or a question stands open on the window.
+  bool hasDialog() const;
+  /// The next window opens in this one's place.
+  void keepGeometry() const;
+
   /// Lets go of the document, which is closed, and goes away itself.
   void release();
 

@@ -9,6 +9,7 @@ namespace nascor::qt {
 namespace {
 
 constexpr std::string_view kKey = "Recent Files";
+constexpr std::string_view kSwitchKey = "Remember Recent Files";
 
 }  // namespace
 
@@ -22,7 +23,17 @@ QStringList RecentFiles::paths() const {
   return paths;
 }
 
+bool RecentFiles::isKept() const {
+  return !defaults_.value(kSwitchKey) || foundation::boolForKey(defaults_, kSwitchKey);
+}
+
+void RecentFiles::setKept(bool kept) {
+  defaults_.setValue(kSwitchKey, kept ? "true" : "false");
+  if (!kept) clear();
+}
+
 void RecentFiles::note(const QString& path) {
+  if (!isKept()) return;
   const QString absolute = QFileInfo(path).absoluteFilePath();
   QStringList all = paths();
   all.removeAll(absolute);

@@ -20,6 +20,11 @@ class RecentFiles {
   void forget(const QString& path);
   void clear();
 
+  /// Whether any are kept, which they are until the user decides otherwise.
+  bool isKept() const;
+  /// Not to keep them forgets those that are there.
+  void setKept(bool kept);
+
  private:
   void keep(const QStringList& all);
   foundation::UserDefaults& defaults_;

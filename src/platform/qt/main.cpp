@@ -94,10 +94,12 @@ int nascorMain(int argc, char** argv) {
   if (service.start(files) == ApplicationService::Start::handedOver) return kAllWell;
 
   Application::setQuitOnLastWindowClosed(false);  // a window that another document takes over is not the end
-  QObject::connect(&application, &QGuiApplication::commitDataRequest, &application,
-                   [&](QSessionManager& session) {
-                     if (session.allowsInteraction() && !documents.quit()) session.cancel();
-                   });
+  QObject::connect(
+      &application, &QGuiApplication::commitDataRequest, &application, [&](QSessionManager& session) {
+        documents.endSession([&] { return session.allowsInteraction(); }, [&] { session.cancel(); });
+        session.release();
+      });
+  application.onQuitRequest = [&] { documents.leaveSession(); };
   documents.onLastDocumentClosed = [] {
     QMetaObject::invokeMethod(
         qApp, [] { Application::exit(kAllWell); }, Qt::QueuedConnection);
