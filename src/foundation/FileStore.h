@@ -42,6 +42,8 @@ class FileStore {
 
   /// The regular files of a folder, in no order; none where there is no such folder.
   virtual std::vector<FileEntry> entries(const std::string& folder) const = 0;
+  /// Whether a file, a folder or anything else bears this name.
+  virtual bool exists(const std::string& path) const = 0;
   /// The folder in which the user keeps documents.
   virtual std::string documentsFolder() const = 0;
   /// A name by which two paths of one file are the same: absolute, without links. A file need not be there.

@@ -46,6 +46,7 @@ class StoryFileStore final : public foundation::FileStore {
   std::vector<foundation::FileEntry> entries(const std::string& folder) const override {
     return files_.entries(folder);
   }
+  bool exists(const std::string& path) const override { return files_.exists(path); }
   std::string documentsFolder() const override { return files_.documentsFolder(); }
   std::string resolvedPath(const std::string& path) const override { return files_.resolvedPath(path); }
 

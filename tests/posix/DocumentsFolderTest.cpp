@@ -71,6 +71,15 @@ TEST_F(AFolder, listsWhatIsNoRegularFileNot) {
   EXPECT_THAT(names(), UnorderedElementsAre("file", ".hidden", "with\nnewline"));
 }
 
+TEST_F(AFolder, knowsWhichNamesAreTaken) {
+  put("file");
+  fs::create_directory(folder_ / "folder");
+  fs::create_symlink("nowhere", folder_ / "broken");
+  for (const char* name : {"file", "folder", "broken"}) EXPECT_TRUE(store_.exists(at(name))) << name;
+  EXPECT_FALSE(store_.exists(at("nowhere")));
+  EXPECT_FALSE(store_.exists(at("file/below")));
+}
+
 TEST_F(AFolder, listsALinkToAFileAsTheFile) {
   put("file", "1234567");
   fs::create_symlink("file", folder_ / "link");

@@ -8,6 +8,7 @@
 
 #include "cli_commands/Command.h"
 #include "foundation/Assertion.h"
+#include "foundation/ProgramVersion.h"
 #include "foundation/RangeError.h"
 #include "foundation/SourceLocation.h"
 
@@ -44,7 +45,8 @@ std::string listed(const std::vector<std::pair<std::string, std::string_view>>& 
 }
 
 std::string version() {
-  return std::string(kProgram) + " " + NASCOR_VERSION + "\n" + std::string(kNotAMedicalDevice) + "\n";
+  return std::string(kProgram).append(" ").append(foundation::programVersion()) + "\n" +
+         std::string(kNotAMedicalDevice) + "\n";
 }
 
 std::string help() {

@@ -242,6 +242,12 @@ std::string PosixFileStore::documentsFolder() const {
   return std::string(home ? home : ".") + "/Documents";
 }
 
+bool PosixFileStore::exists(const std::string& path) const {
+  // A link that leads nowhere bears its name too.
+  std::error_code ignored;
+  return std::filesystem::symlink_status(path, ignored).type() != std::filesystem::file_type::not_found;
+}
+
 std::string PosixFileStore::resolvedPath(const std::string& path) const {
   std::error_code error;
   const std::filesystem::path resolved =

@@ -29,6 +29,7 @@ class PosixFileStore final : public foundation::FileStore {
                                                        std::span<const std::byte> bytes) override;
 
   std::vector<foundation::FileEntry> entries(const std::string& folder) const override;
+  bool exists(const std::string& path) const override;
   std::string documentsFolder() const override;
   std::string resolvedPath(const std::string& path) const override;
 

@@ -5,6 +5,7 @@
 #include <cstdio>
 #include <string>
 
+#include "foundation/ProgramVersion.h"
 #include "foundation/RangeError.h"
 
 namespace nascor::qt {
@@ -16,7 +17,10 @@ void tell(const std::string& what) {
 
 }  // namespace
 
-QString programVersion() { return QStringLiteral(NASCOR_VERSION); }
+QString programVersion() {
+  const std::string_view version = foundation::programVersion();
+  return QString::fromLatin1(version.data(), static_cast<qsizetype>(version.size()));
+}
 
 QString disclaimer() {
   return QCoreApplication::translate("Application", "Not a medical device. Not validated for clinical use.");

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <functional>
 #include <map>
@@ -49,6 +50,10 @@ class FaultyFileStore final : public foundation::FileStore {
            .modified = modified == modificationDates.end() ? foundation::Date{} : modified->second});
     }
     return found;
+  }
+  bool exists(const std::string& path) const override {
+    return files.contains(path) ||
+           std::ranges::any_of(files, [&](const auto& file) { return file.first.starts_with(path + "/"); });
   }
   std::string documentsFolder() const override { return "/documents"; }
   std::string resolvedPath(const std::string& path) const override { return path; }

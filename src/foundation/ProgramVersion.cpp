@@ -1,0 +1,7 @@
+#include "foundation/ProgramVersion.h"
+
+namespace nascor::foundation {
+
+std::string_view programVersion() { return NASCOR_VERSION; }
+
+}  // namespace nascor::foundation

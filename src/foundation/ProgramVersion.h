@@ -1,0 +1,10 @@
+#pragma once
+
+#include <string_view>
+
+namespace nascor::foundation {
+
+/// The version of the program, such as "1.2.3".
+std::string_view programVersion();
+
+}  // namespace nascor::foundation
