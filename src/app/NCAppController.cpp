@@ -6,7 +6,9 @@
 #include "calc/Dating.h"
 #include "calc/FetalWeight.h"
 #include "calc/Standards.h"
+#include "foundation/Assertion.h"
 #include "foundation/Localizer.h"
+#include "foundation/PercentEscapes.h"
 #include "foundation/UserDefaults.h"
 
 namespace nascor::app {
@@ -40,8 +42,8 @@ constexpr std::array<StandardsMenu, 3> kStandardsMenus{{
 }  // namespace
 
 NCAppController::NCAppController(const foundation::Services& services,
-                                 framework::DocumentController& documents)
-    : CorvelAppController(services, documents) {}
+                                 framework::DocumentController& documents, HelpEnvironment help)
+    : CorvelAppController(services, documents), help_(std::move(help)) {}
 
 void NCAppController::awakeFromNib() {
   CorvelAppController::awakeFromNib();
@@ -77,6 +79,11 @@ void NCAppController::toggleShowAll(MenuItem& sender) {
   sender.state = sender.state == 0 ? 1 : 0;
   services().defaults.setValue(defaults_key::showAll, sender.state != 0 ? "true" : "false");
   services().notifications.post(foundation::NotificationName::updateShowAll, this);
+}
+
+void NCAppController::doHelp() {
+  const std::string guide = foundation::required(help_.resourcePath).value() + "/Nascor User Guide.pdf";
+  if (help_.viewer) help_.viewer->open("file://" + foundation::withPercentEscapes(guide));
 }
 
 bool NCAppController::validateMenuItem(MenuItem& item) {

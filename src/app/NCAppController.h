@@ -2,20 +2,30 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
+#include <string>
 #include <string_view>
 #include <vector>
 
 #include "app/NCDocument.h"
 #include "foundation/NotificationCenter.h"
 #include "framework/CorvelAppController.h"
+#include "framework/Viewer.h"
 
 namespace nascor::app {
+
+/// Where the user guide lies, and who shows it.
+struct HelpEnvironment {
+  std::optional<std::string> resourcePath = std::nullopt;  ///< the folder of the application's resources
+  framework::Viewer* viewer = nullptr;                     ///< without one nothing is shown
+};
 
 /// The application's part of the main menu: the standards and their ticks, "Show All", and what goes to the document in
 /// front. Without a document in front nothing happens.
 class NCAppController final : public framework::CorvelAppController, public foundation::NotificationSender {
  public:
-  NCAppController(const foundation::Services& services, framework::DocumentController& documents);
+  NCAppController(const foundation::Services& services, framework::DocumentController& documents,
+                  HelpEnvironment help = {});
 
   std::string_view className() const override { return "NCAppController"; }
 
@@ -29,6 +39,10 @@ class NCAppController final : public framework::CorvelAppController, public foun
   void doSetCRLStandard(const framework::MenuItem& sender);
   void doAdjustDeliveryDate(NCDocument::Sender sender);
   void toggleShowAll(framework::MenuItem& sender);
+  // Selector: doHelp:
+  /// Shows the user guide in the user's own viewer. Throws AssertionFailure when the program does not know where its
+  /// resources are; a guide that cannot be shown is no error.
+  void doHelp();
   /// @}
 
   bool validateMenuItem(framework::MenuItem& item) override;
@@ -44,6 +58,7 @@ class NCAppController final : public framework::CorvelAppController, public foun
   NCDocument* currentDocument() const;
   std::string localized(std::string_view key) const;
 
+  HelpEnvironment help_;
   framework::MenuItem showAllMenuItem_;
 };
 

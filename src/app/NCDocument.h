@@ -3,6 +3,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <span>
@@ -51,6 +52,20 @@ class NCDocument final : public framework::CorvelDocument,
   bool loadDataRepresentation(std::span<const std::byte> data, std::string_view type) override;
   bool holdsContents() const override { return patientRecord_ != nullptr; }
   std::string suggestedFileName() const override { return preferredFileName(false); }
+
+  /// @}
+  /// @name Pages into files and to the printer
+  /// @{
+
+  /// Told before each page how many of how many are done; false ends the export there.
+  using ExportProgress = std::function<bool(std::int64_t done, std::int64_t total)>;
+  /// Exports the first and the last page of every fetus, in the order of the fetuses, and asks nothing. The last fetus and
+  /// the last page stay on show. Why pages were not written: one sentence for each.
+  std::vector<std::string> autoExport(const ExportProgress& goesOn = {});
+  /// Prints the page on show, then the weight page.
+  void printDocumentWithSettings(const framework::PrintSettings& settings, bool showPrintPanel,
+                                 const DidPrint& didPrint) override;
+  framework::PageFoot footOfPage(std::int64_t index, std::int64_t number, std::int64_t count) const override;
 
   /// @}
   /// @name The window
@@ -241,6 +256,7 @@ class NCDocument final : public framework::CorvelDocument,
   bool currentExaminationHoldsData() const override;
   bool holdsMoreThanIdentity() const override;
   std::string referenceIDForFileName() const override;
+  std::string exportName() const override { return preferredFileName(true); }
 
   framework::NumberField& fieldFor(calc::Measurement measurement);
   /// The measurement that `field` shows; nothing for another field.

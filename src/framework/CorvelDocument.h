@@ -2,14 +2,19 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
+#include "foundation/NotificationCenter.h"
 #include "framework/Alerts.h"
 #include "framework/Controls.h"
 #include "framework/FieldEditor.h"
 #include "framework/FilePanels.h"
 #include "framework/GraphDocument.h"
+#include "framework/PageWriter.h"
+#include "framework/Printer.h"
+#include "framework/Sheet.h"
 #include "framework/TextField.h"
 #include "framework/ZuDocument.h"
 
@@ -22,6 +27,10 @@ struct DocumentEnvironment {
   foundation::Services services;
   Alerts& alerts;
   DocumentController& controller;
+  // Without these nothing is asked, written or printed.
+  FilePanels* panels = nullptr;
+  PageWriter* pageWriter = nullptr;
+  Printer* printer = nullptr;
 };
 
 /// The document of one patient, with a window of fields and pages, seen at a series of examinations of which one is on
@@ -43,6 +52,7 @@ class CorvelDocument : public ZuDocument, public virtual GraphDocument, protecte
   TextView& notesField() { return notesField_; }
   const TextView& notesField() const { return notesField_; }
   TabView& tabView() { return tabView_; }
+  const TabView& tabView() const { return tabView_; }
   FieldEditor& fieldEditor() { return fieldEditor_; }
 
   bool commitEditing() override;
@@ -65,6 +75,30 @@ class CorvelDocument : public ZuDocument, public virtual GraphDocument, protecte
   /// Removes the examination on show and shows its neighbour; never the last one. Asks first when anything was measured
   /// or noted.
   void deleteExaminationAction();
+
+  /// @}
+
+  /// @name Pages into files and to the printer; the text in edit reaches the records first
+  /// @{
+
+  // Selector: doExport:
+  /// Writes the page on show into a file of the format that the user prefers, under a name that is not taken. Without a
+  /// sender nobody is asked or told anything: it goes to the folder that was chosen once, else to the document's, else to
+  /// the user's documents folder. With one, the user is asked for a folder where none was chosen, and told of a failure.
+  /// Nothing when it was written or the user cancelled, else why not.
+  std::optional<std::string> doExport(const foundation::NotificationSender* sender);
+
+  /// Told once at the end of printing, whether all of it went out.
+  using DidPrint = std::function<void(bool)>;
+
+  // Selector: printDocumentWithSettings:showPrintPanel:delegate:didPrintSelector:contextInfo:
+  /// Prints the page on show. `didPrint`, which may be empty, stands for delegate, selector and context. A failure is told
+  /// to the user where the print panel was shown.
+  virtual void printDocumentWithSettings(const PrintSettings& settings, bool showPrintPanel,
+                                         const DidPrint& didPrint);
+
+  const PrintInfo& printInfo() const { return printInfo_; }
+  void setPrintInfo(const PrintInfo& info) { printInfo_ = info; }
 
   /// @}
 
@@ -114,9 +148,24 @@ class CorvelDocument : public ZuDocument, public virtual GraphDocument, protecte
   virtual bool holdsMoreThanIdentity() const = 0;
   /// The reference ID in the form that file names have.
   virtual std::string referenceIDForFileName() const = 0;
+  /// What exported pages are named after; may be empty.
+  virtual std::string exportName() const { return suggestedFileName(); }
+  /// What stands under page `index`, which is the `number`th of `count` that go out together.
+  virtual PageFoot footOfPage(std::int64_t index, std::int64_t number, std::int64_t count) const;
+
+  /// Commits what is in edit. False when a field refuses its text, or when the patient that was looked up has taken this
+  /// document's place: then nothing more may be done with it.
+  bool commitsEditing();
+  /// Prints these pages as one request.
+  void printPages(const std::vector<std::int64_t>& pages, const PrintSettings& settings, bool showPrintPanel,
+                  const DidPrint& didPrint);
 
  private:
   void showExamination(std::int64_t exam);
+  std::optional<std::string> exportPage(std::int64_t page, const std::string& folder);
+  std::optional<std::string> print(PrintJob& job, const std::vector<std::int64_t>& pages, bool showPrintPanel,
+                                   bool& isPrinted);
+  PageFoot footIfWanted(std::int64_t index, std::int64_t number, std::int64_t count) const;
   void removeExamination();
   std::vector<foundation::FileEntry> documentsOfPatient(const std::string& name) const;
   bool userOpens(const foundation::FileEntry& file) const;
@@ -133,6 +182,7 @@ class CorvelDocument : public ZuDocument, public virtual GraphDocument, protecte
   bool lookUpRequired_ = false;
   bool isOnPaper_ = false;
   bool isMarkedByEdit_ = false;  ///< whether the change count holds a change for the field in edit
+  PrintInfo printInfo_;
 };
 
 }  // namespace nascor::framework

@@ -14,6 +14,8 @@ class FilePanels {
   /// Where to save a document for which `suggestedName` is a good file name. The user has agreed to replace a file that
   /// is there.
   virtual std::optional<std::string> chooseFileToSave(const std::string& suggestedName) = 0;
+  /// A folder for files that the program names itself.
+  virtual std::optional<std::string> chooseFolder() = 0;
 };
 
 }  // namespace nascor::framework

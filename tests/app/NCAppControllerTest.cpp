@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "calc/FetalWeight.h"
+#include "foundation/Assertion.h"
 #include "foundation/UserDefaults.h"
 #include "support/MarkedLocalizer.h"
 #include "support/TestApplication.h"
@@ -193,6 +194,29 @@ TEST(TheApplicationInAnotherLanguage, knowsItsMenusByTheirTranslatedTitles) {
   EXPECT_EQ(translated.state, 1);
   MenuItem english{.menuTitle = "Standards", .title = "", .tag = 0, .state = 0};
   EXPECT_TRUE(controller.validateMenuItem(english));
+}
+
+TEST_F(TheApplication, showsTheUserGuideByItsEscapedUrl) {
+  tests::RecordingViewer viewer;
+  viewer.canShow = false;  // which is nobody's error
+  NCAppController(platform.services(), platform.documents,
+                  {.resourcePath = "/opt/My Apps/100%/Zo\xC3\xAB", .viewer = &viewer})
+      .doHelp();
+  EXPECT_THAT(viewer.opened, ElementsAre("file:///opt/My%20Apps/100%25/Zo%C3%AB/Nascor%20User%20Guide.pdf"));
+}
+
+TEST_F(TheApplication, abandonsHelpWhenItDoesNotKnowWhereItsResourcesAre) {
+  tests::RecordingViewer viewer;
+  NCAppController lost(platform.services(), platform.documents,
+                       {.resourcePath = std::nullopt, .viewer = &viewer});
+  try {
+    lost.doHelp();
+    ADD_FAILURE() << "no assertion";
+  } catch (const foundation::AssertionFailure& failure) {
+    EXPECT_THAT(failure.what(), testing::HasSubstr("Value==nil"));
+    EXPECT_THAT(failure.where().file_name(), testing::HasSubstr("NCAppController"));
+  }
+  EXPECT_TRUE(viewer.opened.empty());
 }
 
 }  // namespace

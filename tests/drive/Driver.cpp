@@ -104,6 +104,11 @@ class Arguments {
   std::size_t at_ = 1;
 };
 
+/// A page that was not exported is an error, unless a field holds it back, which is told by what is not done.
+void tellFailure(NCDocument& document, const std::string& sentence) {
+  if (!document.fieldEditor().field()) refuse(sentence);
+}
+
 using Operation = std::function<Json(NCDocument&, Arguments&)>;
 
 template <class Action>
@@ -207,6 +212,16 @@ const std::map<std::string, Operation, std::less<>>& operations() {
       {"deleteExaminationAction", act([](NCDocument& d, Arguments&) { d.deleteExaminationAction(); })},
       {"nextExamination", act([](NCDocument& d, Arguments&) { d.nextExamination(); })},
       {"previousExamination", act([](NCDocument& d, Arguments&) { d.previousExamination(); })},
+      // Files and the printer
+      {"doExport", act([](NCDocument& d, Arguments&) {
+         if (const auto sentence = d.doExport(nullptr)) tellFailure(d, *sentence);
+       })},
+      {"autoExport", act([](NCDocument& d, Arguments&) {
+         const auto sentences = d.autoExport();
+         if (!sentences.empty()) tellFailure(d, sentences.front());
+       })},
+      {"printDocumentWithSettings",
+       act([](NCDocument& d, Arguments& a) { d.printDocumentWithSettings({}, a.truth(), {}); })},
       // Standards
       {"standard", [](NCDocument& d, Arguments&) { return Json(d.standard()); }},
       {"fetalWeightStandard", [](NCDocument& d, Arguments&) { return Json(d.fetalWeightStandard()); }},
@@ -266,12 +281,16 @@ Driver::Driver()
                 .log = log_,
                 .notifications = notifications_},
       documents_(services_, alerts_, panels_),
-      application_(services_, documents_) {
+      application_(services_, documents_, {.resourcePath = "/usr/share/nascor", .viewer = &viewer_}) {
   std::filesystem::current_path(scratchFolder_);
   recordPosts();
   documents_.setFactory([this] {
-    auto document = std::make_unique<NCDocument>(
-        framework::DocumentEnvironment{.services = services_, .alerts = alerts_, .controller = documents_});
+    auto document = std::make_unique<NCDocument>(framework::DocumentEnvironment{.services = services_,
+                                                                                .alerts = alerts_,
+                                                                                .controller = documents_,
+                                                                                .panels = &panels_,
+                                                                                .pageWriter = &pageWriter_,
+                                                                                .printer = &printer_});
     document->multiplePopUp().onAnimationEffect = [this](int effect, framework::Point at) {
       effects_.push_back({effect, at.x, at.y});
     };
@@ -456,6 +475,8 @@ Json Driver::applicationOperation(const Json& call) {
   };
   if (name == "toggleShowAll") {
     application_.toggleShowAll(application_.showAllMenuItem());
+  } else if (name == "doHelp") {
+    application_.doHelp();
   } else if (name == "doAdjustDeliveryDate") {
     application_.doAdjustDeliveryDate(&application_);
   } else if (name == "doSetStandard") {
@@ -567,11 +588,31 @@ Json Driver::state() {
   }
   result["alerts"] = std::move(asked);
   result["log"] = std::exchange(log_.lines, {});
-  result["exports"] = Json::array();
-  result["prints"] = Json::array();
-  result["opened"] = Json::array();
+  addOutput(result);
   result["effects"] = std::exchange(effects_, Json::array());
   return result;
+}
+
+void Driver::addOutput(Json& result) {
+  Json exports = Json::array();
+  for (const auto& page : std::exchange(pageWriter_.written, {}))
+    exports.push_back(std::filesystem::path(page.path).filename().string());
+  Json prints = Json::array();
+  for (const auto& page : std::exchange(printer_.printed, {}))
+    prints.push_back({pageIndex(page.page), page.showsPanel});
+  result["exports"] = std::move(exports);
+  result["prints"] = std::move(prints);
+  result["opened"] = std::exchange(viewer_.opened, {});
+}
+
+Json Driver::pageIndex(const framework::Page* page) {
+  for (framework::ZuDocument* open : documents_.documents()) {
+    framework::TabView& tabs = dynamic_cast<NCDocument&>(*open).tabView();
+    for (std::int64_t index = 0; index < tabs.numberOfPages(); ++index) {
+      if (&tabs.page(index) == page) return index;
+    }
+  }
+  return nullptr;
 }
 
 Json Driver::documentState(NCDocument& shown) {

@@ -17,6 +17,7 @@
 #include "posix/PosixCalendar.h"
 #include "support/FixedClock.h"
 #include "support/MemoryUserDefaults.h"
+#include "support/RecordingOutput.h"
 #include "support/ScriptedAlerts.h"
 #include "support/TestServices.h"
 
@@ -65,6 +66,10 @@ class Driver {
   app::NCDocument& document();
   Json documentState(app::NCDocument& document);
   Json defaultsState() const;
+  /// What went to files, the printer and other programs since this was last asked.
+  void addOutput(Json& result);
+  /// Null for a page of a document that is closed.
+  Json pageIndex(const framework::Page* page);
   /// What a refusing field answers to an action that it holds back; nothing when the edits were committed.
   std::optional<Json> heldBack(app::NCDocument& document);
   void recordPosts();
@@ -83,6 +88,9 @@ class Driver {
   tests::ScriptedAlerts alerts_;
   tests::ScriptedFilePanels panels_;
   foundation::Services services_;
+  tests::RecordingPageWriter pageWriter_{files_};
+  tests::RecordingPrinter printer_;
+  tests::RecordingViewer viewer_;
   framework::DocumentController documents_;
   app::NCAppController application_;
 

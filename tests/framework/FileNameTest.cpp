@@ -34,5 +34,17 @@ TEST(AFileName, isCutToWhatAFolderTakesBetweenCharacters) {
             std::string(246, 'a') + "\u00dc.nascor");
 }
 
+TEST(AFileName, isSafeOnEveryFileSystemWhereItIsToBe) {
+  EXPECT_EQ(portableFileNameText("A<b>c:d\"e\\f|g?h*i/j"), "A-b-c-d-e-f-g-h-i-j");
+  EXPECT_EQ(portableFileNameText("AB-123 (G2)"), "AB-123 (G2)");
+  EXPECT_EQ(portableFileNameText("name."), "name-");
+  EXPECT_EQ(portableFileNameText("name "), "name-");
+}
+
+TEST(AFileName, keepsItsEndingWhole) {
+  EXPECT_EQ(fileNameEndingIn("AB", " - x.pdf"), "AB - x.pdf");
+  EXPECT_EQ(fileNameEndingIn(std::string(300, 'a'), " - x.pdf"), std::string(247, 'a') + " - x.pdf");
+}
+
 }  // namespace
 }  // namespace nascor::framework

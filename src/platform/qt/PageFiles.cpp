@@ -51,6 +51,7 @@ class NoPanels final : public framework::FilePanels {
  public:
   std::vector<std::string> chooseFilesToOpen() override { return {}; }
   std::optional<std::string> chooseFileToSave(const std::string&) override { return std::nullopt; }
+  std::optional<std::string> chooseFolder() override { return std::nullopt; }
 };
 
 /// The user's preferences, which painting pages does not change.

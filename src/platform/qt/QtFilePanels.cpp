@@ -52,4 +52,11 @@ std::optional<std::string> QtFilePanels::chooseFileToSave(const std::string& sug
   return QFile::encodeName(path).toStdString();
 }
 
+std::optional<std::string> QtFilePanels::chooseFolder() {
+  const QString path =
+      QFileDialog::getExistingDirectory(parent(), said("Folder for Exported Pages"), folder());
+  if (path.isEmpty()) return std::nullopt;
+  return QFile::encodeName(path).toStdString();
+}
+
 }  // namespace nascor::qt

@@ -18,6 +18,8 @@ class QtFilePanels final : public framework::FilePanels {
   /// Under a name that is safe for a file, with the documents' extension unless the user types another.
   std::optional<std::string> chooseFileToSave(const std::string& suggestedName) override;
 
+  std::optional<std::string> chooseFolder() override;
+
   std::function<QWidget*()> frontWindow;  ///< set by whoever makes windows; may return null
 
  private:

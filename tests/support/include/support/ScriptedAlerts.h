@@ -63,7 +63,14 @@ class ScriptedFilePanels final : public framework::FilePanels {
     return folder + "/" + suggestedName;
   }
 
+  std::optional<std::string> chooseFolder() override {
+    ++timesFolderAsked;
+    if (isCancelled) return std::nullopt;
+    return folder;
+  }
+
   std::string folder;
+  int timesFolderAsked = 0;
   std::vector<std::string> filesToOpen;
   std::vector<std::string> suggested;
   bool isCancelled = false;

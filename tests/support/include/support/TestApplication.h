@@ -2,6 +2,7 @@
 
 #include "framework/CorvelDocument.h"
 #include "framework/DocumentController.h"
+#include "support/RecordingOutput.h"
 #include "support/ScriptedAlerts.h"
 #include "support/TestServices.h"
 
@@ -14,8 +15,16 @@ struct TestApplication : TestServices {
   framework::DocumentController documents{services(), alerts, panels};
 
   framework::DocumentEnvironment environment() {
-    return {.services = services(), .alerts = alerts, .controller = documents};
+    return {.services = services(),
+            .alerts = alerts,
+            .controller = documents,
+            .panels = &panels,
+            .pageWriter = &pageWriter,
+            .printer = &printer};
   }
+
+  RecordingPageWriter pageWriter{files};
+  RecordingPrinter printer;
 };
 
 }  // namespace nascor::tests

@@ -1,0 +1,98 @@
+// Pages into files and to the printer, and what stands under them.
+
+#include <algorithm>
+
+#include "app/NCDocument.h"
+#include "calc/FetalWeight.h"
+#include "calc/Standards.h"
+#include "foundation/Calendar.h"
+#include "foundation/Localizer.h"
+#include "foundation/LongDate.h"
+#include "foundation/ProgramVersion.h"
+
+namespace nascor::app {
+
+namespace string_table = foundation::string_table;
+
+namespace {
+
+constexpr std::int64_t kWeightPage = 5;
+
+}  // namespace
+
+std::vector<std::string> NCDocument::autoExport(const ExportProgress& goesOn) {
+  std::vector<std::string> sentences;
+  if (!commitsEditing()) {
+    sentences.push_back(services().localizer.text(string_table::corvelDocument,
+                                                  "A field holds a text that is not permitted."));
+  } else if (patientRecord_) {
+    // A damaged file may count more fetuses than can be chosen.
+    const std::int64_t fetuses = std::min(patientRecord_->numberOfFetuses(), multiplePopUp_.numberOfItems());
+    const std::array<std::int64_t, 2> pages{0, tabView().numberOfPages() - 1};
+    const std::int64_t total = std::max<std::int64_t>(fetuses, 0) * static_cast<std::int64_t>(pages.size());
+    std::int64_t done = 0;
+    for (std::int64_t fetus = 0; fetus < fetuses; ++fetus) {
+      for (const std::int64_t page : pages) {
+        if (goesOn && !goesOn(done, total)) return sentences;
+        if (page == pages.front()) {
+          multiplePopUp_.selectItemAtIndex(fetus);
+          chooseFetus(multiplePopUp_);
+        }
+        tabView().selectPage(page);
+        if (auto sentence = doExport(nullptr)) sentences.push_back(std::move(*sentence));
+        ++done;
+      }
+    }
+  }
+  return sentences;
+}
+
+void NCDocument::printDocumentWithSettings(const framework::PrintSettings& settings, bool showPrintPanel,
+                                           const DidPrint& didPrint) {
+  // One request, two prints: the page on show, and the weight page whichever is on show.
+  std::vector<std::int64_t> pages{tabView().indexOfSelectedPage()};
+  if (kWeightPage < tabView().numberOfPages()) pages.push_back(kWeightPage);
+  printPages(pages, settings, showPrintPanel, didPrint);
+}
+
+framework::PageFoot NCDocument::footOfPage(std::int64_t index, std::int64_t number,
+                                           std::int64_t count) const {
+  if (!patientRecord_) return {};
+  const foundation::Localizer& localizer = services().localizer;
+  const auto text = [&](std::string_view key) { return localizer.text(string_table::ncDocument, key); };
+  const auto dateText = [&](const foundation::Date& date) {
+    const auto day = foundation::localDay(date, services().calendar);
+    return day ? foundation::longDateText(*day, localizer) : std::string();
+  };
+  const auto labelled = [&](std::string_view label, const std::string& value) {
+    return value.empty() ? std::string() : text(label) + " " + value;
+  };
+
+  std::string first;
+  std::string last;
+  for (const auto& record : patientRecord_->ncRecordsArray()) {
+    if (!record->examDate()) continue;
+    last = dateText(*record->examDate());
+    if (first.empty()) first = last;
+  }
+  const std::string examinations = first == last ? first : first + " \u2013 " + last;
+
+  std::string page = localizer.text(windowNibName, tabView().page(index).name());
+  if (count > 1)
+    page += foundation::format(localizer, string_table::ncDocument, ", page %ld of %ld", {number, count});
+
+  return {.lines = {
+              {labelled("Reference ID:", patientRecord_->maternalIDString().value_or("")),
+               labelled("Gravidity:", std::to_string(patientRecord_->gravida())),
+               labelled("Fetus:", multiplePopUp_.titleOfSelectedItem()),
+               labelled("EDD:", patientRecord_->edd() ? dateText(*patientRecord_->edd()) : std::string()),
+               labelled(first == last ? "Examination:" : "Examinations:", examinations)},
+              {calc::growthStandardTitle(standard(), localizer),
+               calc::fetalWeightTitle(fetalWeightStandard(), localizer)},
+              {std::string("Nascor ").append(foundation::programVersion()),
+               text("Not a medical device. Not validated for clinical use."),
+               labelled("Printed:", dateText(services().clock.now())), page},
+          }};
+}
+
+}  // namespace nascor::app

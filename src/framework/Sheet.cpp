@@ -1,0 +1,67 @@
+#include "framework/Sheet.h"
+
+#include "foundation/Utf8.h"
+
+namespace nascor::framework {
+namespace {
+
+constexpr std::string_view kGap = "   ";
+constexpr double kLineHeight = 13.0;
+constexpr double kSpaceAbove = 4.0;
+constexpr double kSpaceBelow = 6.0;
+
+/// Where the last character of `text` begins.
+std::size_t lastCharacter(std::string_view text) {
+  std::size_t start = text.size() - 1;
+  while (start > 0 && (static_cast<unsigned char>(text[start]) & 0xC0U) == 0x80U) --start;
+  return start;
+}
+
+}  // namespace
+
+std::vector<std::string> wrappedFoot(const PageFoot& foot, const Canvas& canvas, double width) {
+  const auto fits = [&](std::string_view text) { return canvas.textWidth(text, {}) <= width; };
+  std::vector<std::string> wrapped;
+  for (const std::vector<std::string>& texts : foot.lines) {
+    std::string line;
+    const auto endLine = [&] {
+      if (!line.empty()) wrapped.push_back(line);
+      line.clear();
+    };
+    for (const std::string& each : texts) {
+      if (each.empty()) continue;
+      std::string text = foundation::oneLine(each);
+      const std::string longer = line.empty() ? text : std::string(line).append(kGap).append(text);
+      if (fits(longer)) {
+        line = longer;
+        continue;
+      }
+      endLine();
+      while (!fits(text)) {
+        std::size_t end = lastCharacter(text);
+        while (end > 0 && !fits(std::string_view(text).substr(0, end)))
+          end = lastCharacter(std::string_view(text).substr(0, end));
+        if (end == 0) break;  // no room for a single character
+        wrapped.push_back(text.substr(0, end));
+        text.erase(0, end);
+      }
+      line = text;
+    }
+    endLine();
+  }
+  return wrapped;
+}
+
+double footHeight(std::size_t lines) {
+  return lines == 0 ? 0.0 : kSpaceAbove + kLineHeight * static_cast<double>(lines) + kSpaceBelow;
+}
+
+void drawFoot(Canvas& canvas, const std::vector<std::string>& lines) {
+  double y = kSpaceAbove;
+  for (const std::string& line : lines) {
+    canvas.text(line, {.x = kFootMargin, .y = y}, {});
+    y += kLineHeight;
+  }
+}
+
+}  // namespace nascor::framework

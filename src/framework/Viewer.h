@@ -1,0 +1,15 @@
+#pragma once
+
+#include <string>
+
+namespace nascor::framework {
+
+/// Shows documents of other programs in the program that the user has for them.
+class Viewer {
+ public:
+  virtual ~Viewer() = default;
+  /// False when nobody can show it.
+  virtual bool open(const std::string& url) = 0;
+};
+
+}  // namespace nascor::framework

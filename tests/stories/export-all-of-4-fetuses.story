@@ -1,0 +1,16 @@
+All pages of 4 fetuses
+
+First page and last page of each fetus, one fetus after the other. The last fetus and the report stay on show.
+
+{"new":true}
+{"edit":["referenceIDField","AB-123"]}
+{"edit":["gravidaField","2"]}
+{"do":["addFetus"]}
+{"do":["addFetus"]}
+{"do":["addFetus"]}
+{"tab":3}
+{"state":true}
+{"do":["autoExport"]}
+=> {"result":null}
+{"state":true}
+=~ {"exports":["AB-123 (G2) 1 of 4 - Trends.pdf","AB-123 (G2) 1 of 4 - Report.pdf","AB-123 (G2) 2 of 4 - Trends.pdf","AB-123 (G2) 2 of 4 - Report.pdf","AB-123 (G2) 3 of 4 - Trends.pdf","AB-123 (G2) 3 of 4 - Report.pdf","AB-123 (G2) 4 of 4 - Trends.pdf","AB-123 (G2) 4 of 4 - Report.pdf"],"tab":6,"currentFetus":3,"popup":{"selected":3},"alerts":[]}

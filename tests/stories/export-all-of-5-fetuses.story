@@ -1,0 +1,17 @@
+All pages of 5 fetuses
+
+First page and last page of each fetus, one fetus after the other. The last fetus and the report stay on show.
+
+{"new":true}
+{"edit":["referenceIDField","AB-123"]}
+{"edit":["gravidaField","2"]}
+{"do":["addFetus"]}
+{"do":["addFetus"]}
+{"do":["addFetus"]}
+{"do":["addFetus"]}
+{"tab":3}
+{"state":true}
+{"do":["autoExport"]}
+=> {"result":null}
+{"state":true}
+=~ {"exports":["AB-123 (G2) 1 of 5 - Trends.pdf","AB-123 (G2) 1 of 5 - Report.pdf","AB-123 (G2) 2 of 5 - Trends.pdf","AB-123 (G2) 2 of 5 - Report.pdf","AB-123 (G2) 3 of 5 - Trends.pdf","AB-123 (G2) 3 of 5 - Report.pdf","AB-123 (G2) 4 of 5 - Trends.pdf","AB-123 (G2) 4 of 5 - Report.pdf","AB-123 (G2) 5 of 5 - Trends.pdf","AB-123 (G2) 5 of 5 - Report.pdf"],"tab":6,"currentFetus":4,"popup":{"selected":4},"alerts":[]}
