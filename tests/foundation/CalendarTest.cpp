@@ -215,7 +215,7 @@ RC_GTEST_PROP(WallClockAdding, movesTheClockBySecondsUnlessThatTimeIsLeftOut, ()
   const Date result = dateByAddingWallClockSeconds(date, seconds, zone.calendar);
   const auto wall = [&](Date at) { return at.secondsSince2001 + zone.calendar.offsetFromUtc(at); };
   const double skipped = wall(result) - wall(date) - seconds;
-  RC_ASSERT(skipped == 0.0 || (skipped > 0.0 && skipped <= kHour));
+  RC_ASSERT((skipped == 0.0 || (skipped > 0.0 && skipped <= kHour)));
   if (skipped > 0.0) RC_ASSERT(zone.calendar.offsetFromUtc({result.secondsSince2001 - 1.0}) == -5.0 * kHour);
 }
 
