@@ -83,6 +83,13 @@ TEST(CRL, isZeroOutsideTheRangeOfAFormula) {
   EXPECT_EQ(ages[3][3], 0);
 }
 
+TEST(CRL, takesANumberThatBeginsWithItsDecimalPoint) {
+  EXPECT_EQ(answered({"crl", "--json", "-.5"}), (json{0, 0, 0, 0}));
+  EXPECT_EQ(run({"crl", ".5", "-.5e1", "--", "-.5"}).out, run({"crl", "0.5", "-0.5e1", "-0.5"}).out);
+  EXPECT_EQ(run({"crl", "-.x"}).status, 2);
+  EXPECT_THAT(run({"report", "-.5"}).err, HasSubstr("-.5")) << "a file keeps its name";
+}
+
 TEST(CRL, readsLengthsFromStandardInputInOrderWithTheOthers) {
   const auto ages = answeredByLine({"crl", "50", "-", "45", "--json"}, " 45 \r\n7\n\n50");
   ASSERT_EQ(ages.size(), 6U);

@@ -37,6 +37,7 @@ struct OperandSpec {
   std::string_view name;
   std::string_view help;
   bool repeated = false;  ///< one or more; of the last operand only
+  bool isNumber = false;  ///< -.5 is one then, and no option
 };
 
 /// One command: all that the program knows of it.

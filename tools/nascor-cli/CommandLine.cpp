@@ -132,6 +132,25 @@ int wrongUsage(std::string_view sentence, const std::string& usageLine) {
   return kWrongUsage;
 }
 
+/// What was typed behind the program's name, the last first as the parser wants it. It knows a negative number only by the
+/// digit behind the sign, so -.5 gets one where numbers are expected.
+std::vector<std::string> reversedArguments(int argc, char** argv) {
+  std::vector<std::string> arguments(argv + 1, argv + argc);
+  const auto isChosen = [&](const Command& command) {
+    return !arguments.empty() && command.name == arguments.front();
+  };
+  const auto all = commands();
+  const auto command = std::ranges::find_if(all, isChosen);
+  if (command != all.end() && std::ranges::any_of(command->operands, &OperandSpec::isNumber)) {
+    for (std::string& argument : arguments) {
+      if (argument == "--") break;
+      if (argument.starts_with("-.")) argument.insert(1, "0");
+    }
+  }
+  std::ranges::reverse(arguments);
+  return arguments;
+}
+
 int parseAndRun(int argc, char** argv, Console& console) {
   CLI::App app;
   app.set_help_flag("-h,--help");
@@ -142,7 +161,7 @@ int parseAndRun(int argc, char** argv, Console& console) {
   const auto chosen = [&] { return std::ranges::find_if(parsers, &Parser::isChosen); };
 
   try {
-    app.parse(argc, argv);
+    app.parse(reversedArguments(argc, argv));
     if (versionFlag->count() > 0) {
       console.out() += version();
       console.flush();

@@ -124,7 +124,7 @@ Command weightCommand() {
 
 Command crlCommand() {
   static constexpr std::array<OperandSpec, 1> kOperands{
-      {{"MM...", "crown-rump lengths; - reads lengths from standard input, one a line", true}}};
+      {{"MM...", "crown-rump lengths; - reads lengths from standard input, one a line", true, true}}};
   static constexpr std::array<OptionSpec, 1> kOptions{
       {{"json", "", "an array of four numbers a length, each on a line of its own"}}};
   return {.name = "crl",
