@@ -10,13 +10,23 @@ const std::string kFolder = NASCOR_SAMPLES "/";
 class Sample : public testing::TestWithParam<const char*> {};
 
 TEST_P(Sample, isWhatItsJsonMakes) {
-  // The JSON holds days; their midnights are those of UTC.
   const std::string name = kFolder + GetParam();
-  const Outcome made = run(Call{.arguments = {"make", name + ".json"}, .input = {}, .zone = "UTC"});
+  const Outcome made = run(Call{.arguments = {"make", name + ".json"}, .input = {}, .zone = ""});
   EXPECT_EQ(made.status, 0);
   EXPECT_EQ(made.err, "");
   EXPECT_GT(made.out.size(), 100U);
   EXPECT_EQ(made.out, contentsOfFile(name + ".nascor"));
+}
+
+TEST_P(Sample, hasTheSameDaysOnBothSidesOfGreenwich) {
+  const std::string name = kFolder + GetParam() + ".nascor";
+  const auto report = [&](const char* zone) {
+    return run(Call{.arguments = {"report", name}, .input = {}, .zone = zone}).out;
+  };
+  const std::string inGreenwich = report("UTC");
+  EXPECT_GT(inGreenwich.size(), 100U);
+  for (const char* zone : {"Pacific/Honolulu", "America/New_York", "Asia/Kolkata", "Australia/Sydney"})
+    EXPECT_EQ(report(zone), inGreenwich) << zone;
 }
 
 TEST_P(Sample, isWithoutOdditiesButAMissingEdd) {
