@@ -51,6 +51,29 @@ TEST_F(TheApplication, refusesAnOptionThatItDoesNotKnow) {
   EXPECT_THAT(answer.error, HasSubstr("wirte-pages"));
 }
 
+TEST_F(TheApplication, refusesAMistypedOptionWithoutADisplay) {
+  for (const QStringList& arguments :
+       {QStringList{"--nope"}, {"-x", "a.nascor"}, {"-style", "Fusion", "--nope"}}) {
+    const Answer answer = nascor(arguments);
+    EXPECT_EQ(answer.status, 2);
+    EXPECT_THAT(answer.error, testing::MatchesRegex("Unknown option[^\n]*\\.\nusage: nascor [^\n]*\n"));
+  }
+}
+
+TEST_F(TheApplication, takesTheToolkitsOptions) {
+  const Answer answer = nascor({"-style", "Fusion", "--version"});
+  EXPECT_EQ(answer.status, 0) << answer.error;
+}
+
+TEST_F(TheApplication, saysThatThereIsNoDisplay) {
+  const QString document = file("a.nascor", documentBytes(singleton()));
+  for (const QStringList& arguments : {QStringList{}, {document}, {"-style", "Fusion"}}) {
+    const Answer answer = nascor(arguments);
+    EXPECT_EQ(answer.status, 1);
+    EXPECT_THAT(answer.error, testing::MatchesRegex("nascor: no window can be shown: [^\n]*display[^\n]*\n"));
+  }
+}
+
 TEST_F(TheApplication, asksWhichDocumentsPagesToWrite) {
   EXPECT_EQ(nascor({"--write-pages", folder.path()}).status, 2);
 }

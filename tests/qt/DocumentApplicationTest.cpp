@@ -74,6 +74,24 @@ TEST_F(TheApplicationOfDocuments, tellsOnceOfAllThatCannotBeOpenedAndTakesNoMark
   EXPECT_THAT(asked[0].information, HasSubstr("<b>gone: No such file or directory"));
 }
 
+TEST_F(TheApplicationOfDocuments, tellsOfAFileNameThatIsNotWrittenInUtf8) {
+  const QByteArray name = folder.path().toUtf8() + "/Andr\xe9.nascor";
+  std::FILE* latin = std::fopen(name.constData(), "wb");
+  ASSERT_NE(latin, nullptr);
+  const QByteArray bytes = documentBytes(singleton());
+  std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), latin);
+  std::fclose(latin);
+  answers = {"OK"};
+  application.openFiles({QFile::decodeName(name)});
+  ASSERT_EQ(asked.size(), 1U);
+  EXPECT_THAT(asked[0].information, HasSubstr("The file's name is not UTF-8."));
+  EXPECT_THAT(titles(), IsEmpty());
+  std::remove(name.constData());
+
+  open(singleton(), QStringLiteral("Andr\u00e9 \ufffd.nascor"));
+  EXPECT_EQ(titles().size(), 1U) << "the sign itself may stand in a name";
+}
+
 TEST_F(TheApplicationOfDocuments, opensAFileWithoutAPatientAsANewDocument) {
   const QByteArray bytes = documentBytes(singleton());
   const QByteArray nilRoot = bytes.left(bytes.indexOf("\x01@") + 2) + '\x85';

@@ -75,6 +75,14 @@ void DocumentApplication::chooseFilesToOpen() {
 void DocumentApplication::openNow(const QStringList& paths) {
   QStringList sentences;
   for (const QString& path : paths) {
+    if (path.contains(QChar::ReplacementCharacter) && !QFile::exists(path)) {
+      // The toolkit keeps no file name that is not written in the system's encoding.
+      sentences << QCoreApplication::translate(
+                       "FilePanels",
+                       "%1: The file's name is not UTF-8. Please rename the file and open it again.")
+                       .arg(path);
+      continue;
+    }
     ZuDocument* before = documents_.currentDocument();
     if (before && windowOf(*before)) windowOf(*before)->keepGeometry();
     std::string error;

@@ -3,8 +3,11 @@
 #include <QSessionManager>
 #include <algorithm>
 #include <cstdio>
+#include <cstdlib>
+#include <optional>
 #include <span>
 #include <string_view>
+#include <vector>
 
 #include "qt/Application.h"
 #include "qt/ApplicationService.h"
@@ -30,57 +33,109 @@ bool hasArgument(std::span<char*> arguments, std::initializer_list<std::string_v
   });
 }
 
-int nascorMain(int argc, char** argv) {
-  const std::span arguments(argv, static_cast<std::size_t>(argc));
-  // What paints no window needs no display.
-  if (hasArgument(arguments, {"--write-pages", "--help", "-h", "--version", "-v"}) &&
-      !qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+/// The options of the program, and what was typed.
+struct CommandLine {
+  CommandLine() {
+    parser.setApplicationDescription(
+        QCoreApplication::translate("main", "Obstetric ultrasound biometry.\n%1").arg(disclaimer()));
+    parser.addOptions({help, version, writePages});
+    parser.addPositionalArgument("file", QCoreApplication::translate("main", "Documents to open."),
+                                 "[FILE...]");
   }
-  Application application(argc, argv);
 
   QCommandLineParser parser;
-  parser.setApplicationDescription(
-      QCoreApplication::translate("main", "Obstetric ultrasound biometry.\n%1").arg(disclaimer()));
-  const QCommandLineOption help({"h", "help"}, QCoreApplication::translate("main", "Shows this help."));
-  const QCommandLineOption version({"v", "version"},
-                                   QCoreApplication::translate("main", "Shows the version."));
-  const QCommandLineOption writePagesOption(
+  const QCommandLineOption help{{"h", "help"}, QCoreApplication::translate("main", "Shows this help.")};
+  const QCommandLineOption version{{"v", "version"},
+                                   QCoreApplication::translate("main", "Shows the version.")};
+  const QCommandLineOption writePages{
       "write-pages",
       QCoreApplication::translate(
           "main",
           "Writes the pages of the documents as PNG and PDF into FOLDER, and shows no window. "
           "Files of the same names are replaced."),
-      "FOLDER");
-  parser.addOptions({help, version, writePagesOption});
-  parser.addPositionalArgument("file", QCoreApplication::translate("main", "Documents to open."),
-                               "[FILE...]");
-  if (!parser.parse(QCoreApplication::arguments())) {
-    say(stderr, parser.errorText());
+      "FOLDER"};
+};
+
+/// What the program answers without a window; nothing when it is to go on.
+std::optional<int> answerAtOnce(CommandLine& line, const QStringList& arguments) {
+  if (!line.parser.parse(arguments)) {
+    say(stderr, line.parser.errorText());
     say(stderr, QStringLiteral("usage: nascor [--write-pages FOLDER] [FILE...]"));
     return kWrongUsage;
   }
-  if (parser.isSet(help)) {
-    std::fputs(qUtf8Printable(parser.helpText()), stdout);
+  if (line.parser.isSet(line.help)) {
+    std::fputs(qUtf8Printable(line.parser.helpText()), stdout);
     return kAllWell;
   }
-  if (parser.isSet(version)) {
+  if (line.parser.isSet(line.version)) {
     say(stdout, QStringLiteral("Nascor %1\n%2").arg(programVersion(), disclaimer()));
     return kAllWell;
   }
+  return std::nullopt;
+}
+
+/// Whether the arguments stand as they are, with no option of the toolkit's among them and none that nobody knows.
+bool areOurOwn(std::span<char*> arguments) {
+  QStringList texts;
+  for (const char* argument : arguments) texts << QString::fromLocal8Bit(argument);
+  return CommandLine().parser.parse(texts);
+}
+
+/// What the toolkit says while it begins.
+QStringList& beginningMessages() {
+  static QStringList messages;
+  return messages;
+}
+
+/// The toolkit ends a program without a display by many words and an abort. Whoever starts this one gets a sentence and a
+/// status instead.
+void takeBeginningMessage(QtMsgType type, const QMessageLogContext&, const QString& message) {
+  beginningMessages() << message.trimmed();
+  if (type != QtFatalMsg) return;
+  say(stderr, QCoreApplication::translate("main", "nascor: no window can be shown: %1")
+                  .arg(beginningMessages().constFirst()));
+  std::_Exit(kFailed);
+}
+
+int nascorMain(int argc, char** argv) {
+  const std::span arguments(argv, static_cast<std::size_t>(argc));
+  const bool hasPlatform = qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
+  // What paints no window needs no display.
+  if (hasArgument(arguments, {"--write-pages", "--help", "-h", "--version", "-v"}) && !hasPlatform)
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+  if (!areOurOwn(arguments) && !hasPlatform) {
+    // An option of the toolkit's or a mistake: it knows its own, and takes them out, but only once it has begun.
+    std::vector<char*> copy(arguments.begin(), arguments.end());
+    copy.push_back(nullptr);
+    int count = argc;
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    {
+      const Application probe(count, copy.data());
+      CommandLine line;
+      if (const auto status = answerAtOnce(line, QCoreApplication::arguments())) return *status;
+    }
+    qunsetenv("QT_QPA_PLATFORM");
+  }
+  const QtMessageHandler toolkitsHandler = qInstallMessageHandler(takeBeginningMessage);
+  Application application(argc, argv);
+  qInstallMessageHandler(toolkitsHandler);
+  for (const QString& message : beginningMessages()) say(stderr, message);
+
+  CommandLine line;
+  if (const auto status = answerAtOnce(line, QCoreApplication::arguments())) return *status;
   if (const QString sentence = missingFontSentence(); !sentence.isEmpty()) {
     say(stderr, sentence);
     return kFailed;
   }
 
   Platform platform(QLocale::system());
-  const QStringList files = parser.positionalArguments();
-  if (parser.isSet(writePagesOption)) {
+  const QStringList files = line.parser.positionalArguments();
+  if (line.parser.isSet(line.writePages)) {
     if (files.isEmpty()) {
       say(stderr, QCoreApplication::translate("main", "Which documents? --write-pages FOLDER FILE..."));
       return kWrongUsage;
     }
-    const WrittenPages written = writePages(parser.value(writePagesOption), files, platform.services());
+    const WrittenPages written = writePages(line.parser.value(line.writePages), files, platform.services());
     for (const QString& path : written.paths) say(stdout, path);
     for (const QString& sentence : written.sentences) say(stderr, sentence);
     return written.sentences.isEmpty() ? kAllWell : kFailed;
