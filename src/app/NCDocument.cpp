@@ -7,31 +7,6 @@
 #include "model/PatientFile.h"
 
 namespace nascor::app {
-namespace {
-
-using framework::Rect;
-
-// A chart page: its title line, the chart, the axis strip under it.
-constexpr double kTitleHeight = 30.0;
-constexpr double kStripHeight = 50.0;
-constexpr double kMargin = 10.0;
-
-Rect chartPlacement(double width, double height) {
-  return {.x = kMargin,
-          .y = kTitleHeight,
-          .width = width - 2.0 * kMargin,
-          .height = height - kTitleHeight - kStripHeight - kMargin};
-}
-
-/// Under the chart, as far to the right and as wide as the chart's plotting area.
-Rect stripPlacement(double width, double height) {
-  const Rect chart = chartPlacement(width, height);
-  return {
-      .x = chart.x + 50.0, .y = chart.y + chart.height, .width = chart.width - 60.0, .height = kStripHeight};
-}
-
-}  // namespace
-
 NCDocument::NCDocument(const framework::DocumentEnvironment& environment)
     : CorvelDocument(environment),
       gravidaField_("gravidaField", this),
@@ -41,10 +16,7 @@ NCDocument::NCDocument(const framework::DocumentEnvironment& environment)
       flField_("flField", 1, services().localizer, this),
       crlWindowCRL_("crlWindowCRL", 1, services().localizer),
       adjustDeliveryStepper_(-280.0, 7.0, 1.0),
-      bpdGraph_(framework::make<charts::BPDGraphView>(services(), {})),
-      hcGraph_(framework::make<charts::HeadCircumferenceGraphView>(services(), {})),
-      acGraph_(framework::make<charts::AbdoCircumferenceGraphView>(services(), {})),
-      flGraph_(framework::make<charts::FemurLengthGraphView>(services(), {})) {
+      pages_(services(), *this) {
   textFields_ = {&referenceIDField(),
                  &gravidaField_,
                  &birthDateField(),
@@ -78,17 +50,7 @@ NCDocument::NCDocument(const framework::DocumentEnvironment& environment)
   lmpWindowCycleField_.setIntegerValue(28);
   lmpWindowLutealField_.setIntegerValue(14);
 
-  const std::array<charts::NascorGraphView*, 4> graphs{bpdGraph_.get(), hcGraph_.get(), acGraph_.get(),
-                                                       flGraph_.get()};
-  constexpr std::size_t kFirstChartPage = 1;
-  for (std::size_t i = 0; i < graphs.size(); ++i) {
-    axes_.at(i) = framework::make<charts::NoYaxisGraphView>(services(), {});
-    graphs.at(i)->setOwningDocument(this);
-    axes_.at(i)->setOwningDocument(this);
-    pages_.at(kFirstChartPage + i).addView(*graphs.at(i), chartPlacement);
-    pages_.at(kFirstChartPage + i).addView(*axes_.at(i), stripPlacement);
-  }
-  for (framework::Page& page : pages_) tabView().addPage(page);
+  for (framework::Page& page : pages_.pages()) tabView().addPage(page);
 }
 
 NCDocument::~NCDocument() = default;
@@ -140,16 +102,16 @@ model::MeasurementsRecord* NCDocument::currentMeasurements() {
 }
 
 double NCDocument::extrapolatedBPDForCurrentFetus() {
-  return projected(&model::MeasurementsRecord::bpd, &model::MeasurementsRecord::setBPD, *bpdGraph_);
+  return projected(&model::MeasurementsRecord::bpd, &model::MeasurementsRecord::setBPD, *pages_.bpdGraph());
 }
 double NCDocument::extrapolatedHCForCurrentFetus() {
-  return projected(&model::MeasurementsRecord::hc, &model::MeasurementsRecord::setHC, *hcGraph_);
+  return projected(&model::MeasurementsRecord::hc, &model::MeasurementsRecord::setHC, *pages_.hcGraph());
 }
 double NCDocument::extrapolatedACForCurrentFetus() {
-  return projected(&model::MeasurementsRecord::ac, &model::MeasurementsRecord::setAC, *acGraph_);
+  return projected(&model::MeasurementsRecord::ac, &model::MeasurementsRecord::setAC, *pages_.acGraph());
 }
 double NCDocument::extrapolatedFLForCurrentFetus() {
-  return projected(&model::MeasurementsRecord::fl, &model::MeasurementsRecord::setFL, *flGraph_);
+  return projected(&model::MeasurementsRecord::fl, &model::MeasurementsRecord::setFL, *pages_.flGraph());
 }
 
 double NCDocument::projected(double (model::MeasurementsRecord::*value)() const,

@@ -11,14 +11,12 @@
 #include <string_view>
 #include <vector>
 
+#include "app/PatientPages.h"
 #include "calc/Biometry.h"
 #include "charts/ChartDocument.h"
-#include "charts/MeasurementCharts.h"
 #include "foundation/NotificationCenter.h"
 #include "framework/Controls.h"
 #include "framework/CorvelDocument.h"
-#include "framework/MakeView.h"
-#include "framework/Page.h"
 #include "framework/PopUpButton.h"
 #include "framework/TextField.h"
 #include "model/PatientRecord.h"
@@ -94,7 +92,7 @@ class NCDocument final : public framework::CorvelDocument,
   void updateDisplay() override;
   // Selector: switchToGraph:
   /// Shows that page. Throws RangeError.
-  void switchToGraph(std::int64_t tabIndex);
+  void switchToGraph(std::int64_t tabIndex) override;
 
   /// @}
   /// @name Examinations and fetuses
@@ -127,7 +125,7 @@ class NCDocument final : public framework::CorvelDocument,
   /// @{
 
   std::int64_t standard() const override;
-  std::int64_t fetalWeightStandard() const;
+  std::int64_t fetalWeightStandard() const override;
   void doSetStandard(std::int64_t standard);
   void doSetEFWStandard(std::int64_t standard);
   void doSetCRLStandard(std::int64_t standard);
@@ -208,7 +206,7 @@ class NCDocument final : public framework::CorvelDocument,
   /// The index of the last examination; 0 when there is none.
   std::int64_t lastExam() const;
   const model::MeasurementsRecord* measurementsForFetus(std::int64_t fetus, std::int64_t exam) const override;
-  const model::MeasurementsRecord* measurementsForCurrentFetus(std::int64_t exam) const;
+  const model::MeasurementsRecord* measurementsForCurrentFetus(std::int64_t exam) const override;
   const model::MeasurementsRecord* lastMeasurementsRecordForCurrentFetus() const;
   std::int64_t numberOfExaminations() const override;
 
@@ -217,8 +215,8 @@ class NCDocument final : public framework::CorvelDocument,
   /// @{
 
   double menstrualAgeForRecord(std::uint64_t exam) const override;
-  std::string menstrualAgeStringForRecord(std::uint64_t exam) const;
-  std::string menstrualAgeStringForGestation(double weeks) const;
+  std::string menstrualAgeStringForRecord(std::uint64_t exam) const override;
+  std::string menstrualAgeStringForGestation(double weeks) const override;
   double menstrualAgeFromCRLHadlock(double crl) const;
   double menstrualAgeFromCRLNelson(double crl) const;
   double menstrualAgeFromCRLRobinson(double crl) const;
@@ -229,12 +227,12 @@ class NCDocument final : public framework::CorvelDocument,
   /// @{
 
   /// Each computes one projected length (mm), keeps it in `extrapolatedMeasurements` and returns it.
-  double extrapolatedBPDForCurrentFetus();
-  double extrapolatedHCForCurrentFetus();
-  double extrapolatedACForCurrentFetus();
-  double extrapolatedFLForCurrentFetus();
+  double extrapolatedBPDForCurrentFetus() override;
+  double extrapolatedHCForCurrentFetus() override;
+  double extrapolatedACForCurrentFetus() override;
+  double extrapolatedFLForCurrentFetus() override;
   /// What the four last computed; all zero in a new document; never stored in a file.
-  const model::MeasurementsRecord& extrapolatedMeasurements() const {
+  const model::MeasurementsRecord& extrapolatedMeasurements() const override {
     return extrapolatedMeasurementsRecord_;
   }
 
@@ -242,10 +240,12 @@ class NCDocument final : public framework::CorvelDocument,
   /// @name Charts
   /// @{
 
-  charts::NascorGraphView& BPDGraph() { return *bpdGraph_; }
-  charts::NascorGraphView& HCGraph() { return *hcGraph_; }
-  charts::NascorGraphView& ACGraph() { return *acGraph_; }
-  charts::NascorGraphView& FLGraph() { return *flGraph_; }
+  charts::NascorGraphView* BPDGraph() const override { return pages_.bpdGraph(); }
+  charts::NascorGraphView* HCGraph() const override { return pages_.hcGraph(); }
+  charts::NascorGraphView* ACGraph() const override { return pages_.acGraph(); }
+  charts::NascorGraphView* FLGraph() const override { return pages_.flGraph(); }
+  charts::NascorGraphView& EFWGraph() const { return pages_.efwGraph(); }
+  charts::NascorDataView& report() const { return pages_.report(); }
 
   /// @}
 
@@ -338,15 +338,7 @@ class NCDocument final : public framework::CorvelDocument,
   std::array<framework::Panel*, 4> panels_{&crlWindow_, &lmpWindow_, &measurementsWindow_,
                                            &adjustDeliveryPanel_};
 
-  framework::ViewOwner<charts::BPDGraphView> bpdGraph_;
-  framework::ViewOwner<charts::HeadCircumferenceGraphView> hcGraph_;
-  framework::ViewOwner<charts::AbdoCircumferenceGraphView> acGraph_;
-  framework::ViewOwner<charts::FemurLengthGraphView> flGraph_;
-  /// Under the four charts, in their order.
-  std::array<framework::ViewOwner<charts::NoYaxisGraphView>, 4> axes_;
-  std::array<framework::Page, 7> pages_{
-      framework::Page("Trends"), framework::Page("BPD"),    framework::Page("HC"),    framework::Page("AC"),
-      framework::Page("FL"),     framework::Page("Weight"), framework::Page("Report")};
+  PatientPages pages_;
 };
 
 }  // namespace nascor::app

@@ -76,10 +76,10 @@ void NCDocument::updateEDDfromMeasurements(Sender) {
     double gestation = 0.0;
   };
   std::array<Row, 4> rows{
-      {{bpdField_, *bpdGraph_, measurementsWindowBPDCheck_, measurementsWindowBPDGestation_},
-       {hcField_, *hcGraph_, measurementsWindowHCCheck_, measurementsWindowHCGestation_},
-       {acField_, *acGraph_, measurementsWindowACCheck_, measurementsWindowACGestation_},
-       {flField_, *flGraph_, measurementsWindowFLCheck_, measurementsWindowFLGestation_}}};
+      {{bpdField_, *BPDGraph(), measurementsWindowBPDCheck_, measurementsWindowBPDGestation_},
+       {hcField_, *HCGraph(), measurementsWindowHCCheck_, measurementsWindowHCGestation_},
+       {acField_, *ACGraph(), measurementsWindowACCheck_, measurementsWindowACGestation_},
+       {flField_, *FLGraph(), measurementsWindowFLCheck_, measurementsWindowFLGestation_}}};
   avGestation_ = 0.0;
   int checked = 0;
   for (Row& row : rows) {

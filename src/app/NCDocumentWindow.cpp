@@ -6,6 +6,7 @@
 #include "app/NCDocument.h"
 #include "calc/EditingBounds.h"
 #include "foundation/Calendar.h"
+#include "foundation/DateText.h"
 #include "foundation/Localizer.h"
 #include "foundation/NumberText.h"
 #include "foundation/ShortDate.h"
@@ -106,7 +107,7 @@ void NCDocument::updateDisplay() {
 
 void NCDocument::setHeader(std::size_t page, const std::string& title) {
   headers_.at(page)->setText(title);
-  pages_.at(page).setTitle(title);
+  pages_.pages().at(page).setTitle(title);
 }
 
 void NCDocument::switchToGraph(std::int64_t tabIndex) { tabView().selectPage(tabIndex); }
@@ -192,8 +193,7 @@ bool NCDocument::mayModify(std::string_view message, std::string_view informatio
 }
 
 std::string NCDocument::shortDateText(const std::optional<Date>& date) const {
-  const auto day = date ? foundation::localDay(*date, services().calendar) : std::nullopt;
-  return day ? foundation::shortDateText(*day, services().localizer.shortDateForm()) : std::string();
+  return foundation::shortDateText(date, services().calendar, services().localizer);
 }
 
 std::optional<Date> NCDocument::dateFromField(const TextField& field, const std::optional<Date>& held) const {

@@ -112,6 +112,12 @@ Date dateAtAge(Date edd, double weeks, const Calendar& calendar) {
   return dateByAddingWallClockSeconds(edd, -((40.0 - weeks) * 7 * 24 * 60 * 60), calendar);
 }
 
+std::optional<double> currentWeekOnAxis(std::optional<Date> examDate, std::optional<Date> edd) {
+  if (!examDate || !edd) return std::nullopt;
+  const double days = std::trunc(timeIntervalSince(*edd, *examDate) * foundation::kSecondsPerDay);
+  return 40.0 - days / 7.0;
+}
+
 std::size_t nearestDate(Date target, std::span<const std::optional<Date>> dates) {
   std::size_t nearest = 0;
   std::int64_t nearestDistance = 999999;

@@ -76,6 +76,11 @@ foundation::Date plannedDeliveryDate(foundation::Date edd, double days, const fo
 /// The date at which a pregnancy is `weeks` old.
 foundation::Date dateAtAge(foundation::Date edd, double weeks, const foundation::Calendar& calendar);
 
+/// The week at which the axis marks an examination; nothing without either date. The seconds between the dates are
+/// multiplied by those of a day, not divided: deliberate, so that the mark shows only on the day of delivery, at week 40.
+std::optional<double> currentWeekOnAxis(std::optional<foundation::Date> examDate,
+                                        std::optional<foundation::Date> edd);
+
 /// The place in `dates` of the one nearest to `target`, by whole seconds; the first of equals. 0 when none lies within
 /// 999999 seconds (eleven days and a half): deliberate, so that a click always shows an examination. Missing dates are
 /// passed over.

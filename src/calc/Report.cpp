@@ -1,5 +1,6 @@
 #include "calc/Report.h"
 
+#include "foundation/ConvertInteger.h"
 #include "foundation/NumberText.h"
 
 namespace nascor::calc {
@@ -17,6 +18,16 @@ std::string daysToGoLine(double plannedGestation, const foundation::Localizer& l
   const double adjustment = deliveryAdjustment(plannedGestation);
   if (adjustment != 0.0) line += " (" + fixedText(static_cast<double>(kDaysToGo) + adjustment, 0) + ")";
   return line;
+}
+
+std::uint64_t firstExaminationShown(std::uint64_t examinations, double height, bool withProjection) {
+  constexpr double kLine = 24.0;
+  constexpr double kFrameTop = 124.0;
+  constexpr double kRowPitch = 41.0;
+  auto fit =
+      static_cast<std::uint64_t>(foundation::truncatedToInteger((height - kLine - kFrameTop) / kRowPitch));
+  if (withProjection) --fit;
+  return examinations > fit ? examinations - fit : 0;
 }
 
 }  // namespace nascor::calc

@@ -32,97 +32,140 @@ class NoYaxisGraphView : public NascorGraphView {
 
  protected:
   void drawYAxis() override {}
+  /// The week of the examination on show, then the axis.
+  void drawXAxis() override;
   /// At most 10 units high, at the top: the rest is for labels and titles.
   framework::Rect offeredGraphRect() const override;
+
+ private:
+  void drawCurrentWeek();
 };
 
-/// One measurement chart: everything in which the four differ.
-struct MeasurementChart {
-  calc::Measurement measurement;
+/// The strip below the weight chart: its title names the weight formula too.
+class NoYaxisEFWGraphView final : public NoYaxisGraphView {
+ public:
+  using NoYaxisGraphView::NoYaxisGraphView;
+  std::string_view className() const override { return "NoYaxisEFWGraphView"; }
+  void setReferenceTitle(const std::string& title) override;
+};
+
+/// Everything in which the charts differ but what they plot.
+struct ChartFacts {
   std::string_view yTitle;
-  double maxY;  ///< mm; the range begins at 0
+  std::string_view unit;
+  int decimals;  ///< of a value in words
+  double maxY;   ///< in the unit; the range begins at 0
   double majorYInterval;
   framework::NamedColor mean;
   framework::NamedColor band;
   framework::NamedColor points;
 };
 
-/// A chart of one of the four lengths, from its row of facts.
-class MeasurementGraphView : public NoXaxisGraphView {
- public:
-  MeasurementGraphView(const foundation::Services& services, const MeasurementChart& chart)
-      : NoXaxisGraphView(services), chart_(chart) {}
+inline constexpr ChartFacts kBPDFacts{.yTitle = "Biparietal Diameter (mm)",
+                                      .unit = "mm",
+                                      .decimals = 1,
+                                      .maxY = 120.0,
+                                      .majorYInterval = 20.0,
+                                      .mean = framework::NamedColor::moderateOrange,
+                                      .band = framework::NamedColor::faintOrange,
+                                      .points = framework::NamedColor::orange};
+inline constexpr ChartFacts kHeadCircumferenceFacts{.yTitle = "Head Circ (mm)",
+                                                    .unit = "mm",
+                                                    .decimals = 1,
+                                                    .maxY = 400.0,
+                                                    .majorYInterval = 50.0,
+                                                    .mean = framework::NamedColor::moderateRed,
+                                                    .band = framework::NamedColor::quiteFaintRed,
+                                                    .points = framework::NamedColor::red};
+inline constexpr ChartFacts kAbdoCircumferenceFacts{.yTitle = "Abdo Circ (mm)",
+                                                    .unit = "mm",
+                                                    .decimals = 1,
+                                                    .maxY = 450.0,
+                                                    .majorYInterval = 50.0,
+                                                    .mean = framework::NamedColor::moderateBlue,
+                                                    .band = framework::NamedColor::quiteFaintBlue,
+                                                    .points = framework::NamedColor::blue};
+/// One colour for curve and marks is deliberate, here and for the weight.
+inline constexpr ChartFacts kFemurLengthFacts{.yTitle = "Femur Length (mm)",
+                                              .unit = "mm",
+                                              .decimals = 1,
+                                              .maxY = 100.0,
+                                              .majorYInterval = 20.0,
+                                              .mean = framework::NamedColor::heavyGreen,
+                                              .band = framework::NamedColor::faintGreen,
+                                              .points = framework::NamedColor::heavyGreen};
+inline constexpr ChartFacts kWeightFacts{.yTitle = "Estimated Fetal Weight (g)",
+                                         .unit = "g",
+                                         .decimals = 0,
+                                         .maxY = 5500.0,
+                                         .majorYInterval = 500.0,
+                                         .mean = framework::NamedColor::heavyGray,
+                                         .band = framework::NamedColor::faintGray,
+                                         .points = framework::NamedColor::heavyGray};
 
+/// A chart with the title, range and colours of its row of facts.
+class TitledGraphView : public NoXaxisGraphView {
+ public:
+  TitledGraphView(const foundation::Services& services, const ChartFacts& facts)
+      : NoXaxisGraphView(services), facts_(facts) {}
   void initWithFrame(const framework::Rect& frame) override;
+
+  const ChartFacts& facts() const { return facts_; }
+
+ protected:
+  void setMeanColour() override { canvas().setColor(facts_.mean); }
+  void setSDColour() override { canvas().setColor(facts_.band); }
+  void setPointsColour() override { canvas().setColor(facts_.points); }
+  std::string valueText(double value) const override;
+  /// Null when there is no document, examination or fetus.
+  const model::MeasurementsRecord* measurementsForFetus(std::uint64_t fetus, std::uint64_t exam) const;
+
+ private:
+  const ChartFacts& facts_;
+};
+
+/// A chart of one of the four lengths.
+class MeasurementGraphView : public TitledGraphView {
+ public:
+  MeasurementGraphView(const foundation::Services& services, calc::Measurement measurement,
+                       const ChartFacts& facts)
+      : TitledGraphView(services, facts), measurement_(measurement) {}
+
   void initASUMStandards() override;
   void initHadlockStandards() override;
   void initSchluterStandards() override;
   void initCFEFStandards() override;
   double valueForFetus(std::uint64_t fetus, std::uint64_t exam) const override;
 
- protected:
-  void setMeanColour() override { canvas().setColor(chart_.mean); }
-  void setSDColour() override { canvas().setColor(chart_.band); }
-  void setPointsColour() override { canvas().setColor(chart_.points); }
-
  private:
-  const MeasurementChart& chart_;
+  calc::Measurement measurement_;
 };
-
-inline constexpr MeasurementChart kBPDChart{.measurement = calc::Measurement::bpd,
-                                            .yTitle = "Biparietal Diameter (mm)",
-                                            .maxY = 120.0,
-                                            .majorYInterval = 20.0,
-                                            .mean = framework::NamedColor::moderateOrange,
-                                            .band = framework::NamedColor::faintOrange,
-                                            .points = framework::NamedColor::orange};
-inline constexpr MeasurementChart kHeadCircumferenceChart{.measurement = calc::Measurement::hc,
-                                                          .yTitle = "Head Circ (mm)",
-                                                          .maxY = 400.0,
-                                                          .majorYInterval = 50.0,
-                                                          .mean = framework::NamedColor::moderateRed,
-                                                          .band = framework::NamedColor::quiteFaintRed,
-                                                          .points = framework::NamedColor::red};
-inline constexpr MeasurementChart kAbdoCircumferenceChart{.measurement = calc::Measurement::ac,
-                                                          .yTitle = "Abdo Circ (mm)",
-                                                          .maxY = 450.0,
-                                                          .majorYInterval = 50.0,
-                                                          .mean = framework::NamedColor::moderateBlue,
-                                                          .band = framework::NamedColor::quiteFaintBlue,
-                                                          .points = framework::NamedColor::blue};
-/// One colour for curve and marks is deliberate.
-inline constexpr MeasurementChart kFemurLengthChart{.measurement = calc::Measurement::fl,
-                                                    .yTitle = "Femur Length (mm)",
-                                                    .maxY = 100.0,
-                                                    .majorYInterval = 20.0,
-                                                    .mean = framework::NamedColor::heavyGreen,
-                                                    .band = framework::NamedColor::faintGreen,
-                                                    .points = framework::NamedColor::heavyGreen};
 
 class BPDGraphView : public MeasurementGraphView {
  public:
-  explicit BPDGraphView(const foundation::Services& services) : MeasurementGraphView(services, kBPDChart) {}
+  explicit BPDGraphView(const foundation::Services& services)
+      : MeasurementGraphView(services, calc::Measurement::bpd, kBPDFacts) {}
   std::string_view className() const override { return "BPDGraphView"; }
 };
 
 class HeadCircumferenceGraphView : public MeasurementGraphView {
  public:
   explicit HeadCircumferenceGraphView(const foundation::Services& services)
-      : MeasurementGraphView(services, kHeadCircumferenceChart) {}
+      : MeasurementGraphView(services, calc::Measurement::hc, kHeadCircumferenceFacts) {}
   std::string_view className() const override { return "HeadCircumferenceGraphView"; }
 };
 
 class AbdoCircumferenceGraphView : public MeasurementGraphView {
  public:
   explicit AbdoCircumferenceGraphView(const foundation::Services& services)
-      : MeasurementGraphView(services, kAbdoCircumferenceChart) {}
+      : MeasurementGraphView(services, calc::Measurement::ac, kAbdoCircumferenceFacts) {}
   std::string_view className() const override { return "AbdoCircumferenceGraphView"; }
 };
 
 class FemurLengthGraphView : public MeasurementGraphView {
  public:
   explicit FemurLengthGraphView(const foundation::Services& services)
-      : MeasurementGraphView(services, kFemurLengthChart) {}
+      : MeasurementGraphView(services, calc::Measurement::fl, kFemurLengthFacts) {}
   std::string_view className() const override { return "FemurLengthGraphView"; }
 };
 

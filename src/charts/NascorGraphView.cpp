@@ -1,9 +1,15 @@
 #include "charts/NascorGraphView.h"
 
 #include <algorithm>
+#include <cmath>
+#include <optional>
 #include <utility>
 
 #include "calc/LookUp.h"
+#include "calc/Projection.h"
+#include "foundation/DateText.h"
+#include "foundation/Localizer.h"
+#include "foundation/NumberText.h"
 #include "foundation/UserDefaults.h"
 
 namespace nascor::charts {
@@ -127,31 +133,12 @@ void NascorGraphView::plotMean() {
 }
 
 void NascorGraphView::plotDataPoints() {
-  if (!owningDocument() || !owningDocument()->patientRecord()) return;
-  const std::int64_t selected = owningDocument()->multiplePopUp().indexOfSelectedItem();
-  if (!foundation::boolForKey(services().defaults, foundation::defaults_key::showAll)) {
-    if (selected >= 0) plotFetus(selected, true);
-    return;
-  }
-  // A file may name any number of fetuses. Those beyond the symbols show nothing unless they are selected.
-  constexpr std::int64_t kSymbols = 5;
-  const std::int64_t count = owningDocument()->patientRecord()->numberOfFetuses();
-  for (std::int64_t fetus = 0; fetus < std::min(count, kSymbols); ++fetus)
-    plotFetus(fetus, fetus == selected);
-  if (selected >= kSymbols && selected < count) plotFetus(selected, true);
-}
-
-void NascorGraphView::plotFetus(std::int64_t fetus, bool isSelected) {
   constexpr double kDisc = 20.0;
-  const ChartDocument& document = *owningDocument();
-  const std::uint64_t examinations = document.patientRecord()->ncRecordsArray().size();
-  for (std::uint64_t exam = 0; exam < examinations; ++exam) {
-    const double x = document.menstrualAgeForRecord(exam);
-    const double y = valueForFetus(static_cast<std::uint64_t>(fetus), exam);
-    if (!(minX() <= x && x <= maxX() && y > 0.0)) continue;
-    if (isSelected) {
-      if (std::cmp_equal(exam, document.currentExam()) && document.shouldShowGraphHilite()) {
-        const Point centre = pointForXY(x, y);
+  forEachPlottedValue([this](const PlottedValue& plotted) {
+    if (plotted.isSelected) {
+      const ChartDocument& document = *owningDocument();
+      if (std::cmp_equal(plotted.exam, document.currentExam()) && document.shouldShowGraphHilite()) {
+        const Point centre = pointForXY(plotted.x, plotted.y);
         canvas().setColor(NamedColor::faintGray);
         canvas().fillOval(
             {.x = centre.x - kDisc / 2.0, .y = centre.y - kDisc / 2.0, .width = kDisc, .height = kDisc});
@@ -161,15 +148,98 @@ void NascorGraphView::plotFetus(std::int64_t fetus, bool isSelected) {
       setMeanColour();
     }
     // The same symbols as in the legend; a sixth fetus and later ones have none.
-    switch (fetus) {
-      case 0: plotMark(1, x, y); break;
-      case 1: plotMark(4, x, y); break;
-      case 2: plotMark(3, x, y); break;
-      case 3: plotMark(5, x, y); break;
-      case 4: plotMark(2, x, y); break;
+    switch (plotted.fetus) {
+      case 0: plotMark(1, plotted.x, plotted.y); break;
+      case 1: plotMark(4, plotted.x, plotted.y); break;
+      case 2: plotMark(3, plotted.x, plotted.y); break;
+      case 3: plotMark(5, plotted.x, plotted.y); break;
+      case 4: plotMark(2, plotted.x, plotted.y); break;
       default: break;
     }
+  });
+}
+
+template <class Use>
+void NascorGraphView::forEachPlottedValue(Use use) const {
+  if (!owningDocument() || !owningDocument()->patientRecord()) return;
+  const std::int64_t selected = owningDocument()->multiplePopUp().indexOfSelectedItem();
+  if (!foundation::boolForKey(services().defaults, foundation::defaults_key::showAll)) {
+    if (selected >= 0) forEachValueOf(selected, true, use);
+    return;
   }
+  // A file may name any number of fetuses. Those beyond the symbols show nothing unless they are selected.
+  constexpr std::int64_t kSymbols = 5;
+  const std::int64_t count = owningDocument()->patientRecord()->numberOfFetuses();
+  for (std::int64_t fetus = 0; fetus < std::min(count, kSymbols); ++fetus) {
+    forEachValueOf(fetus, fetus == selected, use);
+  }
+  if (selected >= kSymbols && selected < count) forEachValueOf(selected, true, use);
+}
+
+template <class Use>
+void NascorGraphView::forEachValueOf(std::int64_t fetus, bool isSelected, Use use) const {
+  const std::uint64_t examinations = owningDocument()->patientRecord()->ncRecordsArray().size();
+  for (std::uint64_t exam = 0; exam < examinations; ++exam) {
+    const double x = owningDocument()->menstrualAgeForRecord(exam);
+    const double y = valueForFetus(static_cast<std::uint64_t>(fetus), exam);
+    if (minX() <= x && x <= maxX() && y > 0.0)
+      use({.fetus = fetus, .isSelected = isSelected, .exam = exam, .x = x, .y = y});
+  }
+}
+
+framework::ZuPrimitiveGraphView* NascorGraphView::hitTest(Point point) {
+  ZuPrimitiveGraphView* hit = UpdatingGraphView::hitTest(point);
+  if (hit != this) return hit;
+  return sdPath_.contains(point) ? this : nullptr;
+}
+
+void NascorGraphView::mouseDown(const framework::MouseEvent& event) {
+  if (event.clickCount == 1) UpdatingGraphView::mouseDown(event);
+  if (event.clickCount == 2 && sdPath_.contains(event.location)) switchToSingleGraphFromTrends();
+}
+
+void NascorGraphView::switchToSingleGraphFromTrends() {
+  constexpr std::int64_t kTrends = 0;
+  if (owningDocument()) owningDocument()->switchToGraph(kTrends);
+}
+
+std::string NascorGraphView::toolTipAt(Point point) const {
+  constexpr double kReach = 8.0;
+  std::optional<PlottedValue> nearest;
+  double least = kReach;
+  forEachPlottedValue([&](const PlottedValue& plotted) {
+    const Point mark = pointForXY(plotted.x, plotted.y);
+    const double distance = std::hypot(mark.x - point.x, mark.y - point.y);
+    // Of two marks in one place the later one lies on top.
+    if (distance > least) return;
+    least = distance;
+    nearest = plotted;
+  });
+  return nearest && bounds().contains(point) ? describe(*nearest) : std::string();
+}
+
+std::string NascorGraphView::describe(const PlottedValue& plotted) const {
+  const ChartDocument& document = *owningDocument();
+  const framework::PopUpButton& fetuses = document.multiplePopUp();
+  const auto& record = document.patientRecord()->ncRecordsArray()[plotted.exam];
+  const std::string date =
+      foundation::shortDateText(record->examDate(), services().calendar, services().localizer);
+  std::string text;
+  if (fetuses.numberOfItems() > 1 && plotted.fetus < fetuses.numberOfItems()) {
+    text.append(fetuses.itemTitleAtIndex(plotted.fetus)).append("\n");
+  }
+  text.append(date).append(", ").append(document.menstrualAgeStringForRecord(plotted.exam)).append("\n");
+  text += valueText(plotted.y);
+  const double z = calc::zScore(standardData(), plotted.y, plotted.x);
+  if (std::isfinite(z)) {
+    const std::string score = foundation::fieldText(z, 2, services().localizer.decimalSign());
+    text.append(", ").append(localized("z-score")).append(z >= 0.0 ? " +" : " ").append(score);
+  }
+  return text;
+}
+
+std::string NascorGraphView::valueText(double value) const {
+  return foundation::fieldText(value, 1, services().localizer.decimalSign());
 }
 
 }  // namespace nascor::charts

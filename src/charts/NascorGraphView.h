@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 
 #include "charts/UpdatingGraphView.h"
 
@@ -30,10 +31,22 @@ class NascorGraphView : public UpdatingGraphView {
   double sdForGestation(double gestation) const;
   /// @}
 
+  /// Only inside the band as it was last drawn: what lies behind gets the other clicks.
+  framework::ZuPrimitiveGraphView* hitTest(framework::Point point) override;
+  /// A single click is the base's; a double click inside the band leads to another page; others do nothing.
+  void mouseDown(const framework::MouseEvent& event) override;
+  /// The nearest mark: date, age, value and by how many standard deviations it lies above the mean.
+  std::string toolTipAt(framework::Point point) const override;
+
   /// The outline of the band as it was last drawn; empty before that.
   const framework::Path& sdPath() const { return sdPath_; }
 
  protected:
+  /// Where a double click leads: from a chart of its own to the trends.
+  virtual void switchToSingleGraphFromTrends();
+  /// `value` in words, with its unit.
+  virtual std::string valueText(double value) const;
+
   void drawGraph() override;
   void drawYAxis() override;
   virtual void drawLegend();
@@ -50,7 +63,19 @@ class NascorGraphView : public UpdatingGraphView {
   /// @}
 
  private:
-  void plotFetus(std::int64_t fetus, bool isSelected);
+  /// One value on the chart, in data units.
+  struct PlottedValue {
+    std::int64_t fetus;
+    bool isSelected;
+    std::uint64_t exam;
+    double x;  ///< menstrual age in weeks
+    double y;
+  };
+  template <class Use>
+  void forEachPlottedValue(Use use) const;
+  template <class Use>
+  void forEachValueOf(std::int64_t fetus, bool isSelected, Use use) const;
+  std::string describe(const PlottedValue& plotted) const;
 
   framework::Path sdPath_;
 };

@@ -34,6 +34,8 @@ class UpdatingGraphView : public framework::CorvelGraphView {
   /// @}
 
  protected:
+  /// From now on a choice of standard is not heard.
+  void stopObservingStandards() { standardsSubscription_.reset(); }
   void updateStandards(const foundation::Notification& notification);
   calc::ReferenceTable& table() { return standardData_; }
 

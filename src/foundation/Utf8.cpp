@@ -29,7 +29,49 @@ std::size_t characterLength(std::string_view bytes) {
   return 0;
 }
 
+bool isWithin(char32_t point, char32_t first, char32_t last) { return point >= first && point <= last; }
+
+/// Combines with the sign before it.
+bool extendsBase(char32_t point) {
+  return isWithin(point, 0x0300, 0x036F) || isWithin(point, 0x1AB0, 0x1AFF) ||
+         isWithin(point, 0x1DC0, 0x1DFF) || isWithin(point, 0x20D0, 0x20FF) ||
+         isWithin(point, 0xFE00, 0xFE0F) || isWithin(point, 0xFE20, 0xFE2F) ||
+         isWithin(point, 0x1F3FB, 0x1F3FF) || isWithin(point, 0xE0100, 0xE01EF);
+}
+
+bool isHalfOfAFlag(char32_t point) { return isWithin(point, 0x1F1E6, 0x1F1FF); }
+
+/// Takes the last code point off `text`, which is not empty.
+char32_t popCodePoint(std::string& text) {
+  char32_t point = 0;
+  for (unsigned shift = 0;; shift += 6) {
+    const auto byte = static_cast<unsigned char>(text.back());
+    text.pop_back();
+    if ((byte & 0xC0U) == 0x80U && !text.empty()) {
+      point |= static_cast<char32_t>(byte & 0x3FU) << shift;
+      continue;
+    }
+    // The lead byte keeps 7 bits alone, and 5, 4 or 3 before one, two or three others.
+    const unsigned lead = shift == 0 ? byte : byte & (0x3FU >> (shift / 6U));
+    return point | (static_cast<char32_t>(lead) << shift);
+  }
+}
+
 }  // namespace
+
+void removeLastCharacter(std::string& text) {
+  constexpr char32_t kJoiner = 0x200D;
+  const auto last = [&] {
+    std::string copy = text;
+    return copy.empty() ? U'\0' : popCodePoint(copy);
+  };
+  while (!text.empty()) {
+    const char32_t point = popCodePoint(text);
+    if (extendsBase(point) || point == kJoiner) continue;
+    if (isHalfOfAFlag(point) && isHalfOfAFlag(last())) popCodePoint(text);
+    if (last() != kJoiner) return;
+  }
+}
 
 bool isValidUtf8(std::string_view bytes) {
   while (!bytes.empty()) {

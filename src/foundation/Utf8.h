@@ -13,4 +13,8 @@ bool isValidUtf8(std::string_view bytes);
 /// from outside stays on one line and gives a terminal no orders.
 std::string oneLine(std::string_view text);
 
+/// Takes the last character off `text`, valid UTF-8: what a reader counts as one, so a base with its combining diacritics,
+/// variation selectors and modifiers, a sequence of joined signs, a flag. An empty text stays empty.
+void removeLastCharacter(std::string& text);
+
 }  // namespace nascor::foundation

@@ -13,6 +13,9 @@ class CorvelGraphView : public ZuPrimitiveGraphView {
   /// Null while the view is being made.
   GraphDocument* owningGraphDocument() const { return owningGraphDocument_; }
 
+  /// A single click in the plotting area makes the examination nearest to that week the one on show.
+  void mouseDown(const MouseEvent& event) override;
+
  protected:
   void setOwningGraphDocument(GraphDocument* document) { owningGraphDocument_ = document; }
 

@@ -19,6 +19,12 @@ struct Rect {
   double width = 0.0;
   double height = 0.0;
   friend bool operator==(const Rect&, const Rect&) = default;
+
+  /// Whether `point` lies inside or on an edge. A rectangle without extent holds nothing.
+  bool contains(Point point) const {
+    return width > 0.0 && height > 0.0 && point.x >= x && point.x <= x + width && point.y >= y &&
+           point.y <= y + height;
+  }
 };
 
 /// A path of straight lines: subpaths, each begun by `moveTo`. A point that is not finite is left out; the line goes on

@@ -1,12 +1,20 @@
 #include "framework/Page.h"
 
+#include <ranges>
+
 namespace nascor::framework {
 
 void Page::addView(ZuPrimitiveGraphView& view, Placement placement) {
   views_.push_back({.view = &view, .placement = std::move(placement), .frame = {}});
 }
 
+void Page::addCaption(std::string text, NamedColor color, Placement placement) {
+  captions_.push_back(
+      {.text = std::move(text), .color = color, .placement = std::move(placement), .frame = {}});
+}
+
 void Page::layout(double width, double height) {
+  for (Caption& caption : captions_) caption.frame = caption.placement(width, height);
   for (PlacedView& placed : views_) {
     placed.frame = placed.placement(width, height);
     placed.view->setFrameSize(placed.frame.width, placed.frame.height);
@@ -16,10 +24,38 @@ void Page::layout(double width, double height) {
 void Page::paint(Surface& surface) const {
   constexpr Point kTitlePlace{.x = 50.0, .y = 10.0};
   if (!title_.empty()) surface.pageCanvas().text(title_, kTitlePlace, {});
+  for (const Caption& caption : captions_) {
+    surface.pageCanvas().text(caption.text, {.x = caption.frame.x, .y = caption.frame.y},
+                              {.color = caption.color});
+  }
   for (const PlacedView& placed : views_) {
     placed.view->display(surface.beginView(*placed.view, placed.frame));
     surface.endView();
   }
+}
+
+Point Page::PlacedView::inView(Point point) const {
+  const double down = point.y - frame.y;
+  return {.x = point.x - frame.x, .y = view->isFlipped() ? down : frame.height - down};
+}
+
+bool Page::click(Point point, int count) {
+  for (const PlacedView& placed : views_ | std::views::reverse) {
+    const Point location = placed.inView(point);
+    if (ZuPrimitiveGraphView* hit = placed.view->hitTest(location)) {
+      hit->mouseDown({.location = location, .clickCount = count});
+      return true;
+    }
+  }
+  return false;
+}
+
+std::string Page::toolTipAt(Point point) const {
+  for (const PlacedView& placed : views_ | std::views::reverse) {
+    std::string text = placed.view->toolTipAt(placed.inView(point));
+    if (!text.empty()) return text;
+  }
+  return {};
 }
 
 }  // namespace nascor::framework

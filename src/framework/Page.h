@@ -5,13 +5,14 @@
 #include <string>
 #include <vector>
 
+#include "framework/Color.h"
 #include "framework/Geometry.h"
 #include "framework/Surface.h"
 #include "framework/ZuPrimitiveGraphView.h"
 
 namespace nascor::framework {
 
-/// A page of a document: a title line and views. Screen, paper and files all show it through `layout` and `paint`.
+/// A page of a document: a title line, captions and views. Screen, paper and files all show it through `layout` and `paint`.
 /// Its coordinates begin at its upper left, y downward.
 class Page {
  public:
@@ -32,18 +33,38 @@ class Page {
   /// Adds a view in front of the others. It outlives the page.
   void addView(ZuPrimitiveGraphView& view, Placement placement);
 
+  /// Adds a line of text at the upper left corner of its rectangle.
+  void addCaption(std::string text, NamedColor color, Placement placement);
+
   void layout(double width, double height);
   /// Paints the page as it was last laid out.
   void paint(Surface& surface) const;
+
+  // Selector: click:count:
+  /// A press of the mouse button at `point` of the page as it was last laid out and painted. The frontmost view that takes it
+  /// acts; what no view takes is nobody's. Whether some view took it.
+  bool click(Point point, int count);
+  /// What a tool tip at `point` says; empty for none.
+  std::string toolTipAt(Point point) const;
 
  private:
   struct PlacedView {
     ZuPrimitiveGraphView* view;
     Placement placement;
     Rect frame;
+
+    /// `point` of the page in the view's own coordinates.
+    Point inView(Point point) const;
+  };
+  struct Caption {
+    std::string text;
+    NamedColor color;
+    Placement placement;
+    Rect frame;
   };
   std::string name_;
   std::string title_;
+  std::vector<Caption> captions_;
   std::vector<PlacedView> views_;
 };
 

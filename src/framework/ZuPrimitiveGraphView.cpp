@@ -49,6 +49,10 @@ double ZuPrimitiveGraphView::xForPoint(Point point) const {
   return minX_ + (point.x - graphRect_.x) / graphRect_.width * (maxX_ - minX_);
 }
 
+ZuPrimitiveGraphView* ZuPrimitiveGraphView::hitTest(Point point) {
+  return bounds_.contains(point) ? this : nullptr;
+}
+
 void ZuPrimitiveGraphView::display(Canvas& canvas) {
   canvas_ = &canvas;
   drawRect(bounds_);
@@ -105,8 +109,11 @@ void ZuPrimitiveGraphView::drawYAxis() {
 
 void ZuPrimitiveGraphView::drawReferenceTitle() {
   const double width = canvas().textWidth(referenceTitle_, {});
-  const double base = graphRect_.y - kTick - 3.0 * kGap - 2.0 * kTextHeight;
-  canvas().text(referenceTitle_, {graphRect_.x + graphRect_.width - width, base}, {});
+  double base = graphRect_.y - kTick - 3.0 * kGap - 2.0 * kTextHeight;
+  // Where the two titles do not fit on one line, this one takes the next.
+  const double room = graphRect_.width - canvas().textWidth(xTitle_, {}) - 4.0 * kGap;
+  if (width > room) base -= kTextHeight + kGap;
+  canvas().text(referenceTitle_, {std::max(graphRect_.x, graphRect_.x + graphRect_.width - width), base}, {});
 }
 
 void ZuPrimitiveGraphView::plotMark(int code, double x, double y) {

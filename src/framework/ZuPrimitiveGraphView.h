@@ -10,6 +10,12 @@
 
 namespace nascor::framework {
 
+/// A press of the mouse button in a view.
+struct MouseEvent {
+  Point location;      ///< in the view's own coordinates
+  int clickCount = 1;  ///< 2 for the second press of a double click, whose first one came by itself
+};
+
 /// A view that maps data into a plotting rectangle and draws axes, titles and marks.
 ///
 /// Coordinates are the view's own: they begin at its lower left, y upward, unless `isFlipped`. Views are made by
@@ -67,6 +73,19 @@ class ZuPrimitiveGraphView : public foundation::NotificationSender {
 
   /// Draws the whole view.
   void display(Canvas& canvas);
+  /// @name The mouse
+  /// @{
+
+  // Selector: hitTest:
+  /// The view that a press at `point` (this view's coordinates) is for: this one, or null when it goes to what lies behind.
+  virtual ZuPrimitiveGraphView* hitTest(Point point);
+  // Selector: mouseDown:
+  virtual void mouseDown(const MouseEvent&) {}
+  /// What a tool tip at `point` says; empty for none.
+  virtual std::string toolTipAt(Point) const { return {}; }
+
+  /// @}
+
   /// Asks for a redraw; the window layer listens.
   void setNeedsDisplay() { ++timesDisplayAsked_; }
   std::uint64_t timesDisplayAsked() const { return timesDisplayAsked_; }

@@ -97,7 +97,7 @@ TEST_F(ADocument, keepsThePatientOfItsFileAndTheFilesStandards) {
   document.windowControllerDidLoadNib();
   EXPECT_EQ(document.standard(), 1);
   EXPECT_EQ(document.fetalWeightStandard(), 99);
-  EXPECT_EQ(document.BPDGraph().standardData().size(), 29U);
+  EXPECT_EQ(document.BPDGraph()->standardData().size(), 29U);
   EXPECT_TRUE(document.patientRecord()->ncRecordsArray().empty()) << "no examination is invented";
   EXPECT_EQ(document.examDateField().text(), "");
 }
@@ -170,8 +170,8 @@ TEST_F(ADocument, movesTheHighlightWithTheExamination) {
   const auto disc = [&](const tests::RecordingSurface& surface) {
     return surface.views.at(0).canvas.of(tests::RecordingCanvas::Entry::Kind::fillOval).at(0).rect.x + 10;
   };
-  EXPECT_EQ(disc(before), opened->BPDGraph().pointForXY(180 / 7.0, 50).x);
-  EXPECT_EQ(disc(after), opened->BPDGraph().pointForXY(140 / 7.0, 50).x);
+  EXPECT_EQ(disc(before), opened->BPDGraph()->pointForXY(180 / 7.0, 50).x);
+  EXPECT_EQ(disc(after), opened->BPDGraph()->pointForXY(140 / 7.0, 50).x);
 }
 
 TEST_F(ADocument, putsTheAxisStripUnderItsChart) {
@@ -237,7 +237,7 @@ TEST_F(ADocument, projectsTheLastExaminationOfTheCurrentFetusOnTheSameZScore) {
   const auto opened = document(kEDD, {70, 56}, 2);  // 30 and 32 weeks
   auto& exams = opened->patientRecord()->ncRecordsArray();
   exams[0]->measurementsForFetus(1).setBPD(10);
-  auto& bpd = opened->BPDGraph();
+  auto& bpd = *opened->BPDGraph();
   const double mean = bpd.standardData()[32 - 11].mean();
   const double sd = bpd.standardData()[32 - 11].sd();
   exams[1]->measurementsForFetus(1).setBPD(mean + 1.5 * sd);
@@ -252,8 +252,8 @@ TEST_F(ADocument, projectsTheLastExaminationOfTheCurrentFetusOnTheSameZScore) {
 TEST_F(ADocument, projectsEachLengthOnItsOwnChart) {
   const auto opened = document(kEDD, {56});
   auto& measured = opened->patientRecord()->ncRecordsArray()[0]->measurementsForFetus(0);
-  const auto at = [](const charts::NascorGraphView& chart, int week) {
-    return chart.standardData()[static_cast<std::size_t>(week - 11)];
+  const auto at = [](const charts::NascorGraphView* chart, int week) {
+    return chart->standardData()[static_cast<std::size_t>(week - 11)];
   };
   measured.setHC(at(opened->HCGraph(), 32).mean() - at(opened->HCGraph(), 32).sd());
   measured.setAC(at(opened->ACGraph(), 32).mean());
@@ -283,9 +283,9 @@ TEST_F(ADocument, projectsNothingFiniteWithoutAnAge) {
 TEST_F(ADocument, projectsBeyondTheLastWeekToTheLastRow) {
   const auto opened = document(kEDD, {56});
   opened->patientRecord()->setStandard(1);
-  opened->BPDGraph().resetStandards();
+  opened->BPDGraph()->resetStandards();
   opened->patientRecord()->setExtrapolatedGestation(41.0);
-  EXPECT_EQ(opened->extrapolatedBPDForCurrentFetus(), opened->BPDGraph().standardData().back().mean());
+  EXPECT_EQ(opened->extrapolatedBPDForCurrentFetus(), opened->BPDGraph()->standardData().back().mean());
 }
 
 struct LabelCase {
@@ -371,8 +371,8 @@ TEST_F(ADocument, doesNotDisturbAnotherOne) {
   const auto two = document(kEDD, {100});
   two->patientRecord()->setStandard(3);
   platform.notifications.post(foundation::NotificationName::updateStandards, two.get());
-  EXPECT_EQ(one->BPDGraph().standardData().size(), 31U);
-  EXPECT_EQ(two->BPDGraph().standardData().size(), 25U);
+  EXPECT_EQ(one->BPDGraph()->standardData().size(), 31U);
+  EXPECT_EQ(two->BPDGraph()->standardData().size(), 25U);
 }
 
 }  // namespace

@@ -362,10 +362,10 @@ TEST_F(TheWindow, drawsTheRecordsAsTheyStandAtEachDrawing) {
     page.paint(surface);
     return surface.views.at(0).canvas.of(tests::RecordingCanvas::Entry::Kind::fillOval).at(0).rect.y + 10.0;
   };
-  EXPECT_DOUBLE_EQ(heightOfMark(), document->BPDGraph().pointForXY(20, float{47.4F}).y);
+  EXPECT_DOUBLE_EQ(heightOfMark(), document->BPDGraph()->pointForXY(20, float{47.4F}).y);
   // Nobody tells the chart.
   document->patientRecord()->ncRecordsArray()[1]->measurementsForFetus(0).setBPD(60);
-  EXPECT_DOUBLE_EQ(heightOfMark(), document->BPDGraph().pointForXY(20, 60).y);
+  EXPECT_DOUBLE_EQ(heightOfMark(), document->BPDGraph()->pointForXY(20, 60).y);
 }
 
 TEST_F(TheWindow, selectsTheBPDForTypingWhenAFetusIsChosen) {

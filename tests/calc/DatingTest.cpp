@@ -418,5 +418,16 @@ TEST(TheEdd, isThe280thDayAfterEveryDayOfAYearInEveryZone) {
   }
 }
 
+TEST(TheWeekOnTheAxis, isThatOfTheDeliveryOnItsDayOnly) {
+  const auto at = [](double seconds) { return Date{seconds}; };
+  EXPECT_EQ(currentWeekOnAxis(at(8e8), at(8e8)), 40.0);
+  // The seconds are multiplied by 86400 and cut: 0.0001 s are 8 days, 40 - 8 / 7; a whole day is 1.07e9 weeks before.
+  EXPECT_EQ(currentWeekOnAxis(at(0.0), at(0.0001)), 40.0 - 8.0 / 7.0);
+  EXPECT_EQ(currentWeekOnAxis(at(0.0), at(-0.0001)), 40.0 + 8.0 / 7.0);
+  EXPECT_EQ(currentWeekOnAxis(at(0.0), at(86400.0)), 40.0 - 7464960000.0 / 7.0);
+  EXPECT_EQ(currentWeekOnAxis(std::nullopt, at(8e8)), std::nullopt);
+  EXPECT_EQ(currentWeekOnAxis(at(8e8), std::nullopt), std::nullopt);
+}
+
 }  // namespace
 }  // namespace nascor::calc

@@ -55,5 +55,35 @@ TEST(TheDaysToGo, areAlways0WithTheAdjustmentBehind) {
   EXPECT_EQ(daysToGoLine(39.0, tests::MarkedLocalizer()), "[:Days to Go:\t0] (-7)");
 }
 
+TEST(TheRowsThatFit, areTheLatestAndGiveOneUpForTheProjection) {
+  struct Case {
+    std::uint64_t examinations;
+    double height;
+    bool withProjection;
+    std::uint64_t first;
+  };
+  constexpr Case kCases[] = {
+      {5, 230, false, 3},     // (230 - 148) / 41 = 2
+      {5, 230, true, 4},      //
+      {2, 230, false, 0},     // as many as fit
+      {3, 230, false, 1},     //
+      {5, 189, false, 4},     // one
+      {5, 188.99, false, 5},  // none
+      {5, 108, false, 5},     //
+      {5, 188, true, 0},      // none, less one: it wraps, and all are listed
+      {5, 189, true, 5},      //
+      {5, 107, false, 0},     // less than none: the same
+      {5, 107, true, 0},      //
+      {5, 0, false, 0},       //
+      {20, 560, false, 10},   // a whole page: (560 - 148) / 41 = 10
+      {20, 560, true, 11},    //
+      {0, 560, false, 0},
+  };
+  for (const Case& row : kCases) {
+    EXPECT_EQ(firstExaminationShown(row.examinations, row.height, row.withProjection), row.first)
+        << row.examinations << " at " << row.height << (row.withProjection ? " with the projection" : "");
+  }
+}
+
 }  // namespace
 }  // namespace nascor::calc

@@ -8,6 +8,7 @@
 #include <functional>
 #include <stdexcept>
 
+#include "drive/Drawing.h"
 #include "drive/Script.h"
 #include "foundation/ConvertInteger.h"
 #include "foundation/IsoDate.h"
@@ -355,6 +356,7 @@ Json Driver::perform(const std::string& key, const Json& argument) {
       {"do", &Driver::operation},      {"app", &Driver::applicationOperation},
       {"menu", &Driver::menu},         {"choose", &Driver::choose},
       {"step", &Driver::step},         {"tab", &Driver::tab},
+      {"click", &Driver::click},       {"draw", &Driver::draw},
       {"advance", &Driver::advance},   {"zone", &Driver::zone},
       {"locale", &Driver::locale},
   };
@@ -554,6 +556,31 @@ Json Driver::tab(const Json& page) {
   if (auto refusal = heldBack(shown)) return *refusal;
   shown.switchToGraph(wanted);
   return Json::object();
+}
+
+Json Driver::click(const Json& click) {
+  if (!click.is_array() || click.size() != 4) refuse("expected [page, x, y, count]");
+  NCDocument& clicked = document();
+  const std::int64_t shown = integerArgument(click[0], "the index of a page");
+  const framework::Point place{.x = numberArgument(click[1], "a number"),
+                               .y = numberArgument(click[2], "a number")};
+  const std::int64_t count = integerArgument(click[3], "a number of clicks");
+  framework::Page& page = clicked.tabView().page(shown);
+  if (auto refusal = heldBack(clicked)) return *refusal;
+  clicked.switchToGraph(shown);
+  layOutAndPaint(page);
+  page.click(place, static_cast<int>(count));
+  return Json::object();
+}
+
+Json Driver::draw(const Json& drawn) {
+  const bool hasSize = drawn.is_array();
+  if (hasSize && drawn.size() != 3) refuse("expected [page, width, height]");
+  framework::Page& page =
+      document().tabView().page(integerArgument(hasSize ? drawn[0] : drawn, "the index of a page"));
+  const double width = hasSize ? numberArgument(drawn[1], "a number") : framework::Page::kWidth;
+  const double height = hasSize ? numberArgument(drawn[2], "a number") : framework::Page::kHeight;
+  return {{"draw", drawingOf(page, width, height)}};
 }
 
 Json Driver::advance(const Json& seconds) {

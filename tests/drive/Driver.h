@@ -57,6 +57,8 @@ class Driver {
   Json cancel(const Json& window);
   Json step(const Json& days);
   Json tab(const Json& page);
+  Json click(const Json& click);
+  Json draw(const Json& drawn);
   Json advance(const Json& seconds);
   Json zone(const Json& name);
   Json locale(const Json& name);

@@ -1,6 +1,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <vector>
+
+#include "framework/CorvelGraphView.h"
 #include "framework/MakeView.h"
 #include "framework/ZuPrimitiveGraphView.h"
 #include "support/RecordingCanvas.h"
@@ -141,6 +144,61 @@ TEST_F(AGraphView, remembersThatItWasAskedToBeRedrawn) {
   const auto before = view->timesDisplayAsked();
   view->setNeedsDisplay();
   EXPECT_EQ(view->timesDisplayAsked(), before + 1);
+}
+
+struct ClickedDocument final : GraphDocument {
+  std::vector<double> weeks;
+  std::int64_t currentExam() const override { return 0; }
+  bool shouldShowGraphHilite() const override { return true; }
+  void setCurrentRecordFromClick(double clicked) override { weeks.push_back(clicked); }
+};
+
+class ADocumentsView : public CorvelGraphView {
+ public:
+  ADocumentsView(const foundation::Services& services) : CorvelGraphView(services) {}
+  using CorvelGraphView::setOwningGraphDocument;
+  void setGraphRect(const Rect& rect) override {
+    CorvelGraphView::setGraphRect({rect.x + 40, rect.y + 20, rect.width - 50, rect.height - 30});
+  }
+};
+
+TEST_F(AGraphView, tellsItsDocumentTheWeekOfASingleClickInThePlottingArea) {
+  ClickedDocument document;
+  const auto view = make<ADocumentsView>(platform.services(), {0, 0, 250, 130});  // area 40, 20, 200, 100
+  view->setMinX(8);
+  view->setMaxX(42);
+  view->mouseDown({.location = {140, 70}, .clickCount = 1});
+  EXPECT_TRUE(document.weeks.empty()) << "it has no document yet";
+  view->setOwningGraphDocument(&document);
+  for (const Point point : {Point{140, 70}, Point{40, 20}, Point{240, 120},  // inside, and two corners
+                            Point{39.9, 70}, Point{240.1, 70}, Point{140, 19.9}, Point{140, 120.1}}) {
+    view->mouseDown({.location = point, .clickCount = 1});
+  }
+  EXPECT_EQ(document.weeks, (std::vector<double>{25, 8, 42}));
+  view->mouseDown({.location = {140, 70}, .clickCount = 2});
+  view->mouseDown({.location = {140, 70}, .clickCount = 3});
+  EXPECT_EQ(document.weeks.size(), 3U);
+}
+
+TEST_F(AGraphView, withoutRoomForAPlottingAreaTakesNoClick) {
+  ClickedDocument document;
+  const auto view = make<ADocumentsView>(platform.services(), {0, 0, 50, 30});  // area 40, 20, 0, 0
+  view->setOwningGraphDocument(&document);
+  view->mouseDown({.location = {40, 20}, .clickCount = 1});
+  EXPECT_TRUE(document.weeks.empty());
+}
+
+TEST_F(AGraphView, writesItsReferenceTitleBelowTheOtherWhereTheyWouldMeet) {
+  const auto view = make<ShiftedView>(platform.services(), {0, 0, 250, 130});  // 200 wide: 33 characters
+  view->setXTitle("0123456789");
+  view->setReferenceTitle("0123456789");
+  view->display(canvas);
+  const double line = canvas.text("0123456789")->point.y;
+  EXPECT_EQ(canvas.of(Kind::text).back().point.y, line);
+  canvas.clear();
+  view->setReferenceTitle("01234567890123456789012");
+  view->display(canvas);
+  EXPECT_LE(canvas.text("01234567890123456789012")->point.y, line - kTextHeight);
 }
 
 }  // namespace

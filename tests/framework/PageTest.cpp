@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <vector>
+
 #include "framework/MakeView.h"
 #include "support/RecordingCanvas.h"
 #include "support/TestServices.h"
@@ -47,6 +49,83 @@ TEST_F(APage, withoutATitlePaintsNone) {
   page.layout(400, 200);
   page.paint(surface);
   EXPECT_TRUE(surface.page.entries().empty());
+}
+
+/// Tells what it hears, and takes only what it is told to.
+class ListeningView : public ZuPrimitiveGraphView {
+ public:
+  using ZuPrimitiveGraphView::ZuPrimitiveGraphView;
+  bool takes = true;
+  bool flipped = false;
+  std::vector<MouseEvent> heard;
+
+  bool isFlipped() const override { return flipped; }
+  ZuPrimitiveGraphView* hitTest(Point point) override {
+    return takes ? ZuPrimitiveGraphView::hitTest(point) : nullptr;
+  }
+  void mouseDown(const MouseEvent& event) override { heard.push_back(event); }
+  std::string toolTipAt(Point point) const override { return point.x < 5 ? "left" : ""; }
+};
+
+class AClickOnAPage : public testing::Test {
+ protected:
+  tests::TestServices platform;
+  ViewOwner<ListeningView> back = make<ListeningView>(platform.services(), {});
+  ViewOwner<ListeningView> front = make<ListeningView>(platform.services(), {});
+  Page page{"BPD"};
+
+  void SetUp() override {
+    page.addView(*back, [](double width, double height) { return Rect{0, 0, width, height}; });
+    page.addView(*front, [](double, double) { return Rect{100, 50, 200, 80}; });
+    page.layout(800, 560);
+  }
+};
+
+TEST_F(AClickOnAPage, goesToTheFrontmostViewInItsOwnCoordinates) {
+  EXPECT_TRUE(page.click({110, 70}, 2));
+  ASSERT_EQ(front->heard.size(), 1U);
+  EXPECT_EQ(front->heard[0].location, (Point{10, 60})) << "y upward from the lower edge";
+  EXPECT_EQ(front->heard[0].clickCount, 2);
+  EXPECT_TRUE(back->heard.empty());
+}
+
+TEST_F(AClickOnAPage, isNotTurnedOverForAViewThatIsFlipped) {
+  front->flipped = true;
+  page.click({110, 70}, 1);
+  EXPECT_EQ(front->heard.at(0).location, (Point{10, 20}));
+}
+
+TEST_F(AClickOnAPage, goesToWhatLiesBehindWhereTheFrontDoesNotTakeIt) {
+  front->takes = false;
+  EXPECT_TRUE(page.click({110, 70}, 1));
+  EXPECT_TRUE(front->heard.empty());
+  EXPECT_EQ(back->heard.at(0).location, (Point{110, 490}));
+}
+
+TEST_F(AClickOnAPage, isNobodysBesideEveryView) {
+  back->takes = false;
+  EXPECT_FALSE(page.click({99, 70}, 1));
+  EXPECT_TRUE(front->heard.empty());
+  EXPECT_TRUE(page.click({100, 130}, 1)) << "the edges belong to the view";
+  EXPECT_TRUE(page.click({300, 50}, 1));
+  EXPECT_FALSE(page.click({300.1, 50}, 1));
+}
+
+TEST_F(AClickOnAPage, hasItsToolTipFromTheFrontmostViewThatHasOne) {
+  EXPECT_EQ(page.toolTipAt({102, 70}), "left");
+  EXPECT_EQ(page.toolTipAt({110, 70}), "");
+}
+
+TEST_F(APage, paintsItsCaptionsAfterItsTitle) {
+  page.setTitle("AB-123 (G2)");
+  page.addCaption("Head Circ (mm)", NamedColor::red, [](double width, double) {
+    return Rect{width / 2, 34, 100, 14};
+  });
+  page.layout(800, 560);
+  page.paint(surface);
+  ASSERT_EQ(surface.page.texts(), (std::vector<std::string>{"AB-123 (G2)", "Head Circ (mm)"}));
+  EXPECT_EQ(surface.page.entries().back().point, (Point{400, 34}));
+  EXPECT_EQ(surface.page.entries().back().color.name(), NamedColor::red);
 }
 
 }  // namespace

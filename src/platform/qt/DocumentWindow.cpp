@@ -1,11 +1,13 @@
 #include "qt/DocumentWindow.h"
 
+#include <QClipboard>
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QCoreApplication>
 #include <QDialog>
 #include <QDragEnterEvent>
 #include <QFile>
+#include <QGuiApplication>
 #include <QLabel>
 #include <QMessageBox>
 #include <QMimeData>
@@ -226,7 +228,10 @@ void DocumentWindow::bindPages() {
   QString taken = mnemonicOf(ui_->showAllAction->text());
   for (std::int64_t i = 0; i < tabs.numberOfPages(); ++i) {
     framework::Page& page = tabs.page(i);
-    auto* view = new PageView(page);
+    auto* view = new PageView(page, clicks_);
+    view->onClick = [this, &page](framework::Point point, int count) {
+      perform([&page, point, count](NCDocument&) { page.click(point, count); });
+    };
     const QString name = said(page.name().c_str());
     view->setObjectName(fromUtf8(page.name()) + QStringLiteral("Page"));
     view->setAccessibleName(name);
@@ -346,6 +351,15 @@ void DocumentWindow::bindEditActions() {
   bind(ui_->copyAction, &QLineEdit::copy, &QPlainTextEdit::copy);
   bind(ui_->pasteAction, &QLineEdit::paste, &QPlainTextEdit::paste);
   bind(ui_->selectAllAction, &QLineEdit::selectAll, &QPlainTextEdit::selectAll);
+  connect(ui_->copyReportAction, &QAction::triggered, this, [this] {
+    perform([](NCDocument& document) {
+      auto* table = new QMimeData;
+      const QString text = fromUtf8(document.report().tabSeparatedText());
+      table->setText(text);
+      table->setData(QStringLiteral("text/tab-separated-values"), text.toUtf8());
+      QGuiApplication::clipboard()->setMimeData(table);
+    });
+  });
 }
 
 void DocumentWindow::bindStandardsMenus() {
@@ -506,6 +520,8 @@ void DocumentWindow::updatePages() {
     view->setAccessibleDescription(description);
     view->update();
   }
+  pageViews_.at(app::PatientPages::kReportPage)
+      ->setAccessibleDescription(fromUtf8(document_->report().tabSeparatedText()));
 }
 
 void DocumentWindow::revert() {

@@ -14,6 +14,7 @@
 #include "foundation/Services.h"
 #include "framework/DocumentController.h"
 #include "qt/Actions.h"
+#include "qt/ClickCounter.h"
 #include "qt/RecentFiles.h"
 
 class QLabel;
@@ -100,6 +101,7 @@ class DocumentWindow final : public QMainWindow {
   app::NCDocument* document_;
   std::unique_ptr<Ui::MyDocument> ui_;
   std::vector<FieldBinding*> bindings_;
+  ClickCounter clicks_;
   std::vector<PageView*> pageViews_;
   std::array<QAction*, 5> fetusActions_{};
   QLabel* refusalLabel_ = nullptr;

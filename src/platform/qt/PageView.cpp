@@ -1,14 +1,19 @@
 #include "qt/PageView.h"
 
+#include <QHelpEvent>
+#include <QMouseEvent>
 #include <QPainter>
+#include <QToolTip>
 
 #include "qt/QtSurface.h"
+#include "qt/Text.h"
 
 namespace nascor::qt {
 
 using framework::Page;
 
-PageView::PageView(Page& page, QWidget* parent) : QWidget(parent), page_(&page) {
+PageView::PageView(Page& page, ClickCounter& clicks, QWidget* parent)
+    : QWidget(parent), page_(&page), clicks_(clicks) {
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 }
 
@@ -18,10 +23,41 @@ QSize PageView::sizeHint() const { return QSizeF(Page::kWidth, Page::kHeight).to
 
 QSize PageView::minimumSizeHint() const { return sizeHint() * 0.6; }
 
+framework::Point PageView::onPage(QPointF point) const {
+  const QRectF whole = paper();
+  return {.x = (point.x() - whole.left()) / whole.width() * Page::kWidth,
+          .y = (point.y() - whole.top()) / whole.height() * Page::kHeight};
+}
+
+bool PageView::event(QEvent* event) {
+  if (event->type() != QEvent::ToolTip) return QWidget::event(event);
+  const auto* help = static_cast<QHelpEvent*>(event);
+  const QString text = page_ ? fromUtf8(page_->toolTipAt(onPage(help->pos()))) : QString();
+  if (text.isEmpty()) {
+    QToolTip::hideText();
+    event->ignore();
+  } else {
+    // It belongs to the mark: it goes as soon as the pointer leaves it.
+    constexpr int kReach = 8;
+    QToolTip::showText(help->globalPos(), text.toHtmlEscaped().replace(u'\n', QStringLiteral("<br>")), this,
+                       QRect(help->pos(), QSize(1, 1)).adjusted(-kReach, -kReach, kReach, kReach));
+  }
+  return true;
+}
+
 void PageView::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.fillRect(rect(), Qt::white);
   if (page_) paintPage(painter, *page_, paper());
+}
+
+void PageView::mousePressEvent(QMouseEvent* event) {
+  if (event->button() != Qt::LeftButton) {
+    QWidget::mousePressEvent(event);
+    return;
+  }
+  const int count = clicks_.count(*event);
+  if (page_ && onClick) onClick(onPage(event->position()), count);
 }
 
 }  // namespace nascor::qt

@@ -1,16 +1,20 @@
 #pragma once
 
 #include <QWidget>
+#include <functional>
 
 #include "framework/Page.h"
+#include "qt/ClickCounter.h"
 
 namespace nascor::qt {
 
-/// Shows a page on white, as large as fits, whatever the colours of the desktop.
+/// Shows a page on white, as large as fits, whatever the colours of the desktop. Tells of clicks, and what a mark means when
+/// the pointer rests on it.
 class PageView final : public QWidget {
  public:
-  /// `page` outlives the view, or `release` is called before it goes.
-  explicit PageView(framework::Page& page, QWidget* parent = nullptr);
+  /// `page` outlives the view, or `release` is called before it goes. `clicks` is shared by the pages of a window: a row of
+  /// clicks may lead from one to another.
+  PageView(framework::Page& page, ClickCounter& clicks, QWidget* parent = nullptr);
 
   /// Shows blank paper from now on.
   void release() { page_ = nullptr; }
@@ -20,11 +24,20 @@ class PageView final : public QWidget {
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override;
 
+  /// A press of the left button, in page coordinates, and its place in a row of presses.
+  std::function<void(framework::Point, int count)> onClick;
+
  protected:
+  bool event(QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override { mousePressEvent(event); }
 
  private:
+  framework::Point onPage(QPointF point) const;
+
   framework::Page* page_;
+  ClickCounter& clicks_;
 };
 
 }  // namespace nascor::qt

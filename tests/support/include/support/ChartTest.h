@@ -21,12 +21,20 @@ struct FakeChartDocument final : ChartDocument {
   std::vector<double> ages;  ///< menstrual age at each examination
   std::int64_t exam = 0;
   bool showsHilite = true;
+  std::int64_t weightFormula = 0;
+  std::int64_t fetus = 0;
   std::vector<double> clicks;
+  std::vector<std::int64_t> graphsShown;
+  NascorGraphView* bpdGraph = nullptr;
+  NascorGraphView* hcGraph = nullptr;
+  NascorGraphView* acGraph = nullptr;
+  NascorGraphView* flGraph = nullptr;
+  model::MeasurementsRecord projected;
 
   const model::PatientRecord* patientRecord() const override { return hasPatient ? &patient : nullptr; }
   std::int64_t standard() const override { return growthStandard; }
   const framework::PopUpButton& multiplePopUp() const override { return popUp; }
-  double menstrualAgeForRecord(std::uint64_t e) const override { return ages.at(e); }
+  double menstrualAgeForRecord(std::uint64_t e) const override { return e < ages.size() ? ages[e] : 0.0; }
   const model::MeasurementsRecord* measurementsForFetus(std::int64_t f, std::int64_t e) const override {
     const auto& records = patient.ncRecordsArray().at(static_cast<std::size_t>(e))->measurements();
     return static_cast<std::size_t>(f) < records.size() ? &records[static_cast<std::size_t>(f)] : nullptr;
@@ -34,6 +42,27 @@ struct FakeChartDocument final : ChartDocument {
   std::int64_t currentExam() const override { return exam; }
   bool shouldShowGraphHilite() const override { return showsHilite; }
   void setCurrentRecordFromClick(double weeks) override { clicks.push_back(weeks); }
+
+  const model::MeasurementsRecord* measurementsForCurrentFetus(std::int64_t e) const override {
+    return measurementsForFetus(fetus, e);
+  }
+  std::int64_t fetalWeightStandard() const override { return weightFormula; }
+  std::string menstrualAgeStringForRecord(std::uint64_t e) const override {
+    return "age " + std::to_string(e);
+  }
+  std::string menstrualAgeStringForGestation(double weeks) const override {
+    return std::to_string(static_cast<int>(weeks)) + " weeks";
+  }
+  double extrapolatedBPDForCurrentFetus() override { return projected.bpd(); }
+  double extrapolatedHCForCurrentFetus() override { return projected.hc(); }
+  double extrapolatedACForCurrentFetus() override { return projected.ac(); }
+  double extrapolatedFLForCurrentFetus() override { return projected.fl(); }
+  const model::MeasurementsRecord& extrapolatedMeasurements() const override { return projected; }
+  NascorGraphView* BPDGraph() const override { return bpdGraph; }
+  NascorGraphView* HCGraph() const override { return hcGraph; }
+  NascorGraphView* ACGraph() const override { return acGraph; }
+  NascorGraphView* FLGraph() const override { return flGraph; }
+  void switchToGraph(std::int64_t tabIndex) override { graphsShown.push_back(tabIndex); }
 
   void setFetuses(std::int64_t count) {
     patient.setNumberOfFetuses(count);

@@ -44,8 +44,12 @@ class RecordingCanvas final : public framework::Canvas {
     entry.point = at;
     entry.style = style;
   }
-  double textWidth(std::string_view text, const framework::TextStyle&) const override {
+  double textWidth(std::string_view text, const framework::TextStyle& style) const override {
     double width = 0.0;
+    if (const std::size_t tab = text.find('\t'); tab != std::string_view::npos) {
+      width = style.tabStop;
+      text.remove_prefix(tab + 1);
+    }
     for (const char byte : text) {
       if ((static_cast<unsigned char>(byte) & 0xC0) != 0x80) width += kCharacterWidth;
     }

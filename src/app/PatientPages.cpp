@@ -1,0 +1,116 @@
+#include "app/PatientPages.h"
+
+#include "charts/EFWGraphView.h"
+#include "charts/MeasurementCharts.h"
+#include "charts/SummaryCharts.h"
+
+namespace nascor::app {
+namespace {
+
+using framework::Rect;
+
+constexpr double kMargin = 10.0;
+constexpr double kTitleHeight = 30.0;
+constexpr double kStripHeight = 50.0;
+
+/// Under the chart, as far to the right and as wide as the chart's plotting area.
+Rect under(const Rect& chart, double height) {
+  return {.x = chart.x + 50.0, .y = chart.y + chart.height, .width = chart.width - 60.0, .height = height};
+}
+
+// A chart page: its title line, the chart, the axis strip under it.
+
+Rect chartPlacement(double width, double height) {
+  return {.x = kMargin,
+          .y = kTitleHeight,
+          .width = width - 2.0 * kMargin,
+          .height = height - kTitleHeight - kStripHeight - kMargin};
+}
+
+Rect stripPlacement(double width, double height) {
+  return under(chartPlacement(width, height), kStripHeight);
+}
+
+// The trends: two rows and two columns of charts, each with its caption above it; a strip under each column, with room for
+// its two titles below each other.
+
+constexpr double kCaptionHeight = 18.0;
+constexpr double kTrendsStripHeight = 62.0;
+constexpr std::size_t kRows = 2;
+
+Rect summaryPlacement(std::size_t row, std::size_t column, double width, double height) {
+  const double columnWidth = (width - 2.0 * kMargin) / 2.0;
+  const double rowHeight = (height - kTitleHeight - kTrendsStripHeight) / static_cast<double>(kRows);
+  return {.x = kMargin + static_cast<double>(column) * columnWidth,
+          .y = kTitleHeight + static_cast<double>(row) * rowHeight + kCaptionHeight,
+          .width = columnWidth,
+          .height = rowHeight - kCaptionHeight};
+}
+
+framework::Page::Placement summary(std::size_t row, std::size_t column) {
+  return [row, column](double width, double height) { return summaryPlacement(row, column, width, height); };
+}
+
+framework::Page::Placement captionOver(std::size_t row, std::size_t column) {
+  return [row, column](double width, double height) {
+    const Rect chart = summaryPlacement(row, column, width, height);
+    return Rect{.x = chart.x + 50.0,
+                .y = chart.y - kCaptionHeight + 4.0,
+                .width = chart.width - 60.0,
+                .height = 14.0};
+  };
+}
+
+framework::Page::Placement trendsStrip(std::size_t column) {
+  return [column](double width, double height) {
+    return under(summaryPlacement(kRows - 1, column, width, height), kTrendsStripHeight);
+  };
+}
+
+Rect wholePage(double width, double height) { return {.x = 0.0, .y = 0.0, .width = width, .height = height}; }
+
+}  // namespace
+
+template <class View>
+View& PatientPages::add() {
+  auto view = framework::make<View>(services_, {});
+  view->setOwningDocument(&document_);
+  View& added = *view;
+  views_.push_back(std::move(view));
+  return added;
+}
+
+template <class Summary>
+void PatientPages::addSummary(std::size_t row, std::size_t column) {
+  auto& chart = add<Summary>();
+  pages_.front().addCaption(chart.yTitle(), chart.facts().points, captionOver(row, column));
+  pages_.front().addView(chart, summary(row, column));
+}
+
+template <class Chart, class Strip>
+Chart& PatientPages::addChartPage(std::size_t page) {
+  auto& chart = add<Chart>();
+  pages_.at(page).addView(chart, chartPlacement);
+  pages_.at(page).addView(add<Strip>(), stripPlacement);
+  return chart;
+}
+
+PatientPages::PatientPages(const foundation::Services& services, charts::ChartDocument& document)
+    : services_(services), document_(document) {
+  addSummary<charts::BPDSummaryGraphView>(0, 0);
+  addSummary<charts::HeadCircumferenceSummaryGraphView>(0, 1);
+  addSummary<charts::AbdoCircumferenceSummaryGraphView>(1, 0);
+  addSummary<charts::FemurLengthSummaryGraphView>(1, 1);
+  for (const std::size_t column : {0U, 1U}) {
+    pages_.front().addView(add<charts::NoYaxisGraphView>(), trendsStrip(column));
+  }
+  bpdGraph_ = &addChartPage<charts::BPDGraphView, charts::NoYaxisGraphView>(1);
+  hcGraph_ = &addChartPage<charts::HeadCircumferenceGraphView, charts::NoYaxisGraphView>(2);
+  acGraph_ = &addChartPage<charts::AbdoCircumferenceGraphView, charts::NoYaxisGraphView>(3);
+  flGraph_ = &addChartPage<charts::FemurLengthGraphView, charts::NoYaxisGraphView>(4);
+  efwGraph_ = &addChartPage<charts::EFWGraphView, charts::NoYaxisEFWGraphView>(kWeightPage);
+  report_ = &add<charts::NascorDataView>();
+  pages_.at(kReportPage).addView(*report_, wholePage);
+}
+
+}  // namespace nascor::app

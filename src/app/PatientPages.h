@@ -1,0 +1,57 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <vector>
+
+#include "charts/ChartDocument.h"
+#include "charts/NascorDataView.h"
+#include "charts/NascorGraphView.h"
+#include "foundation/Services.h"
+#include "framework/MakeView.h"
+#include "framework/Page.h"
+
+namespace nascor::app {
+
+/// The pages of a document and the views on them: trends, a page for each measurement, weight, report.
+class PatientPages {
+ public:
+  /// The views belong to `document`, which outlives them.
+  PatientPages(const foundation::Services& services, charts::ChartDocument& document);
+
+  static constexpr std::size_t kNumberOfPages = 7;
+  static constexpr std::int64_t kWeightPage = 5;
+  static constexpr std::int64_t kReportPage = 6;
+
+  std::array<framework::Page, kNumberOfPages>& pages() { return pages_; }
+
+  charts::NascorGraphView* bpdGraph() const { return bpdGraph_; }
+  charts::NascorGraphView* hcGraph() const { return hcGraph_; }
+  charts::NascorGraphView* acGraph() const { return acGraph_; }
+  charts::NascorGraphView* flGraph() const { return flGraph_; }
+  charts::NascorGraphView& efwGraph() const { return *efwGraph_; }
+  charts::NascorDataView& report() const { return *report_; }
+
+ private:
+  template <class View>
+  View& add();
+  template <class Summary>
+  void addSummary(std::size_t row, std::size_t column);
+  template <class Chart, class Strip>
+  Chart& addChartPage(std::size_t page);
+
+  foundation::Services services_;
+  charts::ChartDocument& document_;
+  std::vector<framework::ViewOwner<charts::UpdatingGraphView>> views_;
+  charts::NascorGraphView* bpdGraph_ = nullptr;
+  charts::NascorGraphView* hcGraph_ = nullptr;
+  charts::NascorGraphView* acGraph_ = nullptr;
+  charts::NascorGraphView* flGraph_ = nullptr;
+  charts::NascorGraphView* efwGraph_ = nullptr;
+  charts::NascorDataView* report_ = nullptr;
+  std::array<framework::Page, kNumberOfPages> pages_{
+      framework::Page("Trends"), framework::Page("BPD"),    framework::Page("HC"),    framework::Page("AC"),
+      framework::Page("FL"),     framework::Page("Weight"), framework::Page("Report")};
+};
+
+}  // namespace nascor::app

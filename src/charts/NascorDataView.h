@@ -1,0 +1,53 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "charts/UpdatingGraphView.h"
+
+namespace nascor::charts {
+
+/// The tabular report of one fetus: who, when and how far on; a row for each examination; and, late in pregnancy, a row
+/// projected to the planned delivery. Everything is read from the document at each redraw.
+///
+/// y grows downward. Older examinations that do not fit are left out from the top; the view is drawn whole.
+class NascorDataView final : public UpdatingGraphView {
+ public:
+  using UpdatingGraphView::UpdatingGraphView;
+
+  std::string_view className() const override { return "NascorDataView"; }
+  bool isFlipped() const override { return true; }
+  /// The title names the weight formula of the document (of the user's preference while there is no document).
+  void resetStandards() override;
+
+  /// How many examinations the report lists in its present size.
+  std::int64_t examinationsShown() const;
+  /// The whole report as text, with all examinations: a line a row, its cells set apart by tabs.
+  std::string tabSeparatedText() const;
+
+ protected:
+  void drawRect(const framework::Rect& rect) override;
+  void drawReferenceTitle() override;
+  /// The report plots nothing.
+  framework::Rect offeredGraphRect() const override { return {}; }
+
+ private:
+  static constexpr std::size_t kColumns = 7;
+  using Cells = std::array<std::string, kColumns>;
+
+  bool projectionIsShown() const;
+  std::int64_t firstExaminationShown(double height) const;
+  std::vector<std::string> leftHeader() const;
+  std::vector<std::string> rightHeader() const;
+  Cells titles() const;
+  Cells examinationCells(std::int64_t exam) const;
+  Cells projectedCells() const;
+  std::string dateText(const std::optional<foundation::Date>& date) const;
+  std::string shortened(std::string identifierLine) const;
+  void drawRow(const Cells& cells, double y, framework::NamedColor color);
+};
+
+}  // namespace nascor::charts

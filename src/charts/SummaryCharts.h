@@ -1,0 +1,59 @@
+#pragma once
+
+#include "charts/MeasurementCharts.h"
+
+namespace nascor::charts {
+
+/// A chart as the trends page shows it: without vertical axis and frame. A double click in its band opens the chart's own
+/// page.
+template <class Chart, std::int64_t kOwnPage>
+class SummaryOf : public Chart {
+ public:
+  using Chart::Chart;
+
+ protected:
+  void drawYAxis() override {}
+  void switchToSingleGraphFromTrends() override {
+    if (this->owningDocument()) this->owningDocument()->switchToGraph(kOwnPage);
+  }
+};
+
+/// The one that keeps the legend, so that the page shows it once.
+class BPDSummaryGraphView final : public SummaryOf<BPDGraphView, 1> {
+ public:
+  using SummaryOf::SummaryOf;
+  std::string_view className() const override { return "BPDSummaryGraphView"; }
+  void initWithFrame(const framework::Rect& frame) override {
+    SummaryOf::initWithFrame(frame);
+    setMaxY(110.0);
+  }
+};
+
+class HeadCircumferenceSummaryGraphView final : public SummaryOf<HeadCircumferenceGraphView, 2> {
+ public:
+  using SummaryOf::SummaryOf;
+  std::string_view className() const override { return "HeadCircumferenceSummaryGraphView"; }
+
+ protected:
+  void drawLegend() override {}
+};
+
+class AbdoCircumferenceSummaryGraphView final : public SummaryOf<AbdoCircumferenceGraphView, 3> {
+ public:
+  using SummaryOf::SummaryOf;
+  std::string_view className() const override { return "AbdoCircumferenceSummaryGraphView"; }
+
+ protected:
+  void drawLegend() override {}
+};
+
+class FemurLengthSummaryGraphView final : public SummaryOf<FemurLengthGraphView, 4> {
+ public:
+  using SummaryOf::SummaryOf;
+  std::string_view className() const override { return "FemurLengthSummaryGraphView"; }
+
+ protected:
+  void drawLegend() override {}
+};
+
+}  // namespace nascor::charts

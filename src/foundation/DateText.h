@@ -1,0 +1,16 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "foundation/Calendar.h"
+#include "foundation/Date.h"
+#include "foundation/Localizer.h"
+
+namespace nascor::foundation {
+
+/// The local day of `date` in the user's short form; empty where there is no date, or none that has a text.
+std::string shortDateText(const std::optional<Date>& date, const Calendar& calendar,
+                          const Localizer& localizer);
+
+}  // namespace nascor::foundation

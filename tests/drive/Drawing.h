@@ -1,0 +1,17 @@
+#pragma once
+
+#include <nlohmann/json.hpp>
+
+#include "framework/Page.h"
+
+namespace nascor::drive {
+
+/// What `page` draws in `width` x `height` units, in painting order: first the page's own texts in page coordinates, then
+/// each view's class and rectangle, and what it draws in its own coordinates. Not clipped, and without what shows nothing:
+/// empty paths, and whatever has a coordinate that is not finite.
+nlohmann::ordered_json drawingOf(framework::Page& page, double width, double height);
+
+/// Shows the page on nothing, so that its views know where they lie.
+void layOutAndPaint(framework::Page& page);
+
+}  // namespace nascor::drive
