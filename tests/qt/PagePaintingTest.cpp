@@ -116,7 +116,8 @@ TEST_F(PagePainting, fillsThePaperAndNothingBesideIt) {
 }
 
 TEST_F(PagePainting, keepsThePagesShapeInAnyWidget) {
-  qt::PageView view(document.tabView().page(1));
+  qt::ClickCounter clicks;
+  qt::PageView view(document.tabView().page(1), clicks);
   view.resize(1000, 560);
   EXPECT_EQ(view.paper(), QRectF(100.0, 0.0, 800.0, 560.0));
   view.resize(400, 560);
@@ -127,7 +128,8 @@ TEST_F(PagePainting, isBlackOnWhiteOnADarkDesktopToo) {
   load(singleton());
   const QPalette before = QApplication::palette();
   QApplication::setPalette(QPalette(QColor(40, 40, 40)));
-  qt::PageView view(document.tabView().page(1));
+  qt::ClickCounter clicks;
+  qt::PageView view(document.tabView().page(1), clicks);
   view.resize(1000, 560);
   const QImage image = view.grab().toImage();
   QApplication::setPalette(before);
