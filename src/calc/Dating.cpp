@@ -35,34 +35,49 @@ std::string gestationText(double gestation, const Localizer& localizer) {
   return format(localizer, foundation::string_table::ncDocument, "%ldw %ldd", {weeks, days});
 }
 
+namespace {
+
+/// The lengths, in mm, that a formula dates; both belong to them.
+struct CRLRange {
+  double least;
+  double greatest;
+};
+constexpr CRLRange kHadlockCRL{.least = 2.0, .greatest = 120.0};
+constexpr CRLRange kNelsonCRL{.least = 6.7, .greatest = 82.4};
+constexpr CRLRange kRobinsonCRL{.least = 7.0, .greatest = 79.6};
+constexpr CRLRange kWesterwayCRL{.least = 2.0, .greatest = 87.0};
+
+}  // namespace
+
 double menstrualAgeFromCRLHadlock(double crl) {
   const double c = crl / 10.0;
-  if (!(c >= 0.2 && c <= 12.0)) return 0.0;
+  // Compared in centimetres: a length a hair outside in millimetres may lie inside.
+  if (!(c >= kHadlockCRL.least / 10.0 && c <= kHadlockCRL.greatest / 10.0)) return 0.0;
   return std::exp(1.684969 + 0.315646 * c - 0.049306 * std::pow(c, 2.0) + 0.004057 * std::pow(c, 3.0) -
                   0.000120456 * std::pow(c, 4.0));
 }
 
 double menstrualAgeFromCRLNelson(double crl) {
-  if (!(crl >= 6.7 && crl <= 82.4)) return 0.0;
+  if (!(crl >= kNelsonCRL.least && crl <= kNelsonCRL.greatest)) return 0.0;
   return (51.0008 + 0.6 * crl) / 7.0;
 }
 
 double menstrualAgeFromCRLRobinson(double crl) {
-  if (!(crl >= 7.0 && crl <= 79.6)) return 0.0;
+  if (!(crl >= kRobinsonCRL.least && crl <= kRobinsonCRL.greatest)) return 0.0;
   return (8.052 * std::sqrt(crl) + 23.72) / 7.0;
 }
 
 double menstrualAgeFromCRLWesterway(double crl) {
-  if (!(crl >= 2.0 && crl <= 87.0)) return 0.0;
+  if (!(crl >= kWesterwayCRL.least && crl <= kWesterwayCRL.greatest)) return 0.0;
   return 5.2876 + 0.1584 * crl - 0.0007 * std::pow(crl, 2.0);
 }
 
 std::span<const CRLFormula, 4> crlFormulas() {
   static constexpr std::array<CRLFormula, 4> kFormulas{{
-      {"Hadlock (1992)", menstrualAgeFromCRLHadlock},
-      {"Nelson (1981)", menstrualAgeFromCRLNelson},
-      {"Robinson (1975)", menstrualAgeFromCRLRobinson},
-      {"Westerway (2000)", menstrualAgeFromCRLWesterway},
+      {"Hadlock (1992)", menstrualAgeFromCRLHadlock, kHadlockCRL.least, kHadlockCRL.greatest},
+      {"Nelson (1981)", menstrualAgeFromCRLNelson, kNelsonCRL.least, kNelsonCRL.greatest},
+      {"Robinson (1975)", menstrualAgeFromCRLRobinson, kRobinsonCRL.least, kRobinsonCRL.greatest},
+      {"Westerway (2000)", menstrualAgeFromCRLWesterway, kWesterwayCRL.least, kWesterwayCRL.greatest},
   }};
   return kFormulas;
 }

@@ -41,6 +41,8 @@ double menstrualAgeFromCRLWesterway(double crl);  ///< 2.0 to 87.0 mm
 struct CRLFormula {
   std::string_view label;
   double (*menstrualAge)(double crl);
+  double least;     ///< mm; the shortest length that it dates
+  double greatest;  ///< mm; the longest
 };
 
 /// The four formulas; a formula's place is its identifier.

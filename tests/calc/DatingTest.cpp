@@ -151,13 +151,15 @@ struct Formula {
   double (*menstrualAge)(double crl);
   const char* label;
   double weeksAt45mm;  // to two decimals
+  double least;        // mm
+  double greatest;
 };
 
 constexpr Formula kFormulas[] = {
-    {0, menstrualAgeFromCRLHadlock, "Hadlock (1992)", 11.33},
-    {1, menstrualAgeFromCRLNelson, "Nelson (1981)", 11.14},
-    {2, menstrualAgeFromCRLRobinson, "Robinson (1975)", 11.10},
-    {3, menstrualAgeFromCRLWesterway, "Westerway (2000)", 11.00},
+    {0, menstrualAgeFromCRLHadlock, "Hadlock (1992)", 11.33, 2.0, 120.0},
+    {1, menstrualAgeFromCRLNelson, "Nelson (1981)", 11.14, 6.7, 82.4},
+    {2, menstrualAgeFromCRLRobinson, "Robinson (1975)", 11.10, 7.0, 79.6},
+    {3, menstrualAgeFromCRLWesterway, "Westerway (2000)", 11.00, 2.0, 87.0},
 };
 
 TEST(MenstrualAgeFromCRL, isThePublishedExpressionWithinTheRangeAndUnknownBesideIt) {
@@ -184,6 +186,12 @@ TEST(CRLFormulas, areKnownByTheirIdentifiersAndTitles) {
     EXPECT_EQ(known, &crlFormulas()[static_cast<std::size_t>(formula.identifier)]);
     EXPECT_EQ(known->label, formula.label);
     EXPECT_EQ(known->menstrualAge, formula.menstrualAge);
+    EXPECT_EQ(known->least, formula.least);
+    EXPECT_EQ(known->greatest, formula.greatest);
+    EXPECT_GT(formula.menstrualAge(formula.least), 0.0);
+    EXPECT_GT(formula.menstrualAge(formula.greatest), 0.0);
+    EXPECT_TRUE(isExactly(formula.menstrualAge(formula.least - 0.01), 0.0)) << formula.label;
+    EXPECT_TRUE(isExactly(formula.menstrualAge(formula.greatest + 0.01), 0.0)) << formula.label;
     EXPECT_EQ(crlStandardTitle(formula.identifier, kEnglish), "CRL Standard: " + std::string(formula.label));
     EXPECT_EQ(crlStandardTitle(formula.identifier, marked),
               "[NCDocument:CRL Standard: ]" + std::string(formula.label));
