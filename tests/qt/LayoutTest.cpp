@@ -72,6 +72,8 @@ class EveryWidget : public WindowTest, public testing::WithParamInterface<Look> 
       EXPECT_GE(edit->width(), edit->fontMetrics().horizontalAdvance(edit->text()) + 6);
     } else if (qobject_cast<const QPlainTextEdit*>(&shown)) {
       EXPECT_GE(shown.height(), 2 * shown.fontMetrics().lineSpacing());
+    } else if (const auto* label = qobject_cast<const QLabel*>(&shown); label && label->wordWrap()) {
+      EXPECT_GE(label->height(), label->heightForWidth(label->width()));
     } else {
       EXPECT_GE(shown.width(), shown.sizeHint().width());
       EXPECT_GE(shown.height(), shown.sizeHint().height());
@@ -165,6 +167,37 @@ TEST_P(EveryWidget, hasItsRoomAndCanBeRead) {
   walk(*panel);
   keep(*panel, "adjust-delivery");
   panel->close();
+}
+
+TEST_P(EveryWidget, ofTheDatingDialogsHasItsRoomAndCanBeRead) {
+  model::PatientRecord patient = twins();
+  patient.setEDD(std::nullopt);
+  qt::DocumentWindow& window = open(patient);
+  struct Dialog {
+    const char* action;
+    const char* panel;
+    const char* picture;
+  };
+  for (const Dialog& each :
+       {Dialog{"eddFromLMPAction", "lmpWindow", "edd-from-lmp"},
+        Dialog{"eddFromCRLAction", "crlWindow", "edd-from-crl"},
+        Dialog{"eddFromMeasurementsAction", "measurementsWindow", "edd-from-measurements"}}) {
+    SCOPED_TRACE(each.panel);
+    action(each.action).trigger();
+    auto* dialog = window.findChild<QDialog*>(QLatin1String(each.panel));
+    ASSERT_TRUE(dialog->isVisible());
+    settle();
+    walk(*dialog);
+    keep(*dialog, each.picture);
+    // What keeps OK from working, in its outline.
+    dialog->accept();
+    settle();
+    if (dialog->isVisible()) {
+      walk(*dialog);
+      keep(*dialog, (std::string(each.picture) + "-refused").c_str());
+    }
+    dialog->close();
+  }
 }
 
 INSTANTIATE_TEST_SUITE_P(looks, EveryWidget,

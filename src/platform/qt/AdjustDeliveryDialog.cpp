@@ -4,6 +4,7 @@
 #include <QPushButton>
 #include <QSignalBlocker>
 #include <cmath>
+#include <utility>
 
 #include "foundation/Localizer.h"
 #include "qt/FieldBinding.h"
@@ -16,79 +17,45 @@ namespace {
 
 QString said(const char* sentence) { return QCoreApplication::translate("AdjustDelivery", sentence); }
 
-framework::TextField* fieldNamed(app::NCDocument& document, const QWidget& widget) {
-  for (framework::TextField* field : document.textFields()) {
-    if (fromUtf8(field->name()) == widget.objectName()) return field;
-  }
-  return nullptr;
-}
-
 }  // namespace
 
 AdjustDeliveryDialog::AdjustDeliveryDialog(app::NCDocument& document, const foundation::Services& services,
                                            Perform perform, QWidget* parent)
-    : QDialog(parent),
+    : PanelDialog(document, std::move(perform), parent),
       services_(services),
-      perform_(std::move(perform)),
-      ui_(std::make_unique<Ui::AdjustDelivery>()),
-      document_(&document) {
+      ui_(std::make_unique<Ui::AdjustDelivery>()) {
   ui_->setupUi(this);
   ui_->buttonBox->button(QDialogButtonBox::Close)->setAutoDefault(false);
   const int room = fontMetrics().horizontalAdvance(longestDateText());
   ui_->adjustEDDLongForm->setMinimumWidth(room);
   ui_->adjustDeliverOnLongForm->setMinimumWidth(room);
   for (QLineEdit* edit : {ui_->adjustEDDField, ui_->adjustDeliverOnField, ui_->adjustDeliverAtField}) {
-    if (framework::TextField* field = fieldNamed(document, *edit)) {
-      bindReadOnly(*edit, *field);
-      connect(edit, &QLineEdit::textChanged, this, [this] { refresh(); });
-    }
+    bindReadOnly(*edit, fieldFor(*edit));
+    connect(edit, &QLineEdit::textChanged, this, [this] { refresh(); });
   }
   document.adjustDeliveryStepper().onChange = [this] { refresh(); };
   connect(ui_->adjustDeliveryStepper, &QSpinBox::valueChanged, this, [this](int days) {
-    perform_([days](app::NCDocument& planned) {
+    this->perform([days](app::NCDocument& planned) {
       planned.adjustDeliveryStepper().setValue(days);
       planned.adjustDeliveryDate(nullptr);
     });
     refresh();
   });
-  for (framework::Panel* panel : document.panels()) {
-    if (fromUtf8(panel->name()) == objectName()) panel_ = panel;
-  }
-  if (panel_) {
-    panel_->onChange = [this] { showPanel(); };
-    panel_->onCenter = [this] {
-      adjustSize();
-      if (const QWidget* window = parentWidget())
-        move(window->geometry().center() - QRect(QPoint(), size()).center());
-    };
-  }
+  bindPanel();
   refresh();
 }
 
 AdjustDeliveryDialog::~AdjustDeliveryDialog() = default;
 
-void AdjustDeliveryDialog::release() {
-  if (!document_) return;
-  for (const QLineEdit* edit : {ui_->adjustEDDField, ui_->adjustDeliverOnField, ui_->adjustDeliverAtField}) {
-    if (framework::TextField* field = fieldNamed(*document_, *edit)) field->onChange = nullptr;
-  }
-  document_->adjustDeliveryStepper().onChange = nullptr;
-  if (panel_) {
-    panel_->onChange = nullptr;
-    panel_->onCenter = nullptr;
-  }
-  panel_ = nullptr;
-  document_ = nullptr;
-}
-
-void AdjustDeliveryDialog::done(int result) {
-  QDialog::done(result);
-  if (panel_ && panel_->isShown()) panel_->close();
+void AdjustDeliveryDialog::releaseControls() {
+  for (const QLineEdit* edit : {ui_->adjustEDDField, ui_->adjustDeliverOnField, ui_->adjustDeliverAtField})
+    fieldFor(*edit).onChange = nullptr;
+  document()->adjustDeliveryStepper().onChange = nullptr;
 }
 
 void AdjustDeliveryDialog::refresh() {
-  if (!document_) return;
-  const framework::Stepper& stepper = document_->adjustDeliveryStepper();
+  if (!document()) return;
+  const framework::Stepper& stepper = document()->adjustDeliveryStepper();
   QSpinBox& spin = *ui_->adjustDeliveryStepper;
   const QSignalBlocker quiet(&spin);
   spin.setRange(static_cast<int>(std::lround(stepper.minimum())),
@@ -104,16 +71,6 @@ void AdjustDeliveryDialog::refresh() {
   ui_->adjustDeliverOnLongForm->setText(longDateText(ui_->adjustDeliverOnField->text(), form));
 }
 
-void AdjustDeliveryDialog::showPanel() {
-  if (!panel_->isShown()) {
-    hide();
-    return;
-  }
-  refresh();
-  show();
-  raise();
-  activateWindow();
-  ui_->adjustDeliveryStepper->setFocus();
-}
+void AdjustDeliveryDialog::focusFirst() { ui_->adjustDeliveryStepper->setFocus(); }
 
 }  // namespace nascor::qt

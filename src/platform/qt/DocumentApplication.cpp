@@ -1,6 +1,6 @@
 #include "qt/DocumentApplication.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QFile>
 #include <QMetaObject>
 #include <algorithm>
@@ -20,6 +20,12 @@ DocumentApplication::DocumentApplication(const foundation::Services& services)
       controller_(services, documents_),
       recentFiles_(services.defaults) {
   alerts_.frontWindow = [this] { return frontWindow(); };
+  alerts_.windowOfPanel = [this](const framework::Panel& panel) -> QWidget* {
+    for (const auto& [document, window] : windows_) {
+      if (QWidget* dialog = window->windowOfPanel(panel)) return dialog;
+    }
+    return nullptr;
+  };
   panels_.frontWindow = [this] { return frontWindow(); };
   documents_.setFactory([this] {
     return std::make_unique<app::NCDocument>(
@@ -172,7 +178,11 @@ void DocumentApplication::removeWindow(ZuDocument& document) {
 
 void DocumentApplication::bringToFront(const ZuDocument& document) const {
   DocumentWindow* window = windowOf(document);
-  if (!window || window->isActiveWindow()) return;
+  if (!window) return;
+  // A dialog of the window is as good as the window itself.
+  for (const QWidget* active = QApplication::activeWindow(); active; active = active->parentWidget()) {
+    if (active == window) return;
+  }
   if (window->isMinimized()) window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
   window->show();
   window->raise();

@@ -25,6 +25,7 @@
 #include "foundation/UserDefaults.h"
 #include "qt/AdjustDeliveryDialog.h"
 #include "qt/Application.h"
+#include "qt/DatingDialogs.h"
 #include "qt/FieldBinding.h"
 #include "qt/LongDate.h"
 #include "qt/Mnemonics.h"
@@ -84,8 +85,7 @@ DocumentWindow::DocumentWindow(NCDocument& document, WindowEnvironment environme
   bindFields();
   bindPopUp();
   bindActions();
-  adjustDelivery_ = new AdjustDeliveryDialog(
-      document, environment_.services, [this](const DocumentAction& action) { perform(action); }, this);
+  bindDialogs();
 
   foundation::NotificationCenter& notifications = environment_.services.notifications;
   subscriptions_.push_back(notifications.subscribe(foundation::NotificationName::updateStandards,
@@ -126,8 +126,8 @@ void DocumentWindow::release() {
   if (!document_) return;
   keepGeometry();
   for (FieldBinding* binding : bindings_) binding->release();
-  adjustDelivery_->release();
-  adjustDelivery_->hide();
+  dropSheets(*this);
+  for (PanelDialog* dialog : dialogs_) dialog->release();
   document_->ageField().onChange = nullptr;
   document_->notesField().onChange = nullptr;
   document_->multiplePopUp().onChange = nullptr;
@@ -164,7 +164,12 @@ void DocumentWindow::focusFieldInEdit() {
     FieldEdit& edit = binding->edit();
     // The click or the key that began the action may yet move the focus.
     QMetaObject::invokeMethod(
-        &edit, [&edit] { edit.setFocus(); }, Qt::QueuedConnection);
+        &edit,
+        [&edit] {
+          edit.window()->activateWindow();
+          edit.setFocus();
+        },
+        Qt::QueuedConnection);
   }
 }
 
@@ -268,6 +273,10 @@ void DocumentWindow::bindActions() {
   bind(ui_->deleteExaminationAction, [](NCDocument& document) { document.deleteExaminationAction(); });
   bind(ui_->addFetusAction, [](NCDocument& document) { document.addFetus(nullptr); });
   bind(ui_->deleteFetusAction, [](NCDocument& document) { document.deleteFetus(nullptr); });
+  bind(ui_->eddFromLMPAction, [](NCDocument& document) { document.doSetEDDfromLMP(nullptr); });
+  bind(ui_->eddFromCRLAction, [](NCDocument& document) { document.doSetEDDfromCRL(nullptr); });
+  bind(ui_->eddFromMeasurementsAction,
+       [](NCDocument& document) { document.doSetEDDfromMeasurements(nullptr); });
   bind(ui_->adjustDeliveryAction,
        [this](NCDocument&) { environment_.application.doAdjustDeliveryDate(&environment_.application); });
   bind(ui_->showAllAction, [this](NCDocument&) {
@@ -296,6 +305,26 @@ void DocumentWindow::bindActions() {
   bindEditActions();
   bindStandardsMenus();
   connect(ui_->aboutAction, &QAction::triggered, this, [this] { showAbout(); });
+}
+
+void DocumentWindow::bindDialogs() {
+  const PanelDialog::Perform perform = [this](const DocumentAction& action) { this->perform(action); };
+  dialogs_.push_back(new AdjustDeliveryDialog(*document_, environment_.services, perform, this));
+  const auto add = [this](DatingDialog* dialog) {
+    dialogs_.push_back(dialog);
+    bindings_.insert(bindings_.end(), dialog->bindings().begin(), dialog->bindings().end());
+  };
+  Actions& actions = environment_.actions;
+  add(new EDDFromLMPDialog(*document_, environment_.services, actions, perform, this));
+  add(new EDDFromCRLDialog(*document_, environment_.services, actions, perform, this));
+  add(new EDDFromMeasurementsDialog(*document_, environment_.services, actions, perform, this));
+}
+
+QWidget* DocumentWindow::windowOfPanel(const framework::Panel& panel) const {
+  if (!document_) return nullptr;
+  const auto panels = document_->panels();
+  if (std::ranges::find(panels, &panel) == panels.end()) return nullptr;
+  return findChild<QDialog*>(fromUtf8(panel.name()));
 }
 
 void DocumentWindow::bindFileActions() {

@@ -25,10 +25,10 @@ class MyDocument;
 
 namespace nascor::qt {
 
-class AdjustDeliveryDialog;
 class FieldBinding;
 class FieldEdit;
 class PageView;
+class PanelDialog;
 
 /// What a window asks of the application around it.
 struct WindowEnvironment {
@@ -57,6 +57,8 @@ class DocumentWindow final : public QMainWindow {
   bool hasDialog() const;
   /// The next window opens in this one's place.
   void keepGeometry() const;
+  /// The dialog that shows `panel`; null for a panel of another document.
+  QWidget* windowOfPanel(const framework::Panel& panel) const;
 
   /// Lets go of the document, which is closed, and goes away itself.
   void release();
@@ -79,6 +81,7 @@ class DocumentWindow final : public QMainWindow {
   void bindFileActions();
   void bindEditActions();
   void bindStandardsMenus();
+  void bindDialogs();
   void showRecentFiles();
   void describeFields();
 
@@ -107,7 +110,7 @@ class DocumentWindow final : public QMainWindow {
   QLabel* refusalLabel_ = nullptr;
   QLabel* growthLabel_ = nullptr;
   QLabel* weightLabel_ = nullptr;
-  AdjustDeliveryDialog* adjustDelivery_ = nullptr;
+  std::vector<PanelDialog*> dialogs_;
   QString notedPath_;
   std::vector<foundation::NotificationCenter::Subscription> subscriptions_;
 };

@@ -13,14 +13,17 @@ void show(QLineEdit& edit, const QString& text) {
   edit.setCursorPosition(0);
 }
 
-QPalette withTextColor(const QLineEdit& edit, bool isRed) {
+void showColor(QLineEdit& edit, bool isRed) {
+  constexpr const char* kIsRed = "isRed";
+  if (edit.property(kIsRed).toBool() == isRed) return;
+  edit.setProperty(kIsRed, isRed);
   QPalette palette = edit.palette();
   if (isRed) {
     palette.setColor(QPalette::Text, refusalColor(palette));
   } else {
     palette.setColor(QPalette::Text, palette.color(QPalette::WindowText));
   }
-  return palette;
+  edit.setPalette(palette);
 }
 
 }  // namespace
@@ -55,10 +58,7 @@ void FieldBinding::refresh() {
   if (!field_ || isBeginning_) return;
   show(edit_, fromUtf8(isInEdit() ? editor_.text() : field_->text()));
   edit_.setRefusing(isInEdit() && editor_.isRefusing());
-  if (field_->isRed() != edit_.property("isRed").toBool()) {
-    edit_.setProperty("isRed", field_->isRed());
-    edit_.setPalette(withTextColor(edit_, field_->isRed()));
-  }
+  showColor(edit_, field_->isRed());
 }
 
 void FieldBinding::typed(const QString& text) {
@@ -101,11 +101,18 @@ bool FieldBinding::escape() {
   return true;
 }
 
-void bindReadOnly(QLineEdit& edit, framework::TextField& field) {
+void letWindowThrough(QLineEdit& edit) {
   QPalette palette = edit.palette();
   palette.setBrush(QPalette::Base, Qt::transparent);
   edit.setPalette(palette);
-  field.onChange = [&edit, &field] { show(edit, fromUtf8(field.text())); };
+}
+
+void bindReadOnly(QLineEdit& edit, framework::TextField& field) {
+  letWindowThrough(edit);
+  field.onChange = [&edit, &field] {
+    show(edit, fromUtf8(field.text()));
+    showColor(edit, field.isRed());
+  };
   field.onChange();
 }
 

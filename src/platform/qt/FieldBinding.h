@@ -43,6 +43,9 @@ class FieldBinding final : public QObject {
   bool isBeginning_ = false;
 };
 
+/// Shows the window behind a line that takes no typing.
+void letWindowThrough(QLineEdit& edit);
+
 /// A line that shows a field and takes no typing.
 void bindReadOnly(QLineEdit& edit, framework::TextField& field);
 

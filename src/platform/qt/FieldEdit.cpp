@@ -9,13 +9,21 @@
 namespace nascor::qt {
 
 QColor refusalColor(const QPalette& palette) {
-  const bool isDark = palette.color(QPalette::Base).lightness() < 128;
+  // A field that is only read lets the window through.
+  const QColor base = palette.color(QPalette::Base);
+  const bool isDark = (base.alpha() > 0 ? base : palette.color(QPalette::Window)).lightness() < 128;
   return isDark ? QColor(0xff, 0x8a, 0x80) : QColor(0xb7, 0x1c, 0x1c);
 }
 
 void FieldEdit::setRefusing(bool refusing) {
   if (isRefusing_ == refusing) return;
   isRefusing_ = refusing;
+  update();
+}
+
+void FieldEdit::setObstacle(bool obstacle) {
+  if (isObstacle_ == obstacle) return;
+  isObstacle_ = obstacle;
   update();
 }
 
@@ -63,7 +71,7 @@ void FieldEdit::dragEnterEvent(QDragEnterEvent* event) {
 
 void FieldEdit::paintEvent(QPaintEvent* event) {
   QLineEdit::paintEvent(event);
-  if (!isRefusing_) return;
+  if (!isRefusing_ && !isObstacle_) return;
   constexpr qreal kWidth = 2.0;
   QPainter painter(this);
   painter.setPen(QPen(refusalColor(palette()), kWidth));

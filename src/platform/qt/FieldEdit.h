@@ -13,6 +13,9 @@ class FieldEdit final : public QLineEdit {
   /// Outlines the field, or not.
   void setRefusing(bool refusing);
   bool isRefusing() const { return isRefusing_; }
+  /// Outlines the field because something cannot be done with what it holds, or not.
+  void setObstacle(bool obstacle);
+  bool isObstacle() const { return isObstacle_; }
   /// Room for a date at least.
   QSize minimumSizeHint() const override;
 
@@ -29,6 +32,7 @@ class FieldEdit final : public QLineEdit {
 
  private:
   bool isRefusing_ = false;
+  bool isObstacle_ = false;
 };
 
 /// The colour of the outline on this palette: at least 3:1 against the field and the window.

@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QMessageBox>
 #include <QPushButton>
+#include <algorithm>
 
 #include "qt/Text.h"
 
@@ -48,7 +49,8 @@ AlertReturn QtAlerts::runModal(const Alert& alert) {
 }
 
 void QtAlerts::beginSheet(const Alert& alert, std::function<void(AlertReturn)> didEnd) {
-  auto* box = new QMessageBox(parent());
+  QWidget* window = alert.window && windowOfPanel ? windowOfPanel(*alert.window) : nullptr;
+  auto* box = new QMessageBox(window ? window : parent());
   box->setObjectName(kSheetName);
   box->setAttribute(Qt::WA_DeleteOnClose);
   setUp(*box, alert);
@@ -91,8 +93,16 @@ void QtAlerts::tell(const std::string& message, const std::string& information) 
 }
 
 bool hasSheet(const QWidget& window) {
-  const auto* box = window.findChild<QMessageBox*>(kSheetName, Qt::FindDirectChildrenOnly);
-  return box != nullptr && box->isVisible();
+  return std::ranges::any_of(window.findChildren<QMessageBox*>(kSheetName),
+                             [](const QMessageBox* box) { return box->isVisible(); });
+}
+
+void dropSheets(const QWidget& window) {
+  for (QMessageBox* box : window.findChildren<QMessageBox*>(kSheetName)) {
+    box->disconnect();
+    box->hide();
+    box->deleteLater();
+  }
 }
 
 }  // namespace nascor::qt

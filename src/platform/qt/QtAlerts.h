@@ -22,13 +22,17 @@ class QtAlerts final : public framework::Alerts {
 
   /// The window in front; set by whoever makes windows. May return null.
   std::function<QWidget*()> frontWindow;
+  /// The window of a panel; set likewise. May return null.
+  std::function<QWidget*(const framework::Panel&)> windowOfPanel;
 
  private:
   QWidget* parent() const { return frontWindow ? frontWindow() : nullptr; }
   Actions& actions_;
 };
 
-/// Whether a sheet is open on `window`.
+/// Whether a sheet is open on `window` or on a dialog of it.
 bool hasSheet(const QWidget& window);
+/// Takes the sheets of `window` and its dialogs away, unanswered.
+void dropSheets(const QWidget& window);
 
 }  // namespace nascor::qt

@@ -1,0 +1,300 @@
+#include "qt/DatingDialogs.h"
+
+#include <QCheckBox>
+#include <QCoreApplication>
+#include <QLabel>
+#include <QPushButton>
+#include <QSignalBlocker>
+#include <array>
+#include <utility>
+
+#include "calc/Dating.h"
+#include "foundation/Localizer.h"
+#include "foundation/ShortDate.h"
+#include "qt/FieldBinding.h"
+#include "qt/FieldEdit.h"
+#include "qt/LongDate.h"
+#include "qt/Text.h"
+#include "ui_EDDFromCRL.h"
+#include "ui_EDDFromLMP.h"
+#include "ui_EDDFromMeasurements.h"
+
+namespace nascor::qt {
+
+using app::NCDocument;
+
+namespace {
+
+QString said(const char* sentence) { return QCoreApplication::translate("DatingDialogs", sentence); }
+
+/// `hint` behind a field is part of what is said of it.
+void describe(FieldEdit& edit, const QString& what, const QString& hint) {
+  edit.setToolTip(said("%1, %2").arg(what, hint));
+  edit.setAccessibleDescription(edit.toolTip());
+}
+
+}  // namespace
+
+DatingDialog::DatingDialog(NCDocument& document, const foundation::Services& services, Actions& actions,
+                           Perform perform, QWidget* parent)
+    : PanelDialog(document, std::move(perform), parent), services_(services), actions_(actions) {}
+
+void DatingDialog::bindField(FieldEdit& edit) {
+  bindings_.push_back(new FieldBinding(edit, fieldFor(edit), document()->fieldEditor(), actions_));
+  // Escape closes the dialog, which gives the old text back as well.
+  edit.onEscape = nullptr;
+  connect(&edit, &QLineEdit::textChanged, this, [this] { forgetObstacles(); });
+}
+
+void DatingDialog::bindDate(FieldEdit& edit, QLabel& form, QLabel& longForm) {
+  const foundation::ShortDateForm shortForm = services_.localizer.shortDateForm();
+  const QString example = fromUtf8(foundation::shortDateText({2027, 3, 24}, shortForm));
+  form.setText(said("such as %1").arg(example));
+  describe(edit, edit.toolTip(), said("for example %1").arg(example));
+  longForm.setMinimumWidth(fontMetrics().horizontalAdvance(longestDateText()));
+  const auto showLongForm = [&edit, &longForm, shortForm] {
+    const QString text = edit.text().trimmed();
+    const QString inWords = longDateText(text, shortForm);
+    longForm.setText(!inWords.isEmpty() || text.isEmpty() ? inWords : said("no date"));
+  };
+  connect(&edit, &QLineEdit::textChanged, this, showLongForm);
+  bindField(edit);
+  showLongForm();
+}
+
+void DatingDialog::releaseControls() {
+  for (FieldBinding* binding : bindings_) binding->release();
+}
+
+void DatingDialog::accept() {
+  // Not for a field that refuses its text: that one is outlined by itself.
+  perform([this](NCDocument& document) {
+    setEDD(document);
+    if (isPanelShown()) outline(proposal(document).obstacles);
+  });
+}
+
+FieldEdit* DatingDialog::editFor(const framework::TextField& obstacle) const {
+  // Not findChild<FieldEdit*>: a class without Q_OBJECT is not told from its base there.
+  return dynamic_cast<FieldEdit*>(findChild<QLineEdit*>(fromUtf8(obstacle.name())));
+}
+
+void DatingDialog::outline(const std::vector<const framework::TextField*>& obstacles) {
+  forgetObstacles();
+  FieldEdit* first = nullptr;
+  for (const framework::TextField* obstacle : obstacles) {
+    FieldEdit* edit = editFor(*obstacle);
+    if (!edit) continue;
+    edit->setObstacle(true);
+    edit->setAccessibleDescription(said("Keeps the EDD from being set. %1").arg(edit->toolTip()));
+    if (!first) first = edit;
+  }
+  if (!first) return;
+  first->setFocus();
+  if (!first->isReadOnly()) first->selectAll();
+}
+
+void DatingDialog::forgetObstacles() {
+  for (QLineEdit* line : findChildren<QLineEdit*>()) {
+    auto* edit = dynamic_cast<FieldEdit*>(line);
+    if (!edit || !edit->isObstacle()) continue;
+    edit->setObstacle(false);
+    edit->setAccessibleDescription(edit->toolTip());
+  }
+}
+
+EDDFromCRLDialog::EDDFromCRLDialog(NCDocument& document, const foundation::Services& services,
+                                   Actions& actions, Perform perform, QWidget* parent)
+    : DatingDialog(document, services, actions, std::move(perform), parent),
+      ui_(std::make_unique<Ui::EDDFromCRL>()) {
+  ui_->setupUi(this);
+  bindDate(*ui_->crlWindowDate, *ui_->crlWindowDateForm, *ui_->crlWindowDateLongForm);
+  bindField(*ui_->crlWindowCRL);
+  framework::TextField& formula = fieldFor(*ui_->crlStandardReference);
+  bindReadOnly(*ui_->crlStandardReference, formula);
+  formula.onChange = [this, show = formula.onChange] {
+    show();
+    refresh();
+  };
+  bindPanel();
+  refresh();
+}
+
+EDDFromCRLDialog::~EDDFromCRLDialog() = default;
+
+void EDDFromCRLDialog::refresh() {
+  if (!document()) return;
+  forgetObstacles();
+  const model::PatientRecord* patient = document()->patientRecord();
+  const calc::CRLFormula* formula = patient ? calc::crlFormula(patient->crlStandard()) : nullptr;
+  const QString what = said("Crown-rump length");
+  if (!formula) {
+    ui_->crlWindowCRLHint->setText(said("mm"));
+    describe(*ui_->crlWindowCRL, what, said("mm"));
+    return;
+  }
+  const auto number = [this](double value) {
+    return QString::number(value).replace(u'.', QLatin1Char(services().localizer.decimalSign()));
+  };
+  const QString least = number(formula->least);
+  const QString greatest = number(formula->greatest);
+  ui_->crlWindowCRLHint->setText(said("mm (%1\u2013%2)").arg(least, greatest));
+  describe(*ui_->crlWindowCRL, what, said("%1 to %2 mm").arg(least, greatest));
+}
+
+void EDDFromCRLDialog::focusFirst() {
+  FieldEdit* first = ui_->crlWindowDate->text().isEmpty() ? ui_->crlWindowDate : ui_->crlWindowCRL;
+  first->setFocus();
+  first->selectAll();
+}
+
+void EDDFromCRLDialog::releaseControls() {
+  DatingDialog::releaseControls();
+  fieldFor(*ui_->crlStandardReference).onChange = nullptr;
+}
+
+void EDDFromCRLDialog::setEDD(NCDocument& document) { document.okSetEDDfromCRL(nullptr); }
+
+NCDocument::ProposedEDD EDDFromCRLDialog::proposal(const NCDocument& document) const {
+  return document.eddFromCRL();
+}
+
+EDDFromLMPDialog::EDDFromLMPDialog(NCDocument& document, const foundation::Services& services,
+                                   Actions& actions, Perform perform, QWidget* parent)
+    : DatingDialog(document, services, actions, std::move(perform), parent),
+      ui_(std::make_unique<Ui::EDDFromLMP>()) {
+  ui_->setupUi(this);
+  bindDate(*ui_->lmpWindowLMP, *ui_->lmpWindowLMPForm, *ui_->lmpWindowLMPLongForm);
+  bindField(*ui_->lmpWindowCycleField);
+  bindField(*ui_->lmpWindowLutealField);
+  bindPanel();
+}
+
+EDDFromLMPDialog::~EDDFromLMPDialog() = default;
+
+void EDDFromLMPDialog::refresh() { forgetObstacles(); }
+
+void EDDFromLMPDialog::focusFirst() {
+  ui_->lmpWindowLMP->setFocus();
+  ui_->lmpWindowLMP->selectAll();
+}
+
+void EDDFromLMPDialog::setEDD(NCDocument& document) { document.okSetEDDfromLMP(nullptr); }
+
+NCDocument::ProposedEDD EDDFromLMPDialog::proposal(const NCDocument& document) const {
+  return document.eddFromLMP();
+}
+
+/// One measurement of the dialog.
+struct EDDFromMeasurementsDialog::Row {
+  QCheckBox& check;
+  QLabel& value;
+  QLineEdit& gestation;
+  QLabel& sign;
+  const framework::NumberField& length;
+};
+
+std::vector<EDDFromMeasurementsDialog::Row> EDDFromMeasurementsDialog::rows() const {
+  const Ui::EDDFromMeasurements& ui = *ui_;
+  NCDocument& shown = *document();
+  return {{*ui.measurementsWindowBPDCheck, *ui.measurementsWindowBPDValue, *ui.measurementsWindowBPDGestation,
+           *ui.measurementsWindowBPDSign, shown.bpdField()},
+          {*ui.measurementsWindowHCCheck, *ui.measurementsWindowHCValue, *ui.measurementsWindowHCGestation,
+           *ui.measurementsWindowHCSign, shown.hcField()},
+          {*ui.measurementsWindowACCheck, *ui.measurementsWindowACValue, *ui.measurementsWindowACGestation,
+           *ui.measurementsWindowACSign, shown.acField()},
+          {*ui.measurementsWindowFLCheck, *ui.measurementsWindowFLValue, *ui.measurementsWindowFLGestation,
+           *ui.measurementsWindowFLSign, shown.flField()}};
+}
+
+EDDFromMeasurementsDialog::EDDFromMeasurementsDialog(NCDocument& document,
+                                                     const foundation::Services& services, Actions& actions,
+                                                     Perform perform, QWidget* parent)
+    : DatingDialog(document, services, actions, std::move(perform), parent),
+      ui_(std::make_unique<Ui::EDDFromMeasurements>()) {
+  ui_->setupUi(this);
+  letWindowThrough(*ui_->measurementsWindowExamination);
+  const auto boxes = document.checkBoxes();
+  for (const Row& row : rows()) {
+    bindReadOnly(row.gestation, fieldFor(row.gestation));
+    for (framework::CheckBox* box : boxes) {
+      if (fromUtf8(box->name()) != row.check.objectName()) continue;
+      box->onChange = [this] { refresh(); };
+      connect(&row.check, &QCheckBox::clicked, this, [this, box](bool on) {
+        this->perform([box, on](NCDocument& checked) {
+          box->setOn(on);
+          checked.updateEDDfromMeasurements(nullptr);
+        });
+        refresh();
+      });
+    }
+  }
+  // The average is shown last, when all the others are as they are to be.
+  framework::TextField& average = fieldFor(*ui_->measurementsWindowAvGestation);
+  bindReadOnly(*ui_->measurementsWindowAvGestation, average);
+  average.onChange = [this, show = average.onChange] {
+    show();
+    refresh();
+  };
+  bindPanel();
+  refresh();
+}
+
+EDDFromMeasurementsDialog::~EDDFromMeasurementsDialog() = default;
+
+void EDDFromMeasurementsDialog::refresh() {
+  if (!document()) return;
+  forgetObstacles();
+  const auto boxes = document()->checkBoxes();
+  std::size_t i = 0;
+  for (const Row& row : rows()) {
+    const QSignalBlocker quiet(&row.check);
+    row.check.setChecked(boxes[i++]->isOn());
+    row.value.setText(said("%1 mm").arg(fromUtf8(row.length.text())));
+    // Never by colour alone.
+    QString sign;
+    QString description = row.gestation.toolTip();
+    if (fieldFor(row.gestation).isRed()) {
+      const bool isMeasured = row.length.doubleValue() != 0.0;
+      sign = isMeasured ? said("! beyond 2 SD") : said("! not measured");
+      description = (isMeasured ? said("More than 2 standard deviations from the mean at the average. %1")
+                                : said("Not measured. %1"))
+                        .arg(description);
+    }
+    row.sign.setText(sign);
+    row.gestation.setAccessibleDescription(description);
+  }
+  const NCDocument& shown = *document();
+  const QString inWords =
+      longDateText(fromUtf8(shown.examDateField().text()), services().localizer.shortDateForm());
+  const QString place = fromUtf8(foundation::format(services().localizer, "MyDocument", "%ld of %ld",
+                                                    {shown.currentExam() + 1, shown.numberOfExaminations()}));
+  const auto& popUp = shown.multiplePopUp();
+  const auto fetus = static_cast<std::size_t>(std::max<std::int64_t>(popUp.indexOfSelectedItem(), 0));
+  const QString title = fetus < popUp.items().size() ? fromUtf8(popUp.items().at(fetus).title) : QString();
+  ui_->measurementsWindowExamination->setText(
+      said("%1, %2, %3").arg(place, inWords.isEmpty() ? said("no date") : inWords, title));
+  ui_->measurementsWindowExamination->setCursorPosition(0);
+}
+
+void EDDFromMeasurementsDialog::focusFirst() { ui_->measurementsWindowBPDCheck->setFocus(); }
+
+void EDDFromMeasurementsDialog::releaseControls() {
+  DatingDialog::releaseControls();
+  for (const Row& row : rows()) fieldFor(row.gestation).onChange = nullptr;
+  fieldFor(*ui_->measurementsWindowAvGestation).onChange = nullptr;
+  for (framework::CheckBox* box : document()->checkBoxes()) box->onChange = nullptr;
+}
+
+void EDDFromMeasurementsDialog::setEDD(NCDocument& document) { document.okSetEDDfromMeasurements(nullptr); }
+
+NCDocument::ProposedEDD EDDFromMeasurementsDialog::proposal(const NCDocument& document) const {
+  return document.eddFromMeasurements();
+}
+
+// What stands in the way is the date of the examination, which is a field of the window.
+FieldEdit* EDDFromMeasurementsDialog::editFor(const framework::TextField&) const {
+  return ui_->measurementsWindowExamination;
+}
+
+}  // namespace nascor::qt

@@ -1,0 +1,64 @@
+#include "qt/PanelDialog.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "foundation/Assertion.h"
+#include "qt/Text.h"
+
+namespace nascor::qt {
+
+PanelDialog::PanelDialog(app::NCDocument& document, Perform perform, QWidget* parent)
+    : QDialog(parent), document_(&document), perform_(std::move(perform)) {}
+
+void PanelDialog::bindPanel() {
+  title_ = windowTitle();
+  for (framework::Panel* panel : document_->panels()) {
+    if (fromUtf8(panel->name()) == objectName()) panel_ = panel;
+  }
+  foundation::required(panel_);
+  panel_->onChange = [this] { showPanel(); };
+  panel_->onCenter = [this] {
+    adjustSize();
+    if (const QWidget* window = parentWidget())
+      move(window->geometry().center() - QRect(QPoint(), size()).center());
+  };
+}
+
+void PanelDialog::release() {
+  if (!document_) return;
+  releaseControls();
+  panel_->onChange = nullptr;
+  panel_->onCenter = nullptr;
+  panel_ = nullptr;
+  document_ = nullptr;
+  hide();
+}
+
+void PanelDialog::done(int result) {
+  QDialog::done(result);
+  if (isPanelShown()) document_->cancelDialog(*panel_);
+}
+
+framework::TextField& PanelDialog::fieldFor(const QWidget& widget) const {
+  const auto fields = document_->textFields();
+  const auto found = std::ranges::find(fields, toUtf8(widget.objectName()), &framework::TextField::name);
+  return *foundation::required(found != fields.end() ? *found : nullptr);
+}
+
+void PanelDialog::showPanel() {
+  if (!panel_->isShown()) {
+    hide();
+    return;
+  }
+  // Where several patients are open, a dialog of the wrong one must not be taken for the right one's.
+  const QString patient = fromUtf8(document_->preferredFileName(false));
+  setWindowTitle(patient.isEmpty() ? title_ : title_ + QStringLiteral(" \u2013 ") + patient);
+  refresh();
+  show();
+  raise();
+  activateWindow();
+  focusFirst();
+}
+
+}  // namespace nascor::qt

@@ -1,0 +1,55 @@
+#pragma once
+
+#include <QDialog>
+#include <functional>
+
+#include "app/NCDocument.h"
+
+class QLabel;
+class QLineEdit;
+
+namespace nascor::qt {
+
+/// A window beside the document's own, bound to one of its panels: shown and hidden by the document. Closing it, by
+/// whatever key or button, cancels it.
+class PanelDialog : public QDialog {
+ public:
+  /// Does something with the document between two other actions, or does not.
+  using Perform = std::function<void(const std::function<void(app::NCDocument&)>&)>;
+
+  ~PanelDialog() override = default;
+
+  /// Ends the binding: the document goes.
+  void release();
+  void done(int result) override;
+
+ protected:
+  PanelDialog(app::NCDocument& document, Perform perform, QWidget* parent);
+
+  /// Binds the dialog to the panel of its own name; it has been set up.
+  void bindPanel();
+  /// Null once the document is gone.
+  app::NCDocument* document() const { return document_; }
+  void perform(const std::function<void(app::NCDocument&)>& action) { perform_(action); }
+  /// Whether the document has it open.
+  bool isPanelShown() const { return panel_ != nullptr && panel_->isShown(); }
+  /// The document's field of that widget's name.
+  framework::TextField& fieldFor(const QWidget& widget) const;
+
+  /// Shows what nothing shows by itself.
+  virtual void refresh() = 0;
+  /// Puts the focus where work begins.
+  virtual void focusFirst() = 0;
+  /// Leaves all controls of the document to themselves.
+  virtual void releaseControls() = 0;
+
+ private:
+  void showPanel();
+
+  app::NCDocument* document_;
+  QString title_;
+  Perform perform_;
+  framework::Panel* panel_ = nullptr;
+};
+
+}  // namespace nascor::qt
