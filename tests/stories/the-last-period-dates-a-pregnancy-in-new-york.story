@@ -41,10 +41,21 @@ The same from a day of spring, and from one of autumn.
 {"state":true}
 =~ {"fields":{"birthDateField":"7/8/27"},"document":{"eddISO":"2027-07-08T00:00:00"}}
 
+From one day of June to a day before the spring, and from November to August.
+
+{"edit":["lmpWindowLMP","6/10/25"]}
+{"do":["okSetEDDfromLMP"]}
+{"state":true}
+=~ {"fields":{"birthDateField":"3/17/26"},"document":{"eddISO":"2026-03-17T00:00:00"}}
+{"edit":["lmpWindowLMP","11/20/26"]}
+{"do":["okSetEDDfromLMP"]}
+{"state":true}
+=~ {"fields":{"birthDateField":"8/27/27"},"document":{"eddISO":"2027-08-27T00:00:00"}}
+
 Saved and opened again it is the same day.
 
 {"save":"a.nascor"}
 {"close":"discard"}
 {"open":"a.nascor"}
 {"state":true}
-=~ {"fields":{"birthDateField":"7/8/27"},"document":{"eddISO":"2027-07-08T00:00:00"}}
+=~ {"fields":{"birthDateField":"8/27/27"},"document":{"eddISO":"2027-08-27T00:00:00"}}
