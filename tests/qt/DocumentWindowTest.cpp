@@ -1,6 +1,8 @@
 #include "qt/DocumentWindow.h"
 
 #include <QAccessible>
+#include <QClipboard>
+#include <QDialog>
 #include <QMenu>
 #include <QMenuBar>
 #include <QSpinBox>
@@ -444,6 +446,35 @@ TEST_F(TheDocumentWindow, saysInItsAboutBoxThatItIsNoMedicalDevice) {
   EXPECT_THAT(text, testing::HasSubstr("0.1.0"));
   EXPECT_THAT(text, testing::HasSubstr("LGPL"));
   EXPECT_THAT(text, testing::HasSubstr("D-Bus"));
+}
+
+TEST_F(TheDocumentWindow, namesThePublicationsOfItsStandardsAndFormulas) {
+  open(singleton());
+  QDialog* dialog = nullptr;
+  for (int i = 0; i < 2; ++i) {  // the second time it is there already
+    action("referencesAction").trigger();
+    const auto dialogs = front().findChildren<QDialog*>(QStringLiteral("referencesDialog"));
+    ASSERT_EQ(dialogs.size(), 1);
+    dialog = dialogs.first();
+    EXPECT_TRUE(dialog->isVisible());
+    EXPECT_FALSE(dialog->isModal()) << "it may stay beside the charts";
+  }
+  QTest::mouseClick(dialog->findChild<QPushButton*>(QStringLiteral("copyReferencesButton")), Qt::LeftButton);
+  const std::string copied = QApplication::clipboard()->text().toStdString();
+  std::size_t at = 0;
+  // In the order of the menus.
+  for (const char* menu : {"standardsMenu", "fetalWeightMenu", "crownRumpLengthMenu"}) {
+    for (const QAction* item : widget<QMenu>(menu).actions()) {
+      const std::string label = item->text().remove(u'&').toStdString();
+      at = copied.find("\n" + label + "\n", at);
+      ASSERT_NE(at, std::string::npos) << label;
+    }
+  }
+  EXPECT_THAT(copied, testing::HasSubstr("doi:10.1016/0002-9378(85)90298-4"));
+  EXPECT_THAT(copied, testing::HasSubstr("Citation to be confirmed."));
+  EXPECT_THAT(copied, testing::HasSubstr("no centiles"));
+  QTest::keyClick(dialog, Qt::Key_Escape);
+  EXPECT_FALSE(dialog->isVisible());
 }
 
 TEST_F(TheDocumentWindow, keepsItsPlaceOnTheScreenApartFromTheClinicalPreferences) {

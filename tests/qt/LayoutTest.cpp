@@ -167,6 +167,52 @@ TEST_P(EveryWidget, hasItsRoomAndCanBeRead) {
   walk(*panel);
   keep(*panel, "adjust-delivery");
   panel->close();
+
+  action("referencesAction").trigger();
+  auto* references = window.findChild<QDialog*>(QStringLiteral("referencesDialog"));
+  ASSERT_TRUE(references->isVisible());
+  settle();
+  walk(*references);
+  keep(*references, "references");
+  references->close();
+}
+
+TEST_P(EveryWidget, ofAMessageBoxHasItsRoomAndCanBeRead) {
+  open(twins());
+  click("addExaminationButton");
+  enter("bpdField", "44");
+  answersQuestions(false);
+  /// Looks at the box that opens while `action` runs, and answers it by the button of that name, or by Escape.
+  const auto lookAt = [this](const char* what, const std::function<void()>& ask) {
+    SCOPED_TRACE(what);
+    bool wasSeen = false;
+    const auto look = [&] {
+      auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+      if (!box || wasSeen) return;
+      wasSeen = true;
+      settle();
+      walk(*box);
+      keep(*box, what);
+      EXPECT_LE(box->width(), 800);
+      EXPECT_LE(box->height(), 600);
+      QTest::keyClick(box, Qt::Key_Escape);
+    };
+    QTimer timer;
+    QObject::connect(&timer, &QTimer::timeout, look);
+    timer.start(1);
+    ask();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return wasSeen; }));
+    settle();
+    front();
+  };
+  lookAt("about", [&] { action("aboutAction").trigger(); });
+  lookAt("gravidity", [&] { type("gravidaField", "3"); });
+  lookAt("edd", [&] { type("birthDateField", "3"); });
+  lookAt("fetus", [&] { click("deleteFetusButton"); });
+  lookAt("examination", [&] { click("deleteExaminationButton"); });
+  lookAt("revert", [&] { action("revertAction").trigger(); });
+  lookAt("unreadable", [&] { application.openFiles({folder.filePath(QStringLiteral("gone.nascor"))}); });
+  lookAt("close", [&] { front().close(); });
 }
 
 TEST_P(EveryWidget, ofTheDatingDialogsHasItsRoomAndCanBeRead) {

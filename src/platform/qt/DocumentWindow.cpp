@@ -32,6 +32,7 @@
 #include "qt/PageView.h"
 #include "qt/Puff.h"
 #include "qt/QtAlerts.h"
+#include "qt/ReferencesDialog.h"
 #include "qt/Text.h"
 #include "ui_MyDocument.h"
 
@@ -304,6 +305,12 @@ void DocumentWindow::bindActions() {
   bindFileActions();
   bindEditActions();
   bindStandardsMenus();
+  connect(ui_->referencesAction, &QAction::triggered, this, [this] {
+    if (!references_) references_ = new ReferencesDialog(environment_.services.localizer, this);
+    references_->show();
+    references_->raise();
+    references_->activateWindow();
+  });
   connect(ui_->aboutAction, &QAction::triggered, this, [this] { showAbout(); });
 }
 

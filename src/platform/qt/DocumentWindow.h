@@ -29,6 +29,7 @@ class FieldBinding;
 class FieldEdit;
 class PageView;
 class PanelDialog;
+class ReferencesDialog;
 
 /// What a window asks of the application around it.
 struct WindowEnvironment {
@@ -111,6 +112,7 @@ class DocumentWindow final : public QMainWindow {
   QLabel* growthLabel_ = nullptr;
   QLabel* weightLabel_ = nullptr;
   std::vector<PanelDialog*> dialogs_;
+  ReferencesDialog* references_ = nullptr;
   QString notedPath_;
   std::vector<foundation::NotificationCenter::Subscription> subscriptions_;
 };

@@ -1,0 +1,94 @@
+#include "qt/ReferencesDialog.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QCoreApplication>
+#include <QDialogButtonBox>
+#include <QPushButton>
+#include <QTextBrowser>
+#include <QVBoxLayout>
+#include <array>
+#include <vector>
+
+#include "calc/Publications.h"
+#include "qt/Text.h"
+
+namespace nascor::qt {
+
+using calc::Confirmation;
+using calc::Publication;
+namespace string_table = foundation::string_table;
+
+namespace {
+
+constexpr std::string_view kTable = "References";
+
+QString said(const char* sentence) { return QCoreApplication::translate("References", sentence); }
+
+QString paragraph(const Publication& publication, const foundation::Localizer& localizer) {
+  QString text =
+      QStringLiteral("<p><b>%1</b><br>%2.")
+          .arg(fromUtf8(publication.label).toHtmlEscaped(), fromUtf8(publication.citation).toHtmlEscaped());
+  QStringList remarks;
+  if (publication.confirmation == Confirmation::partlySeen) remarks << said("Citation partly confirmed.");
+  if (publication.confirmation == Confirmation::awaited) remarks << said("Citation to be confirmed.");
+  if (!publication.remark.empty()) remarks << fromUtf8(localizer.text(kTable, publication.remark));
+  if (!remarks.isEmpty()) {
+    text += QStringLiteral("<br><i>");
+    text += remarks.join(u' ').toHtmlEscaped();
+    text += QStringLiteral("</i>");
+  }
+  return text + QStringLiteral("</p>");
+}
+
+}  // namespace
+
+QString referencesText(const foundation::Localizer& localizer) {
+  struct Family {
+    const char* title;
+    std::vector<Publication> publications;
+    std::string_view remark;
+  };
+  QString text;
+  for (const Family& family :
+       {Family{"Standards", calc::growthStandardPublications(), {}},
+        Family{"Estimated Fetal Weight", calc::weightFormulaPublications(), calc::weightBandRemark()},
+        Family{"Crown Rump Length", calc::crlFormulaPublications(), {}}}) {
+    text += QStringLiteral("<h2>%1</h2>")
+                .arg(fromUtf8(localizer.text(string_table::ncAppController, family.title)).toHtmlEscaped());
+    if (!family.remark.empty()) {
+      text +=
+          QStringLiteral("<p>%1</p>").arg(fromUtf8(localizer.text(kTable, family.remark)).toHtmlEscaped());
+    }
+    for (const Publication& publication : family.publications) text += paragraph(publication, localizer);
+  }
+  return text;
+}
+
+ReferencesDialog::ReferencesDialog(const foundation::Localizer& localizer, QWidget* parent)
+    : QDialog(parent), text_(new QTextBrowser) {
+  setObjectName(QStringLiteral("referencesDialog"));
+  setWindowTitle(said("References"));
+  text_->setObjectName(QStringLiteral("referencesText"));
+  text_->setAccessibleName(said("References"));
+  text_->setHtml(referencesText(localizer));
+  // By the keyboard too.
+  text_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+
+  auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close);
+  QPushButton* copy = buttons->addButton(said("&Copy All"), QDialogButtonBox::ActionRole);
+  copy->setObjectName(QStringLiteral("copyReferencesButton"));
+  copy->setAutoDefault(false);
+  buttons->button(QDialogButtonBox::Close)->setDefault(true);
+  connect(copy, &QPushButton::clicked, this,
+          [this] { QApplication::clipboard()->setText(text_->toPlainText()); });
+  connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+
+  auto* layout = new QVBoxLayout(this);
+  layout->addWidget(text_);
+  layout->addWidget(buttons);
+  const QFontMetrics metrics = fontMetrics();
+  resize(metrics.averageCharWidth() * 90, metrics.lineSpacing() * 32);
+}
+
+}  // namespace nascor::qt

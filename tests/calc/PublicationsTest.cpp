@@ -1,0 +1,80 @@
+#include "calc/Publications.h"
+
+#include <gmock/gmock.h>
+
+#include <fstream>
+#include <iterator>
+#include <string>
+
+#include "calc/Dating.h"
+#include "calc/FetalWeight.h"
+#include "calc/Standards.h"
+
+namespace nascor::calc {
+namespace {
+
+using testing::HasSubstr;
+using testing::StartsWith;
+
+std::vector<Publication> all() {
+  std::vector<Publication> publications = growthStandardPublications();
+  for (const auto& family : {weightFormulaPublications(), crlFormulaPublications()})
+    publications.insert(publications.end(), family.begin(), family.end());
+  return publications;
+}
+
+TEST(Publications, standInTheOrderOfTheTables) {
+  const auto standards = growthStandardPublications();
+  ASSERT_EQ(standards.size(), 4U);
+  for (std::size_t i = 0; i < 4; ++i) EXPECT_EQ(standards[i].label, growthStandards()[i].label);
+  const auto weights = weightFormulaPublications();
+  ASSERT_EQ(weights.size(), 8U);
+  for (std::size_t i = 0; i < 8; ++i) EXPECT_EQ(weights[i].label, weightFormulas()[i].longLabel);
+  const auto lengths = crlFormulaPublications();
+  ASSERT_EQ(lengths.size(), 4U);
+  for (std::size_t i = 0; i < 4; ++i) EXPECT_EQ(lengths[i].label, crlFormulas()[i].label);
+}
+
+TEST(Publications, areThoseThatTheLabelsName) {
+  for (const Publication& publication : all()) {
+    const std::string label(publication.label);
+    const std::string citation(publication.citation);
+    const std::string name = label.substr(0, label.find(' '));
+    if (name == "CFEF") {
+      EXPECT_THAT(citation, HasSubstr("(CFEF)"));
+    } else {
+      EXPECT_THAT(citation, StartsWith(name + " "));
+    }
+    // A year in the label is that of the publication; the society took its standards over a year later.
+    const std::size_t year = label.find_first_of("12", label.find('('));
+    if (label.ends_with(")") && label.size() >= 6 && label.find('/') == std::string::npos &&
+        year != std::string::npos) {
+      const std::string wanted = name == "Westerway" ? "2000" : label.substr(label.size() - 5, 4);
+      EXPECT_THAT(citation, HasSubstr(" " + wanted + ";")) << label;
+    }
+  }
+}
+
+TEST(Publications, saySoWhereTheyAreToBeConfirmed) {
+  EXPECT_EQ(growthStandardPublications()[1].confirmation, Confirmation::seen);
+  EXPECT_EQ(growthStandardPublications()[2].confirmation, Confirmation::awaited);
+  EXPECT_EQ(weightFormulaPublications()[5].confirmation, Confirmation::partlySeen);
+  EXPECT_EQ(weightFormulaPublications()[6].confirmation, Confirmation::awaited);
+  EXPECT_EQ(crlFormulaPublications()[1].confirmation, Confirmation::partlySeen);
+}
+
+TEST(Publications, standWordByWordOnThePageOfTheSources) {
+  std::ifstream file(NASCOR_DOCS "/sources.md");
+  const std::string page{std::istreambuf_iterator<char>(file), {}};
+  for (const Publication& publication : all()) {
+    EXPECT_THAT(page, HasSubstr(std::string(publication.citation))) << publication.label;
+    EXPECT_THAT(page, HasSubstr(std::string(publication.label)));
+  }
+}
+
+TEST(Publications, tellWhatTheBandOfTheWeightChartIs) {
+  EXPECT_THAT(std::string(weightBandRemark()), HasSubstr("no centiles"));
+}
+
+}  // namespace
+}  // namespace nascor::calc
