@@ -225,9 +225,7 @@ TEST_F(OnAnXServer, takesANewPatientsTwinsAndGivesThemBackToTheNextProcess) {
   type(QStringLiteral("900"));
   press({"Tab"});
   keep("new-7-refused.png");
-  press({"Escape", "ctrl+q"});
-  focus(windowTitled(QStringLiteral("^Nascor$")));
-  press({"Tab", "space"});  // Discard
+  press({"Escape", "ctrl+q"});  // taken back, so nothing is asked
   endsWell();
   EXPECT_EQ(readFile(path).ncRecordsArray().at(2)->measurements().at(1).bpd(), 0.0);
 }
