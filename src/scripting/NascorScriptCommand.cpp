@@ -26,9 +26,8 @@ ScriptValue NascorScriptCommand::performDefaultImplementation() {
   }
   if (name == "export to file") {
     log_.write(name);
-    auto* document =
-        foundation::required(dynamic_cast<app::NCDocument*>(documents_.currentDocument()), kNoDocument);
-    static_cast<void>(document);
+    auto* document = dynamic_cast<app::NCDocument*>(documents_.currentDocument());
+    failure_ = foundation::required(document, kNoDocument)->doExport(nullptr);
   }
   return {};
 }

@@ -43,10 +43,13 @@ class NascorScriptCommand final : public ScriptCommand {
 
   /// Always none. Throws AssertionFailure without description or name, and when there is no document to export.
   ScriptValue performDefaultImplementation() override;
+  /// Why the page was not exported, a sentence; nothing when it was, or when nothing was to be.
+  const std::optional<std::string>& failure() const { return failure_; }
 
  private:
   framework::DocumentController& documents_;
   foundation::Log& log_;
+  std::optional<std::string> failure_;
 };
 
 }  // namespace nascor::scripting

@@ -64,5 +64,30 @@ TEST_F(ACommand, toExportNeedsADocument) {
   EXPECT_THAT(platform.log.lines, ElementsAre("export to file"));
 }
 
+TEST_F(ACommand, toExportWritesThePageOnShowOfTheDocumentInFront) {
+  perform("make new document");
+  perform("make new document");
+  auto& front = dynamic_cast<app::NCDocument&>(*platform.documents.currentDocument());
+  front.switchToGraph(2);
+  NascorScriptCommand command(ScriptCommandDescription{"export to file"}, platform.documents, platform.log);
+  EXPECT_EQ(command.performDefaultImplementation(), ScriptValue());
+  EXPECT_EQ(command.failure(), std::nullopt);
+  ASSERT_EQ(platform.pageWriter.written.size(), 1U);
+  EXPECT_THAT(platform.pageWriter.written[0].path, testing::EndsWith("/Untitled - HC.pdf"));
+  EXPECT_THAT(platform.log.lines, ElementsAre("make new document", "make new document", "export to file"));
+}
+
+TEST_F(ACommand, toExportSaysWhyItWasNotDoneAndAsksNobody) {
+  perform("make new document");
+  auto& front = dynamic_cast<app::NCDocument&>(*platform.documents.currentDocument());
+  front.fieldEditor().begin(front.bpdField());
+  front.fieldEditor().replace("900");
+  NascorScriptCommand command(ScriptCommandDescription{"export to file"}, platform.documents, platform.log);
+  EXPECT_EQ(command.performDefaultImplementation(), ScriptValue());
+  EXPECT_THAT(command.failure().value_or(""), testing::HasSubstr("not permitted"));
+  EXPECT_THAT(platform.alerts.told, IsEmpty());
+  EXPECT_THAT(platform.pageWriter.written, IsEmpty());
+}
+
 }  // namespace
 }  // namespace nascor::scripting
