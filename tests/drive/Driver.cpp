@@ -401,6 +401,13 @@ Json Driver::save(const Json& target) {
   } else {
     refuse("the document has no file yet");
   }
+  // As in the application: two windows on one file would overwrite each other's patient.
+  for (const framework::ZuDocument* open : documents_.documents()) {
+    if (open != &saved && open->filePath() &&
+        services_.files.resolvedPath(*open->filePath()) == services_.files.resolvedPath(path)) {
+      refuse(path + ": It is open in another window.");
+    }
+  }
   if (const auto error = saved.writeToFile(path)) refuse(path + ": " + error->reason);
   return {{"saved", true}};
 }
