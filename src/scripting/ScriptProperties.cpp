@@ -96,6 +96,15 @@ bool isOfKind(const ScriptValue& value, ValueKind kind, const Calendar& calendar
          (text && (text->empty() || dateOf(value, calendar)));
 }
 
+}  // namespace
+
+std::span<const ScriptProperty> scriptProperties() { return kProperties; }
+
+const ScriptProperty* scriptProperty(std::string_view key) {
+  const auto* found = std::ranges::find(kProperties, key, &ScriptProperty::key);
+  return found == kProperties.end() ? nullptr : found;
+}
+
 std::string expectation(const ScriptProperty& property) {
   std::string sentence = std::string(property.key) + ": expected ";
   switch (property.kind) {
@@ -106,15 +115,6 @@ std::string expectation(const ScriptProperty& property) {
   }
   if (!property.unit.empty()) sentence.append(" (").append(property.unit).append(")");
   return sentence;
-}
-
-}  // namespace
-
-std::span<const ScriptProperty> scriptProperties() { return kProperties; }
-
-const ScriptProperty* scriptProperty(std::string_view key) {
-  const auto* found = std::ranges::find(kProperties, key, &ScriptProperty::key);
-  return found == kProperties.end() ? nullptr : found;
 }
 
 ScriptValue readProperty(const ScriptProperty& property, NCDocumentScripting& document,

@@ -2,6 +2,7 @@
 
 #include <span>
 #include <stdexcept>
+#include <string>
 #include <string_view>
 
 #include "foundation/Calendar.h"
@@ -39,6 +40,9 @@ class WrongKind : public std::invalid_argument {
  public:
   using std::invalid_argument::invalid_argument;
 };
+
+/// What a value must be, in words: the text of WrongKind.
+std::string expectation(const ScriptProperty& property);
 
 ScriptValue readProperty(const ScriptProperty& property, NCDocumentScripting& document,
                          const foundation::Calendar& calendar);

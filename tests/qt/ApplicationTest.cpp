@@ -64,7 +64,7 @@ TEST(AnExceptionInAnEvent, doesNotStopTheEventLoop) {
 }
 
 TEST(TheApplicationItself, isKnownToTheDesktopByItsEntry) {
-  EXPECT_EQ(QGuiApplication::desktopFileName(), QStringLiteral("nascor"));
+  EXPECT_EQ(QGuiApplication::desktopFileName(), QStringLiteral("org.nascor.Nascor"));
 }
 
 TEST(TheApplicationItself, asksWhoeverEndsItWhenTheSessionWantsItGone) {

@@ -11,9 +11,11 @@
 #include <QTest>
 #include <cstdio>
 
+#include "Caller.h"
 #include "Pixels.h"
 #include "Run.h"
 #include "Sample.h"
+#include "SessionBus.h"
 
 namespace nascor::tests {
 namespace {
@@ -258,26 +260,6 @@ TEST_F(OnAnXServer, asksBeforeAnEDDIsChangedAndBeforeEditsAreLost) {
             (foundation::CivilDay{2027, 4, 11}));
 }
 
-/// A bus of the test's own, which ends with it.
-class SessionBus {
- public:
-  SessionBus() {
-    bus_.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    bus_.start(QStringLiteral("dbus-daemon"), {"--session", "--nofork", "--print-address"});
-    while (!bus_.canReadLine() && bus_.waitForReadyRead(kPatience)) {
-    }
-    qputenv("DBUS_SESSION_BUS_ADDRESS", bus_.readLine().trimmed());
-  }
-  ~SessionBus() {
-    qunsetenv("DBUS_SESSION_BUS_ADDRESS");
-    bus_.terminate();
-    bus_.waitForFinished(kPatience);
-  }
-
- private:
-  QProcess bus_;
-};
-
 TEST_F(OnAnXServer, handsTheFilesOfASecondStartToTheOneThatRuns) {
   const SessionBus bus;
   ASSERT_FALSE(qEnvironmentVariableIsEmpty("DBUS_SESSION_BUS_ADDRESS"));
@@ -323,6 +305,63 @@ TEST_F(OnAnXServer, refusesWhatIsNoFileOfThisMachineOnTheBus) {
     EXPECT_EQ(call("Activate", {QVariantMap()}), "");
   }
   QDBusConnection::disconnectFromBus(name);
+}
+
+TEST_F(OnAnXServer, tellsAScriptThatItsDocumentIsClosed) {
+  const SessionBus bus;
+  start({});
+  focus(windowTitled(QStringLiteral("^Untitled")));
+  Caller script;
+  const QString path = folder.filePath(QStringLiteral("second.nascor"));
+  writeFile(path, documentBytes(twins()));
+  EXPECT_EQ(Caller::pathIn(script.application("open", {path})), documentPath(2).toStdString());
+  const QString second = windowTitled(QStringLiteral("^second.nascor"));
+  EXPECT_EQ(Caller::pathIn(script.application("currentDocument")), documentPath(2).toStdString());
+
+  focus(windowTitled(QStringLiteral("^Untitled")));
+  press({"ctrl+w"});
+  ASSERT_TRUE(QTest::qWaitFor([&] { return script.documents().size() == 1; }, kPatience));
+  const QDBusMessage answer = script.getting(documentPath(1), "bpd");
+  EXPECT_EQ(answer.errorName(), QStringLiteral("org.freedesktop.DBus.Error.UnknownObject"));
+  EXPECT_EQ(answer.errorMessage(), QStringLiteral("Get: document 1 is closed"));
+  EXPECT_EQ(script.set(documentPath(1), "bpd", 45.0).errorName(), answer.errorName());
+
+  // The other one keeps its number, and a new one gets another.
+  EXPECT_EQ(script.documents(), std::vector{documentPath(2).toStdString()});
+  EXPECT_EQ(script.get(documentPath(2), "examDate"), QStringLiteral("2026-12-19"));
+  EXPECT_EQ(script.application("perform", {QStringLiteral("make new document")}).errorName(), QString());
+  EXPECT_EQ(script.documents(), (std::vector{documentPath(2).toStdString(), documentPath(3).toStdString()}));
+  focus(second);
+  press({"ctrl+q"});
+  endsWell();
+}
+
+TEST_F(OnAnXServer, tellsAScriptThatTheUserIsAskedInsteadOfLettingItWait) {
+  const SessionBus bus;
+  const QDir home(folder.path());
+  ASSERT_TRUE(home.mkpath(QStringLiteral("Documents")));
+  writeFile(home.filePath(QStringLiteral("Documents/AB-123 (G2).nascor")), documentBytes(singleton()));
+  QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+  environment.insert("HOME", folder.path());
+  nascor.setProcessEnvironment(environment);
+  start({});
+  focus(windowTitled(QStringLiteral("^Untitled")));
+  type(QStringLiteral("ab-123"));
+  press({"Tab"});
+  type(QStringLiteral("2"));
+  // The export takes the gravidity in, and with it the patient is known: is her document to be opened?
+  Caller script;
+  ASSERT_TRUE(QTest::qWaitFor(
+      [&] {
+        return script.application("perform", {QStringLiteral("export to file")}).errorName() ==
+               QStringLiteral("org.nascor.Error.Asking");
+      },
+      kPatience));
+  focus(windowTitled(QStringLiteral("^Nascor$")));
+  EXPECT_EQ(script.documents().size(), 1U);  // answered meanwhile
+  press({"Escape"});
+  ASSERT_TRUE(
+      QTest::qWaitFor([&] { return script.get(documentPath(1), "gravida") == QVariant(2LL); }, kPatience));
 }
 
 TEST_F(OnAnXServer, standsAloneWithoutABus) {

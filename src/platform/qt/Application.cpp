@@ -46,7 +46,7 @@ Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
   setApplicationName(QStringLiteral("Nascor"));
   setApplicationDisplayName(QStringLiteral("Nascor"));
   setApplicationVersion(programVersion());
-  setDesktopFileName(QStringLiteral("nascor"));
+  setDesktopFileName(QStringLiteral("org.nascor.Nascor"));
 }
 
 bool Application::notify(QObject* receiver, QEvent* event) {

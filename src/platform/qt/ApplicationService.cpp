@@ -4,16 +4,13 @@
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>
 #include <QFileInfo>
-#include <QHash>
-#include <QMetaObject>
 #include <QUrl>
 #include <QVariantMap>
-#include <optional>
+#include <string>
 
 namespace nascor::qt {
 namespace {
 
-const QString kInterface = QStringLiteral("org.freedesktop.Application");
 constexpr int kPatience = 10'000;  // milliseconds that the one that runs has for its answer
 
 /// Whether somebody has started a bus. Asking the library would start one, which nobody else would be on.
@@ -23,34 +20,23 @@ bool hasSessionBus() {
   return !folder.isEmpty() && QFileInfo::exists(folder + QStringLiteral("/bus"));
 }
 
-/// Nothing when one of them is no file of this machine.
-std::optional<QStringList> localPaths(const QStringList& uris) {
-  QStringList paths;
-  for (const QString& uri : uris) {
-    const QUrl url(uri, QUrl::StrictMode);
-    if (!url.isLocalFile()) return std::nullopt;
-    paths << url.toLocalFile();
-  }
-  return paths;
-}
-
 }  // namespace
 
 ApplicationService::Start ApplicationService::start(const QStringList& paths) {
-  if (!hasSessionBus()) return Start::alone;
+  if (!hasSessionBus()) return alone("there is no session bus");
   QDBusConnection bus = QDBusConnection::sessionBus();
-  if (!bus.isConnected()) return Start::alone;
+  if (!bus.isConnected()) return alone("the session bus does not answer");
   // The object first: whoever sees the name may call at once.
-  bus.registerVirtualObject(QLatin1String(kPath), this);
+  bus.registerVirtualObject(QLatin1String(BusObjects::kPath), this, QDBusConnection::SubPath);
   const auto registered =
       bus.interface()->registerService(QLatin1String(kName), QDBusConnectionInterface::DontQueueService,
                                        QDBusConnectionInterface::DontAllowReplacement);
   if (registered.isValid() && registered.value() == QDBusConnectionInterface::ServiceRegistered)
     return Start::first;
 
-  bus.unregisterObject(QLatin1String(kPath));
+  bus.unregisterObject(QLatin1String(BusObjects::kPath), QDBusConnection::UnregisterTree);
   QDBusMessage call = QDBusMessage::createMethodCall(
-      QLatin1String(kName), QLatin1String(kPath), kInterface,
+      QLatin1String(kName), QLatin1String(BusObjects::kPath), QStringLiteral("org.freedesktop.Application"),
       paths.isEmpty() ? QStringLiteral("ActivateAction") : QStringLiteral("Open"));
   if (paths.isEmpty()) {
     call << QStringLiteral("new") << QVariantList() << QVariantMap();
@@ -61,51 +47,42 @@ ApplicationService::Start ApplicationService::start(const QStringList& paths) {
     call << uris << QVariantMap();
   }
   const QDBusMessage answer = bus.call(call, QDBus::Block, kPatience);
-  return answer.type() == QDBusMessage::ReplyMessage ? Start::handedOver : Start::alone;
+  return answer.type() == QDBusMessage::ReplyMessage
+             ? Start::handedOver
+             : alone("another application has its name on the bus, and does not answer");
+}
+
+ApplicationService::Start ApplicationService::alone(const char* reason) {
+  log_.write(std::string("Scripting: not available, because ") + reason);
+  return Start::alone;
 }
 
 QString ApplicationService::introspect(const QString&) const {
-  return QStringLiteral(R"(<interface name="org.freedesktop.Application">
-  <method name="Activate"><arg type="a{sv}" name="platform_data" direction="in"/></method>
-  <method name="Open"><arg type="as" name="uris" direction="in"/><arg type="a{sv}" name="platform_data" direction="in"/></method>
-  <method name="ActivateAction"><arg type="s" name="action_name" direction="in"/><arg type="av" name="parameter" direction="in"/><arg type="a{sv}" name="platform_data" direction="in"/></method>
-</interface>
-)");
+  return {};  // answered like every other message
 }
 
 bool ApplicationService::handleMessage(const QDBusMessage& message, const QDBusConnection& connection) {
-  if (message.interface() != kInterface) return false;
-  const auto refuse = [&](QDBusError::ErrorType error, const QString& sentence) {
-    connection.send(message.createErrorReply(error, message.member() + QStringLiteral(": ") + sentence));
-    return true;
-  };
-  static const QHash<QString, QString> signatures{
-      {QStringLiteral("Activate"), QStringLiteral("a{sv}")},
-      {QStringLiteral("Open"), QStringLiteral("asa{sv}")},
-      {QStringLiteral("ActivateAction"), QStringLiteral("sava{sv}")}};
-  const auto signature = signatures.constFind(message.member());
-  if (signature == signatures.constEnd())
-    return refuse(QDBusError::UnknownMethod, QStringLiteral("there is no such method"));
-  if (message.signature() != *signature)
-    return refuse(QDBusError::InvalidArgs, QStringLiteral("expected the arguments ") + *signature);
-
-  std::function<void()> act;
-  if (message.member() == QStringLiteral("Open")) {
-    const auto paths = localPaths(message.arguments().constFirst().toStringList());
-    if (!paths)
-      return refuse(QDBusError::InvalidArgs, QStringLiteral("only files of this machine can be opened"));
-    act = [this, files = *paths] { onOpen(files); };
-  } else if (message.member() == QStringLiteral("Activate")) {
-    act = [this] { onActivate(); };
-  } else {
-    if (message.arguments().constFirst().toString() != QStringLiteral("new"))
-      return refuse(QDBusError::InvalidArgs, QStringLiteral("the one action is \"new\""));
-    act = [this] { onNew(); };
-  }
-  // Answered first: what follows may ask the user, and the caller is not to wait for that.
-  connection.send(message.createReply());
-  QMetaObject::invokeMethod(this, act, Qt::QueuedConnection);
+  Call call{message, connection};
+  calls_.push_back(&call);
+  const QDBusMessage reply = objects_.answer(message);
+  calls_.pop_back();
+  answer(call, reply);
+  if (onMessage) onMessage();
   return true;
+}
+
+void ApplicationService::questionIsAsked() {
+  for (Call* call : calls_) {
+    answer(*call, call->message.createErrorReply(
+                      QStringLiteral("org.nascor.Error.Asking"),
+                      call->message.member() +
+                          QStringLiteral(": the user is asked a question, and it goes on with the answer")));
+  }
+}
+
+void ApplicationService::answer(Call& call, const QDBusMessage& reply) const {
+  if (!call.isAnswered && call.message.isReplyRequired()) call.connection.send(reply);
+  call.isAnswered = true;
 }
 
 }  // namespace nascor::qt

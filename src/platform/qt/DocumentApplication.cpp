@@ -26,6 +26,9 @@ DocumentApplication::DocumentApplication(const foundation::Services& services)
     }
     return nullptr;
   };
+  alerts_.onQuestion = [this] {
+    if (onQuestion) onQuestion();
+  };
   panels_.frontWindow = [this] { return frontWindow(); };
   documents_.setFactory([this] {
     return std::make_unique<app::NCDocument>(
@@ -153,6 +156,7 @@ void DocumentApplication::leaveSession() {
 }
 
 void DocumentApplication::addWindow(ZuDocument& document) {
+  numbers_.add(document);
   auto* window = new DocumentWindow(dynamic_cast<app::NCDocument&>(document),
                                     {.services = services_,
                                      .documents = documents_,
@@ -169,6 +173,7 @@ void DocumentApplication::addWindow(ZuDocument& document) {
 }
 
 void DocumentApplication::removeWindow(ZuDocument& document) {
+  numbers_.remove(document);
   const auto found = windows_.find(&document);
   if (found == windows_.end()) return;
   found->second->release();

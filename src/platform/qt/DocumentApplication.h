@@ -8,6 +8,7 @@
 #include "foundation/Services.h"
 #include "framework/DocumentController.h"
 #include "qt/Actions.h"
+#include "qt/DocumentNumbers.h"
 #include "qt/DocumentWindow.h"
 #include "qt/QtAlerts.h"
 #include "qt/QtFilePanels.h"
@@ -51,6 +52,11 @@ class DocumentApplication {
 
   std::function<void()> onLastDocumentClosed;  ///< sent when there is nothing left to do; may be empty
 
+  std::function<void()> onQuestion;  ///< sent before the user is asked something; may be empty
+
+  /// The numbers by which scripts know the open documents.
+  const DocumentNumbers& numbers() const { return numbers_; }
+
  private:
   void openNow(const QStringList& paths);
   bool hasOpenQuestion();
@@ -66,6 +72,7 @@ class DocumentApplication {
   framework::DocumentController documents_;
   app::NCAppController controller_;
   RecentFiles recentFiles_;
+  DocumentNumbers numbers_;
   std::map<const framework::ZuDocument*, DocumentWindow*> windows_;
   bool isSessionEndAgreed_ = false;
   QObject context_;  ///< what is queued ends with it

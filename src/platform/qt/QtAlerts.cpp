@@ -41,10 +41,15 @@ AlertReturn answerOf(const QMessageBox& box) {
 
 }  // namespace
 
+void QtAlerts::exec(QMessageBox& box) const {
+  if (onQuestion) onQuestion();
+  box.exec();
+}
+
 AlertReturn QtAlerts::runModal(const Alert& alert) {
   QMessageBox box(parent());
   setUp(box, alert);
-  box.exec();
+  exec(box);
   return answerOf(box);
 }
 
@@ -77,7 +82,7 @@ std::size_t QtAlerts::chooseOne(const std::string& message, const std::string& i
   if (added.empty()) return 0;
   box.setDefaultButton(added.front());
   box.setEscapeButton(added.back());
-  box.exec();
+  exec(box);
   for (std::size_t i = 0; i < added.size(); ++i) {
     if (box.clickedButton() == added[i]) return i;
   }
@@ -89,7 +94,7 @@ void QtAlerts::tell(const std::string& message, const std::string& information) 
   setUp(box, message, information);
   box.setIcon(QMessageBox::Warning);
   box.addButton(QMessageBox::Ok);
-  box.exec();
+  exec(box);
 }
 
 bool hasSheet(const QWidget& window) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QMessageBox>
 #include <QWidget>
 #include <functional>
 
@@ -24,9 +25,12 @@ class QtAlerts final : public framework::Alerts {
   std::function<QWidget*()> frontWindow;
   /// The window of a panel; set likewise. May return null.
   std::function<QWidget*(const framework::Panel&)> windowOfPanel;
+  /// Sent before a question that whatever asked it waits for; may be empty.
+  std::function<void()> onQuestion;
 
  private:
   QWidget* parent() const { return frontWindow ? frontWindow() : nullptr; }
+  void exec(QMessageBox& box) const;
   Actions& actions_;
 };
 

@@ -2,17 +2,17 @@
 
 #include <syslog.h>
 
-#include <QLoggingCategory>
+#include <cstdio>
 #include <string>
 
-#include "qt/Text.h"
+#include "foundation/Utf8.h"
 
 namespace nascor::qt {
 
 void SystemLog::write(std::string_view line) {
-  static const QLoggingCategory category("nascor.log", QtWarningMsg);
-  ::syslog(LOG_USER | LOG_INFO, "%s", std::string(line).c_str());
-  qCInfo(category).noquote() << fromUtf8(line);
+  const std::string text = foundation::oneLine(line);
+  ::syslog(LOG_USER | LOG_INFO, "%s", text.c_str());
+  std::fputs((text + "\n").c_str(), stderr);
 }
 
 }  // namespace nascor::qt

@@ -1,7 +1,9 @@
 #include <QCommandLineParser>
 #include <QLocale>
 #include <QSessionManager>
+#include <QTimer>
 #include <algorithm>
+#include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <optional>
@@ -11,6 +13,7 @@
 
 #include "qt/Application.h"
 #include "qt/ApplicationService.h"
+#include "qt/BusObjects.h"
 #include "qt/DocumentApplication.h"
 #include "qt/PageFiles.h"
 #include "qt/Platform.h"
@@ -18,6 +21,8 @@
 using namespace nascor::qt;
 
 namespace {
+
+constexpr std::chrono::seconds kPatienceOfAService{10};
 
 enum ExitStatus { kAllWell = 0, kFailed = 1, kWrongUsage = 2 };
 
@@ -38,7 +43,7 @@ struct CommandLine {
   CommandLine() {
     parser.setApplicationDescription(
         QCoreApplication::translate("main", "Obstetric ultrasound biometry.\n%1").arg(disclaimer()));
-    parser.addOptions({help, version, writePages});
+    parser.addOptions({help, version, writePages, service});
     parser.addPositionalArgument("file", QCoreApplication::translate("main", "Documents to open."),
                                  "[FILE...]");
   }
@@ -54,6 +59,8 @@ struct CommandLine {
           "Writes the pages of the documents as PNG and PDF into FOLDER, and shows no window. "
           "Files of the same names are replaced."),
       "FOLDER"};
+  const QCommandLineOption service{
+      "service", QCoreApplication::translate("main", "Shows no window until the session bus asks for one.")};
 };
 
 /// What the program answers without a window; nothing when it is to go on.
@@ -141,12 +148,15 @@ int nascorMain(int argc, char** argv) {
     return written.sentences.isEmpty() ? kAllWell : kFailed;
   }
 
-  ApplicationService service;
   DocumentApplication documents(platform.services());
-  service.onOpen = [&](const QStringList& paths) { documents.openFiles(paths); };
-  service.onNew = [&] { documents.newDocument(); };
-  service.onActivate = [&] { documents.activate(); };
-  if (service.start(files) == ApplicationService::Start::handedOver) return kAllWell;
+  BusObjects objects(platform.services(), documents.documents(), documents.numbers());
+  objects.onOpen = [&](const QStringList& paths) { documents.openFiles(paths); };
+  objects.onNew = [&] { documents.newDocument(); };
+  objects.onActivate = [&] { documents.activate(); };
+  ApplicationService service(objects, platform.services().log);
+  documents.onQuestion = [&] { service.questionIsAsked(); };
+  const ApplicationService::Start start = service.start(files);
+  if (start == ApplicationService::Start::handedOver) return kAllWell;
 
   Application::setQuitOnLastWindowClosed(false);  // a window that another document takes over is not the end
   QObject::connect(
@@ -159,7 +169,22 @@ int nascorMain(int argc, char** argv) {
     QMetaObject::invokeMethod(
         qApp, [] { Application::exit(kAllWell); }, Qt::QueuedConnection);
   };
-  if (files.isEmpty()) {
+  // Started by the bus, the application waits for what it is to show, and ends when nobody wants anything.
+  QTimer patience;
+  if (line.parser.isSet(line.service) && start == ApplicationService::Start::first) {
+    patience.setSingleShot(true);
+    patience.setInterval(kPatienceOfAService);
+    service.onMessage = [&] { patience.start(); };
+    QObject::connect(&patience, &QTimer::timeout, &application, [&] {
+      if (!documents.documents().documents().empty()) return;
+      if (QApplication::activeModalWidget()) {
+        patience.start();  // a question, or what could not be opened
+      } else {
+        Application::exit(kAllWell);
+      }
+    });
+    patience.start();
+  } else if (files.isEmpty()) {
     documents.newDocument();
   } else {
     documents.openFiles(files);
