@@ -80,7 +80,7 @@ TEST(APath, isEmptyAgainWhenItsPointsAreRemovedAndKeepsItsWidth) {
 /// How strongly a colour stands out from white paper.
 double strength(NamedColor color) {
   const Rgba value = valueOf(color);
-  return 1.0 - (0.2126 * value.red + 0.7152 * value.green + 0.0722 * value.blue);
+  return value.alpha * (1.0 - (0.2126 * value.red + 0.7152 * value.green + 0.0722 * value.blue));
 }
 
 TEST(TheNamedColours, keepTheirOrderOfStrengthWithinEachHue) {

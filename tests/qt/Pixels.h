@@ -22,10 +22,13 @@ inline std::ostream& operator<<(std::ostream& stream, const QRect& rect) {
 
 namespace nascor::tests {
 
-inline QColor colorOf(framework::NamedColor name) {
+inline QColor colorOf(framework::NamedColor name, const QColor& below = Qt::white) {
   const framework::Rgba value = framework::valueOf(name);
-  const auto byte = [](double part) { return static_cast<int>(std::lround(part * 255.0)); };
-  return QColor(byte(value.red), byte(value.green), byte(value.blue));
+  const auto byte = [&](double part, float under) {
+    return static_cast<int>(std::lround((part * value.alpha + double{under} * (1.0 - value.alpha)) * 255.0));
+  };
+  return QColor(byte(value.red, below.redF()), byte(value.green, below.greenF()),
+                byte(value.blue, below.blueF()));
 }
 
 /// The colour of the pixel that covers `point` (in pixels).

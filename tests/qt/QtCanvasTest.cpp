@@ -28,7 +28,8 @@ QImage painted(const std::function<void(QtCanvas&)>& draw, bool isFlipped = kUpw
   image.fill(Qt::white);
   QPainter painter(&image);
   painter.scale(scale, scale);
-  QtCanvas canvas(painter, kSize, isFlipped);
+  qt::TextLayouts texts;
+  QtCanvas canvas(painter, QSizeF(kSize, kSize), isFlipped, texts);
   draw(canvas);
   return image;
 }

@@ -30,12 +30,13 @@ QImage screenshot() { return QGuiApplication::primaryScreen()->grabWindow(0).toI
 /// Where the disc around the examination on show lies: the first place where its colour fills a square, which no line
 /// of that colour does. (-1, -1) without one.
 QPoint discOf(const QImage& image) {
-  const QColor color = colorOf(NamedColor::faintGray);
+  // The mark of the examination on show lies in the band.
+  const QColor color = colorOf(NamedColor::faintGray, colorOf(NamedColor::faintOrange));
   const auto fills = [&](int left, int top) {
     constexpr int kSide = 4;
     for (int y = top; y < top + kSide; ++y) {
       for (int x = left; x < left + kSide; ++x) {
-        if (!image.valid(x, y) || image.pixelColor(x, y) != color) return false;
+        if (!image.valid(x, y) || !isNear(image.pixelColor(x, y), color, 3)) return false;
       }
     }
     return true;

@@ -107,7 +107,8 @@ QByteArray pngOfPage(Page& page, double scale) {
   image.setDotsPerMeterY(dotsPerMetre);
   QPainter painter;
   if (!painter.begin(&image)) return {};
-  paintPage(painter, page, QRectF(image.rect()));
+  TextLayouts texts;
+  paintPage(painter, page, QRectF(image.rect()), texts);
   painter.end();
   QBuffer file;
   file.open(QIODevice::WriteOnly);
@@ -126,7 +127,8 @@ QByteArray pdfOfPage(Page& page) {
   writer.setCreator(QCoreApplication::applicationName());
   QPainter painter;
   if (!painter.begin(&writer)) return {};
-  paintPage(painter, page, QRectF(0.0, 0.0, Page::kWidth, Page::kHeight));
+  TextLayouts texts;
+  paintPage(painter, page, QRectF(0.0, 0.0, Page::kWidth, Page::kHeight), texts);
   return painter.end() ? file.data() : QByteArray();
 }
 

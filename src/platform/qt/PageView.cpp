@@ -17,7 +17,11 @@ PageView::PageView(Page& page, ClickCounter& clicks, QWidget* parent)
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 }
 
-QRectF PageView::paper() const { return paperIn(rect()); }
+QRectF PageView::paper() const {
+  // The report's frame reaches to the edges of its page.
+  constexpr double kMargin = 8.0;
+  return paperIn(QRectF(rect()).adjusted(kMargin, kMargin, -kMargin, -kMargin));
+}
 
 QSize PageView::sizeHint() const { return QSizeF(Page::kWidth, Page::kHeight).toSize(); }
 
@@ -48,7 +52,7 @@ bool PageView::event(QEvent* event) {
 void PageView::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.fillRect(rect(), Qt::white);
-  if (page_) paintPage(painter, *page_, paper());
+  if (page_) paintPage(painter, *page_, paper(), texts_);
 }
 
 void PageView::mousePressEvent(QMouseEvent* event) {

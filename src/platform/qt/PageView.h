@@ -5,6 +5,7 @@
 
 #include "framework/Page.h"
 #include "qt/ClickCounter.h"
+#include "qt/TextLayouts.h"
 
 namespace nascor::qt {
 
@@ -38,6 +39,7 @@ class PageView final : public QWidget {
 
   framework::Page* page_;
   ClickCounter& clicks_;
+  TextLayouts texts_;
 };
 
 }  // namespace nascor::qt

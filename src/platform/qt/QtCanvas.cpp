@@ -1,14 +1,12 @@
 #include "qt/QtCanvas.h"
 
-#include <QFont>
 #include <QFontMetricsF>
 #include <QPaintEngine>
 #include <QPainterPath>
 #include <QPolygonF>
-#include <QTransform>
 #include <algorithm>
+#include <array>
 #include <cmath>
-#include <utility>
 
 #include "qt/Text.h"
 
@@ -31,125 +29,193 @@ bool isFinite(const framework::Rect& rect) {
   return isFinite(Point{rect.x, rect.y}) && isFinite(Point{rect.width, rect.height});
 }
 
-/// Without shaping a text of Latin letters reads back from a PDF as it was written; with it, "fi" becomes one sign.
-bool needsShaping(const QString& text) {
-  constexpr char16_t kEndOfLatin = 0x0250;
-  return std::ranges::any_of(text, [](QChar c) { return c.unicode() >= kEndOfLatin; });
-}
-
-/// A named family: a generic one would go into a file by its generic name. Sized in units, not in points of the screen;
-/// without hinting, so that a text is as wide on a screen as on paper.
-QFont fontFor(const QString& text) {
-  QFont font(QStringLiteral("DejaVu Sans"));
-  font.setPixelSize(static_cast<int>(framework::kTextHeight));
-  font.setHintingPreference(QFont::PreferNoHinting);
-  font.setStyleStrategy(needsShaping(text) ? QFont::PreferDefault : QFont::PreferNoShaping);
-  return font;
-}
-
-double widthOf(const QString& text) { return QFontMetricsF(fontFor(text)).horizontalAdvance(text); }
+constexpr double kMarkLineWidth = 1.4;
 
 }  // namespace
 
-QtCanvas::QtCanvas(QPainter& painter, double height, bool isFlipped)
+QtCanvas::QtCanvas(QPainter& painter, QSizeF size, bool isFlipped, TextLayouts& texts)
     : painter_(painter),
-      height_(height),
+      size_(size),
       isFlipped_(isFlipped),
       hasPixels_(painter.paintEngine() != nullptr && painter.paintEngine()->type() == QPaintEngine::Raster),
+      isSharp_(hasPixels_ && painter.deviceTransform().type() <= QTransform::TxScale),
+      isShiftOnly_(painter.deviceTransform().type() <= QTransform::TxTranslate),
+      toPixels_(painter.deviceTransform()),
+      fromPixels_(toPixels_.inverted()),
+      texts_(texts),
       color_(Qt::black) {
-  painter_.setRenderHint(QPainter::Antialiasing);
+  painter_.setRenderHint(QPainter::Antialiasing, false);
 }
 
 void QtCanvas::setColor(const framework::Color& color) { color_ = toolkitColor(color); }
 
+void QtCanvas::take(Tool tool, double penWidth) {
+  if (tool == tool_ && color_ == toolColor_ && penWidth == penWidth_) return;
+  tool_ = tool;
+  toolColor_ = color_;
+  penWidth_ = penWidth;
+  textColor_ = QColor();
+  switch (tool) {
+    case Tool::unknown: break;
+    case Tool::brush:
+      painter_.setPen(Qt::NoPen);
+      painter_.setBrush(color_);
+      break;
+    case Tool::pen:
+      painter_.setPen(QPen(color_, penWidth, Qt::SolidLine, Qt::SquareCap, Qt::RoundJoin));
+      painter_.setBrush(Qt::NoBrush);
+      break;
+    case Tool::mark:
+      painter_.setPen(QPen(color_, penWidth, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
+      painter_.setBrush(Qt::NoBrush);
+      break;
+  }
+}
+
+void QtCanvas::setSmooth(bool isSmooth) {
+  if (isSmooth == isSmooth_) return;
+  isSmooth_ = isSmooth;
+  painter_.setRenderHint(QPainter::Antialiasing, isSmooth);
+}
+
 void QtCanvas::fillPath(const framework::Path& path) {
-  QPainterPath filled;
-  filled.setFillRule(Qt::WindingFill);
+  if (path.isEmpty()) return;
+  take(Tool::brush);
+  setSmooth(true);
+  QPainterPath several;
+  several.setFillRule(Qt::WindingFill);
   for (const auto& subpath : path.subpaths()) {
     QPolygonF corners;
+    corners.reserve(static_cast<qsizetype>(subpath.size()));
     for (const Point point : subpath) corners << placed(point);
-    filled.addPolygon(corners);
-    filled.closeSubpath();
+    if (path.subpaths().size() == 1) {
+      painter_.drawPolygon(corners, Qt::WindingFill);
+      return;
+    }
+    several.addPolygon(corners);
+    several.closeSubpath();
   }
-  painter_.fillPath(filled, color_);
+  painter_.drawPath(several);
 }
 
 void QtCanvas::strokePath(const framework::Path& path) {
   for (const auto& subpath : path.subpaths()) {
     QPolygonF line;
+    line.reserve(static_cast<qsizetype>(subpath.size()));
     for (const Point point : subpath) line << placed(point);
-    strokePolyline(line, path.lineWidth());
+    if (drawnSharp(line, path.lineWidth())) continue;
+    take(Tool::pen, path.lineWidth());
+    setSmooth(true);
+    painter_.drawPolyline(line);
   }
 }
 
 void QtCanvas::fillOval(const framework::Rect& rect) {
   if (!isFinite(rect)) return;
-  painter_.setPen(Qt::NoPen);
-  painter_.setBrush(color_);
+  take(Tool::brush);
+  setSmooth(true);
   painter_.drawEllipse(placed(rect));
 }
 
 void QtCanvas::strokeRect(const framework::Rect& rect) {
   if (!isFinite(rect)) return;
-  const QRectF edge = placed(rect);
-  strokePolyline({edge.topLeft(), edge.topRight(), edge.bottomRight(), edge.bottomLeft(), edge.topLeft()},
-                 1.0);
+  constexpr double kHalf = 0.5;
+  QRectF edge = placed(rect);
+  const QRectF inside(QPointF(kHalf, kHalf), size_ - QSizeF(2.0 * kHalf, 2.0 * kHalf));
+  if (edge.left() == 0.0) edge.setLeft(inside.left());
+  if (edge.top() == 0.0) edge.setTop(inside.top());
+  if (edge.right() == size_.width()) edge.setRight(inside.right());
+  if (edge.bottom() == size_.height()) edge.setBottom(inside.bottom());
+  if (isSharp_) {
+    strokeSharpRect(edge);
+    return;
+  }
+  take(Tool::pen, 1.0);
+  setSmooth(true);
+  painter_.drawRect(edge);
 }
 
 void QtCanvas::mark(MarkSymbol symbol, Point centre) {
   if (!isFinite(centre)) return;
-  constexpr double kLineWidth = 1.4;
-  painter_.save();
-  painter_.translate(placed(centre));
-  painter_.setPen(QPen(color_, kLineWidth, Qt::SolidLine, Qt::RoundCap, Qt::MiterJoin));
-  painter_.setBrush(Qt::NoBrush);
+  const QPointF at = placed(centre);
+  take(Tool::mark, kMarkLineWidth);
+  setSmooth(true);
   switch (symbol) {
-    case MarkSymbol::cross:
-      painter_.drawLine(QPointF(-3.5, 0.0), QPointF(3.5, 0.0));
-      painter_.drawLine(QPointF(0.0, -3.5), QPointF(0.0, 3.5));
+    case MarkSymbol::cross: {
+      const std::array lines{QLineF(at - QPointF(4.0, 0.0), at + QPointF(4.0, 0.0)),
+                             QLineF(at - QPointF(0.0, 4.0), at + QPointF(0.0, 4.0))};
+      painter_.drawLines(lines.data(), static_cast<int>(lines.size()));
       break;
-    case MarkSymbol::circle: painter_.drawEllipse(QPointF(0.0, 0.0), 3.2, 3.2); break;
+    }
+    case MarkSymbol::circle: painter_.drawEllipse(at, 3.2, 3.2); break;
     case MarkSymbol::triangle:
-      painter_.drawPolygon(QPolygonF({QPointF(0.0, -3.2), QPointF(3.1, 2.4), QPointF(-3.1, 2.4)}));
+      painter_.drawPolygon(
+          QPolygonF({at + QPointF(0.0, -3.2), at + QPointF(3.1, 2.4), at + QPointF(-3.1, 2.4)}));
       break;
-    case MarkSymbol::square: painter_.drawRect(QRectF(-3.0, -3.0, 6.0, 6.0)); break;
-    case MarkSymbol::x:
-      painter_.drawLine(QPointF(-2.8, -2.8), QPointF(2.8, 2.8));
-      painter_.drawLine(QPointF(-2.8, 2.8), QPointF(2.8, -2.8));
+    case MarkSymbol::square:
+      painter_.drawPolygon(QPolygonF({at + QPointF(-3.0, -3.0), at + QPointF(3.0, -3.0),
+                                      at + QPointF(3.0, 3.0), at + QPointF(-3.0, 3.0)}));
       break;
+    case MarkSymbol::x: {
+      const std::array lines{QLineF(at + QPointF(-3.2, -3.2), at + QPointF(3.2, 3.2)),
+                             QLineF(at + QPointF(-3.2, 3.2), at + QPointF(3.2, -3.2))};
+      painter_.drawLines(lines.data(), static_cast<int>(lines.size()));
+      break;
+    }
   }
-  painter_.restore();
+}
+
+void QtCanvas::drawText(const LaidOutText& text, QPointF at, const QColor& color) {
+  if (text.text.isEmpty()) return;
+  if (color != textColor_) {
+    tool_ = Tool::unknown;
+    textColor_ = color;
+    painter_.setPen(color);
+  }
+  const QFont& font = texts_.fontFor(text);
+  if (&font != font_) {
+    font_ = &font;
+    painter_.setFont(font);
+  }
+  const QFontMetricsF& metrics = texts_.metricsFor(text);
+  const double baseline = at.y() + (isFlipped_ ? metrics.ascent() : -metrics.descent());
+  // A file is to hold the text as a text; a picture only its signs, whose places are known already.
+  if (hasPixels_) {
+    painter_.drawStaticText(QPointF(at.x(), baseline - metrics.ascent()), text.layout);
+  } else {
+    painter_.drawText(QPointF(at.x(), baseline), text.text);
+  }
 }
 
 void QtCanvas::text(std::string_view text, Point at, const framework::TextStyle& style) {
   if (!isFinite(at)) return;
-  painter_.save();
-  painter_.translate(placed(at));
-  painter_.rotate(-style.degrees);
-  painter_.setPen(toolkitColor(style.color));
-  const QString whole = fromUtf8(text);
-  const auto draw = [&](const QString& part, double x) {
-    const QFont font = fontFor(part);
-    const QFontMetricsF metrics(font);
-    painter_.setFont(font);
-    painter_.drawText(QPointF(x, isFlipped_ ? metrics.ascent() : -metrics.descent()), part);
-  };
-  const qsizetype tab = whole.indexOf(u'\t');
-  draw(whole.left(tab), 0.0);
-  if (tab >= 0) draw(whole.mid(tab + 1), style.tabStop);
-  painter_.restore();
+  const QColor color = toolkitColor(style.color);
+  const QPointF place = placed(at);
+  const bool isTurned = style.degrees != 0.0;
+  const QTransform upright = isTurned ? painter_.worldTransform() : QTransform();
+  if (isTurned) {
+    painter_.translate(place);
+    painter_.rotate(-style.degrees);
+  }
+  const QPointF start = isTurned ? QPointF() : place;
+  const std::size_t tab = text.find('\t');
+  drawText(texts_.of(text.substr(0, tab)), start, color);
+  if (tab != std::string_view::npos) {
+    drawText(texts_.of(text.substr(tab + 1)), start + QPointF(style.tabStop, 0.0), color);
+  }
+  if (isTurned) painter_.setWorldTransform(upright);
 }
 
 double QtCanvas::textWidth(std::string_view text, const framework::TextStyle& style) const {
-  const QString whole = fromUtf8(text);
-  const qsizetype tab = whole.indexOf(u'\t');
-  return tab < 0 ? widthOf(whole) : style.tabStop + widthOf(whole.mid(tab + 1));
+  const std::size_t tab = text.find('\t');
+  return tab == std::string_view::npos ? texts_.of(text).width
+                                       : style.tabStop + texts_.of(text.substr(tab + 1)).width;
 }
 
 QPointF QtCanvas::placed(Point point) const {
   // Farther out than any paper; the toolkit reckons pixels in whole numbers of 32 bits.
   constexpr double kFarOut = 1e5;
-  const double y = isFlipped_ ? point.y : height_ - point.y;
+  const double y = isFlipped_ ? point.y : size_.height() - point.y;
   return {std::clamp(point.x, -kFarOut, kFarOut), std::clamp(y, -kFarOut, kFarOut)};
 }
 
@@ -158,34 +224,44 @@ QRectF QtCanvas::placed(const framework::Rect& rect) const {
       .normalized();
 }
 
-void QtCanvas::strokePolyline(const QPolygonF& line, double width) {
-  bool isSharp = hasPixels_ && painter_.deviceTransform().type() <= QTransform::TxScale;
-  for (qsizetype i = 1; i < line.size() && isSharp; ++i) {
-    isSharp = line[i - 1].x() == line[i].x() || line[i - 1].y() == line[i].y();
+bool QtCanvas::drawnSharp(const QPolygonF& line, double width) {
+  if (!isSharp_) return false;
+  for (qsizetype i = 1; i < line.size(); ++i) {
+    if (line[i - 1].x() != line[i].x() && line[i - 1].y() != line[i].y()) return false;
   }
-  if (isSharp) {
-    for (qsizetype i = 1; i < line.size(); ++i) fillSharpLine(line[i - 1], line[i], width);
-    return;
-  }
-  painter_.setPen(QPen(color_, width, Qt::SolidLine, Qt::SquareCap, Qt::RoundJoin));
-  painter_.setBrush(Qt::NoBrush);
-  painter_.drawPolyline(line);
+  for (qsizetype i = 1; i < line.size(); ++i) fillSharpLine(line[i - 1], line[i], width);
+  return true;
+}
+
+double QtCanvas::sharpThickness(double width) const {
+  return std::max(1.0, std::round(width * std::abs(toPixels_.m11())));
 }
 
 void QtCanvas::fillSharpLine(QPointF from, QPointF to, double width) {
-  const QTransform toPixels = painter_.deviceTransform();
-  const QRectF axis = QRectF(toPixels.map(from), toPixels.map(to)).normalized();
-  const double thickness = std::max(1.0, std::round(width * std::abs(toPixels.m11())));
-  const double half = thickness / 2.0;
-  const auto extent = [&](double first, double last) {
-    const double start = std::round(first - half);
-    return std::pair(start, std::round(last - first) + thickness);
-  };
-  const auto [x, across] = extent(axis.left(), axis.right());
-  const auto [y, down] = extent(axis.top(), axis.bottom());
-  painter_.setRenderHint(QPainter::Antialiasing, false);
-  painter_.fillRect(toPixels.inverted().mapRect(QRectF(x, y, across, down)), color_);
-  painter_.setRenderHint(QPainter::Antialiasing);
+  const QRectF axis = QRectF(toPixels_.map(from), toPixels_.map(to)).normalized();
+  const double thickness = sharpThickness(width);
+  fillPixels(QRectF(std::round(axis.left() - thickness / 2.0), std::round(axis.top() - thickness / 2.0),
+                    std::round(axis.width()) + thickness, std::round(axis.height()) + thickness));
+}
+
+void QtCanvas::strokeSharpRect(const QRectF& edge) {
+  const QRectF axis = toPixels_.mapRect(edge);
+  const double thickness = sharpThickness(1.0);
+  const QRectF outer(std::round(axis.left() - thickness / 2.0), std::round(axis.top() - thickness / 2.0),
+                     std::round(axis.width()) + thickness, std::round(axis.height()) + thickness);
+  // Each corner once: the colour may let through what lies below.
+  fillPixels(QRectF(outer.topLeft(), QSizeF(outer.width(), thickness)));
+  fillPixels(QRectF(outer.left(), outer.bottom() - thickness, outer.width(), thickness));
+  const double height = outer.height() - 2.0 * thickness;
+  fillPixels(QRectF(outer.left(), outer.top() + thickness, thickness, height));
+  fillPixels(QRectF(outer.right() - thickness, outer.top() + thickness, thickness, height));
+}
+
+void QtCanvas::fillPixels(const QRectF& pixels) {
+  setSmooth(false);
+  painter_.fillRect(
+      isShiftOnly_ ? pixels.translated(-toPixels_.dx(), -toPixels_.dy()) : fromPixels_.mapRect(pixels),
+      color_);
 }
 
 }  // namespace nascor::qt

@@ -8,14 +8,15 @@ namespace nascor::qt {
 
 using framework::Page;
 
-QtSurface::QtSurface(QPainter& painter) : painter_(painter), page_(painter, 0.0, true) {}
+QtSurface::QtSurface(QPainter& painter, TextLayouts& texts)
+    : painter_(painter), texts_(texts), page_(painter, QSizeF(Page::kWidth, Page::kHeight), true, texts) {}
 
 framework::Canvas& QtSurface::beginView(const framework::ZuPrimitiveGraphView& view,
                                         const framework::Rect& frame) {
   painter_.save();
   painter_.translate(frame.x, frame.y);
   painter_.setClipRect(QRectF(0.0, 0.0, frame.width, frame.height), Qt::IntersectClip);
-  return view_.emplace(painter_, frame.height, view.isFlipped());
+  return view_.emplace(painter_, QSizeF(frame.width, frame.height), view.isFlipped(), texts_);
 }
 
 void QtSurface::endView() {
@@ -30,14 +31,14 @@ QRectF paperIn(const QRectF& area) {
   return paper;
 }
 
-void paintPage(QPainter& painter, Page& page, const QRectF& paper) {
+void paintPage(QPainter& painter, Page& page, const QRectF& paper, TextLayouts& texts) {
   painter.save();
   painter.setClipRect(paper, Qt::IntersectClip);
   painter.fillRect(paper, Qt::white);
   painter.translate(paper.topLeft());
   painter.scale(paper.width() / Page::kWidth, paper.height() / Page::kHeight);
   page.layout(Page::kWidth, Page::kHeight);
-  QtSurface surface(painter);
+  QtSurface surface(painter, texts);
   page.paint(surface);
   painter.restore();
 }

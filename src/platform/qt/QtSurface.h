@@ -7,6 +7,7 @@
 #include "framework/Page.h"
 #include "framework/Surface.h"
 #include "qt/QtCanvas.h"
+#include "qt/TextLayouts.h"
 
 namespace nascor::qt {
 
@@ -14,7 +15,7 @@ namespace nascor::qt {
 class QtSurface final : public framework::Surface {
  public:
   /// One unit of `painter` is one unit of the page, its origin the page's upper left corner.
-  explicit QtSurface(QPainter& painter);
+  QtSurface(QPainter& painter, TextLayouts& texts);
 
   framework::Canvas& pageCanvas() override { return page_; }
   framework::Canvas& beginView(const framework::ZuPrimitiveGraphView& view,
@@ -23,6 +24,7 @@ class QtSurface final : public framework::Surface {
 
  private:
   QPainter& painter_;
+  TextLayouts& texts_;
   QtCanvas page_;
   std::optional<QtCanvas> view_;
 };
@@ -31,6 +33,7 @@ class QtSurface final : public framework::Surface {
 QRectF paperIn(const QRectF& area);
 
 /// Lays `page` out as for paper and paints it on white, scaled as a whole to fill `paper`.
-void paintPage(QPainter& painter, framework::Page& page, const QRectF& paper);
+/// `texts` may serve any number of pages and redraws.
+void paintPage(QPainter& painter, framework::Page& page, const QRectF& paper, TextLayouts& texts);
 
 }  // namespace nascor::qt
