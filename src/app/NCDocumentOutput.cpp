@@ -77,6 +77,17 @@ framework::PageFoot NCDocument::footOfPage(std::int64_t index, std::int64_t numb
   }
   const std::string examinations = first == last ? first : first + " \u2013 " + last;
 
+  std::string leftOut;
+  const std::int64_t examinationCount = numberOfExaminations();
+  if (index == tabView().numberOfPages() - 1) {
+    tabView().page(index).layout(framework::Page::kWidth, framework::Page::kHeight);
+    const std::int64_t shown = report().examinationsShown();
+    if (shown < examinationCount) {
+      leftOut = foundation::format(localizer, string_table::ncDocument, "%ld of %ld examinations shown",
+                                   {shown, examinationCount});
+    }
+  }
+
   std::string page = localizer.text(windowNibName, tabView().page(index).name());
   if (count > 1)
     page += foundation::format(localizer, string_table::ncDocument, ", page %ld of %ld", {number, count});
@@ -88,7 +99,7 @@ framework::PageFoot NCDocument::footOfPage(std::int64_t index, std::int64_t numb
                labelled("EDD:", patientRecord_->edd() ? dateText(*patientRecord_->edd()) : std::string()),
                labelled(first == last ? "Examination:" : "Examinations:", examinations)},
               {calc::growthStandardTitle(standard(), localizer),
-               calc::fetalWeightTitle(fetalWeightStandard(), localizer)},
+               calc::fetalWeightTitle(fetalWeightStandard(), localizer), leftOut},
               {std::string("Nascor ").append(foundation::programVersion()),
                text("Not a medical device. Not validated for clinical use."),
                labelled("Printed:", dateText(services().clock.now())), page},

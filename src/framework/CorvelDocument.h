@@ -88,6 +88,9 @@ class CorvelDocument : public ZuDocument, public virtual GraphDocument, protecte
   /// Nothing when it was written or the user cancelled, else why not.
   std::optional<std::string> doExport(const foundation::NotificationSender* sender);
 
+  /// Sent with the path of each page that was exported; may be empty.
+  std::function<void(const std::string& path)> onExported;
+
   /// Told once at the end of printing, whether all of it went out.
   using DidPrint = std::function<void(bool)>;
 

@@ -97,8 +97,9 @@ std::optional<std::string> CorvelDocument::exportPage(std::int64_t page, const s
   const OnPaper onPaper(*this);
   const auto error = environment_.pageWriter->writePage(
       {.page = tabView_.page(page), .foot = footIfWanted(page, 1, 1)}, format, path);
-  if (!error) return std::nullopt;
-  return path + ": " + error->reason;
+  if (error) return path + ": " + error->reason;
+  if (onExported) onExported(path);
+  return std::nullopt;
 }
 
 void CorvelDocument::printDocumentWithSettings(const PrintSettings& settings, bool showPrintPanel,

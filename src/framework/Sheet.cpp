@@ -57,6 +57,10 @@ double footHeight(std::size_t lines) {
 }
 
 void drawFoot(Canvas& canvas, const std::vector<std::string>& lines) {
+  canvas.setColor(NamedColor::faintGray);
+  Path rule = Path::line({.x = kFootMargin, .y = 1.0}, {.x = Page::kWidth - kFootMargin, .y = 1.0});
+  rule.setLineWidth(0.5);
+  canvas.strokePath(rule);
   double y = kSpaceAbove;
   for (const std::string& line : lines) {
     canvas.text(line, {.x = kFootMargin, .y = y}, {});

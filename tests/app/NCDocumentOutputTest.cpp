@@ -58,7 +58,7 @@ TEST_F(APatientsPages, areIdentifiedUnderneath) {
       ElementsAre(ElementsAre("Reference ID: AB/123", "Gravidity: 2", "Fetus: Twin 2", "EDD: 10 April 2027",
                               "Examinations: 21 November 2026 \xE2\x80\x93 19 December 2026"),
                   ElementsAre("Nascor Standard: Westerway (ASUM 2001)",
-                              "Fetal Weight Formula: Hadlock 4 (BPD/HC/AC/FL)"),
+                              "Fetal Weight Formula: Hadlock 4 (BPD/HC/AC/FL)", ""),
                   ElementsAre(std::string("Nascor ").append(foundation::programVersion()),
                               "Not a medical device. Not validated for clinical use.",
                               "Printed: 22 November 2026", "Weight, page 2 of 2")));
@@ -71,6 +71,18 @@ TEST_F(APatientsPages, sayNothingThatIsNotKnown) {
   const framework::PageFoot foot = document.footOfPage(0, 1, 1);
   EXPECT_THAT(foot.lines[0], ElementsAre("", "Gravidity: 0", "Fetus: Singleton", "", ""));
   EXPECT_EQ(foot.lines[2].back(), "Trends");
+}
+
+TEST_F(APatientsPages, sayHowManyExaminationsTheReportLeavesOut) {
+  // (560 - 148) / 41 leaves room for ten, and there is no projected row before 30 weeks.
+  std::vector<double> daysBefore;
+  for (int i = 0; i < 20; ++i) daysBefore.push_back(200.0 - i);
+  open(1, daysBefore);
+  EXPECT_THAT(document.footOfPage(6, 1, 1).lines[1], Contains("10 of 20 examinations shown"));
+  EXPECT_THAT(document.footOfPage(0, 1, 1).lines[1], Not(Contains("10 of 20 examinations shown")));
+  daysBefore.resize(10);
+  open(1, daysBefore);
+  EXPECT_EQ(document.footOfPage(6, 1, 1).lines[1].back(), "");
 }
 
 TEST_F(APatientsPages, ofOneExaminationNameItsDay) {

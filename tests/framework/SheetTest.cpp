@@ -51,10 +51,11 @@ TEST(TheFootOfAPage, isOfLinesThatStayLines) {
 TEST(TheFootOfAPage, hasRoomForItsLines) {
   tests::RecordingCanvas canvas;
   drawFoot(canvas, {"one", "two"});
-  ASSERT_EQ(canvas.entries().size(), 2U);
-  const double first = canvas.entries()[0].point.y;
-  const double second = canvas.entries()[1].point.y;
-  EXPECT_EQ(canvas.entries()[0].point.x, kFootMargin);
+  const auto texts = canvas.of(tests::RecordingCanvas::Entry::Kind::text);
+  ASSERT_EQ(texts.size(), 2U);
+  const double first = texts[0].point.y;
+  const double second = texts[1].point.y;
+  EXPECT_EQ(texts[0].point.x, kFootMargin);
   EXPECT_GT(first, 0.0);
   EXPECT_GT(second, first + kTextHeight);
   EXPECT_GT(footHeight(2), second + kTextHeight);

@@ -81,10 +81,10 @@ TEST_F(TheApplication, asksWhichDocumentsPagesToWrite) {
 TEST_F(TheApplication, writesPagesAndTellsTheirPaths) {
   const QString document = file("AB-123.nascor", documentBytes(singleton()));
   const QString out = folder.filePath(QStringLiteral("out"));
-  const Answer answer = nascor({"--write-pages", out, document});
+  const Answer answer = nascor({"--write-pages", out, "--pages", "bpd", document});
   EXPECT_EQ(answer.status, 0) << answer.error;
-  EXPECT_EQ(answer.output, (out + "/AB-123 - BPD.png\n" + out + "/AB-123 - BPD.pdf\n").toStdString());
-  EXPECT_EQ(QDir(out).entryList(QDir::Files), (QStringList{"AB-123 - BPD.pdf", "AB-123 - BPD.png"}));
+  EXPECT_EQ(answer.output, (out + "/AB-123 - BPD.png\n" + out + "/AB-123.pdf\n").toStdString());
+  EXPECT_EQ(QDir(out).entryList(QDir::Files), (QStringList{"AB-123 - BPD.png", "AB-123.pdf"}));
 }
 
 TEST_F(TheApplication, failsWithASentenceForAFileThatItCannotRead) {

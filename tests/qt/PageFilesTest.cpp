@@ -1,11 +1,13 @@
-#include "qt/PageFiles.h"
+#include "qt/PageExport.h"
 
 #include <gmock/gmock.h>
 
 #include <QDir>
 #include <QFileInfo>
 #include <QImage>
+#include <QSet>
 #include <QTemporaryDir>
+#include <QXmlStreamReader>
 
 #include "Pixels.h"
 #include "Run.h"
@@ -16,6 +18,7 @@ namespace nascor::tests {
 namespace {
 
 using framework::NamedColor;
+using framework::PageFormat;
 using testing::ContainsRegex;
 using testing::ElementsAre;
 using testing::HasSubstr;
@@ -30,9 +33,24 @@ class WritingPages : public testing::Test {
     return path;
   }
   QString out(const char* name = "") { return folder.filePath(QStringLiteral("out/") + QLatin1String(name)); }
+  /// The BPD page of each fetus without a foot, unless a test says otherwise.
   qt::WrittenPages write(const QStringList& files) {
-    return qt::writePages(folder.filePath(QStringLiteral("out")), files, platform.services());
+    wanted.folder = folder.filePath(QStringLiteral("out"));
+    wanted.files = files;
+    return qt::exportPages(wanted, platform.services());
   }
+  std::string textOf(const QString& pdf) {
+    const Answer text = run("pdftotext", {"-layout", pdf, "-"});
+    EXPECT_EQ(text.status, 0) << text.error;
+    return text.output;
+  }
+
+  qt::PageExport wanted{.folder = {},
+                        .files = {},
+                        .formats = {PageFormat::png, PageFormat::pdf},
+                        .pages = {1},
+                        .fetus = std::nullopt,
+                        .hasFoot = false};
 
   TestPlatform platform;
   QTemporaryDir folder;
@@ -40,7 +58,7 @@ class WritingPages : public testing::Test {
 
 TEST_F(WritingPages, makesTheFolderAndNamesEachFileByDocumentAndPage) {
   const auto written = write({file("AB-123.nascor", documentBytes(singleton()))});
-  EXPECT_EQ(written.paths, (QStringList{out("AB-123 - BPD.png"), out("AB-123 - BPD.pdf")}));
+  EXPECT_EQ(written.paths, (QStringList{out("AB-123 - BPD.png"), out("AB-123.pdf")}));
   EXPECT_TRUE(written.sentences.isEmpty());
 }
 
@@ -63,7 +81,7 @@ TEST_F(WritingPages, leavesTheDiscOffPaper) {
 
 TEST_F(WritingPages, writesTextThatReadsBackFromThePdf) {
   write({file("a.nascor", documentBytes(twins()))});
-  const Answer text = run("pdftotext", {"-layout", out("a - BPD.pdf"), "-"});
+  const Answer text = run("pdftotext", {"-layout", out("a.pdf"), "-"});
   ASSERT_EQ(text.status, 0) << text.error;
   for (const char* expected :
        {"AB-123 (G2) 1 of 2", "Twin 1", "Twin 2", "Menstrual Age (Weeks)", "Biparietal Diameter (mm)",
@@ -76,12 +94,12 @@ TEST_F(WritingPages, writesLettersNotLigatures) {
   model::PatientRecord record = singleton();
   record.setMaternalIDString("fi-ffl");
   write({file("a.nascor", documentBytes(record))});
-  EXPECT_THAT(run("pdftotext", {out("a - BPD.pdf"), "-"}).output, HasSubstr("fi-ffl (G2)"));
+  EXPECT_THAT(run("pdftotext", {out("a.pdf"), "-"}).output, HasSubstr("fi-ffl (G2)"));
 }
 
 TEST_F(WritingPages, embedsTheFontInThePdf) {
   write({file("a.nascor", documentBytes(singleton()))});
-  const Answer fonts = run("pdffonts", {out("a - BPD.pdf")});
+  const Answer fonts = run("pdffonts", {out("a.pdf")});
   ASSERT_EQ(fonts.status, 0) << fonts.error;
   // Columns emb, sub and uni: inside the file, and its text can be read back.
   EXPECT_THAT(fonts.output, ContainsRegex("DejaVuSans +CID TrueType +Identity-H +yes +[a-z]+ +yes"));
@@ -89,7 +107,7 @@ TEST_F(WritingPages, embedsTheFontInThePdf) {
 
 TEST_F(WritingPages, makesThePdfOneSheetOfAPointToTheUnit) {
   write({file("a.nascor", documentBytes(singleton()))});
-  const Answer facts = run("pdfinfo", {out("a - BPD.pdf")});
+  const Answer facts = run("pdfinfo", {out("a.pdf")});
   EXPECT_THAT(facts.output, ContainsRegex("Pages: +1\n"));
   EXPECT_THAT(facts.output, ContainsRegex("Page size: +800 x 560 pts"));
 }
@@ -97,9 +115,9 @@ TEST_F(WritingPages, makesThePdfOneSheetOfAPointToTheUnit) {
 TEST_F(WritingPages, doesNotReplaceOneDocumentsPagesByAnothers) {
   const auto written = write(
       {file("x/same.nascor", documentBytes(singleton())), file("y/same.nascor", documentBytes(twins()))});
-  EXPECT_EQ(written.paths, (QStringList{out("same - BPD.png"), out("same - BPD.pdf"),
-                                        out("same - BPD (2).png"), out("same - BPD (2).pdf")}));
-  EXPECT_THAT(run("pdftotext", {out("same - BPD (2).pdf"), "-"}).output, HasSubstr("1 of 2"));
+  EXPECT_EQ(written.paths, (QStringList{out("same - BPD.png"), out("same.pdf"), out("same 1 of 2 - BPD.png"),
+                                        out("same 2 of 2 - BPD.png"), out("same (2).pdf")}));
+  EXPECT_THAT(textOf(out("same (2).pdf")), HasSubstr("1 of 2"));
 }
 
 TEST_F(WritingPages, writesTheOthersWhenADocumentCannotBeRead) {
@@ -117,9 +135,10 @@ TEST_F(WritingPages, saysWhichFileCouldNotBeWrittenAndGoesOn) {
   const auto all = std::as_bytes(std::span(bytes.data(), static_cast<std::size_t>(bytes.size())));
   disk.files["a.nascor"].assign(all.begin(), all.end());
   disk.failWriteAt = 0;
-  const auto written =
-      qt::writePages(folder.path(), {QStringLiteral("a.nascor")}, platform.servicesWith(disk));
-  EXPECT_EQ(written.paths, QStringList{folder.filePath(QStringLiteral("a - BPD.pdf"))});
+  wanted.folder = folder.path();
+  wanted.files = QStringList{QStringLiteral("a.nascor")};
+  const auto written = qt::exportPages(wanted, platform.servicesWith(disk));
+  EXPECT_EQ(written.paths, QStringList{folder.filePath(QStringLiteral("a.pdf"))});
   EXPECT_EQ(written.sentences,
             QStringList{folder.filePath(QStringLiteral("a - BPD.png")) +
                         QStringLiteral(" could not be written: No space left on device.")});
@@ -127,10 +146,121 @@ TEST_F(WritingPages, saysWhichFileCouldNotBeWrittenAndGoesOn) {
 
 TEST_F(WritingPages, saysThatTheFolderCouldNotBeMade) {
   const QString inTheWay = file("out", "a file");
-  const auto written = qt::writePages(inTheWay + QStringLiteral("/pages"), {}, platform.services());
+  wanted.folder = inTheWay + QStringLiteral("/pages");
+  const auto written = qt::exportPages(wanted, platform.services());
   EXPECT_EQ(written.sentences,
             QStringList{QStringLiteral("The folder %1/pages could not be made.").arg(inTheWay)});
 }
+
+TEST_F(WritingPages, writesAllPagesOfADocumentIntoOnePdf) {
+  wanted.pages.clear();
+  wanted.formats = {PageFormat::pdf};
+  int calls = 0;
+  wanted.onProgress = [&](int done, int total) {
+    EXPECT_EQ(done, calls++);
+    EXPECT_EQ(total, 1);
+  };
+  const auto written = write({file("a.nascor", documentBytes(twins()))});
+  EXPECT_EQ(written.paths, QStringList{out("a.pdf")});
+  EXPECT_THAT(run("pdfinfo", {out("a.pdf")}).output, ContainsRegex("Pages: +14\n"));
+  EXPECT_EQ(calls, 2);
+}
+
+TEST_F(WritingPages, choosesPagesAndFetus) {
+  wanted.pages = {0, -1};
+  wanted.fetus = 1;
+  wanted.formats = {PageFormat::svg};
+  const auto written = write({file("a.nascor", documentBytes(twins()))});
+  EXPECT_EQ(written.paths, (QStringList{out("a 2 of 2 - Trends.svg"), out("a 2 of 2 - Report.svg")}));
+  wanted.fetus = 2;
+  const auto none = write({file("b.nascor", documentBytes(twins()))});
+  EXPECT_EQ(none.paths, QStringList());
+  EXPECT_THAT(none.sentences.value(0).toStdString(),
+              testing::EndsWith("b.nascor has no such fetus or page."));
+}
+
+TEST_F(WritingPages, identifiesEachPageUnderneath) {
+  wanted.hasFoot = true;
+  wanted.pages = {1, 2};
+  write({file("a.nascor", documentBytes(twins()))});
+  const std::string text = textOf(out("a.pdf"));
+  for (const char* expected :
+       {"Reference ID: AB-123", "Gravidity: 2", "Fetus: Twin 1", "Fetus: Twin 2", "EDD: 10 April 2027",
+        "Examinations: 21 November 2026", "Nascor Standard: Westerway (ASUM 2001)", "Fetal Weight Formula: ",
+        "Not a medical device.", "Printed: 21 November 2026", "BPD, page 1 of 4", "HC, page 4 of 4"}) {
+    EXPECT_THAT(text, HasSubstr(expected));
+  }
+  // Nothing that is clipped away above is found between its words.
+  EXPECT_THAT(text, ContainsRegex("Reference ID: AB-123 +Gravidity: 2 +Fetus: Twin 1"));
+  // The page keeps its 560 units above it.
+  EXPECT_THAT(run("pdfinfo", {out("a.pdf")}).output, ContainsRegex("Page size: +800 x 6[01][0-9] pts"));
+}
+
+TEST_F(WritingPages, paintsTheFootUnderThePictureToo) {
+  write({file("a.nascor", documentBytes(singleton()))});
+  const QImage bare(out("a - BPD.png"));
+  wanted.hasFoot = true;
+  write({file("a.nascor", documentBytes(singleton()))});
+  const QImage whole(out("a - BPD.png"));
+  EXPECT_EQ(whole.copy(bare.rect()), bare);
+  ASSERT_GT(whole.height(), bare.height() + 60);
+  bool hasInk = false;
+  for (int y = bare.height(); y < whole.height(); ++y) {
+    for (int x = 0; x < whole.width(); ++x) hasInk = hasInk || whole.pixelColor(x, y).lightness() < 64;
+  }
+  EXPECT_TRUE(hasInk);
+}
+
+TEST_F(WritingPages, writesDrawingsOfValidXmlWithNamedFonts) {
+  wanted.formats = {PageFormat::svg};
+  wanted.hasFoot = true;
+  model::PatientRecord record = singleton();
+  record.setMaternalIDString("<A&B>\x01\"'");
+  write({file("a.nascor", documentBytes(record))});
+  QFile drawing(out("a - BPD.svg"));
+  ASSERT_TRUE(drawing.open(QIODevice::ReadOnly));
+  QXmlStreamReader xml(&drawing);
+  QStringList texts;
+  QSet<QString> fonts;
+  int clips = 0;
+  while (!xml.atEnd()) {
+    xml.readNext();
+    if (!xml.isStartElement()) continue;
+    if (xml.attributes().hasAttribute(QStringLiteral("font-family")))
+      fonts.insert(xml.attributes().value(QStringLiteral("font-family")).toString());
+    if (xml.name() == QLatin1String("clipPath")) ++clips;
+    if (xml.name() == QLatin1String("svg")) {
+      EXPECT_TRUE(xml.attributes().value(QStringLiteral("viewBox")).startsWith(QLatin1String("0 0 800 6")));
+    }
+    if (xml.name() == QLatin1String("text")) texts << xml.readElementText().trimmed();
+  }
+  EXPECT_FALSE(xml.hasError()) << xml.errorString().toStdString();
+  EXPECT_GE(clips, 3);  // chart, strip, foot
+  fonts.remove(QString());
+  EXPECT_TRUE(fonts.contains(QStringLiteral("DejaVu Sans")));
+  EXPECT_TRUE(texts.contains(QStringLiteral("<A&B>\uFFFD\"' (G2)"))) << texts.join(u'|').toStdString();
+  EXPECT_TRUE(texts.contains(QStringLiteral("Menstrual Age (Weeks)")));
+}
+
+struct PagesCase {
+  const char* name;
+  const char* text;
+  std::optional<std::vector<std::int64_t>> pages;
+};
+class PagesOfAText : public testing::TestWithParam<PagesCase> {};
+TEST_P(PagesOfAText, areRead) {
+  EXPECT_EQ(qt::pagesFromText(QLatin1String(GetParam().text)), GetParam().pages);
+}
+INSTANTIATE_TEST_SUITE_P(
+    texts, PagesOfAText,
+    testing::Values(PagesCase{"all", "all", std::vector<std::int64_t>{}},
+                    PagesCase{"ends", "first,last", std::vector<std::int64_t>{0, -1}},
+                    PagesCase{"numbers", "6,0", std::vector<std::int64_t>{6, 0}},
+                    PagesCase{"names", "weight,bpd,report", std::vector<std::int64_t>{5, 1, 6}},
+                    PagesCase{"tooGreat", "7", std::nullopt}, PagesCase{"negative", "-1", std::nullopt},
+                    PagesCase{"empty", "", std::nullopt}, PagesCase{"gap", "1,,2", std::nullopt},
+                    PagesCase{"unknown", "BPD", std::nullopt}),
+    [](const auto& row) { return std::string(row.param.name); });
 
 struct NameCase {
   const char* name;

@@ -65,5 +65,7 @@ Command weightCommand();
 Command crlCommand();
 Command standardCommand();
 Command lookupCommand();
+/// Only where the application is built too.
+Command exportCommand();
 
 }  // namespace nascor::cli

@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "foundation/Localizer.h"
+#include "qt/OutputMenu.h"
 #include "qt/Text.h"
 
 namespace nascor::qt {
@@ -16,8 +17,10 @@ DocumentApplication::DocumentApplication(const foundation::Services& services)
     : services_(services),
       alerts_(actions_),
       panels_(services),
+      pageWriter_(services.files),
+      printer_(services.files),
       documents_(services, alerts_, panels_),
-      controller_(services, documents_),
+      controller_(services, documents_, {.resourcePath = resourceFolder(), .viewer = &viewer_}),
       recentFiles_(services.defaults) {
   alerts_.frontWindow = [this] { return frontWindow(); };
   alerts_.windowOfPanel = [this](const framework::Panel& panel) -> QWidget* {
@@ -30,9 +33,21 @@ DocumentApplication::DocumentApplication(const foundation::Services& services)
     if (onQuestion) onQuestion();
   };
   panels_.frontWindow = [this] { return frontWindow(); };
+  printer_.frontWindow = [this] { return frontWindow(); };
+  viewer_.tell = [this](const QString& sentence) {
+    alerts_.tell(toUtf8(QCoreApplication::translate("Viewer", "The user guide cannot be shown.")),
+                 toUtf8(sentence));
+  };
   documents_.setFactory([this] {
-    return std::make_unique<app::NCDocument>(
-        framework::DocumentEnvironment{.services = services_, .alerts = alerts_, .controller = documents_});
+    auto document =
+        std::make_unique<app::NCDocument>(framework::DocumentEnvironment{.services = services_,
+                                                                         .alerts = alerts_,
+                                                                         .controller = documents_,
+                                                                         .panels = &panels_,
+                                                                         .pageWriter = &pageWriter_,
+                                                                         .printer = &printer_});
+    document->setPrintInfo(usualPaper(services_.defaults));
+    return document;
   });
   documents_.onDocumentAdded = [this](ZuDocument& document) { addWindow(document); };
   documents_.onDocumentInFront = [this](ZuDocument& document) { bringToFront(document); };
@@ -161,6 +176,9 @@ void DocumentApplication::addWindow(ZuDocument& document) {
                                     {.services = services_,
                                      .documents = documents_,
                                      .application = controller_,
+                                     .alerts = alerts_,
+                                     .panels = panels_,
+                                     .printer = printer_,
                                      .actions = actions_,
                                      .recentFiles = recentFiles_,
                                      .openFiles = [this](const QStringList& paths) { openFiles(paths); },

@@ -10,8 +10,11 @@
 #include "qt/Actions.h"
 #include "qt/DocumentNumbers.h"
 #include "qt/DocumentWindow.h"
+#include "qt/PageFiles.h"
 #include "qt/QtAlerts.h"
 #include "qt/QtFilePanels.h"
+#include "qt/QtPrinter.h"
+#include "qt/QtViewer.h"
 #include "qt/RecentFiles.h"
 
 namespace nascor::qt {
@@ -69,6 +72,9 @@ class DocumentApplication {
   Actions actions_;
   QtAlerts alerts_;
   QtFilePanels panels_;
+  QtPageWriter pageWriter_;
+  QtPrinter printer_;
+  QtViewer viewer_;
   framework::DocumentController documents_;
   app::NCAppController controller_;
   RecentFiles recentFiles_;

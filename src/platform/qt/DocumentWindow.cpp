@@ -29,6 +29,7 @@
 #include "qt/FieldBinding.h"
 #include "qt/LongDate.h"
 #include "qt/Mnemonics.h"
+#include "qt/OutputMenu.h"
 #include "qt/PageView.h"
 #include "qt/Puff.h"
 #include "qt/QtAlerts.h"
@@ -303,6 +304,13 @@ void DocumentWindow::bindActions() {
   }
 
   bindFileActions();
+  new OutputMenu(*this, *ui_->fileMenu, ui_->closeAction,
+                 {.services = environment_.services,
+                  .alerts = environment_.alerts,
+                  .panels = environment_.panels,
+                  .printer = environment_.printer,
+                  .sender = environment_.application,
+                  .perform = [this](const DocumentAction& action) { perform(action); }});
   bindEditActions();
   bindStandardsMenus();
   connect(ui_->referencesAction, &QAction::triggered, this, [this] {
@@ -311,6 +319,8 @@ void DocumentWindow::bindActions() {
     references_->raise();
     references_->activateWindow();
   });
+  connect(ui_->guideAction, &QAction::triggered, this,
+          [this] { environment_.actions.perform([this] { environment_.application.doHelp(); }); });
   connect(ui_->aboutAction, &QAction::triggered, this, [this] { showAbout(); });
 }
 

@@ -15,6 +15,7 @@
 #include "framework/DocumentController.h"
 #include "qt/Actions.h"
 #include "qt/ClickCounter.h"
+#include "qt/QtPrinter.h"
 #include "qt/RecentFiles.h"
 
 class QLabel;
@@ -36,6 +37,9 @@ struct WindowEnvironment {
   foundation::Services services;
   framework::DocumentController& documents;
   app::NCAppController& application;
+  framework::Alerts& alerts;
+  framework::FilePanels& panels;
+  QtPrinter& printer;
   Actions& actions;
   RecentFiles& recentFiles;
   std::function<void(const QStringList&)> openFiles;

@@ -189,6 +189,10 @@ void QtCanvas::drawText(const LaidOutText& text, QPointF at, const QColor& color
 
 void QtCanvas::text(std::string_view text, Point at, const framework::TextStyle& style) {
   if (!isFinite(at)) return;
+  // A text beyond the view is clipped away, but a reader of a file would still find it there.
+  constexpr double kTallest = 1.5 * framework::kTextHeight;
+  const bool isBeyond = at.y >= size_.height() || at.y + kTallest <= 0.0;
+  if (style.degrees == 0.0 && isBeyond) return;
   const QColor color = toolkitColor(style.color);
   const QPointF place = placed(at);
   const bool isTurned = style.degrees != 0.0;

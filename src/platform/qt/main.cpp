@@ -15,7 +15,7 @@
 #include "qt/ApplicationService.h"
 #include "qt/BusObjects.h"
 #include "qt/DocumentApplication.h"
-#include "qt/PageFiles.h"
+#include "qt/PageOptions.h"
 #include "qt/Platform.h"
 
 using namespace nascor::qt;
@@ -43,7 +43,8 @@ struct CommandLine {
   CommandLine() {
     parser.setApplicationDescription(
         QCoreApplication::translate("main", "Obstetric ultrasound biometry.\n%1").arg(disclaimer()));
-    parser.addOptions({help, version, writePages, service});
+    parser.addOptions({help, version, service});
+    pages.addTo(parser);
     parser.addPositionalArgument("file", QCoreApplication::translate("main", "Documents to open."),
                                  "[FILE...]");
   }
@@ -52,13 +53,7 @@ struct CommandLine {
   const QCommandLineOption help{{"h", "help"}, QCoreApplication::translate("main", "Shows this help.")};
   const QCommandLineOption version{{"v", "version"},
                                    QCoreApplication::translate("main", "Shows the version.")};
-  const QCommandLineOption writePages{
-      "write-pages",
-      QCoreApplication::translate(
-          "main",
-          "Writes the pages of the documents as PNG and PDF into FOLDER, and shows no window. "
-          "Files of the same names are replaced."),
-      "FOLDER"};
+  const PageOptions pages;
   const QCommandLineOption service{
       "service", QCoreApplication::translate("main", "Shows no window until the session bus asks for one.")};
 };
@@ -137,13 +132,17 @@ int nascorMain(int argc, char** argv) {
 
   Platform platform(QLocale::system());
   const QStringList files = line.parser.positionalArguments();
-  if (line.parser.isSet(line.writePages)) {
-    if (files.isEmpty()) {
-      say(stderr, QCoreApplication::translate("main", "Which documents? --write-pages FOLDER FILE..."));
+  if (line.pages.areGiven(line.parser)) {
+    QString error;
+    const auto wanted = line.pages.read(line.parser, error);
+    if (!wanted) {
+      say(stderr, error);
       return kWrongUsage;
     }
-    const WrittenPages written = writePages(line.parser.value(line.writePages), files, platform.services());
-    for (const QString& path : written.paths) say(stdout, path);
+    const WrittenPages written = exportPages(*wanted, platform.services());
+    if (line.pages.arePathsWanted(line.parser)) {
+      for (const QString& path : written.paths) say(stdout, path);
+    }
     for (const QString& sentence : written.sentences) say(stderr, sentence);
     return written.sentences.isEmpty() ? kAllWell : kFailed;
   }

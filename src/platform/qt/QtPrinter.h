@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QPageLayout>
+#include <QPrinter>
+#include <QWidget>
+#include <functional>
+
+#include "foundation/FileStore.h"
+#include "framework/Printer.h"
+
+namespace nascor::qt {
+
+/// The toolkit's printers and print panel. A printer that is a file becomes one PDF document, written through the file
+/// store.
+class QtPrinter final : public framework::Printer {
+ public:
+  explicit QtPrinter(foundation::FileStore& files);
+
+  std::unique_ptr<framework::PrintJob> beginJob(const framework::PrintInfo& info,
+                                                const framework::PrintSettings& settings) override;
+
+  /// What `print` prints goes to `preview` instead, as one document.
+  void paintInto(QPrinter* preview, const std::function<void()>& print);
+
+  std::function<QWidget*()> frontWindow;  ///< set by whoever makes windows; may return null
+  /// Asks what `printer` is to do; false when the user cancels. Shows the print panel unless somebody sets another.
+  std::function<bool(QPrinter&)> ask;
+
+ private:
+  foundation::FileStore& files_;
+  QPrinter* preview_ = nullptr;
+};
+
+/// @name The document's paper in the toolkit's words
+/// @{
+QPageLayout layoutOf(const framework::PrintInfo& info);
+framework::PrintInfo printInfoOf(const QPageLayout& layout);
+/// @}
+
+}  // namespace nascor::qt

@@ -1,0 +1,33 @@
+#include "qt/QtViewer.h"
+
+#include <QCoreApplication>
+#include <QDesktopServices>
+#include <QDir>
+#include <QFile>
+#include <QUrl>
+
+#include "qt/Text.h"
+
+namespace nascor::qt {
+
+bool QtViewer::open(const std::string& url) {
+  const QUrl target(fromUtf8(url), QUrl::StrictMode);
+  const QString name = target.isLocalFile() ? target.toLocalFile() : target.toString();
+  const auto fail = [&](const char* sentence) {
+    if (tell) tell(QCoreApplication::translate("Viewer", sentence).arg(name));
+    return false;
+  };
+  if (target.isLocalFile() && !QFile::exists(name)) return fail("%1 is not installed.");
+  return QDesktopServices::openUrl(target) || fail("There is no program that shows %1.");
+}
+
+std::string resourceFolder() {
+  const QDir program(QCoreApplication::applicationDirPath());
+  const auto folder = [&](const char* place) {
+    return QDir::cleanPath(program.filePath(QLatin1String(place)));
+  };
+  const QString built = folder("../resources");
+  return QFile::encodeName(QDir(built).exists() ? built : folder("../share/nascor")).toStdString();
+}
+
+}  // namespace nascor::qt

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QString>
+#include <functional>
+#include <string>
+
+#include "framework/Viewer.h"
+
+namespace nascor::qt {
+
+/// The program that the desktop has for a URL.
+class QtViewer final : public framework::Viewer {
+ public:
+  bool open(const std::string& url) override;
+
+  std::function<void(const QString& sentence)> tell;  ///< gets why nothing is shown; may be empty
+};
+
+/// The folder of the application's resources: that of the build, or the one of the installed program, there or not.
+std::string resourceFolder();
+
+}  // namespace nascor::qt

@@ -1,0 +1,80 @@
+#include <gmock/gmock.h>
+
+#include <QDir>
+#include <QImage>
+#include <QTemporaryDir>
+
+#include "Run.h"
+#include "Sample.h"
+
+namespace nascor::tests {
+namespace {
+
+using testing::ContainsRegex;
+using testing::HasSubstr;
+
+class TheExportCommand : public testing::Test {
+ protected:
+  TheExportCommand() { writeFile(document, documentBytes(twins())); }
+  Answer exportPages(const QStringList& arguments) {
+    return run(QStringLiteral(NASCOR_CLI), QStringList{"export", document, "--out", out} + arguments);
+  }
+  QStringList written() const { return QDir(out).entryList(QDir::Files, QDir::Name); }
+
+  QTemporaryDir folder;
+  QString document = folder.filePath(QStringLiteral("twins.nascor"));
+  QString out = folder.filePath(QStringLiteral("new/pages"));
+};
+
+TEST_F(TheExportCommand, writesAllPagesOfAllFetusesAsOnePdf) {
+  const Answer answer = exportPages({});
+  EXPECT_EQ(answer.status, 0) << answer.error;
+  EXPECT_EQ(answer.output, "");
+  EXPECT_EQ(answer.error, "");
+  EXPECT_EQ(written(), QStringList{QStringLiteral("twins.pdf")});
+  const QString pdf = QDir(out).filePath(QStringLiteral("twins.pdf"));
+  EXPECT_THAT(run("pdfinfo", {pdf}).output, ContainsRegex("Pages: +14\n"));
+  EXPECT_THAT(run("pdffonts", {pdf}).output, ContainsRegex("DejaVuSans +CID TrueType +Identity-H +yes"));
+  const std::string text = run("pdftotext", {"-layout", pdf, "-"}).output;
+  // Both fetuses' lengths stand in the reports.
+  for (const char* expected :
+       {"30.0", "40.0", "70.0", "80.0", "Fetus: Twin 1", "Fetus: Twin 2", "Report, page 14 of 14"})
+    EXPECT_THAT(text, HasSubstr(expected));
+}
+
+TEST_F(TheExportCommand, writesChosenPagesOfOneFetus) {
+  EXPECT_EQ(exportPages({"--format", "png", "--pages", "first,last", "--fetus", "2", "--no-foot"}).status, 0);
+  EXPECT_EQ(written(), (QStringList{QStringLiteral("twins 2 of 2 - Report.png"),
+                                    QStringLiteral("twins 2 of 2 - Trends.png")}));
+  EXPECT_EQ(QImage(QDir(out).filePath(written().value(0))).size(), QSize(1600, 1120));
+}
+
+TEST_F(TheExportCommand, writesDrawings) {
+  EXPECT_EQ(exportPages({"--format", "svg", "--pages", "5,report", "--fetus", "1"}).status, 0);
+  EXPECT_EQ(written(), (QStringList{QStringLiteral("twins 1 of 2 - Report.svg"),
+                                    QStringLiteral("twins 1 of 2 - Weight.svg")}));
+}
+
+TEST_F(TheExportCommand, saysWhichInputIsBadAndGoesOn) {
+  const QString cut = folder.filePath(QStringLiteral("cut.nascor"));
+  writeFile(cut, cutDocument());
+  const Answer answer = exportPages({cut, "--pages", "bpd"});
+  EXPECT_EQ(answer.status, 1);
+  EXPECT_THAT(answer.error, HasSubstr(cut.toStdString() + " could not be opened: at byte "));
+  EXPECT_EQ(written(), QStringList{QStringLiteral("twins.pdf")});
+}
+
+TEST_F(TheExportCommand, refusesWrongUsageBeforeItWrites) {
+  for (const QStringList& wrong :
+       {QStringList{"--format", "tiff"}, QStringList{"--pages", "7"}, QStringList{"--pages", "1,"},
+        QStringList{"--fetus", "0"}, QStringList{"--fetus", "x"}}) {
+    const Answer answer = exportPages(wrong);
+    EXPECT_EQ(answer.status, 2) << wrong.join(u' ').toStdString();
+    EXPECT_THAT(answer.error, HasSubstr("usage: nascor-cli export"));
+  }
+  EXPECT_EQ(run(QStringLiteral(NASCOR_CLI), {"export", document}).status, 2);
+  EXPECT_FALSE(QDir(out).exists());
+}
+
+}  // namespace
+}  // namespace nascor::tests

@@ -1,0 +1,102 @@
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <filesystem>
+#include <string>
+#include <system_error>
+#include <vector>
+
+#include <unistd.h>
+
+#include "cli_commands/Command.h"
+
+namespace nascor::cli {
+
+namespace {
+
+constexpr std::array<std::string_view, 3> kFormats{"pdf", "png", "svg"};
+constexpr std::array<std::string_view, 9> kPageNames{"first", "last", "trends", "bpd",   "hc",
+                                                     "ac",    "fl",   "weight", "report"};
+
+bool isPage(std::string_view text) {
+  const bool isNumber = text.size() == 1 && text[0] >= '0' && text[0] <= '6';
+  return isNumber || std::ranges::find(kPageNames, text) != kPageNames.end();
+}
+
+void checkPages(std::string_view pages) {
+  if (pages == "all") return;
+  for (std::size_t start = 0; start <= pages.size();) {
+    const std::size_t end = std::min(pages.find(',', start), pages.size());
+    const std::string_view page = pages.substr(start, end - start);
+    if (!isPage(page)) {
+      throw UsageError("--pages: expected all, first, last, a number from 0 to 6 or a name, but \"" +
+                       std::string(page) + "\" stands here");
+    }
+    start = end + 1;
+  }
+}
+
+void checkFetus(std::string_view fetus) {
+  const bool isNumber = fetus.size() == 1 && fetus[0] >= '1' && fetus[0] <= '5';
+  if (fetus != "all" && !isNumber) throw UsageError("--fetus: expected all or a number from 1 to 5");
+}
+
+/// The application paints. It lies beside this program, which starts in a hundredth of the time without a toolkit.
+std::string painter() {
+  std::error_code error;
+  const std::filesystem::path self = std::filesystem::read_symlink("/proc/self/exe", error);
+  return error ? std::string() : (self.parent_path() / "nascor").string();
+}
+
+void runExport(const Arguments& arguments, Console& console) {
+  const auto folder = arguments.option("out");
+  if (!folder || folder->empty()) throw UsageError("--out is missing");
+  const std::string format = arguments.option("format").value_or("pdf");
+  if (std::ranges::find(kFormats, format) == kFormats.end())
+    throw UsageError("--format: expected pdf, png or svg");
+  const std::string pages = arguments.option("pages").value_or("all");
+  checkPages(pages);
+  const std::string fetus = arguments.option("fetus").value_or("all");
+  checkFetus(fetus);
+
+  const std::string program = painter();
+  std::vector<std::string> words{program, "--quiet", "--write-pages", *folder,   "--format",
+                                 format,  "--pages", pages,           "--fetus", fetus};
+  if (arguments.has("no-foot")) words.emplace_back("--no-foot");
+  words.emplace_back("--");
+  for (const std::string& file : arguments.operands) words.push_back(file == "-" ? "/dev/stdin" : file);
+
+  console.flush();
+  std::vector<char*> pointers;
+  for (std::string& word : words) pointers.push_back(word.data());
+  pointers.push_back(nullptr);
+  ::execv(program.c_str(), pointers.data());
+  console.complain(program,
+                   std::generic_category().message(errno) + "; the pages are painted by this program");
+}
+
+}  // namespace
+
+Command exportCommand() {
+  static constexpr std::array<OperandSpec, 1> kOperands{
+      {{"FILE...", "a document; - is standard input", true}}};
+  static constexpr std::array<OptionSpec, 5> kOptions{{
+      {"out", "DIR", "the folder for the files; it is made when it is missing"},
+      {"format", "pdf|png|svg", "what is written; without this option PDF"},
+      {"pages", "PAGES", "all, or first, last, numbers from 0 to 6 and names, with commas between"},
+      {"fetus", "all|N", "one fetus, the first is 1; without this option all"},
+      {"no-foot", "", "leave off what stands under each page"},
+  }};
+  return {.name = "export",
+          .usage = "FILE... --out DIR [--format pdf|png|svg] [--pages PAGES] [--fetus all|N] [--no-foot]",
+          .summary = "Writes the pages of each document, painted as the application paints them.",
+          .details =
+              "Names of pages: trends, bpd, hc, ac, fl, weight, report (0 to 6).\n"
+              "As PDF all pages of a document are one file; else each is a file of its own.\n"
+              "Files of the same names are replaced.\n",
+          .operands = kOperands,
+          .options = kOptions,
+          .run = runExport};
+}
+
+}  // namespace nascor::cli
