@@ -375,6 +375,32 @@ TEST_F(AScript, mayWriteTenThousandTimesWhileOthersAreAnswered) {
 
 class AnExample : public AScript, public testing::WithParamInterface<const char*> {};
 
+TEST_P(AnExample, makesAPatientAndExportsAPage) {
+  start();
+  const Answer answer =
+      run(QStringLiteral(NASCOR_RESOURCES "/examples/") + QLatin1String(GetParam()),
+          {"AB \"12\" \\ 3", "2027-04-10", "2026-11-21", "48.5", "170", "150.2", "31"}, environment);
+  EXPECT_EQ(answer.status, 0) << answer.error;
+  EXPECT_EQ(answer.output, documentPath(2).toStdString() + "\n");
+  const QString made = documentPath(2);
+  EXPECT_EQ(script->get(made, "identifier"), QStringLiteral("AB \"12\" \\ 3"));
+  EXPECT_EQ(script->get(made, "gravida"), QVariant(1LL));
+  EXPECT_EQ(script->get(made, "edd"), QStringLiteral("2027-04-10"));
+  EXPECT_EQ(script->get(made, "examDate"), QStringLiteral("2026-11-21"));
+  EXPECT_EQ(script->get(made, "bpd"), QVariant(48.5));
+  EXPECT_EQ(script->get(made, "hc"), QVariant(170.0));
+  EXPECT_EQ(script->get(made, "ac").toDouble(), static_cast<double>(150.2F));
+  EXPECT_EQ(script->get(made, "fl"), QVariant(31.0));
+  EXPECT_EQ(script->get(made, "tabViewIndex"), QVariant(1LL));
+  const QStringList exported = QDir(home.filePath(QStringLiteral("Documents"))).entryList(QDir::Files);
+  ASSERT_EQ(exported.size(), 1) << exported.join(u' ').toStdString();
+  EXPECT_TRUE(exported[0].startsWith("AB ") && exported[0].endsWith("(G1) - BPD.pdf"))
+      << exported[0].toStdString();
+  QFile page(home.filePath("Documents/" + exported[0]));
+  ASSERT_TRUE(page.open(QIODevice::ReadOnly));
+  EXPECT_EQ(page.read(5), "%PDF-");
+}
+
 TEST_P(AnExample, saysWhatIsWrong) {
   start();
   const QString program = QStringLiteral(NASCOR_RESOURCES "/examples/") + QLatin1String(GetParam());
