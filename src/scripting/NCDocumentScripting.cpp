@@ -21,8 +21,9 @@ std::string logText(const std::optional<Date>& date) {
   if (!date) return kNone;
   std::string text = foundation::isoDateTimeText(*date, Utc());
   if (text.empty()) return text;
-  text.replace(text.find('T'), 1, " ");
-  return text + " +0000";
+  text[text.find('T')] = ' ';
+  text += " +0000";
+  return text;
 }
 
 }  // namespace

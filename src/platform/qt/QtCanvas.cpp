@@ -19,8 +19,8 @@ namespace {
 
 QColor toolkitColor(const framework::Color& color) {
   const framework::Rgba value = color.value();
-  return QColor::fromRgbF(static_cast<float>(value.red), static_cast<float>(value.green),
-                          static_cast<float>(value.blue), static_cast<float>(value.alpha));
+  const auto byte = [](double part) { return static_cast<int>(std::lround(part * 255.0)); };
+  return QColor(byte(value.red), byte(value.green), byte(value.blue), byte(value.alpha));
 }
 
 bool isFinite(Point point) { return std::isfinite(point.x) && std::isfinite(point.y); }
@@ -114,7 +114,40 @@ void QtCanvas::fillOval(const framework::Rect& rect) {
   if (!isFinite(rect)) return;
   take(Tool::brush);
   setSmooth(true);
-  painter_.drawEllipse(placed(rect));
+  const QRectF oval = placed(rect);
+  if (isSharp_ && color_.alpha() < 255) {
+    fillOvalInSlices(oval);
+  } else {
+    painter_.drawEllipse(oval);
+  }
+}
+
+void QtCanvas::fillOvalInSlices(const QRectF& oval) {
+  // The toolkit blends a shape of many rows in several threads, which costs more than it saves for one as small as this.
+  // The slices meet on the edge of a row of pixels, so that no seam shows.
+  constexpr double kRows = 8.0;
+  constexpr int kPointsOfASide = 12;
+  const QPointF centre = oval.center();
+  const double rx = oval.width() / 2.0;
+  const double ry = oval.height() / 2.0;
+  if (!(rx > 0.0 && ry > 0.0)) return;
+  const double scale = toPixels_.m22();
+  const double firstRow = std::floor(oval.top() * scale + toPixels_.dy());
+  for (double row = firstRow;; row += kRows) {
+    const double top = std::max(oval.top(), (row - toPixels_.dy()) / scale);
+    const double bottom = std::min(oval.bottom(), (row + kRows - toPixels_.dy()) / scale);
+    if (!(bottom > top)) return;
+    const double from = std::acos(std::clamp((centre.y() - top) / ry, -1.0, 1.0));
+    const double to = std::acos(std::clamp((centre.y() - bottom) / ry, -1.0, 1.0));
+    QPolygonF slice(2 * (kPointsOfASide + 1));
+    for (int i = 0; i <= kPointsOfASide; ++i) {
+      const double angle = from + (to - from) * i / kPointsOfASide;
+      const QPointF along(rx * std::sin(angle), -ry * std::cos(angle));
+      slice[i] = centre + along;
+      slice[slice.size() - 1 - i] = centre + QPointF(-along.x(), along.y());
+    }
+    painter_.drawPolygon(slice);
+  }
 }
 
 void QtCanvas::strokeRect(const framework::Rect& rect) {
@@ -262,10 +295,15 @@ void QtCanvas::strokeSharpRect(const QRectF& edge) {
 }
 
 void QtCanvas::fillPixels(const QRectF& pixels) {
+  // As with ovals: many rows at once would be shared out among threads.
+  constexpr double kMostRows = 64.0;
   setSmooth(false);
-  painter_.fillRect(
-      isShiftOnly_ ? pixels.translated(-toPixels_.dx(), -toPixels_.dy()) : fromPixels_.mapRect(pixels),
-      color_);
+  const double rows = color_.alpha() < 255 ? kMostRows : std::max(1.0, pixels.height());
+  for (double top = pixels.top(); top < pixels.bottom(); top += rows) {
+    const QRectF part(pixels.left(), top, pixels.width(), std::min(rows, pixels.bottom() - top));
+    painter_.fillRect(
+        isShiftOnly_ ? part.translated(-toPixels_.dx(), -toPixels_.dy()) : fromPixels_.mapRect(part), color_);
+  }
 }
 
 }  // namespace nascor::qt

@@ -43,6 +43,7 @@ class QtCanvas final : public framework::Canvas {
   QRectF placed(const framework::Rect& rect) const;
   /// Whether the line was along the axes throughout, and drawn.
   bool drawnSharp(const QPolygonF& line, double width);
+  void fillOvalInSlices(const QRectF& oval);
   void fillSharpLine(QPointF from, QPointF to, double width);
   void strokeSharpRect(const QRectF& edge);
   void fillPixels(const QRectF& pixels);
