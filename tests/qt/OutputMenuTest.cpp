@@ -102,9 +102,11 @@ TEST_F(TheOutputItems, rememberThePaper) {
 }
 
 TEST_F(TheOutputItems, sayThatTheGuideIsNotThere) {
-  open(singleton());
+  qt::DocumentApplication incomplete(platform.services(), folder.path().toStdString());
+  incomplete.newDocument();
+  const auto* window = incomplete.windowOf(*incomplete.documents().currentDocument());
   answers = {"OK"};
-  action("guideAction").trigger();
+  window->findChild<QAction*>(QStringLiteral("guideAction"))->trigger();
   ASSERT_EQ(asked.size(), 1U);
   EXPECT_THAT(asked[0].information, testing::HasSubstr("Nascor User Guide.pdf is not installed."));
 }

@@ -13,14 +13,14 @@ namespace nascor::qt {
 
 using framework::ZuDocument;
 
-DocumentApplication::DocumentApplication(const foundation::Services& services)
+DocumentApplication::DocumentApplication(const foundation::Services& services, const std::string& resources)
     : services_(services),
       alerts_(actions_),
       panels_(services),
       pageWriter_(services.files),
       printer_(services.files),
       documents_(services, alerts_, panels_),
-      controller_(services, documents_, {.resourcePath = resourceFolder(), .viewer = &viewer_}),
+      controller_(services, documents_, {.resourcePath = resources, .viewer = &viewer_}),
       recentFiles_(services.defaults) {
   alerts_.frontWindow = [this] { return frontWindow(); };
   alerts_.windowOfPanel = [this](const framework::Panel& panel) -> QWidget* {

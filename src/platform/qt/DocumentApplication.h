@@ -22,8 +22,9 @@ namespace nascor::qt {
 /// The application around the documents: makes a window for each, and asks its questions in front of them.
 class DocumentApplication {
  public:
-  /// Registers the preferences. `services` outlives it.
-  explicit DocumentApplication(const foundation::Services& services);
+  /// Registers the preferences. `services` outlives it. In the folder `resources` lies the user guide.
+  explicit DocumentApplication(const foundation::Services& services,
+                               const std::string& resources = resourceFolder());
   DocumentApplication(const DocumentApplication&) = delete;
   DocumentApplication& operator=(const DocumentApplication&) = delete;
   /// Takes the windows along, without a question.

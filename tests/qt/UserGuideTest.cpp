@@ -1,0 +1,211 @@
+// The user guide that the build has made, read by programs that know nothing of how it is made.
+#include <gmock/gmock.h>
+
+#include <QDesktopServices>
+#include <QDir>
+#include <QFile>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+#include <QTextBrowser>
+#include <QXmlStreamReader>
+
+#include "Run.h"
+#include "WindowTest.h"
+#include "qt/QtViewer.h"
+#include "user-guide/GuideDocument.h"
+#include "user-guide/GuideText.h"
+#include "user-guide/PdfOutline.h"
+#include "user-guide/WindowPictures.h"
+
+namespace nascor::tests {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+QString guidePath() {
+  return QFile::decodeName(QByteArray::fromStdString(qt::resourceFolder())) +
+         QStringLiteral("/Nascor User Guide.pdf");
+}
+
+QString textOf(const QString& pdf, const QStringList& options = {}) {
+  return QString::fromStdString(run("pdftotext", options + QStringList{pdf, "-"}).output);
+}
+QString textOfPage(int page) {
+  return textOf(guidePath(), {"-layout", "-f", QString::number(page), "-l", QString::number(page)});
+}
+int pages() {
+  static const QRegularExpression count(QStringLiteral("Pages:\\s+(\\d+)"));
+  return count.match(QString::fromStdString(run("pdfinfo", {guidePath()}).output)).captured(1).toInt();
+}
+
+struct Bookmark {
+  QString title;
+  int page = 0;
+  int level = 0;
+};
+
+/// The bookmarks of a file, as another program reads them.
+std::vector<Bookmark> bookmarksOf(const QString& pdf) {
+  const QTemporaryDir folder;
+  const Answer answer = run("pdftohtml", {"-xml", "-i", "-q", pdf, folder.filePath("guide")});
+  QFile file(folder.filePath("guide.xml"));
+  EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << answer.error;
+  QString text = QString::fromUtf8(file.readAll());
+  std::vector<Bookmark> found;
+  int level = 0;
+  static const QRegularExpression part(
+      QStringLiteral("<outline>|</outline>|<item page=\"(\\d+)\">([^<]*)</item>"));
+  for (auto parts = part.globalMatch(text); parts.hasNext();) {
+    const auto match = parts.next();
+    if (match.captured(0) == QLatin1String("<outline>")) {
+      ++level;
+    } else if (match.captured(0) == QLatin1String("</outline>")) {
+      --level;
+    } else {
+      QString title = match.captured(2);
+      title.replace(QStringLiteral("&amp;"), QStringLiteral("&"));
+      found.push_back({.title = title.simplified(), .page = match.captured(1).toInt(), .level = level});
+    }
+  }
+  return found;
+}
+
+TEST(TheUserGuide, liesWhereTheApplicationLooks) { EXPECT_TRUE(QFile::exists(guidePath())); }
+
+TEST(TheUserGuide, isInstalledWhereTheInstalledApplicationLooks) {
+  const QTemporaryDir prefix;
+  const Answer answer = run(NASCOR_CMAKE, {"--install", NASCOR_BUILD, "--prefix", prefix.path()});
+  ASSERT_EQ(answer.status, 0) << answer.error;
+  EXPECT_TRUE(QFile::exists(prefix.filePath("bin/nascor")));
+  EXPECT_TRUE(QFile::exists(prefix.filePath("share/nascor/Nascor User Guide.pdf")));
+}
+
+TEST(TheUserGuide, hasEachChapterAsABookmarkOfThePageOnWhichItBegins) {
+  const std::vector<Bookmark> bookmarks = bookmarksOf(guidePath());
+  QStringList chapters;
+  for (const Bookmark& bookmark : bookmarks) {
+    if (bookmark.level == 1) chapters << bookmark.title;
+    EXPECT_THAT(textOfPage(bookmark.page).simplified().toStdString(),
+                HasSubstr(bookmark.title.toStdString()));
+  }
+  EXPECT_EQ(chapters.join(u'\n').toStdString(),
+            "1 What Nascor is, and what it is not\n2 A first patient in ten minutes\n3 The window\n"
+            "4 The menus\n5 Dating the pregnancy\n6 The charts\n7 The report\n8 Printing and exporting\n"
+            "9 When something goes wrong\n10 Scripting\n11 The command line\n12 The document file\n"
+            "13 Oddities kept on purpose\n14 Formulas and their sources");
+  EXPECT_GT(bookmarks.size(), 30U);
+}
+
+TEST(TheUserGuide, listsInItsContentsThePagesOfTheBookmarks) {
+  const QString contents = textOfPage(1) + textOfPage(2);
+  for (const Bookmark& bookmark : bookmarksOf(guidePath())) {
+    QString pattern = QRegularExpression::escape(bookmark.title);
+    pattern.replace(QStringLiteral("\\ "), QStringLiteral("\\s+"));
+    EXPECT_TRUE(QRegularExpression(pattern + QStringLiteral("\\s+%1\\n").arg(bookmark.page))
+                    .match(contents)
+                    .hasMatch())
+        << bookmark.title.toStdString() << ' ' << bookmark.page;
+  }
+}
+
+TEST(TheUserGuide, numbersItsPages) {
+  const int count = pages();
+  ASSERT_GT(count, 20);
+  for (int page = 2; page <= count; ++page) {
+    EXPECT_TRUE(textOfPage(page).trimmed().endsWith(QStringLiteral(" %1").arg(page))) << page;
+  }
+}
+
+TEST(TheUserGuide, saysOnEachPageThatItIsNoMedicalDevice) {
+  for (int page = 1; page <= pages(); ++page)
+    EXPECT_THAT(textOfPage(page).toStdString(),
+                HasSubstr("Not a medical device. Not validated for clinical use."));
+}
+
+TEST(TheUserGuide, namesEveryItemOfTheMenus) {
+  const QString text = textOf(guidePath()).simplified();
+  QFile form(QStringLiteral(NASCOR_FORMS "/MyDocument.ui"));
+  ASSERT_TRUE(form.open(QIODevice::ReadOnly));
+  QXmlStreamReader xml(&form);
+  bool isItem = false;
+  QString property;
+  int items = 0;
+  while (!xml.atEnd()) {
+    xml.readNext();
+    if (!xml.isStartElement()) continue;
+    const auto attribute = [&](const char* name) {
+      return xml.attributes().value(QLatin1String(name)).toString();
+    };
+    if (xml.name() == QLatin1String("action")) {
+      isItem = true;
+    } else if (xml.name() == QLatin1String("widget")) {
+      isItem = attribute("class") == QLatin1String("QMenu");
+    } else if (xml.name() == QLatin1String("property")) {
+      property = attribute("name");
+    } else if (isItem && xml.name() == QLatin1String("string") &&
+               (property == QLatin1String("text") || property == QLatin1String("title"))) {
+      const QString item = xml.readElementText().remove(u'&');
+      EXPECT_THAT(text.toStdString(), HasSubstr(item.toStdString()));
+      ++items;
+    }
+  }
+  EXPECT_GT(items, 30);
+}
+
+TEST(TheUserGuide, citesWhatTheReferencesCite) {
+  const QString text = textOf(guidePath()).simplified();
+  EXPECT_THAT(text.toStdString(), HasSubstr("Radiology 1984;152:497\u2013501"));
+  EXPECT_THAT(text.toStdString(), HasSubstr("Br J Obstet Gynaecol 1975;82(9):702\u2013710"));
+}
+
+/// Takes the place of the user's viewer.
+class Viewer final : public QTextBrowser {
+ public:
+  Viewer() { QDesktopServices::setUrlHandler(QStringLiteral("file"), this, "setSource"); }
+  ~Viewer() override { QDesktopServices::unsetUrlHandler(QStringLiteral("file")); }
+  QStringList shown;
+
+ protected:
+  void doSetSource(const QUrl& url, QTextDocument::ResourceType) override { shown << url.toLocalFile(); }
+};
+
+using TheHelpMenu = WindowTest;
+
+TEST_F(TheHelpMenu, showsTheGuideInTheUsersViewer) {
+  Viewer viewer;
+  openBlank();
+  action("guideAction").trigger();
+  settle();
+  ASSERT_EQ(viewer.shown.size(), 1);
+  EXPECT_TRUE(QFile::exists(viewer.shown.front())) << viewer.shown.front().toStdString();
+  EXPECT_EQ(viewer.shown.front().toStdString(), guidePath().toStdString());
+}
+
+TEST(MakingTheGuide, stopsAtAPictureThatThereIsNot) {
+  EXPECT_THROW(user_guide::WindowPictures(QString()).picture(QStringLiteral("dialog-none")),
+               std::runtime_error);
+}
+TEST(MakingTheGuide, stopsAtAChapterThatThereIsNot) {
+  EXPECT_THROW(user_guide::guideText({QStringLiteral("/nowhere/chapter.md")}), std::runtime_error);
+}
+TEST(MakingTheGuide, appendsNoBookmarksToWhatIsNoPdf) {
+  EXPECT_THROW(user_guide::withOutline("%PDF-1.4 and rubbish", {{.title = QStringLiteral("A")}}, 842.0),
+               std::runtime_error);
+}
+TEST(MakingTheGuide, keepsEverySignOfATitleInItsBookmark) {
+  const QTemporaryDir folder;
+  const QString path = folder.filePath("a.pdf");
+  writeFile(path, user_guide::guidePdf(
+                      {.title = "T", .subtitle = {}, .warning = {}},
+                      "# Cr\u00e9quat\n\ntext\n\n## One\n\ntext\n\n## Two\n\ntext\n\n# Last\n\ntext\n",
+                      [](const QString&) { return QImage(); }));
+  std::vector<std::string> read;
+  for (const Bookmark& each : bookmarksOf(path))
+    read.push_back(std::to_string(each.level) + " " + each.title.toStdString() + " " +
+                   std::to_string(each.page));
+  EXPECT_THAT(read, ElementsAre("1 1 Cr\u00e9quat 2", "2 1.1 One 2", "2 1.2 Two 2", "1 2 Last 3"));
+}
+
+}  // namespace
+}  // namespace nascor::tests

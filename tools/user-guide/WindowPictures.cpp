@@ -1,0 +1,240 @@
+#include "user-guide/WindowPictures.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QDialog>
+#include <QDir>
+#include <QLineEdit>
+#include <QLocale>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QSpinBox>
+#include <QTabWidget>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <stdexcept>
+#include <string_view>
+
+#include "foundation/Clock.h"
+#include "foundation/Log.h"
+#include "foundation/NotificationCenter.h"
+#include "foundation/Services.h"
+#include "foundation/UserDefaults.h"
+#include "posix/PosixCalendar.h"
+#include "posix/PosixFileStore.h"
+#include "qt/DocumentApplication.h"
+#include "qt/PageView.h"
+#include "qt/QtLocalizer.h"
+#include "qt/Text.h"
+
+namespace nascor::user_guide {
+namespace {
+
+constexpr double kScale = 2.0;
+const QSize kWindowSize(1180, 760);
+constexpr foundation::Date kToday{
+    826624800.0};  // 13 March 2027, 10 o'clock: the day of the sample's last examination
+
+class StandingClock final : public foundation::Clock {
+ public:
+  foundation::Date now() const override { return kToday; }
+};
+
+/// A guide shows the program as it comes, not as its maker has set it.
+class FreshDefaults final : public foundation::UserDefaults {
+ public:
+  std::optional<std::string> value(std::string_view key) const override {
+    const auto found = values_.find(key);
+    return found == values_.end() ? std::nullopt : std::optional(found->second);
+  }
+  void setValue(std::string_view key, std::string value) override {
+    values_.insert_or_assign(std::string(key), std::move(value));
+  }
+  void registerDefault(std::string_view key, std::string value) override {
+    values_.try_emplace(std::string(key), std::move(value));
+  }
+
+ private:
+  std::map<std::string, std::string, std::less<>> values_;
+};
+
+class NoLog final : public foundation::Log {
+ public:
+  void write(std::string_view) override {}
+};
+
+void settle() {
+  for (int i = 0; i < 3; ++i) QCoreApplication::processEvents();
+}
+
+QImage imageOf(QWidget& widget) {
+  QImage image((QSizeF(widget.size()) * kScale).toSize(), QImage::Format_RGB32);
+  image.setDevicePixelRatio(kScale);
+  image.fill(Qt::white);
+  widget.render(&image);
+  return image;
+}
+
+}  // namespace
+
+struct WindowPictures::Application {
+  StandingClock clock;
+  posix::PosixCalendar calendar;
+  qt::QtLocalizer localizer{QLocale(QLocale::English, QLocale::UnitedStates)};
+  FreshDefaults defaults;
+  QTemporaryDir folder;
+  posix::PosixFileStore files{folder.path().toStdString()};
+  NoLog log;
+  foundation::NotificationCenter notifications;
+  qt::DocumentApplication documents{services()};
+  QDir samples;
+
+  foundation::Services services() {
+    return {.clock = clock,
+            .calendar = calendar,
+            .localizer = localizer,
+            .defaults = defaults,
+            .files = files,
+            .log = log,
+            .notifications = notifications};
+  }
+
+  /// The window of a sample patient, in front.
+  qt::DocumentWindow& open(const char* sample) {
+    documents.openFiles({samples.filePath(QLatin1String(sample))});
+    framework::ZuDocument* current = documents.documents().currentDocument();
+    qt::DocumentWindow* window = current ? documents.windowOf(*current) : nullptr;
+    if (!window || !current->filePath()) throw std::runtime_error(std::string("no window shows ") + sample);
+    window->resize(kWindowSize);
+    settle();
+    return *window;
+  }
+  template <class Wanted>
+  static Wanted& part(const QObject& parent, const QString& name) {
+    auto* found = parent.findChild<Wanted*>(name);
+    if (!found) throw std::runtime_error("there is no " + name.toStdString());
+    return *found;
+  }
+  /// As if the user had typed it.
+  static void type(const QWidget& window, const char* field, const char* text) {
+    auto& edit = part<QLineEdit>(window, QLatin1String(field));
+    edit.setFocus();
+    edit.selectAll();
+    edit.insert(QLatin1String(text));
+    settle();
+  }
+  /// The dialog that the action opens beside the window.
+  static QDialog& dialog(qt::DocumentWindow& window, const char* action, const char* name) {
+    part<QAction>(window, QLatin1String(action)).trigger();
+    settle();
+    return part<QDialog>(window, QLatin1String(name));
+  }
+  /// The dialog that the action opens in front of everything, until it is answered.
+  static QImage modal(qt::DocumentWindow& window, const QString& action) {
+    QImage image;
+    QTimer::singleShot(0, &window, [&] {
+      settle();
+      auto* shown = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+      if (!shown) return;
+      image = imageOf(*shown);
+      shown->reject();
+    });
+    part<QAction>(window, action).trigger();
+    if (image.isNull()) throw std::runtime_error(action.toStdString() + " opens no dialog");
+    return image;
+  }
+
+  QImage page(const QString& name) {
+    qt::DocumentWindow& window = open("singleton.nascor");
+    auto& tabs = part<QTabWidget>(window, QStringLiteral("tabView"));
+    for (int i = 0; i < tabs.count(); ++i) {
+      if (tabs.tabText(i).compare(name, Qt::CaseInsensitive) != 0) continue;
+      tabs.setCurrentIndex(i);
+      settle();
+      auto& view = dynamic_cast<qt::PageView&>(*tabs.widget(i));
+      return imageOf(view).copy(
+          QRectF(view.paper().topLeft() * kScale, view.paper().size() * kScale).toRect());
+    }
+    throw std::runtime_error("there is no page " + name.toStdString());
+  }
+  QImage menu(const QString& name) {
+    qt::DocumentWindow& window = open("singleton.nascor");
+    auto& menu = part<QMenu>(window, name + QStringLiteral("Menu"));
+    QMetaObject::invokeMethod(&menu, "aboutToShow");
+    menu.ensurePolished();
+    menu.resize(menu.sizeHint());
+    return imageOf(menu);
+  }
+  QImage question() {
+    qt::DocumentWindow& window = open("singleton.nascor");
+    dialog(window, "eddFromLMPAction", "lmpWindow");
+    for (QWidget* shown : QApplication::topLevelWidgets()) {
+      auto* box = qobject_cast<QMessageBox*>(shown);
+      if (!box || !box->isVisible()) continue;
+      const QImage image = imageOf(*box);
+      box->reject();
+      settle();
+      return image;
+    }
+    throw std::runtime_error("nothing is asked");
+  }
+};
+
+WindowPictures::WindowPictures(const QString& samples) : application_(std::make_unique<Application>()) {
+  application_->samples = QDir(samples);
+}
+WindowPictures::~WindowPictures() = default;
+
+QImage WindowPictures::picture(const QString& name) {
+  Application& shown = *application_;
+  using Maker = std::function<QImage()>;
+  const std::map<QString, Maker> makers{
+      {QStringLiteral("window"),
+       [&] {
+         qt::DocumentWindow& window = shown.open("singleton.nascor");
+         Application::part<QTabWidget>(window, QStringLiteral("tabView")).setCurrentIndex(1);
+         settle();
+         return imageOf(window);
+       }},
+      {QStringLiteral("window-twins"), [&] { return imageOf(shown.open("twins.nascor")); }},
+      {QStringLiteral("dialog-lmp"),
+       [&] {
+         QDialog& dialog = Application::dialog(shown.open("no-edd.nascor"), "eddFromLMPAction", "lmpWindow");
+         Application::type(dialog, "lmpWindowLMP", "7/4/2026");
+         return imageOf(dialog);
+       }},
+      {QStringLiteral("dialog-crl"),
+       [&] {
+         QDialog& dialog = Application::dialog(shown.open("no-edd.nascor"), "eddFromCRLAction", "crlWindow");
+         Application::type(dialog, "crlWindowCRL", "45.0");
+         return imageOf(dialog);
+       }},
+      {QStringLiteral("dialog-measurements"),
+       [&] {
+         return imageOf(Application::dialog(shown.open("no-edd.nascor"), "eddFromMeasurementsAction",
+                                            "measurementsWindow"));
+       }},
+      {QStringLiteral("dialog-adjust"),
+       [&] {
+         return imageOf(Application::dialog(shown.open("singleton.nascor"), "adjustDeliveryAction",
+                                            "adjustDeliveryPanel"));
+       }},
+      {QStringLiteral("dialog-question"), [&] { return shown.question(); }},
+      {QStringLiteral("dialog-references"),
+       [&] {
+         return imageOf(
+             Application::dialog(shown.open("singleton.nascor"), "referencesAction", "referencesDialog"));
+       }},
+      {QStringLiteral("dialog-about"),
+       [&] { return Application::modal(shown.open("singleton.nascor"), QStringLiteral("aboutAction")); }},
+      {QStringLiteral("dialog-export-settings"), [&] {
+         return Application::modal(shown.open("singleton.nascor"), QStringLiteral("exportSettingsAction"));
+       }}};
+  if (const auto found = makers.find(name); found != makers.end()) return found->second();
+  if (name.startsWith(QLatin1String("page-"))) return shown.page(name.mid(5));
+  if (name.startsWith(QLatin1String("menu-"))) return shown.menu(name.mid(5));
+  throw std::runtime_error("there is no picture " + name.toStdString());
+}
+
+}  // namespace nascor::user_guide

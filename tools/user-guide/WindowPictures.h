@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QImage>
+#include <QString>
+#include <functional>
+#include <map>
+#include <memory>
+
+namespace nascor::user_guide {
+
+/// Pictures of the application's own windows, two pixels to the unit: "window", "page-NAME", "menu-NAME" and "dialog-NAME".
+class WindowPictures {
+ public:
+  /// The patients on show are those of the folder `samples`.
+  explicit WindowPictures(const QString& samples);
+  ~WindowPictures();
+
+  /// Throws std::runtime_error when there is no such picture.
+  QImage picture(const QString& name);
+
+ private:
+  struct Application;
+  std::unique_ptr<Application> application_;
+};
+
+}  // namespace nascor::user_guide
