@@ -87,6 +87,14 @@ Json drawingOf(framework::Page& page, double width, double height) {
   return list;
 }
 
+Json marksOf(framework::Page& page) {
+  Json marks = Json::array();
+  for (const Json& entry : drawingOf(page, framework::Page::kWidth, framework::Page::kHeight)) {
+    if (entry[0] == "fillOval" || entry[0] == "mark") marks.push_back(entry);
+  }
+  return marks;
+}
+
 void layOutAndPaint(framework::Page& page) {
   page.layout(framework::Page::kWidth, framework::Page::kHeight);
   tests::RecordingSurface surface;

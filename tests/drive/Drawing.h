@@ -11,6 +11,9 @@ namespace nascor::drive {
 /// empty paths, and whatever has a coordinate that is not finite.
 nlohmann::ordered_json drawingOf(framework::Page& page, double width, double height);
 
+/// The marks of lengths and the discs behind them alone, in the order in which they are drawn.
+nlohmann::ordered_json marksOf(framework::Page& page);
+
 /// Shows the page on nothing, so that its views know where they lie.
 void layOutAndPaint(framework::Page& page);
 

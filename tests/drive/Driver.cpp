@@ -15,6 +15,7 @@
 #include "foundation/JsonText.h"
 #include "foundation/UserDefaults.h"
 #include "model/PatientJson.h"
+#include "support/ReadOnlyFields.h"
 
 namespace nascor::drive {
 namespace {
@@ -302,6 +303,8 @@ Driver::Driver()
   };
   documents_.onDocumentRemoved = [this](framework::ZuDocument& removed) { numbers_.erase(&removed); };
   application_.awakeFromNib();
+  pageWriter_.onSheet =
+      printer_.onSheet = [this](const framework::Sheet& sheet) { paper_.push_back(marksOf(sheet.page)); };
 }
 
 Driver::~Driver() {
@@ -358,7 +361,8 @@ Json Driver::perform(const std::string& key, const Json& argument) {
       {"step", &Driver::step},         {"tab", &Driver::tab},
       {"click", &Driver::click},       {"draw", &Driver::draw},
       {"advance", &Driver::advance},   {"zone", &Driver::zone},
-      {"locale", &Driver::locale},
+      {"locale", &Driver::locale},     {"paper", &Driver::paper},
+      {"marks", &Driver::marks},
   };
   if (key == "new" || key == "state") {
     if (argument != Json(true)) refuse("expected true");
@@ -431,6 +435,7 @@ Json Driver::edit(const Json& fieldAndText) {
     return {{"began", began}, {"ended", began}};
   }
   framework::TextField& field = fieldNamed(edited, name);
+  if (tests::isReadOnlyField(name)) refuse("nobody can type into \"" + name + "\"");
   framework::FieldEditor& editor = edited.fieldEditor();
   if (!editor.begin(field)) return {{"began", false}, {"ended", false}};
   editor.replace(text);
@@ -588,6 +593,15 @@ Json Driver::draw(const Json& drawn) {
   const double width = hasSize ? numberArgument(drawn[1], "a number") : framework::Page::kWidth;
   const double height = hasSize ? numberArgument(drawn[2], "a number") : framework::Page::kHeight;
   return {{"draw", drawingOf(page, width, height)}};
+}
+
+Json Driver::marks(const Json& page) {
+  return {{"marks", marksOf(document().tabView().page(integerArgument(page, "the index of a page")))}};
+}
+
+Json Driver::paper(const Json& word) {
+  if (word != Json(true)) refuse("expected true");
+  return {{"paper", std::exchange(paper_, Json::array())}};
 }
 
 Json Driver::advance(const Json& seconds) {

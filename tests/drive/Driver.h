@@ -59,6 +59,9 @@ class Driver {
   Json tab(const Json& page);
   Json click(const Json& click);
   Json draw(const Json& drawn);
+  Json marks(const Json& page);
+  /// The marks and discs on the pages that were exported or printed since this was last asked.
+  Json paper(const Json& word);
   Json advance(const Json& seconds);
   Json zone(const Json& name);
   Json locale(const Json& name);
@@ -98,6 +101,7 @@ class Driver {
 
   std::vector<foundation::NotificationCenter::Subscription> postSubscriptions_;
   Json posted_ = Json::array();
+  Json paper_ = Json::array();
   Json effects_ = Json::array();
   std::map<const framework::ZuDocument*, std::int64_t> numbers_;
   std::int64_t nextNumber_ = 0;

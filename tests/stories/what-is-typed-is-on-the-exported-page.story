@@ -24,3 +24,10 @@ A field that refuses its text holds the export back, and the printer too.
 {"do":["doExport"]}
 {"state":true}
 =~ {"exports":["..."]}
+
+A note that is still being typed reaches them before the printer begins, too.
+
+{"edit":["notesField","breech"]}
+{"do":["printDocumentWithSettings",false]}
+{"state":true}
+=~ {"prints":["..."],"document":{"examinations":[{"note":"breech"}]}}

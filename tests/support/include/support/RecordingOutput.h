@@ -32,6 +32,7 @@ class RecordingPageWriter final : public framework::PageWriter {
   std::optional<foundation::FileError> writePage(const framework::Sheet& sheet, framework::PageFormat format,
                                                  const std::string& path) override {
     if (onWrite) onWrite();
+    if (onSheet) onSheet(sheet);
     const auto bytes = std::as_bytes(std::span(sheet.page.name()));
     if (auto error = files_.replaceContents(path, bytes)) return error;
     written.push_back({path, sheet.page.name(), format, sheet.foot});
@@ -39,7 +40,8 @@ class RecordingPageWriter final : public framework::PageWriter {
   }
 
   std::vector<Written> written;
-  std::function<void()> onWrite;  ///< sent before each page is written
+  std::function<void()> onWrite;                         ///< sent before each page is written
+  std::function<void(const framework::Sheet&)> onSheet;  ///< sent with each page
 
  private:
   foundation::FileStore& files_;
@@ -68,7 +70,8 @@ class RecordingPrinter final : public framework::Printer {
   /// What the next pages get for an answer, in order; a page without one is printed.
   std::deque<std::variant<framework::PrintOutcome, foundation::FileError>> answers;
   std::optional<foundation::FileError> finishError;
-  std::function<void()> onPage;  ///< sent for each page
+  std::function<void()> onPage;                          ///< sent for each page
+  std::function<void(const framework::Sheet&)> onSheet;  ///< sent with each page
 
  private:
   class Job final : public framework::PrintJob {
@@ -77,6 +80,7 @@ class RecordingPrinter final : public framework::Printer {
     std::variant<framework::PrintOutcome, foundation::FileError> addPage(const framework::Sheet& sheet,
                                                                          bool showsPanel) override {
       if (printer_.onPage) printer_.onPage();
+      if (printer_.onSheet) printer_.onSheet(sheet);
       printer_.printed.push_back({&sheet.page, showsPanel, sheet.foot});
       if (printer_.answers.empty()) return framework::PrintOutcome::printed;
       auto answer = printer_.answers.front();
