@@ -8,6 +8,7 @@
 #include "calc/Dating.h"
 #include "foundation/Calendar.h"
 #include "foundation/Clock.h"
+#include "foundation/DateText.h"
 #include "foundation/Localizer.h"
 #include "foundation/ShortDate.h"
 
@@ -114,7 +115,7 @@ NCDocument::ProposedEDD NCDocument::eddFromMeasurements() const {
 
 NCDocument::ProposedEDD NCDocument::proposed(const std::optional<foundation::Date>& date,
                                              std::vector<const TextField*> obstacles) const {
-  const foundation::ShortDateForm form = services().localizer.shortDateForm();
+  const foundation::ShortDateForm form = foundation::dateForm(services().localizer);
   std::string text = shortDateText(date);
   // The records take the date from this text.
   if (text.empty() ||

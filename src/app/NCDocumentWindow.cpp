@@ -53,6 +53,8 @@ void NCDocument::windowWillClose() { showAllSubscription_.reset(); }
 
 void NCDocument::synchronizeFromData() {
   if (!patientRecord_) return;
+  // Before anything is shown or stored: fields of which some are read would be those of two patients.
+  foundation::dateForm(services().localizer);
   fieldEditor().revert();
   referenceIDField().setText(patientRecord_->maternalIDString().value_or(""));
   gravidaField_.setIntegerValue(patientRecord_->gravida());
@@ -78,6 +80,7 @@ void NCDocument::synchronizeFromData() {
 
 void NCDocument::synchronizeToData() {
   if (!patientRecord_) return;
+  foundation::dateForm(services().localizer);
   patientRecord_->setMaternalIDString(referenceIDField().text());
   patientRecord_->setGravida(gravidaField_.integerValue());
   patientRecord_->setEDD(dateFromField(birthDateField(), patientRecord_->edd()));
@@ -193,6 +196,7 @@ bool NCDocument::mayModify(std::string_view message, std::string_view informatio
 }
 
 std::string NCDocument::shortDateText(const std::optional<Date>& date) const {
+  foundation::dateForm(services().localizer);
   return foundation::shortDateText(date, services().calendar, services().localizer);
 }
 
@@ -203,7 +207,8 @@ std::optional<Date> NCDocument::dateFromField(const TextField& field, const std:
 }
 
 std::optional<Date> NCDocument::dateFromText(const TextField& field) const {
-  const auto day = foundation::civilDayFromShortText(field.text(), services().localizer.shortDateForm());
+  const auto day =
+      foundation::civilDayFromShortText(field.text(), foundation::dateForm(services().localizer));
   if (!day) return std::nullopt;
   return foundation::startOfDay(*day, services().calendar);
 }

@@ -1,5 +1,6 @@
 #include "foundation/DateText.h"
 
+#include "foundation/Assertion.h"
 #include "foundation/ShortDate.h"
 
 namespace nascor::foundation {
@@ -8,6 +9,12 @@ std::string shortDateText(const std::optional<Date>& date, const Calendar& calen
                           const Localizer& localizer) {
   const auto day = date ? localDay(*date, calendar) : std::nullopt;
   return day ? shortDateText(*day, localizer.shortDateForm()) : std::string();
+}
+
+ShortDateForm dateForm(const Localizer& localizer) {
+  ShortDateForm form = localizer.shortDateForm();
+  required(!form.pattern.empty());
+  return form;
 }
 
 }  // namespace nascor::foundation

@@ -13,4 +13,7 @@ namespace nascor::foundation {
 std::string shortDateText(const std::optional<Date>& date, const Calendar& calendar,
                           const Localizer& localizer);
 
+/// The form of `localizer`; an AssertionFailure where it has none.
+ShortDateForm dateForm(const Localizer& localizer);
+
 }  // namespace nascor::foundation

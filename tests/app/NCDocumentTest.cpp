@@ -5,9 +5,11 @@
 
 #include <cmath>
 #include <cstring>
+#include <type_traits>
 
 #include "archive/FormatError.h"
 #include "calc/FetalWeight.h"
+#include "foundation/Assertion.h"
 #include "foundation/UserDefaults.h"
 #include "model/PatientFile.h"
 #include "support/RecordingCanvas.h"
@@ -205,6 +207,9 @@ TEST_F(ADocument, findsMeasurementsByFetusAndExamination) {
 }
 
 TEST_F(ADocument, knowsTheAgeAtEachExamination) {
+  // Counted from 0 without a sign, so that no index is before the first.
+  static_assert(std::is_same_v<decltype(&NCDocument::menstrualAgeForRecord),
+                               double (NCDocument::*)(std::uint64_t) const>);
   const auto opened = document(kEDD, {280, 140, 0, -7});
   EXPECT_EQ(opened->menstrualAgeForRecord(0), 0.0);
   EXPECT_EQ(opened->menstrualAgeStringForRecord(0), "-");
@@ -364,6 +369,43 @@ TEST_F(ADocument, passesOverExaminationsWithoutADateWhenItIsClicked) {
 TEST_F(ADocument, showsADateThatHasNoTextAsNothing) {
   const auto opened = document(Date{std::numeric_limits<double>::quiet_NaN()}, {100});
   EXPECT_EQ(opened->birthDateField().text(), "");
+}
+
+TEST_F(ADocument, storesAndShowsNothingWithoutAFormForDates) {
+  struct SometimesNoDates final : foundation::Localizer {
+    std::string pattern = "M/d/yy";
+    std::string text(std::string_view, std::string_view key) const override { return std::string(key); }
+    foundation::ShortDateForm shortDateForm() const override {
+      return {.pattern = pattern, .monthNames = {}};
+    }
+    char decimalSign() const override { return '.'; }
+    std::string upperCased(std::string_view text) const override { return std::string(text); }
+  } localizer;
+  const foundation::Services services{.clock = platform.clock,
+                                      .calendar = platform.calendar,
+                                      .localizer = localizer,
+                                      .defaults = platform.defaults,
+                                      .files = platform.files,
+                                      .log = platform.log,
+                                      .notifications = platform.notifications};
+  NCDocument opened(framework::DocumentEnvironment{
+      .services = services, .alerts = platform.alerts, .controller = platform.documents});
+  opened.windowControllerDidLoadNib();
+  opened.patientRecord()->setMaternalIDString("A");
+  opened.patientRecord()->setEDD(kEDD);
+  opened.synchronizeFromData();
+  opened.referenceIDField().takeEditedText("B");
+  opened.patientRecord()->setMaternalIDString("C");
+  localizer.pattern = "";
+  EXPECT_THROW(opened.synchronizeToData(), foundation::AssertionFailure);
+  EXPECT_EQ(opened.patientRecord()->maternalIDString(), "C");
+  EXPECT_EQ(opened.patientRecord()->edd(), kEDD);
+  EXPECT_THROW(opened.synchronizeFromData(), foundation::AssertionFailure);
+  EXPECT_EQ(opened.referenceIDField().text(), "B");
+  EXPECT_THROW(opened.adjustDeliveryDate(&opened), foundation::AssertionFailure);
+  EXPECT_THROW(opened.doSetEDDfromCRL(nullptr), foundation::AssertionFailure);
+  EXPECT_THROW(opened.okSetEDDfromCRL(nullptr), foundation::AssertionFailure);
+  EXPECT_THROW(opened.okSetEDDfromLMP(nullptr), foundation::AssertionFailure);
 }
 
 TEST_F(ADocument, doesNotDisturbAnotherOne) {
