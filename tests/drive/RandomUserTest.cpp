@@ -195,8 +195,10 @@ class RandomUser {
                                                              {8, &RandomUser::deleteAFetus},
                                                              {8, &RandomUser::addAnExamination},
                                                              {8, &RandomUser::deleteAnExamination},
-                                                             {10, &RandomUser::goToAnotherExamination},
-                                                             {7, &RandomUser::click},
+                                                             {12, &RandomUser::goToAnotherExamination},
+                                                             {6, &RandomUser::click},
+                                                             {8, &RandomUser::clickOnAPage},
+                                                             {5, &RandomUser::useADialog},
                                                              {6, &RandomUser::step},
                                                              {5, &RandomUser::turnThePage},
                                                              {7, &RandomUser::useTheMenu},
@@ -452,6 +454,75 @@ class RandomUser {
     count("clicked", isDated);
   }
 
+  /// Most clicks are near the mean of the BPD, where the band is; the others anywhere.
+  void clickOnAPage() {
+    std::size_t page = pick(7);
+    auto x = static_cast<double>(pick(800));
+    auto y = static_cast<double>(pick(560));
+    if (chance(0.8)) {
+      page = 1;
+      const double week = 14.0 + static_cast<double>(pick(26));
+      x = 60.0 + (week - 8.0) / 34.0 * 720.0;
+      y = 495.0 - (-31.546 + 4.69 * week - 0.0371 * week * week) / 120.0 * 460.0;
+    }
+    const std::size_t presses = chance(0.2) ? 3 : 1 + pick(2);
+    say({{"click", {page, x, y, presses}}});
+    const Json now = state();
+    checkInvariants(now);
+    const bool isDated = !before_["document"]["edd"].is_null();
+    if (!isDated || presses != 1) {
+      EXPECT_EQ(now["currentExam"], before_["currentExam"]) << where();
+    }
+    if (presses == 2 && page == 0) {
+      EXPECT_LE(now["tab"], 4) << where();
+    } else if (presses != 2 || page == 6) {
+      EXPECT_EQ(now["tab"], page) << where();
+    } else {
+      EXPECT_TRUE(now["tab"] == page || now["tab"] == 0) << where();
+    }
+    expectExaminations(now, expectedExaminations(), Order::same, Note::isStored);
+    count("page clicked");
+    count("clicked to another page", now["tab"] != page);
+  }
+
+  void useADialog() {
+    const std::size_t which = pick(3);
+    const std::string from =
+        std::vector<std::string>{"EDDfromCRL", "EDDfromLMP", "EDDfromMeasurements"}[which];
+    const std::string window =
+        std::vector<std::string>{"crlWindow", "lmpWindow", "measurementsWindow"}[which];
+    const bool isAsked = !before_["document"]["edd"].is_null();
+    const bool goesOn = !isAsked || nextAnswer(chance(0.8) ? "Modify" : "Cancel") == "Modify";
+    say({{"do", {"doSet" + from}}});
+    if (goesOn && which == 0) {
+      say({{"edit", {"crlWindowDate", randomDay()}}});
+      const double crl = 10.0 + static_cast<double>(pick(690)) / 10.0;
+      say({{"edit", {"crlWindowCRL", shownNumber(crl, player_.decimalSign)}}});
+    } else if (goesOn && which == 1) {
+      say({{"edit", {"lmpWindowLMP", randomDay()}}});
+      say({{"edit", {"lmpWindowCycleField", std::to_string(21 + pick(20))}}});
+    } else if (goesOn) {
+      say({{"check", {"measurementsWindowACCheck", chance(0.5)}}});
+    }
+    if (goesOn) say({{"do", {"okSet" + from}}});
+    const Json now = state();
+    checkInvariants(now);
+    EXPECT_EQ(asked_.size(), isAsked ? 1U : 0U) << where();
+    const bool isDated =
+        which != 2 || !before_["document"]["examinations"][currentExam()]["examDate"].is_null();
+    if (goesOn && isDated) {
+      EXPECT_EQ(now["windows"][window], false) << where();
+      EXPECT_FALSE(now["document"]["edd"].is_null()) << where();
+      EXPECT_NE(now["fields"]["birthDateField"], "") << where();
+    } else {
+      EXPECT_EQ(now["document"]["edd"], before_["document"]["edd"]) << where();
+      if (goesOn) say({{"cancel", window}});
+    }
+    expectExaminations(now, expectedExaminations(), Order::same,
+                       goesOn && isDated ? Note::isStored : Note::mayBeStored);
+    count("dialog confirmed", goesOn && isDated);
+  }
+
   // The rest of the window
 
   void step() {
@@ -637,7 +708,7 @@ TEST(ARandomUser, neverMovesANumberToAnotherFetusOrExamination) {
   }
   // An action that never took effect tests nothing.
   for (const auto& [kind, count] : counts) EXPECT_GE(count, 200) << kind;
-  EXPECT_EQ(counts.size(), 33U);
+  EXPECT_EQ(counts.size(), 36U);
 }
 
 }  // namespace
