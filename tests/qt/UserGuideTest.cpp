@@ -159,6 +159,11 @@ TEST(TheUserGuide, citesWhatTheReferencesCite) {
   EXPECT_THAT(text.toStdString(), HasSubstr("Br J Obstet Gynaecol 1975;82(9):702\u2013710"));
 }
 
+TEST(TheUserGuide, saysThatTheBandOfTheWeightIsNoPopulation) {
+  EXPECT_THAT(textOf(guidePath()).simplified().toStdString(),
+              HasSubstr("The band of the weight chart is not a population and shows no centiles."));
+}
+
 /// Takes the place of the user's viewer.
 class Viewer final : public QTextBrowser {
  public:
@@ -185,6 +190,13 @@ TEST_F(TheHelpMenu, showsTheGuideInTheUsersViewer) {
 TEST(MakingTheGuide, stopsAtAPictureThatThereIsNot) {
   EXPECT_THROW(user_guide::WindowPictures(QString()).picture(QStringLiteral("dialog-none")),
                std::runtime_error);
+}
+TEST(MakingTheGuide, keepsTheColumnsOfWhatATerminalShows) {
+  const QTemporaryDir folder;
+  const QString path = folder.filePath("chapter.md");
+  writeFile(path, "    a\tb\n\n| | x |\n| --- | --- |\n");
+  EXPECT_EQ(user_guide::guideText({path}).toStdString(),
+            "    a       b\n\n| \u00a0 | x |\n| --- | --- |\n\n\n");
 }
 TEST(MakingTheGuide, stopsAtAChapterThatThereIsNot) {
   EXPECT_THROW(user_guide::guideText({QStringLiteral("/nowhere/chapter.md")}), std::runtime_error);

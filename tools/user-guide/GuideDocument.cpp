@@ -305,6 +305,23 @@ void keepHeadingsWithTexts(PagedText& body) {
   }
 }
 
+/// A few lines of code stand together, with the heading above them.
+void keepCodeTogether(PagedText& body) {
+  constexpr int kFewLines = 24;
+  for (QTextBlock first = body.text().begin(); first.isValid(); first = first.next()) {
+    if (!isCode(first) || isCode(first.previous())) continue;
+    QTextBlock last = first;
+    int lines = 1;
+    for (; isCode(last.next()); last = last.next()) ++lines;
+    if (lines > kFewLines || body.pageOf(first) == body.pageOf(last)) continue;
+    QTextBlock begin = first;
+    if (first.previous().blockFormat().headingLevel() > 0) begin = first.previous();
+    QTextBlockFormat format;
+    format.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
+    QTextCursor(begin).mergeBlockFormat(format);
+  }
+}
+
 /// The first row of a table stands on the page of the second.
 void keepTableHeadsWithRows(PagedText& body) {
   for (QTextFrame* frame : body.text().rootFrame()->childFrames()) {
@@ -408,6 +425,7 @@ QByteArray guidePdf(const GuideTitle& title, const QString& text, const PictureS
   styling.endEditBlock();
   keepHeadingsWithTexts(body);
   keepTableHeadsWithRows(body);
+  keepCodeTogether(body);
   keepHeadingsWithTexts(body);
   const int bodyPages = body.text().pageCount();
 

@@ -33,13 +33,30 @@ QString contents(const QString& path) {
   return QString::fromUtf8(file.readAll());
 }
 
+/// Tabs as spaces, to columns of eight, counted from the four by which Markdown sets code in.
+QString withoutTabs(const QString& text) {
+  constexpr qsizetype kColumn = 8;
+  constexpr qsizetype kIndent = 4;
+  QStringList lines = text.split(u'\n');
+  for (QString& line : lines) {
+    for (qsizetype at = line.indexOf(u'\t'); at >= 0; at = line.indexOf(u'\t'))
+      line.replace(at, 1, QString(kColumn - (at + kColumn - kIndent) % kColumn, u' '));
+  }
+  return lines.join(u'\n');
+}
+
 }  // namespace
 
 QString guideText(const QStringList& paths) {
   static const QRegularExpression localLink(QStringLiteral("(?<!!)\\[([^\\]]+)\\]\\((?!https?:)[^)]*\\)"));
   QString text;
   for (const QString& path : paths) text += contents(path) + QStringLiteral("\n\n");
+  text = withoutTabs(text);
   text.replace(localLink, QStringLiteral("\\1"));
+  // The toolkit's reader of Markdown takes what follows an empty first cell for it.
+  static const QRegularExpression emptyCorner(QStringLiteral("^\\| \\|"),
+                                              QRegularExpression::MultilineOption);
+  text.replace(emptyCorner, QStringLiteral("| \u00a0 |"));
   text.replace(QStringLiteral("{{growth}}"), listOf(calc::growthStandardPublications()));
   text.replace(QStringLiteral("{{weight}}"), listOf(calc::weightFormulaPublications()));
   text.replace(QStringLiteral("{{crl}}"), listOf(calc::crlFormulaPublications()));
