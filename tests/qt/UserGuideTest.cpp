@@ -4,6 +4,7 @@
 #include <QDesktopServices>
 #include <QDir>
 #include <QFile>
+#include <QMenu>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTextBrowser>
@@ -99,7 +100,9 @@ TEST(TheUserGuide, hasEachChapterAsABookmarkOfThePageOnWhichItBegins) {
 
 TEST(TheUserGuide, listsInItsContentsThePagesOfTheBookmarks) {
   const QString contents = textOfPage(1) + textOfPage(2);
-  for (const Bookmark& bookmark : bookmarksOf(guidePath())) {
+  const std::vector<Bookmark> bookmarks = bookmarksOf(guidePath());
+  ASSERT_FALSE(bookmarks.empty());
+  for (const Bookmark& bookmark : bookmarks) {
     QString pattern = QRegularExpression::escape(bookmark.title);
     pattern.replace(QStringLiteral("\\ "), QStringLiteral("\\s+"));
     EXPECT_TRUE(QRegularExpression(pattern + QStringLiteral("\\s+%1\\n").arg(bookmark.page))
@@ -118,7 +121,9 @@ TEST(TheUserGuide, numbersItsPages) {
 }
 
 TEST(TheUserGuide, saysOnEachPageThatItIsNoMedicalDevice) {
-  for (int page = 1; page <= pages(); ++page)
+  const int count = pages();
+  ASSERT_GT(count, 20);
+  for (int page = 1; page <= count; ++page)
     EXPECT_THAT(textOfPage(page).toStdString(),
                 HasSubstr("Not a medical device. Not validated for clinical use."));
 }
@@ -185,6 +190,20 @@ TEST_F(TheHelpMenu, showsTheGuideInTheUsersViewer) {
   ASSERT_EQ(viewer.shown.size(), 1);
   EXPECT_TRUE(QFile::exists(viewer.shown.front())) << viewer.shown.front().toStdString();
   EXPECT_EQ(viewer.shown.front().toStdString(), guidePath().toStdString());
+}
+
+TEST_F(TheHelpMenu, isNotTheOnlyOneThatTheGuideExplains) {
+  openBlank();
+  const std::string text = textOf(guidePath()).simplified().toStdString();
+  int items = 0;
+  for (const char* menu : {"fileMenu", "editMenu", "patientMenu", "viewMenu", "helpMenu"}) {
+    for (const QAction* item : widget<QMenu>(menu).actions()) {
+      if (item->isSeparator() || item->objectName().startsWith(QLatin1String("fetusAction"))) continue;
+      EXPECT_THAT(text, HasSubstr(item->text().remove(u'&').toStdString()));
+      ++items;
+    }
+  }
+  EXPECT_GT(items, 35);
 }
 
 TEST(MakingTheGuide, stopsAtAPictureThatThereIsNot) {
