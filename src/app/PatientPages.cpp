@@ -97,6 +97,11 @@ Chart& PatientPages::addChartPage(std::size_t page) {
 
 PatientPages::PatientPages(const foundation::Services& services, charts::ChartDocument& document)
     : services_(services), document_(document) {
+  addTrends();
+  addCharts();
+}
+
+void PatientPages::addTrends() {
   addSummary<charts::BPDSummaryGraphView>(0, 0);
   addSummary<charts::HeadCircumferenceSummaryGraphView>(0, 1);
   addSummary<charts::AbdoCircumferenceSummaryGraphView>(1, 0);
@@ -104,6 +109,9 @@ PatientPages::PatientPages(const foundation::Services& services, charts::ChartDo
   for (const std::size_t column : {0U, 1U}) {
     pages_.front().addView(add<charts::NoYaxisGraphView>(), trendsStrip(column));
   }
+}
+
+void PatientPages::addCharts() {
   bpdGraph_ = &addChartPage<charts::BPDGraphView, charts::NoYaxisGraphView>(1);
   hcGraph_ = &addChartPage<charts::HeadCircumferenceGraphView, charts::NoYaxisGraphView>(2);
   acGraph_ = &addChartPage<charts::AbdoCircumferenceGraphView, charts::NoYaxisGraphView>(3);

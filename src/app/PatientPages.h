@@ -40,6 +40,9 @@ class PatientPages {
   template <class Chart, class Strip>
   Chart& addChartPage(std::size_t page);
 
+  void addTrends();
+  void addCharts();
+
   foundation::Services services_;
   charts::ChartDocument& document_;
   std::vector<framework::ViewOwner<charts::UpdatingGraphView>> views_;
