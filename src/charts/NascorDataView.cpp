@@ -16,7 +16,6 @@ namespace nascor::charts {
 namespace {
 
 using framework::NamedColor;
-using framework::TextStyle;
 
 constexpr double kLine = 24.0;
 constexpr double kColumn = 86.0;

@@ -87,8 +87,12 @@ std::optional<std::string> CorvelDocument::exportPage(std::int64_t page, const s
   const std::string extension = std::string(".").append(extensionOf(format));
   const std::string start = folder.ends_with('/') ? folder : folder + "/";
   std::string path = start + fileNameEndingIn(name, pageName + extension);
-  for (int i = 2; services().files.exists(path); ++i)
-    path = start + fileNameEndingIn(name, pageName + " (" + std::to_string(i) + ")" + extension);
+  for (int i = 2; services().files.exists(path); ++i) {
+    std::string ending = pageName;
+    ending.append(" (").append(std::to_string(i)).append(")").append(extension);
+    path = start;
+    path += fileNameEndingIn(name, ending);
+  }
 
   if (!environment_.pageWriter) {
     return path + ": " +

@@ -109,12 +109,11 @@ bool DocumentController::closeDocument(ZuDocument& document) {
 bool DocumentController::saveEditedDocuments() {
   std::vector<ZuDocument*> all = documents();
   std::ranges::reverse(all);
-  for (ZuDocument* document : all) {
-    if (!isOpen(*document) || !document->isDocumentEdited()) continue;
+  return std::ranges::all_of(all, [this](ZuDocument* document) {
+    if (!isOpen(*document) || !document->isDocumentEdited()) return true;
     setCurrentDocument(*document);
-    if (!mayGo(*document)) return false;
-  }
-  return true;
+    return mayGo(*document);
+  });
 }
 
 bool DocumentController::closeUntouchedDocument(ZuDocument& document) {

@@ -1,7 +1,5 @@
 #include "framework/Page.h"
 
-#include <ranges>
-
 namespace nascor::framework {
 
 void Page::addView(ZuPrimitiveGraphView& view, Placement placement) {
@@ -40,9 +38,9 @@ Point Page::PlacedView::inView(Point point) const {
 }
 
 bool Page::click(Point point, int count) {
-  for (const PlacedView& placed : views_ | std::views::reverse) {
-    const Point location = placed.inView(point);
-    if (ZuPrimitiveGraphView* hit = placed.view->hitTest(location)) {
+  for (auto placed = views_.rbegin(); placed != views_.rend(); ++placed) {
+    const Point location = placed->inView(point);
+    if (ZuPrimitiveGraphView* hit = placed->view->hitTest(location)) {
       hit->mouseDown({.location = location, .clickCount = count});
       return true;
     }
@@ -51,8 +49,8 @@ bool Page::click(Point point, int count) {
 }
 
 std::string Page::toolTipAt(Point point) const {
-  for (const PlacedView& placed : views_ | std::views::reverse) {
-    std::string text = placed.view->toolTipAt(placed.inView(point));
+  for (auto placed = views_.rbegin(); placed != views_.rend(); ++placed) {
+    std::string text = placed->view->toolTipAt(placed->inView(point));
     if (!text.empty()) return text;
   }
   return {};

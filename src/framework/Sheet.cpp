@@ -17,6 +17,19 @@ std::size_t lastCharacter(std::string_view text) {
   return start;
 }
 
+/// Moves what is too much for one line from the beginning of `text` to lines of its own.
+template <class Fits>
+void breakUp(std::string& text, const Fits& fits, std::vector<std::string>& lines) {
+  while (!fits(text)) {
+    std::size_t end = lastCharacter(text);
+    while (end > 0 && !fits(std::string_view(text).substr(0, end)))
+      end = lastCharacter(std::string_view(text).substr(0, end));
+    if (end == 0) return;  // no room for a single character
+    lines.push_back(text.substr(0, end));
+    text.erase(0, end);
+  }
+}
+
 }  // namespace
 
 std::vector<std::string> wrappedFoot(const PageFoot& foot, const Canvas& canvas, double width) {
@@ -37,14 +50,7 @@ std::vector<std::string> wrappedFoot(const PageFoot& foot, const Canvas& canvas,
         continue;
       }
       endLine();
-      while (!fits(text)) {
-        std::size_t end = lastCharacter(text);
-        while (end > 0 && !fits(std::string_view(text).substr(0, end)))
-          end = lastCharacter(std::string_view(text).substr(0, end));
-        if (end == 0) break;  // no room for a single character
-        wrapped.push_back(text.substr(0, end));
-        text.erase(0, end);
-      }
+      breakUp(text, fits, wrapped);
       line = text;
     }
     endLine();

@@ -31,7 +31,7 @@ std::string logText(const std::optional<Date>& date) {
 std::optional<std::string> NCDocumentScripting::identifier() {
   document_.synchronizeFromData();
   const auto* record = document_.patientRecord();
-  const auto identifier = record ? record->maternalIDString() : std::nullopt;
+  auto identifier = record ? record->maternalIDString() : std::nullopt;
   log_.write("Scripting: identifier is " + identifier.value_or(kNone));
   return identifier;
 }

@@ -93,7 +93,7 @@ bool isOfKind(const ScriptValue& value, ValueKind kind, const Calendar& calendar
   }
   const auto* text = std::get_if<std::string>(&value);
   return std::holds_alternative<std::monostate>(value) ||
-         (text && (text->empty() || dateOf(value, calendar)));
+         (text != nullptr && (text->empty() || dateOf(value, calendar)));
 }
 
 }  // namespace

@@ -54,7 +54,7 @@ double luminance(const Channels& srgb, const Sight& sight) {
 }
 
 double contrast(const Channels& a, const Channels& b, const Sight& sight) {
-  const auto [dark, light] = std::minmax(luminance(a, sight), luminance(b, sight));
+  const auto [dark, light] = std::minmax({luminance(a, sight), luminance(b, sight)});
   return (light + 0.05) / (dark + 0.05);
 }
 

@@ -68,6 +68,7 @@ void runExport(const Arguments& arguments, Console& console) {
 
   console.flush();
   std::vector<char*> pointers;
+  pointers.reserve(words.size() + 1);
   for (std::string& word : words) pointers.push_back(word.data());
   pointers.push_back(nullptr);
   ::execv(program.c_str(), pointers.data());
