@@ -25,6 +25,13 @@ using app::NCDocument;
 
 namespace {
 
+/// Makes `edit`, which only shows, wide enough for `text` on the narrowest screen too.
+void giveRoom(QLineEdit& edit, const QString& text) {
+  constexpr int kFrameAndMargins = 16;
+  edit.setMinimumWidth(
+      std::max(edit.minimumWidth(), edit.fontMetrics().horizontalAdvance(text) + kFrameAndMargins));
+}
+
 QString said(const char* sentence) { return QCoreApplication::translate("DatingDialogs", sentence); }
 
 /// `hint` behind a field is part of what is said of it.
@@ -217,6 +224,7 @@ EDDFromMeasurementsDialog::EDDFromMeasurementsDialog(NCDocument& document,
   const auto boxes = document.checkBoxes();
   for (const Row& row : rows()) {
     bindReadOnly(row.gestation, fieldFor(row.gestation));
+    giveRoom(row.gestation, QStringLiteral("-40w -6d"));
     for (framework::CheckBox* box : boxes) {
       if (fromUtf8(box->name()) != row.check.objectName()) continue;
       box->onChange = [this] { refresh(); };
@@ -232,6 +240,7 @@ EDDFromMeasurementsDialog::EDDFromMeasurementsDialog(NCDocument& document,
   // The average is shown last, when all the others are as they are to be.
   framework::TextField& average = fieldFor(*ui_->measurementsWindowAvGestation);
   bindReadOnly(*ui_->measurementsWindowAvGestation, average);
+  giveRoom(*ui_->measurementsWindowAvGestation, QStringLiteral("-40w -6d"));
   average.onChange = [this, show = average.onChange] {
     show();
     refresh();
@@ -250,6 +259,7 @@ void EDDFromMeasurementsDialog::refresh() {
   for (const Row& row : rows()) {
     const QSignalBlocker quiet(&row.check);
     row.check.setChecked(boxes[i++]->isOn());
+    giveRoom(row.gestation, row.gestation.text());
     row.value.setText(said("%1 mm").arg(fromUtf8(row.length.text())));
     // Never by colour alone.
     QString sign;
@@ -274,6 +284,8 @@ void EDDFromMeasurementsDialog::refresh() {
   const QString title = fetus < popUp.items().size() ? fromUtf8(popUp.items().at(fetus).title) : QString();
   ui_->measurementsWindowExamination->setText(
       said("%1, %2, %3").arg(place, inWords.isEmpty() ? said("no date") : inWords, title));
+  giveRoom(*ui_->measurementsWindowAvGestation, ui_->measurementsWindowAvGestation->text());
+  giveRoom(*ui_->measurementsWindowExamination, ui_->measurementsWindowExamination->text());
   ui_->measurementsWindowExamination->setCursorPosition(0);
 }
 
