@@ -38,9 +38,10 @@ Point Page::PlacedView::inView(Point point) const {
 }
 
 bool Page::click(Point point, int count) {
-  for (auto placed = views_.rbegin(); placed != views_.rend(); ++placed) {
-    const Point location = placed->inView(point);
-    if (ZuPrimitiveGraphView* hit = placed->view->hitTest(location)) {
+  for (std::size_t i = views_.size(); i-- > 0;) {
+    const PlacedView& placed = views_[i];
+    const Point location = placed.inView(point);
+    if (ZuPrimitiveGraphView* hit = placed.view->hitTest(location)) {
       hit->mouseDown({.location = location, .clickCount = count});
       return true;
     }
@@ -49,8 +50,8 @@ bool Page::click(Point point, int count) {
 }
 
 std::string Page::toolTipAt(Point point) const {
-  for (auto placed = views_.rbegin(); placed != views_.rend(); ++placed) {
-    std::string text = placed->view->toolTipAt(placed->inView(point));
+  for (std::size_t i = views_.size(); i-- > 0;) {
+    std::string text = views_[i].view->toolTipAt(views_[i].inView(point));
     if (!text.empty()) return text;
   }
   return {};
