@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "charts/ChartDocument.h"
+#include "foundation/ConvertInteger.h"
 #include "framework/MakeView.h"
 #include "support/RecordingCanvas.h"
 #include "support/TestServices.h"
@@ -51,7 +52,7 @@ struct FakeChartDocument final : ChartDocument {
     return "age " + std::to_string(e);
   }
   std::string menstrualAgeStringForGestation(double weeks) const override {
-    return std::to_string(static_cast<int>(weeks)) + " weeks";
+    return std::to_string(foundation::truncatedToInteger(weeks)) + " weeks";
   }
   double extrapolatedBPDForCurrentFetus() override { return projected.bpd(); }
   double extrapolatedHCForCurrentFetus() override { return projected.hc(); }
