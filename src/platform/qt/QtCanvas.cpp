@@ -126,7 +126,7 @@ void QtCanvas::fillOvalInSlices(const QRectF& oval) {
   // The toolkit blends a shape of many rows in several threads, which costs more than it saves for one as small as this.
   // The slices meet on the edge of a row of pixels, so that no seam shows.
   constexpr double kRows = 8.0;
-  constexpr int kPointsOfASide = 12;
+  constexpr qsizetype kPointsOfASide = 12;
   const QPointF centre = oval.center();
   const double rx = oval.width() / 2.0;
   const double ry = oval.height() / 2.0;
@@ -140,8 +140,8 @@ void QtCanvas::fillOvalInSlices(const QRectF& oval) {
     const double from = std::acos(std::clamp((centre.y() - top) / ry, -1.0, 1.0));
     const double to = std::acos(std::clamp((centre.y() - bottom) / ry, -1.0, 1.0));
     QPolygonF slice(2 * (kPointsOfASide + 1));
-    for (int i = 0; i <= kPointsOfASide; ++i) {
-      const double angle = from + (to - from) * i / kPointsOfASide;
+    for (qsizetype i = 0; i <= kPointsOfASide; ++i) {
+      const double angle = from + (to - from) * static_cast<double>(i) / static_cast<double>(kPointsOfASide);
       const QPointF along(rx * std::sin(angle), -ry * std::cos(angle));
       slice[i] = centre + along;
       slice[slice.size() - 1 - i] = centre + QPointF(-along.x(), along.y());
@@ -299,7 +299,9 @@ void QtCanvas::fillPixels(const QRectF& pixels) {
   constexpr double kMostRows = 64.0;
   setSmooth(false);
   const double rows = color_.alpha() < 255 ? kMostRows : std::max(1.0, pixels.height());
-  for (double top = pixels.top(); top < pixels.bottom(); top += rows) {
+  const int parts = static_cast<int>(std::ceil(pixels.height() / rows));
+  for (int i = 0; i < parts; ++i) {
+    const double top = pixels.top() + rows * i;
     const QRectF part(pixels.left(), top, pixels.width(), std::min(rows, pixels.bottom() - top));
     painter_.fillRect(
         isShiftOnly_ ? part.translated(-toPixels_.dx(), -toPixels_.dy()) : fromPixels_.mapRect(part), color_);
