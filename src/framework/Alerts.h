@@ -14,6 +14,8 @@ struct Alert {
   std::string information;  ///< may be empty
   std::string defaultButton;
   std::string alternateButton;
+  /// Whether the Return key cancels: what the default button does cannot be taken back.
+  bool isCancelledByReturn = false;
   const Panel* window = nullptr;  ///< the panel that is asked on; null for the document's own window
 };
 

@@ -1,8 +1,6 @@
 #include "framework/DocumentController.h"
 
 #include <algorithm>
-#include <stdexcept>
-#include <variant>
 
 #include "foundation/Localizer.h"
 #include "foundation/UserDefaults.h"
@@ -25,22 +23,12 @@ ZuDocument* DocumentController::openDocument(const std::string& path, std::strin
     setCurrentDocument(*open);
     return open;
   }
-  const auto contents = services_.files.contents(path);
-  if (const auto* unreadable = std::get_if<FileError>(&contents)) {
+  auto document = factory_();
+  if (const auto unreadable = document->readFromFile(path)) {
     error = path + ": " + unreadable->reason;
     return nullptr;
   }
-  auto document = factory_();
-  try {
-    document->loadDataRepresentation(std::get<std::vector<std::byte>>(contents), "");
-  } catch (const std::runtime_error& malformed) {
-    error = path + ": " + malformed.what();
-    return nullptr;
-  }
-  const bool holdsContents = document->holdsContents();
-  if (holdsContents) document->setFilePath(path);
   ZuDocument& added = add(std::move(document));
-  added.setDocIsBlank(!holdsContents);
   added.windowControllerDidLoadNib();
   return &added;
 }
@@ -68,6 +56,7 @@ bool DocumentController::saveDocumentAs(ZuDocument& document) {
 
 bool DocumentController::write(ZuDocument& document, const std::string& path) {
   const ZuDocument* holder = documentOfFile(path);
+  if (holder == &document && document.isFileChangedByOthers() && !userReplacesChanges(path)) return false;
   // Two windows on one file would overwrite each other's patient.
   const auto error =
       holder && holder != &document
@@ -77,6 +66,22 @@ bool DocumentController::write(ZuDocument& document, const std::string& path) {
   alerts_.tell(services_.localizer.text(string_table::corvelDocument, "The document was not saved."),
                path + ": " + error->reason);
   return false;
+}
+
+bool DocumentController::userReplacesChanges(const std::string& path) {
+  const auto& localizer = services_.localizer;
+  return alerts_.runModal(
+             {.message =
+                  localizer.text(string_table::corvelDocument,
+                                 "Another program has changed the file of this document. Do you want to "
+                                 "replace what it holds now?"),
+              .information =
+                  path + "\n\n" +
+                  localizer.text(string_table::corvelDocument,
+                                 "To keep both, cancel and save this document under another name."),
+              .defaultButton = localizer.text(string_table::corvelDocument, "Save Anyway"),
+              .alternateButton = localizer.text(string_table::zuVersion, "Cancel"),
+              .isCancelledByReturn = true}) == AlertReturn::defaultButton;
 }
 
 bool DocumentController::mayGo(ZuDocument& document) {

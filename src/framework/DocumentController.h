@@ -34,8 +34,8 @@ class DocumentController {
   /// Opens the files that the user chooses and says which of them cannot be read.
   void openDocuments();
 
-  /// Saves to the document's file, or where the user says when it has none. False when a field refuses its text, the user
-  /// cancels, the document was replaced by one that the user looked up, or the file cannot be written: it is open in another
+  /// Saves to the document's file, or where the user says when it has none. Asks first when somebody else has changed that
+  /// file since the document read or wrote it. False when a field refuses its text, the user cancels, the document was replaced by one that the user looked up, or the file cannot be written: it is open in another
   /// window, or the system refuses (which the user is told).
   bool saveDocument(ZuDocument& document);
   bool saveDocumentAs(ZuDocument& document);
@@ -74,6 +74,8 @@ class DocumentController {
   ZuDocument& add(std::unique_ptr<ZuDocument> document);
   void remove(ZuDocument& document);
   bool write(ZuDocument& document, const std::string& path);
+  /// Whether the user wants to lose what somebody else has written into the file.
+  bool userReplacesChanges(const std::string& path);
   /// Whether nothing of the document would be lost that the user wants to keep.
   bool mayGo(ZuDocument& document);
   bool isOpen(const ZuDocument& document) const;

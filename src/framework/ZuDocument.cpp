@@ -12,6 +12,7 @@ using foundation::FileError;
 
 void ZuDocument::setFilePath(std::optional<std::string> path) {
   filePath_ = std::move(path);
+  fileContents_.reset();
   stateChanged();
 }
 
@@ -21,28 +22,45 @@ std::string ZuDocument::displayName() const {
 }
 
 std::optional<FileError> ZuDocument::writeToFile(const std::string& path) {
-  const std::vector<std::byte> bytes = dataRepresentationOfType("");
+  std::vector<std::byte> bytes = dataRepresentationOfType("");
   if (auto error = services_.files.replaceContents(path, bytes)) return error;
   filePath_ = path;
+  fileContents_ = std::move(bytes);
   docIsBlank_ = false;
   updateChangeCount(ChangeType::changeCleared);
   return std::nullopt;
 }
 
-std::optional<FileError> ZuDocument::revertToSaved() {
-  if (!filePath_) return FileError{"the document was never saved"};
-  const auto contents = services_.files.contents(*filePath_);
+std::optional<FileError> ZuDocument::readFromFile(const std::string& path) {
+  auto contents = services_.files.contents(path);
   if (const auto* error = std::get_if<FileError>(&contents)) return *error;
+  auto& bytes = std::get<std::vector<std::byte>>(contents);
   try {
-    loadDataRepresentation(std::get<std::vector<std::byte>>(contents), "");
+    loadDataRepresentation(bytes, "");
   } catch (const std::runtime_error& error) {
     return FileError{error.what()};
   }
-  if (!holdsContents()) {
-    // As when it is opened: a blank document, which never overwrites that file.
-    filePath_.reset();
-    docIsBlank_ = true;
+  docIsBlank_ = !holdsContents();
+  if (docIsBlank_) {
+    setFilePath(std::nullopt);
+  } else {
+    setFilePath(path);
+    fileContents_ = std::move(bytes);
   }
+  return std::nullopt;
+}
+
+bool ZuDocument::isFileChangedByOthers() const {
+  if (!filePath_ || !fileContents_) return false;
+  const auto contents = services_.files.contents(*filePath_);
+  // The bytes, and not the date: a clock may be wrong, and a file that was merely touched has lost nothing.
+  if (const auto* bytes = std::get_if<std::vector<std::byte>>(&contents)) return *bytes != *fileContents_;
+  return services_.files.exists(*filePath_);
+}
+
+std::optional<FileError> ZuDocument::revertToSaved() {
+  if (!filePath_) return FileError{"the document was never saved"};
+  if (auto error = readFromFile(std::string(*filePath_))) return error;
   windowControllerDidLoadNib();
   updateChangeCount(ChangeType::changeCleared);
   return std::nullopt;

@@ -59,6 +59,12 @@ class ZuDocument {
   /// Writes the model as it stands to `path`, whole or not at all. On success that is the document's file from now on, it
   /// is not edited any more, and not blank. On failure nothing changes.
   std::optional<foundation::FileError> writeToFile(const std::string& path);
+  /// Takes what the file at `path` holds. That is the document's file from now on, unless it says that it holds nothing:
+  /// then the document is untitled and blank, and never overwrites it. On failure nothing changes.
+  std::optional<foundation::FileError> readFromFile(const std::string& path);
+  /// Whether the document's file holds something else than when this document read or wrote it last. A file that is gone
+  /// does not: saving loses nothing of it.
+  bool isFileChangedByOthers() const;
   /// Reads the document's file again; all edits are lost. A file that now says that it holds nothing leaves an untitled
   /// blank document. On failure nothing changes.
   std::optional<foundation::FileError> revertToSaved();
@@ -90,6 +96,7 @@ class ZuDocument {
   }
   foundation::Services services_;
   std::optional<std::string> filePath_;
+  std::optional<std::vector<std::byte>> fileContents_;  ///< as last read or written; nothing before
   std::int64_t changeCount_ = 0;
   bool docIsBlank_ = false;
 };

@@ -9,6 +9,7 @@
 #include <stdexcept>
 
 #include "drive/Drawing.h"
+#include "drive/Outside.h"
 #include "drive/Script.h"
 #include "foundation/ConvertInteger.h"
 #include "foundation/IsoDate.h"
@@ -362,7 +363,7 @@ Json Driver::perform(const std::string& key, const Json& argument) {
       {"click", &Driver::click},       {"draw", &Driver::draw},
       {"advance", &Driver::advance},   {"zone", &Driver::zone},
       {"locale", &Driver::locale},     {"paper", &Driver::paper},
-      {"marks", &Driver::marks},
+      {"marks", &Driver::marks},       {"outside", &Driver::outside},
   };
   if (key == "new" || key == "state") {
     if (argument != Json(true)) refuse("expected true");
@@ -397,23 +398,18 @@ Json Driver::save(const Json& target) {
   NCDocument& saved = document();
   if (!target.is_string() && target != Json(true)) refuse("expected a path or true");
   if (auto refusal = heldBack(saved)) return *refusal;
-  std::string path;
+  if (!target.is_string() && !saved.filePath()) refuse("the document has no file yet");
+  alerts_.told.clear();
+  bool isSaved = false;
   if (target.is_string()) {
-    path = std::filesystem::absolute(target.get<std::string>()).string();
-  } else if (saved.filePath()) {
-    path = *saved.filePath();
+    panels_.fileToSave = std::filesystem::absolute(target.get<std::string>()).string();
+    isSaved = documents_.saveDocumentAs(saved);
+    panels_.fileToSave.reset();
   } else {
-    refuse("the document has no file yet");
+    isSaved = documents_.saveDocument(saved);
   }
-  // As in the application: two windows on one file would overwrite each other's patient.
-  for (const framework::ZuDocument* open : documents_.documents()) {
-    if (open != &saved && open->filePath() &&
-        services_.files.resolvedPath(*open->filePath()) == services_.files.resolvedPath(path)) {
-      refuse(path + ": It is open in another window.");
-    }
-  }
-  if (const auto error = saved.writeToFile(path)) refuse(path + ": " + error->reason);
-  return {{"saved", true}};
+  if (!alerts_.told.empty()) refuse(alerts_.told.back());
+  return {{"saved", isSaved}};
 }
 
 Json Driver::close(const Json& word) {
@@ -602,6 +598,14 @@ Json Driver::marks(const Json& page) {
 Json Driver::paper(const Json& word) {
   if (word != Json(true)) refuse("expected true");
   return {{"paper", std::exchange(paper_, Json::array())}};
+}
+
+Json Driver::outside(const Json& call) {
+  if (!call.is_array() || call.empty()) refuse("expected what is done and to which files");
+  std::vector<std::string> words;
+  for (const Json& word : call) words.push_back(textArgument(word, "a text"));
+  if (const auto why = doOutside(words)) refuse(*why);
+  return Json::object();
 }
 
 Json Driver::advance(const Json& seconds) {

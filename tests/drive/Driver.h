@@ -62,6 +62,8 @@ class Driver {
   Json marks(const Json& page);
   /// The marks and discs on the pages that were exported or printed since this was last asked.
   Json paper(const Json& word);
+  /// What another program does to the files.
+  Json outside(const Json& call);
   Json advance(const Json& seconds);
   Json zone(const Json& name);
   Json locale(const Json& name);

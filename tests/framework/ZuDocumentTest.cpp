@@ -106,6 +106,25 @@ TEST_F(ADocumentWithAFile, staysAsItIsWhenItsFileCannotBeReadAgain) {
   EXPECT_TRUE(unsaved.revertToSaved());
 }
 
+TEST_F(ADocumentWithAFile, knowsWhetherSomebodyElseHasChangedIt) {
+  application.put("/documents/a", "saved");
+  TextDocument& document = *application.open("/documents/a");
+  EXPECT_FALSE(document.isFileChangedByOthers());
+  application.put("/documents/a", "other");
+  EXPECT_TRUE(document.isFileChangedByOthers()) << "of the same length";
+  EXPECT_EQ(document.revertToSaved(), std::nullopt);
+  EXPECT_FALSE(document.isFileChangedByOthers());
+  document.model = "mine";
+  EXPECT_EQ(document.writeToFile("/documents/a"), std::nullopt);
+  EXPECT_FALSE(document.isFileChangedByOthers());
+  application.files.failReadAt = application.files.reads();
+  EXPECT_TRUE(document.isFileChangedByOthers()) << "nobody can tell what is there";
+  application.files.files.erase("/documents/a");
+  EXPECT_FALSE(document.isFileChangedByOthers());
+  TextDocument unsaved(application.environment());
+  EXPECT_FALSE(unsaved.isFileChangedByOthers());
+}
+
 TEST_F(ADocumentWithAFile, letsGoOfAFileThatHoldsNothingAnyMore) {
   application.put("/documents/a", "saved");
   TextDocument& document = *application.open("/documents/a");

@@ -29,8 +29,10 @@ QString buttonText(const std::string& text) { return fromUtf8(text).replace(u'&'
 void setUp(QMessageBox& box, const Alert& alert) {
   setUp(box, alert.message, alert.information);
   box.setIcon(QMessageBox::Question);
-  box.setDefaultButton(box.addButton(buttonText(alert.defaultButton), QMessageBox::AcceptRole));
-  box.setEscapeButton(box.addButton(buttonText(alert.alternateButton), QMessageBox::RejectRole));
+  QPushButton* agree = box.addButton(buttonText(alert.defaultButton), QMessageBox::AcceptRole);
+  QPushButton* cancel = box.addButton(buttonText(alert.alternateButton), QMessageBox::RejectRole);
+  box.setDefaultButton(alert.isCancelledByReturn ? cancel : agree);
+  box.setEscapeButton(cancel);
 }
 
 AlertReturn answerOf(const QMessageBox& box) {

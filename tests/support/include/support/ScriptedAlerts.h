@@ -60,7 +60,7 @@ class ScriptedFilePanels final : public framework::FilePanels {
   std::optional<std::string> chooseFileToSave(const std::string& suggestedName) override {
     suggested.push_back(suggestedName);
     if (isCancelled) return std::nullopt;
-    return folder + "/" + suggestedName;
+    return fileToSave.value_or(folder + "/" + suggestedName);
   }
 
   std::optional<std::string> chooseFolder() override {
@@ -70,6 +70,7 @@ class ScriptedFilePanels final : public framework::FilePanels {
   }
 
   std::string folder;
+  std::optional<std::string> fileToSave;  ///< where to save, in place of the suggested name
   int timesFolderAsked = 0;
   std::vector<std::string> filesToOpen;
   std::vector<std::string> suggested;

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace nascor::drive {
+
+/// What another program does behind the application's back. `words` are what is done and to which files:
+///
+///     copy FROM TO     TO holds what FROM holds
+///     append PATH TEXT the text stands at the end of the file
+///     remove PATH      the file is gone
+///     pipe PATH        a pipe that nobody writes into
+///     folder PATH      a folder
+///
+/// Why it could not be done, or nothing.
+std::optional<std::string> doOutside(const std::vector<std::string>& words);
+
+}  // namespace nascor::drive
