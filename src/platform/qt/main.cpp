@@ -18,10 +18,12 @@
 #include "qt/PageOptions.h"
 #include "qt/Platform.h"
 
+using namespace nascor;
 using namespace nascor::qt;
 
 namespace {
 
+constexpr const char* kPlatform = "QT_QPA_PLATFORM";
 constexpr std::chrono::seconds kPatienceOfAService{10};
 
 enum ExitStatus { kAllWell = 0, kFailed = 1, kWrongUsage = 2 };
@@ -99,64 +101,71 @@ void takeBeginningMessage(QtMsgType type, const QMessageLogContext&, const QStri
   std::_Exit(kFailed);
 }
 
-int nascorMain(int argc, char** argv) {
-  const std::span arguments(argv, static_cast<std::size_t>(argc));
-  const bool hasPlatform = qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
-  // What paints no window needs no display.
-  if (hasArgument(arguments, {"--write-pages", "--help", "-h", "--version", "-v"}) && !hasPlatform)
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-  if (!areOurOwn(arguments) && !hasPlatform) {
-    // An option of the toolkit's or a mistake: it knows its own, and takes them out, but only once it has begun.
-    std::vector<char*> copy(arguments.begin(), arguments.end());
-    copy.push_back(nullptr);
-    int count = argc;
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    {
-      const Application probe(count, copy.data());
-      CommandLine line;
-      if (const auto status = answerAtOnce(line, QCoreApplication::arguments())) return *status;
-    }
-    qunsetenv("QT_QPA_PLATFORM");
+/// Asks the toolkit, which knows its own options and takes them out, but only once it has begun. It begins without a
+/// display here, since a mistake is to be told where there is none too.
+std::optional<int> answerWithToolkit(std::span<char*> arguments) {
+  std::vector<char*> copy(arguments.begin(), arguments.end());
+  auto count = static_cast<int>(copy.size());
+  copy.push_back(nullptr);
+  qputenv(kPlatform, "offscreen");
+  std::optional<int> status;
+  {
+    const Application probe(count, copy.data());
+    CommandLine line;
+    status = answerAtOnce(line, QCoreApplication::arguments());
   }
-  const QtMessageHandler toolkitsHandler = qInstallMessageHandler(takeBeginningMessage);
-  Application application(argc, argv);
-  qInstallMessageHandler(toolkitsHandler);
-  for (const QString& message : beginningMessages()) say(stderr, message);
+  qunsetenv(kPlatform);
+  return status;
+}
 
-  CommandLine line;
-  if (const auto status = answerAtOnce(line, QCoreApplication::arguments())) return *status;
-  if (const QString sentence = missingFontSentence(); !sentence.isEmpty()) {
-    say(stderr, sentence);
-    return kFailed;
+/// What is to happen before the toolkit asks for a display: what paints no window needs none. Gives the status where that
+/// was all.
+std::optional<int> chooseDisplay(std::span<char*> arguments) {
+  if (qEnvironmentVariableIsSet(kPlatform)) return std::nullopt;
+  if (hasArgument(arguments, {"--write-pages", "--help", "-h", "--version", "-v"})) {
+    qputenv(kPlatform, "offscreen");
+    return std::nullopt;
   }
+  return areOurOwn(arguments) ? std::nullopt : answerWithToolkit(arguments);
+}
 
-  Platform platform(QLocale::system());
-  const QStringList files = line.parser.positionalArguments();
-  if (line.pages.areGiven(line.parser)) {
-    QString error;
-    const auto wanted = line.pages.read(line.parser, error);
-    if (!wanted) {
-      say(stderr, error);
-      return kWrongUsage;
-    }
-    const WrittenPages written = exportPages(*wanted, platform.services());
-    if (line.pages.arePathsWanted(line.parser)) {
-      for (const QString& path : written.paths) say(stdout, path);
-    }
-    for (const QString& sentence : written.sentences) say(stderr, sentence);
-    return written.sentences.isEmpty() ? kAllWell : kFailed;
+int writePages(const CommandLine& line, const foundation::Services& services) {
+  QString error;
+  const auto wanted = line.pages.read(line.parser, error);
+  if (!wanted) {
+    say(stderr, error);
+    return kWrongUsage;
   }
+  const WrittenPages written = exportPages(*wanted, services);
+  if (line.pages.arePathsWanted(line.parser)) {
+    for (const QString& path : written.paths) say(stdout, path);
+  }
+  for (const QString& sentence : written.sentences) say(stderr, sentence);
+  return written.sentences.isEmpty() ? kAllWell : kFailed;
+}
 
-  DocumentApplication documents(platform.services());
-  BusObjects objects(platform.services(), documents.documents(), documents.numbers());
-  objects.onOpen = [&](const QStringList& paths) { documents.openFiles(paths); };
-  objects.onNew = [&] { documents.newDocument(); };
-  objects.onActivate = [&] { documents.activate(); };
-  ApplicationService service(objects, platform.services().log);
-  documents.onQuestion = [&] { service.questionIsAsked(); };
-  const ApplicationService::Start start = service.start(files);
-  if (start == ApplicationService::Start::handedOver) return kAllWell;
+/// Ends an application that nobody wants anything of. Started by the bus, it waits for what it is to show.
+class Patience {
+ public:
+  explicit Patience(DocumentApplication& documents) {
+    timer_.setSingleShot(true);
+    timer_.setInterval(kPatienceOfAService);
+    QObject::connect(&timer_, &QTimer::timeout, &timer_, [&] {
+      if (!documents.documents().documents().empty()) return;
+      if (QApplication::activeModalWidget()) {
+        timer_.start();  // a question, or what could not be opened
+      } else {
+        Application::exit(kAllWell);
+      }
+    });
+  }
+  void begin() { timer_.start(); }
 
+ private:
+  QTimer timer_;
+};
+
+void followSession(Application& application, DocumentApplication& documents) {
   Application::setQuitOnLastWindowClosed(false);  // a window that another document takes over is not the end
   QObject::connect(
       &application, &QGuiApplication::commitDataRequest, &application, [&](QSessionManager& session) {
@@ -168,21 +177,25 @@ int nascorMain(int argc, char** argv) {
     QMetaObject::invokeMethod(
         qApp, [] { Application::exit(kAllWell); }, Qt::QueuedConnection);
   };
-  // Started by the bus, the application waits for what it is to show, and ends when nobody wants anything.
-  QTimer patience;
+}
+
+int showDocuments(Application& application, const CommandLine& line, const foundation::Services& services) {
+  const QStringList files = line.parser.positionalArguments();
+  DocumentApplication documents(services);
+  BusObjects objects(services, documents.documents(), documents.numbers());
+  objects.onOpen = [&](const QStringList& paths) { documents.openFiles(paths); };
+  objects.onNew = [&] { documents.newDocument(); };
+  objects.onActivate = [&] { documents.activate(); };
+  ApplicationService service(objects, services.log);
+  documents.onQuestion = [&] { service.questionIsAsked(); };
+  const ApplicationService::Start start = service.start(files);
+  if (start == ApplicationService::Start::handedOver) return kAllWell;
+
+  followSession(application, documents);
+  Patience patience(documents);
   if (line.parser.isSet(line.service) && start == ApplicationService::Start::first) {
-    patience.setSingleShot(true);
-    patience.setInterval(kPatienceOfAService);
-    service.onMessage = [&] { patience.start(); };
-    QObject::connect(&patience, &QTimer::timeout, &application, [&] {
-      if (!documents.documents().documents().empty()) return;
-      if (QApplication::activeModalWidget()) {
-        patience.start();  // a question, or what could not be opened
-      } else {
-        Application::exit(kAllWell);
-      }
-    });
-    patience.start();
+    service.onMessage = [&] { patience.begin(); };
+    patience.begin();
   } else if (files.isEmpty()) {
     documents.newDocument();
   } else {
@@ -190,6 +203,24 @@ int nascorMain(int argc, char** argv) {
     if (documents.documents().documents().empty()) return kFailed;
   }
   return Application::exec();
+}
+
+int nascorMain(int argc, char** argv) {
+  if (const auto status = chooseDisplay({argv, static_cast<std::size_t>(argc)})) return *status;
+  const QtMessageHandler toolkitsHandler = qInstallMessageHandler(takeBeginningMessage);
+  Application application(argc, argv);
+  qInstallMessageHandler(toolkitsHandler);
+  for (const QString& message : beginningMessages()) say(stderr, message);
+
+  CommandLine line;
+  if (const auto status = answerAtOnce(line, QCoreApplication::arguments())) return *status;
+  if (const QString sentence = missingFontSentence(); !sentence.isEmpty()) {
+    say(stderr, sentence);
+    return kFailed;
+  }
+  Platform platform(QLocale::system());
+  return line.pages.areGiven(line.parser) ? writePages(line, platform.services())
+                                          : showDocuments(application, line, platform.services());
 }
 
 }  // namespace
