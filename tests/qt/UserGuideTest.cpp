@@ -15,7 +15,7 @@
 #include "qt/QtViewer.h"
 #include "user-guide/GuideDocument.h"
 #include "user-guide/GuideText.h"
-#include "user-guide/PdfOutline.h"
+#include "user-guide/PdfNavigation.h"
 #include "user-guide/WindowPictures.h"
 
 namespace nascor::tests {
@@ -72,6 +72,29 @@ std::vector<Bookmark> bookmarksOf(const QString& pdf) {
   return found;
 }
 
+struct Link {
+  QString words;
+  int page = 0;
+  bool operator==(const Link&) const = default;
+};
+void PrintTo(const Link& link, std::ostream* out) { *out << link.words.toStdString() << " -> " << link.page; }
+
+/// Where one gets to by a click on the words of a file.
+std::vector<Link> linksOf(const QString& pdf) {
+  const QTemporaryDir folder;
+  const Answer answer = run("pdftohtml", {"-xml", "-i", "-q", pdf, folder.filePath("guide")});
+  QFile file(folder.filePath("guide.xml"));
+  EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << answer.error;
+  static const QRegularExpression link(QStringLiteral("<a href=\"guide.html#(\\d+)\">(.*)</a>"));
+  static const QRegularExpression tag(QStringLiteral("<[^>]*>"));
+  std::vector<Link> found;
+  for (auto links = link.globalMatch(QString::fromUtf8(file.readAll())); links.hasNext();) {
+    const auto match = links.next();
+    found.push_back({.words = match.captured(2).remove(tag).simplified(), .page = match.captured(1).toInt()});
+  }
+  return found;
+}
+
 TEST(TheUserGuide, liesWhereTheApplicationLooks) { EXPECT_TRUE(QFile::exists(guidePath())); }
 
 TEST(TheUserGuide, isInstalledWhereTheInstalledApplicationLooks) {
@@ -109,6 +132,17 @@ TEST(TheUserGuide, listsInItsContentsThePagesOfTheBookmarks) {
                     .match(contents)
                     .hasMatch())
         << bookmark.title.toStdString() << ' ' << bookmark.page;
+  }
+}
+
+TEST(TheUserGuide, leadsFromItsContentsToThePagesByAClick) {
+  const std::vector<Link> links = linksOf(guidePath());
+  const std::vector<Bookmark> bookmarks = bookmarksOf(guidePath());
+  ASSERT_FALSE(bookmarks.empty());
+  for (const Bookmark& bookmark : bookmarks) {
+    for (const QString& words : {bookmark.title, QString::number(bookmark.page)})
+      EXPECT_THAT(links, testing::Contains(Link{.words = words, .page = bookmark.page}))
+          << bookmark.title.toStdString();
   }
 }
 
@@ -221,7 +255,7 @@ TEST(MakingTheGuide, stopsAtAChapterThatThereIsNot) {
   EXPECT_THROW(user_guide::guideText({QStringLiteral("/nowhere/chapter.md")}), std::runtime_error);
 }
 TEST(MakingTheGuide, appendsNoBookmarksToWhatIsNoPdf) {
-  EXPECT_THROW(user_guide::withOutline("%PDF-1.4 and rubbish", {{.title = QStringLiteral("A")}}, 842.0),
+  EXPECT_THROW(user_guide::withNavigation("%PDF-1.4 and rubbish", {{.title = QStringLiteral("A")}}, 842.0),
                std::runtime_error);
 }
 TEST(MakingTheGuide, keepsEverySignOfATitleInItsBookmark) {
@@ -236,6 +270,97 @@ TEST(MakingTheGuide, keepsEverySignOfATitleInItsBookmark) {
     read.push_back(std::to_string(each.level) + " " + each.title.toStdString() + " " +
                    std::to_string(each.page));
   EXPECT_THAT(read, ElementsAre("1 1 Cr\u00e9quat 2", "2 1.1 One 2", "2 1.2 Two 2", "1 2 Last 3"));
+}
+
+/// A guide of a few lines.
+class AGuide : public testing::Test {
+ protected:
+  /// The pages behind the contents.
+  QStringList make(const QString& text) {
+    writeFile(path(), user_guide::guidePdf({.title = "T", .subtitle = {}, .warning = {}}, text,
+                                           [](const QString&) { return picture(); }));
+    QStringList found = textOf(path(), {"-layout"}).split(u'\f', Qt::SkipEmptyParts);
+    found.removeFirst();
+    return found;
+  }
+  QString path() const { return folder_.filePath("a.pdf"); }
+  static QImage picture() {
+    QImage image(200, 400, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    return image;
+  }
+  static QString lines(int count) {
+    QString text;
+    for (int i = 0; i < count; ++i) text += QStringLiteral("line\n\n");
+    return text;
+  }
+  static QString table(int rows) {
+    QString text = QStringLiteral("| headword | b |\n| --- | --- |\n");
+    for (int i = 1; i <= rows; ++i) text += QStringLiteral("| row%1 | x |\n").arg(i);
+    return text + u'\n';
+  }
+
+ private:
+  QTemporaryDir folder_;
+};
+
+TEST_F(AGuide, leadsFromWordsToTheSectionThatTheyName) {
+  const QStringList pages = make(
+      "# One\n\n[there](#far-away) and [again](#far-away-1)\n\n# Far away\n\ntext\n\n"
+      "# Other\n\n## Far away\n\ntext\n");
+  EXPECT_TRUE(pages.at(0).contains("there (2) and again (3.1)")) << pages.at(0).toStdString();
+  const std::vector<Link> links = linksOf(path());
+  EXPECT_THAT(links, testing::Contains(Link{.words = "there (2)", .page = 3}));
+  EXPECT_THAT(links, testing::Contains(Link{.words = "again (3.1)", .page = 4}));
+}
+TEST_F(AGuide, isNotMadeWithALinkToNowhere) {
+  EXPECT_THROW(make("# One\n\n[there](#nowhere)\n"), std::runtime_error);
+}
+TEST_F(AGuide, repeatsTheHeadOfALongTable) {
+  const QStringList pages = make("# One\n\n" + table(120));
+  ASSERT_GT(pages.size(), 2);
+  for (const QString& page : pages) EXPECT_EQ(page.count("headword"), 1) << page.toStdString();
+}
+TEST_F(AGuide, keepsATableWhole) {
+  // At some of these lengths the table does not fit under the lines.
+  bool isMoved = false;
+  for (int count = 20; count < 45; count += 4) {
+    const QStringList pages = make("# One\n\n" + lines(count) + table(8));
+    for (const QString& page : pages) EXPECT_EQ(page.contains("headword"), page.contains("row8")) << count;
+    isMoved = isMoved || (pages.size() > 1 && !pages.at(0).contains("headword"));
+  }
+  EXPECT_TRUE(isMoved);
+}
+TEST_F(AGuide, keepsAHeadingWithThePictureAndTheTableUnderIt) {
+  bool isMoved = false;
+  for (int count = 12; count < 40; count += 4) {
+    const QStringList pages =
+        make("# One\n\n" + lines(count) + "## Section\n\n![caption](picture:a)\n\n" + table(4));
+    for (const QString& page : pages) {
+      EXPECT_EQ(page.contains("Section"), page.contains("caption")) << count;
+      EXPECT_EQ(page.contains("Section"), page.contains("row4")) << count;
+    }
+    isMoved = isMoved || (pages.size() > 1 && !pages.at(0).contains("Section"));
+  }
+  EXPECT_TRUE(isMoved);
+}
+TEST_F(AGuide, keepsWhatIsAnnouncedWithItsAnnouncement) {
+  bool isMoved = false;
+  for (int count = 30; count < 46; count += 2) {
+    const QStringList pages =
+        make("# One\n\n" + lines(count) + "So it is called:\n\n    code1\n    code2\n\ntext\n");
+    for (const QString& page : pages) EXPECT_EQ(page.contains("called:"), page.contains("code2")) << count;
+    isMoved =
+        isMoved || (pages.size() > 1 && !pages.at(0).contains("called:") && pages.at(1).contains("called:"));
+  }
+  EXPECT_TRUE(isMoved);
+}
+TEST_F(AGuide, readsALinkToAnotherChaptersFile) {
+  const QTemporaryDir folder;
+  writeFile(folder.filePath("a.md"), "# First\n\n[b.md](b.md), [that](b.md#part), [other](c.md)\n");
+  writeFile(folder.filePath("b.md"), "# The Second\n\n## Part\n\ntext\n");
+  EXPECT_THAT(user_guide::guideText({folder.filePath("a.md"), folder.filePath("b.md")}).toStdString(),
+              HasSubstr("[The Second](#the-second), [that](#part), other\n"));
 }
 
 }  // namespace

@@ -18,7 +18,8 @@
 #include <stdexcept>
 #include <vector>
 
-#include "user-guide/PdfOutline.h"
+#include "user-guide/GuideText.h"
+#include "user-guide/PdfNavigation.h"
 
 namespace nascor::user_guide {
 namespace {
@@ -59,12 +60,36 @@ QFont fontOf(const char* family, double size, bool isBold = false) {
 }
 QFont textFont(double size, bool isBold = false) { return fontOf("DejaVu Sans", size, isBold); }
 
-void setSize(QTextBlock block, double size) {
+void setSize(const QTextBlock& block, double size) {
   QTextCursor cursor(block);
   cursor.movePosition(QTextCursor::EndOfBlock, QTextCursor::KeepAnchor);
   QTextCharFormat format;
   format.setFontPointSize(size);
   cursor.mergeCharFormat(format);
+}
+
+QTextTable* tableAt(const QTextBlock& block) { return QTextCursor(block).currentTable(); }
+
+/// The block, or the table that it stands in, begins a page.
+void breakPageBefore(const QTextBlock& block) {
+  if (QTextTable* table = tableAt(block)) {
+    QTextTableFormat format = table->format();
+    format.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
+    table->setFormat(format);
+    return;
+  }
+  QTextBlockFormat format;
+  format.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
+  QTextCursor(block).mergeBlockFormat(format);
+}
+
+bool isHeading(const QTextBlock& block) { return block.blockFormat().headingLevel() > 0; }
+
+bool isPicture(const QTextBlock& block) {
+  for (auto it = block.begin(); !it.atEnd(); ++it) {
+    if (it.fragment().charFormat().isImageFormat()) return true;
+  }
+  return false;
 }
 
 bool isCode(const QTextBlock& block) {
@@ -92,12 +117,16 @@ class PagedText {
     const double top = text_.documentLayout()->blockBoundingRect(block).top();
     return top;
   }
-  int pageOf(const QTextBlock& block) const {
+  /// The page of a line of the block, or of its last one where it has fewer.
+  int pageOf(const QTextBlock& block, int line = 0) const {
     // The lines, not the block: that begins with the space above it, perhaps on the page before.
+    double top = text_.documentLayout()->blockBoundingRect(block).top();
     const QTextLayout* lines = block.layout();
-    const double top = text_.documentLayout()->blockBoundingRect(block).top() +
-                       (lines && lines->lineCount() > 0 ? lines->lineAt(0).y() : 0.0);
+    if (lines && lines->lineCount() > 0) top += lines->lineAt(std::min(line, lines->lineCount() - 1)).y();
     return static_cast<int>(std::floor((top + 1.0) / pageSize().height()));
+  }
+  double heightOf(QTextTable& table) const {
+    return text_.documentLayout()->frameBoundingRect(&table).height();
   }
   void paint(QPainter& painter, int page) {
     const QSizeF size = pageSize();
@@ -179,6 +208,7 @@ void styleTables(QTextFrame* frame) {
     format.setTopMargin(inDots(3.0));
     format.setBottomMargin(inDots(8.0));
     format.setWidth(QTextLength(QTextLength::PercentageLength, 100.0));
+    format.setHeaderRowCount(1);  // the head stands again on each further page
     table->setFormat(format);
     for (int row = 0; row < table->rows(); ++row) {
       for (int column = 0; column < table->columns(); ++column) {
@@ -250,9 +280,23 @@ void styleParagraphs(QTextDocument& text) {
   }
 }
 
+using PlacedHeading = std::pair<QTextBlock, Heading>;
+
+/// The name of a heading, with a number where one before it is called the same.
+QString nameOf(const QString& title, const std::vector<PlacedHeading>& before) {
+  const QString name = headingName(title);
+  const auto isTaken = [&](const QString& wanted) {
+    return std::any_of(before.begin(), before.end(),
+                       [&](const PlacedHeading& other) { return other.second.name == wanted; });
+  };
+  QString unique = name;
+  for (int i = 1; isTaken(unique); ++i) unique = QStringLiteral("%1-%2").arg(name).arg(i);
+  return unique;
+}
+
 /// Numbers the headings, makes them look like such, and lets a chapter begin on a new page.
-std::vector<std::pair<QTextBlock, Heading>> styleHeadings(QTextDocument& text) {
-  std::vector<std::pair<QTextBlock, Heading>> headings;
+std::vector<PlacedHeading> styleHeadings(QTextDocument& text) {
+  std::vector<PlacedHeading> headings;
   int chapter = 0;
   int section = 0;
   for (QTextBlock block = text.begin(); block.isValid(); block = block.next()) {
@@ -265,6 +309,7 @@ std::vector<std::pair<QTextBlock, Heading>> styleHeadings(QTextDocument& text) {
     } else if (level == 2) {
       number = QStringLiteral("%1.%2").arg(chapter).arg(++section);
     }
+    const QString name = nameOf(block.text(), headings);
     QTextCursor cursor(block);
     if (!number.isEmpty()) cursor.insertText(number + QStringLiteral("  "));
     cursor.movePosition(QTextCursor::StartOfBlock);
@@ -278,62 +323,87 @@ std::vector<std::pair<QTextBlock, Heading>> styleHeadings(QTextDocument& text) {
     format.setBottomMargin(inDots(level == 1 ? 12.0 : 4.0));
     if (level == 1 && chapter > 1) format.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
     cursor.mergeBlockFormat(format);
-    if (level <= 2) headings.push_back({block, {.title = block.text(), .level = level}});
+    if (level <= 2) headings.push_back({block, {.title = block.text(), .level = level, .name = name}});
   }
   return headings;
 }
 
-/// A heading stands on the page of what follows it.
-void keepHeadingsWithTexts(PagedText& body) {
-  constexpr int kMostRounds = 8;
-  for (int round = 0; round < kMostRounds; ++round) {
-    bool isChanged = false;
-    for (QTextBlock block = body.text().begin(); block.isValid(); block = block.next()) {
-      if (block.blockFormat().headingLevel() == 0 || !block.next().isValid()) continue;
-      if (block.blockFormat().pageBreakPolicy() & QTextFormat::PageBreak_AlwaysBefore) continue;
-      QTextBlock first = block;
-      while (first.previous().isValid() && first.previous().blockFormat().headingLevel() > 0)
-        first = first.previous();
-      if (body.pageOf(block.next()) == body.pageOf(first)) continue;
-      if (first.blockFormat().pageBreakPolicy() & QTextFormat::PageBreak_AlwaysBefore) continue;
-      QTextBlockFormat format;
-      format.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
-      QTextCursor(first).mergeBlockFormat(format);
-      isChanged = true;
+/// Behind the words of a link stands the number of the section that it leads to, for those who read on paper.
+void styleLinks(QTextDocument& text, const std::vector<PlacedHeading>& headings) {
+  std::vector<QTextFragment> links;
+  for (QTextBlock block = text.begin(); block.isValid(); block = block.next()) {
+    for (auto it = block.begin(); !it.atEnd(); ++it) {
+      if (!it.fragment().charFormat().anchorHref().isEmpty()) links.push_back(it.fragment());
     }
-    if (!isChanged) return;
+  }
+  std::reverse(links.begin(), links.end());  // an insertion moves what is behind it
+  for (const QTextFragment& link : links) {
+    QTextCharFormat format = link.charFormat();
+    format.setForeground(kAccent);
+    format.setFontUnderline(false);
+    QTextCursor cursor(&text);
+    cursor.setPosition(link.position());
+    cursor.setPosition(link.position() + link.length(), QTextCursor::KeepAnchor);
+    cursor.setCharFormat(format);
+    const auto heading = std::find_if(headings.begin(), headings.end(), [&](const PlacedHeading& each) {
+      return QStringLiteral("#") + each.second.name == format.anchorHref();
+    });
+    if (heading == headings.end()) continue;
+    cursor.setPosition(link.position() + link.length());
+    cursor.insertText(QStringLiteral(" (%1)").arg(heading->second.title.section(u' ', 0, 0)), format);
   }
 }
 
-/// A few lines of code stand together, with the heading above them.
-void keepCodeTogether(PagedText& body) {
+/// What must stand on one page.
+struct Group {
+  QTextBlock last;
+  int lastLine = 0;
+};
+
+/// A heading stands with what follows it, a sentence with what it announces, a picture with the table under it; a few lines
+/// of code and a table that is no longer than a page stand whole; of a longer table the head stands with its first row.
+Group groupFrom(const PagedText& body, const QTextBlock& first) {
+  constexpr int kAllLines = 1000;
   constexpr int kFewLines = 24;
-  for (QTextBlock first = body.text().begin(); first.isValid(); first = first.next()) {
-    if (!isCode(first) || isCode(first.previous())) continue;
+  constexpr double kMostOfAPage = 0.9;
+  if (QTextTable* table = tableAt(first)) {
+    const bool fits = body.heightOf(*table) < PagedText::pageSize().height() * kMostOfAPage;
+    const int row = fits ? table->rows() - 1 : std::min(1, table->rows() - 1);
+    return {.last = table->cellAt(row, table->columns() - 1).lastCursorPosition().block(),
+            .lastLine = kAllLines};
+  }
+  const bool hasNext = first.next().isValid();
+  if (isCode(first)) {
     QTextBlock last = first;
     int lines = 1;
-    for (; isCode(last.next()); last = last.next()) ++lines;
-    if (lines > kFewLines || body.pageOf(first) == body.pageOf(last)) continue;
-    QTextBlock begin = first;
-    if (first.previous().blockFormat().headingLevel() > 0) begin = first.previous();
-    QTextBlockFormat format;
-    format.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
-    QTextCursor(begin).mergeBlockFormat(format);
+    for (; lines < kFewLines && isCode(last.next()); last = last.next()) ++lines;
+    return {.last = last, .lastLine = kAllLines};
   }
+  const bool announces = isHeading(first) || first.text().endsWith(u':') ||
+                         (isPicture(first) && hasNext && tableAt(first.next()));
+  if (announces && hasNext) return groupFrom(body, first.next());
+  // No line stands alone, neither the first nor the last.
+  constexpr int kFewTextLines = 4;
+  const QTextLayout* lines = first.layout();
+  const bool isShort = isPicture(first) || !lines || lines->lineCount() < kFewTextLines;
+  return {.last = first, .lastLine = isShort ? kAllLines : 1};
 }
 
-/// The first row of a table stands on the page of the second.
-void keepTableHeadsWithRows(PagedText& body) {
-  for (QTextFrame* frame : body.text().rootFrame()->childFrames()) {
-    auto* table = qobject_cast<QTextTable*>(frame);
-    if (!table || table->rows() < 2) continue;
-    const auto pageOfRow = [&](int row) {
-      return body.pageOf(table->cellAt(row, 0).firstCursorPosition().block());
-    };
-    if (pageOfRow(0) == pageOfRow(1)) continue;
-    QTextTableFormat format = table->format();
-    format.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
-    table->setFormat(format);
+/// The block behind what must not be looked at again: code and tables are groups as a whole.
+QTextBlock blockBehind(const QTextBlock& block) {
+  if (QTextTable* table = tableAt(block))
+    return table->cellAt(table->rows() - 1, table->columns() - 1).lastCursorPosition().block().next();
+  QTextBlock next = block.next();
+  while (isCode(block) && isCode(next)) next = next.next();
+  return next;
+}
+
+/// From the front to the back, as a page that breaks moves all that is behind it.
+void keepGroupsTogether(PagedText& body) {
+  for (QTextBlock block = body.text().begin(); block.isValid(); block = blockBehind(block)) {
+    if (block.previous().isValid() && isHeading(block.previous())) continue;  // looked at with its heading
+    const Group group = groupFrom(body, block);
+    if (body.pageOf(block) != body.pageOf(group.last, group.lastLine)) breakPageBefore(block);
   }
 }
 
@@ -370,6 +440,8 @@ void writeFront(QTextDocument& text, const GuideTitle& title, const std::vector<
   for (int row = 0; row < table->rows(); ++row) {
     const Heading& heading = headings.at(static_cast<std::size_t>(row));
     QTextCharFormat letters;
+    letters.setAnchor(true);
+    letters.setAnchorHref(QStringLiteral("#") + heading.name);
     letters.setFont(textFont(heading.level == 1 ? 9.0 : 8.0, heading.level == 1));
     letters.setForeground(kInk);
     QTextBlockFormat place;
@@ -422,11 +494,9 @@ QByteArray guidePdf(const GuideTitle& title, const QString& text, const PictureS
   styleTables(body.text().rootFrame());
   placePictures(body.text(), pictures);
   auto blocks = styleHeadings(body.text());
+  styleLinks(body.text(), blocks);
   styling.endEditBlock();
-  keepHeadingsWithTexts(body);
-  keepTableHeadsWithRows(body);
-  keepCodeTogether(body);
-  keepHeadingsWithTexts(body);
+  keepGroupsTogether(body);
   const int bodyPages = body.text().pageCount();
 
   std::vector<Heading> headings;
@@ -452,7 +522,7 @@ QByteArray guidePdf(const GuideTitle& title, const QString& text, const PictureS
   }
   painter.end();
   for (Heading& heading : headings) heading.page += frontPages;
-  return withOutline(file.data(), headings, kPaper.height());
+  return withNavigation(file.data(), headings, kPaper.height());
 }
 
 }  // namespace nascor::user_guide

@@ -1,6 +1,7 @@
 #include "user-guide/GuideText.h"
 
 #include <QFile>
+#include <QMap>
 #include <QRegularExpression>
 #include <stdexcept>
 #include <vector>
@@ -45,16 +46,55 @@ QString withoutTabs(const QString& text) {
   return lines.join(u'\n');
 }
 
+/// Where the links of the text lead on paper. `titles` are those of the chapters, by their files.
+QString withLinksInside(const QString& text, const QMap<QString, QString>& titles) {
+  static const QRegularExpression link(QStringLiteral(R"((?<!!)\[([^\]]+)\]\(([^)]*)\))"));
+  QString result;
+  qsizetype done = 0;
+  for (auto matches = link.globalMatch(text); matches.hasNext();) {
+    const QRegularExpressionMatch match = matches.next();
+    const QString words = match.captured(1);
+    const QString target = match.captured(2);
+    const QString file = target.section(u'#', 0, 0);
+    const QString name = target.section(u'#', 1);
+    result += text.mid(done, match.capturedStart() - done);
+    done = match.capturedEnd();
+    if (target.startsWith(QLatin1String("http"))) {
+      result += match.captured(0);
+    } else if (file.isEmpty() || titles.contains(file)) {
+      const QString title = titles.value(file);
+      result += QStringLiteral("[%1](#%2)")
+                    .arg(words == file ? title : words, name.isEmpty() ? headingName(title) : name);
+    } else {
+      result += words;
+    }
+  }
+  return result + text.mid(done);
+}
+
 }  // namespace
 
+QString headingName(const QString& title) {
+  QString name;
+  for (const QChar sign : title.toLower()) {
+    if (sign.isLetterOrNumber() || sign == u'-') name += sign;
+    if (sign.isSpace()) name += u'-';
+  }
+  return name;
+}
+
 QString guideText(const QStringList& paths) {
-  static const QRegularExpression localLink(QStringLiteral("(?<!!)\\[([^\\]]+)\\]\\((?!https?:)[^)]*\\)"));
   QString text;
-  for (const QString& path : paths) text += contents(path) + QStringLiteral("\n\n");
-  text = withoutTabs(text);
-  text.replace(localLink, QStringLiteral("\\1"));
+  QMap<QString, QString> titles;
+  static const QRegularExpression firstTitle(QStringLiteral("^# (.*)$"), QRegularExpression::MultilineOption);
+  for (const QString& path : paths) {
+    const QString chapter = contents(path);
+    titles.insert(path.section(u'/', -1), firstTitle.match(chapter).captured(1));
+    text += chapter + QStringLiteral("\n\n");
+  }
+  text = withLinksInside(withoutTabs(text), titles);
   // The toolkit's reader of Markdown takes what follows an empty first cell for it.
-  static const QRegularExpression emptyCorner(QStringLiteral("^\\| \\|"),
+  static const QRegularExpression emptyCorner(QStringLiteral(R"(^\| \|)"),
                                               QRegularExpression::MultilineOption);
   text.replace(emptyCorner, QStringLiteral("| \u00a0 |"));
   text.replace(QStringLiteral("{{growth}}"), listOf(calc::growthStandardPublications()));

@@ -172,7 +172,7 @@ struct WindowPictures::Application {
     for (QWidget* shown : QApplication::topLevelWidgets()) {
       auto* box = qobject_cast<QMessageBox*>(shown);
       if (!box || !box->isVisible()) continue;
-      const QImage image = imageOf(*box);
+      QImage image = imageOf(*box);
       box->reject();
       settle();
       return image;
