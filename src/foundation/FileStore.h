@@ -31,7 +31,7 @@ class FileStore {
  public:
   virtual ~FileStore() = default;
 
-  /// The whole file. Folders and files that cannot be read to their end are errors.
+  /// The whole file. Folders, devices and files that cannot be read to their end are errors.
   virtual std::variant<std::vector<std::byte>, FileError> contents(const std::string& path) const = 0;
 
   /// Replaces the whole file `path` by `bytes`, or leaves the old file untouched and says why not. Never

@@ -192,7 +192,8 @@ TEST_F(PosixFileStoreTest, readsAPipeToItsEndThoughSignalsInterruptIt) {
     }
     ::close(ends[1]);
   });
-  const auto result = store_.contents("/proc/self/fd/" + std::to_string(ends[0]));
+  const PosixFileStore readingPipes({}, PosixFileStore::Pipes::areRead);
+  const auto result = readingPipes.contents("/proc/self/fd/" + std::to_string(ends[0]));
   // Nobody else would empty the pipe, had the reading stopped.
   ::close(ends[0]);
   writer.join();
@@ -214,6 +215,13 @@ TEST_F(PosixFileStoreTest, saysWhyAFileCannotBeRead) {
   EXPECT_EQ(whyNotRead(path("file") + std::string(1, '\0') + ".txt"), "Invalid argument");
   // A file whose reading begins and then fails.
   EXPECT_EQ(whyNotRead("/proc/self/mem"), "Input/output error");
+}
+
+TEST_F(PosixFileStoreTest, doesNotWaitForTheWriterOfAPipe) {
+  ASSERT_EQ(::mkfifo(path("pipe.nascor").c_str(), 0600), 0);
+  fs::create_symlink("pipe.nascor", path("link.nascor"));
+  EXPECT_EQ(whyNotRead(path("pipe.nascor")), "Not a regular file");
+  EXPECT_EQ(whyNotRead(path("link.nascor")), "Not a regular file");
 }
 
 TEST_F(PosixFileStoreTest, doesNotReadAFileThatTheUserMayNotRead) {

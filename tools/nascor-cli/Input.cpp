@@ -47,7 +47,7 @@ std::string nameOf(const std::string& path) { return path == "-" ? std::string(k
 
 std::optional<std::vector<std::byte>> contentsOf(const std::string& path, Console& console) {
   if (path != "-") {
-    auto contents = posix::PosixFileStore().contents(path);
+    auto contents = posix::PosixFileStore({}, posix::PosixFileStore::Pipes::areRead).contents(path);
     if (auto* bytes = std::get_if<std::vector<std::byte>>(&contents)) return std::move(*bytes);
     console.complain(path, std::get<foundation::FileError>(contents).reason);
     return std::nullopt;

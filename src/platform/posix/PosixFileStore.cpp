@@ -158,11 +158,17 @@ void flushFolder(const std::string& folder) {
 
 std::variant<std::vector<std::byte>, FileError> PosixFileStore::contents(const std::string& path) const {
   if (hasZeroByte(path)) return systemError(EINVAL);
-  const Descriptor file(uninterrupted([&] { return ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NOCTTY); }));
-  if (!file.isOpen()) return systemError();
+  const bool readsPipes = pipes_ == Pipes::areRead;
+  const auto isReadable = [&](mode_t mode) { return S_ISREG(mode) || (readsPipes && S_ISFIFO(mode)); };
+  // Before it is opened: that alone waits for the writer of a pipe, and does something to many a device.
   struct stat status {};
+  if (::stat(path.c_str(), &status) != 0) return systemError();
+  if (!isReadable(status.st_mode)) return notAFile(status.st_mode);
+  const int flags = O_RDONLY | O_CLOEXEC | O_NOCTTY | (readsPipes ? 0 : O_NONBLOCK);
+  const Descriptor file(uninterrupted([&] { return ::open(path.c_str(), flags); }));
+  if (!file.isOpen()) return systemError();
   if (::fstat(file.number(), &status) != 0) return systemError();
-  if (!S_ISREG(status.st_mode) && !S_ISFIFO(status.st_mode)) return notAFile(status.st_mode);
+  if (!isReadable(status.st_mode)) return notAFile(status.st_mode);
 
   // The size that a file states is a hint alone: it may be growing, or name far more than there is memory.
   constexpr std::size_t kLeast = 4096;

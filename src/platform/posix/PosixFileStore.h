@@ -12,11 +12,15 @@
 
 namespace nascor::posix {
 
-/// The files of the operating system. Reads files and pipes; writes files alone.
+/// The files of the operating system.
 class PosixFileStore final : public foundation::FileStore {
  public:
+  /// Whether a pipe is read to its end like a file. Who waits for its writer waits for as long as nobody writes.
+  enum class Pipes { areRefused, areRead };
+
   /// `documentsFolder` is where the user keeps documents; empty for the folder "Documents" of the user's home.
-  explicit PosixFileStore(std::string documentsFolder = {}) : documentsFolder_(std::move(documentsFolder)) {}
+  explicit PosixFileStore(std::string documentsFolder = {}, Pipes pipes = Pipes::areRefused)
+      : documentsFolder_(std::move(documentsFolder)), pipes_(pipes) {}
 
   std::variant<std::vector<std::byte>, foundation::FileError> contents(
       const std::string& path) const override;
@@ -35,6 +39,7 @@ class PosixFileStore final : public foundation::FileStore {
 
  private:
   std::string documentsFolder_;
+  Pipes pipes_;
 };
 
 }  // namespace nascor::posix

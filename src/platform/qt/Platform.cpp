@@ -5,10 +5,11 @@
 
 namespace nascor::qt {
 
-Platform::Platform(const QLocale& locale)
+Platform::Platform(const QLocale& locale, posix::PosixFileStore::Pipes pipes)
     : localizer_(locale),
       files_(QFile::encodeName(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation))
-                 .toStdString()) {}
+                 .toStdString(),
+             pipes) {}
 
 foundation::Services Platform::services() {
   return {.clock = clock_,

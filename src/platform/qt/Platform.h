@@ -16,7 +16,9 @@ namespace nascor::qt {
 /// The application's answers to what documents ask of the platform. Outlives all documents.
 class Platform {
  public:
-  explicit Platform(const QLocale& locale);
+  /// A window reads no pipe: it would stand still until somebody writes into it.
+  explicit Platform(const QLocale& locale,
+                    posix::PosixFileStore::Pipes pipes = posix::PosixFileStore::Pipes::areRefused);
   Platform(const Platform&) = delete;
   Platform& operator=(const Platform&) = delete;
 

@@ -218,7 +218,8 @@ int nascorMain(int argc, char** argv) {
     say(stderr, sentence);
     return kFailed;
   }
-  Platform platform(QLocale::system());
+  using Pipes = nascor::posix::PosixFileStore::Pipes;
+  Platform platform(QLocale::system(), line.pages.areGiven(line.parser) ? Pipes::areRead : Pipes::areRefused);
   return line.pages.areGiven(line.parser) ? writePages(line, platform.services())
                                           : showDocuments(application, line, platform.services());
 }
