@@ -266,6 +266,8 @@ class NCDocument final : public framework::CorvelDocument,
   bool mayModify(std::string_view message, std::string_view information);
   const model::NCRecord* examination(std::int64_t exam) const;
   model::NCRecord* currentExamination();
+  /// A file may lack the examination, or the record of a fetus: nobody types into what holds nothing.
+  void showWhatTakesTyping();
   model::MeasurementsRecord* currentMeasurements();
   std::string shortDateText(const std::optional<foundation::Date>& date) const;
   std::optional<foundation::Date> dateFromText(const framework::TextField& field) const;

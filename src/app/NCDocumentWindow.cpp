@@ -74,8 +74,17 @@ void NCDocument::synchronizeFromData() {
   }
   measurementFieldsAreStale_ = false;
   notesField().setText(exam ? exam->note().value_or("") : "");
+  showWhatTakesTyping();
   updateDisplay();
   refreshEDDfromMeasurements();
+}
+
+void NCDocument::showWhatTakesTyping() {
+  const bool hasExamination = currentExamination() != nullptr;
+  examDateField().setEditable(hasExamination);
+  notesField().setEditable(hasExamination);
+  const bool hasRecord = currentMeasurements() != nullptr;
+  for (const Measurement measurement : calc::kMeasurements) fieldFor(measurement).setEditable(hasRecord);
 }
 
 void NCDocument::synchronizeToData() {

@@ -28,6 +28,11 @@ class TextView {
   }
   bool wasEdited() const { return wasEdited_; }
   void forgetEdits() { wasEdited_ = false; }
+  /// Whether the user may type here. Not where there is nothing that could hold what is typed.
+  bool isEditable() const { return isEditable_; }
+  void setEditable(bool editable) {
+    if (std::exchange(isEditable_, editable) != editable && onChange) onChange();
+  }
 
   std::function<void()> onChange;  ///< set by the view
   std::function<void()> onEdit;    ///< set by the document
@@ -41,6 +46,7 @@ class TextView {
   std::string name_;
   std::string text_;
   bool wasEdited_ = false;
+  bool isEditable_ = true;
 };
 
 class CheckBox {

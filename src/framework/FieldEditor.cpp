@@ -6,7 +6,7 @@ namespace nascor::framework {
 
 bool FieldEditor::begin(TextField& field) {
   if (field_ == &field) return true;
-  if (!end()) return false;
+  if (!end() || !field.isEditable()) return false;
   TextFieldDelegate* delegate = field.delegate();
   if (delegate && !delegate->controlTextShouldBeginEditing(field)) return false;
   field_ = &field;

@@ -1,5 +1,7 @@
 #include "framework/TextField.h"
 
+#include <utility>
+
 #include "foundation/NumberText.h"
 
 namespace nascor::framework {
@@ -13,6 +15,10 @@ void TextField::takeEditedText(const std::string& text) { show(text, true); }
 void TextField::setRed(bool red) {
   isRed_ = red;
   if (onChange) onChange();
+}
+
+void TextField::setEditable(bool editable) {
+  if (std::exchange(isEditable_, editable) != editable && onChange) onChange();
 }
 
 void TextField::show(std::string text, bool wasEdited) {

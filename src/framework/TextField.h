@@ -39,6 +39,10 @@ class TextField {
   bool wasEdited() const { return wasEdited_; }
   void forgetEdits() { wasEdited_ = false; }
 
+  /// Whether the user may type here. Not where there is nothing that could hold what is typed.
+  bool isEditable() const { return isEditable_; }
+  void setEditable(bool editable);
+
   /// Whether the text is to be shown in red.
   bool isRed() const { return isRed_; }
   void setRed(bool red);
@@ -60,6 +64,7 @@ class TextField {
   std::string text_;
   bool wasEdited_ = false;
   bool isRed_ = false;
+  bool isEditable_ = true;
 };
 
 /// A field that holds a number and shows it rounded. Only what the user types replaces the number, so showing a value and

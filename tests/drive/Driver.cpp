@@ -364,6 +364,7 @@ Json Driver::perform(const std::string& key, const Json& argument) {
       {"advance", &Driver::advance},   {"zone", &Driver::zone},
       {"locale", &Driver::locale},     {"paper", &Driver::paper},
       {"marks", &Driver::marks},       {"outside", &Driver::outside},
+      {"told", &Driver::told},
   };
   if (key == "new" || key == "state") {
     if (argument != Json(true)) refuse("expected true");
@@ -399,7 +400,7 @@ Json Driver::save(const Json& target) {
   if (!target.is_string() && target != Json(true)) refuse("expected a path or true");
   if (auto refusal = heldBack(saved)) return *refusal;
   if (!target.is_string() && !saved.filePath()) refuse("the document has no file yet");
-  alerts_.told.clear();
+  const std::size_t toldBefore = alerts_.told.size();
   bool isSaved = false;
   if (target.is_string()) {
     panels_.fileToSave = std::filesystem::absolute(target.get<std::string>()).string();
@@ -408,7 +409,7 @@ Json Driver::save(const Json& target) {
   } else {
     isSaved = documents_.saveDocument(saved);
   }
-  if (!alerts_.told.empty()) refuse(alerts_.told.back());
+  if (!isSaved && alerts_.told.size() > toldBefore) refuse(alerts_.told.back());
   return {{"saved", isSaved}};
 }
 
@@ -426,7 +427,7 @@ Json Driver::edit(const Json& fieldAndText) {
   const std::string text = textArgument(fieldAndText[1], "a text");
   NCDocument& edited = document();
   if (name == edited.notesField().name()) {
-    const bool began = edited.fieldEditor().end();
+    const bool began = edited.fieldEditor().end() && edited.notesField().isEditable();
     if (began) edited.notesField().takeEditedText(text);
     return {{"began", began}, {"ended", began}};
   }
@@ -598,6 +599,11 @@ Json Driver::marks(const Json& page) {
 Json Driver::paper(const Json& word) {
   if (word != Json(true)) refuse("expected true");
   return {{"paper", std::exchange(paper_, Json::array())}};
+}
+
+Json Driver::told(const Json& word) {
+  if (word != Json(true)) refuse("expected true");
+  return {{"told", std::exchange(alerts_.told, {})}};
 }
 
 Json Driver::outside(const Json& call) {

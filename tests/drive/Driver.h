@@ -62,6 +62,8 @@ class Driver {
   Json marks(const Json& page);
   /// The marks and discs on the pages that were exported or printed since this was last asked.
   Json paper(const Json& word);
+  /// What the user was told since this was last asked: each message with its information.
+  Json told(const Json& word);
   /// What another program does to the files.
   Json outside(const Json& call);
   Json advance(const Json& seconds);

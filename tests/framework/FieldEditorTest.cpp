@@ -73,6 +73,20 @@ TEST_F(AFieldEditor, leavesAFieldAloneThatMayNotBeChanged) {
   EXPECT_THAT(delegate.calls, ElementsAre("should begin one"));
 }
 
+TEST_F(AFieldEditor, opensNoFieldThatHoldsNothing) {
+  int shown = 0;
+  one.onChange = [&] { ++shown; };
+  one.setEditable(false);
+  one.setEditable(false);
+  EXPECT_EQ(shown, 1);
+  EXPECT_FALSE(editor.begin(one));
+  EXPECT_EQ(editor.field(), nullptr);
+  EXPECT_THAT(delegate.calls, IsEmpty());
+  one.setEditable(true);
+  EXPECT_EQ(shown, 2);
+  EXPECT_TRUE(editor.begin(one));
+}
+
 TEST_F(AFieldEditor, asksOnceWhileAFieldIsInEdit) {
   EXPECT_TRUE(editor.begin(one));
   EXPECT_TRUE(editor.begin(one));

@@ -16,9 +16,21 @@ None is invented when it is opened. The fields of the examination are empty, and
 {"choose":1}
 {"state":true}
 =~ {"currentExam":0,"currentFetus":1,"document":{"gravida":2,"examinations":[]}}
+
+What belongs to an examination cannot be typed before there is one; it would be lost.
+
 {"edit":["bpdField","44"]}
+=> {"began":false,"ended":false}
+{"edit":["examDateField","11/20/26"]}
+=> {"began":false,"ended":false}
+{"edit":["notesField","lost"]}
+=> {"began":false,"ended":false}
 {"state":true}
-=~ {"fields":{"bpdField":""},"document":{"examinations":[]}}
+=~ {"fields":{"bpdField":"","examDateField":"","notesField":""},"document":{"examinations":[]}}
 {"do":["addExaminationAction"]}
 {"state":true}
 =~ {"currentExam":0,"edited":true,"fields":{"examDateField":"11/21/26","ageField":"20w 0d","bpdField":"0.0"},"document":{"examinations":[{"measurements":[{"bpd":0},{"bpd":0}]}]}}
+{"edit":["bpdField","44"]}
+=> {"began":true,"ended":true}
+{"edit":["notesField","kept"]}
+=> {"began":true,"ended":true}

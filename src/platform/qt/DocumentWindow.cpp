@@ -196,6 +196,9 @@ void DocumentWindow::bindFields() {
   NoteEdit* noteEdit = ui_->notesField;
   note.onChange = [noteEdit, &note] {
     const QString text = fromUtf8(note.text());
+    noteEdit->setReadOnly(!note.isEditable());
+    noteEdit->setPlaceholderText(note.isEditable() ? QString()
+                                                   : said("There is no examination to note this at."));
     if (noteEdit->toPlainText() == text) return;
     const QSignalBlocker quiet(noteEdit);
     noteEdit->setPlainText(text);
@@ -478,7 +481,7 @@ void DocumentWindow::showEditing() {
   for (FieldBinding* binding : bindings_) {
     binding->refresh();
     if (binding->edit().isRefusing()) permitted = binding->edit().toolTip();
-    const QString description = binding->edit().toolTip();
+    const QString description = binding->description();
     binding->edit().setAccessibleDescription(
         binding->edit().isRefusing() ? said("Not permitted. %1").arg(description) : description);
   }

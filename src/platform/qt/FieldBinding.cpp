@@ -1,5 +1,6 @@
 #include "qt/FieldBinding.h"
 
+#include <QApplication>
 #include <QMetaObject>
 
 #include "qt/Text.h"
@@ -58,7 +59,26 @@ void FieldBinding::refresh() {
   if (!field_ || isBeginning_) return;
   show(edit_, fromUtf8(isInEdit() ? editor_.text() : field_->text()));
   edit_.setRefusing(isInEdit() && editor_.isRefusing());
+  showEditable();
   showColor(edit_, field_->isRed());
+}
+
+void FieldBinding::showEditable() {
+  const bool isEditable = field_->isEditable();
+  if (edit_.isReadOnly() != isEditable) return;
+  edit_.setReadOnly(!isEditable);
+  QPalette palette = edit_.palette();
+  palette.setBrush(QPalette::Base, isEditable ? QApplication::palette(&edit_).brush(QPalette::Base)
+                                              : QBrush(Qt::transparent));
+  edit_.setPalette(palette);
+  edit_.setPlaceholderText(isEditable ? QString() : QCoreApplication::translate("FieldBinding", "no record"));
+  edit_.setAccessibleDescription(description());
+}
+
+QString FieldBinding::description() const {
+  if (!edit_.isReadOnly()) return edit_.toolTip();
+  return QCoreApplication::translate("FieldBinding",
+                                     "Nothing can be entered here: the document holds no record for it.");
 }
 
 void FieldBinding::typed(const QString& text) {

@@ -28,10 +28,13 @@ class FieldBinding final : public QObject {
   void refresh();
 
   FieldEdit& edit() { return edit_; }
+  /// What an aid for reading says of the field: what it takes, or why it takes nothing.
+  QString description() const;
   const framework::TextField* field() const { return field_; }
 
  private:
   void typed(const QString& text);
+  void showEditable();
   void leave();
   bool escape();
   bool isInEdit() const { return field_ != nullptr && editor_.field() == field_; }
