@@ -1,9 +1,12 @@
 #include "app/NCDocument.h"
 
+#include <limits>
 #include <utility>
 
 #include "calc/Dating.h"
 #include "calc/Projection.h"
+#include "foundation/ConvertInteger.h"
+#include "foundation/Localizer.h"
 #include "model/PatientFile.h"
 
 namespace nascor::app {
@@ -62,6 +65,16 @@ std::vector<std::byte> NCDocument::dataRepresentationOfType(std::string_view) co
 bool NCDocument::loadDataRepresentation(std::span<const std::byte> data, std::string_view) {
   patientRecord_ = model::unarchivedPatient(data).patient;
   return true;
+}
+
+std::optional<std::string> NCDocument::lossInFile() const {
+  if (!patientRecord_) return std::nullopt;
+  const std::int64_t gravida = patientRecord_->gravida();
+  const std::int32_t kept = foundation::low32Bits(gravida);
+  if (kept == gravida) return std::nullopt;
+  return foundation::format(services().localizer, foundation::string_table::ncDocument,
+                            "The gravidity %ld will be read as %ld. A file holds gravidities up to %ld.",
+                            {gravida, kept, std::numeric_limits<std::int32_t>::max()});
 }
 
 std::int64_t NCDocument::lastExam() const { return std::max<std::int64_t>(numberOfExaminations() - 1, 0); }

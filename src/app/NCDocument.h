@@ -48,6 +48,7 @@ class NCDocument final : public framework::CorvelDocument,
   std::vector<std::byte> dataRepresentationOfType(std::string_view type) const override;
   /// True also for a file whose root is nil, which leaves no patient. Throws archive::FormatError for a malformed file.
   bool loadDataRepresentation(std::span<const std::byte> data, std::string_view type) override;
+  std::optional<std::string> lossInFile() const override;
   bool holdsContents() const override { return patientRecord_ != nullptr; }
   std::string suggestedFileName() const override { return preferredFileName(false); }
 

@@ -62,7 +62,14 @@ bool DocumentController::write(ZuDocument& document, const std::string& path) {
       holder && holder != &document
           ? FileError{services_.localizer.text(string_table::corvelDocument, "It is open in another window.")}
           : document.writeToFile(path);
-  if (!error) return true;
+  if (!error) {
+    if (const auto loss = document.lossInFile()) {
+      alerts_.tell(services_.localizer.text(string_table::corvelDocument,
+                                            "The document was saved, but its file cannot hold all of it."),
+                   path + ": " + *loss);
+    }
+    return true;
+  }
   alerts_.tell(services_.localizer.text(string_table::corvelDocument, "The document was not saved."),
                path + ": " + error->reason);
   return false;

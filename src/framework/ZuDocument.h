@@ -34,6 +34,8 @@ class ZuDocument {
   /// Takes the contents of a file. Throws std::runtime_error, whose text is a sentence for the user, when they are not
   /// those of a document, and then changes nothing.
   virtual bool loadDataRepresentation(std::span<const std::byte> data, std::string_view type) = 0;
+  /// A sentence for the user on what of the model a file cannot hold as it stands; nothing when it holds all.
+  virtual std::optional<std::string> lossInFile() const { return std::nullopt; }
   /// Whether a load has given the document anything: a file may say that it holds nothing.
   virtual bool holdsContents() const = 0;
   // Selector: windowControllerDidLoadNib:
