@@ -34,7 +34,10 @@ QSize FieldEdit::minimumSizeHint() const {
 }
 
 void FieldEdit::focusOutEvent(QFocusEvent* event) {
-  QLineEdit::focusOutEvent(event);
+  // Left for the menu bar, the toolkit's field forgets what is selected, and so what the Edit menu is to cut or copy. For a
+  // menu that pops up by itself it does not.
+  QFocusEvent forMenu(QEvent::FocusOut, Qt::PopupFocusReason);
+  QLineEdit::focusOutEvent(event->reason() == Qt::MenuBarFocusReason ? &forMenu : event);
   switch (event->reason()) {
     // The focus comes back by itself: whoever looks at another window has not left the field.
     case Qt::PopupFocusReason:
