@@ -68,10 +68,11 @@ std::optional<std::string> CorvelDocument::doExport(const foundation::Notificati
 
   auto sentence = exportPage(tabView_.indexOfSelectedPage(), *folder);
   if (sentence && sender) {
-    environment_.alerts.tell(localizer.text(string_table::corvelDocument, "The page was not exported."),
-                             *sentence + "\n" +
-                                 localizer.text(string_table::corvelDocument,
-                                                "Please make room in this folder or choose another."));
+    environment_.alerts.tell(
+        localizer.text(string_table::corvelDocument, "The page was not exported."),
+        *sentence + "\n" +
+            localizer.text(string_table::corvelDocument,
+                           "Please make room in this folder, or choose another in Export Settings."));
   }
   return sentence;
 }

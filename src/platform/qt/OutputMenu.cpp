@@ -31,6 +31,7 @@ namespace {
 
 constexpr std::string_view kPaperKey = "Paper";
 constexpr int kMessageTime = 10'000;  // ms
+constexpr double kPreviewOfWindow = 0.9;
 
 QString said(const char* sentence) { return QCoreApplication::translate("OutputMenu", sentence); }
 
@@ -106,19 +107,33 @@ void OutputMenu::pageSetup(NCDocument& document) {
   QPrinter printer;
   printer.setPageLayout(layoutOf(document.printInfo()));
   QPageSetupDialog dialog(&printer, &window_);
-  if (dialog.exec() != QDialog::Accepted) return;
-  document.setPrintInfo(printInfoOf(printer.pageLayout()));
+  if (dialog.exec() == QDialog::Accepted) setPaper(document, printer.pageLayout());
+}
+
+void OutputMenu::setPaper(NCDocument& document, const QPageLayout& layout) {
+  document.setPrintInfo(printInfoOf(layout));
   rememberPaper(environment_.services.defaults, document.printInfo());
 }
 
 void OutputMenu::printPreview(NCDocument& document) {
+  constexpr int kPrint = QDialog::Accepted + 1;
   QPrinter printer(QPrinter::HighResolution);
   printer.setPageLayout(layoutOf(document.printInfo()));
+  const QPageLayout before = printer.pageLayout();
   QPrintPreviewDialog dialog(&printer, &window_);
+  dialog.resize(window_.size() * kPreviewOfWindow);
   connect(&dialog, &QPrintPreviewDialog::paintRequested, this, [this, &document](QPrinter* preview) {
     environment_.printer.paintInto(preview, [&] { document.printDocumentWithSettings({}, false, {}); });
   });
-  dialog.exec();
+  // The dialog's own printing writes into the file that the user names, and tells nobody of a full disk.
+  for (QAction* item : dialog.findChildren<QAction*>()) {
+    if (item->text() != QCoreApplication::translate("QPrintPreviewDialog", "Print")) continue;
+    item->disconnect(&dialog);
+    connect(item, &QAction::triggered, &dialog, [&dialog] { dialog.done(kPrint); });
+  }
+  const int answer = dialog.exec();
+  if (printer.pageLayout() != before) setPaper(document, printer.pageLayout());
+  if (answer == kPrint) document.printDocumentWithSettings({}, true, {});
 }
 
 void OutputMenu::exportPage(NCDocument& document) {
@@ -158,8 +173,9 @@ void OutputMenu::exportAll(NCDocument& document) {
   constexpr std::size_t kMostShown = 3;
   std::string reasons;
   for (std::size_t i = 0; i < sentences.size() && i < kMostShown; ++i) reasons += sentences[i] + "\n";
-  environment_.alerts.tell(toUtf8(said("%1 pages were not exported.").arg(QString::number(sentences.size()))),
-                           reasons + toUtf8(said("Please make room in this folder or choose another.")));
+  environment_.alerts.tell(
+      toUtf8(said("%1 pages were not exported.").arg(QString::number(sentences.size()))),
+      reasons + toUtf8(said("Please make room in this folder, or choose another in Export Settings.")));
 }
 
 void OutputMenu::exportSettings() {

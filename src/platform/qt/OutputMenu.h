@@ -37,6 +37,8 @@ class OutputMenu final : public QObject {
   void add(QMenu& menu, QAction* before, const char* name, const char* text, const QKeySequence& keys,
            const std::function<void(app::NCDocument&)>& action);
   void pageSetup(app::NCDocument& document);
+  /// The paper of the document, and of those that are opened later.
+  void setPaper(app::NCDocument& document, const QPageLayout& layout);
   void printPreview(app::NCDocument& document);
   void exportPage(app::NCDocument& document);
   void exportAll(app::NCDocument& document);
