@@ -73,6 +73,17 @@ TEST_F(TheOutputItems, waitForAFieldThatRefuses) {
   press(Qt::Key_Escape);
 }
 
+TEST_F(TheOutputItems, haveKeysThatNoFieldTakesForItself) {
+  open(singleton());
+  for (const char* name : {"exportAction", "printAction"}) {
+    const QKeyCombination keys = action(name).shortcut()[0];
+    QKeyEvent typed(QEvent::ShortcutOverride, keys.key(), keys.keyboardModifiers());
+    typed.ignore();
+    QApplication::sendEvent(&widget<QLineEdit>("bpdField"), &typed);
+    EXPECT_FALSE(typed.isAccepted()) << name;
+  }
+}
+
 TEST_F(TheOutputItems, keepTheSettings) {
   open(singleton());
   QTimer agree;

@@ -76,7 +76,7 @@ framework::PrintInfo usualPaper(const foundation::UserDefaults& defaults) {
 OutputMenu::OutputMenu(QMainWindow& window, QMenu& menu, QAction* before, OutputEnvironment environment)
     : QObject(&window), window_(window), environment_(std::move(environment)) {
   add(menu, before, "exportAction", QT_TRANSLATE_NOOP("OutputMenu", "Export Page"),
-      QKeySequence(QStringLiteral("Ctrl+E")), [this](NCDocument& document) { exportPage(document); });
+      QKeySequence(QStringLiteral("Ctrl+Shift+P")), [this](NCDocument& document) { exportPage(document); });
   add(menu, before, "exportAllAction", QT_TRANSLATE_NOOP("OutputMenu", "Export All Fetuses"), {},
       [this](NCDocument& document) { exportAll(document); });
   add(menu, before, "exportSettingsAction", QT_TRANSLATE_NOOP("OutputMenu", "Export Settings..."), {},
