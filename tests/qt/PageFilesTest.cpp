@@ -5,7 +5,9 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QImage>
+#include <QPainter>
 #include <QSet>
+#include <QSvgRenderer>
 #include <QTemporaryDir>
 #include <QXmlStreamReader>
 
@@ -209,6 +211,36 @@ TEST_F(WritingPages, paintsTheFootUnderThePictureToo) {
     for (int x = 0; x < whole.width(); ++x) hasInk = hasInk || whole.pixelColor(x, y).lightness() < 64;
   }
   EXPECT_TRUE(hasInk);
+}
+
+TEST_F(WritingPages, makesDrawingsThatLookLikeThePicturesOfTheSamePages) {
+  wanted.formats = {PageFormat::svg, PageFormat::png};
+  wanted.hasFoot = true;
+  wanted.pngScale = 1.0;
+  wanted.pages = {};
+  write({file("a.nascor", documentBytes(singleton()))});
+  for (const char* page : {"Trends", "BPD", "HC", "AC", "FL", "Weight", "Report"}) {
+    const QImage picture(out(QByteArray("a - ").append(page).append(".png")));
+    QSvgRenderer drawing(out(QByteArray("a - ").append(page).append(".svg")));
+    ASSERT_TRUE(drawing.isValid()) << page;
+    ASSERT_EQ(drawing.defaultSize(), picture.size()) << page;
+    QImage drawn(picture.size(), QImage::Format_RGB32);
+    drawn.fill(Qt::red);
+    {
+      QPainter painter(&drawn);
+      drawing.render(&painter);
+    }
+    constexpr int kOtherShade = 96;
+    int different = 0;
+    for (int y = 0; y < drawn.height(); ++y) {
+      for (int x = 0; x < drawn.width(); ++x) {
+        if (std::abs(drawn.pixelColor(x, y).lightness() - picture.pixelColor(x, y).lightness()) > kOtherShade)
+          ++different;
+      }
+    }
+    // The edges of letters and lines differ, and nothing else.
+    EXPECT_LT(different, drawn.width() * drawn.height() / 50) << page;
+  }
 }
 
 TEST_F(WritingPages, writesDrawingsOfValidXmlWithNamedFonts) {

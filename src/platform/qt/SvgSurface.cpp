@@ -85,8 +85,9 @@ framework::Canvas& SvgSurface::beginLayer(const framework::Rect& frame, bool isF
 
 void SvgSurface::endView() {
   const framework::Rect& frame = view_->frame();
+  // Viewers of plain SVG, which know no clipping, would paint the rectangle in black if it stood among what is drawn.
   views_ += QStringLiteral(
-                "<clipPath id=\"view%1\"><rect width=\"%2\" height=\"%3\"/></clipPath>\n"
+                "<defs><clipPath id=\"view%1\"><rect width=\"%2\" height=\"%3\"/></clipPath></defs>\n"
                 "<g transform=\"translate(%4 %5)\" clip-path=\"url(#view%1)\">")
                 .arg(QString::number(++layers_), number(frame.width), number(frame.height), number(frame.x),
                      number(frame.y));
