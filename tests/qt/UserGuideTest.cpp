@@ -344,6 +344,26 @@ TEST_F(AGuide, keepsAHeadingWithThePictureAndTheTableUnderIt) {
   }
   EXPECT_TRUE(isMoved);
 }
+TEST_F(AGuide, keepsAPictureUnderAHeadingWithItsExplanation) {
+  bool isMoved = false;
+  for (int count = 12; count < 40; count += 4) {
+    const QStringList pages = make("# One\n\n" + lines(count) +
+                                   "## Section\n\n![caption](picture:a)\n\nexplained\n\n## Next\n\ntext\n");
+    for (const QString& page : pages)
+      EXPECT_EQ(page.contains("caption"), page.contains("explained")) << count;
+    isMoved = isMoved || (pages.size() > 1 && !pages.at(0).contains("Section"));
+  }
+  EXPECT_TRUE(isMoved);
+}
+TEST_F(AGuide, partsAPictureFromTheNextSection) {
+  bool isParted = false;
+  for (int count = 12; count < 40; count += 2) {
+    const QStringList pages =
+        make("# One\n\n" + lines(count) + "## Section\n\n![caption](picture:a)\n\n## Next\n\ntext\n");
+    isParted = isParted || (pages.at(0).contains("caption") && !pages.at(0).contains("Next"));
+  }
+  EXPECT_TRUE(isParted);
+}
 TEST_F(AGuide, keepsWhatIsAnnouncedWithItsAnnouncement) {
   bool isMoved = false;
   for (int count = 30; count < 46; count += 2) {

@@ -44,7 +44,8 @@ const QColor kShade(0xf2, 0xf4, 0xf7);
 double pointsToUnit(const QString& picture) {
   constexpr double kOfPages = 0.42;
   constexpr double kOfOthers = 0.54;
-  return picture.startsWith(QLatin1String("page-")) ? kOfPages : kOfOthers;
+  return picture.startsWith(QLatin1String("page-")) || picture == QLatin1String("dialog-preview") ? kOfPages
+                                                                                                  : kOfOthers;
 }
 
 double inDots(double points) { return points * kScreenDotsPerInch / kPointsPerInch; }
@@ -360,8 +361,8 @@ struct Group {
   int lastLine = 0;
 };
 
-/// A heading stands with what follows it, a sentence with what it announces, a picture with the table under it; a few lines
-/// of code and a table that is no longer than a page stand whole; of a longer table the head stands with its first row.
+/// A heading stands with what follows it, also with what follows a picture; a sentence stands with what it announces, a
+/// picture with the table under it; a few lines of code and a table that is no longer than a page stand whole; of a longer table the head stands with its first row.
 Group groupFrom(const PagedText& body, const QTextBlock& first) {
   constexpr int kAllLines = 1000;
   constexpr int kFewLines = 24;
@@ -379,8 +380,11 @@ Group groupFrom(const PagedText& body, const QTextBlock& first) {
     for (; lines < kFewLines && isCode(last.next()); last = last.next()) ++lines;
     return {.last = last, .lastLine = kAllLines};
   }
+  const QTextBlock next = first.next();
+  const bool isUnderHeading = first.previous().isValid() && isHeading(first.previous());
+  const bool explainsPicture = isUnderHeading && !isHeading(next) && !isPicture(next);
   const bool announces = isHeading(first) || first.text().endsWith(u':') ||
-                         (isPicture(first) && hasNext && tableAt(first.next()));
+                         (isPicture(first) && hasNext && (explainsPicture || tableAt(next)));
   if (announces && hasNext) return groupFrom(body, first.next());
   // No line stands alone, neither the first nor the last.
   constexpr int kFewTextLines = 4;

@@ -228,8 +228,14 @@ QImage WindowPictures::picture(const QString& name) {
        }},
       {QStringLiteral("dialog-about"),
        [&] { return Application::modal(shown.open("singleton.nascor"), QStringLiteral("aboutAction")); }},
-      {QStringLiteral("dialog-export-settings"), [&] {
+      {QStringLiteral("dialog-export-settings"),
+       [&] {
          return Application::modal(shown.open("singleton.nascor"), QStringLiteral("exportSettingsAction"));
+       }},
+      {QStringLiteral("dialog-page-setup"),
+       [&] { return Application::modal(shown.open("singleton.nascor"), QStringLiteral("pageSetupAction")); }},
+      {QStringLiteral("dialog-preview"), [&] {
+         return Application::modal(shown.open("singleton.nascor"), QStringLiteral("printPreviewAction"));
        }}};
   if (const auto found = makers.find(name); found != makers.end()) return found->second();
   if (name.startsWith(QLatin1String("page-"))) return shown.page(name.mid(5));
