@@ -103,11 +103,7 @@ QPointF place(double week, double mm) {
 /// Draws texts, shaped anew or laid out once.
 class Texts {
  public:
-  explicit Texts(bool areKept) : areKept_(areKept) {
-    font_.setPixelSize(10);
-    font_.setHintingPreference(QFont::PreferNoHinting);
-    font_.setStyleStrategy(QFont::PreferNoShaping);
-  }
+  explicit Texts(bool areKept) : areKept_(areKept) { font_.setPixelSize(10); }
   const QFont& font() const { return font_; }
   double width(const QString& text) {
     return areKept_ ? kept(text).size().width() : QFontMetricsF(font_).horizontalAdvance(text);
@@ -309,6 +305,10 @@ int main(int argc, char** argv) {
   }
 
   const int rounds = argc > 1 ? std::atoi(argv[1]) : 200;
+  if (rounds < 1) {
+    std::fputs("usage: bench-painting [ROUNDS] | --only NAME FRAMES\n", stderr);
+    return 2;
+  }
   constexpr int kFrames = 10;
   for (int round = -5; round < rounds; ++round) {  // the first ones warm up
     for (Contender& contender : contenders) {

@@ -222,9 +222,15 @@ int main(int argc, char** argv) {
   document.windowControllerDidLoadNib();
   document.setOnPaper(true);
 
-  std::vector<PlainPage> plain;
+  std::vector<PlainPage> plain;  // of every fetus, as the export writes them
   const std::int64_t count = document.tabView().numberOfPages();
-  for (std::int64_t i = 0; i < count; ++i) plain.push_back(plainPage(document.tabView().page(i)));
+  for (std::int64_t fetus = 0; fetus < document.multiplePopUp().numberOfItems(); ++fetus) {
+    document.multiplePopUp().selectItemAtIndex(fetus);
+    document.chooseFetus(document.multiplePopUp());
+    for (std::int64_t i = 0; i < count; ++i) plain.push_back(plainPage(document.tabView().page(i)));
+  }
+  document.multiplePopUp().selectItemAtIndex(0);
+  document.chooseFetus(document.multiplePopUp());
   constexpr std::int64_t kBPD = 1;
   framework::Page& bpd = document.tabView().page(kBPD);
   const PlainPage* plainBPD = &plain[kBPD];
