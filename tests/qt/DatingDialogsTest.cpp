@@ -118,6 +118,7 @@ TEST_F(TheDialogs, datesFromTheLastPeriodByKeysAlone) {
   key(Qt::Key_Return);
   EXPECT_FALSE(dialog("lmpWindow").isVisible());
   EXPECT_EQ(text("birthDateField"), "4/14/27");
+  key(Qt::Key_D, Qt::ControlModifier | Qt::ShiftModifier);
   EXPECT_EQ(text("adjustDeliverOnField"), "4/14/27");
   EXPECT_TRUE(window->isWindowModified());
 }
@@ -189,9 +190,9 @@ TEST_F(TheDialogs, askOnThemselvesWhetherAnEstablishedEDDIsModified) {
        {Way{Qt::Key_L, "lmpWindow", "lmpWindowLMP"}, Way{Qt::Key_R, "crlWindow", "crlWindowCRL"},
         Way{Qt::Key_M, "measurementsWindow", "measurementsWindowBPDCheck"}}) {
     SCOPED_TRACE(way.dialog);
-    QDialog& shown = dialog(way.dialog);
     toWindow();
     key(way.key, Qt::ControlModifier | Qt::ShiftModifier);
+    QDialog& shown = dialog(way.dialog);
     EXPECT_TRUE(shown.isVisible());
     QMessageBox* box = sheetOn(shown);
     ASSERT_NE(box, nullptr);

@@ -144,10 +144,10 @@ TEST_F(TheApplicationOfDocuments, tellsWhyADocumentWasNotSaved) {
   enter("bpdField", "81");
   ASSERT_TRUE(QFile::remove(folder.filePath(QStringLiteral("AB-123.nascor"))));
   ASSERT_TRUE(QDir().mkdir(folder.filePath(QStringLiteral("AB-123.nascor"))));
-  answers = {"OK"};
+  answers = {"Save Anyway", "OK"};
   press(Qt::Key_S, Qt::ControlModifier);
-  ASSERT_EQ(asked.size(), 1U);
-  EXPECT_EQ(asked[0].message, "The document was not saved.");
+  ASSERT_EQ(asked.size(), 2U);
+  EXPECT_EQ(asked[1].message, "The document was not saved.");
   EXPECT_TRUE(front().isWindowModified());
 }
 

@@ -130,6 +130,10 @@ void DocumentWindow::release() {
   for (FieldBinding* binding : bindings_) binding->release();
   dropSheets(*this);
   for (PanelDialog* dialog : dialogs_) dialog->release();
+  for (framework::Panel* panel : document_->panels()) {
+    panel->onCenter = nullptr;
+    panel->onChange = nullptr;
+  }
   document_->ageField().onChange = nullptr;
   document_->notesField().onChange = nullptr;
   document_->multiplePopUp().onChange = nullptr;
@@ -258,6 +262,7 @@ void DocumentWindow::bindPages() {
   const auto showSelected = [this] {
     const QSignalBlocker quiet(ui_->tabView);
     ui_->tabView->setCurrentIndex(static_cast<int>(document_->tabView().indexOfSelectedPage()));
+    updatePages();
   };
   tabs.onSelect = showSelected;
   tabs.onNeedsDisplay = [this] { updatePages(); };
@@ -328,16 +333,35 @@ void DocumentWindow::bindActions() {
 }
 
 void DocumentWindow::bindDialogs() {
+  for (framework::Panel* panel : document_->panels()) {
+    panel->onCenter = [this, panel] { dialogOf(*panel).center(); };
+    panel->onChange = [this, panel] {
+      if (panel->isShown() || windowOfPanel(*panel)) dialogOf(*panel).followPanel();
+    };
+  }
+}
+
+PanelDialog& DocumentWindow::dialogOf(const framework::Panel& panel) {
+  const auto made = std::ranges::find(dialogs_, &panel, &PanelDialog::panel);
+  // Most windows close without a dialog, and making all of them takes as long as showing the window.
+  return made != dialogs_.end() ? **made : *dialogs_.emplace_back(makeDialog(panel));
+}
+
+PanelDialog* DocumentWindow::makeDialog(const framework::Panel& panel) {
   const PanelDialog::Perform perform = [this](const DocumentAction& action) { this->perform(action); };
-  dialogs_.push_back(new AdjustDeliveryDialog(*document_, environment_.services, perform, this));
-  const auto add = [this](DatingDialog* dialog) {
-    dialogs_.push_back(dialog);
-    bindings_.insert(bindings_.end(), dialog->bindings().begin(), dialog->bindings().end());
-  };
+  const foundation::Services& services = environment_.services;
   Actions& actions = environment_.actions;
-  add(new EDDFromLMPDialog(*document_, environment_.services, actions, perform, this));
-  add(new EDDFromCRLDialog(*document_, environment_.services, actions, perform, this));
-  add(new EDDFromMeasurementsDialog(*document_, environment_.services, actions, perform, this));
+  const auto withFields = [this](DatingDialog* dialog) {
+    bindings_.insert(bindings_.end(), dialog->bindings().begin(), dialog->bindings().end());
+    return dialog;
+  };
+  if (panel.name() == "crlWindow")
+    return withFields(new EDDFromCRLDialog(*document_, services, actions, perform, this));
+  if (panel.name() == "lmpWindow")
+    return withFields(new EDDFromLMPDialog(*document_, services, actions, perform, this));
+  if (panel.name() == "measurementsWindow")
+    return withFields(new EDDFromMeasurementsDialog(*document_, services, actions, perform, this));
+  return new AdjustDeliveryDialog(*document_, services, perform, this);
 }
 
 QWidget* DocumentWindow::windowOfPanel(const framework::Panel& panel) const {
@@ -562,15 +586,15 @@ void DocumentWindow::showStandards() {
 
 void DocumentWindow::updatePages() {
   if (!document_) return;
-  const QString description = said("Growth chart of %1. Examination %2, %3.")
-                                  .arg(fromUtf8(document_->preferredFileName(true)),
-                                       ui_->examinationLabel->text(), fromUtf8(document_->ageField().text()));
-  for (PageView* view : pageViews_) {
-    view->setAccessibleDescription(description);
-    view->update();
-  }
-  pageViews_.at(app::PatientPages::kReportPage)
-      ->setAccessibleDescription(fromUtf8(document_->report().tabSeparatedText()));
+  for (PageView* view : pageViews_) view->update();
+  const std::int64_t shown = document_->tabView().indexOfSelectedPage();
+  pageViews_.at(static_cast<std::size_t>(shown))
+      ->setAccessibleDescription(shown == app::PatientPages::kReportPage
+                                     ? fromUtf8(document_->report().tabSeparatedText())
+                                     : said("Growth chart of %1. Examination %2, %3.")
+                                           .arg(fromUtf8(document_->preferredFileName(true)),
+                                                ui_->examinationLabel->text(),
+                                                fromUtf8(document_->ageField().text())));
 }
 
 void DocumentWindow::revert() {

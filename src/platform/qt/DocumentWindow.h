@@ -87,6 +87,9 @@ class DocumentWindow final : public QMainWindow {
   void bindEditActions();
   void bindStandardsMenus();
   void bindDialogs();
+  /// The dialog that shows `panel`, made now if it was not shown before.
+  PanelDialog& dialogOf(const framework::Panel& panel);
+  PanelDialog* makeDialog(const framework::Panel& panel);
   void showRecentFiles();
   void describeFields();
 

@@ -34,8 +34,8 @@ framework::Point PageView::onPage(QPointF point) const {
 }
 
 bool PageView::event(QEvent* event) {
-  if (event->type() != QEvent::ToolTip) return QWidget::event(event);
-  const auto* help = static_cast<QHelpEvent*>(event);
+  const auto* help = event->type() == QEvent::ToolTip ? dynamic_cast<QHelpEvent*>(event) : nullptr;
+  if (!help) return QWidget::event(event);
   const QString text = page_ ? fromUtf8(page_->toolTipAt(onPage(help->pos()))) : QString();
   if (text.isEmpty()) {
     QToolTip::hideText();

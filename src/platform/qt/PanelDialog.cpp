@@ -17,19 +17,17 @@ void PanelDialog::bindPanel() {
     if (fromUtf8(panel->name()) == objectName()) panel_ = panel;
   }
   foundation::required(panel_);
-  panel_->onChange = [this] { showPanel(); };
-  panel_->onCenter = [this] {
-    adjustSize();
-    if (const QWidget* window = parentWidget())
-      move(window->geometry().center() - QRect(QPoint(), size()).center());
-  };
+}
+
+void PanelDialog::center() {
+  adjustSize();
+  if (const QWidget* window = parentWidget())
+    move(window->geometry().center() - QRect(QPoint(), size()).center());
 }
 
 void PanelDialog::release() {
   if (!document_) return;
   releaseControls();
-  panel_->onChange = nullptr;
-  panel_->onCenter = nullptr;
   panel_ = nullptr;
   document_ = nullptr;
   hide();
@@ -46,7 +44,7 @@ framework::TextField& PanelDialog::fieldFor(const QWidget& widget) const {
   return *foundation::required(found != fields.end() ? *found : nullptr);
 }
 
-void PanelDialog::showPanel() {
+void PanelDialog::followPanel() {
   if (!panel_->isShown()) {
     hide();
     return;

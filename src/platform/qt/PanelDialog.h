@@ -19,6 +19,12 @@ class PanelDialog : public QDialog {
 
   ~PanelDialog() override = default;
 
+  /// What it shows; null once the document is gone.
+  const framework::Panel* panel() const { return panel_; }
+  /// Shows itself when the document has its panel shown, and hides otherwise.
+  void followPanel();
+  /// Stands in the middle of the document's window.
+  void center();
   /// Ends the binding: the document goes.
   void release();
   void done(int result) override;
@@ -26,7 +32,7 @@ class PanelDialog : public QDialog {
  protected:
   PanelDialog(app::NCDocument& document, Perform perform, QWidget* parent);
 
-  /// Binds the dialog to the panel of its own name; it has been set up.
+  /// Finds the panel of the dialog's own name; it has been set up.
   void bindPanel();
   /// Null once the document is gone.
   app::NCDocument* document() const { return document_; }
@@ -44,8 +50,6 @@ class PanelDialog : public QDialog {
   virtual void releaseControls() = 0;
 
  private:
-  void showPanel();
-
   app::NCDocument* document_;
   QString title_;
   Perform perform_;

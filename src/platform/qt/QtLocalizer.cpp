@@ -10,16 +10,22 @@ std::string QtLocalizer::text(std::string_view table, std::string_view key) cons
   return toUtf8(QCoreApplication::translate(std::string(table).c_str(), std::string(key).c_str()));
 }
 
-foundation::ShortDateForm QtLocalizer::shortDateForm() const {
+namespace {
+
+foundation::ShortDateForm shortDateFormOf(const QLocale& locale) {
   constexpr int kMonths = 12;
-  const QString pattern = locale_.dateFormat(QLocale::ShortFormat);
+  const QString pattern = locale.dateFormat(QLocale::ShortFormat);
   const auto length = pattern.contains(QStringLiteral("MMMM")) ? QLocale::LongFormat : QLocale::ShortFormat;
   foundation::ShortDateForm form{.pattern = toUtf8(pattern), .monthNames = {}};
   for (int month = 1; month <= kMonths; ++month) {
-    form.monthNames.push_back(toUtf8(locale_.monthName(month, length)));
+    form.monthNames.push_back(toUtf8(locale.monthName(month, length)));
   }
   return form;
 }
+
+}  // namespace
+
+QtLocalizer::QtLocalizer(const QLocale& locale) : locale_(locale), shortDateForm_(shortDateFormOf(locale)) {}
 
 char QtLocalizer::decimalSign() const {
   const QString sign = locale_.decimalPoint();

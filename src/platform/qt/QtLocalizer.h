@@ -9,16 +9,17 @@ namespace nascor::qt {
 /// Texts from the translations that the application has installed, ways of writing from a locale.
 class QtLocalizer final : public foundation::Localizer {
  public:
-  explicit QtLocalizer(const QLocale& locale) : locale_(locale) {}
+  explicit QtLocalizer(const QLocale& locale);
 
   std::string text(std::string_view table, std::string_view key) const override;
-  foundation::ShortDateForm shortDateForm() const override;
+  foundation::ShortDateForm shortDateForm() const override { return shortDateForm_; }
   /// A point where the locale's own sign is no single byte.
   char decimalSign() const override;
   std::string upperCased(std::string_view text) const override;
 
  private:
   QLocale locale_;
+  foundation::ShortDateForm shortDateForm_;
 };
 
 }  // namespace nascor::qt

@@ -19,7 +19,11 @@ std::optional<std::string> QtUserDefaults::value(std::string_view key) const {
 }
 
 void QtUserDefaults::setValue(std::string_view key, std::string value) {
-  settings_.setValue(fromUtf8(key), fromUtf8(value));
+  const QString name = fromUtf8(key);
+  const QString text = fromUtf8(value);
+  // Writing waits for the disk, and a patient who is opened again changes nothing.
+  if (settings_.contains(name) && settings_.value(name).toString() == text) return;
+  settings_.setValue(name, text);
   settings_.sync();
 }
 
