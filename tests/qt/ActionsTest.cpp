@@ -217,7 +217,7 @@ std::vector<Row> rows() {
          window.enter("bpdField", "77");
          window.answers = {"Revert"};
        }},
-      {"exportAction", "", "AB-123 (G2) 1 of 2 - Trends.pdf", exported, {}, "Ctrl+E"},
+      {"exportAction", "", "AB-123 (G2) 1 of 2 - Trends.pdf", exported, {}, "Ctrl+Shift+P"},
       {"exportAllAction", "",
        "AB-123 (G2) 1 of 2 - Report.pdf|AB-123 (G2) 1 of 2 - Trends.pdf|AB-123 (G2) 2 of 2 - Report.pdf|"
        "AB-123 (G2) 2 of 2 - Trends.pdf",

@@ -118,6 +118,7 @@ TEST_F(TheDialogs, datesFromTheLastPeriodByKeysAlone) {
   key(Qt::Key_Return);
   EXPECT_FALSE(dialog("lmpWindow").isVisible());
   EXPECT_EQ(text("birthDateField"), "4/14/27");
+  toWindow();
   key(Qt::Key_D, Qt::ControlModifier | Qt::ShiftModifier);
   EXPECT_EQ(text("adjustDeliverOnField"), "4/14/27");
   EXPECT_TRUE(window->isWindowModified());
