@@ -346,7 +346,7 @@ TEST_F(AGuide, keepsAHeadingWithThePictureAndTheTableUnderIt) {
 }
 TEST_F(AGuide, keepsAPictureUnderAHeadingWithItsExplanation) {
   bool isMoved = false;
-  for (int count = 12; count < 40; count += 4) {
+  for (int count = 12; count < 40; ++count) {
     const QStringList pages = make("# One\n\n" + lines(count) +
                                    "## Section\n\n![caption](picture:a)\n\nexplained\n\n## Next\n\ntext\n");
     for (const QString& page : pages)
