@@ -305,6 +305,22 @@ TEST(QtCanvas, leavesOutWhatHasNoPlace) {
   EXPECT_EQ(inkOf(image), QRect());
 }
 
+TEST(QtCanvas, leavesOutMarksBeyondItsView) {
+  QImage image(300, 300, QImage::Format_RGB32);
+  image.fill(Qt::white);
+  QPainter painter(&image);
+  painter.translate(kSize, kSize);
+  qt::TextLayouts texts;
+  QtCanvas canvas(painter, QSizeF(kSize, kSize), kFlipped, texts);
+  for (const double beyond : {-6.0, kSize + 6.0}) {
+    canvas.mark(MarkSymbol::cross, {50.0, beyond});
+    canvas.mark(MarkSymbol::circle, {beyond, 50.0});
+  }
+  EXPECT_TRUE(inkOf(image).isEmpty());
+  canvas.mark(MarkSymbol::cross, {50.0, kSize + 3.0});
+  EXPECT_FALSE(inkOf(image).isEmpty()) << "half of this one is to be seen";
+}
+
 TEST(QtCanvas, drawsALineToFarOutUpToTheEdge) {
   const QImage image = painted([](QtCanvas& canvas) {
     canvas.strokePath(Path::line({50.0, 50.0}, {50.0, 3e38}));

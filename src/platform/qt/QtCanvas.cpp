@@ -171,6 +171,11 @@ void QtCanvas::strokeRect(const framework::Rect& rect) {
 void QtCanvas::mark(MarkSymbol symbol, Point centre) {
   if (!isFinite(centre)) return;
   const QPointF at = placed(centre);
+  // One beyond the view is clipped away, but not by every viewer of a file.
+  constexpr double kReach = 5.0;
+  if (!QRectF(at - QPointF(kReach, kReach), QSizeF(2.0 * kReach, 2.0 * kReach))
+           .intersects(QRectF(QPointF(), size_)))
+    return;
   take(Tool::mark, kMarkLineWidth);
   setSmooth(true);
   switch (symbol) {
