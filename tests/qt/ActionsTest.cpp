@@ -55,6 +55,7 @@ struct Actions : WindowTest {
   using WindowTest::enter;
   using WindowTest::field;
   using WindowTest::file;
+  using WindowTest::focus;
   using WindowTest::folder;
   using WindowTest::front;
   using WindowTest::label;
@@ -371,6 +372,7 @@ void byMnemonics(Actions& window, const Row& row) {
 void byKeys(Actions& window, const Row& row) {
   const QKeySequence keys(QLatin1String(row.keys));
   EXPECT_EQ(window.itemNamed(row.name).shortcut().toString(), keys.toString());
+  if (window.focus() != "bpdField") window.widget<QLineEdit>("bpdField").setFocus();  // as nearly always
   window.press(keys[0].key(), keys[0].keyboardModifiers());
 }
 void byButton(Actions& window, const Row& row) { window.click(row.button); }
@@ -509,6 +511,50 @@ TEST_F(Actions, askAboutTheGravidityAndKeepIt) {
   type("gravidaField", "3");
   EXPECT_EQ(field("gravidaField"), "2");
   EXPECT_EQ(record().gravida(), 2);
+  EXPECT_FALSE(front().isWindowModified());
+}
+
+TEST_F(Actions, areAnsweredByTheLettersOfTheButtonsWhileTheOldTextStands) {
+  openInTheMiddle();
+  answersQuestions(false);
+  struct Answer {
+    Qt::Key letter;
+    const char* shown;
+  };
+  for (const Answer& answer : {Answer{Qt::Key_C, "2"}, Answer{Qt::Key_M, "3"}}) {
+    whenOpen<QMessageBox>([&](QMessageBox& box) {
+      EXPECT_EQ(widget<QLineEdit>("gravidaField").text(), QStringLiteral("2"));
+      box.activateWindow();
+      EXPECT_TRUE(QTest::qWaitFor([&] { return QApplication::activeWindow() == &box; }));
+      QTest::keyClick(&box, answer.letter, Qt::AltModifier);
+    });
+    type("gravidaField", "3");
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+    EXPECT_EQ(field("gravidaField"), answer.shown);
+  }
+  press(Qt::Key_4);
+  EXPECT_EQ(field("gravidaField"), "34") << "typing goes on where it began";
+  press(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(field("gravidaField"), "2");
+  press(Qt::Key_Escape);
+}
+
+TEST_F(Actions, saveOverAFileThatAnotherProgramHasChangedOnlyWhenToldTo) {
+  openInTheMiddle();
+  enter("bpdField", "77");
+  const QByteArray others = documentBytes(twins());
+  const QString path = file(QStringLiteral("AB-123.nascor"), others);
+  const auto isOthers = [&] {
+    QFile kept(path);
+    return kept.open(QIODevice::ReadOnly) && kept.readAll() == others;
+  };
+  answers = {"Cancel"};
+  press(Qt::Key_S, Qt::ControlModifier);
+  EXPECT_TRUE(isOthers());
+  EXPECT_TRUE(front().isWindowModified());
+  answers = {"Save Anyway"};
+  press(Qt::Key_S, Qt::ControlModifier);
+  EXPECT_FALSE(isOthers());
   EXPECT_FALSE(front().isWindowModified());
 }
 
@@ -687,6 +733,7 @@ const std::map<std::string, std::string>& doneElsewhere() {
       {"Cancel gravidity", "Actions.askAboutTheGravidityAndKeepIt"},
       {"Modify EDD", "EveryWayToType.asksOnceAndRestoresTheTextOnCancel"},
       {"Cancel EDD", "Editing.leavesTheEDDWhenTheUserCancels"},
+      {"Save Anyway or Cancel", "Actions.saveOverAFileThatAnotherProgramHasChangedOnlyWhenToldTo"},
       {"Remove fetus", "TheDocumentWindow.addsAFetusAndRemovesOneAfterAQuestion"},
       {"Cancel fetus", "Actions.askAboutAFetusAndKeepIt"},
       {"Remove or Cancel examination", "TheDocumentWindow.addsAndDeletesAnExamination"},

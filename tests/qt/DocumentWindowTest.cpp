@@ -486,6 +486,14 @@ TEST_F(TheDocumentWindow, namesThePublicationsOfItsStandardsAndFormulas) {
   EXPECT_FALSE(dialog->isVisible());
 }
 
+TEST_F(TheDocumentWindow, usesTheRoomOfALargeScreenAndFitsASmallOne) {
+  const QSize designed(1280, 800);
+  EXPECT_EQ(qt::usualWindowSize(designed, {1280, 800}), QSize(1264, 752));
+  EXPECT_EQ(qt::usualWindowSize(designed, {1366, 768}), QSize(1280, 720));
+  EXPECT_EQ(qt::usualWindowSize(designed, {1920, 1080}), QSize(1728, 972));
+  EXPECT_EQ(qt::usualWindowSize(designed, {3840, 2160}), QSize(1760, 1100));
+}
+
 TEST_F(TheDocumentWindow, keepsItsPlaceOnTheScreenApartFromTheClinicalPreferences) {
   open(singleton()).resize(1000, 700);
   settle();

@@ -66,6 +66,14 @@ QStringList localFiles(const QMimeData* data) {
 
 }  // namespace
 
+QSize usualWindowSize(QSize designed, QSize screen) {
+  const QSize frame(16, 48);  // what a window manager may add
+  // The page grows with the window, to where its texts are as large as one likes to read them.
+  constexpr double kShare = 0.9;
+  const QSize wanted = (screen * kShare).boundedTo({1760, 1100}).expandedTo(designed);
+  return wanted.boundedTo(screen - frame);
+}
+
 DocumentWindow::DocumentWindow(NCDocument& document, WindowEnvironment environment)
     : environment_(std::move(environment)),
       document_(&document),
@@ -632,8 +640,7 @@ void DocumentWindow::restoreWindowGeometry() {
   const auto kept = environment_.services.defaults.value(kGeometryKey);
   if (kept && restoreGeometry(QByteArray::fromBase64(QByteArray::fromStdString(*kept)))) return;
   if (const QScreen* here = screen()) {
-    const QSize frame(16, 48);  // what a window manager may add
-    resize(size().boundedTo(here->availableSize() - frame));
+    resize(usualWindowSize(size(), here->availableSize()));
     move(here->availableGeometry().center() - QRect(QPoint(), size()).center());
   }
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QMainWindow>
+#include <QSize>
 #include <QString>
 #include <QStringList>
 #include <array>
@@ -46,6 +47,9 @@ struct WindowEnvironment {
   std::function<void()> chooseFilesToOpen;
   std::function<void()> quit;
 };
+
+/// How large a window opens for the first time, which was designed for a small screen.
+QSize usualWindowSize(QSize designed, QSize screen);
 
 /// The window of one patient: the fields on the left, the pages on the right. Whatever the user does there goes to the
 /// document, one action at a time, after the text in edit has got there.

@@ -82,21 +82,28 @@ QString FieldBinding::description() const {
 }
 
 void FieldBinding::typed(const QString& text) {
-  if (!field_) return;
+  if (!field_ || isBeginning_) return;
   if (isInEdit()) {
     editor_.replace(toUtf8(text));
     return;
   }
-  // Beginning may end another field, which shows everything anew, and may ask. What was typed stays meanwhile, with what
-  // can be undone of it.
+  // Beginning may end another field, which shows everything anew, and may ask whether the text that stands there is to be
+  // changed at all. What was typed comes back after that, with what can be undone of it.
   const QPointer<FieldBinding> self = this;
   bool began = false;
   isBeginning_ = true;
+  const int cursor = edit_.cursorPosition();
+  edit_.undo();
+  if (edit_.text() != fromUtf8(field_->text())) edit_.redo();
   actions_.perform([&] { began = editor_.begin(*field_); });
   if (!self) return;
+  if (began && edit_.text() != text) edit_.redo();
   isBeginning_ = false;
   if (!field_) return;
   if (began) {
+    if (edit_.text() != text) edit_.setText(text);
+    edit_.deselect();
+    edit_.setCursorPosition(cursor);
     editor_.replace(toUtf8(text));
   } else {
     refresh();

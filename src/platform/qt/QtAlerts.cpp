@@ -5,6 +5,7 @@
 #include <QPushButton>
 #include <algorithm>
 
+#include "qt/Mnemonics.h"
 #include "qt/Text.h"
 
 namespace nascor::qt {
@@ -23,14 +24,18 @@ void setUp(QMessageBox& box, const std::string& message, const std::string& info
   box.setInformativeText(fromUtf8(information));
 }
 
-/// An ampersand in a text is no mnemonic.
-QString buttonText(const std::string& text) { return fromUtf8(text).replace(u'&', QStringLiteral("&&")); }
+/// A button that a letter of its own presses too.
+QPushButton* addButton(QMessageBox& box, const std::string& text, QMessageBox::ButtonRole role) {
+  QString taken;
+  for (const QAbstractButton* other : box.buttons()) taken += mnemonicOf(other->text());
+  return box.addButton(withMnemonic(fromUtf8(text), taken), role);
+}
 
 void setUp(QMessageBox& box, const Alert& alert) {
   setUp(box, alert.message, alert.information);
   box.setIcon(QMessageBox::Question);
-  QPushButton* agree = box.addButton(buttonText(alert.defaultButton), QMessageBox::AcceptRole);
-  QPushButton* cancel = box.addButton(buttonText(alert.alternateButton), QMessageBox::RejectRole);
+  QPushButton* agree = addButton(box, alert.defaultButton, QMessageBox::AcceptRole);
+  QPushButton* cancel = addButton(box, alert.alternateButton, QMessageBox::RejectRole);
   box.setDefaultButton(alert.isCancelledByReturn ? cancel : agree);
   box.setEscapeButton(cancel);
 }
@@ -77,9 +82,10 @@ std::size_t QtAlerts::chooseOne(const std::string& message, const std::string& i
   for (std::size_t i = 0; i < buttons.size(); ++i) {
     const bool isFirst = i == 0;
     const bool isLast = i + 1 == buttons.size();
-    added.push_back(box.addButton(buttonText(buttons[i]), isFirst  ? QMessageBox::AcceptRole
-                                                          : isLast ? QMessageBox::RejectRole
-                                                                   : QMessageBox::DestructiveRole));
+    added.push_back(addButton(box, buttons[i],
+                              isFirst  ? QMessageBox::AcceptRole
+                              : isLast ? QMessageBox::RejectRole
+                                       : QMessageBox::DestructiveRole));
   }
   if (added.empty()) return 0;
   box.setDefaultButton(added.front());
