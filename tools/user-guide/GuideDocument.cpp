@@ -384,12 +384,12 @@ Group groupFrom(const PagedText& body, const QTextBlock& first) {
   const bool isUnderHeading = first.previous().isValid() && isHeading(first.previous());
   const bool explainsPicture = isUnderHeading && !isHeading(next) && !isPicture(next);
   const bool announces = isHeading(first) || first.text().endsWith(u':') ||
-                         (isPicture(first) && hasNext && (explainsPicture || tableAt(next)));
+                         (isPicture(first) && hasNext && (explainsPicture || tableAt(next) != nullptr));
   if (announces && hasNext) return groupFrom(body, first.next());
   // No line stands alone, neither the first nor the last.
   constexpr int kFewTextLines = 4;
   const QTextLayout* lines = first.layout();
-  const bool isShort = isPicture(first) || !lines || lines->lineCount() < kFewTextLines;
+  const bool isShort = isPicture(first) || lines == nullptr || lines->lineCount() < kFewTextLines;
   return {.last = first, .lastLine = isShort ? kAllLines : 1};
 }
 
