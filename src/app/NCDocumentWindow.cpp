@@ -10,6 +10,7 @@
 #include "foundation/Localizer.h"
 #include "foundation/NumberText.h"
 #include "foundation/ShortDate.h"
+#include "foundation/Utf8.h"
 
 namespace nascor::app {
 
@@ -119,7 +120,7 @@ void NCDocument::updateDisplay() {
 
 void NCDocument::setHeader(std::size_t page, const std::string& title) {
   headers_.at(page)->setText(title);
-  pages_.pages().at(page).setTitle(title);
+  pages_.pages().at(page).setTitle(foundation::oneLine(title));
 }
 
 void NCDocument::switchToGraph(std::int64_t tabIndex) { tabView().selectPage(tabIndex); }

@@ -61,7 +61,7 @@ std::int64_t NascorDataView::examinationsShown() const {
 
 std::vector<std::string> NascorDataView::leftHeader() const {
   const model::PatientRecord& patient = *owningDocument()->patientRecord();
-  return {localized("Identifier:\t").append(patient.maternalIDString().value_or("")),
+  return {localized("Identifier:\t").append(foundation::oneLine(patient.maternalIDString().value_or(""))),
           localized("Gravida:\t").append(std::to_string(patient.gravida())),
           localized("Fetus:\t").append(owningDocument()->multiplePopUp().titleOfSelectedItem())};
 }

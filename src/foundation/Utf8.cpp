@@ -82,6 +82,20 @@ bool isValidUtf8(std::string_view bytes) {
   return true;
 }
 
+namespace {
+
+/// Marks, embeddings, overrides and isolates of direction, and the two separators of lines and paragraphs.
+bool isSignOfDirection(std::string_view character) {
+  if (character == "\xD8\x9C") return true;  // U+061C
+  if (character.size() != 3 || character[0] != '\xE2') return false;
+  const auto middle = static_cast<unsigned char>(character[1]);
+  const auto low = static_cast<unsigned char>(character[2]);
+  if (middle == 0x80) return low == 0x8E || low == 0x8F || (low >= 0xA8 && low <= 0xAE);  // U+200E to U+202E
+  return middle == 0x81 && low >= 0xA6 && low <= 0xA9;                                    // U+2066 to U+2069
+}
+
+}  // namespace
+
 std::string oneLine(std::string_view text) {
   constexpr std::string_view kHexDigits = "0123456789abcdef";
   std::string line;
@@ -101,6 +115,11 @@ std::string oneLine(std::string_view text) {
       line += "\\x";
       line += kHexDigits[code >> 4U];
       line += kHexDigits[code & 15U];
+    } else if (isSignOfDirection(text.substr(0, length))) {
+      std::string sign(text.substr(0, length));
+      const char32_t point = popCodePoint(sign);
+      line += "\\u";
+      for (const unsigned shift : {12U, 8U, 4U, 0U}) line += kHexDigits[(point >> shift) & 15U];
     } else {
       line += text.substr(0, length);
     }

@@ -37,7 +37,7 @@ class Page {
   void addCaption(std::string text, NamedColor color, Placement placement);
 
   void layout(double width, double height);
-  /// Paints the page as it was last laid out.
+  /// Paints the page as it was last laid out. Of a title that is too long for the page the end stays.
   void paint(Surface& surface) const;
 
   // Selector: click:count:
@@ -64,6 +64,7 @@ class Page {
   };
   std::string name_;
   std::string title_;
+  double width_ = kWidth;
   std::vector<Caption> captions_;
   std::vector<PlacedView> views_;
 };

@@ -17,6 +17,11 @@ TEST(OneLine, showsControlCharactersAndKeepsTheRest) {
                     "31m"),
             "\\x9b31m")
       << "the one-character form of escape and bracket";
+  // What turns the direction of writing, and the separators of lines; their neighbours are letters, blanks and signs.
+  EXPECT_EQ(oneLine("a\u200E\u200F\u2028\u2029\u202A\u202E\u2066\u2069\u061C"),
+            "a\\u200e\\u200f\\u2028\\u2029\\u202a\\u202e\\u2066\\u2069\\u061c");
+  EXPECT_EQ(oneLine("\u200D\u2010\u2027\u202F\u2065\u206A\u061B\u061D\u10CE"),
+            "\u200D\u2010\u2027\u202F\u2065\u206A\u061B\u061D\u10CE");
   EXPECT_EQ(oneLine("\xC2\xA0"), "\xC2\xA0");
   EXPECT_EQ(oneLine("a\xFF"
                     "b\xC3"),

@@ -45,6 +45,24 @@ TEST_F(APage, paintsTitleAndViewsFromBackToFront) {
   EXPECT_EQ(surface.viewsEnded, 2U);
 }
 
+TEST_F(APage, leavesOutTheMiddleOfATitleThatIsTooLongForIt) {
+  const auto paintedTitle = [&](const std::string& title, double width) {
+    page.setTitle(title);
+    page.layout(width, 200);
+    surface = {};
+    page.paint(surface);
+    return surface.page.texts().front();
+  };
+  // 60 units of the width are left and right of it, and a character is 6 wide: 20 characters fit into 180, 19 into 179.
+  EXPECT_EQ(paintedTitle("ABCDEFGHIJKLMNO (G2)", 180), "ABCDEFGHIJKLMNO (G2)");
+  EXPECT_EQ(paintedTitle("ABCDEFGHIJKLMNO (G2)", 179), "ABCDEFGHIJKLM\u2026 (G2)");
+  EXPECT_EQ(paintedTitle("ABCDEFGHIJKLMNOPQRSTU (G2) 1 of 2", 180), "ABCDEFG\u2026 (G2) 1 of 2");
+  EXPECT_EQ(paintedTitle("ABCDEFGHIJKLMNOPQRSTUVWXYZ", 180), "ABCDEFGHIJKLMNOPQRS\u2026");
+  EXPECT_EQ(paintedTitle("\u00C4\u00D6\u00DCDEFGHIJKLMNO (G2)", 110), "\u00C4\u00D6\u2026 (G2)");
+  EXPECT_EQ(paintedTitle("ABCDEFGHIJKLMNO (G2)", 0), "\u2026 (G2)")
+      << "nothing fits, and nothing is lost of the end";
+}
+
 TEST_F(APage, withoutATitlePaintsNone) {
   page.layout(400, 200);
   page.paint(surface);

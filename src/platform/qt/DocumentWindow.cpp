@@ -23,6 +23,7 @@
 #include "calc/Standards.h"
 #include "foundation/Localizer.h"
 #include "foundation/UserDefaults.h"
+#include "foundation/Utf8.h"
 #include "qt/AdjustDeliveryDialog.h"
 #include "qt/Application.h"
 #include "qt/DatingDialogs.h"
@@ -403,10 +404,10 @@ void DocumentWindow::showRecentFiles() {
   int number = 0;
   for (const QString& path : paths) {
     QString name = path.mid(path.lastIndexOf(u'/') + 1);
-    name.replace(u'&', QStringLiteral("&&"));
+    name = fromUtf8(foundation::oneLine(toUtf8(name))).replace(u'&', QStringLiteral("&&"));
     QAction* action =
         ui_->recentMenu->addAction(QStringLiteral("&%1  %2").arg(QString::number(++number % 10), name));
-    action->setToolTip(path);
+    action->setToolTip(fromUtf8(foundation::oneLine(toUtf8(path))));
     action->setData(path);
     connect(action, &QAction::triggered, this, [this, path] { environment_.openFiles({path}); });
   }
@@ -529,7 +530,10 @@ void DocumentWindow::showLongDates() {
   for (const auto& [edit, label] : dates) {
     const QString text = edit->text().trimmed();
     const QString inWords = longDateText(text, form);
-    label->setText(!inWords.isEmpty() ? inWords : text.isEmpty() ? example : said("no date"));
+    label->setText(edit->isReadOnly()   ? QString()
+                   : !inWords.isEmpty() ? inWords
+                   : text.isEmpty()     ? example
+                                        : said("no date"));
   }
 }
 
@@ -562,7 +566,7 @@ void DocumentWindow::showFetuses() {
 
 void DocumentWindow::showState() {
   if (!document_) return;
-  setWindowTitle(fromUtf8(document_->displayName()) + QStringLiteral("[*]"));
+  setWindowTitle(fromUtf8(foundation::oneLine(document_->displayName())) + QStringLiteral("[*]"));
   setWindowModified(document_->isDocumentEdited());
   ui_->revertAction->setEnabled(document_->filePath().has_value());
   const QString path = document_->filePath()
@@ -597,12 +601,12 @@ void DocumentWindow::updatePages() {
   for (PageView* view : pageViews_) view->update();
   const std::int64_t shown = document_->tabView().indexOfSelectedPage();
   pageViews_.at(static_cast<std::size_t>(shown))
-      ->setAccessibleDescription(shown == app::PatientPages::kReportPage
-                                     ? fromUtf8(document_->report().tabSeparatedText())
-                                     : said("Growth chart of %1. Examination %2, %3.")
-                                           .arg(fromUtf8(document_->preferredFileName(true)),
-                                                ui_->examinationLabel->text(),
-                                                fromUtf8(document_->ageField().text())));
+      ->setAccessibleDescription(
+          shown == app::PatientPages::kReportPage
+              ? fromUtf8(document_->report().tabSeparatedText())
+              : said("Growth chart of %1. Examination %2, %3.")
+                    .arg(fromUtf8(foundation::oneLine(document_->preferredFileName(true))),
+                         ui_->examinationLabel->text(), fromUtf8(document_->ageField().text())));
 }
 
 void DocumentWindow::revert() {

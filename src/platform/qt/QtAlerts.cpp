@@ -5,6 +5,7 @@
 #include <QPushButton>
 #include <algorithm>
 
+#include "foundation/Utf8.h"
 #include "qt/Mnemonics.h"
 #include "qt/Text.h"
 
@@ -17,11 +18,19 @@ namespace {
 
 const QString kSheetName = QStringLiteral("sheet");
 
+/// The lines of a text. A name in one of them, of a file or a patient, gives it no other direction.
+QString linesOf(const std::string& text) {
+  QStringList lines;
+  for (const QString& line : fromUtf8(text).split(u'\n'))
+    lines << fromUtf8(foundation::oneLine(toUtf8(line)));
+  return lines.join(u'\n');
+}
+
 void setUp(QMessageBox& box, const std::string& message, const std::string& information) {
   box.setWindowTitle(QCoreApplication::applicationName());
   box.setTextFormat(Qt::PlainText);
-  box.setText(fromUtf8(message));
-  box.setInformativeText(fromUtf8(information));
+  box.setText(linesOf(message));
+  box.setInformativeText(linesOf(information));
 }
 
 /// A button that a letter of its own presses too.
