@@ -1,5 +1,6 @@
 #include <iostream>
 #include <string>
+#include <string_view>
 
 #include "drive/Driver.h"
 #include "drive/Story.h"
@@ -7,6 +8,25 @@
 /// Without arguments: reads lines from standard input and answers each. With the names of stories: plays them and says
 /// where an answer is not the one that the story expects.
 int main(int argc, char** argv) {
+  constexpr std::string_view kUsage =
+      "usage: nascor-drive [STORY...]\n"
+      "\n"
+      "Plays the user of the application without a display.\n"
+      "\n"
+      "Without arguments: reads JSON objects from standard input, one a line, and answers each by one, such "
+      "as\n"
+      "  {\"new\":true}\n"
+      "  {\"edit\":[\"bpdField\",\"45.3\"]}\n"
+      "  {\"state\":true}\n"
+      "With the names of stories: plays them and says where an answer is not the expected one; the status is "
+      "1 then.\n"
+      "tests/drive/Story.h says how stories are written.\n";
+  if (argc > 1 && argv[1][0] == '-') {
+    const std::string_view option = argv[1];
+    const bool isHelp = option == "--help" || option == "-h";
+    (isHelp ? std::cout : std::cerr) << kUsage;
+    return isHelp ? 0 : 2;
+  }
   if (argc == 1) {
     nascor::drive::Driver driver;
     for (std::string line; std::getline(std::cin, line);) std::cout << driver.answer(line) << std::endl;

@@ -91,7 +91,7 @@ TEST_F(TheApplication, failsWithASentenceForAFileThatItCannotRead) {
   const QString document = file("cut.nascor", cutDocument());
   const Answer answer = nascor({"--write-pages", folder.filePath(QStringLiteral("out")), document});
   EXPECT_EQ(answer.status, 1);
-  EXPECT_THAT(answer.error, HasSubstr((document + " could not be opened: at byte ").toStdString()));
+  EXPECT_THAT(answer.error, HasSubstr((document + ": at byte ").toStdString()));
   EXPECT_EQ(answer.output, "");
 }
 
@@ -101,7 +101,7 @@ TEST_F(TheApplication, failsForAFileWithoutAPatient) {
   const QString document = file("nil.nascor", nilRoot);
   const Answer answer = nascor({"--write-pages", folder.filePath(QStringLiteral("out")), document});
   EXPECT_EQ(answer.status, 1);
-  EXPECT_THAT(answer.error, HasSubstr((document + " holds no patient.").toStdString()));
+  EXPECT_THAT(answer.error, HasSubstr((document + ": holds no patient\n").toStdString()));
 }
 
 TEST_F(TheApplication, takesWhatFollowsTwoDashesForFiles) {

@@ -60,8 +60,26 @@ TEST_F(TheExportCommand, saysWhichInputIsBadAndGoesOn) {
   writeFile(cut, cutDocument());
   const Answer answer = exportPages({cut, "--pages", "bpd"});
   EXPECT_EQ(answer.status, 1);
-  EXPECT_THAT(answer.error, HasSubstr(cut.toStdString() + " could not be opened: at byte "));
+  EXPECT_THAT(answer.error, HasSubstr(cut.toStdString() + ": at byte "));
   EXPECT_EQ(written(), QStringList{QStringLiteral("twins.pdf")});
+}
+
+TEST_F(TheExportCommand, saysThatFetusesAreLeftOut) {
+  const QString six = folder.filePath(QStringLiteral("six.nascor"));
+  ASSERT_TRUE(QFile::copy(QStringLiteral(NASCOR_TEST_DATA "/six-fetuses.nascor"), six));
+  const Answer answer = run(QStringLiteral(NASCOR_CLI),
+                            {"export", six, "--out", out, "--format", "svg", "--pages", "BPD,Report"});
+  EXPECT_EQ(answer.status, 0);
+  EXPECT_EQ(answer.error,
+            six.toStdString() +
+                ": it says 6 fetuses, which cannot be chosen from; the pages are those of the first\n");
+  EXPECT_EQ(written(), (QStringList{QStringLiteral("six - BPD.svg"), QStringLiteral("six - Report.svg")}));
+}
+
+TEST_F(TheExportCommand, saysNothingWhereTheSystemGivesNoFolderForSockets) {
+  const Answer answer = run("env", {"-u", "XDG_RUNTIME_DIR", NASCOR_CLI, "export", document, "--out", out});
+  EXPECT_EQ(answer.status, 0);
+  EXPECT_EQ(answer.error, "");
 }
 
 TEST_F(TheExportCommand, refusesWrongUsageBeforeItWrites) {

@@ -127,8 +127,7 @@ TEST_F(WritingPages, writesTheOthersWhenADocumentCannotBeRead) {
       write({file("cut.nascor", cutDocument()), file("good.nascor", documentBytes(singleton()))});
   EXPECT_EQ(written.paths.size(), 2);
   ASSERT_EQ(written.sentences.size(), 1);
-  EXPECT_THAT(written.sentences[0].toStdString(),
-              ContainsRegex("cut.nascor could not be opened: at byte [0-9]+: "));
+  EXPECT_THAT(written.sentences[0].toStdString(), ContainsRegex("cut.nascor: at byte [0-9]+: "));
 }
 
 TEST_F(WritingPages, saysWhichFileCouldNotBeWrittenAndGoesOn) {
@@ -141,9 +140,8 @@ TEST_F(WritingPages, saysWhichFileCouldNotBeWrittenAndGoesOn) {
   wanted.files = QStringList{QStringLiteral("a.nascor")};
   const auto written = qt::exportPages(wanted, platform.servicesWith(disk));
   EXPECT_EQ(written.paths, QStringList{folder.filePath(QStringLiteral("a.pdf"))});
-  EXPECT_EQ(written.sentences,
-            QStringList{folder.filePath(QStringLiteral("a - BPD.png")) +
-                        QStringLiteral(" could not be written: No space left on device.")});
+  EXPECT_EQ(written.sentences, QStringList{folder.filePath(QStringLiteral("a - BPD.png")) +
+                                           QStringLiteral(": No space left on device")});
 }
 
 TEST_F(WritingPages, saysThatTheFolderCouldNotBeMade) {
@@ -151,7 +149,7 @@ TEST_F(WritingPages, saysThatTheFolderCouldNotBeMade) {
   wanted.folder = inTheWay + QStringLiteral("/pages");
   const auto written = qt::exportPages(wanted, platform.services());
   EXPECT_EQ(written.sentences,
-            QStringList{QStringLiteral("The folder %1/pages could not be made.").arg(inTheWay)});
+            QStringList{inTheWay + QStringLiteral("/pages: the folder could not be made")});
 }
 
 TEST_F(WritingPages, writesAllPagesOfADocumentIntoOnePdf) {
@@ -178,7 +176,7 @@ TEST_F(WritingPages, choosesPagesAndFetus) {
   const auto none = write({file("b.nascor", documentBytes(twins()))});
   EXPECT_EQ(none.paths, QStringList());
   EXPECT_THAT(none.sentences.value(0).toStdString(),
-              testing::EndsWith("b.nascor has no such fetus or page."));
+              testing::EndsWith("b.nascor: it has no such fetus or page"));
 }
 
 TEST_F(WritingPages, identifiesEachPageUnderneath) {

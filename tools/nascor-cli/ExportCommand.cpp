@@ -18,6 +18,13 @@ constexpr std::array<std::string_view, 3> kFormats{"pdf", "png", "svg"};
 constexpr std::array<std::string_view, 9> kPageNames{"first", "last", "trends", "bpd",   "hc",
                                                      "ac",    "fl",   "weight", "report"};
 
+std::string inSmallLetters(std::string text) {
+  std::ranges::transform(text, text.begin(), [](char each) {
+    return each >= 'A' && each <= 'Z' ? static_cast<char>(each - 'A' + 'a') : each;
+  });
+  return text;
+}
+
 bool isPage(std::string_view text) {
   const bool isNumber = text.size() == 1 && text[0] >= '0' && text[0] <= '6';
   return isNumber || std::ranges::find(kPageNames, text) != kPageNames.end();
@@ -54,7 +61,8 @@ void runExport(const Arguments& arguments, Console& console) {
   const std::string format = arguments.option("format").value_or("pdf");
   if (std::ranges::find(kFormats, format) == kFormats.end())
     throw UsageError("--format: expected pdf, png or svg");
-  const std::string pages = arguments.option("pages").value_or("all");
+  // The window calls them BPD and HC.
+  const std::string pages = inSmallLetters(std::string(arguments.option("pages").value_or("all")));
   checkPages(pages);
   const std::string fetus = arguments.option("fetus").value_or("all");
   checkFetus(fetus);
@@ -92,7 +100,7 @@ Command exportCommand() {
           .usage = "FILE... --out DIR [--format pdf|png|svg] [--pages PAGES] [--fetus all|N] [--no-foot]",
           .summary = "Writes the pages of each document, painted as the application paints them.",
           .details =
-              "Names of pages: trends, bpd, hc, ac, fl, weight, report (0 to 6).\n"
+              "Names of pages: trends, BPD, HC, AC, FL, weight, report (0 to 6), in letters of any size.\n"
               "As PDF all pages of a document are one file; else each is a file of its own.\n"
               "Files of the same names are replaced.\n",
           .operands = kOperands,

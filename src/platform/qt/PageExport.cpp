@@ -15,6 +15,7 @@
 #include "app/NCDocument.h"
 #include "foundation/FileStore.h"
 #include "foundation/UserDefaults.h"
+#include "foundation/Utf8.h"
 #include "framework/DocumentController.h"
 #include "qt/Text.h"
 
@@ -62,12 +63,15 @@ class ReadOnlyDefaults final : public foundation::UserDefaults {
 
 QString said(const char* sentence) { return QCoreApplication::translate("PageFiles", sentence); }
 
+/// `sentence` about `file`, as the command line says it.
+QString about(const QString& file, const QString& sentence) {
+  return fromUtf8(foundation::oneLine(toUtf8(file + QStringLiteral(": ") + sentence)));
+}
+
 /// Reads a document file. Returns why that failed, in one sentence that names the file.
 std::optional<QString> loadDocument(app::NCDocument& document, const QString& path,
                                     const foundation::FileStore& files) {
-  const auto failure = [&](const std::string& reason) {
-    return said("%1 could not be opened: %2.").arg(path, fromUtf8(reason));
-  };
+  const auto failure = [&](const std::string& reason) { return about(path, fromUtf8(reason)); };
   const auto read = files.contents(QFile::encodeName(path).toStdString());
   if (const auto* error = std::get_if<foundation::FileError>(&read)) return failure(error->reason);
   try {
@@ -75,7 +79,7 @@ std::optional<QString> loadDocument(app::NCDocument& document, const QString& pa
   } catch (const std::runtime_error& error) {
     return failure(error.what());
   }
-  if (!document.patientRecord()) return said("%1 holds no patient.").arg(path);
+  if (!document.patientRecord()) return about(path, said("holds no patient"));
   return std::nullopt;
 }
 
@@ -97,7 +101,7 @@ class Export {
 
   WrittenPages run() {
     if (!QDir().mkpath(wanted_.folder)) {
-      result_.sentences << said("The folder %1 could not be made.").arg(wanted_.folder);
+      result_.sentences << about(wanted_.folder, said("the folder could not be made"));
       return result_;
     }
     const int total = static_cast<int>(wanted_.files.size());
@@ -126,8 +130,14 @@ class Export {
     document.setOnPaper(true);
     const std::vector<Place> places = placesOf(document);
     if (places.empty()) {
-      result_.sentences << said("%1 has no such fetus or page.").arg(file);
+      result_.sentences << about(file, said("it has no such fetus or page"));
       return;
+    }
+    const std::int64_t fetuses = document.patientRecord()->numberOfFetuses();
+    if (document.multiplePopUp().numberOfItems() == 0 && !wanted_.fetus) {
+      result_.warnings << about(
+          file, said("it says %1 fetuses, which cannot be chosen from; the pages are those of the first")
+                    .arg(fetuses));
     }
     const QString stem = fileNameFrom(QFileInfo(file).completeBaseName());
     for (const PageFormat format : wanted_.formats) {
@@ -206,7 +216,7 @@ class Export {
     taken_.insert(fileName);
     const QString path = QDir(wanted_.folder).filePath(fileName);
     if (const auto error = writeBytes(services_.files, QFile::encodeName(path).toStdString(), bytes)) {
-      result_.sentences << said("%1 could not be written: %2.").arg(path, fromUtf8(error->reason));
+      result_.sentences << about(path, fromUtf8(error->reason));
     } else {
       result_.paths << path;
     }
@@ -228,8 +238,8 @@ class Export {
 std::optional<std::vector<std::int64_t>> pagesFromText(const QString& text) {
   static constexpr std::array<const char*, 7> kNames{"trends", "bpd", "hc", "ac", "fl", "weight", "report"};
   std::vector<std::int64_t> pages;
-  if (text == QLatin1String("all")) return pages;
-  for (const QString& part : text.split(u',')) {
+  if (text.toLower() == QLatin1String("all")) return pages;
+  for (const QString& part : text.toLower().split(u',')) {
     const auto name =
         std::ranges::find_if(kNames, [&](const char* each) { return part == QLatin1String(each); });
     bool isNumber = false;

@@ -31,7 +31,8 @@ struct PageExport {
 /// What was done.
 struct WrittenPages {
   QStringList paths;      ///< in the order in which they were written
-  QStringList sentences;  ///< one for each thing that went wrong
+  QStringList sentences;  ///< one for each thing that went wrong, each with the file's name before it
+  QStringList warnings;   ///< likewise, for what was done otherwise than one may think
 };
 
 /// Writes the pages of documents into a folder, which is made when it is missing: as PDF all pages of a document in one

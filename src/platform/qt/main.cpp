@@ -94,6 +94,8 @@ QStringList& beginningMessages() {
 /// The toolkit ends a program without a display by many words and an abort. Whoever starts this one gets a sentence and a
 /// status instead.
 void takeBeginningMessage(QtMsgType type, const QMessageLogContext&, const QString& message) {
+  // Where the system gives no folder for sockets the toolkit finds another, and nobody has to know.
+  if (message.startsWith(QLatin1String("QStandardPaths: XDG_RUNTIME_DIR not set"))) return;
   beginningMessages() << message.trimmed();
   if (type != QtFatalMsg) return;
   say(stderr, QCoreApplication::translate("main", "nascor: no window can be shown: %1")
@@ -140,7 +142,7 @@ int writePages(const CommandLine& line, const foundation::Services& services) {
   if (line.pages.arePathsWanted(line.parser)) {
     for (const QString& path : written.paths) say(stdout, path);
   }
-  for (const QString& sentence : written.sentences) say(stderr, sentence);
+  for (const QString& sentence : written.warnings + written.sentences) say(stderr, sentence);
   return written.sentences.isEmpty() ? kAllWell : kFailed;
 }
 
