@@ -3,6 +3,7 @@
 #include "foundation/Calendar.h"
 #include "foundation/IsoDate.h"
 #include "foundation/NumberText.h"
+#include "foundation/RangeError.h"
 
 namespace nascor::scripting {
 namespace {
@@ -118,6 +119,12 @@ std::int64_t NCDocumentScripting::tabViewIndex() const { return document_.tabVie
 void NCDocumentScripting::setTabViewIndex(const ScriptNumber& index) {
   const std::int64_t page = integerValue(index);
   log_.write("Scripting: set tab view index to " + std::to_string(page));
+  const std::int64_t last = document_.tabView().numberOfPages() - 1;
+  if (page < 0 || page > last) {
+    throw foundation::RangeError("tabViewIndex: expected one of the pages 0 to " + std::to_string(last) +
+                                     ", but got " + std::to_string(page),
+                                 foundation::SourceLocation::current());
+  }
   document_.tabView().selectPage(page);
 }
 

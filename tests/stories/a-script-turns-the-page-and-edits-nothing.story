@@ -13,7 +13,7 @@ A number with a fraction loses it. A page that is not there is an error; the pag
 
 {"script":["set","tabViewIndex",6.9]}
 {"script":["set","tabViewIndex",7]}
-=~ {"error":"..."}
+=> {"error":"tabViewIndex: expected one of the pages 0 to 6, but got 7"}
 {"script":["set","tabViewIndex",-1]}
 =~ {"error":"..."}
 {"script":["set","tabViewIndex",-0.9]}

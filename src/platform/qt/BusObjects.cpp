@@ -14,6 +14,7 @@
 
 #include "foundation/Assertion.h"
 #include "foundation/RangeError.h"
+#include "foundation/Utf8.h"
 #include "qt/Application.h"
 #include "qt/Dictionary.h"
 #include "qt/Text.h"
@@ -82,20 +83,23 @@ QVariant busValue(const ScriptValue& value) {
   return QString();  // no text and no date; every number is there
 }
 
-/// Nothing when one of them is no file of this machine.
-std::optional<QStringList> localPaths(const QStringList& uris) {
+/// What a caller wants opened.
+struct WantedFiles {
   QStringList paths;
+  QStringList others;  ///< no files of this machine, in quotation marks
+};
+
+WantedFiles wantedFiles(const QStringList& uris) {
+  WantedFiles wanted;
   for (const QString& uri : uris) {
     const QUrl url(uri, QUrl::StrictMode);
-    if (!url.isLocalFile()) return std::nullopt;
-    paths << url.toLocalFile();
+    if (url.isLocalFile()) {
+      wanted.paths << url.toLocalFile();
+    } else {
+      wanted.others << quoted(fromUtf8(foundation::oneLine(toUtf8(uri))));
+    }
   }
-  return paths;
-}
-
-QString withPlace(const foundation::RangeError& error) {
-  return fromUtf8(std::string(error.what()) + " (" + error.where().file_name() + ":" +
-                  std::to_string(error.where().line()) + ")");
+  return wanted;
 }
 
 /// The property that a call of Get or Set means. An interface may be left out.
@@ -159,7 +163,7 @@ QDBusMessage BusObjects::answer(const QDBusMessage& message) {
     return error(kInvalidArguments, fromUtf8(wrong.what()));
   } catch (const foundation::RangeError& range) {
     tellAbandoned(range);
-    return error(kRange, withPlace(range));
+    return error(kRange, fromUtf8(range.what()));
   } catch (const foundation::AssertionFailure& failure) {
     tellAbandoned(failure);
     return error(kAssertion, fromUtf8(failure.what()));
@@ -248,9 +252,13 @@ QVariantList BusObjects::activate(const Target&, const QVariantList&) {
 }
 
 QVariantList BusObjects::openFiles(const Target&, const QVariantList& arguments) {
-  const auto paths = localPaths(arguments[0].toStringList());
-  if (!paths) refuse(kInvalidArguments, QStringLiteral("only files of this machine can be opened"));
-  later([this, files = *paths] { onOpen(files); });
+  const WantedFiles wanted = wantedFiles(arguments[0].toStringList());
+  if (!wanted.paths.isEmpty() || wanted.others.isEmpty())
+    later([this, files = wanted.paths] { onOpen(files); });
+  if (!wanted.others.isEmpty()) {
+    refuse(kInvalidArguments, QStringLiteral("only files of this machine can be opened, and not ") +
+                                  wanted.others.join(QStringLiteral(", ")));
+  }
   return {};
 }
 
