@@ -2,7 +2,9 @@
 
 #include <gmock/gmock.h>
 #include <syslog.h>
+#include <unistd.h>
 
+#include <array>
 #include <cstdarg>
 #include <cstdio>
 #include <string>
@@ -56,6 +58,23 @@ TEST(TheSystemLog, takesAnIdentifierForNoFormatAndForNoSecondLine) {
   EXPECT_EQ(logged("Scripting: set identifer to %s%n\nScripting: set gravida to 9"),
             "Scripting: set identifer to %s%n\\nScripting: set gravida to 9\n");
   EXPECT_THAT(systemLines, ElementsAre("Scripting: set identifer to %s%n\\nScripting: set gravida to 9"));
+}
+
+TEST(TheSystemLog, doesNotWaitForAConsoleThatNobodyReads) {
+  systemLines.clear();
+  std::array<int, 2> ends{};
+  ASSERT_EQ(::pipe(ends.data()), 0);
+  const int console = ::dup(STDERR_FILENO);
+  ::dup2(ends[1], STDERR_FILENO);
+  ::alarm(60);  // more than a pipe holds: who waited would wait for ever
+  for (int i = 0; i < 5000; ++i) qt::SystemLog().write("Scripting: gravida is 2, and so on, and so on");
+  ::alarm(0);
+  ::dup2(console, STDERR_FILENO);
+  std::array<char, 46> first{};
+  EXPECT_EQ(::read(ends[0], first.data(), first.size()), static_cast<ssize_t>(first.size()));
+  EXPECT_EQ(std::string(first.data(), first.size()), "Scripting: gravida is 2, and so on, and so on\n");
+  EXPECT_EQ(systemLines.size(), 5000U);
+  for (const int each : {ends[0], ends[1], console}) ::close(each);
 }
 
 }  // namespace

@@ -2,17 +2,17 @@
 
 #include <QEvent>
 #include <QFontInfo>
-#include <cstdio>
 #include <string>
 
 #include "foundation/ProgramVersion.h"
 #include "foundation/RangeError.h"
+#include "qt/SystemLog.h"
 
 namespace nascor::qt {
 namespace {
 
 void tell(const std::string& what) {
-  std::fputs(("nascor: " + what + "; the action was abandoned\n").c_str(), stderr);
+  writeToStandardError("nascor: " + what + "; the action was abandoned\n");
 }
 
 }  // namespace

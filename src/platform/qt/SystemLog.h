@@ -4,6 +4,10 @@
 
 namespace nascor::qt {
 
+/// Writes `text` to standard error, or as much of it as is taken at once: where nobody reads the other end of a pipe, the
+/// program goes on and the rest is lost.
+void writeToStandardError(std::string_view text);
+
 /// The system's log, and standard error. Control characters in a line are made visible, so that a text from outside
 /// cannot pass for a line of its own.
 class SystemLog final : public foundation::Log {
