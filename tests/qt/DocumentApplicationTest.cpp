@@ -320,6 +320,38 @@ TEST_F(TheApplicationOfDocuments, letsAnUntouchedNewDocumentMakeWayForAFile) {
   EXPECT_EQ(front().pos(), place);
 }
 
+TEST_F(TheApplicationOfDocuments, letsAnUntouchedNewDocumentMakeWayUnderTheReferencesToo) {
+  openBlank();
+  action("referencesAction").trigger();
+  settle();
+  open(singleton());
+  EXPECT_EQ(application.documents().documents().size(), 1U);
+}
+
+TEST_F(TheApplicationOfDocuments, asksBeforeAColleaguesFileIsSavedOverAndReturnCancels) {
+  open(singleton());
+  enter("bpdField", "46");
+  writeFile(folder.filePath(QStringLiteral("AB-123.nascor")), documentBytes(twins()));
+  answersQuestions(false);
+  QTimer returnKey;
+  returnKey.setInterval(1);
+  QObject::connect(&returnKey, &QTimer::timeout, [&] {
+    if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget()); box && box->isVisible())
+      QTest::keyClick(box, Qt::Key_Return);
+  });
+  returnKey.start();
+  action("saveAction").trigger();
+  returnKey.stop();
+  EXPECT_TRUE(document().isDocumentEdited());
+  answersQuestions(true);
+  answers = {"Save Anyway"};
+  action("saveAction").trigger();
+  EXPECT_FALSE(document().isDocumentEdited());
+  EXPECT_EQ(
+      asked.back().message,
+      "Another program has changed the file of this document. Do you want to replace what it holds now?");
+}
+
 TEST_F(TheApplicationOfDocuments, keepsANewDocumentInWhichSomethingWasDone) {
   const QString good = file(QStringLiteral("a.nascor"), documentBytes(singleton()));
   openBlank();

@@ -290,7 +290,8 @@ TEST_F(TheDocumentWindow, showsEveryFetusOrOneInAllWindowsAlike) {
     const QRectF paper = static_cast<qt::PageView&>(page).paper();
     const QPointF centre =
         paper.topLeft() + QPointF(pageX(24.0), pageY(80.0) - 3.2) * (paper.width() / 800.0);
-    return colorAt(page.grab().toImage(), centre) != QColor(Qt::white);
+    const QImage image = page.grab().toImage();
+    return colorAt(image, centre * image.devicePixelRatio()) != QColor(Qt::white);
   };
   qt::DocumentWindow& first = front();
   EXPECT_TRUE(secondTwin());

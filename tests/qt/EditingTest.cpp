@@ -274,5 +274,29 @@ TEST_F(Editing, refusesANegativeGravidity) {
   EXPECT_THAT(label("refusalLabel"), HasSubstr("a whole number, 0 or more"));
 }
 
+TEST_F(Editing, takesNoTypingWhereThereIsNothingToHoldIt) {
+  application.openFiles({QStringLiteral(NASCOR_TEST_DATA "/without-examinations.nascor")});
+  for (const char* name : {"bpdField", "hcField", "acField", "flField", "examDateField"}) {
+    type(name, "12");
+    EXPECT_EQ(field(name), "") << name;
+    EXPECT_TRUE(widget<QLineEdit>(name).isReadOnly()) << name;
+    EXPECT_EQ(widget<QLineEdit>(name).placeholderText(), "no record") << name;
+    EXPECT_EQ(widget<QLineEdit>(name).accessibleDescription(),
+              "Nothing can be entered here: the document holds no record for it.")
+        << name;
+  }
+  type("notesField", "lost");
+  EXPECT_EQ(widget<QPlainTextEdit>("notesField").toPlainText(), "");
+  EXPECT_FALSE(document().isDocumentEdited());
+  action("addExaminationAction").trigger();
+  settle();
+  enter("bpdField", "12");
+  EXPECT_EQ(field("bpdField"), "12.0");
+  EXPECT_NE(widget<QLineEdit>("bpdField").accessibleDescription(),
+            "Nothing can be entered here: the document holds no record for it.");
+  type("notesField", "kept");
+  EXPECT_EQ(document().notesField().text(), "kept");
+}
+
 }  // namespace
 }  // namespace nascor::tests

@@ -126,7 +126,9 @@ DocumentWindow::~DocumentWindow() { release(); }
 
 bool DocumentWindow::hasDialog() const {
   const auto dialogs = findChildren<QDialog*>();
-  return std::ranges::any_of(dialogs, [](const QDialog* dialog) { return dialog->isVisible(); });
+  return std::ranges::any_of(dialogs, [this](const QDialog* dialog) {
+    return dialog->isVisible() && dialog != static_cast<const QDialog*>(references_);
+  });
 }
 
 void DocumentWindow::keepGeometry() const {
