@@ -285,6 +285,7 @@ TEST_F(Editing, takesNoTypingWhereThereIsNothingToHoldIt) {
               "Nothing can be entered here: the document holds no record for it.")
         << name;
   }
+  EXPECT_EQ(label("examDateLongForm"), "");
   type("notesField", "lost");
   EXPECT_EQ(widget<QPlainTextEdit>("notesField").toPlainText(), "");
   EXPECT_FALSE(document().isDocumentEdited());

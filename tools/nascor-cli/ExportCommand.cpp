@@ -31,11 +31,11 @@ bool isPage(std::string_view text) {
 }
 
 void checkPages(std::string_view pages) {
-  if (pages == "all") return;
+  if (inSmallLetters(std::string(pages)) == "all") return;
   for (std::size_t start = 0; start <= pages.size();) {
     const std::size_t end = std::min(pages.find(',', start), pages.size());
     const std::string_view page = pages.substr(start, end - start);
-    if (!isPage(page)) {
+    if (!isPage(inSmallLetters(std::string(page)))) {  // the window calls them BPD and HC
       throw UsageError("--pages: expected all, first, last, a number from 0 to 6 or a name, but \"" +
                        std::string(page) + "\" stands here");
     }
@@ -61,8 +61,7 @@ void runExport(const Arguments& arguments, Console& console) {
   const std::string format = arguments.option("format").value_or("pdf");
   if (std::ranges::find(kFormats, format) == kFormats.end())
     throw UsageError("--format: expected pdf, png or svg");
-  // The window calls them BPD and HC.
-  const std::string pages = inSmallLetters(std::string(arguments.option("pages").value_or("all")));
+  const std::string pages = arguments.option("pages").value_or("all");
   checkPages(pages);
   const std::string fetus = arguments.option("fetus").value_or("all");
   checkFetus(fetus);

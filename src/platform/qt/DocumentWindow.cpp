@@ -588,6 +588,7 @@ void DocumentWindow::showExaminations() {
   ui_->previousAction->setEnabled(exam > 0);
   ui_->nextAction->setEnabled(exam + 1 < count);
   ui_->deleteExaminationAction->setEnabled(count > 1);
+  showLongDates();
   updatePages();
 }
 
