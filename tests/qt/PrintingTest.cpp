@@ -133,6 +133,17 @@ TEST_F(Printing, keepsThePaperOfTheDocument) {
   EXPECT_THAT(run("pdfinfo", {pdf}).output, ContainsRegex("Page size: +612 x 792 pts"));
 }
 
+TEST_F(Printing, takesThePaperThatIsChosenInThePanel) {
+  printer.ask = [&](QPrinter& target) {
+    target.setOutputFormat(QPrinter::PdfFormat);
+    target.setOutputFileName(pdf);
+    target.setPageLayout(qt::layoutOf({.paperWidth = 612.0, .paperHeight = 792.0, .isLandscape = false}));
+    return true;
+  };
+  ASSERT_TRUE(print({}, true));
+  EXPECT_THAT(run("pdfinfo", {pdf}).output, ContainsRegex("Page size: +612 x 792 pts"));
+}
+
 TEST_F(Printing, isShownBeforehandAsItWillComeOut) {
   QPrinter preview(QPrinter::HighResolution);
   preview.setPageLayout(qt::layoutOf({}));
