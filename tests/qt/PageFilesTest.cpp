@@ -289,7 +289,8 @@ INSTANTIATE_TEST_SUITE_P(
                     PagesCase{"names", "weight,bpd,report", std::vector<std::int64_t>{5, 1, 6}},
                     PagesCase{"tooGreat", "7", std::nullopt}, PagesCase{"negative", "-1", std::nullopt},
                     PagesCase{"empty", "", std::nullopt}, PagesCase{"gap", "1,,2", std::nullopt},
-                    PagesCase{"unknown", "BPD", std::nullopt}),
+                    PagesCase{"capitals", "BPD,Weight", std::vector<std::int64_t>{1, 5}},
+                    PagesCase{"unknown", "chart", std::nullopt}),
     [](const auto& row) { return std::string(row.param.name); });
 
 struct NameCase {
