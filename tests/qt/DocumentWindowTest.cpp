@@ -112,6 +112,19 @@ TEST_F(TheDocumentWindow, repaintsItsPageForAnotherExamination) {
   EXPECT_TRUE(QTest::qWaitFor([&] { return counter.paints > 0; }));
 }
 
+TEST_F(TheDocumentWindow, repaintsItsPageForAnotherStandardOrFormula) {
+  open(singleton());
+  showBPD();
+  for (const char* menu : {"standardsMenu", "fetalWeightMenu"}) {
+    SCOPED_TRACE(menu);
+    settle();
+    PaintCounter counter;
+    widget<QWidget>("BPDPage").installEventFilter(&counter);
+    widget<QMenu>(menu).actions().at(1)->trigger();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return counter.paints > 0; }));
+  }
+}
+
 TEST_F(TheDocumentWindow, offersNoExaminationBeyondTheEnds) {
   open(singleton());
   EXPECT_FALSE(widget<QToolButton>("nextButton").isEnabled());

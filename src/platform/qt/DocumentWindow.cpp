@@ -597,6 +597,7 @@ void DocumentWindow::showStandards() {
   const foundation::Localizer& localizer = environment_.services.localizer;
   growthLabel_->setText(fromUtf8(calc::growthStandardTitle(document_->standard(), localizer)));
   weightLabel_->setText(fromUtf8(calc::fetalWeightTitle(document_->fetalWeightStandard(), localizer)));
+  updatePages();
 }
 
 void DocumentWindow::updatePages() {
