@@ -35,9 +35,9 @@ class DocumentController {
   void openDocuments();
 
   /// Saves to the document's file, or where the user says when it has none. Asks first when somebody else has changed that
-  /// file since the document read or wrote it, and tells when the
-  /// file cannot hold all of the document. False when a field refuses its text, the user cancels, the document was replaced by one that the user looked up, or the file cannot be written: it is open in another
-  /// window, or the system refuses (which the user is told).
+  /// file since the document read or wrote it, and tells when the file cannot hold all of the document. False when a field
+  /// refuses its text, the user cancels, the document was replaced by one that the user looked up, or the file cannot be
+  /// written: it is open in another window, or the system refuses (which the user is told).
   bool saveDocument(ZuDocument& document);
   bool saveDocumentAs(ZuDocument& document);
   /// Asks whether to save when the document was edited, then closes it. False when the user cancels or saving fails. A

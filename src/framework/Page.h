@@ -37,7 +37,7 @@ class Page {
   void addCaption(std::string text, NamedColor color, Placement placement);
 
   void layout(double width, double height);
-  /// Paints the page as it was last laid out. Of a title that is too long for the page the end stays.
+  /// Paints the page as it was last laid out. A title that is too long for the page loses its middle.
   void paint(Surface& surface) const;
 
   // Selector: click:count:

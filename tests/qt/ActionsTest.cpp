@@ -165,6 +165,10 @@ std::string exported(Actions& window) { return window.files(); }
 std::string seen(Actions& window) { return window.seen; }
 std::string clipboard(Actions&) { return Actions::clipboard(); }
 void typeALength(Actions& window) { window.type("bpdField", "7"); }
+void typeAndSelectALength(Actions& window) {
+  typeALength(window);
+  window.press(Qt::Key_A, Qt::ControlModifier);
+}
 void openUndated(Actions& window) { window.openInTheMiddle(false); }
 std::function<void(Actions&)> answering(const char* button) {
   return [button](Actions& window) { window.answers = {button}; };
@@ -275,18 +279,8 @@ std::vector<Row> rows() {
          window.press(Qt::Key_Z, Qt::ControlModifier);
        },
        "Ctrl+Shift+Z"},
-      {"cutAction", "7", "", bpdField,
-       [](Actions& window) {
-         typeALength(window);
-         window.press(Qt::Key_A, Qt::ControlModifier);
-       },
-       "Ctrl+X"},
-      {"copyAction", "", "7", clipboard,
-       [](Actions& window) {
-         typeALength(window);
-         window.press(Qt::Key_A, Qt::ControlModifier);
-       },
-       "Ctrl+C"},
+      {"cutAction", "7", "", bpdField, typeAndSelectALength, "Ctrl+X"},
+      {"copyAction", "", "7", clipboard, typeAndSelectALength, "Ctrl+C"},
       {"pasteAction", "7", "70.5", bpdField,
        [](Actions& window) {
          typeALength(window);
