@@ -126,6 +126,28 @@ TEST_F(PagePainting, keepsThePagesShapeInAnyWidget) {
   EXPECT_EQ(view.paper(), QRectF(8.0, 148.0, 400.0, 280.0));
 }
 
+// Nothing is painted below it, so a pixel that it leaves out would show what stood there before.
+TEST_F(PagePainting, leavesNoPixelOfItsWidgetOut) {
+  load(singleton());
+  qt::ClickCounter clicks;
+  qt::PageView view(document.tabView().page(1), clicks);
+  for (const double ratio : {1.0, 1.25, 2.0}) {
+    for (const QSize size : {QSize(1016, 576), QSize(871, 669), QSize(640, 711), QSize(499, 333)}) {
+      SCOPED_TRACE(testing::Message() << size.width() << " x " << size.height() << " at " << ratio);
+      view.resize(size);
+      QImage image((QSizeF(size) * ratio).toSize(), QImage::Format_RGB32);
+      image.setDevicePixelRatio(ratio);
+      image.fill(Qt::magenta);
+      view.render(&image, QPoint(), QRegion(), QWidget::RenderFlags());
+      int left = 0;
+      for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) left += image.pixelColor(x, y) == QColor(Qt::magenta);
+      }
+      EXPECT_EQ(left, 0);
+    }
+  }
+}
+
 TEST_F(PagePainting, isBlackOnWhiteOnADarkDesktopToo) {
   load(singleton());
   const QPalette before = QApplication::palette();

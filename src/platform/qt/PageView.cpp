@@ -15,6 +15,7 @@ using framework::Page;
 PageView::PageView(Page& page, ClickCounter& clicks, QWidget* parent)
     : QWidget(parent), page_(&page), clicks_(clicks) {
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+  setAttribute(Qt::WA_OpaquePaintEvent);  // what lies below need not be painted
 }
 
 QRectF PageView::paper() const {
@@ -51,7 +52,9 @@ bool PageView::event(QEvent* event) {
 
 void PageView::paintEvent(QPaintEvent*) {
   QPainter painter(this);
-  painter.fillRect(rect(), Qt::white);
+  // The paper brings its own white.
+  const QRect filled = page_ ? paper().toAlignedRect().adjusted(1, 1, -1, -1) : QRect();
+  for (const QRect& margin : QRegion(rect()) - filled) painter.fillRect(margin, Qt::white);
   if (page_) paintPage(painter, *page_, paper(), texts_);
 }
 

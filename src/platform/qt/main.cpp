@@ -1,3 +1,4 @@
+#include <fontconfig/fontconfig.h>
 #include <QCommandLineParser>
 #include <QLocale>
 #include <QSessionManager>
@@ -6,6 +7,7 @@
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
+#include <future>
 #include <optional>
 #include <span>
 #include <string_view>
@@ -210,7 +212,10 @@ int showDocuments(Application& application, const CommandLine& line, const found
 int nascorMain(int argc, char** argv) {
   if (const auto status = chooseDisplay({argv, static_cast<std::size_t>(argc)})) return *status;
   const QtMessageHandler toolkitsHandler = qInstallMessageHandler(takeBeginningMessage);
+  // The system's fonts are read aside, while the toolkit loads its parts and asks the display: both take long.
+  const std::future<FcBool> fonts = std::async(FcInit);
   Application application(argc, argv);
+  fonts.wait();
   qInstallMessageHandler(toolkitsHandler);
   for (const QString& message : beginningMessages()) say(stderr, message);
 
