@@ -86,7 +86,8 @@ class ZuPrimitiveGraphView : public foundation::NotificationSender {
 
   /// @}
 
-  /// Asks for a redraw; the window layer listens.
+  /// Asks for a redraw, which is counted. The window that shows the view draws it anew at all news of its document, those
+  /// at which a view asks among them.
   void setNeedsDisplay() { ++timesDisplayAsked_; }
   std::uint64_t timesDisplayAsked() const { return timesDisplayAsked_; }
 
