@@ -13,9 +13,9 @@
 
 namespace nascor::app {
 
+using foundation::translatable;
 using framework::MenuItem;
 namespace defaults_key = foundation::defaults_key;
-namespace string_table = foundation::string_table;
 
 namespace {
 
@@ -27,12 +27,13 @@ struct StandardsMenu {
 };
 
 constexpr std::array<StandardsMenu, 3> kStandardsMenus{{
-    {"Standards", [](const NCDocument* document) { return document ? document->standard() : 0; },
+    {translatable("NCAppController", "Standards"),
+     [](const NCDocument* document) { return document ? document->standard() : 0; },
      &NCAppController::doSetStandard},
-    {"Estimated Fetal Weight",
+    {translatable("NCAppController", "Estimated Fetal Weight"),
      [](const NCDocument* document) { return document ? document->fetalWeightStandard() : 0; },
      &NCAppController::doSetEFWStandard},
-    {"Crown Rump Length",
+    {translatable("NCAppController", "Crown Rump Length"),
      [](const NCDocument* document) {
        return document && document->patientRecord() ? document->patientRecord()->crlStandard() : 0;
      },
@@ -53,8 +54,8 @@ void NCAppController::awakeFromNib() {
   defaults.registerDefault(defaults_key::standard, "0");
   defaults.registerDefault(defaults_key::estimatedFetalWeightStandard, "0");
   defaults.registerDefault(defaults_key::crlStandard, "0");
-  showAllMenuItem_ = {.menuTitle = localized("View"),
-                      .title = localized("Show All"),
+  showAllMenuItem_ = {.menuTitle = localized("NCAppController", "View"),
+                      .title = localized("NCAppController", "Show All"),
                       .tag = 0,
                       .state = foundation::boolForKey(defaults, defaults_key::showAll) ? 1 : 0};
 }
@@ -89,7 +90,7 @@ void NCAppController::doHelp() {
 bool NCAppController::validateMenuItem(MenuItem& item) {
   const NCDocument* document = currentDocument();
   for (const StandardsMenu& menu : kStandardsMenus) {
-    if (item.menuTitle != localized(menu.title)) continue;
+    if (item.menuTitle != localized("NCAppController", menu.title)) continue;
     item.state = item.tag == menu.chosen(document) ? 1 : 0;
     return document != nullptr;
   }
@@ -99,7 +100,7 @@ bool NCAppController::validateMenuItem(MenuItem& item) {
 std::vector<MenuItem> NCAppController::standardsMenuItems() const {
   std::vector<MenuItem> items;
   const auto add = [&](std::string_view menu, std::string_view title, std::size_t tag) {
-    items.push_back({.menuTitle = localized(menu),
+    items.push_back({.menuTitle = localized("NCAppController", menu),
                      .title = std::string(title),
                      .tag = static_cast<std::int64_t>(tag),
                      .state = 0});
@@ -115,7 +116,7 @@ std::vector<MenuItem> NCAppController::standardsMenuItems() const {
 
 bool NCAppController::chooseStandard(const MenuItem& item) {
   const auto menu = std::ranges::find_if(kStandardsMenus, [&](const StandardsMenu& candidate) {
-    return item.menuTitle == localized(candidate.title);
+    return item.menuTitle == localized("NCAppController", candidate.title);
   });
   if (menu == kStandardsMenus.end()) return false;
   (this->*menu->choose)(item);
@@ -126,8 +127,8 @@ NCDocument* NCAppController::currentDocument() const {
   return dynamic_cast<NCDocument*>(documentController().currentDocument());
 }
 
-std::string NCAppController::localized(std::string_view key) const {
-  return services().localizer.text(string_table::ncAppController, key);
+std::string NCAppController::localized(std::string_view table, std::string_view key) const {
+  return services().localizer.text(table, key);
 }
 
 }  // namespace nascor::app

@@ -56,7 +56,7 @@ class NCAppController final : public framework::CorvelAppController, public foun
 
  private:
   NCDocument* currentDocument() const;
-  std::string localized(std::string_view key) const;
+  std::string localized(std::string_view table, std::string_view key) const;
 
   HelpEnvironment help_;
   framework::MenuItem showAllMenuItem_;

@@ -72,9 +72,10 @@ std::optional<std::string> NCDocument::lossInFile() const {
   const std::int64_t gravida = patientRecord_->gravida();
   const std::int32_t kept = foundation::low32Bits(gravida);
   if (kept == gravida) return std::nullopt;
-  return foundation::format(services().localizer, foundation::string_table::ncDocument,
-                            "The gravidity %ld will be read as %ld. A file holds gravidities up to %ld.",
-                            {gravida, kept, std::numeric_limits<std::int32_t>::max()});
+  return foundation::format(
+      services().localizer.text("NCDocument",
+                                "The gravidity %ld will be read as %ld. A file holds gravidities up to %ld."),
+      {gravida, kept, std::numeric_limits<std::int32_t>::max()});
 }
 
 std::int64_t NCDocument::lastExam() const { return std::max<std::int64_t>(numberOfExaminations() - 1, 0); }

@@ -264,7 +264,7 @@ class NCDocument final : public framework::CorvelDocument,
   std::optional<calc::Measurement> measurementOf(const framework::TextField& field);
   /// Shows `title` over that page.
   void setHeader(std::size_t page, const std::string& title);
-  bool mayModify(std::string_view message, std::string_view information);
+  bool mayModify(const std::string& message, const std::string& information);
   const model::NCRecord* examination(std::int64_t exam) const;
   model::NCRecord* currentExamination();
   /// A file may lack the examination, or the record of a fetus: nobody types into what holds nothing.

@@ -16,7 +16,6 @@ namespace nascor::app {
 
 using framework::Panel;
 using framework::TextField;
-namespace string_table = foundation::string_table;
 
 void NCDocument::doSetEDDfromCRL(Sender) {
   if (crlWindowDate_.text().empty()) {
@@ -137,11 +136,10 @@ void NCDocument::checkOverwriteEDD(Panel& window) {
   if (!patientRecord_ || !patientRecord_->edd()) return;
   const foundation::Localizer& localizer = services().localizer;
   environment().alerts.beginSheet(
-      {.message = localizer.text(string_table::ncDocument, "EDD is already specified"),
-       .information =
-           localizer.text(string_table::ncDocument, "Are you sure you want to modify the established EDD?"),
-       .defaultButton = localizer.text(string_table::corvelDocument, "Modify"),
-       .alternateButton = localizer.text(string_table::zuVersion, "Cancel"),
+      {.message = localizer.text("NCDocument", "EDD is already specified"),
+       .information = localizer.text("NCDocument", "Are you sure you want to modify the established EDD?"),
+       .defaultButton = localizer.text("CorvelDocument", "Modify"),
+       .alternateButton = localizer.text("ZuVersion", "Cancel"),
        .window = &window},
       [this, &window](framework::AlertReturn returnCode) {
         checkOverwriteEDDAlertDidEnd(returnCode, window);

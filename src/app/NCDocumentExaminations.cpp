@@ -11,8 +11,6 @@
 
 namespace nascor::app {
 
-namespace string_table = foundation::string_table;
-
 void NCDocument::addExamination() {
   if (!patientRecord_) return;
   // A damaged file may name a number of fetuses that no memory holds.
@@ -79,10 +77,10 @@ void NCDocument::deleteFetus(Sender) {
   if (!patientRecord_ || patientRecord_->numberOfFetuses() <= calc::kFewestFetuses) return;
   const foundation::Localizer& localizer = services().localizer;
   environment().alerts.beginSheet(
-      {.message = localizer.text(string_table::ncDocument, "Are you sure you want to remove this fetus?"),
+      {.message = localizer.text("NCDocument", "Are you sure you want to remove this fetus?"),
        .information = "",
-       .defaultButton = localizer.text(string_table::corvelDocument, "Remove"),
-       .alternateButton = localizer.text(string_table::zuVersion, "Cancel")},
+       .defaultButton = localizer.text("CorvelDocument", "Remove"),
+       .alternateButton = localizer.text("ZuVersion", "Cancel")},
       [this](framework::AlertReturn returnCode) { deleteFetusAlertDidEnd(returnCode); });
 }
 
@@ -105,7 +103,7 @@ void NCDocument::updateMultiplePopUp() {
   multiplePopUp_.removeAllItems();
   const auto labels = model::fetusLabels(count);
   for (std::size_t fetus = 0; fetus < labels.size(); ++fetus) {
-    multiplePopUp_.addItem({.title = services().localizer.text(string_table::ncDocument, labels[fetus]),
+    multiplePopUp_.addItem({.title = services().localizer.text("NCDocument", labels[fetus]),
                             .keyEquivalent = labels.size() > 1 ? std::to_string(fetus + 1) : std::string()});
   }
   if (currentFetus_ > count - 1) currentFetus_ = std::max<std::int64_t>(count - 1, 0);

@@ -12,8 +12,6 @@
 
 namespace nascor::app {
 
-namespace string_table = foundation::string_table;
-
 namespace {
 
 constexpr std::int64_t kWeightPage = 5;
@@ -23,8 +21,8 @@ constexpr std::int64_t kWeightPage = 5;
 std::vector<std::string> NCDocument::autoExport(const ExportProgress& goesOn) {
   std::vector<std::string> sentences;
   if (!commitsEditing()) {
-    sentences.push_back(services().localizer.text(string_table::corvelDocument,
-                                                  "A field holds a text that is not permitted."));
+    sentences.push_back(
+        services().localizer.text("CorvelDocument", "A field holds a text that is not permitted."));
   } else if (patientRecord_) {
     // A damaged file may count more fetuses than can be chosen.
     const std::int64_t fetuses = std::min(patientRecord_->numberOfFetuses(), multiplePopUp_.numberOfItems());
@@ -59,13 +57,12 @@ framework::PageFoot NCDocument::footOfPage(std::int64_t index, std::int64_t numb
                                            std::int64_t count) const {
   if (!patientRecord_) return {};
   const foundation::Localizer& localizer = services().localizer;
-  const auto text = [&](std::string_view key) { return localizer.text(string_table::ncDocument, key); };
   const auto dateText = [&](const foundation::Date& date) {
     const auto day = foundation::localDay(date, services().calendar);
     return day ? foundation::longDateText(*day, localizer) : std::string();
   };
-  const auto labelled = [&](std::string_view label, const std::string& value) {
-    return value.empty() ? std::string() : text(label) + " " + value;
+  const auto labelled = [](const std::string& label, const std::string& value) {
+    return value.empty() ? std::string() : label + " " + value;
   };
 
   std::string first;
@@ -83,27 +80,32 @@ framework::PageFoot NCDocument::footOfPage(std::int64_t index, std::int64_t numb
     tabView().page(index).layout(framework::Page::kWidth, framework::Page::kHeight);
     const std::int64_t shown = report().examinationsShown();
     if (shown < examinationCount) {
-      leftOut = foundation::format(localizer, string_table::ncDocument, "%ld of %ld examinations shown",
+      leftOut = foundation::format(localizer.text("NCDocument", "%ld of %ld examinations shown"),
                                    {shown, examinationCount});
     }
   }
 
   std::string page = localizer.text(windowNibName, tabView().page(index).name());
   if (count > 1)
-    page += foundation::format(localizer, string_table::ncDocument, ", page %ld of %ld", {number, count});
+    page += foundation::format(localizer.text("NCDocument", ", page %ld of %ld"), {number, count});
 
-  return {.lines = {
-              {labelled("Reference ID:", patientRecord_->maternalIDString().value_or("")),
-               labelled("Gravidity:", std::to_string(patientRecord_->gravida())),
-               labelled("Fetus:", multiplePopUp_.titleOfSelectedItem()),
-               labelled("EDD:", patientRecord_->edd() ? dateText(*patientRecord_->edd()) : std::string()),
-               labelled(first == last ? "Examination:" : "Examinations:", examinations)},
-              {calc::growthStandardTitle(standard(), localizer),
-               calc::fetalWeightTitle(fetalWeightStandard(), localizer), leftOut},
-              {std::string("Nascor ").append(foundation::programVersion()),
-               text("Not a medical device. Not validated for clinical use."),
-               labelled("Printed:", dateText(services().clock.now())), page},
-          }};
+  return {
+      .lines = {
+          {labelled(localizer.text("NCDocument", "Reference ID:"),
+                    patientRecord_->maternalIDString().value_or("")),
+           labelled(localizer.text("NCDocument", "Gravidity:"), std::to_string(patientRecord_->gravida())),
+           labelled(localizer.text("NCDocument", "Fetus:"), multiplePopUp_.titleOfSelectedItem()),
+           labelled(localizer.text("NCDocument", "EDD:"),
+                    patientRecord_->edd() ? dateText(*patientRecord_->edd()) : std::string()),
+           labelled(first == last ? localizer.text("NCDocument", "Examination:")
+                                  : localizer.text("NCDocument", "Examinations:"),
+                    examinations)},
+          {calc::growthStandardTitle(standard(), localizer),
+           calc::fetalWeightTitle(fetalWeightStandard(), localizer), leftOut},
+          {std::string("Nascor ").append(foundation::programVersion()),
+           localizer.text("NCDocument", "Not a medical device. Not validated for clinical use."),
+           labelled(localizer.text("NCDocument", "Printed:"), dateText(services().clock.now())), page},
+      }};
 }
 
 }  // namespace nascor::app

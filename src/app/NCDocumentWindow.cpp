@@ -17,7 +17,6 @@ namespace nascor::app {
 using calc::Measurement;
 using foundation::Date;
 using framework::TextField;
-namespace string_table = foundation::string_table;
 
 void NCDocument::windowControllerDidLoadNib() {
   if (!patientRecord_) {
@@ -126,11 +125,14 @@ void NCDocument::setHeader(std::size_t page, const std::string& title) {
 void NCDocument::switchToGraph(std::int64_t tabIndex) { tabView().selectPage(tabIndex); }
 
 bool NCDocument::controlTextShouldBeginEditing(TextField& field) {
+  const foundation::Localizer& localizer = services().localizer;
   if (&field == &gravidaField_ && patientRecord_ && patientRecord_->gravida() != 0) {
-    return mayModify("Gravidity is already specified", "Are you sure you want to modify it?");
+    return mayModify(localizer.text("NCDocument", "Gravidity is already specified"),
+                     localizer.text("NCDocument", "Are you sure you want to modify it?"));
   }
   if (&field == &birthDateField() && patientRecord_ && patientRecord_->edd()) {
-    return mayModify("EDD is already specified", "Are you sure you want to modify the established EDD?");
+    return mayModify(localizer.text("NCDocument", "EDD is already specified"),
+                     localizer.text("NCDocument", "Are you sure you want to modify the established EDD?"));
   }
   return CorvelDocument::controlTextShouldBeginEditing(field);
 }
@@ -166,7 +168,7 @@ std::string NCDocument::preferredFileName(bool withFetus) const {
   if (name.empty()) return name;
   name += " (G" + std::to_string(patientRecord_ ? patientRecord_->gravida() : 0) + ")";
   if (withFetus && patientRecord_ && patientRecord_->numberOfFetuses() > 1) {
-    name += foundation::format(services().localizer, string_table::ncDocument, " %ld of %ld",
+    name += foundation::format(services().localizer.text("NCDocument", " %ld of %ld"),
                                {currentFetus_ + 1, patientRecord_->numberOfFetuses()});
   }
   return name;
@@ -195,13 +197,12 @@ std::optional<Measurement> NCDocument::measurementOf(const TextField& field) {
   return std::nullopt;
 }
 
-bool NCDocument::mayModify(std::string_view message, std::string_view information) {
+bool NCDocument::mayModify(const std::string& message, const std::string& information) {
   const foundation::Localizer& localizer = services().localizer;
-  return environment().alerts.runModal(
-             {.message = localizer.text(string_table::ncDocument, message),
-              .information = localizer.text(string_table::ncDocument, information),
-              .defaultButton = localizer.text(string_table::corvelDocument, "Modify"),
-              .alternateButton = localizer.text(string_table::zuVersion, "Cancel")}) ==
+  return environment().alerts.runModal({.message = message,
+                                        .information = information,
+                                        .defaultButton = localizer.text("CorvelDocument", "Modify"),
+                                        .alternateButton = localizer.text("ZuVersion", "Cancel")}) ==
          framework::AlertReturn::defaultButton;
 }
 

@@ -53,8 +53,13 @@ class PatientPages {
   charts::NascorGraphView* efwGraph_ = nullptr;
   charts::NascorDataView* report_ = nullptr;
   std::array<framework::Page, kNumberOfPages> pages_{
-      framework::Page("Trends"), framework::Page("BPD"),    framework::Page("HC"),    framework::Page("AC"),
-      framework::Page("FL"),     framework::Page("Weight"), framework::Page("Report")};
+      framework::Page(foundation::translatable("MyDocument", "Trends")),
+      framework::Page(foundation::translatable("MyDocument", "BPD")),
+      framework::Page(foundation::translatable("MyDocument", "HC")),
+      framework::Page(foundation::translatable("MyDocument", "AC")),
+      framework::Page(foundation::translatable("MyDocument", "FL")),
+      framework::Page(foundation::translatable("MyDocument", "Weight")),
+      framework::Page(foundation::translatable("MyDocument", "Report"))};
 };
 
 }  // namespace nascor::app

@@ -32,7 +32,7 @@ WeeksAndDays weeksAndDays(double gestation) {
 std::string gestationText(double gestation, const Localizer& localizer) {
   if (gestation == 0.0) return "-";
   const auto [weeks, days] = weeksAndDays(gestation);
-  return format(localizer, foundation::string_table::ncDocument, "%ldw %ldd", {weeks, days});
+  return foundation::format(localizer.text("NCDocument", "%ldw %ldd"), {weeks, days});
 }
 
 namespace {
@@ -95,7 +95,7 @@ double menstrualAgeFromCRL(double crl, std::int64_t crlStandard) {
 
 std::string crlStandardTitle(std::int64_t crlStandard, const Localizer& localizer) {
   const CRLFormula* formula = crlFormula(crlStandard);
-  return localizer.text(foundation::string_table::ncDocument, "CRL Standard: ") +
+  return localizer.text("NCDocument", "CRL Standard: ") +
          std::string(formula ? formula->label : "Unspecified");
 }
 

@@ -11,7 +11,7 @@ namespace {
 bool anyMissing(std::same_as<double> auto... lengths) { return ((lengths == 0.0) || ...); }
 
 std::string weightTitlePrefix(const foundation::Localizer& localizer) {
-  return localizer.text(foundation::string_table::standard, "Fetal Weight Formula: ");
+  return localizer.text("", "Fetal Weight Formula: ");
 }
 
 }  // namespace

@@ -6,9 +6,12 @@
 #include "calc/Dating.h"
 #include "calc/FetalWeight.h"
 #include "calc/Standards.h"
+#include "foundation/Localizer.h"
 
 namespace nascor::calc {
 namespace {
+
+using foundation::translatable;
 
 /// A publication before it is joined to its row.
 struct Source {
@@ -24,8 +27,8 @@ constexpr std::string_view kHadlock1985 =
 constexpr std::string_view kWesterway2000 =
     "Westerway SC, Davison A, Cowell S. Ultrasonic fetal measurements: new Australian standards for the new "
     "millennium. Aust N Z J Obstet Gynaecol 2000;40:297\u2013302. doi:10.1111/j.1479-828X.2000.tb03338.x";
-constexpr std::string_view kOwnNumbers =
-    "The number is a name of this program; the lengths in parentheses tell the formula.";
+constexpr std::string_view kOwnNumbers = translatable(
+    "References", "The number is a name of this program; the lengths in parentheses tell the formula.");
 
 template <class Row, std::size_t Count>
 std::vector<Publication> joined(std::span<const Row, Count> rows, std::string_view Row::*label,
@@ -47,14 +50,18 @@ std::vector<Publication> growthStandardPublications() {
       {kWesterway2000, Confirmation::partlySeen, ""},
       {"Hadlock FP, Deter RL, Harrist RB, Park SK. Estimating fetal age: computer-assisted analysis of "
        "multiple fetal growth parameters. Radiology 1984;152:497\u2013501. PMID 6739822",
-       Confirmation::seen, "Weeks 12 and 13 lie outside the published sample, which has 14 to 42 weeks."},
+       Confirmation::seen,
+       translatable("References",
+                    "Weeks 12 and 13 lie outside the published sample, which has 14 to 42 weeks.")},
       {"Schluter PJ, Pritchard G, Gill MA. Ultrasonic fetal size measurements in Brisbane, Australia. "
        "Australas Radiol 2004;48:480\u2013486",
-       Confirmation::awaited, "Weeks 11 to 14 lie outside the published sample, which has 15 to 41 weeks."},
+       Confirmation::awaited,
+       translatable("References",
+                    "Weeks 11 to 14 lie outside the published sample, which has 15 to 41 weeks.")},
       {"Cr\u00e9quat J, Duyme M, Brodaty G. Biom\u00e9trie 2000. Tables de croissance f\u0153tale par le "
        "Coll\u00e8ge fran\u00e7ais d'\u00e9chographie f\u0153tale (CFEF) et l'Inserm U 155. "
        "Gyn\u00e9col Obst\u00e9t Fertil 2000;28:435\u2013455",
-       Confirmation::awaited, "The numbers are those of the published tables."},
+       Confirmation::awaited, translatable("References", "The numbers are those of the published tables.")},
   }};
   return joined(growthStandards(), &GrowthStandard::label, kSources);
 }
@@ -70,7 +77,8 @@ std::vector<Publication> weightFormulaPublications() {
        Confirmation::partlySeen, ""},
       {"Combs CA, Jaekle RK, Rosenn B, Pope M, Miodovnik M, Siddiqi TA. Sonographic estimation of fetal "
        "weight based on a model of fetal volume. Obstet Gynecol 1993;82:365\u2013370",
-       Confirmation::partlySeen, "Journal and pages are given differently elsewhere."},
+       Confirmation::partlySeen,
+       translatable("References", "Journal and pages are given differently elsewhere.")},
       {"Ott WJ, Doyle S, Flamm S, Wittman J. Accurate ultrasonic estimation of fetal weight: prospective "
        "analysis of new ultrasonic formulas. Am J Perinatol 1986;3:307\u2013310",
        Confirmation::awaited, ""},
@@ -91,15 +99,18 @@ std::vector<Publication> crlFormulaPublications() {
        Confirmation::partlySeen, ""},
       {"Robinson HP, Fleming JEE. A critical evaluation of sonar \"crown-rump length\" measurements. "
        "Br J Obstet Gynaecol 1975;82(9):702\u2013710. PMID 1182090",
-       Confirmation::seen, "The constant is 23.72 here; publications have 23.73."},
+       Confirmation::seen,
+       translatable("References", "The constant is 23.72 here; publications have 23.73.")},
       {kWesterway2000, Confirmation::partlySeen, ""},
   }};
   return joined(crlFormulas(), &CRLFormula::label, kSources);
 }
 
 std::string_view weightBandRemark() {
-  return "The band of the weight chart is the random error of the formula. It shows no centiles of a "
-         "population.";
+  return translatable(
+      "References",
+      "The band of the weight chart is the random error of the formula. It shows no centiles of a "
+      "population.");
 }
 
 }  // namespace nascor::calc

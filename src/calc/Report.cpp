@@ -14,7 +14,7 @@ double deliveryAdjustment(double plannedGestation) { return (plannedGestation - 
 std::string daysToGoLine(double plannedGestation, const foundation::Localizer& localizer) {
   // Always 0: deliberate, and listed in docs/oddities.md. Reports in use show it so.
   constexpr std::int64_t kDaysToGo = 0;
-  std::string line = format(localizer, foundation::string_table::standard, "Days to Go:\t%ld", {kDaysToGo});
+  std::string line = foundation::format(localizer.text("", "Days to Go:\t%ld"), {kDaysToGo});
   const double adjustment = deliveryAdjustment(plannedGestation);
   if (adjustment != 0.0) line += " (" + fixedText(static_cast<double>(kDaysToGo) + adjustment, 0) + ")";
   return line;

@@ -133,8 +133,7 @@ void appendStandard(ReferenceTable& table, std::int64_t standard, Measurement me
 
 std::string growthStandardTitle(std::int64_t standard, const foundation::Localizer& localizer) {
   const GrowthStandard* chosen = growthStandard(standard);
-  return localizer.text(foundation::string_table::standard, "Nascor Standard: ") +
-         std::string(chosen ? chosen->label : "");
+  return localizer.text("", "Nascor Standard: ") + std::string(chosen ? chosen->label : "");
 }
 
 ReferenceTable fetalWeightTable(const ReferenceTable& bpd, const ReferenceTable& hc, const ReferenceTable& ac,

@@ -27,7 +27,7 @@ void NoYaxisGraphView::initWithFrame(const framework::Rect& frame) {
   setMaxX(42.0);
   setMajorXInterval(4.0);
   setMinorXInterval(1.0);
-  setXTitle(localized("Menstrual Age (Weeks)"));
+  setXTitle(localized("", "Menstrual Age (Weeks)"));
 }
 
 framework::Rect NoYaxisGraphView::offeredGraphRect() const {
@@ -67,7 +67,7 @@ void NoYaxisEFWGraphView::setReferenceTitle(const std::string& title) {
 
 void TitledGraphView::initWithFrame(const framework::Rect& frame) {
   NoXaxisGraphView::initWithFrame(frame);
-  setYTitle(localized(facts_.yTitle));
+  setYTitle(localized("", facts_.yTitle));
   setMinY(0.0);
   setMaxY(facts_.maxY);
   setMajorYInterval(facts_.majorYInterval);
@@ -76,7 +76,7 @@ void TitledGraphView::initWithFrame(const framework::Rect& frame) {
 std::string TitledGraphView::valueText(double value) const {
   return foundation::fieldText(value, facts_.decimals, services().localizer.decimalSign())
       .append(" ")
-      .append(localized(facts_.unit));
+      .append(localized("", facts_.unit));
 }
 
 const model::MeasurementsRecord* TitledGraphView::measurementsForFetus(std::uint64_t fetus,

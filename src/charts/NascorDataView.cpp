@@ -61,9 +61,9 @@ std::int64_t NascorDataView::examinationsShown() const {
 
 std::vector<std::string> NascorDataView::leftHeader() const {
   const model::PatientRecord& patient = *owningDocument()->patientRecord();
-  return {localized("Identifier:\t").append(foundation::oneLine(patient.maternalIDString().value_or(""))),
-          localized("Gravida:\t").append(std::to_string(patient.gravida())),
-          localized("Fetus:\t").append(owningDocument()->multiplePopUp().titleOfSelectedItem())};
+  return {localized("", "Identifier:\t").append(foundation::oneLine(patient.maternalIDString().value_or(""))),
+          localized("", "Gravida:\t").append(std::to_string(patient.gravida())),
+          localized("", "Fetus:\t").append(owningDocument()->multiplePopUp().titleOfSelectedItem())};
 }
 
 std::vector<std::string> NascorDataView::rightHeader() const {
@@ -72,10 +72,10 @@ std::vector<std::string> NascorDataView::rightHeader() const {
   const auto& examinations = patient.ncRecordsArray();
   const std::int64_t exam = document.currentExam();
   const bool exists = exam >= 0 && std::cmp_less(exam, examinations.size());
-  return {localized("Date:\t").append(
-              exists ? dateText(examinations[static_cast<std::size_t>(exam)]->examDate()) : ""),
-          localized("EDD:\t").append(patient.edd() ? dateText(patient.edd()) : "-"),
-          localized("Menstrual Age:\t")
+  return {localized("", "Date:\t")
+              .append(exists ? dateText(examinations[static_cast<std::size_t>(exam)]->examDate()) : ""),
+          localized("", "EDD:\t").append(patient.edd() ? dateText(patient.edd()) : "-"),
+          localized("", "Menstrual Age:\t")
               .append(document.menstrualAgeStringForRecord(static_cast<std::uint64_t>(exam))),
           patient.edd() && projectionIsShown()
               ? calc::daysToGoLine(patient.extrapolatedGestation(), services().localizer)
@@ -83,8 +83,9 @@ std::vector<std::string> NascorDataView::rightHeader() const {
 }
 
 NascorDataView::Cells NascorDataView::titles() const {
-  return {localized("Exam Date"), localized("Menstrual Age"), localized("BPD (mm)"), localized("HC (mm)"),
-          localized("AC (mm)"),   localized("FL (mm)"),       localized("EFW (g)")};
+  return {localized("", "Exam Date"), localized("", "Menstrual Age"), localized("", "BPD (mm)"),
+          localized("", "HC (mm)"),   localized("", "AC (mm)"),       localized("", "FL (mm)"),
+          localized("", "EFW (g)")};
 }
 
 NascorDataView::Cells NascorDataView::examinationCells(std::int64_t exam) const {
@@ -104,7 +105,7 @@ NascorDataView::Cells NascorDataView::examinationCells(std::int64_t exam) const 
 NascorDataView::Cells NascorDataView::projectedCells() const {
   ChartDocument& document = *owningDocument();
   Cells cells{
-      localized("Projected"),
+      localized("", "Projected"),
       document.menstrualAgeStringForGestation(document.patientRecord()->extrapolatedGestation()),
   };
   // Each leaves its value in the record that the weight is then computed from.

@@ -233,7 +233,7 @@ std::string NascorGraphView::describe(const PlottedValue& plotted) const {
   const double z = calc::zScore(standardData(), plotted.y, plotted.x);
   if (std::isfinite(z)) {
     const std::string score = foundation::fieldText(z, 2, services().localizer.decimalSign());
-    text.append(", ").append(localized("z-score")).append(z >= 0.0 ? " +" : " ").append(score);
+    text.append(", ").append(localized("", "z-score")).append(z >= 0.0 ? " +" : " ").append(score);
   }
   return text;
 }

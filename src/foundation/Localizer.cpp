@@ -2,20 +2,18 @@
 
 namespace nascor::foundation {
 
-std::string format(const Localizer& localizer, std::string_view table, std::string_view key,
-                   std::initializer_list<std::int64_t> numbers) {
+std::string format(std::string_view text, std::initializer_list<std::int64_t> numbers) {
   constexpr std::string_view kPlaceHolder = "%ld";
-  const std::string pattern = localizer.text(table, key);
   std::string result;
   std::size_t from = 0;
   for (const std::int64_t number : numbers) {
-    const std::size_t at = pattern.find(kPlaceHolder, from);
-    if (at == std::string::npos) break;
-    result += pattern.substr(from, at - from);
+    const std::size_t at = text.find(kPlaceHolder, from);
+    if (at == std::string_view::npos) break;
+    result += text.substr(from, at - from);
     result += std::to_string(number);
     from = at + kPlaceHolder.size();
   }
-  result += pattern.substr(from);
+  result += text.substr(from);
   return result;
 }
 

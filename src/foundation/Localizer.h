@@ -9,21 +9,17 @@
 
 namespace nascor::foundation {
 
-/// The tables of visible texts.
-namespace string_table {
-inline constexpr std::string_view standard = "";  ///< the default table
-inline constexpr std::string_view ncDocument = "NCDocument";
-inline constexpr std::string_view ncAppController = "NCAppController";
-inline constexpr std::string_view corvelDocument = "CorvelDocument";
-inline constexpr std::string_view zuVersion = "ZuVersion";
-}  // namespace string_table
+/// Marks a text that is looked up elsewhere, where it is no literal any more. The tables of visible texts are gathered from
+/// the literals behind `text`, `localized`, `said` and this.
+constexpr std::string_view translatable(std::string_view /*table*/, std::string_view key) { return key; }
 
 /// The user's language and ways of writing.
 class Localizer {
  public:
   virtual ~Localizer() = default;
 
-  /// The translation of `key` in `table`; the key itself, which is the English text, where there is none.
+  /// The translation of `key` in `table`; the key itself, which is the English text, where there is none. The default table
+  /// has the empty name.
   virtual std::string text(std::string_view table, std::string_view key) const = 0;
   virtual ShortDateForm shortDateForm() const = 0;
   virtual char decimalSign() const = 0;
@@ -31,10 +27,9 @@ class Localizer {
   virtual std::string upperCased(std::string_view text) const = 0;
 };
 
-/// The translation of `key` with each "%ld" replaced by the next of `numbers`, in order. Nothing else is a
-/// place holder, so a percent sign in a translation is just that. Numbers left over are dropped.
-std::string format(const Localizer& localizer, std::string_view table, std::string_view key,
-                   std::initializer_list<std::int64_t> numbers);
+/// `text`, a translation, with each "%ld" replaced by the next of `numbers`, in order. Nothing else is a place holder, so a
+/// percent sign in a translation is just that. Numbers left over are dropped.
+std::string format(std::string_view text, std::initializer_list<std::int64_t> numbers);
 
 /// English texts, dates as month/day/year, a decimal point: what the command line speaks.
 class EnglishLocalizer final : public Localizer {

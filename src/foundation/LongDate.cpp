@@ -7,16 +7,19 @@ namespace nascor::foundation {
 namespace {
 
 /// Day and year, so that each language puts them where they belong.
-constexpr std::array<std::string_view, 12> kForms{"%ld January %ld", "%ld February %ld", "%ld March %ld",
-                                                  "%ld April %ld",   "%ld May %ld",      "%ld June %ld",
-                                                  "%ld July %ld",    "%ld August %ld",   "%ld September %ld",
-                                                  "%ld October %ld", "%ld November %ld", "%ld December %ld"};
+constexpr std::array<std::string_view, 12> kForms{
+    translatable("CorvelDocument", "%ld January %ld"),   translatable("CorvelDocument", "%ld February %ld"),
+    translatable("CorvelDocument", "%ld March %ld"),     translatable("CorvelDocument", "%ld April %ld"),
+    translatable("CorvelDocument", "%ld May %ld"),       translatable("CorvelDocument", "%ld June %ld"),
+    translatable("CorvelDocument", "%ld July %ld"),      translatable("CorvelDocument", "%ld August %ld"),
+    translatable("CorvelDocument", "%ld September %ld"), translatable("CorvelDocument", "%ld October %ld"),
+    translatable("CorvelDocument", "%ld November %ld"),  translatable("CorvelDocument", "%ld December %ld")};
 
 }  // namespace
 
 std::string longDateText(const CivilDay& day, const Localizer& localizer) {
   if (!isValid(day)) return {};
-  return format(localizer, string_table::corvelDocument, kForms.at(static_cast<std::size_t>(day.month) - 1),
+  return format(localizer.text("CorvelDocument", kForms.at(static_cast<std::size_t>(day.month) - 1)),
                 {day.day, day.year});
 }
 

@@ -11,8 +11,6 @@
 
 namespace nascor::framework {
 
-namespace string_table = foundation::string_table;
-
 CorvelDocument::CorvelDocument(const DocumentEnvironment& environment)
     : ZuDocument(environment.services),
       environment_(environment),
@@ -61,11 +59,10 @@ void CorvelDocument::deleteExaminationAction() {
   }
   const auto& localizer = services().localizer;
   environment_.alerts.beginSheet(
-      {.message =
-           localizer.text(string_table::ncDocument, "Are you sure you want to remove this examination?"),
+      {.message = localizer.text("NCDocument", "Are you sure you want to remove this examination?"),
        .information = "",
-       .defaultButton = localizer.text(string_table::corvelDocument, "Remove"),
-       .alternateButton = localizer.text(string_table::zuVersion, "Cancel")},
+       .defaultButton = localizer.text("CorvelDocument", "Remove"),
+       .alternateButton = localizer.text("ZuVersion", "Cancel")},
       [this](AlertReturn answer) {
         if (answer == AlertReturn::defaultButton) removeExamination();
       });
@@ -140,20 +137,19 @@ std::vector<foundation::FileEntry> CorvelDocument::documentsOfPatient(const std:
 bool CorvelDocument::userOpens(const foundation::FileEntry& file) const {
   const auto& localizer = services().localizer;
   const auto day = foundation::localDay(file.modified, services().calendar);
-  std::string information =
-      file.name + "\n" + (day ? foundation::shortDateText(*day, localizer.shortDateForm()) + ", " : "") +
-      foundation::format(localizer, string_table::corvelDocument, "%ld bytes", {file.size});
+  std::string information = file.name + "\n" +
+                            (day ? foundation::shortDateText(*day, localizer.shortDateForm()) + ", " : "") +
+                            foundation::format(localizer.text("CorvelDocument", "%ld bytes"), {file.size});
   if (holdsMoreThanIdentity()) {
     information += "\n";
-    information += localizer.text(string_table::corvelDocument,
+    information += localizer.text("CorvelDocument",
                                   "What was entered here besides reference ID and gravidity will be lost.");
   }
   return environment_.alerts.runModal(
-             {.message = localizer.text(string_table::corvelDocument, "This patient has a document already."),
+             {.message = localizer.text("CorvelDocument", "This patient has a document already."),
               .information = information,
-              .defaultButton = localizer.text(string_table::corvelDocument, "Open"),
-              .alternateButton = localizer.text(string_table::zuVersion, "Cancel")}) ==
-         AlertReturn::defaultButton;
+              .defaultButton = localizer.text("CorvelDocument", "Open"),
+              .alternateButton = localizer.text("ZuVersion", "Cancel")}) == AlertReturn::defaultButton;
 }
 
 }  // namespace nascor::framework

@@ -12,7 +12,6 @@
 namespace nascor::framework {
 
 using foundation::FileError;
-namespace string_table = foundation::string_table;
 
 namespace {
 
@@ -55,7 +54,7 @@ bool CorvelDocument::commitsEditing() {
 std::optional<std::string> CorvelDocument::doExport(const foundation::NotificationSender* sender) {
   const foundation::Localizer& localizer = services().localizer;
   if (!commitsEditing())
-    return localizer.text(string_table::corvelDocument, "A field holds a text that is not permitted.");
+    return localizer.text("CorvelDocument", "A field holds a text that is not permitted.");
 
   std::optional<std::string> folder = services().defaults.value(export_key::folder);
   if (folder && folder->empty()) folder.reset();
@@ -69,9 +68,9 @@ std::optional<std::string> CorvelDocument::doExport(const foundation::Notificati
   auto sentence = exportPage(tabView_.indexOfSelectedPage(), *folder);
   if (sentence && sender) {
     environment_.alerts.tell(
-        localizer.text(string_table::corvelDocument, "The page was not exported."),
+        localizer.text("CorvelDocument", "The page was not exported."),
         *sentence + "\n" +
-            localizer.text(string_table::corvelDocument,
+            localizer.text("CorvelDocument",
                            "Please make room in this folder, or choose another in Export Settings."));
   }
   return sentence;
@@ -82,7 +81,7 @@ std::optional<std::string> CorvelDocument::exportPage(std::int64_t page, const s
   const PageFormat format =
       pageFormatNamed(services().defaults.value(export_key::format).value_or("")).value_or(PageFormat::pdf);
   std::string name = portableFileNameText(exportName());
-  if (name.empty()) name = localizer.text(string_table::corvelDocument, "Untitled");
+  if (name.empty()) name = localizer.text("CorvelDocument", "Untitled");
   const std::string pageName =
       " - " + portableFileNameText(localizer.text(kWindowTable, tabView_.page(page).name()));
   const std::string extension = std::string(".").append(extensionOf(format));
@@ -96,8 +95,7 @@ std::optional<std::string> CorvelDocument::exportPage(std::int64_t page, const s
   }
 
   if (!environment_.pageWriter) {
-    return path + ": " +
-           localizer.text(string_table::corvelDocument, "This program was built without painting.");
+    return path + ": " + localizer.text("CorvelDocument", "This program was built without painting.");
   }
   const OnPaper onPaper(*this);
   const auto error = environment_.pageWriter->writePage(
@@ -120,9 +118,8 @@ void CorvelDocument::printPages(const std::vector<std::int64_t>& pages, const Pr
     const auto job = environment_.printer->beginJob(printInfo_, settings);
     const auto sentence = print(*job, pages, showPrintPanel, isPrinted);
     if (sentence && showPrintPanel) {
-      environment_.alerts.tell(
-          services().localizer.text(string_table::corvelDocument, "The document was not printed."),
-          *sentence);
+      environment_.alerts.tell(services().localizer.text("CorvelDocument", "The document was not printed."),
+                               *sentence);
     }
   }
   if (didPrint) didPrint(isPrinted);

@@ -9,7 +9,6 @@
 namespace nascor::framework {
 
 using foundation::FileError;
-namespace string_table = foundation::string_table;
 
 ZuDocument& DocumentController::newDocument() {
   ZuDocument& document = add(factory_());
@@ -37,8 +36,7 @@ void DocumentController::openDocuments() {
   for (const std::string& path : panels_.chooseFilesToOpen()) {
     std::string error;
     if (!openDocument(path, error)) {
-      alerts_.tell(services_.localizer.text(string_table::corvelDocument, "The document cannot be opened."),
-                   error);
+      alerts_.tell(services_.localizer.text("CorvelDocument", "The document cannot be opened."), error);
     }
   }
 }
@@ -60,17 +58,17 @@ bool DocumentController::write(ZuDocument& document, const std::string& path) {
   // Two windows on one file would overwrite each other's patient.
   const auto error =
       holder && holder != &document
-          ? FileError{services_.localizer.text(string_table::corvelDocument, "It is open in another window.")}
+          ? FileError{services_.localizer.text("CorvelDocument", "It is open in another window.")}
           : document.writeToFile(path);
   if (!error) {
     if (const auto loss = document.lossInFile()) {
-      alerts_.tell(services_.localizer.text(string_table::corvelDocument,
+      alerts_.tell(services_.localizer.text("CorvelDocument",
                                             "The document was saved, but its file cannot hold all of it."),
                    path + ": " + *loss);
     }
     return true;
   }
-  alerts_.tell(services_.localizer.text(string_table::corvelDocument, "The document was not saved."),
+  alerts_.tell(services_.localizer.text("CorvelDocument", "The document was not saved."),
                path + ": " + error->reason);
   return false;
 }
@@ -79,31 +77,35 @@ bool DocumentController::userReplacesChanges(const std::string& path) {
   const auto& localizer = services_.localizer;
   return alerts_.runModal(
              {.message =
-                  localizer.text(string_table::corvelDocument,
+                  localizer.text("CorvelDocument",
                                  "Another program has changed the file of this document. Do you want to "
                                  "replace what it holds now?"),
               .information =
                   path + "\n\n" +
-                  localizer.text(string_table::corvelDocument,
+                  localizer.text("CorvelDocument",
                                  "To keep both, cancel and save this document under another name."),
-              .defaultButton = localizer.text(string_table::corvelDocument, "Save Anyway"),
-              .alternateButton = localizer.text(string_table::zuVersion, "Cancel"),
+              .defaultButton = localizer.text("CorvelDocument", "Save Anyway"),
+              .alternateButton = localizer.text("ZuVersion", "Cancel"),
               .isCancelledByReturn = true}) == AlertReturn::defaultButton;
 }
 
 bool DocumentController::mayGo(ZuDocument& document) {
   // What a field accepts is saved or discarded with the rest; what it refuses goes with the window.
-  static_cast<void>(document.commitEditing());
+  const bool isCommitted = document.commitEditing();
   // Committing a gravidity may have put another document into this one's place.
   if (!isOpen(document) || !document.isDocumentEdited()) return true;
   const auto text = [&](std::string_view table, std::string_view key) {
     return services_.localizer.text(table, key);
   };
+  std::string information = document.displayName();
+  if (!isCommitted) {
+    information += "\n\n";
+    information +=
+        text("CorvelDocument", "A field holds a text that is not permitted. It will not be saved.");
+  }
   const std::size_t answer = alerts_.chooseOne(
-      text(string_table::corvelDocument, "Do you want to save the changes of this document?"),
-      document.displayName(),
-      {text(string_table::corvelDocument, "Save"), text(string_table::corvelDocument, "Discard"),
-       text(string_table::zuVersion, "Cancel")});
+      text("CorvelDocument", "Do you want to save the changes of this document?"), information,
+      {text("CorvelDocument", "Save"), text("CorvelDocument", "Discard"), text("ZuVersion", "Cancel")});
   enum : std::size_t { kSave = 0, kDiscard = 1 };
   if (answer == kDiscard) return true;
   if (answer != kSave) return false;
@@ -136,17 +138,15 @@ bool DocumentController::closeUntouchedDocument(ZuDocument& document) {
 }
 
 bool DocumentController::closeAllDocuments() {
-  while (ZuDocument* front = currentDocument()) {
-    if (!closeDocument(*front)) return false;
-  }
+  if (!saveEditedDocuments()) return false;
+  while (ZuDocument* front = currentDocument()) remove(*front);
   return true;
 }
 
 bool DocumentController::replaceDocument(ZuDocument& document, const std::string& path) {
   std::string error;
   if (!openDocument(path, error)) {
-    alerts_.tell(services_.localizer.text(string_table::corvelDocument, "The document cannot be opened."),
-                 error);
+    alerts_.tell(services_.localizer.text("CorvelDocument", "The document cannot be opened."), error);
     return false;
   }
   remove(document);

@@ -43,10 +43,10 @@ class DocumentController {
   /// Asks whether to save when the document was edited, then closes it. False when the user cancels or saving fails. A
   /// text that its field refuses is dropped with the window; a cancelled close keeps it in edit.
   bool closeDocument(ZuDocument& document);
-  /// Closes all documents, the one in front first, until one is not closed. True when none is left.
+  /// Asks of each edited document, the one in front first, whether to save it, then closes all. False, and all stay open,
+  /// when the user cancels or saving fails.
   bool closeAllDocuments();
-  /// Asks of each edited document, the one in front first, whether to save it, and closes none: the session is about to
-  /// end. False when the user cancels or saving fails.
+  /// The same without closing any: the session is about to end.
   bool saveEditedDocuments();
   /// Closes `document` when it is a new one in which nothing was done yet; nobody is asked. False when it stays.
   bool closeUntouchedDocument(ZuDocument& document);

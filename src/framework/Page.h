@@ -3,6 +3,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "framework/Color.h"
@@ -23,7 +24,7 @@ class Page {
   /// The rectangle of a view on a page of that size.
   using Placement = std::function<Rect(double width, double height)>;
 
-  explicit Page(std::string name) : name_(std::move(name)) {}
+  explicit Page(std::string_view name) : name_(name) {}
 
   /// What the page is called in the window and in file names.
   const std::string& name() const { return name_; }

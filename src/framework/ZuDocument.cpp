@@ -17,7 +17,7 @@ void ZuDocument::setFilePath(std::optional<std::string> path) {
 }
 
 std::string ZuDocument::displayName() const {
-  if (!filePath_) return services_.localizer.text(foundation::string_table::corvelDocument, "Untitled");
+  if (!filePath_) return services_.localizer.text("CorvelDocument", "Untitled");
   return filePath_->substr(filePath_->rfind('/') + 1);
 }
 

@@ -128,8 +128,8 @@ void ZuPrimitiveGraphView::plotMark(int code, double x, double y) {
   }
 }
 
-std::string ZuPrimitiveGraphView::localized(std::string_view key) const {
-  return services_.localizer.text(foundation::string_table::standard, key);
+std::string ZuPrimitiveGraphView::localized(std::string_view table, std::string_view key) const {
+  return services_.localizer.text(table, key);
 }
 
 }  // namespace nascor::framework

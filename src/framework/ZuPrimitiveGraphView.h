@@ -116,8 +116,8 @@ class ZuPrimitiveGraphView : public foundation::NotificationSender {
   /// The canvas of the drawing in progress.
   Canvas& canvas() const { return *canvas_; }
   const foundation::Services& services() const { return services_; }
-  /// The translation of `key` in the default table.
-  std::string localized(std::string_view key) const;
+  /// The translation of `key` in `table`.
+  std::string localized(std::string_view table, std::string_view key) const;
 
  private:
   foundation::Services services_;

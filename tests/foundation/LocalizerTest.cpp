@@ -28,35 +28,32 @@ class TableLocalizer final : public Localizer {
 TEST(Format, putsNumbersInOrderIntoTheTranslation) {
   TableLocalizer localizer;
   localizer.translations["%ldw %ldd"] = "%ld Wochen, %ld Tage";
-  EXPECT_EQ(format(localizer, "Table", "%ldw %ldd", {25, 3}), "25 Wochen, 3 Tage");
-  EXPECT_EQ(format(localizer, "Other", "%ldw %ldd", {25, 3}), "25w 3d");
+  EXPECT_EQ(format(localizer.text("Table", "%ldw %ldd"), {25, 3}), "25 Wochen, 3 Tage");
+  EXPECT_EQ(format(localizer.text("Other", "%ldw %ldd"), {25, 3}), "25w 3d");
 }
 
 TEST(Format, knowsNoOtherPlaceHolder) {
-  const EnglishLocalizer english;
-  EXPECT_EQ(format(english, "", "100% of %ld %s%d %%ld%n", {1, 2}), "100% of 1 %s%d %2%n");
-  EXPECT_EQ(format(english, "", "%l%ld%", {5}), "%l5%");
+  EXPECT_EQ(format("100% of %ld %s%d %%ld%n", {1, 2}), "100% of 1 %s%d %2%n");
+  EXPECT_EQ(format("%l%ld%", {5}), "%l5%");
 }
 
 TEST(Format, dropsNumbersLeftOverAndKeepsPlaceHoldersLeftOver) {
-  const EnglishLocalizer english;
-  EXPECT_EQ(format(english, "", "nothing", {1, 2}), "nothing");
-  EXPECT_EQ(format(english, "", "%ld", {1, 2}), "1");
-  EXPECT_EQ(format(english, "", "%ld of %ld", {1}), "1 of %ld");
-  EXPECT_EQ(format(english, "", "", {1}), "");
-  EXPECT_EQ(format(english, "", "%ld", {}), "%ld");
+  EXPECT_EQ(format("nothing", {1, 2}), "nothing");
+  EXPECT_EQ(format("%ld", {1, 2}), "1");
+  EXPECT_EQ(format("%ld of %ld", {1}), "1 of %ld");
+  EXPECT_EQ(format("", {1}), "");
+  EXPECT_EQ(format("%ld", {}), "%ld");
 }
 
 TEST(Format, writesEveryNumberThatThereIs) {
-  const EnglishLocalizer english;
-  EXPECT_EQ(format(english, "", "%ld|%ld|%ld",
+  EXPECT_EQ(format("%ld|%ld|%ld",
                    {std::numeric_limits<std::int64_t>::min(), 0, std::numeric_limits<std::int64_t>::max()}),
             "-9223372036854775808|0|9223372036854775807");
 }
 
 TEST(EnglishLocalizer, speaksInKeys) {
   const EnglishLocalizer english;
-  EXPECT_EQ(english.text(string_table::ncDocument, "Biparietal Diameter (mm)"), "Biparietal Diameter (mm)");
+  EXPECT_EQ(english.text("NCDocument", "Biparietal Diameter (mm)"), "Biparietal Diameter (mm)");
   EXPECT_EQ(english.decimalSign(), '.');
   EXPECT_EQ(english.shortDateForm().pattern, "M/d/yy");
 }

@@ -222,15 +222,16 @@ TEST_F(TheDocuments, arePutInFrontInTheOrderOfTheirUse) {
   EXPECT_EQ(documents.currentDocument(), &three);
 }
 
-TEST_F(TheDocuments, areClosedFromTheFrontUntilOneStays) {
+TEST_F(TheDocuments, areAllClosedOrNone) {
   TextDocument& one = application.newDocument();
   TextDocument& two = application.newDocument();
-  application.newDocument();
+  TextDocument& three = application.newDocument();
   two.updateChangeCount(ZuDocument::ChangeType::changeDone);
   EXPECT_FALSE(documents.closeAllDocuments());
-  EXPECT_THAT(documents.documents(), ElementsAre(&one, &two));
+  EXPECT_THAT(documents.documents(), ElementsAre(&one, &three, &two)) << "the one asked about is in front";
   application.alerts.choice = "Discard";
   EXPECT_TRUE(documents.closeAllDocuments());
+  EXPECT_THAT(documents.documents(), ElementsAre());
 }
 
 TEST_F(TheDocuments, areAskedAboutOneByOneWhenTheSessionEndsAndStayOpen) {

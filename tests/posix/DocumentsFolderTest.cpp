@@ -151,18 +151,29 @@ class Home {
   std::optional<std::string> before_;
 };
 
-TEST(TheDocumentsFolder, isTheOneThatIsGiven) {
-  EXPECT_EQ(PosixFileStore("/some/where").documentsFolder(), "/some/where");
+TEST_F(AFolder, isTheDocumentsFolderWhereItIsGiven) {
+  fs::create_directory(folder_ / "patients");
+  const Home home(folder_.c_str());
+  EXPECT_EQ(PosixFileStore(at("patients")).documentsFolder(), at("patients"));
 }
 
-TEST(TheDocumentsFolder, isInTheUsersHomeOtherwise) {
-  const Home home("/home/somebody");
-  EXPECT_EQ(PosixFileStore().documentsFolder(), "/home/somebody/Documents");
+TEST_F(AFolder, isTheDocumentsFolderInTheUsersHomeOtherwise) {
+  fs::create_directory(folder_ / "Documents");
+  const Home home(folder_.c_str());
+  EXPECT_EQ(PosixFileStore().documentsFolder(), at("Documents"));
+}
+
+// A new document is proposed to be saved there, and so it is there that the patient is looked for.
+TEST_F(AFolder, isTheDocumentsFolderAsAHomeWithoutOne) {
+  put("Documents");
+  const Home home(folder_.c_str());
+  EXPECT_EQ(PosixFileStore().documentsFolder(), folder_.string());
+  EXPECT_EQ(PosixFileStore(at("patients")).documentsFolder(), folder_.string());
 }
 
 TEST(TheDocumentsFolder, isHereWithoutAHome) {
   const Home home(nullptr);
-  EXPECT_EQ(PosixFileStore().documentsFolder(), "./Documents");
+  EXPECT_EQ(PosixFileStore("/no/such/folder").documentsFolder(), ".");
 }
 
 }  // namespace

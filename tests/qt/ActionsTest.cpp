@@ -734,7 +734,7 @@ const std::map<std::string, std::string>& doneElsewhere() {
       {"Revert or Cancel", "TheDocumentWindow.goesBackToTheSavedDocumentAfterAQuestion"},
       {"Save on closing", "TheApplicationOfDocuments.savesBeforeItClosesWhenTheUserSaysSo"},
       {"Discard or Cancel on closing",
-       "TheApplicationOfDocuments.asksForEachEditedDocumentWhenItQuitsAndStopsAtCancel"},
+       "TheApplicationOfDocuments.asksForEachEditedDocumentWhenItQuitsAndClosesNoneAfterCancel"},
       {"Open the patient's document", "Editing.opensAPatientsOwnDocumentInPlaceOfTheBlankOne"},
       {"Cancel the patient's document", "Actions.offerAPatientsDocumentAndTakeANoForAnAnswer"},
       {"Modify or Cancel a dating dialog", "TheDialogs.askOnThemselvesWhetherAnEstablishedEDDIsModified"},

@@ -261,7 +261,7 @@ TEST_F(TheApplicationOfDocuments, savesBeforeItClosesWhenTheUserSaysSo) {
   EXPECT_EQ(field("bpdField"), "77.0");
 }
 
-TEST_F(TheApplicationOfDocuments, asksForEachEditedDocumentWhenItQuitsAndStopsAtCancel) {
+TEST_F(TheApplicationOfDocuments, asksForEachEditedDocumentWhenItQuitsAndClosesNoneAfterCancel) {
   open(singleton(), QStringLiteral("a.nascor"));
   enter("bpdField", "70");
   open(singleton(), QStringLiteral("b.nascor"));
@@ -272,10 +272,55 @@ TEST_F(TheApplicationOfDocuments, asksForEachEditedDocumentWhenItQuitsAndStopsAt
   ASSERT_EQ(asked.size(), 2U);
   EXPECT_EQ(asked[0].information, "c.nascor");
   EXPECT_EQ(asked[1].information, "a.nascor");
-  EXPECT_THAT(titles(), ElementsAre("a.nascor[*]"));
-  answers = {"Save"};
+  EXPECT_THAT(titles(), ElementsAre("a.nascor[*]", "b.nascor[*]", "c.nascor[*]"));
+  answers = {"Save", "Discard"};
   EXPECT_TRUE(application.quit());
   EXPECT_THAT(titles(), IsEmpty());
+}
+
+// Without it neither the open panel nor the look-up of a patient would find the file again.
+TEST_F(TheApplicationOfDocuments, savesWithTheDocumentsExtensionWhateverDotsTheNameHas) {
+  // Each file dialog in turn is given the next name; one that opens after that is left.
+  QStringList names;
+  int waited = 0;
+  QTimer user;
+  QObject::connect(&user, &QTimer::timeout, [&] {
+    auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+    if (!dialog) return;
+    if (names.isEmpty()) {
+      dialog->reject();
+      return;
+    }
+    // The dialog reads its folder aside, and then writes the name that it proposes.
+    constexpr int kPatience = 15;
+    if (++waited < kPatience) return;
+    waited = 0;
+    user.stop();
+    auto* name = dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+    name->setText(folder.filePath(names.takeFirst()));
+    QTest::keyClick(name, Qt::Key_Return);
+    user.start();
+  });
+  user.start(20);
+  const auto saveAs = [&](const char* name) {
+    names << QLatin1String(name);
+    press(Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
+  };
+  open(singleton());
+  saveAs("new name.v2");
+  EXPECT_THAT(titles(), ElementsAre("new name.v2.nascor[*]"));
+  saveAs("plain");
+  EXPECT_THAT(titles(), ElementsAre("plain.nascor[*]"));
+  saveAs("Whole.NASCOR");
+  EXPECT_THAT(titles(), ElementsAre("Whole.NASCOR[*]"));
+
+  // What is there already is replaced when the user says so, and only then.
+  file(QStringLiteral("taken.v2.nascor"), "somebody's");
+  answers = {"No"};
+  saveAs("taken.v2");
+  ASSERT_EQ(asked.size(), 1U);
+  EXPECT_THAT(asked[0].message, testing::StartsWith("taken.v2.nascor already exists."));
+  EXPECT_THAT(titles(), ElementsAre("Whole.NASCOR[*]"));
 }
 
 TEST_F(TheApplicationOfDocuments, doesNotQuitWhileAQuestionIsOpenOnAWindow) {

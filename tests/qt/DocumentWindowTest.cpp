@@ -59,9 +59,11 @@ TEST_F(TheDocumentWindow, showsTheNewestExaminationOfItsPatient) {
   EXPECT_TRUE(isHighlighted(32.0, 82.0));
 }
 
-TEST_F(TheDocumentWindow, beginsWithTheExaminationOfAKnownPatientAndWithTheNameOfANewOne) {
+TEST_F(TheDocumentWindow, beginsWithThePagesOfAKnownPatientAndWithTheNameOfANewOne) {
   open(singleton());
-  EXPECT_EQ(focus(), "examDateField");
+  EXPECT_EQ(front().focusWidget(), widget<QTabWidget>("tabView").tabBar());
+  QTest::keyClicks(front().focusWidget(), QStringLiteral("5"));
+  EXPECT_FALSE(front().isWindowModified()) << "a key that was meant for another window";
   openBlank();
   EXPECT_EQ(focus(), "referenceIDField");
 }

@@ -4,6 +4,7 @@
 #include <QDropEvent>
 #include <QInputMethodEvent>
 #include <QMimeData>
+#include <QWheelEvent>
 
 #include "WindowTest.h"
 
@@ -35,6 +36,85 @@ TEST_F(Editing, endsWithTheReturnKeyToo) {
   press(Qt::Key_Return);
   EXPECT_EQ(bpd(), 84.0);
   EXPECT_EQ(focus(), "bpdField");
+}
+
+// A digit typed before or behind what was just put into the field would make a number that nobody meant.
+TEST_F(Editing, beginsANewTextWhereTheFieldWasFilledMeanwhile) {
+  open(singleton());
+  type("bpdField", "50");
+  press(Qt::Key_Return);
+  QTest::keyClicks(front().focusWidget(), QStringLiteral("61"));
+  EXPECT_EQ(field("bpdField"), "61");
+  action("previousAction").trigger();
+  settle();
+  EXPECT_EQ(focus(), "bpdField");
+  EXPECT_TRUE(widget<QLineEdit>("bpdField").hasSelectedText());
+  QTest::keyClicks(front().focusWidget(), QStringLiteral("7"));
+  EXPECT_EQ(field("bpdField"), "7");
+}
+
+TEST_F(Editing, goesOnInATextThatWasOnlyWrittenInCapitals) {
+  openBlank();
+  type("referenceIDField", "ab-1");
+  press(Qt::Key_Return);
+  QTest::keyClicks(front().focusWidget(), QStringLiteral("2"));
+  EXPECT_EQ(field("referenceIDField"), "AB-12");
+}
+
+TEST_F(Editing, saysThatWhatAFieldRefusesIsNotSavedWhenItsWindowIsClosed) {
+  open(singleton());
+  type("bpdField", "900");
+  answers = {"Cancel"};
+  press(Qt::Key_W, Qt::ControlModifier);
+  ASSERT_EQ(asked.size(), 1U);
+  EXPECT_THAT(asked[0].information, HasSubstr("A field holds a text that is not permitted."));
+  EXPECT_EQ(field("bpdField"), "900");
+  EXPECT_TRUE(isOutlined("bpdField"));
+  press(Qt::Key_Escape);
+  enter("bpdField", "90");
+  answers = {"Discard"};
+  press(Qt::Key_W, Qt::ControlModifier);
+  ASSERT_EQ(asked.size(), 2U);
+  EXPECT_EQ(asked[1].information, "AB-123.nascor");
+}
+
+TEST_F(Editing, makesOneLineOfLinesThatArePasted) {
+  openBlank();
+  QApplication::clipboard()->setText(QStringLiteral("\n40\r\n50\tab\u2028c\n"));
+  widget<QLineEdit>("referenceIDField").setFocus();
+  press(Qt::Key_V, Qt::ControlModifier);
+  EXPECT_EQ(field("referenceIDField"), "40 50 ab c");
+  press(Qt::Key_Return);
+  EXPECT_EQ(document().patientRecord()->maternalIDString(), "40 50 AB C");
+}
+
+TEST_F(Editing, leavesTheFetusAloneWhenTheWheelTurnsOverIt) {
+  open(twins());
+  auto& fetuses = widget<QComboBox>("multiplePopUp");
+  const QPointF place(5.0, 5.0);
+  QWheelEvent down(place, fetuses.mapToGlobal(place), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
+                   Qt::NoScrollPhase, false);
+  QCoreApplication::sendEvent(&fetuses, &down);
+  EXPECT_EQ(fetuses.currentIndex(), 0);
+  EXPECT_EQ(document().currentFetus(), 0);
+}
+
+TEST_F(Editing, deletesOneExaminationByADoubleClick) {
+  open(singleton());
+  const std::int64_t before = document().numberOfExaminations();
+  click("addExaminationButton");
+  ASSERT_EQ(document().numberOfExaminations(), before + 1);
+  auto& button = widget<QToolButton>("deleteExaminationButton");
+  QTest::mouseClick(&button, Qt::LeftButton);
+  const QPointF place(5.0, 5.0);
+  for (const QEvent::Type type : {QEvent::MouseButtonDblClick, QEvent::MouseButtonRelease}) {
+    const bool isDown = type == QEvent::MouseButtonDblClick;
+    QMouseEvent second(type, place, button.mapToGlobal(place), Qt::LeftButton,
+                       isDown ? Qt::LeftButton : Qt::NoButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&button, &second);
+  }
+  settle();
+  EXPECT_EQ(document().numberOfExaminations(), before);
 }
 
 TEST_F(Editing, givesTheOldTextBackWithTheEscapeKey) {

@@ -243,9 +243,11 @@ std::vector<foundation::FileEntry> PosixFileStore::entries(const std::string& fo
 }
 
 std::string PosixFileStore::documentsFolder() const {
-  if (!documentsFolder_.empty()) return documentsFolder_;
   const char* home = std::getenv("HOME");
-  return std::string(home ? home : ".") + "/Documents";
+  const std::string homeFolder = home ? home : ".";
+  const std::string folder = documentsFolder_.empty() ? homeFolder + "/Documents" : documentsFolder_;
+  std::error_code ignored;
+  return std::filesystem::is_directory(folder, ignored) ? folder : homeFolder;
 }
 
 bool PosixFileStore::exists(const std::string& path) const {

@@ -18,7 +18,8 @@ class PosixFileStore final : public foundation::FileStore {
   /// Whether a pipe is read to its end like a file. Who waits for its writer waits for as long as nobody writes.
   enum class Pipes { areRefused, areRead };
 
-  /// `documentsFolder` is where the user keeps documents; empty for the folder "Documents" of the user's home.
+  /// `documentsFolder` is where the user keeps documents; empty for the folder "Documents" of the user's home. Where
+  /// there is no such folder it is the home itself.
   explicit PosixFileStore(std::string documentsFolder = {}, Pipes pipes = Pipes::areRefused)
       : documentsFolder_(std::move(documentsFolder)), pipes_(pipes) {}
 

@@ -13,11 +13,7 @@
 #include "ui_AdjustDelivery.h"
 
 namespace nascor::qt {
-namespace {
-
-QString said(const char* sentence) { return QCoreApplication::translate("AdjustDelivery", sentence); }
-
-}  // namespace
+namespace {}  // namespace
 
 AdjustDeliveryDialog::AdjustDeliveryDialog(app::NCDocument& document, const foundation::Services& services,
                                            Perform perform, QWidget* parent)
@@ -61,10 +57,10 @@ void AdjustDeliveryDialog::refresh() {
   spin.setRange(static_cast<int>(std::lround(stepper.minimum())),
                 static_cast<int>(std::lround(stepper.maximum())));
   spin.setValue(std::isfinite(stepper.value()) ? static_cast<int>(std::lround(stepper.value())) : 0);
-  const QString range =
-      said("%1 to %2 days").arg(QString::number(spin.minimum()), QString::number(spin.maximum()));
+  const QString range = said("AdjustDelivery", "%1 to %2 days")
+                            .arg(QString::number(spin.minimum()), QString::number(spin.maximum()));
   ui_->adjustDeliveryHint->setText(range);
-  spin.setToolTip(said("Days from the EDD to the planned delivery, %1").arg(range));
+  spin.setToolTip(said("AdjustDelivery", "Days from the EDD to the planned delivery, %1").arg(range));
   spin.setAccessibleDescription(spin.toolTip());
   const foundation::ShortDateForm form = services_.localizer.shortDateForm();
   ui_->adjustEDDLongForm->setText(longDateText(ui_->adjustEDDField->text(), form));

@@ -2,6 +2,9 @@
 
 #include <QEvent>
 #include <QFontInfo>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QTranslator>
 #include <string>
 
 #include "foundation/ProgramVersion.h"
@@ -31,6 +34,26 @@ QString missingFontSentence() {
   return QCoreApplication::translate(
       "Application",
       "No font is installed, so no text could be shown. Please install one, such as DejaVu Sans.");
+}
+
+bool installTranslation(const QStringList& languages, const QString& folder) {
+  for (const QString& language : languages) {
+    const QLocale locale(language);
+    if (locale.language() == QLocale::English || locale.language() == QLocale::C) return false;
+    // An installed translator stays as long as the application.
+    auto* texts = new QTranslator(qApp);
+    if (!texts->load(locale, QStringLiteral("nascor"), QStringLiteral("_"), folder)) {
+      delete texts;
+      continue;
+    }
+    auto* toolkits = new QTranslator(qApp);
+    if (toolkits->load(locale, QStringLiteral("qtbase"), QStringLiteral("_"),
+                       QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+      QCoreApplication::installTranslator(toolkits);
+    }
+    return QCoreApplication::installTranslator(texts);
+  }
+  return false;
 }
 
 void tellAbandoned(const std::exception& error) {

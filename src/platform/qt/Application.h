@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QString>
+#include <QStringList>
 #include <exception>
 #include <functional>
 
@@ -14,6 +15,11 @@ QString disclaimer();
 /// Why no text could be painted, in one sentence; nothing where there is a font. A PDF without fonts would have no text,
 /// and nobody would say so.
 QString missingFontSentence();
+
+/// Installs the first table of texts in `folder` that there is for one of `languages` ("de-AT", the preferred first), and the
+/// toolkit's own of that language. English needs none, since the keys are its texts: behind it no other language is tried.
+/// Whether one was installed.
+bool installTranslation(const QStringList& languages, const QString& folder);
 
 /// Tells on standard error that an action was abandoned, and where in the sources.
 void tellAbandoned(const std::exception& error);

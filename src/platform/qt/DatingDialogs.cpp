@@ -32,11 +32,9 @@ void giveRoom(QLineEdit& edit, const QString& text) {
       std::max(edit.minimumWidth(), edit.fontMetrics().horizontalAdvance(text) + kFrameAndMargins));
 }
 
-QString said(const char* sentence) { return QCoreApplication::translate("DatingDialogs", sentence); }
-
 /// `hint` behind a field is part of what is said of it.
 void describe(FieldEdit& edit, const QString& what, const QString& hint) {
-  edit.setToolTip(said("%1, %2").arg(what, hint));
+  edit.setToolTip(said("DatingDialogs", "%1, %2").arg(what, hint));
   edit.setAccessibleDescription(edit.toolTip());
 }
 
@@ -56,13 +54,13 @@ void DatingDialog::bindField(FieldEdit& edit) {
 void DatingDialog::bindDate(FieldEdit& edit, QLabel& form, QLabel& longForm) {
   const foundation::ShortDateForm shortForm = services_.localizer.shortDateForm();
   const QString example = fromUtf8(foundation::shortDateText({2027, 3, 24}, shortForm));
-  form.setText(said("such as %1").arg(example));
-  describe(edit, edit.toolTip(), said("for example %1").arg(example));
+  form.setText(said("DatingDialogs", "such as %1").arg(example));
+  describe(edit, edit.toolTip(), said("DatingDialogs", "for example %1").arg(example));
   longForm.setMinimumWidth(fontMetrics().horizontalAdvance(longestDateText()));
   const auto showLongForm = [&edit, &longForm, shortForm] {
     const QString text = edit.text().trimmed();
     const QString inWords = longDateText(text, shortForm);
-    longForm.setText(!inWords.isEmpty() || text.isEmpty() ? inWords : said("no date"));
+    longForm.setText(!inWords.isEmpty() || text.isEmpty() ? inWords : said("DatingDialogs", "no date"));
   };
   connect(&edit, &QLineEdit::textChanged, this, showLongForm);
   bindField(edit);
@@ -93,7 +91,8 @@ void DatingDialog::outline(const std::vector<const framework::TextField*>& obsta
     FieldEdit* edit = editFor(*obstacle);
     if (!edit) continue;
     edit->setObstacle(true);
-    edit->setAccessibleDescription(said("Keeps the EDD from being set. %1").arg(edit->toolTip()));
+    edit->setAccessibleDescription(
+        said("DatingDialogs", "Keeps the EDD from being set. %1").arg(edit->toolTip()));
     if (!first) first = edit;
   }
   if (!first) return;
@@ -134,10 +133,10 @@ void EDDFromCRLDialog::refresh() {
   forgetObstacles();
   const model::PatientRecord* patient = document()->patientRecord();
   const calc::CRLFormula* formula = patient ? calc::crlFormula(patient->crlStandard()) : nullptr;
-  const QString what = said("Crown-rump length");
+  const QString what = said("DatingDialogs", "Crown-rump length");
   if (!formula) {
-    ui_->crlWindowCRLHint->setText(said("mm"));
-    describe(*ui_->crlWindowCRL, what, said("mm"));
+    ui_->crlWindowCRLHint->setText(said("DatingDialogs", "mm"));
+    describe(*ui_->crlWindowCRL, what, said("DatingDialogs", "mm"));
     return;
   }
   const auto number = [this](double value) {
@@ -145,8 +144,8 @@ void EDDFromCRLDialog::refresh() {
   };
   const QString least = number(formula->least);
   const QString greatest = number(formula->greatest);
-  ui_->crlWindowCRLHint->setText(said("mm (%1\u2013%2)").arg(least, greatest));
-  describe(*ui_->crlWindowCRL, what, said("%1 to %2 mm").arg(least, greatest));
+  ui_->crlWindowCRLHint->setText(said("DatingDialogs", "mm (%1\u2013%2)").arg(least, greatest));
+  describe(*ui_->crlWindowCRL, what, said("DatingDialogs", "%1 to %2 mm").arg(least, greatest));
 }
 
 void EDDFromCRLDialog::focusFirst() {
@@ -260,15 +259,16 @@ void EDDFromMeasurementsDialog::refresh() {
     const QSignalBlocker quiet(&row.check);
     row.check.setChecked(boxes[i++]->isOn());
     giveRoom(row.gestation, row.gestation.text());
-    row.value.setText(said("%1 mm").arg(fromUtf8(row.length.text())));
+    row.value.setText(said("DatingDialogs", "%1 mm").arg(fromUtf8(row.length.text())));
     // Never by colour alone.
     QString sign;
     QString description = row.gestation.toolTip();
     if (fieldFor(row.gestation).isRed()) {
       const bool isMeasured = row.length.doubleValue() != 0.0;
-      sign = isMeasured ? said("! beyond 2 SD") : said("! not measured");
-      description = (isMeasured ? said("More than 2 standard deviations from the mean at the average. %1")
-                                : said("Not measured. %1"))
+      sign = isMeasured ? said("DatingDialogs", "! beyond 2 SD") : said("DatingDialogs", "! not measured");
+      description = (isMeasured ? said("DatingDialogs",
+                                       "More than 2 standard deviations from the mean at the average. %1")
+                                : said("DatingDialogs", "Not measured. %1"))
                         .arg(description);
     }
     row.sign.setText(sign);
@@ -277,13 +277,14 @@ void EDDFromMeasurementsDialog::refresh() {
   const NCDocument& shown = *document();
   const QString inWords =
       longDateText(fromUtf8(shown.examDateField().text()), services().localizer.shortDateForm());
-  const QString place = fromUtf8(foundation::format(services().localizer, "MyDocument", "%ld of %ld",
+  const QString place = fromUtf8(foundation::format(services().localizer.text("MyDocument", "%ld of %ld"),
                                                     {shown.currentExam() + 1, shown.numberOfExaminations()}));
   const auto& popUp = shown.multiplePopUp();
   const auto fetus = static_cast<std::size_t>(std::max<std::int64_t>(popUp.indexOfSelectedItem(), 0));
   const QString title = fetus < popUp.items().size() ? fromUtf8(popUp.items().at(fetus).title) : QString();
   ui_->measurementsWindowExamination->setText(
-      said("%1, %2, %3").arg(place, inWords.isEmpty() ? said("no date") : inWords, title));
+      said("DatingDialogs", "%1, %2, %3")
+          .arg(place, inWords.isEmpty() ? said("DatingDialogs", "no date") : inWords, title));
   giveRoom(*ui_->measurementsWindowAvGestation, ui_->measurementsWindowAvGestation->text());
   giveRoom(*ui_->measurementsWindowExamination, ui_->measurementsWindowExamination->text());
   ui_->measurementsWindowExamination->setCursorPosition(0);

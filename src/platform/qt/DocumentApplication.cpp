@@ -119,9 +119,9 @@ void DocumentApplication::openNow(const QStringList& paths) {
     sentences << fromUtf8(error);
   }
   if (sentences.isEmpty()) return;
-  const char* message =
-      sentences.size() == 1 ? "The document cannot be opened." : "These documents cannot be opened.";
-  alerts_.tell(services_.localizer.text(foundation::string_table::corvelDocument, message),
+  const foundation::Localizer& localizer = services_.localizer;
+  alerts_.tell(sentences.size() == 1 ? localizer.text("CorvelDocument", "The document cannot be opened.")
+                                     : localizer.text("CorvelDocument", "These documents cannot be opened."),
                toUtf8(sentences.join(QStringLiteral("\n\n"))));
 }
 

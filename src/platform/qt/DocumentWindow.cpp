@@ -35,6 +35,7 @@
 #include "qt/Puff.h"
 #include "qt/QtAlerts.h"
 #include "qt/ReferencesDialog.h"
+#include "qt/StrayInput.h"
 #include "qt/Text.h"
 #include "ui_MyDocument.h"
 
@@ -45,10 +46,7 @@ using app::NCDocument;
 namespace {
 
 /// The context under which the texts of the window's form are translated.
-constexpr const char* kTable = "MyDocument";
 constexpr std::string_view kGeometryKey = "Window Geometry";
-
-QString said(const char* sentence) { return QCoreApplication::translate(kTable, sentence); }
 
 /// `action` done to the text that has the focus, if one has.
 template <class LineAction, class NoteAction>
@@ -118,8 +116,8 @@ DocumentWindow::DocumentWindow(NCDocument& document, WindowEnvironment environme
   showExaminations();
   showStandards();
   showLongDates();
-  // The work on a known patient begins with the examination; a stray key is not to change who it is.
-  (document.filePath() ? ui_->examDateField : ui_->referenceIDField)->setFocus();
+  // A known patient is looked at first: a key that was meant for another window turns a page at most.
+  (document.filePath() ? static_cast<QWidget*>(ui_->tabView) : ui_->referenceIDField)->setFocus();
 }
 
 DocumentWindow::~DocumentWindow() { release(); }
@@ -212,8 +210,8 @@ void DocumentWindow::bindFields() {
   note.onChange = [noteEdit, &note] {
     const QString text = fromUtf8(note.text());
     noteEdit->setReadOnly(!note.isEditable());
-    noteEdit->setPlaceholderText(note.isEditable() ? QString()
-                                                   : said("There is no examination to note this at."));
+    noteEdit->setPlaceholderText(
+        note.isEditable() ? QString() : said("MyDocument", "There is no examination to note this at."));
     if (noteEdit->toPlainText() == text) return;
     const QSignalBlocker quiet(noteEdit);
     noteEdit->setPlainText(text);
@@ -257,7 +255,7 @@ void DocumentWindow::bindPages() {
     view->onClick = [this, &page](framework::Point point, int count) {
       perform([&page, point, count](NCDocument&) { page.click(point, count); });
     };
-    const QString name = said(page.name().c_str());
+    const QString name = said("MyDocument", page.name().c_str());
     view->setObjectName(fromUtf8(page.name()) + QStringLiteral("Page"));
     view->setAccessibleName(name);
     ui_->tabView->addTab(view, name);
@@ -313,6 +311,10 @@ void DocumentWindow::bindActions() {
   ui_->previousButton->setArrowType(Qt::LeftArrow);
   ui_->nextButton->setArrowType(Qt::RightArrow);
   ui_->addExaminationButton->setDefaultAction(ui_->addExaminationAction);
+  auto* strayInput = new StrayInput(this);
+  ui_->multiplePopUp->installEventFilter(strayInput);
+  ui_->deleteExaminationButton->installEventFilter(strayInput);
+  ui_->deleteFetusButton->installEventFilter(strayInput);
   ui_->deleteExaminationButton->setDefaultAction(ui_->deleteExaminationAction);
   ui_->addFetusButton->setDefaultAction(ui_->addFetusAction);
   ui_->deleteFetusButton->setDefaultAction(ui_->deleteFetusAction);
@@ -414,11 +416,11 @@ void DocumentWindow::showRecentFiles() {
     connect(action, &QAction::triggered, this, [this, path] { environment_.openFiles({path}); });
   }
   if (!paths.isEmpty()) ui_->recentMenu->addSeparator();
-  QAction* clear = ui_->recentMenu->addAction(said("&Clear"));
+  QAction* clear = ui_->recentMenu->addAction(said("MyDocument", "&Clear"));
   clear->setObjectName(QStringLiteral("clearRecentAction"));
   clear->setEnabled(!paths.isEmpty());
   connect(clear, &QAction::triggered, this, [this] { environment_.recentFiles.clear(); });
-  QAction* remember = ui_->recentMenu->addAction(said("&Remember Recent Documents"));
+  QAction* remember = ui_->recentMenu->addAction(said("MyDocument", "&Remember Recent Documents"));
   remember->setObjectName(QStringLiteral("rememberRecentAction"));
   remember->setCheckable(true);
   remember->setChecked(environment_.recentFiles.isKept());
@@ -498,17 +500,18 @@ void DocumentWindow::describeFields() {
     const calc::EditingBounds bounds = calc::editingBounds(row.measurement);
     const QString least = QString::number(static_cast<int>(bounds.least));
     const QString greatest = QString::number(static_cast<int>(bounds.greatest));
-    row.hint->setText(said("mm (%1\u2013%2)").arg(least, greatest));
-    describe(row.edit, row.label, said("%1, %2 to %3 mm").arg(row.edit->toolTip(), least, greatest));
+    row.hint->setText(said("MyDocument", "mm (%1\u2013%2)").arg(least, greatest));
+    describe(row.edit, row.label,
+             said("MyDocument", "%1, %2 to %3 mm").arg(row.edit->toolTip(), least, greatest));
   }
   const foundation::ShortDateForm form = environment_.services.localizer.shortDateForm();
   const QString example = fromUtf8(foundation::shortDateText({2027, 3, 24}, form));
   for (FieldEdit* edit : {ui_->birthDateField, ui_->examDateField})
-    describe(edit, nullptr, said("%1, for example %2").arg(edit->toolTip(), example));
+    describe(edit, nullptr, said("MyDocument", "%1, for example %2").arg(edit->toolTip(), example));
   const int room = fontMetrics().horizontalAdvance(longestDateText());
   ui_->birthDateLongForm->setMinimumWidth(room);
   ui_->examDateLongForm->setMinimumWidth(room);
-  ui_->multiplePopUp->setAccessibleDescription(said("The fetus on show"));
+  ui_->multiplePopUp->setAccessibleDescription(said("MyDocument", "The fetus on show"));
 }
 
 void DocumentWindow::showEditing() {
@@ -517,16 +520,19 @@ void DocumentWindow::showEditing() {
     binding->refresh();
     if (binding->edit().isRefusing()) permitted = binding->edit().toolTip();
     const QString description = binding->description();
-    binding->edit().setAccessibleDescription(
-        binding->edit().isRefusing() ? said("Not permitted. %1").arg(description) : description);
+    binding->edit().setAccessibleDescription(binding->edit().isRefusing()
+                                                 ? said("MyDocument", "Not permitted. %1").arg(description)
+                                                 : description);
   }
-  refusalLabel_->setText(permitted.isEmpty() ? QString() : said("Permitted: %1").arg(permitted));
+  refusalLabel_->setText(permitted.isEmpty() ? QString()
+                                             : said("MyDocument", "Permitted: %1").arg(permitted));
   showLongDates();
 }
 
 void DocumentWindow::showLongDates() {
   const foundation::ShortDateForm form = environment_.services.localizer.shortDateForm();
-  const QString example = said("such as %1").arg(fromUtf8(foundation::shortDateText({2027, 3, 24}, form)));
+  const QString example =
+      said("MyDocument", "such as %1").arg(fromUtf8(foundation::shortDateText({2027, 3, 24}, form)));
   const std::array<std::pair<const FieldEdit*, QLabel*>, 2> dates{
       {{ui_->birthDateField, ui_->birthDateLongForm}, {ui_->examDateField, ui_->examDateLongForm}}};
   for (const auto& [edit, label] : dates) {
@@ -535,7 +541,7 @@ void DocumentWindow::showLongDates() {
     label->setText(edit->isReadOnly()   ? QString()
                    : !inWords.isEmpty() ? inWords
                    : text.isEmpty()     ? example
-                                        : said("no date"));
+                                        : said("MyDocument", "no date"));
   }
 }
 
@@ -584,7 +590,7 @@ void DocumentWindow::showExaminations() {
   const std::int64_t exam = document_->currentExam();
   const std::int64_t count = document_->numberOfExaminations();
   ui_->examinationLabel->setText(fromUtf8(foundation::format(
-      environment_.services.localizer, kTable, "%ld of %ld", {count > 0 ? exam + 1 : 0, count})));
+      environment_.services.localizer.text("MyDocument", "%ld of %ld"), {count > 0 ? exam + 1 : 0, count})));
   ui_->previousAction->setEnabled(exam > 0);
   ui_->nextAction->setEnabled(exam + 1 < count);
   ui_->deleteExaminationAction->setEnabled(count > 1);
@@ -608,7 +614,7 @@ void DocumentWindow::updatePages() {
       ->setAccessibleDescription(
           shown == app::PatientPages::kReportPage
               ? fromUtf8(document_->report().tabSeparatedText())
-              : said("Growth chart of %1. Examination %2, %3.")
+              : said("MyDocument", "Growth chart of %1. Examination %2, %3.")
                     .arg(fromUtf8(foundation::oneLine(document_->preferredFileName(true))),
                          ui_->examinationLabel->text(), fromUtf8(document_->ageField().text())));
 }
@@ -619,26 +625,29 @@ void DocumentWindow::revert() {
     QtAlerts alerts(environment_.actions);
     alerts.frontWindow = [this] { return this; };
     const auto answer = alerts.runModal(
-        {.message = toUtf8(said("Do you want to go back to the document as it was last saved?")),
-         .information = toUtf8(said("All changes since then will be lost.")),
-         .defaultButton = toUtf8(said("Revert")),
-         .alternateButton = toUtf8(said("Cancel"))});
+        {.message =
+             toUtf8(said("MyDocument", "Do you want to go back to the document as it was last saved?")),
+         .information = toUtf8(said("MyDocument", "All changes since then will be lost.")),
+         .defaultButton = toUtf8(said("MyDocument", "Revert")),
+         .alternateButton = toUtf8(said("MyDocument", "Cancel"))});
     if (answer != framework::AlertReturn::defaultButton || !document_) return;
     if (const auto error = document.revertToSaved())
-      alerts.tell(toUtf8(said("The document cannot be read.")), *document.filePath() + ": " + error->reason);
+      alerts.tell(toUtf8(said("MyDocument", "The document cannot be read.")),
+                  *document.filePath() + ": " + error->reason);
   });
 }
 
 void DocumentWindow::showAbout() {
   QMessageBox box(this);
-  box.setWindowTitle(said("About Nascor"));
+  box.setWindowTitle(said("MyDocument", "About Nascor"));
   box.setTextFormat(Qt::PlainText);
-  box.setText(said("Nascor %1").arg(programVersion()));
+  box.setText(said("MyDocument", "Nascor %1").arg(programVersion()));
   box.setInformativeText(
       QStringLiteral("%1\n\n%2\n\n%3")
           .arg(
-              disclaimer(), said("Copyright (c) 2026 The Nascor developers. MIT License."),
-              said("Linked with Qt %1 (GNU LGPL 3), the D-Bus library (AFL 2.1 or GNU GPL 2) and the GNU C++ "
+              disclaimer(), said("MyDocument", "Copyright (c) 2026 The Nascor developers. MIT License."),
+              said("MyDocument",
+                   "Linked with Qt %1 (GNU LGPL 3), the D-Bus library (AFL 2.1 or GNU GPL 2) and the GNU C++ "
                    "library (GNU GPL 3 with the GCC Runtime Library Exception).")
                   .arg(QLatin1String(qVersion()))));
   box.exec();

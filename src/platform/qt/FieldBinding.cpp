@@ -9,9 +9,18 @@ namespace nascor::qt {
 namespace {
 
 void show(QLineEdit& edit, const QString& text) {
-  if (edit.text() == text) return;
+  const QString before = edit.text();
+  if (before == text) return;
+  const int cursor = edit.cursorPosition();
   edit.setText(text);
-  edit.setCursorPosition(0);
+  if (!edit.hasFocus()) {
+    edit.setCursorPosition(0);
+  } else if (before.compare(text, Qt::CaseInsensitive) == 0) {
+    edit.setCursorPosition(cursor);
+  } else {
+    // What is typed next is a new text, not digits before or behind one that was put here meanwhile.
+    edit.selectAll();
+  }
 }
 
 void showColor(QLineEdit& edit, bool isRed) {

@@ -5,6 +5,8 @@
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QPainter>
+#include <QRegularExpression>
+#include <QValidator>
 
 namespace nascor::qt {
 
@@ -14,6 +16,25 @@ QColor refusalColor(const QPalette& palette) {
   const bool isDark = (base.alpha() > 0 ? base : palette.color(QPalette::Window)).lightness() < 128;
   return isDark ? QColor(0xff, 0x8a, 0x80) : QColor(0xb7, 0x1c, 0x1c);
 }
+
+namespace {
+
+/// Takes any text, and makes one line of it.
+class OneLine final : public QValidator {
+ public:
+  using QValidator::QValidator;
+
+  State validate(QString& input, int& /*cursor*/) const override {
+    static const QRegularExpression kBreaksAtAnEnd(QStringLiteral("^[\\v\\t]+|[\\v\\t]+$"));
+    static const QRegularExpression kBreaks(QStringLiteral("[\\v\\t]+"));
+    input.remove(kBreaksAtAnEnd).replace(kBreaks, QStringLiteral(" "));
+    return Acceptable;
+  }
+};
+
+}  // namespace
+
+FieldEdit::FieldEdit(QWidget* parent) : QLineEdit(parent) { setValidator(new OneLine(this)); }
 
 void FieldEdit::setRefusing(bool refusing) {
   if (isRefusing_ == refusing) return;

@@ -5,10 +5,11 @@
 
 namespace nascor::qt {
 
-/// A line to type in that can be outlined while it refuses what was typed. Files that are dropped on it go to its window.
+/// A line to type in that can be outlined while it refuses what was typed. Lines that are pasted into it become one. Files
+/// that are dropped on it go to its window.
 class FieldEdit final : public QLineEdit {
  public:
-  using QLineEdit::QLineEdit;
+  explicit FieldEdit(QWidget* parent = nullptr);
 
   /// Outlines the field, or not.
   void setRefusing(bool refusing);

@@ -33,8 +33,6 @@ constexpr std::string_view kPaperKey = "Paper";
 constexpr int kMessageTime = 10'000;  // ms
 constexpr double kPreviewOfWindow = 0.9;
 
-QString said(const char* sentence) { return QCoreApplication::translate("OutputMenu", sentence); }
-
 QString pathText(const std::string& path) { return QFile::decodeName(QByteArray::fromStdString(path)); }
 
 void rememberPaper(foundation::UserDefaults& defaults, const framework::PrintInfo& info) {
@@ -96,7 +94,7 @@ void OutputMenu::add(QMenu& menu, QAction* before, const char* name, const char*
                      const QKeySequence& keys, const std::function<void(NCDocument&)>& action) {
   QString taken;
   for (const QAction* other : menu.actions()) taken += mnemonicOf(other->text());
-  auto* item = new QAction(withMnemonic(said(text), taken), &window_);
+  auto* item = new QAction(withMnemonic(said("OutputMenu", text), taken), &window_);
   item->setObjectName(QLatin1String(name));
   item->setShortcut(keys);
   connect(item, &QAction::triggered, this, [this, action] { environment_.perform(action); });
@@ -125,9 +123,10 @@ void OutputMenu::printPreview(NCDocument& document) {
   connect(&dialog, &QPrintPreviewDialog::paintRequested, this, [this, &document](QPrinter* preview) {
     environment_.printer.paintInto(preview, [&] { document.printDocumentWithSettings({}, false, {}); });
   });
+  constexpr const char* kPreviewTable = "QPrintPreviewDialog";  // the toolkit's own
   // The dialog's own printing writes into the file that the user names, and tells nobody of a full disk.
   for (QAction* item : dialog.findChildren<QAction*>()) {
-    if (item->text() != QCoreApplication::translate("QPrintPreviewDialog", "Print")) continue;
+    if (item->text() != QCoreApplication::translate(kPreviewTable, "Print")) continue;
     item->disconnect(&dialog);
     connect(item, &QAction::triggered, &dialog, [&dialog] { dialog.done(kPrint); });
   }
@@ -138,14 +137,15 @@ void OutputMenu::printPreview(NCDocument& document) {
 
 void OutputMenu::exportPage(NCDocument& document) {
   document.onExported = [this](const std::string& path) {
-    window_.statusBar()->showMessage(said("Exported to %1").arg(pathText(path)), kMessageTime);
+    window_.statusBar()->showMessage(said("OutputMenu", "Exported to %1").arg(pathText(path)), kMessageTime);
   };
   document.doExport(&environment_.sender);
   document.onExported = nullptr;
 }
 
 void OutputMenu::exportAll(NCDocument& document) {
-  QProgressDialog progress(said("Exporting pages..."), said("Cancel"), 0, 0, &window_);
+  QProgressDialog progress(said("OutputMenu", "Exporting pages..."), said("OutputMenu", "Cancel"), 0, 0,
+                           &window_);
   progress.setObjectName(QLatin1String(kProgressName));
   progress.setWindowModality(Qt::WindowModal);
   progress.setMinimumDuration(0);
@@ -167,22 +167,24 @@ void OutputMenu::exportAll(NCDocument& document) {
   if (written > 0) {
     const QString folder = pathText(last.substr(0, last.rfind('/') + 1));
     window_.statusBar()->showMessage(
-        said("%1 pages were exported to %2").arg(QString::number(written), folder), kMessageTime);
+        said("OutputMenu", "%1 pages were exported to %2").arg(QString::number(written), folder),
+        kMessageTime);
   }
   if (sentences.empty()) return;
   constexpr std::size_t kMostShown = 3;
   std::string reasons;
   for (std::size_t i = 0; i < sentences.size() && i < kMostShown; ++i) reasons += sentences[i] + "\n";
   environment_.alerts.tell(
-      toUtf8(said("%1 pages were not exported.").arg(QString::number(sentences.size()))),
-      reasons + toUtf8(said("Please make room in this folder, or choose another in Export Settings.")));
+      toUtf8(said("OutputMenu", "%1 pages were not exported.").arg(QString::number(sentences.size()))),
+      reasons + toUtf8(said("OutputMenu",
+                            "Please make room in this folder, or choose another in Export Settings.")));
 }
 
 void OutputMenu::exportSettings() {
   foundation::UserDefaults& defaults = environment_.services.defaults;
   QDialog dialog(&window_);
   dialog.setObjectName(QStringLiteral("exportSettings"));
-  dialog.setWindowTitle(said("Export Settings"));
+  dialog.setWindowTitle(said("OutputMenu", "Export Settings"));
   auto* form = new QFormLayout(&dialog);
 
   std::string folder = defaults.value(export_key::folder).value_or("");
@@ -192,10 +194,11 @@ void OutputMenu::exportSettings() {
   folderLabel->setMinimumWidth(dialog.fontMetrics().averageCharWidth() * 40);
   folderLabel->setWordWrap(true);
   const auto showFolder = [&] {
-    folderLabel->setText(folder.empty() ? said("Asked for at the first export") : pathText(folder));
+    folderLabel->setText(folder.empty() ? said("OutputMenu", "Asked for at the first export")
+                                        : pathText(folder));
   };
   showFolder();
-  auto* choose = new QPushButton(said("&Choose..."));
+  auto* choose = new QPushButton(said("OutputMenu", "&Choose..."));
   choose->setObjectName(QStringLiteral("chooseExportFolder"));
   connect(choose, &QPushButton::clicked, &dialog, [&] {
     if (const auto chosen = environment_.panels.chooseFolder()) folder = *chosen;
@@ -204,21 +207,22 @@ void OutputMenu::exportSettings() {
   auto* row = new QHBoxLayout;
   row->addWidget(folderLabel, 1);
   row->addWidget(choose);
-  form->addRow(said("Folder:"), row);
+  form->addRow(said("OutputMenu", "Folder:"), row);
 
   auto* formats = new QComboBox;
   formats->setObjectName(QStringLiteral("exportFormat"));
   const auto format = framework::pageFormatNamed(defaults.value(export_key::format).value_or(""))
                           .value_or(framework::PageFormat::pdf);
-  for (const auto& [each, title] : {std::pair(framework::PageFormat::pdf, said("PDF, for print and archive")),
-                                    std::pair(framework::PageFormat::png, said("PNG, a picture")),
-                                    std::pair(framework::PageFormat::svg, said("SVG, a drawing"))}) {
+  for (const auto& [each, title] :
+       {std::pair(framework::PageFormat::pdf, said("OutputMenu", "PDF, for print and archive")),
+        std::pair(framework::PageFormat::png, said("OutputMenu", "PNG, a picture")),
+        std::pair(framework::PageFormat::svg, said("OutputMenu", "SVG, a drawing"))}) {
     formats->addItem(title, fromUtf8(framework::extensionOf(each)));
     if (each == format) formats->setCurrentIndex(formats->count() - 1);
   }
-  form->addRow(said("&Format:"), formats);
+  form->addRow(said("OutputMenu", "&Format:"), formats);
 
-  auto* foot = new QCheckBox(said("&Patient, standards and date under each page"));
+  auto* foot = new QCheckBox(said("OutputMenu", "&Patient, standards and date under each page"));
   foot->setObjectName(QStringLiteral("exportFoot"));
   foot->setChecked(!defaults.value(export_key::pageFoot) ||
                    foundation::boolForKey(defaults, export_key::pageFoot));

@@ -61,8 +61,6 @@ class ReadOnlyDefaults final : public foundation::UserDefaults {
   foundation::UserDefaults& defaults_;
 };
 
-QString said(const char* sentence) { return QCoreApplication::translate("PageFiles", sentence); }
-
 /// `sentence` about `file`, as the command line says it.
 QString about(const QString& file, const QString& sentence) {
   return fromUtf8(foundation::oneLine(toUtf8(file + QStringLiteral(": ") + sentence)));
@@ -79,7 +77,7 @@ std::optional<QString> loadDocument(app::NCDocument& document, const QString& pa
   } catch (const std::runtime_error& error) {
     return failure(error.what());
   }
-  if (!document.patientRecord()) return about(path, said("holds no patient"));
+  if (!document.patientRecord()) return about(path, said("PageFiles", "holds no patient"));
   return std::nullopt;
 }
 
@@ -101,7 +99,7 @@ class Export {
 
   WrittenPages run() {
     if (!QDir().mkpath(wanted_.folder)) {
-      result_.sentences << about(wanted_.folder, said("the folder could not be made"));
+      result_.sentences << about(wanted_.folder, said("PageFiles", "the folder could not be made"));
       return result_;
     }
     const int total = static_cast<int>(wanted_.files.size());
@@ -130,13 +128,14 @@ class Export {
     document.setOnPaper(true);
     const std::vector<Place> places = placesOf(document);
     if (places.empty()) {
-      result_.sentences << about(file, said("it has no such fetus or page"));
+      result_.sentences << about(file, said("PageFiles", "it has no such fetus or page"));
       return;
     }
     const std::int64_t fetuses = document.patientRecord()->numberOfFetuses();
     if (document.multiplePopUp().numberOfItems() == 0 && !wanted_.fetus) {
       result_.warnings << about(
-          file, said("it says %1 fetuses, which cannot be chosen from; the pages are those of the first")
+          file, said("PageFiles",
+                     "it says %1 fetuses, which cannot be chosen from; the pages are those of the first")
                     .arg(fetuses));
     }
     const QString stem = fileNameFrom(QFileInfo(file).completeBaseName());
@@ -267,7 +266,7 @@ QString fileNameFrom(const QString& stem) {
   }
   while (name.startsWith(u'.')) name.remove(0, 1);
   while (QFile::encodeName(name).size() > kLongestStem) name.chop(name.back().isLowSurrogate() ? 2 : 1);
-  return name.isEmpty() ? said("Untitled") : name;
+  return name.isEmpty() ? said("PageFiles", "Untitled") : name;
 }
 
 WrittenPages exportPages(const PageExport& wanted, const foundation::Services& services) {

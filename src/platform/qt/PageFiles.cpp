@@ -22,8 +22,6 @@ namespace {
 
 constexpr double kPointsPerInch = 72.0;
 
-QString said(const char* sentence) { return QCoreApplication::translate("PageFiles", sentence); }
-
 /// The foot in lines, measured as it is drawn.
 std::vector<std::string> linesOfFoot(const framework::PageFoot& foot, TextLayouts& texts) {
   if (foot.lines.empty()) return {};
@@ -143,7 +141,7 @@ std::optional<foundation::FileError> QtPageWriter::writePage(const framework::Sh
 
 std::optional<foundation::FileError> writeBytes(foundation::FileStore& files, const std::string& path,
                                                 const QByteArray& bytes) {
-  if (bytes.isEmpty()) return foundation::FileError{toUtf8(said("it could not be painted"))};
+  if (bytes.isEmpty()) return foundation::FileError{toUtf8(said("PageFiles", "it could not be painted"))};
   return files.replaceContents(
       path, std::as_bytes(std::span(bytes.constData(), static_cast<std::size_t>(bytes.size()))));
 }

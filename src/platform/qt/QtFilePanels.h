@@ -15,7 +15,7 @@ class QtFilePanels final : public framework::FilePanels {
   explicit QtFilePanels(const foundation::Services& services) : services_(services) {}
 
   std::vector<std::string> chooseFilesToOpen() override;
-  /// Under a name that is safe for a file, with the documents' extension unless the user types another.
+  /// Under a name that is safe for a file, with the documents' extension behind whatever the user types.
   std::optional<std::string> chooseFileToSave(const std::string& suggestedName) override;
 
   std::optional<std::string> chooseFolder() override;
@@ -27,6 +27,7 @@ class QtFilePanels final : public framework::FilePanels {
   QString extension() const;
   QString folder() const;
   QString filters() const;
+  bool userReplaces(const QString& path) const;
 
   foundation::Services services_;
   QString lastFolder_;

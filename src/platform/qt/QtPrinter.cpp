@@ -17,8 +17,6 @@ using framework::PrintOutcome;
 
 namespace {
 
-QString said(const char* sentence) { return QCoreApplication::translate("Printer", sentence); }
-
 /// The paper within its margins, in the printer's own units. Its origin is the corner within the margins.
 QRectF paintRectOf(const QPrinter& printer) {
   return {QPointF(), QSizeF(printer.pageLayout().paintRectPixels(printer.resolution()).size())};
@@ -42,7 +40,8 @@ class QtPrintJob final : public framework::PrintJob {
         file_ = printer_->outputFileName();
         if (file_.isEmpty()) {
           return FileError{
-              toUtf8(said("There is no printer. Please choose a file to print into in the print panel, or "
+              toUtf8(said("Printer",
+                          "There is no printer. Please choose a file to print into in the print panel, or "
                           "export the page."))};
         }
       }
@@ -55,7 +54,7 @@ class QtPrintJob final : public framework::PrintJob {
     if (file_.isEmpty()) return std::nullopt;
     if (const auto error = writeBytes(files_, QFile::encodeName(file_).toStdString(), pdf_.finish())) {
       return FileError{toUtf8(file_) + ": " + error->reason + "\n" +
-                       toUtf8(said("Please make room there or choose another file."))};
+                       toUtf8(said("Printer", "Please make room there or choose another file."))};
     }
     return std::nullopt;
   }
@@ -63,19 +62,20 @@ class QtPrintJob final : public framework::PrintJob {
  private:
   std::variant<PrintOutcome, FileError> addToFile(const LaidOutSheet& sheet) {
     if (pdf_.add(sheet, layout_)) return PrintOutcome::printed;
-    return FileError{toUtf8(said("The page could not be painted."))};
+    return FileError{toUtf8(said("Printer", "The page could not be painted."))};
   }
 
   std::variant<PrintOutcome, FileError> print(const LaidOutSheet& sheet) {
     QPainter painter;
     if (!painter.begin(printer_.get())) {
-      return FileError{toUtf8(said("The printer %1 does not answer. Please look after it or choose another.")
-                                  .arg(printer_->printerName()))};
+      return FileError{
+          toUtf8(said("Printer", "The printer %1 does not answer. Please look after it or choose another.")
+                     .arg(printer_->printerName()))};
     }
     sheet.paint(painter, paintRectOf(*printer_));
     painter.end();
     if (printer_->printerState() == QPrinter::Error)
-      return FileError{toUtf8(said("The printer refused the page."))};
+      return FileError{toUtf8(said("Printer", "The printer refused the page."))};
     return PrintOutcome::printed;
   }
 
@@ -94,7 +94,7 @@ class PreviewJob final : public framework::PrintJob {
 
   std::variant<PrintOutcome, FileError> addPage(const framework::Sheet& sheet, bool) override {
     const bool isReady = painter_.isActive() ? preview_.newPage() : painter_.begin(&preview_);
-    if (!isReady) return FileError{toUtf8(said("The page could not be painted."))};
+    if (!isReady) return FileError{toUtf8(said("Printer", "The page could not be painted."))};
     LaidOutSheet(sheet).paint(painter_, paintRectOf(preview_));
     return PrintOutcome::printed;
   }

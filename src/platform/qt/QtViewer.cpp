@@ -13,12 +13,12 @@ namespace nascor::qt {
 bool QtViewer::open(const std::string& url) {
   const QUrl target(fromUtf8(url), QUrl::StrictMode);
   const QString name = target.isLocalFile() ? target.toLocalFile() : target.toString();
-  const auto fail = [&](const char* sentence) {
-    if (tell) tell(QCoreApplication::translate("Viewer", sentence).arg(name));
+  const auto fail = [&](const QString& sentence) {
+    if (tell) tell(sentence.arg(name));
     return false;
   };
-  if (target.isLocalFile() && !QFile::exists(name)) return fail("%1 is not installed.");
-  return QDesktopServices::openUrl(target) || fail("There is no program that shows %1.");
+  if (target.isLocalFile() && !QFile::exists(name)) return fail(said("Viewer", "%1 is not installed."));
+  return QDesktopServices::openUrl(target) || fail(said("Viewer", "There is no program that shows %1."));
 }
 
 std::string resourceFolder() {

@@ -17,22 +17,20 @@ namespace nascor::qt {
 
 using calc::Confirmation;
 using calc::Publication;
-namespace string_table = foundation::string_table;
+using foundation::translatable;
 
 namespace {
-
-constexpr std::string_view kTable = "References";
-
-QString said(const char* sentence) { return QCoreApplication::translate("References", sentence); }
 
 QString paragraph(const Publication& publication, const foundation::Localizer& localizer) {
   QString text =
       QStringLiteral("<p><b>%1</b><br>%2.")
           .arg(fromUtf8(publication.label).toHtmlEscaped(), fromUtf8(publication.citation).toHtmlEscaped());
   QStringList remarks;
-  if (publication.confirmation == Confirmation::partlySeen) remarks << said("Citation partly confirmed.");
-  if (publication.confirmation == Confirmation::awaited) remarks << said("Citation to be confirmed.");
-  if (!publication.remark.empty()) remarks << fromUtf8(localizer.text(kTable, publication.remark));
+  if (publication.confirmation == Confirmation::partlySeen)
+    remarks << said("References", "Citation partly confirmed.");
+  if (publication.confirmation == Confirmation::awaited)
+    remarks << said("References", "Citation to be confirmed.");
+  if (!publication.remark.empty()) remarks << fromUtf8(localizer.text("References", publication.remark));
   if (!remarks.isEmpty()) {
     text += QStringLiteral("<br><i>");
     text += remarks.join(u' ').toHtmlEscaped();
@@ -45,20 +43,21 @@ QString paragraph(const Publication& publication, const foundation::Localizer& l
 
 QString referencesText(const foundation::Localizer& localizer) {
   struct Family {
-    const char* title;
+    std::string_view title;
     std::vector<Publication> publications;
     std::string_view remark;
   };
   QString text;
   for (const Family& family :
-       {Family{"Standards", calc::growthStandardPublications(), {}},
-        Family{"Estimated Fetal Weight", calc::weightFormulaPublications(), calc::weightBandRemark()},
-        Family{"Crown Rump Length", calc::crlFormulaPublications(), {}}}) {
+       {Family{translatable("NCAppController", "Standards"), calc::growthStandardPublications(), {}},
+        Family{translatable("NCAppController", "Estimated Fetal Weight"), calc::weightFormulaPublications(),
+               calc::weightBandRemark()},
+        Family{translatable("NCAppController", "Crown Rump Length"), calc::crlFormulaPublications(), {}}}) {
     text += QStringLiteral("<h2>%1</h2>")
-                .arg(fromUtf8(localizer.text(string_table::ncAppController, family.title)).toHtmlEscaped());
+                .arg(fromUtf8(localizer.text("NCAppController", family.title)).toHtmlEscaped());
     if (!family.remark.empty()) {
-      text +=
-          QStringLiteral("<p>%1</p>").arg(fromUtf8(localizer.text(kTable, family.remark)).toHtmlEscaped());
+      text += QStringLiteral("<p>%1</p>")
+                  .arg(fromUtf8(localizer.text("References", family.remark)).toHtmlEscaped());
     }
     for (const Publication& publication : family.publications) text += paragraph(publication, localizer);
   }
@@ -68,15 +67,15 @@ QString referencesText(const foundation::Localizer& localizer) {
 ReferencesDialog::ReferencesDialog(const foundation::Localizer& localizer, QWidget* parent)
     : QDialog(parent), text_(new QTextBrowser) {
   setObjectName(QStringLiteral("referencesDialog"));
-  setWindowTitle(said("References"));
+  setWindowTitle(said("References", "References"));
   text_->setObjectName(QStringLiteral("referencesText"));
-  text_->setAccessibleName(said("References"));
+  text_->setAccessibleName(said("References", "References"));
   text_->setHtml(referencesText(localizer));
   // By the keyboard too.
   text_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
 
   auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close);
-  QPushButton* copy = buttons->addButton(said("&Copy All"), QDialogButtonBox::ActionRole);
+  QPushButton* copy = buttons->addButton(said("References", "&Copy All"), QDialogButtonBox::ActionRole);
   copy->setObjectName(QStringLiteral("copyReferencesButton"));
   copy->setAutoDefault(false);
   buttons->button(QDialogButtonBox::Close)->setDefault(true);

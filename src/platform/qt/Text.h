@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QString>
 #include <string>
 #include <string_view>
@@ -13,5 +14,10 @@ inline QString fromUtf8(std::string_view text) {
 }
 inline std::string toUtf8(const QString& text) { return text.toStdString(); }
 /// @}
+
+/// `sentence` of that table in the user's language.
+inline QString said(const char* table, const char* sentence) {
+  return QCoreApplication::translate(table, sentence);
+}
 
 }  // namespace nascor::qt

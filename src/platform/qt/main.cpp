@@ -1,5 +1,6 @@
 #include <fontconfig/fontconfig.h>
 #include <QCommandLineParser>
+#include <QFile>
 #include <QLocale>
 #include <QSessionManager>
 #include <QTimer>
@@ -19,6 +20,7 @@
 #include "qt/DocumentApplication.h"
 #include "qt/PageOptions.h"
 #include "qt/Platform.h"
+#include "qt/QtViewer.h"
 
 using namespace nascor;
 using namespace nascor::qt;
@@ -219,6 +221,8 @@ int nascorMain(int argc, char** argv) {
   qInstallMessageHandler(toolkitsHandler);
   for (const QString& message : beginningMessages()) say(stderr, message);
 
+  installTranslation(QLocale::system().uiLanguages(),
+                     QFile::decodeName(resourceFolder().c_str()) + QStringLiteral("/texts"));
   CommandLine line;
   if (const auto status = answerAtOnce(line, QCoreApplication::arguments())) return *status;
   if (const QString sentence = missingFontSentence(); !sentence.isEmpty()) {

@@ -1,0 +1,1365 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" sourcelanguage="en">
+<context>
+    <name></name>
+    <message>
+        <source>Fetal Weight Formula: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Days to Go:	%ld</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nascor Standard: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Menstrual Age (Weeks)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Biparietal Diameter (mm)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>mm</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Head Circ (mm)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Abdo Circ (mm)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Femur Length (mm)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Estimated Fetal Weight (g)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>g</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Identifier:	</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gravida:	</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fetus:	</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Date:	</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>EDD:	</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Menstrual Age:	</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Exam Date</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Menstrual Age</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>BPD (mm)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>HC (mm)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>AC (mm)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>FL (mm)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>EFW (g)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Projected</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>z-score</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>AdjustDelivery</name>
+    <message>
+        <source>Adjust Delivery</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Estimated date of delivery</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>EDD</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Days from the EDD</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Delivery planned on</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The day on which delivery is planned</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Age at that date</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Menstrual age at the planned delivery, in weeks and days</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 to %2 days</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Days from the EDD to the planned delivery, %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Application</name>
+    <message>
+        <source>Not a medical device. Not validated for clinical use.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No font is installed, so no text could be shown. Please install one, such as DejaVu Sans.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>CorvelDocument</name>
+    <message>
+        <source>Modify</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A field holds a text that is not permitted.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%ld January %ld</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%ld February %ld</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%ld March %ld</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%ld April %ld</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%ld May %ld</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%ld June %ld</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%ld July %ld</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%ld August %ld</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%ld September %ld</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%ld October %ld</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%ld November %ld</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%ld December %ld</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%ld bytes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What was entered here besides reference ID and gravidity will be lost.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This patient has a document already.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The page was not exported.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Please make room in this folder, or choose another in Export Settings.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Untitled</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This program was built without painting.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The document was not printed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The document cannot be opened.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It is open in another window.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The document was saved, but its file cannot hold all of it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The document was not saved.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Another program has changed the file of this document. Do you want to replace what it holds now?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>To keep both, cancel and save this document under another name.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save Anyway</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Do you want to save the changes of this document?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>These documents cannot be opened.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A field holds a text that is not permitted. It will not be saved.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>DatingDialogs</name>
+    <message>
+        <source>%1, %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>such as %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>for example %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no date</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keeps the EDD from being set. %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Crown-rump length</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>mm</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>mm (%1–%2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 to %2 mm</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 mm</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>! beyond 2 SD</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>! not measured</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>More than 2 standard deviations from the mean at the average. %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not measured. %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, %2, %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>EDDFromCRL</name>
+    <message>
+        <source>EDD from CRL</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The day of the scan</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Scan date</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Crown-rump length</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Crown-&amp;rump length</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The formula in force, chosen in the menu</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Formula</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>EDDFromLMP</name>
+    <message>
+        <source>EDD from LMP</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>First day of the last menstrual period</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Last menstrual period</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Length of the cycle, in whole days</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>C&amp;ycle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>days</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Length of the luteal phase, in whole days</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Luteal &amp;phase</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>EDDFromMeasurements</name>
+    <message>
+        <source>EDD from Measurements</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The examination and the fetus on show</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Examination</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Biparietal diameter: counts in the average</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;BPD</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Biparietal diameter: menstrual age of which it is the mean</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Head circumference: counts in the average</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;HC</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Head circumference: menstrual age of which it is the mean</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Abdominal circumference: counts in the average</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;AC</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Abdominal circumference: menstrual age of which it is the mean</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Femur length: counts in the average</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;FL</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Femur length: menstrual age of which it is the mean</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Average of the ages that are checked</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Average</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Late in pregnancy, dating by size reads growth as age: a fetus that is small or large is taken for a younger or an older one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>FieldBinding</name>
+    <message>
+        <source>no record</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing can be entered here: the document holds no record for it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>FilePanels</name>
+    <message>
+        <source>%1: The file&apos;s name is not UTF-8. Please rename the file and open it again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nascor documents (*.%1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save As</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Folder for Exported Pages</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 already exists. Do you want to replace it?</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>MyDocument</name>
+    <message>
+        <source>&amp;Reference ID</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The patient&apos;s reference ID, any text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Number of pregnancies, this one included</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Gravidity</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Number of pregnancies, this one included: a whole number, 0 or more</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>0 or more</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Estimated date of delivery</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>E&amp;DD</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Examination</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Date of the examination</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Da&amp;te</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Menstrual age at the examination, in weeks and days</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Age</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fet&amp;us</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Biparietal diameter</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;BPD</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>mm</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Head circumference</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>H&amp;C</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Abdominal circumference</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;AC</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Femur length</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>F&amp;L</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Note on this examination</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Note</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open &amp;Recent</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Patient</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;New</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Open...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save &amp;As...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Re&amp;vert to Saved</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy Rep&amp;ort as Table</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copies the report of the fetus on show, all examinations, for a spreadsheet or a letter.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Previous Examination</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Next Examination</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add &amp;Examination</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Delete Examination</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add &amp;Fetus</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Remove Fetus</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>EDD from &amp;LMP...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>EDD from &amp;CRL...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>EDD from &amp;Measurements...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Adjust Delivery...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show &amp;All</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;References</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;User Guide</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;About Nascor</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Trends</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>BPD</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>HC</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>AC</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>FL</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Weight</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Report</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%ld of %ld</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no examination to note this at.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Clear</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Remember Recent Documents</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>mm (%1–%2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, %2 to %3 mm</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, for example %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The fetus on show</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not permitted. %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Permitted: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>such as %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no date</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Growth chart of %1. Examination %2, %3.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Do you want to go back to the document as it was last saved?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All changes since then will be lost.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Revert</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The document cannot be read.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>About Nascor</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nascor %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copyright (c) 2026 The Nascor developers. MIT License.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Linked with Qt %1 (GNU LGPL 3), the D-Bus library (AFL 2.1 or GNU GPL 2) and the GNU C++ library (GNU GPL 3 with the GCC Runtime Library Exception).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>d MMMM yyyy</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>NCAppController</name>
+    <message>
+        <source>Standards</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Estimated Fetal Weight</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Crown Rump Length</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show All</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>NCDocument</name>
+    <message>
+        <source>The gravidity %ld will be read as %ld. A file holds gravidities up to %ld.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>EDD is already specified</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Are you sure you want to modify the established EDD?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Are you sure you want to remove this fetus?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%ld of %ld examinations shown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>, page %ld of %ld</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reference ID:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gravidity:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fetus:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>EDD:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Examination:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Examinations:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not a medical device. Not validated for clinical use.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Printed:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gravidity is already specified</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Are you sure you want to modify it?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> %ld of %ld</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%ldw %ldd</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>CRL Standard: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Are you sure you want to remove this examination?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Singleton</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Twin 1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Twin 2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Triplet 1 of 3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Triplet 2 of 3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Triplet 3 of 3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Quad 1 of 4</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Quad 2 of 4</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Quad 3 of 4</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Quad 4 of 4</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Quin 1 of 5</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Quin 2 of 5</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Quin 3 of 5</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Quin 4 of 5</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Quin 5 of 5</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>OutputMenu</name>
+    <message>
+        <source>Export Page</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Export All Fetuses</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Export Settings...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Page Setup...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Print Preview...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Print...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Exported to %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Exporting pages...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 pages were exported to %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 pages were not exported.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Please make room in this folder, or choose another in Export Settings.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Export Settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Asked for at the first export</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Choose...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Folder:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>PDF, for print and archive</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>PNG, a picture</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>SVG, a drawing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Format:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Patient, standards and date under each page</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>PageFiles</name>
+    <message>
+        <source>holds no patient</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the folder could not be made</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it has no such fetus or page</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it says %1 fetuses, which cannot be chosen from; the pages are those of the first</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Untitled</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it could not be painted</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Printer</name>
+    <message>
+        <source>There is no printer. Please choose a file to print into in the print panel, or export the page.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Please make room there or choose another file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The page could not be painted.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The printer %1 does not answer. Please look after it or choose another.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The printer refused the page.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>References</name>
+    <message>
+        <source>The number is a name of this program; the lengths in parentheses tell the formula.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Weeks 12 and 13 lie outside the published sample, which has 14 to 42 weeks.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Weeks 11 to 14 lie outside the published sample, which has 15 to 41 weeks.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The numbers are those of the published tables.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Journal and pages are given differently elsewhere.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The constant is 23.72 here; publications have 23.73.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The band of the weight chart is the random error of the formula. It shows no centiles of a population.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Citation partly confirmed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Citation to be confirmed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>References</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Copy All</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Viewer</name>
+    <message>
+        <source>The user guide cannot be shown.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is not installed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no program that shows %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ZuVersion</name>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>main</name>
+    <message>
+        <source>Obstetric ultrasound biometry.
+%1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Documents to open.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows this help.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows the version.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows no window until the session bus asks for one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>nascor: no window can be shown: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--%1 knows no &quot;%2&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Which documents? --write-pages FOLDER FILE...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Writes the pages of the documents into FOLDER, and shows no window. Files of the same names are replaced.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>With --write-pages: pdf, png or svg; else PNG and PDF.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>With --write-pages: all, or first, last, numbers from 0 and names, with commas between.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>With --write-pages: all, or the number of one fetus.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>With --write-pages: nothing stands under the pages.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>With --write-pages: the files are not listed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+</TS>
