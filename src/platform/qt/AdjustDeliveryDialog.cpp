@@ -13,7 +13,6 @@
 #include "ui_AdjustDelivery.h"
 
 namespace nascor::qt {
-namespace {}  // namespace
 
 AdjustDeliveryDialog::AdjustDeliveryDialog(app::NCDocument& document, const foundation::Services& services,
                                            Perform perform, QWidget* parent)
