@@ -1,5 +1,6 @@
 #include "calc/Projection.h"
 
+#include "calc/Centile.h"
 #include "calc/LookUp.h"
 
 namespace nascor::calc {
@@ -7,10 +8,6 @@ namespace nascor::calc {
 bool projectionIsShown(double ageAtLastExam, double plannedGestation) {
   const bool hidden = (ageAtLastExam >= plannedGestation) || (ageAtLastExam < 30.0);
   return !hidden;
-}
-
-double zScore(const ReferenceTable& table, double value, double age) {
-  return (value - meanForGestation(table, age)) / sdForGestation(table, age);
 }
 
 double projectedValue(const ReferenceTable& table, double value, double age, double plannedGestation) {

@@ -12,7 +12,4 @@ bool projectionIsShown(double ageAtLastExam, double plannedGestation);
 /// gives the mean at `plannedGestation`. An age of 0.0, unknown, gives a result that is not finite.
 double projectedValue(const ReferenceTable& table, double value, double age, double plannedGestation);
 
-/// Standard deviations by which `value` lies above the mean at `age` weeks; not finite where the table gives none.
-double zScore(const ReferenceTable& table, double value, double age);
-
 }  // namespace nascor::calc

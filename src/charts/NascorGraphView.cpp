@@ -5,8 +5,8 @@
 #include <optional>
 #include <utility>
 
+#include "calc/Centile.h"
 #include "calc/LookUp.h"
-#include "calc/Projection.h"
 #include "foundation/DateText.h"
 #include "foundation/Localizer.h"
 #include "foundation/NumberText.h"

@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <vector>
 
+#include "calc/Centile.h"
 #include "calc/LookUp.h"
 #include "calc/Projection.h"
 

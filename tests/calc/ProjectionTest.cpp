@@ -93,8 +93,6 @@ TEST(ProjectedValue, ofNothingMeasuredIsTheMean) {
 }
 
 TEST(ProjectedValue, withoutAnAgeIsInfiniteWithTheSignOfTheMeasurement) {
-  EXPECT_TRUE(isExactly(zScore(kTable, 80.0, 0.0), kInfinity));
-  EXPECT_TRUE(isExactly(zScore(kTable, -80.0, 0.0), -kInfinity));
   EXPECT_TRUE(isExactly(projectedValue(kTable, 80.0, 0.0, 40.0), kInfinity));
   EXPECT_TRUE(isExactly(projectedValue(kTable, -80.0, 0.0, 40.0), -kInfinity));
   EXPECT_TRUE(isExactly(projectedValue(kTable, 80.0, 0.0, 0.0), kNaN)) << "infinity times nothing";
@@ -103,15 +101,6 @@ TEST(ProjectedValue, withoutAnAgeIsInfiniteWithTheSignOfTheMeasurement) {
 TEST(ProjectedValue, onAnEmptyTableIsNoNumberUnlessNothingIsMeasured) {
   EXPECT_TRUE(isExactly(projectedValue({}, 80.0, 35.0, 40.0), kNaN));
   EXPECT_TRUE(isExactly(projectedValue({}, 0.0, 35.0, 40.0), 0.0));
-}
-
-TEST(ZScore, countsStandardDeviationsAboveTheMean) {
-  EXPECT_EQ(zScore(kTable, 88.0, 35.0), 2.0);
-  EXPECT_EQ(zScore(kTable, 58.0, 30.0), -1.0);
-  EXPECT_EQ(zScore(kTable, 70.0, 32.5), 0.0);
-  // The program asks for it only where something is measured; the number itself knows nothing of that.
-  EXPECT_EQ(zScore(kTable, 0.0, 30.0), -30.0);
-  EXPECT_TRUE(isExactly(zScore(kTable, 80.0, kNaN), -1.25)) << "as at the last week";
 }
 
 }  // namespace
