@@ -114,10 +114,11 @@ TEST(TheUserGuide, hasEachChapterAsABookmarkOfThePageOnWhichItBegins) {
                 HasSubstr(bookmark.title.toStdString()));
   }
   EXPECT_EQ(chapters.join(u'\n').toStdString(),
-            "1 What Nascor is, and what it is not\n2 A first patient in ten minutes\n3 The window\n"
-            "4 The menus\n5 Dating the pregnancy\n6 The charts\n7 The report\n8 Printing and exporting\n"
-            "9 When something goes wrong\n10 Scripting\n11 The command line\n12 The document file\n"
-            "13 Oddities kept on purpose\n14 Formulas and their sources");
+            "1 What Nascor is, and what it is not\n2 A first patient in ten minutes\n3 Twins, step by step\n"
+            "4 The window\n5 Dating the pregnancy\n6 The charts\n7 The report\n8 Printing and exporting\n"
+            "9 What the numbers mean, and what they do not\n10 When something goes wrong\n"
+            "11 Menus and keys\n12 Glossary\n13 Scripting\n14 The command line\n15 The document file\n"
+            "16 Oddities kept on purpose\n17 Formulas and their sources");
   EXPECT_GT(bookmarks.size(), 30U);
 }
 
