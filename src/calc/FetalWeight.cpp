@@ -75,14 +75,14 @@ double estimatedFetalWeightShepard(const Biometry& measured) {
 
 std::span<const WeightFormula, 8> weightFormulas() {
   static constexpr std::array<WeightFormula, 8> kFormulas{{
-      {"Hadlock 1 (HC/AC/FL)", "Hadlock 1", 0.074, estimatedFetalWeightHadlock1},
-      {"Hadlock 2 (AC/FL)", "Hadlock 2", 0.077, estimatedFetalWeightHadlock2},
-      {"Hadlock 3 (BPD/AC/FL)", "Hadlock 3", 0.073, estimatedFetalWeightHadlock3},
-      {"Hadlock 4 (BPD/HC/AC/FL)", "Hadlock 4", 0.073, estimatedFetalWeightHadlock4},
-      {"Campbell (AC)", "Campbell", 0.0, estimatedFetalWeightCampbell},
-      {"Combs (HC/AC/FL)", "Combs", 0.0, estimatedFetalWeightCombs},
-      {"Ott (HC/AC/FL)", "Ott", 0.0, estimatedFetalWeightOtt},
-      {"Shepard (BPD/AC)", "Shepard", 0.106, estimatedFetalWeightShepard},
+      {"Hadlock 1 (HC/AC/FL)", "Hadlock 1", "hadlock1", 0.074, estimatedFetalWeightHadlock1},
+      {"Hadlock 2 (AC/FL)", "Hadlock 2", "hadlock2", 0.077, estimatedFetalWeightHadlock2},
+      {"Hadlock 3 (BPD/AC/FL)", "Hadlock 3", "hadlock3", 0.073, estimatedFetalWeightHadlock3},
+      {"Hadlock 4 (BPD/HC/AC/FL)", "Hadlock 4", "hadlock4", 0.073, estimatedFetalWeightHadlock4},
+      {"Campbell (AC)", "Campbell", "campbell", 0.0, estimatedFetalWeightCampbell},
+      {"Combs (HC/AC/FL)", "Combs", "combs", 0.0, estimatedFetalWeightCombs},
+      {"Ott (HC/AC/FL)", "Ott", "ott", 0.0, estimatedFetalWeightOtt},
+      {"Shepard (BPD/AC)", "Shepard", "shepard", 0.106, estimatedFetalWeightShepard},
   }};
   return kFormulas;
 }

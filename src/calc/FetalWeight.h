@@ -29,6 +29,7 @@ double estimatedFetalWeightShepard(const Biometry& measured);   ///< needs BPD, 
 struct WeightFormula {
   std::string_view longLabel;   ///< with the lengths that it uses; for the report and the menus
   std::string_view shortLabel;  ///< for the title of the weight chart
+  std::string_view name;        ///< on the command line: small letters without blanks
   /// One standard deviation of the formula's error as a fraction of the weight; 0.0 where none is published,
   /// which makes a band without width. It is not the spread of a population.
   double sdFactor;

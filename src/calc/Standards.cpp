@@ -109,10 +109,10 @@ DatabaseRecord cfefRow(Measurement measurement, int week) {
 
 std::span<const GrowthStandard, 4> growthStandards() {
   static constexpr std::array<GrowthStandard, 4> kStandards{{
-      {"Westerway (ASUM 2001)", 11, 41, westerwayRow},
-      {"Hadlock (1984)", 12, 40, hadlockRow},
-      {"Schluter (2004)", 11, 41, schluterRow},
-      {"CFEF (Biométrie 2000)", kFirstCFEFWeek, 40, cfefRow},
+      {"Westerway (ASUM 2001)", "westerway", 11, 41, westerwayRow},
+      {"Hadlock (1984)", "hadlock", 12, 40, hadlockRow},
+      {"Schluter (2004)", "schluter", 11, 41, schluterRow},
+      {"CFEF (Biométrie 2000)", "cfef", kFirstCFEFWeek, 40, cfefRow},
   }};
   return kStandards;
 }

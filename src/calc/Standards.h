@@ -51,6 +51,7 @@ using ReferenceTable = std::vector<DatabaseRecord>;
 /// The citations are in docs/sources.md, under the label of each standard.
 struct GrowthStandard {
   std::string_view label;  ///< UTF-8
+  std::string_view name;   ///< on the command line and in names of columns: small letters without blanks
   int firstWeek;
   int lastWeek;
   /// The row of a week from `firstWeek` to `lastWeek`.

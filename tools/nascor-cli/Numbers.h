@@ -1,6 +1,6 @@
 #pragma once
 
-#include <cstdint>
+#include <charconv>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -9,14 +9,24 @@
 
 namespace nascor::cli {
 
+/// All of `text` as a number of that type, which may have a plus sign; nothing when it is none.
+template <class Number>
+std::optional<Number> wholeTextAs(std::string_view text) {
+  if (text.starts_with('+') && !text.starts_with("+-")) text.remove_prefix(1);
+  Number value{};
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
+  if (error != std::errc() || end != text.data() + text.size()) return std::nullopt;
+  return value;
+}
+
+/// Throws the UsageError "WHAT: expected EXPECTED, but "TEXT" was given".
+[[noreturn]] void refuseValue(std::string_view what, const std::string& expected, const std::string& text);
+
 /// A decimal number, all of `text`: digits, a point, an exponent, a sign. Nothing for hexadecimals, decimal commas,
 /// blanks, words, and numbers beyond the range of a double.
 std::optional<double> numberFromText(std::string_view text);
 
 /// The number in `text`, or a UsageError that names `what`.
 double requiredNumber(std::string_view what, const std::string& text);
-
-/// The whole number in `text`, which must lie from 0 to `count - 1`, or a UsageError that names `what`.
-std::int64_t requiredIdentifier(std::string_view what, const std::string& text, std::size_t count);
 
 }  // namespace nascor::cli

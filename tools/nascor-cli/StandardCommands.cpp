@@ -6,6 +6,7 @@
 #include "calc/Standards.h"
 #include "cli_commands/Command.h"
 #include "cli_commands/Input.h"
+#include "cli_commands/Names.h"
 #include "cli_commands/Numbers.h"
 #include "cli_commands/Table.h"
 #include "foundation/JsonText.h"
@@ -17,8 +18,6 @@ namespace {
 
 using foundation::JsonText;
 using foundation::shortestText;
-
-constexpr std::string_view kWeight = "efw";
 
 /// A column of a standard: one of the lengths, or the weight.
 struct Quantity {
@@ -35,7 +34,7 @@ calc::ReferenceTable tableOf(std::int64_t standard, calc::Measurement measuremen
 
 Quantity weightOf(std::int64_t standard, std::int64_t formula) {
   using calc::Measurement;
-  return {.name = std::string(kWeight),
+  return {.name = std::string(kWeightName),
           .title = "EFW (g)",
           .table = calc::fetalWeightTable(
               tableOf(standard, Measurement::bpd), tableOf(standard, Measurement::hc),
@@ -49,24 +48,15 @@ Quantity lengthOf(std::int64_t standard, calc::Measurement measurement) {
           .table = tableOf(standard, measurement)};
 }
 
-std::int64_t standardIn(const std::string& text) {
-  return requiredIdentifier("N", text, calc::growthStandards().size());
-}
-
 std::optional<std::int64_t> formulaIn(const Arguments& arguments) {
   const auto text = arguments.option("formula");
   if (!text) return std::nullopt;
-  return requiredIdentifier("--formula", *text, calc::weightFormulas().size());
+  return requiredFormula("--formula", *text);
 }
 
 Quantity quantityOf(std::int64_t standard, const std::string& name, std::optional<std::int64_t> formula) {
-  for (const calc::Measurement measurement : calc::kMeasurements) {
-    if (name == calc::nameOf(measurement)) return lengthOf(standard, measurement);
-  }
-  if (name != kWeight) {
-    throw UsageError("expected bpd, hc, ac, fl or efw as the measurement, but \"" + oneLine(name) +
-                     "\" was given");
-  }
+  const Measure measure = requiredMeasure(name);
+  if (measure.length) return lengthOf(standard, *measure.length);
   if (!formula) throw UsageError("efw needs --formula");
   return weightOf(standard, *formula);
 }
@@ -80,7 +70,7 @@ void writeRows(JsonText& json, const calc::ReferenceTable& table) {
 }
 
 void runStandard(const Arguments& arguments, Console& console) {
-  const std::int64_t standard = standardIn(arguments.operands[0]);
+  const std::int64_t standard = requiredStandard("N", arguments.operands[0]);
   const auto formula = formulaIn(arguments);
   const auto measurement = arguments.option("measurement");
 
@@ -109,7 +99,7 @@ void runStandard(const Arguments& arguments, Console& console) {
   }
 
   console.out() += calc::growthStandards()[static_cast<std::size_t>(standard)].label;
-  if (formula && quantities.back().name == kWeight) {
+  if (formula && quantities.back().name == kWeightName) {
     console.out() += ", " + std::string(calc::weightFormulas()[static_cast<std::size_t>(*formula)].longLabel);
   }
   console.lineDone();
@@ -140,7 +130,7 @@ constexpr std::array<Question, 3> kQuestions{{{"mean", calc::meanForGestation},
                                               {"gestation", calc::gestationForMeasurement}}};
 
 void runLookup(const Arguments& arguments, Console& console) {
-  const std::int64_t standard = standardIn(arguments.operands[0]);
+  const std::int64_t standard = requiredStandard("N", arguments.operands[0]);
   const Quantity quantity = quantityOf(standard, arguments.operands[1], formulaIn(arguments));
   const Question* asked = nullptr;
   for (const Question& question : kQuestions) {
@@ -169,19 +159,24 @@ void runLookup(const Arguments& arguments, Console& console) {
   }
 }
 
+/// One line a fact: its number, its name, its label.
 template <class Facts>
 std::string numbered(std::string_view title, Facts facts,
                      std::string_view std::remove_cvref_t<decltype(facts[0])>::*label) {
   std::string text = std::string(title) + "\n";
   std::size_t identifier = 0;
-  for (const auto& fact : facts)
-    text += "  " + std::to_string(identifier++) + "  " + std::string(fact.*label) + "\n";
+  for (const auto& fact : facts) {
+    std::string name(fact.name);
+    name.resize(9, ' ');
+    text += "  " + std::to_string(identifier++) + "  " + name + "  " + std::string(fact.*label) + "\n";
+  }
   return text;
 }
 
 std::string identifiers() {
   return numbered("Growth standards (N):", calc::growthStandards(), &calc::GrowthStandard::label) + "\n" +
-         numbered("Weight formulas (K):", calc::weightFormulas(), &calc::WeightFormula::longLabel);
+         numbered("Weight formulas (K):", calc::weightFormulas(), &calc::WeightFormula::longLabel) +
+         "\nThe number or the name, in letters of any size.\n";
 }
 
 }  // namespace
