@@ -1095,6 +1095,14 @@
         <source>Quin 5 of 5</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>The EDD is empty now. This is no date: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The examination has no date now. This is no date: </source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>OutputMenu</name>

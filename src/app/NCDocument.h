@@ -275,6 +275,8 @@ class NCDocument final : public framework::CorvelDocument,
   /// `date` as what is entered; nothing, because of `obstacles`, when it has no text that reads back to the same day.
   ProposedEDD proposed(const std::optional<foundation::Date>& date,
                        std::vector<const framework::TextField*> obstacles) const;
+  /// Whether the user has typed something into a date field of the window that is no date, and so erases it.
+  bool erasesDate(const framework::TextField& field) const;
   void enterEDD(const ProposedEDD& proposal, framework::Panel& window);
   /// The dialog of the measurements shows what the window shows, as long as it is open.
   void refreshEDDfromMeasurements();

@@ -24,6 +24,7 @@ void NCDocument::windowControllerDidLoadNib() {
     setLookUpRequired(true);
   }
   examDateWasTyped_ = false;
+  statusLine().clear();
   showAllSubscription_ =
       services().notifications.subscribe(foundation::NotificationName::updateShowAll,
                                          [this](const foundation::Notification&) { updateShowAll(); });
@@ -160,7 +161,20 @@ void NCDocument::controlTextDidEndEditing(TextField& field) {
     lookUp(name, true);
     return;
   }
+  const std::string typed = erasesDate(field) ? field.text() : "";
   updateArrayOrder();
+  if (typed.empty()) return;
+  const foundation::Localizer& localizer = services().localizer;
+  const std::string what =
+      &field == &birthDateField()
+          ? localizer.text("NCDocument", "The EDD is empty now. This is no date: ")
+          : localizer.text("NCDocument", "The examination has no date now. This is no date: ");
+  statusLine().say(what + typed, &field);
+}
+
+bool NCDocument::erasesDate(const TextField& field) const {
+  if (&field != &birthDateField() && &field != &examDateField()) return false;
+  return field.text().find_first_not_of(" \t") != std::string::npos && !dateFromText(field);
 }
 
 std::string NCDocument::preferredFileName(bool withFetus) const {

@@ -15,6 +15,7 @@
 #include "framework/PageWriter.h"
 #include "framework/Printer.h"
 #include "framework/Sheet.h"
+#include "framework/StatusLine.h"
 #include "framework/TextField.h"
 #include "framework/ZuDocument.h"
 
@@ -54,6 +55,7 @@ class CorvelDocument : public ZuDocument, public virtual GraphDocument, protecte
   TabView& tabView() { return tabView_; }
   const TabView& tabView() const { return tabView_; }
   FieldEditor& fieldEditor() { return fieldEditor_; }
+  StatusLine& statusLine() { return statusLine_; }
 
   bool commitEditing() override;
 
@@ -143,6 +145,7 @@ class CorvelDocument : public ZuDocument, public virtual GraphDocument, protecte
   bool controlTextShouldBeginEditing(TextField& field) override;
   void controlTextDidBeginEditing(TextField& field) override;
   void controlTextDidDropEditing(TextField& field) override;
+  void changeWasDone() override { statusLine_.clear(); }
   void changesWereCleared() override { isMarkedByEdit_ = false; }
 
   /// Whether the current examination holds anything that its removal would lose.
@@ -181,6 +184,7 @@ class CorvelDocument : public ZuDocument, public virtual GraphDocument, protecte
   TextView notesField_;
   TabView tabView_;
   FieldEditor fieldEditor_;
+  StatusLine statusLine_;
   std::int64_t currentExam_ = 0;
   bool lookUpRequired_ = false;
   bool isOnPaper_ = false;

@@ -68,7 +68,10 @@ std::optional<FileError> ZuDocument::revertToSaved() {
 
 void ZuDocument::updateChangeCount(ChangeType change) {
   switch (change) {
-    case ChangeType::changeDone: ++changeCount_; break;
+    case ChangeType::changeDone:
+      ++changeCount_;
+      changeWasDone();
+      break;
     case ChangeType::changeUndone: --changeCount_; break;
     case ChangeType::changeCleared:
       changeCount_ = 0;

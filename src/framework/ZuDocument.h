@@ -89,6 +89,8 @@ class ZuDocument {
 
  protected:
   const foundation::Services& services() const { return services_; }
+  /// There is one change more.
+  virtual void changeWasDone() {}
   /// There are no changes any more: the document was saved, or read again.
   virtual void changesWereCleared() {}
 

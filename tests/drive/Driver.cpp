@@ -364,7 +364,7 @@ Json Driver::perform(const std::string& key, const Json& argument) {
       {"advance", &Driver::advance},   {"zone", &Driver::zone},
       {"locale", &Driver::locale},     {"paper", &Driver::paper},
       {"marks", &Driver::marks},       {"outside", &Driver::outside},
-      {"told", &Driver::told},
+      {"told", &Driver::told},         {"status", &Driver::status},
   };
   if (key == "new" || key == "state") {
     if (argument != Json(true)) refuse("expected true");
@@ -604,6 +604,11 @@ Json Driver::paper(const Json& word) {
 Json Driver::told(const Json& word) {
   if (word != Json(true)) refuse("expected true");
   return {{"told", std::exchange(alerts_.told, {})}};
+}
+
+Json Driver::status(const Json& word) {
+  if (word != Json(true)) refuse("expected true");
+  return {{"status", document().statusLine().message()}};
 }
 
 Json Driver::outside(const Json& call) {

@@ -64,6 +64,8 @@ class Driver {
   Json paper(const Json& word);
   /// What the user was told since this was last asked: each message with its information.
   Json told(const Json& word);
+  /// What the status line of the current document tells.
+  Json status(const Json& word);
   /// What another program does to the files.
   Json outside(const Json& call);
   Json advance(const Json& seconds);

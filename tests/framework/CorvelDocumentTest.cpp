@@ -106,6 +106,21 @@ TEST_F(APatientsDocument, isEditedFromTheFirstChangeOfAField) {
   EXPECT_TRUE(document.isDocumentEdited());
 }
 
+TEST_F(APatientsDocument, saysWhatItTellsUntilTheNextChange) {
+  document.statusLine().say("told", &document.examDateField());
+  document.fieldEditor().revert();
+  EXPECT_EQ(document.statusLine().message(), "told");
+  EXPECT_EQ(document.statusLine().field(), &document.examDateField());
+
+  document.fieldEditor().begin(document.referenceIDField());
+  EXPECT_EQ(document.statusLine().message(), "");
+  EXPECT_EQ(document.statusLine().field(), nullptr);
+
+  document.statusLine().say("told");
+  document.notesField().takeEditedText("n");
+  EXPECT_EQ(document.statusLine().message(), "");
+}
+
 TEST_F(APatientsDocument, isNotEditedByTypingThatWasTakenBack) {
   FieldEditor& editor = document.fieldEditor();
   editor.begin(document.referenceIDField());

@@ -143,13 +143,13 @@ TEST_F(Editing, keepsTheFocusInAFieldThatRefusesAndSaysWhatIsPermitted) {
   EXPECT_EQ(focus(), "bpdField");
   EXPECT_EQ(field("bpdField"), "200.1");
   EXPECT_TRUE(isOutlined("bpdField"));
-  EXPECT_EQ(label("refusalLabel"), "Permitted: Biparietal diameter, 0 to 200 mm");
+  EXPECT_EQ(label("statusLabel"), "Permitted: Biparietal diameter, 0 to 200 mm");
   EXPECT_THAT(widget<QWidget>("bpdField").accessibleDescription().toStdString(), HasSubstr("Not permitted"));
   EXPECT_EQ(bpd(), 82.0);
   EXPECT_TRUE(asked.empty());
   QTest::keyClick(&widget<QWidget>("bpdField"), Qt::Key_Backspace);  // "200."
   EXPECT_FALSE(isOutlined("bpdField"));
-  EXPECT_EQ(label("refusalLabel"), "");
+  EXPECT_EQ(label("statusLabel"), "");
   press(Qt::Key_Tab);
   EXPECT_EQ(bpd(), 200.0);
   EXPECT_EQ(focus(), "hcField");
@@ -305,6 +305,27 @@ TEST_F(Editing, saysHowADateIsRead) {
   EXPECT_EQ(label("examDateLongForm"), "such as 3/24/27");
 }
 
+TEST_F(Editing, saysWhatWasNoDateUntilTheNextEdit) {
+  open(singleton());
+  enter("examDateField", "soon");
+  EXPECT_EQ(field("examDateField"), "");
+  EXPECT_EQ(label("examDateLongForm"), "no date");
+  EXPECT_EQ(label("statusLabel"), "The examination has no date now. This is no date: soon");
+  EXPECT_THAT(widget<QWidget>("examDateField").accessibleDescription().toStdString(),
+              HasSubstr("This is no date: soon"));
+  type("bpdField", "5");
+  EXPECT_EQ(label("statusLabel"), "");
+  EXPECT_EQ(label("examDateLongForm"), "such as 3/24/27");
+}
+
+TEST_F(Editing, doesNotGrowTheWindowForALongMessage) {
+  qt::DocumentWindow& window = open(singleton());
+  const int least = window.minimumSizeHint().width();
+  document().statusLine().say(std::string(1000, 'x'));
+  EXPECT_EQ(label("statusLabel").size(), 1000u);
+  EXPECT_EQ(window.minimumSizeHint().width(), least);
+}
+
 TEST_F(Editing, writesTheReferenceIDOfANewPatientInCapitals) {
   openBlank();
   enter("referenceIDField", "ab-7");
@@ -351,7 +372,7 @@ TEST_F(Editing, refusesANegativeGravidity) {
   openBlank();
   enter("gravidaField", "-1");
   EXPECT_EQ(focus(), "gravidaField");
-  EXPECT_THAT(label("refusalLabel"), HasSubstr("a whole number, 0 or more"));
+  EXPECT_THAT(label("statusLabel"), HasSubstr("a whole number, 0 or more"));
 }
 
 TEST_F(Editing, takesNoTypingWhereThereIsNothingToHoldIt) {

@@ -1,7 +1,7 @@
 A date that is no date is no date
 
-Deliberately without a fallback: a date that cannot be read, or is emptied, is not known. No message is shown; the document is
-marked as edited, and nothing is lost while it is not saved.
+Deliberately without a fallback: a date that cannot be read, or is emptied, is not known. No question is asked. The status line
+says what was no date until the next change; the document is marked as edited, and nothing is lost while it is not saved.
 
 {"new":true}
 {"edit":["referenceIDField","A"]}
@@ -12,6 +12,15 @@ marked as edited, and nothing is lost while it is not saved.
 => {"began":true,"ended":true}
 {"state":true}
 =~ {"edited":true,"alerts":[],"fields":{"examDateField":"","ageField":"-"},"document":{"examinations":[{"examDate":null,"examDateISO":null}]}}
+{"status":true}
+=> {"status":"The examination has no date now. This is no date: yesterday"}
+{"visit":"bpdField"}
+{"tab":1}
+{"status":true}
+=> {"status":"The examination has no date now. This is no date: yesterday"}
+{"edit":["bpdField","50"]}
+{"status":true}
+=> {"status":""}
 {"edit":["examDateField","2/30/27"]}
 => {"began":true,"ended":true}
 {"state":true}
@@ -19,6 +28,8 @@ marked as edited, and nothing is lost while it is not saved.
 {"answer":["Modify"]}
 {"edit":["birthDateField",""]}
 => {"began":true,"ended":true}
+{"status":true}
+=> {"status":""}
 {"state":true}
 =~ {"edited":true,"fields":{"birthDateField":""},"document":{"edd":null,"eddISO":null}}
 
@@ -29,6 +40,11 @@ An EDD that is gone is asked about no more.
 => {"began":true,"ended":true}
 {"state":true}
 =~ {"alerts":[],"fields":{"birthDateField":""},"document":{"edd":null}}
+{"status":true}
+=> {"status":"The EDD is empty now. This is no date: in spring"}
+{"edit":["birthDateField","  "]}
+{"status":true}
+=> {"status":""}
 
 The file still has both dates.
 

@@ -77,12 +77,14 @@ DocumentWindow::DocumentWindow(NCDocument& document, WindowEnvironment environme
     : environment_(std::move(environment)),
       document_(&document),
       ui_(std::make_unique<Ui::MyDocument>()),
-      refusalLabel_(new QLabel),
+      statusLabel_(new QLabel),
       growthLabel_(new QLabel),
       weightLabel_(new QLabel) {
   ui_->setupUi(this);
-  refusalLabel_->setObjectName(QStringLiteral("refusalLabel"));
-  ui_->statusBar->addWidget(refusalLabel_, 1);
+  statusLabel_->setObjectName(QStringLiteral("statusLabel"));
+  // A long message is cut off: the window does not grow for it.
+  statusLabel_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+  ui_->statusBar->addWidget(statusLabel_, 1);
   growthLabel_->setObjectName(QStringLiteral("growthStandardLabel"));
   growthLabel_->setContentsMargins(12, 0, 12, 0);
   ui_->statusBar->addPermanentWidget(growthLabel_);
@@ -106,6 +108,7 @@ DocumentWindow::DocumentWindow(NCDocument& document, WindowEnvironment environme
   document.onDisplayChanged = [this] { showExaminations(); };
   document.onStateChanged = [this] { showState(); };
   document.fieldEditor().onChange = [this] { showEditing(); };
+  document.statusLine().onChange = [this] { showEditing(); };
 
   // The panel scrolls up and down where the screen is low, never sideways.
   ui_->patientPanel->ensurePolished();
@@ -150,6 +153,7 @@ void DocumentWindow::release() {
   document_->tabView().onSelect = nullptr;
   document_->tabView().onNeedsDisplay = nullptr;
   document_->fieldEditor().onChange = nullptr;
+  document_->statusLine().onChange = nullptr;
   document_->onDisplayChanged = nullptr;
   document_->onStateChanged = nullptr;
   document_ = nullptr;
@@ -515,17 +519,21 @@ void DocumentWindow::describeFields() {
 }
 
 void DocumentWindow::showEditing() {
+  const QString message =
+      document_ ? fromUtf8(foundation::oneLine(document_->statusLine().message())) : QString();
   QString permitted;
   for (FieldBinding* binding : bindings_) {
     binding->refresh();
     if (binding->edit().isRefusing()) permitted = binding->edit().toolTip();
-    const QString description = binding->description();
+    QString description = binding->description();
+    if (!message.isEmpty() && document_->statusLine().field() == binding->field())
+      description = message + QStringLiteral(". ") + description;
     binding->edit().setAccessibleDescription(binding->edit().isRefusing()
                                                  ? said("MyDocument", "Not permitted. %1").arg(description)
                                                  : description);
   }
-  refusalLabel_->setText(permitted.isEmpty() ? QString()
-                                             : said("MyDocument", "Permitted: %1").arg(permitted));
+  statusLabel_->setText(permitted.isEmpty() ? message : said("MyDocument", "Permitted: %1").arg(permitted));
+  statusLabel_->setToolTip(statusLabel_->text());
   showLongDates();
 }
 
@@ -533,15 +541,17 @@ void DocumentWindow::showLongDates() {
   const foundation::ShortDateForm form = environment_.services.localizer.shortDateForm();
   const QString example =
       said("MyDocument", "such as %1").arg(fromUtf8(foundation::shortDateText({2027, 3, 24}, form)));
+  const framework::TextField* told = document_ ? document_->statusLine().field() : nullptr;
   const std::array<std::pair<const FieldEdit*, QLabel*>, 2> dates{
       {{ui_->birthDateField, ui_->birthDateLongForm}, {ui_->examDateField, ui_->examDateLongForm}}};
   for (const auto& [edit, label] : dates) {
     const QString text = edit->text().trimmed();
     const QString inWords = longDateText(text, form);
-    label->setText(edit->isReadOnly()   ? QString()
-                   : !inWords.isEmpty() ? inWords
-                   : text.isEmpty()     ? example
-                                        : said("MyDocument", "no date"));
+    const bool wasErased = told != nullptr && fromUtf8(told->name()) == edit->objectName();
+    label->setText(edit->isReadOnly()             ? QString()
+                   : !inWords.isEmpty()           ? inWords
+                   : text.isEmpty() && !wasErased ? example
+                                                  : said("MyDocument", "no date"));
   }
 }
 

@@ -119,7 +119,7 @@ class DocumentWindow final : public QMainWindow {
   ClickCounter clicks_;
   std::vector<PageView*> pageViews_;
   std::array<QAction*, 5> fetusActions_{};
-  QLabel* refusalLabel_ = nullptr;
+  QLabel* statusLabel_ = nullptr;
   QLabel* growthLabel_ = nullptr;
   QLabel* weightLabel_ = nullptr;
   std::vector<PanelDialog*> dialogs_;
