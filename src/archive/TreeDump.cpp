@@ -32,6 +32,18 @@ std::string hexDigits(std::string_view text) { return hexDigits(std::as_bytes(st
 
 std::int64_t number(Label label) { return static_cast<std::int64_t>(label); }
 
+/// The value of a type that knows no sign. In the stream the upper half of its range stands as negative numbers.
+std::uint64_t unsignedValue(char code, std::int64_t value) {
+  const auto bits = static_cast<std::uint64_t>(value);
+  if (code == 'S') return bits & 0xFFFFU;
+  if (code == 'I') return bits & 0xFFFFFFFFU;
+  return bits;
+}
+
+bool isUnsigned(const TypeNode& type) {
+  return std::string_view("CBSILQ").find(type.code) != std::string_view::npos;
+}
+
 /// The two forms of a dump: each event appends to `out`.
 class Form {
  public:
@@ -79,7 +91,13 @@ class JsonForm final : public Form {
   }
   void endGroup() override { json_.endArray().endObject(); }
 
-  void integer(std::size_t, const TypeNode&, std::int64_t value) override { json_.integer(value); }
+  void integer(std::size_t, const TypeNode& type, std::int64_t value) override {
+    if (isUnsigned(type)) {
+      json_.unsignedInteger(unsignedValue(type.code, value));
+    } else {
+      json_.integer(value);
+    }
+  }
   void real(std::size_t, const TypeNode&, double value) override { json_.number(value); }
 
   void string(std::size_t, const TypeNode&, std::optional<std::string_view> value) override {
@@ -181,7 +199,8 @@ class TextForm final : public Form {
   }
 
   void integer(std::size_t offset, const TypeNode& type, std::int64_t value) override {
-    line(offset, type, std::to_string(value));
+    line(offset, type,
+         isUnsigned(type) ? std::to_string(unsignedValue(type.code, value)) : std::to_string(value));
   }
   void real(std::size_t offset, const TypeNode& type, double value) override {
     line(offset, type, foundation::shortestText(value));

@@ -41,7 +41,20 @@ JsonText& JsonText::number(double value) {
   return *this;
 }
 
+JsonText& JsonText::fixed(double value, int decimals) {
+  if (!std::isfinite(value)) return number(value);
+  startElement();
+  out_ += fixedText(value, decimals);
+  return *this;
+}
+
 JsonText& JsonText::integer(std::int64_t value) {
+  startElement();
+  out_ += std::to_string(value);
+  return *this;
+}
+
+JsonText& JsonText::unsignedInteger(std::uint64_t value) {
   startElement();
   out_ += std::to_string(value);
   return *this;

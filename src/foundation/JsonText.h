@@ -34,7 +34,10 @@ class JsonText {
   JsonText& text(std::string_view value);
   /// The shortest digits that read back to the same double. Not finite: the texts "nan", "inf" and "-inf".
   JsonText& number(double value);
+  /// With that many digits behind the point, as `fixedText` gives them. Not finite: as `number`.
+  JsonText& fixed(double value, int decimals);
   JsonText& integer(std::int64_t value);
+  JsonText& unsignedInteger(std::uint64_t value);
   JsonText& boolean(bool value);
   JsonText& null();
 

@@ -42,6 +42,15 @@ TEST(DumpingAsJson, printsNumbersInTheirShortestForm) {
             R"({"types":"fffff","values":["nan","inf","-inf",40,10]})");
 }
 
+TEST(DumpingAsJson, printsTypesWithoutSignAsTheyAre) {
+  EXPECT_EQ(
+      groups("84 0a 'CSILQcsilq' ff ff ff ff ff ff ff ff ff ff"),
+      R"({"types":"CSILQcsilq","values":[255,65535,4294967295,18446744073709551615,18446744073709551615,)"
+      R"(-1,-1,-1,-1,-1]})");
+  EXPECT_EQ(groups("84 03 'SIQ' 81 00 80 82 00 00 00 80 87 00 00 00 00 00 00 00 80"),
+            R"({"types":"SIQ","values":[32768,2147483648,9223372036854775808]})");
+}
+
 TEST(DumpingAsJson, printsTexts) {
   EXPECT_EQ(groups("84 05 '++::%' 06 'a\"b' 0a c3 a4 85 84 01 'm' 85 93"),
             R"({"types":"++::%","values":[{"s":"a\"b\nä"},null,{"s":"m"},null,{"s":"m"}]})");
@@ -118,6 +127,11 @@ TEST(DumpingAsText, putsTheValuesOfAGroupUnderItsTypes) {
       61    # nil
       62    @ nil
 )");
+}
+
+TEST(DumpingAsText, printsTypesWithoutSignAsTheyAre) {
+  EXPECT_NE(dumpAsText(little("84 01 'I' ff")).find("I 4294967295\n"), std::string::npos);
+  EXPECT_NE(dumpAsText(little("84 01 'i' ff")).find("i -1\n"), std::string::npos);
 }
 
 TEST(DumpingAsText, givesATerminalNoOrders) {

@@ -44,6 +44,47 @@ TEST(Usage, helpNamesEveryCommand) {
   }
 }
 
+TEST(Usage, helpExplainsOneCommand) {
+  EXPECT_EQ(run({"help"}).out, run({"--help"}).out);
+  EXPECT_EQ(run({"help", "lookup"}).out, run({"lookup", "--help"}).out);
+  EXPECT_THAT(run({"--help"}).out, HasSubstr("\n  help "));
+}
+
+struct Mistake {
+  const char* name;
+  std::vector<std::string> arguments;
+  const char* sentence;
+};
+class AMistake : public testing::TestWithParam<Mistake> {};
+
+TEST_P(AMistake, isAnsweredByTheNameThatWasMeant) {
+  const Outcome outcome = run(GetParam().arguments);
+  EXPECT_EQ(outcome.status, 2);
+  EXPECT_EQ(outcome.out, "");
+  EXPECT_EQ(linesOf(outcome.err).at(0), std::string("nascor-cli: ") + GetParam().sentence);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    table, AMistake,
+    testing::Values(
+        Mistake{"swapped", {"jsno", "x"}, "there is no command \"jsno\"; did you mean \"json\"?"},
+        Mistake{"leftOut", {"lokup"}, "there is no command \"lokup\"; did you mean \"lookup\"?"},
+        Mistake{"begun", {"rep"}, "there is no command \"rep\"; did you mean \"report\"?"},
+        Mistake{
+            "helpOnIt", {"help", "stndard"}, "there is no command \"stndard\"; did you mean \"standard\"?"},
+        Mistake{"likeNone", {"frobnicate"}, "there is no command \"frobnicate\""},
+        Mistake{"option", {"weight", "--jso"}, "there is no option \"--jso\"; did you mean \"--json\"?"},
+        Mistake{"optionWithValue",
+                {"standard", "0", "--measure=bpd"},
+                "there is no option \"--measure\"; did you mean \"--measurement\"?"},
+        Mistake{"ofTheProgram", {"--verson"}, "there is no option \"--verson\"; did you mean \"--version\"?"},
+        Mistake{"oneDash",
+                {"check", "-verbose", "x"},
+                "there is no option \"-verbose\"; did you mean \"--verbose\"?"},
+        Mistake{"optionLikeNone", {"weight", "--ac", "3", "--frob"}, "there is no option \"--frob\""},
+        Mistake{"twoAtOnce", {"help", "json", "make"}, "help explains one command"}),
+    [](const auto& row) { return std::string(row.param.name); });
+
 struct WrongCase {
   const char* name;
   std::vector<std::string> arguments;

@@ -210,6 +210,35 @@ TEST(LookUp, answersEachLineOfStandardInputByALine) {
   EXPECT_EQ(asJson.out, "48.22\nnull\n51.43\n");
 }
 
+TEST(FixedDigits, areOneBehindThePointForWeights) {
+  const auto lines = linesOf(run({"weight", "--ac", "300", "--fl", "70", "--fixed"}).out);
+  ASSERT_EQ(lines.size(), 9U);
+  EXPECT_EQ(lines[1], "0  Hadlock 1 (HC/AC/FL)      -");
+  EXPECT_EQ(lines[2], "1  Hadlock 2 (AC/FL)         2540.4");
+  EXPECT_EQ(lines[5], "4  Campbell (AC)             2501.8");
+  EXPECT_EQ(run({"weight", "--ac", "300", "--fl", "70", "--fixed", "--json"}).out,
+            "[0.0,2540.4,0.0,0.0,2501.8,0.0,0.0,0.0]\n");
+}
+
+TEST(FixedDigits, areOneBehindThePointForAges) {
+  EXPECT_EQ(linesOf(run({"crl", "45", "--fixed"}).out).at(1), "45\t11.3\t11.1\t11.1\t11.0");
+}
+
+TEST(FixedDigits, areOneBehindThePointInTables) {
+  const auto lines = linesOf(run({"standard", "cfef", "--fixed"}).out);
+  EXPECT_EQ(lines.at(1), "Week  BPD (mm)  SD   HC (mm)  SD    AC (mm)  SD    FL (mm)  SD");
+  EXPECT_EQ(lines.at(2), "  16  34.5      2.3  120.9    7.6   106.4    7.6   19.9     2.1");
+  EXPECT_EQ(run({"standard", "3", "--measurement", "bpd", "--json", "--fixed"}).out.substr(0, 29),
+            "[[16,34.5,2.3],[17,38.1,2.4],");
+}
+
+TEST(FixedDigits, areThoseOfTheExactValue) {
+  // 49.825 between the weeks; 2.7475.
+  EXPECT_EQ(run({"lookup", "3", "bpd", "--mean", "20.5", "--fixed"}).out, "49.8\n");
+  EXPECT_EQ(run({"lookup", "3", "bpd", "--sd", "20.5", "--fixed"}).out, "2.7\n");
+  EXPECT_EQ(run({"lookup", "3", "bpd", "--mean", "-", "--fixed", "--json"}, "20\nx\n").out, "48.2\nnull\n");
+}
+
 TEST(LookUp, writesNumbersThatJsonLacksAsTexts) {
   // 10^200 mm: Combs is beyond the range of a double.
   const json weights = answered({"weight", "--json", "--hc", "1e200", "--ac", "1e200", "--fl", "1"});

@@ -72,6 +72,14 @@ TEST(JsonInIndentedForm, hasALineForEachElement) {
 })");
 }
 
+TEST(JsonInCompactForm, writesNumbersAsTheyAreWanted) {
+  EXPECT_EQ(compact([](JsonText& json) {
+              json.beginArray().fixed(38.0, 1).fixed(25.25, 1).fixed(-1.2345, 3).fixed(0.0 / 0.0, 1);
+              json.unsignedInteger(18446744073709551615U).endArray();
+            }),
+            R"([38.0,25.2,-1.234,"nan",18446744073709551615])");
+}
+
 struct NumberCase {
   double value;
   const char* json;

@@ -7,6 +7,7 @@
 #include <CLI/CLI.hpp>
 
 #include "cli_commands/Command.h"
+#include "cli_commands/Suggestion.h"
 #include "foundation/Assertion.h"
 #include "foundation/ProgramVersion.h"
 #include "foundation/RangeError.h"
@@ -52,6 +53,7 @@ std::string version() {
 std::string help() {
   std::vector<std::pair<std::string, std::string_view>> terms;
   for (const Command& command : commands()) terms.emplace_back(command.name, command.summary);
+  terms.emplace_back("help", "this text; help COMMAND explains one command");
   return usage() + "\nObstetric ultrasound biometry for shells and scripts.\n" +
          std::string(kNotAMedicalDevice) + "\n\nCommands:\n" + listed(terms) + "\nOptions:\n" +
          listed({{"--help, -h", "this text; behind a command, that command's help"},
@@ -96,6 +98,7 @@ class Parser {
   }
 
   const Command& command() const { return *command_; }
+  std::vector<std::string> remaining() const { return app_->remaining(); }
   bool isChosen() const { return app_->parsed(); }
 
   /// What was typed behind the command. Throws UsageError.
@@ -127,6 +130,31 @@ class Parser {
   CLI::Option* operands_;
 };
 
+bool isCommand(std::string_view name) {
+  return std::ranges::any_of(commands(), [&](const Command& command) { return command.name == name; });
+}
+
+/// The sentence about what the parser could not place: a command, else the first option.
+std::string unknownArgument(const std::vector<std::string>& remaining, const Command* chosen) {
+  const auto isOption = [](const std::string& text) { return text.starts_with('-'); };
+  if (!chosen && std::ranges::any_of(remaining, std::not_fn(isOption))) {
+    std::vector<std::string> names{"help"};
+    for (const Command& command : commands()) names.emplace_back(command.name);
+    const std::string& word = *std::ranges::find_if_not(remaining, isOption);
+    return "there is no command \"" + word + "\"" + didYouMean(word, names);
+  }
+  std::vector<std::string> names{"--help"};
+  if (chosen) {
+    for (const OptionSpec& option : chosen->options) names.push_back("--" + std::string(option.name));
+  } else {
+    names.emplace_back("--version");
+  }
+  const auto unknown = std::ranges::find_if(remaining, isOption);
+  const std::string option =
+      unknown == remaining.end() ? std::string() : unknown->substr(0, unknown->find('='));
+  return "there is no option \"" + option + "\"" + didYouMean(option, names);
+}
+
 int wrongUsage(std::string_view sentence, const std::string& usageLine) {
   Console::tell(std::string(kProgram) + ": " + oneLine(sentence) + "\n" + usageLine);
   return kWrongUsage;
@@ -134,8 +162,7 @@ int wrongUsage(std::string_view sentence, const std::string& usageLine) {
 
 /// What was typed behind the program's name, the last first as the parser wants it. It knows a negative number only by the
 /// digit behind the sign, so -.5 gets one where numbers are expected.
-std::vector<std::string> reversedArguments(int argc, char** argv) {
-  std::vector<std::string> arguments(argv + 1, argv + argc);
+std::vector<std::string> reversedArguments(std::vector<std::string> arguments) {
   const auto isChosen = [&](const Command& command) {
     return !arguments.empty() && command.name == arguments.front();
   };
@@ -160,8 +187,17 @@ int parseAndRun(int argc, char** argv, Console& console) {
   for (const Command& command : commands()) parsers.emplace_back(app, command);
   const auto chosen = [&] { return std::ranges::find_if(parsers, &Parser::isChosen); };
 
+  std::vector<std::string> arguments(argv + 1, argv + argc);
+  if (!arguments.empty() && arguments.front() == "help") {
+    // Help on a command is that command's own.
+    arguments.erase(arguments.begin());
+    if (arguments.size() > 1) return wrongUsage("help explains one command", usage());
+    if (!arguments.empty() && !isCommand(arguments.front()))
+      return wrongUsage(unknownArgument(arguments, nullptr), usage());
+    arguments.emplace_back("--help");
+  }
   try {
-    app.parse(reversedArguments(argc, argv));
+    app.parse(reversedArguments(std::move(arguments)));
     if (versionFlag->count() > 0) {
       console.out() += version();
       console.flush();
@@ -175,6 +211,11 @@ int parseAndRun(int argc, char** argv, Console& console) {
     console.out() += chosen() == parsers.end() ? help() : helpOn(chosen()->command());
     console.flush();
     return kAllWell;
+  } catch (const CLI::ExtrasError&) {
+    const bool isAnyChosen = chosen() != parsers.end();
+    const Command* command = isAnyChosen ? &chosen()->command() : nullptr;
+    return wrongUsage(unknownArgument(isAnyChosen ? chosen()->remaining() : app.remaining(), command),
+                      command ? usageOf(*command) : usage());
   } catch (const CLI::ParseError& error) {
     return wrongUsage(error.what(), chosen() == parsers.end() ? usage() : usageOf(chosen()->command()));
   } catch (const UsageError& error) {

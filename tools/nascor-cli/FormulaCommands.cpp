@@ -18,7 +18,7 @@ using foundation::JsonText;
 using foundation::shortestText;
 
 /// For people: 0.0, which the formulas give where they do not apply, is a dash.
-std::string shown(double value) { return value == 0.0 ? "-" : shortestText(value); }
+std::string shown(double value, const Digits& digits) { return value == 0.0 ? "-" : digits.text(value); }
 
 void runWeight(const Arguments& arguments, Console& console) {
   calc::Biometry measured;
@@ -32,10 +32,12 @@ void runWeight(const Arguments& arguments, Console& console) {
   }
   if (!anyGiven) throw UsageError("a length is missing");
 
+  const Digits digits(arguments);
   if (arguments.has("json")) {
     JsonText json(console.out());
     json.beginArray();
-    for (const calc::WeightFormula& formula : calc::weightFormulas()) json.number(formula.weight(measured));
+    for (const calc::WeightFormula& formula : calc::weightFormulas())
+      digits.write(json, formula.weight(measured));
     json.endArray();
     console.lineDone();
     return;
@@ -43,27 +45,28 @@ void runWeight(const Arguments& arguments, Console& console) {
   Table table({{"", Table::Align::right}, {"Formula"}, {"Weight (g)"}});
   std::size_t identifier = 0;
   for (const calc::WeightFormula& formula : calc::weightFormulas()) {
-    table.addRow(
-        {std::to_string(identifier++), std::string(formula.longLabel), shown(formula.weight(measured))});
+    table.addRow({std::to_string(identifier++), std::string(formula.longLabel),
+                  shown(formula.weight(measured), digits)});
   }
   table.print(console);
 }
 
 /// The ages at one length, or the answer to a line that is no number.
-void answerCRL(std::optional<double> crl, bool asJson, Console& console) {
+void answerCRL(std::optional<double> crl, bool asJson, const Digits& digits, Console& console) {
   std::string& out = console.out();
   if (asJson && !crl) {
     JsonText(out).null();
   } else if (asJson) {
     JsonText json(out);
     json.beginArray();
-    for (const calc::CRLFormula& formula : calc::crlFormulas()) json.number(formula.menstrualAge(*crl));
+    for (const calc::CRLFormula& formula : calc::crlFormulas())
+      digits.write(json, formula.menstrualAge(*crl));
     json.endArray();
   } else {
     out += crl ? shortestText(*crl) : "nan";
     for (const calc::CRLFormula& formula : calc::crlFormulas()) {
       out += '\t';
-      out += crl ? shown(formula.menstrualAge(*crl)) : "nan";
+      out += crl ? shown(formula.menstrualAge(*crl), digits) : "nan";
     }
   }
   console.lineDone();
@@ -80,7 +83,9 @@ void printCRLTitles(Console& console) {
 
 void runCRL(const Arguments& arguments, Console& console) {
   const bool asJson = arguments.has("json");
-  const auto answer = [&](std::optional<double> crl) { answerCRL(crl, asJson, console); };
+  const auto answer = [&, digits = Digits(arguments)](std::optional<double> crl) {
+    answerCRL(crl, asJson, digits, console);
+  };
 
   // All are looked at before the first is answered: wrong usage prints nothing else.
   std::vector<std::optional<double>> lengths;
@@ -100,16 +105,17 @@ void runCRL(const Arguments& arguments, Console& console) {
 }  // namespace
 
 Command weightCommand() {
-  static constexpr std::array<OptionSpec, 5> kOptions{{
+  static constexpr std::array<OptionSpec, 6> kOptions{{
       {"bpd", "MM", "biparietal diameter"},
       {"hc", "MM", "head circumference"},
       {"ac", "MM", "abdominal circumference"},
       {"fl", "MM", "femur length"},
+      kFixedOption,
       {"json", "", "an array of eight numbers, by identifier of the formula"},
   }};
   return {
       .name = "weight",
-      .usage = "[--bpd MM] [--hc MM] [--ac MM] [--fl MM] [--json]",
+      .usage = "[--bpd MM] [--hc MM] [--ac MM] [--fl MM] [--fixed] [--json]",
       .summary = "The estimated weight of one fetus by each of the eight formulas, in grams.",
       .details =
           "A length that is not given is 0, which means not measured. Where a formula needs it, the "
@@ -125,10 +131,10 @@ Command weightCommand() {
 Command crlCommand() {
   static constexpr std::array<OperandSpec, 1> kOperands{
       {{"MM...", "crown-rump lengths; - reads lengths from standard input, one a line", true, true}}};
-  static constexpr std::array<OptionSpec, 1> kOptions{
-      {{"json", "", "an array of four numbers a length, each on a line of its own"}}};
+  static constexpr std::array<OptionSpec, 2> kOptions{
+      {kFixedOption, {"json", "", "an array of four numbers a length, each on a line of its own"}}};
   return {.name = "crl",
-          .usage = "MM... [--json]",
+          .usage = "MM... [--fixed] [--json]",
           .summary = "The menstrual age at each crown-rump length by each of the four formulas, in weeks.",
           .details =
               "One line a length, columns separated by tabs. Outside the range of a formula the age is a "

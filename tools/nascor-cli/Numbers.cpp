@@ -2,6 +2,8 @@
 
 #include <cmath>
 
+#include "foundation/NumberText.h"
+
 namespace nascor::cli {
 
 void refuseValue(std::string_view what, const std::string& expected, const std::string& text) {
@@ -18,6 +20,18 @@ double requiredNumber(std::string_view what, const std::string& text) {
   const auto value = numberFromText(text);
   if (!value) refuseValue(what, "a decimal number", text);
   return *value;
+}
+
+std::string Digits::text(double value) const {
+  return isFixed_ ? foundation::fixedText(value, 1) : foundation::shortestText(value);
+}
+
+void Digits::write(foundation::JsonText& json, double value) const {
+  if (isFixed_) {
+    json.fixed(value, 1);
+  } else {
+    json.number(value);
+  }
 }
 
 }  // namespace nascor::cli

@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "cli_commands/Command.h"
+#include "foundation/JsonText.h"
 
 namespace nascor::cli {
 
@@ -28,5 +29,22 @@ std::optional<double> numberFromText(std::string_view text);
 
 /// The number in `text`, or a UsageError that names `what`.
 double requiredNumber(std::string_view what, const std::string& text);
+
+/// How a command writes its numbers.
+class Digits {
+ public:
+  /// With `--fixed`, which people want, one digit behind the point as C's "%.1f" gives it; else the digits that read
+  /// back to the same double.
+  explicit Digits(const Arguments& arguments) : isFixed_(arguments.has("fixed")) {}
+
+  std::string text(double value) const;
+  void write(foundation::JsonText& json, double value) const;
+
+ private:
+  bool isFixed_;
+};
+
+/// The option that `Digits` reads.
+inline constexpr OptionSpec kFixedOption{"fixed", "", "one digit behind the point, in JSON too"};
 
 }  // namespace nascor::cli

@@ -61,10 +61,13 @@ Quantity quantityOf(std::int64_t standard, const std::string& name, std::optiona
   return weightOf(standard, *formula);
 }
 
-void writeRows(JsonText& json, const calc::ReferenceTable& table) {
+void writeRows(JsonText& json, const calc::ReferenceTable& table, const Digits& digits) {
   json.beginArray();
   for (const calc::DatabaseRecord& row : table) {
-    json.beginArray().number(row.observation()).number(row.mean()).number(row.sd()).endArray();
+    json.beginArray().number(row.observation());
+    digits.write(json, row.mean());
+    digits.write(json, row.sd());
+    json.endArray();
   }
   json.endArray();
 }
@@ -73,6 +76,7 @@ void runStandard(const Arguments& arguments, Console& console) {
   const std::int64_t standard = requiredStandard("N", arguments.operands[0]);
   const auto formula = formulaIn(arguments);
   const auto measurement = arguments.option("measurement");
+  const Digits digits(arguments);
 
   std::vector<Quantity> quantities;
   if (measurement) {
@@ -85,12 +89,12 @@ void runStandard(const Arguments& arguments, Console& console) {
   if (arguments.has("json")) {
     JsonText json(console.out());
     if (measurement) {
-      writeRows(json, quantities.front().table);
+      writeRows(json, quantities.front().table, digits);
     } else {
       json.beginObject();
       for (const Quantity& quantity : quantities) {
         json.key(quantity.name);
-        writeRows(json, quantity.table);
+        writeRows(json, quantity.table, digits);
       }
       json.endObject();
     }
@@ -113,8 +117,8 @@ void runStandard(const Arguments& arguments, Console& console) {
   for (std::size_t row = 0; row < quantities.front().table.size(); ++row) {
     std::vector<std::string> cells{shortestText(quantities.front().table[row].observation())};
     for (const Quantity& quantity : quantities) {
-      cells.push_back(shortestText(quantity.table[row].mean()));
-      cells.push_back(shortestText(quantity.table[row].sd()));
+      cells.push_back(digits.text(quantity.table[row].mean()));
+      cells.push_back(digits.text(quantity.table[row].sd()));
     }
     table.addRow(std::move(cells));
   }
@@ -141,11 +145,13 @@ void runLookup(const Arguments& arguments, Console& console) {
   if (!asked) throw UsageError("one of --mean, --sd and --gestation is missing");
 
   const bool asJson = arguments.has("json");
+  const Digits digits(arguments);
   const auto answer = [&](std::optional<double> value) {
     if (!asJson) {
-      console.out() += value ? shortestText(asked->answer(quantity.table, *value)) : "nan";
+      console.out() += value ? digits.text(asked->answer(quantity.table, *value)) : "nan";
     } else if (value) {
-      JsonText(console.out()).number(asked->answer(quantity.table, *value));
+      JsonText json(console.out());
+      digits.write(json, asked->answer(quantity.table, *value));
     } else {
       JsonText(console.out()).null();
     }
@@ -183,13 +189,14 @@ std::string identifiers() {
 
 Command standardCommand() {
   static constexpr std::array<OperandSpec, 1> kOperands{{{"N", "growth standard, see below"}}};
-  static constexpr std::array<OptionSpec, 3> kOptions{{
+  static constexpr std::array<OptionSpec, 4> kOptions{{
       {"measurement", "M", "one of bpd, hc, ac, fl, efw; without it the four lengths"},
       {"formula", "K", "weight formula, see below; needed for efw"},
+      kFixedOption,
       {"json", "", "rows [week, mean, sd]; without --measurement an object of such rows by measurement"},
   }};
   return {.name = "standard",
-          .usage = "N [--measurement M] [--formula K] [--json]",
+          .usage = "N [--measurement M] [--formula K] [--fixed] [--json]",
           .summary = "A reference table: mean and standard deviation at each week, in mm or g.",
           .details = identifiers() +
                      "\nThe mean weight is that of a fetus whose four lengths are the means. Its standard "
@@ -203,15 +210,16 @@ Command standardCommand() {
 Command lookupCommand() {
   static constexpr std::array<OperandSpec, 2> kOperands{
       {{"N", "growth standard, see below"}, {"M", "one of bpd, hc, ac, fl, efw"}}};
-  static constexpr std::array<OptionSpec, 5> kOptions{{
+  static constexpr std::array<OptionSpec, 6> kOptions{{
       {"mean", "W", "the mean at W weeks"},
       {"sd", "W", "the standard deviation at W weeks"},
       {"gestation", "MM", "the age in weeks of which MM (grams for efw) is the mean"},
       {"formula", "K", "weight formula, see below; needed for efw"},
+      kFixedOption,
       {"json", "", "the same number as JSON"},
   }};
   return {.name = "lookup",
-          .usage = "N M (--mean W | --sd W | --gestation MM) [--formula K] [--json]",
+          .usage = "N M (--mean W | --sd W | --gestation MM) [--formula K] [--fixed] [--json]",
           .summary = "One look-up in a reference table, between whole weeks by linear interpolation.",
           .details =
               "The value may be -: then values are read from standard input, one a line, and answered one a "
