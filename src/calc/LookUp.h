@@ -19,4 +19,15 @@ double meanForGestation(const ReferenceTable& table, double gestation);
 /// The standard deviation at `gestation` weeks, by the same rules.
 double sdForGestation(const ReferenceTable& table, double gestation);
 
+/// Where a look-up leaves its table, and which week it then answers from.
+enum class BeyondTable { no, before, after };
+
+/// Whether the first or the last week stands in for `gestation` in the look-ups of mean and deviation. `no` for a gestation
+/// of exactly 0.0, which has none, and on an empty table.
+BeyondTable weekBeyondTable(const ReferenceTable& table, double gestation);
+
+/// Whether the first or the last week stands in for the gestation of `value`, because no two weeks lie around it. `no` for a
+/// value that is not above zero, and on an empty table.
+BeyondTable valueBeyondTable(const ReferenceTable& table, double value);
+
 }  // namespace nascor::calc

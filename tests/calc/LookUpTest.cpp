@@ -208,5 +208,33 @@ TEST(MeanAndSDForGestation, ofAnEmptyTableAreZeroAndOfOneRowItsOwn) {
   }
 }
 
+// Where the first or the last week stands in.
+
+TEST(BeyondTheTable, liesAWeekThatTheTableDoesNotHave) {
+  EXPECT_EQ(weekBeyondTable(kSteps, 10.0), BeyondTable::no);
+  EXPECT_EQ(weekBeyondTable(kSteps, std::nextafter(10.0, 0.0)), BeyondTable::before);
+  EXPECT_EQ(weekBeyondTable(kSteps, -3.0), BeyondTable::before);
+  EXPECT_EQ(weekBeyondTable(kSteps, 11.5), BeyondTable::no);
+  EXPECT_EQ(weekBeyondTable(kSteps, 13.0), BeyondTable::no);
+  EXPECT_EQ(weekBeyondTable(kSteps, std::nextafter(13.0, 14.0)), BeyondTable::after);
+  EXPECT_EQ(weekBeyondTable(kSteps, kNaN), BeyondTable::after);
+  EXPECT_EQ(weekBeyondTable(kSteps, 0.0), BeyondTable::no) << "unknown";
+  EXPECT_EQ(weekBeyondTable({}, 20.0), BeyondTable::no);
+}
+
+TEST(BeyondTheTable, liesAValueWithoutAWeekOnEitherSide) {
+  EXPECT_EQ(valueBeyondTable(kSteps, 20.0), BeyondTable::no) << "the first mean";
+  EXPECT_EQ(valueBeyondTable(kSteps, 19.9), BeyondTable::before);
+  EXPECT_EQ(valueBeyondTable(kSteps, 45.0), BeyondTable::no);
+  EXPECT_EQ(valueBeyondTable(kSteps, 50.0), BeyondTable::no) << "the last mean but one";
+  EXPECT_EQ(valueBeyondTable(kSteps, 50.1), BeyondTable::after)
+      << "the last week's own mean is not looked at";
+  EXPECT_EQ(valueBeyondTable(kSteps, 80.0), BeyondTable::no) << "the last mean itself";
+  EXPECT_EQ(valueBeyondTable(kSteps, 80.1), BeyondTable::after);
+  EXPECT_EQ(valueBeyondTable(kSteps, 0.0), BeyondTable::no) << "not measured";
+  EXPECT_EQ(valueBeyondTable(kSteps, kNaN), BeyondTable::no);
+  EXPECT_EQ(valueBeyondTable({}, 20.0), BeyondTable::no);
+}
+
 }  // namespace
 }  // namespace nascor::calc

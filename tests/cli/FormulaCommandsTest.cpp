@@ -84,7 +84,7 @@ TEST(CRL, isZeroOutsideTheRangeOfAFormula) {
 }
 
 TEST(CRL, takesANumberThatBeginsWithItsDecimalPoint) {
-  EXPECT_EQ(answered({"crl", "--json", "-.5"}), (json{0, 0, 0, 0}));
+  EXPECT_EQ(run({"crl", "--json", "-.5"}).out, "[0,0,0,0]\n");
   EXPECT_EQ(run({"crl", ".5", "-.5e1", "--", "-.5"}).out, run({"crl", "0.5", "-0.5e1", "-0.5"}).out);
   EXPECT_EQ(run({"crl", "-.x"}).status, 2);
   EXPECT_THAT(run({"report", "-.5"}).err, HasSubstr("-.5")) << "a file keeps its name";
@@ -241,8 +241,69 @@ TEST(FixedDigits, areThoseOfTheExactValue) {
 
 TEST(LookUp, writesNumbersThatJsonLacksAsTexts) {
   // 10^200 mm: Combs is beyond the range of a double.
-  const json weights = answered({"weight", "--json", "--hc", "1e200", "--ac", "1e200", "--fl", "1"});
+  const json weights =
+      json::parse(run({"weight", "--json", "--hc", "1e200", "--ac", "1e200", "--fl", "1"}).out);
   EXPECT_EQ(weights[5], "inf");
+}
+
+struct ImprobableCase {
+  const char* name;
+  std::vector<std::string> arguments;
+  const char* warning;  ///< the whole of standard error
+};
+class ImprobableInput : public testing::TestWithParam<ImprobableCase> {};
+
+TEST_P(ImprobableInput, isToldAndAnswered) {
+  const Outcome outcome = run(GetParam().arguments);
+  EXPECT_EQ(outcome.err, GetParam().warning);
+  EXPECT_EQ(outcome.status, 0);
+  EXPECT_NE(outcome.out, "");
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    table, ImprobableInput,
+    testing::Values(
+        ImprobableCase{
+            "centimetres",
+            {"weight", "--bpd", "9", "--hc", "32"},
+            "warning: BPD 9 mm is shorter than where any growth standard begins; lengths are in mm\n"
+            "warning: HC 32 mm is shorter than where any growth standard begins; lengths are in mm\n"},
+        ImprobableCase{
+            "tooLong", {"weight", "--bpd", "900", "--json"}, "warning: BPD 900 mm is outside 0 to 200 mm\n"},
+        ImprobableCase{"negative", {"weight", "--bpd", "-5"}, "warning: BPD -5 mm is outside 0 to 200 mm\n"},
+        ImprobableCase{"smallHead",
+                       {"weight", "--bpd", "90", "--hc", "254"},
+                       "warning: HC 254 mm is below nine tenths of pi times the BPD, 90 mm\n"},
+        ImprobableCase{"probable", {"weight", "--bpd", "90", "--hc", "320", "--ac", "300", "--fl", "70"}, ""},
+        ImprobableCase{
+            "longCrl", {"crl", "450"}, "warning: no formula dates 450 mm; they reach from 2 to 120 mm\n"},
+        ImprobableCase{"shortCrl",
+                       {"crl", "45", "1.9", "--json"},
+                       "warning: no formula dates 1.9 mm; they reach from 2 to 120 mm\n"},
+        ImprobableCase{"crlOfSomeFormulas", {"crl", "100"}, ""},
+        ImprobableCase{"beyondTheTable",
+                       {"lookup", "3", "bpd", "--mean", "45"},
+                       "warning: 45 lies beyond the table, whose last week, 40, counts\n"},
+        ImprobableCase{"beforeTheTable",
+                       {"lookup", "3", "bpd", "--sd", "5", "--json"},
+                       "warning: 5 lies beyond the table, whose first week, 16, counts\n"},
+        ImprobableCase{"withinTheLastWeek",
+                       {"lookup", "3", "bpd", "--gestation", "93"},
+                       "warning: 93 lies beyond the table, whose last week, 40, counts\n"},
+        ImprobableCase{"atTheEndOfTheTable", {"lookup", "3", "bpd", "--mean", "40"}, ""},
+        ImprobableCase{"noAge", {"lookup", "3", "bpd", "--mean", "0"}, ""}),
+    [](const auto& row) { return std::string(row.param.name); });
+
+TEST(ImprobableInput, ofAStreamIsToldOnceAndCounted) {
+  const Outcome ages = run({"crl", "-", "--json"}, "450\n45\n451\n452\n");
+  EXPECT_EQ(ages.err,
+            "warning: no formula dates 450 mm; they reach from 2 to 120 mm\n"
+            "warning: the same holds for 2 more of the input\n");
+  EXPECT_EQ(ages.status, 0);
+  EXPECT_EQ(linesOf(ages.out).size(), 4U);
+  const Outcome means = run({"lookup", "3", "bpd", "--mean", "-"}, "20\n45\n");
+  EXPECT_EQ(means.err, "warning: 45 lies beyond the table, whose last week, 40, counts\n");
+  EXPECT_EQ(means.out, "48.22\n93.45\n");
 }
 
 }  // namespace

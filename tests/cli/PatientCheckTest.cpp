@@ -41,7 +41,7 @@ UnarchivedPatient goodDocument() {
   patient.setEDD(Date{829008000.0});
   patient.setNumberOfFetuses(1);
   patient.setExtrapolatedGestation(40.0);
-  addExamination(patient, 816998400.0).measurementsForFetus(0).setBPD(200.0);
+  addExamination(patient, 816998400.0).measurementsForFetus(0).setBPD(48.0);
   addExamination(patient, 816998401.0);
   return document;
 }
@@ -169,6 +169,44 @@ INSTANTIATE_TEST_SUITE_P(
                     OddCase{"fl", exam([](auto& e) { e.measurementsForFetus(0).setFL(kNaN); }),
                             "bounds: examination 2, fetus 1: FL nan mm is outside 0 to 200 mm"}),
     [](const auto& row) { return std::string(row.param.name); });
+
+// The examinations are 139 days before the EDD: 20w 1d. By Westerway the BPD has the mean 47.875 mm and the deviation 1.914 mm
+// there.
+INSTANTIATE_TEST_SUITE_P(
+    improbable, Oddities,
+    testing::Values(
+        OddCase{"late", exam([](auto& e) { e.setExamDate(Date{829008000.0 + 36 * 86400.0}); }),
+                "age: examination 2: its age, 45w 1d, is above 45 weeks"},
+        OddCase{"short", exam([](auto& e) { e.measurementsForFetus(0).setBPD(40.0); }),
+                "improbable: examination 2, fetus 1: BPD 40 mm is more than 4 SD below the mean of "
+                "the growth standard at this age"},
+        OddCase{"long", exam([](auto& e) { e.measurementsForFetus(0).setBPD(56.0); }),
+                "improbable: examination 2, fetus 1: BPD 56 mm is more than 4 SD above the mean of "
+                "the growth standard at this age"},
+        OddCase{"smallHead", exam([](auto& e) {
+                  e.measurementsForFetus(0).setBPD(55.0);
+                  e.measurementsForFetus(0).setHC(155.0);
+                }),
+                "improbable: examination 2, fetus 1: HC 155 mm is below nine tenths of pi times the "
+                "BPD, 55 mm"}),
+    [](const auto& row) { return std::string(row.param.name); });
+
+TEST(Check, namesAnExaminationBeforeTheLastPeriod) {
+  UnarchivedPatient document = goodDocument();
+  document.patient->ncRecordsArray()[0]->setExamDate(Date{829008000.0 - 283 * 86400.0});
+  document.patient->ncRecordsArray()[0]->measurementsForFetus(0).setBPD(0.0);
+  EXPECT_THAT(textsOf(document), ElementsAre("age: examination 1: it is 3 days before the last period"));
+}
+
+TEST(Check, withoutAnAgeNamesLengthsThatLookLikeCentimetres) {
+  UnarchivedPatient document = goodDocument();
+  document.patient->setEDD({});
+  document.patient->ncRecordsArray()[1]->measurementsForFetus(0).setBPD(9.0);
+  EXPECT_THAT(textsOf(document),
+              ElementsAre("missingDate: the EDD is missing",
+                          "improbable: examination 2, fetus 1: BPD 9 mm is shorter than where any growth "
+                          "standard begins; lengths are in mm"));
+}
 
 TEST(Check, namesAMissingDateAndThatItStandsBehindADatedOne) {
   UnarchivedPatient document = goodDocument();

@@ -1,9 +1,11 @@
+#include <algorithm>
 #include <array>
 
 #include "calc/Biometry.h"
 #include "calc/Dating.h"
 #include "calc/FetalWeight.h"
 #include "cli_commands/Command.h"
+#include "cli_commands/Improbable.h"
 #include "cli_commands/Input.h"
 #include "cli_commands/Numbers.h"
 #include "cli_commands/Table.h"
@@ -31,6 +33,11 @@ void runWeight(const Arguments& arguments, Console& console) {
         requiredNumber("--" + std::string(calc::nameOf(measurement)), *value);
   }
   if (!anyGiven) throw UsageError("a length is missing");
+  for (const calc::Measurement measurement : calc::kMeasurements) {
+    // No age is known here, and so no standard to be far from.
+    for (const calc::Improbable what : calc::improbableLength(measurement, measured, 0.0, {}))
+      warn(console, improbableText(what, measurement, measured));
+  }
 
   const Digits digits(arguments);
   if (arguments.has("json")) {
@@ -72,6 +79,17 @@ void answerCRL(std::optional<double> crl, bool asJson, const Digits& digits, Con
   console.lineDone();
 }
 
+/// A sentence where no formula dates that length.
+std::optional<std::string> undatedText(double crl) {
+  const auto formulas = calc::crlFormulas();
+  const auto dates = [crl](const calc::CRLFormula& formula) { return formula.menstrualAge(crl) != 0.0; };
+  if (std::ranges::any_of(formulas, dates)) return std::nullopt;
+  const double least = std::ranges::min(formulas, {}, &calc::CRLFormula::least).least;
+  const double greatest = std::ranges::max(formulas, {}, &calc::CRLFormula::greatest).greatest;
+  return "no formula dates " + shortestText(crl) + " mm; they reach from " + shortestText(least) + " to " +
+         shortestText(greatest) + " mm";
+}
+
 void printCRLTitles(Console& console) {
   console.out() += "CRL (mm)";
   for (const calc::CRLFormula& formula : calc::crlFormulas()) {
@@ -95,10 +113,16 @@ void runCRL(const Arguments& arguments, Console& console) {
   if (!asJson) printCRLTitles(console);
   for (const auto& length : lengths) {
     if (length) {
+      if (const auto sentence = undatedText(*length)) warn(console, *sentence);
       answer(length);
-    } else {
-      forEachNumberOfInput(console, answer);
+      continue;
     }
+    StreamWarnings warnings(console);
+    forEachNumberOfInput(console, [&](std::optional<double> crl) {
+      if (const auto sentence = crl ? undatedText(*crl) : std::nullopt) warnings.add(*sentence);
+      answer(crl);
+    });
+    warnings.end();
   }
 }
 
@@ -113,19 +137,19 @@ Command weightCommand() {
       kFixedOption,
       {"json", "", "an array of eight numbers, by identifier of the formula"},
   }};
-  return {
-      .name = "weight",
-      .usage = "[--bpd MM] [--hc MM] [--ac MM] [--fl MM] [--fixed] [--json]",
-      .summary = "The estimated weight of one fetus by each of the eight formulas, in grams.",
-      .details =
-          "A length that is not given is 0, which means not measured. Where a formula needs it, the "
-          "weight is\n"
-          "a dash (0 in JSON). The formulas, by identifier: 0 Hadlock 1 (HC/AC/FL), 1 Hadlock 2 (AC/FL),\n"
-          "2 Hadlock 3 (BPD/AC/FL), 3 Hadlock 4 (BPD/HC/AC/FL), 4 Campbell (AC), 5 Combs (HC/AC/FL),\n"
-          "6 Ott (HC/AC/FL), 7 Shepard (BPD/AC).\n",
-      .operands = {},
-      .options = kOptions,
-      .run = runWeight};
+  return {.name = "weight",
+          .usage = "[--bpd MM] [--hc MM] [--ac MM] [--fl MM] [--fixed] [--json]",
+          .summary = "The estimated weight of one fetus by each of the eight formulas, in grams.",
+          .details =
+              "A length that is not given is 0, which means not measured. Where a formula needs it, the "
+              "weight is\n"
+              "a dash (0 in JSON). An improbable length is named on standard error.\n"
+              "The formulas, by identifier: 0 Hadlock 1 (HC/AC/FL), 1 Hadlock 2 (AC/FL),\n"
+              "2 Hadlock 3 (BPD/AC/FL), 3 Hadlock 4 (BPD/HC/AC/FL), 4 Campbell (AC), 5 Combs (HC/AC/FL),\n"
+              "6 Ott (HC/AC/FL), 7 Shepard (BPD/AC).\n",
+          .operands = {},
+          .options = kOptions,
+          .run = runWeight};
 }
 
 Command crlCommand() {
@@ -140,6 +164,7 @@ Command crlCommand() {
               "One line a length, columns separated by tabs. Outside the range of a formula the age is a "
               "dash (0 in\n"
               "JSON). A line of standard input that is no number is answered by nan (null in JSON).\n"
+              "A length that no formula dates is named on standard error, of standard input the first one.\n"
               "The formulas, by identifier: 0 Hadlock (1992), 2 to 120 mm; 1 Nelson (1981), 6.7 to 82.4 mm;\n"
               "2 Robinson (1975), 7 to 79.6 mm; 3 Westerway (2000), 2 to 87 mm.\n",
           .operands = kOperands,

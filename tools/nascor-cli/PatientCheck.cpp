@@ -1,5 +1,6 @@
 #include "cli_commands/PatientCheck.h"
 
+#include <array>
 #include <cmath>
 #include <compare>
 #include <utility>
@@ -7,9 +8,10 @@
 #include "calc/Dating.h"
 #include "calc/EditingBounds.h"
 #include "calc/FetalWeight.h"
+#include "calc/Plausibility.h"
 #include "calc/Report.h"
 #include "calc/Standards.h"
-#include "cli_commands/Table.h"
+#include "cli_commands/Improbable.h"
 #include "foundation/IsoDate.h"
 #include "foundation/NumberText.h"
 #include "model/ClassNames.h"
@@ -25,7 +27,10 @@ using model::PatientRecord;
 class Check {
  public:
   Check(const model::UnarchivedPatient& document, const foundation::Calendar& calendar)
-      : facts_(document.facts), patient_(*document.patient), calendar_(calendar) {}
+      : facts_(document.facts), patient_(*document.patient), calendar_(calendar) {
+    for (const calc::Measurement measurement : calc::kMeasurements)
+      calc::appendStandard(tableOf(measurement), patient_.standard(), measurement);
+  }
 
   std::vector<Oddity> run() {
     file();
@@ -103,6 +108,8 @@ class Check {
     if (index > 0 && std::is_lt(examination.compare(*patient_.ncRecordsArray()[index - 1]))) {
       add("order", "it is earlier than the one before it");
     }
+    const double age = ageAt(examination);
+    if (const auto what = calc::improbableAge(age)) add(kindOf(*what), improbableText(*what, age));
     const auto& measurements = examination.measurements();
     if (!std::cmp_equal(measurements.size(), patient_.numberOfFetuses())) {
       add("fetusCount", "it has " + counted(measurements.size(), "fetus", "fetuses") + ", the patient " +
@@ -110,19 +117,38 @@ class Check {
     }
     for (std::size_t fetus = 0; fetus < measurements.size(); ++fetus) {
       fetus_ = fetus + 1;
+      const calc::Biometry& lengths = measurements[fetus].biometry();
       for (const calc::Measurement measurement : calc::kMeasurements) {
-        length(measurement, measurements[fetus].biometry().*calc::memberFor(measurement));
+        for (const calc::Improbable what :
+             calc::improbableLength(measurement, lengths, age, tableOf(measurement))) {
+          add(kindOf(what), improbableText(what, measurement, lengths));
+        }
       }
     }
     fetus_.reset();
     examination_.reset();
   }
 
-  void length(calc::Measurement measurement, double value) {
-    const auto bounds = calc::editingBounds(measurement);
-    if (bounds.permit(value)) return;
-    add("bounds", inCapitals(calc::nameOf(measurement)) + " " + shortestText(value) + " mm is outside " +
-                      shortestText(bounds.least) + " to " + shortestText(bounds.greatest) + " mm");
+  /// 0.0, unknown, for dates that are no days.
+  double ageAt(const NCRecord& examination) const {
+    const auto isDay = [this](const std::optional<foundation::Date>& date) {
+      return date && !isoDayText(*date, calendar_).empty();
+    };
+    if (!isDay(examination.examDate()) || !isDay(patient_.edd())) return 0.0;
+    return calc::menstrualAge(examination.examDate(), patient_.edd());
+  }
+
+  static std::string_view kindOf(calc::Improbable what) {
+    switch (what) {
+      case calc::Improbable::beforeLastPeriod:
+      case calc::Improbable::longPastTerm: return "age";
+      case calc::Improbable::outsideBounds: return "bounds";
+      default: return "improbable";
+    }
+  }
+
+  calc::ReferenceTable& tableOf(calc::Measurement measurement) {
+    return tables_[static_cast<std::size_t>(measurement)];
   }
 
   void date(const std::optional<foundation::Date>& date, const std::string& name) {
@@ -157,6 +183,7 @@ class Check {
   const model::ArchiveFacts& facts_;
   const PatientRecord& patient_;
   const foundation::Calendar& calendar_;
+  std::array<calc::ReferenceTable, calc::kMeasurements.size()> tables_;
   std::vector<Oddity> oddities_;
   std::optional<std::size_t> examination_;
   std::optional<std::size_t> fetus_;

@@ -5,6 +5,7 @@
 #include "calc/LookUp.h"
 #include "calc/Standards.h"
 #include "cli_commands/Command.h"
+#include "cli_commands/Improbable.h"
 #include "cli_commands/Input.h"
 #include "cli_commands/Names.h"
 #include "cli_commands/Numbers.h"
@@ -128,10 +129,22 @@ void runStandard(const Arguments& arguments, Console& console) {
 struct Question {
   std::string_view option;
   double (*answer)(const calc::ReferenceTable& table, double value);
+  calc::BeyondTable (*beyond)(const calc::ReferenceTable& table, double value);
 };
-constexpr std::array<Question, 3> kQuestions{{{"mean", calc::meanForGestation},
-                                              {"sd", calc::sdForGestation},
-                                              {"gestation", calc::gestationForMeasurement}}};
+constexpr std::array<Question, 3> kQuestions{
+    {{"mean", calc::meanForGestation, calc::weekBeyondTable},
+     {"sd", calc::sdForGestation, calc::weekBeyondTable},
+     {"gestation", calc::gestationForMeasurement, calc::valueBeyondTable}}};
+
+/// A sentence where another week of the table stands in for what was asked.
+std::optional<std::string> beyondText(const Question& asked, const Quantity& quantity, double value) {
+  const auto beyond = asked.beyond(quantity.table, value);
+  if (beyond == calc::BeyondTable::no) return std::nullopt;
+  const bool isBefore = beyond == calc::BeyondTable::before;
+  const auto& row = isBefore ? quantity.table.front() : quantity.table.back();
+  return shortestText(value) + " lies beyond the table, whose " + (isBefore ? "first" : "last") + " week, " +
+         shortestText(row.observation()) + ", counts";
+}
 
 void runLookup(const Arguments& arguments, Console& console) {
   const std::int64_t standard = requiredStandard("N", arguments.operands[0]);
@@ -158,11 +171,19 @@ void runLookup(const Arguments& arguments, Console& console) {
     console.lineDone();
   };
   const std::string text = *arguments.option(asked->option);
-  if (text == "-") {
-    forEachNumberOfInput(console, answer);
-  } else {
-    answer(requiredNumber("--" + std::string(asked->option), text));
+  if (text != "-") {
+    const double value = requiredNumber("--" + std::string(asked->option), text);
+    if (const auto sentence = beyondText(*asked, quantity, value)) warn(console, *sentence);
+    answer(value);
+    return;
   }
+  StreamWarnings warnings(console);
+  forEachNumberOfInput(console, [&](std::optional<double> value) {
+    if (const auto sentence = value ? beyondText(*asked, quantity, *value) : std::nullopt)
+      warnings.add(*sentence);
+    answer(value);
+  });
+  warnings.end();
 }
 
 /// One line a fact: its number, its name, its label.
@@ -226,7 +247,7 @@ Command lookupCommand() {
               "line; a\n"
               "line that is no number is answered by nan (null in JSON). Nothing is extrapolated: beyond the "
               "table\n"
-              "its first or last week counts.\n\n" +
+              "its first or last week counts, and standard error says so (of standard input once).\n\n" +
               identifiers(),
           .operands = kOperands,
           .options = kOptions,

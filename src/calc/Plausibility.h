@@ -1,0 +1,32 @@
+#pragma once
+
+#include <optional>
+#include <vector>
+
+#include "calc/Biometry.h"
+#include "calc/Standards.h"
+
+namespace nascor::calc {
+
+// What may be entered and is improbable all the same: a slip of the keys, another unit, another patient's date. It is
+// never refused; the one who shows it finds the words.
+
+enum class Improbable {
+  beforeLastPeriod,     ///< an age below 0: the examination lies before the first day of the pregnancy
+  longPastTerm,         ///< an age above 45 weeks
+  outsideBounds,        ///< a length that the window does not let anybody type
+  shorterThanAnywhere,  ///< a length below the first mean of each growth standard, at an age that is not known
+  farBelowStandard,     ///< a length more than 4 standard deviations below the mean
+  farAboveStandard,     ///< the same above it
+  headTooSmall,         ///< an HC below nine tenths of pi times the BPD, which no head can have
+};
+
+/// What is improbable about an age in weeks; nothing for 0.0, unknown, and for one that is not a number.
+std::optional<Improbable> improbableAge(double age);
+
+/// What is improbable about one of `lengths`, nothing for one that is 0.0. `table` is that of the length under the growth
+/// standard in force; within its weeks alone a length can be far from it. Outside the bounds nothing else is looked at.
+std::vector<Improbable> improbableLength(Measurement measurement, const Biometry& lengths, double age,
+                                         const ReferenceTable& table);
+
+}  // namespace nascor::calc

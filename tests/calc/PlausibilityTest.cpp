@@ -1,0 +1,88 @@
+#include "calc/Plausibility.h"
+
+#include <gmock/gmock.h>
+
+#include <cmath>
+
+#include "ExpectedValues.h"
+
+namespace nascor::calc {
+namespace {
+
+using expected::kInfinity;
+using expected::kNaN;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+TEST(ImprobableAge, isOneBelow0OrAbove45Weeks) {
+  EXPECT_EQ(improbableAge(-1.0 / 7.0), Improbable::beforeLastPeriod);
+  EXPECT_EQ(improbableAge(0.0), std::nullopt) << "unknown";
+  EXPECT_EQ(improbableAge(1.0 / 7.0), std::nullopt);
+  EXPECT_EQ(improbableAge(45.0), std::nullopt);
+  EXPECT_EQ(improbableAge(std::nextafter(45.0, 46.0)), Improbable::longPastTerm);
+  EXPECT_EQ(improbableAge(kInfinity), Improbable::longPastTerm);
+  EXPECT_EQ(improbableAge(kNaN), std::nullopt);
+}
+
+const ReferenceTable kTable{DatabaseRecord::initWithData(20.0, 50.0, 2.0),
+                            DatabaseRecord::initWithData(30.0, 75.0, 3.0)};
+
+std::vector<Improbable> about(Measurement measurement, const Biometry& lengths, double age = 20.0) {
+  return improbableLength(measurement, lengths, age, kTable);
+}
+
+TEST(ImprobableLength, liesMoreThan4StandardDeviationsFromTheMean) {
+  EXPECT_THAT(about(Measurement::bpd, {.bpd = 42.0}), IsEmpty());
+  EXPECT_THAT(about(Measurement::bpd, {.bpd = 41.9}), ElementsAre(Improbable::farBelowStandard));
+  EXPECT_THAT(about(Measurement::ac, {.ac = 58.0}), IsEmpty());
+  EXPECT_THAT(about(Measurement::ac, {.ac = 58.1}), ElementsAre(Improbable::farAboveStandard));
+  EXPECT_THAT(about(Measurement::fl, {.fl = 58.1}, 30.0), ElementsAre(Improbable::farBelowStandard));
+  EXPECT_THAT(about(Measurement::fl, {}), IsEmpty()) << "not measured";
+}
+
+TEST(ImprobableLength, isNotFarFromAWeekThatTheStandardDoesNotHave) {
+  for (const double age : {19.9, 30.1, -2.0, kNaN})
+    EXPECT_THAT(about(Measurement::bpd, {.bpd = 190.0}, age), IsEmpty()) << age;
+  EXPECT_THAT(improbableLength(Measurement::bpd, {.bpd = 190.0}, 20.0, {}), IsEmpty());
+}
+
+TEST(ImprobableLength, liesOutsideWhatMayBeTyped) {
+  EXPECT_THAT(about(Measurement::bpd, {.bpd = 200.0}, 0.0), IsEmpty());
+  EXPECT_THAT(about(Measurement::bpd, {.bpd = 200.1}), ElementsAre(Improbable::outsideBounds));
+  EXPECT_THAT(about(Measurement::hc, {.bpd = 90.0, .hc = -5.0}), ElementsAre(Improbable::outsideBounds));
+  EXPECT_THAT(about(Measurement::ac, {.ac = 600.1}, 0.0), ElementsAre(Improbable::outsideBounds));
+  EXPECT_THAT(about(Measurement::fl, {.fl = kNaN}), ElementsAre(Improbable::outsideBounds));
+}
+
+// The shortest first means: BPD 15.5549 mm and HC 54.9661 mm (Westerway, 11 weeks), AC 45.8288 mm (Hadlock, 12 weeks), FL
+// 5.32103 mm (Schluter, 77 days).
+TEST(ImprobableLength, withoutAnAgeIsShorterThanAnyStandardBegins) {
+  struct Case {
+    Measurement measurement;
+    Biometry least;
+    Biometry tooShort;
+  };
+  const Case kCases[] = {{Measurement::bpd, {.bpd = 15.56}, {.bpd = 15.55}},
+                         {Measurement::hc, {.hc = 54.97}, {.hc = 54.96}},
+                         {Measurement::ac, {.ac = 45.83}, {.ac = 45.82}},
+                         {Measurement::fl, {.fl = 5.33}, {.fl = 5.32}}};
+  for (const Case& row : kCases) {
+    EXPECT_THAT(about(row.measurement, row.least, 0.0), IsEmpty()) << nameOf(row.measurement);
+    EXPECT_THAT(about(row.measurement, row.tooShort, 0.0), ElementsAre(Improbable::shorterThanAnywhere))
+        << nameOf(row.measurement);
+  }
+  EXPECT_THAT(about(Measurement::bpd, {.bpd = 12.0}, 10.0), IsEmpty()) << "at a known age it may be right";
+}
+
+// 0.9 pi 90 mm is 254.469 mm.
+TEST(ImprobableLength, isAHeadTooSmallForItsBreadth) {
+  EXPECT_THAT(about(Measurement::hc, {.bpd = 90.0, .hc = 254.5}, 0.0), IsEmpty());
+  EXPECT_THAT(about(Measurement::hc, {.bpd = 90.0, .hc = 254.4}, 0.0), ElementsAre(Improbable::headTooSmall));
+  EXPECT_THAT(about(Measurement::bpd, {.bpd = 90.0, .hc = 254.4}, 0.0), IsEmpty()) << "said of the HC alone";
+  EXPECT_THAT(about(Measurement::hc, {.bpd = 0.0, .hc = 254.4}, 0.0), IsEmpty());
+  EXPECT_THAT(about(Measurement::hc, {.bpd = 90.0, .hc = 40.0}),
+              ElementsAre(Improbable::farBelowStandard, Improbable::headTooSmall));
+}
+
+}  // namespace
+}  // namespace nascor::calc
