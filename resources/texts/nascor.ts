@@ -1103,6 +1103,122 @@
         <source>The examination has no date now. This is no date: </source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>The examination is before the last period.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The age is above 45 weeks.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Outside %ld to %ld mm.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shorter than any growth standard begins. Lengths are in mm.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>More than 4 SD below the growth standard.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>More than 4 SD above the growth standard.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Too small for the BPD.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The growth standard begins at %ld weeks, which count.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The growth standard ends at %ld weeks, which count.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>g</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>beyond the table</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no date</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Examination %ld of %ld: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Age today:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An examination would be before the last period.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An examination would be above 45 weeks.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The same day as the EDD that stands.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>One day later than the EDD that stands.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>One day earlier than the EDD that stands.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%ld days later than the EDD that stands.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%ld days earlier than the EDD that stands.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No formula is chosen.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The examination has no date.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Type the crown-rump length.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The formula dates these lengths, in mm:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no such cycle.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Type the date.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This is no date:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The EDD would lie outside the calendar.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>OutputMenu</name>

@@ -11,8 +11,10 @@
 #include <string_view>
 #include <vector>
 
+#include "app/Assessment.h"
 #include "app/PatientPages.h"
 #include "calc/Biometry.h"
+#include "calc/Plausibility.h"
 #include "charts/ChartDocument.h"
 #include "foundation/NotificationCenter.h"
 #include "framework/Controls.h"
@@ -86,6 +88,8 @@ class NCDocument final : public framework::CorvelDocument,
   std::span<framework::TextField* const> textFields() const { return textFields_; }
   std::span<framework::CheckBox* const> checkBoxes() const { return checkBoxes_; }
   std::span<framework::Panel* const> panels() const { return panels_; }
+  /// What stands beside the fields.
+  Assessment& assessment() { return assessment_; }
   framework::Stepper& adjustDeliveryStepper() { return adjustDeliveryStepper_; }
 
   void synchronizeFromData() override;
@@ -251,6 +255,30 @@ class NCDocument final : public framework::CorvelDocument,
   /// @}
 
  private:
+  /// Where a number or date is taken from: what a field holds, or what the user types in it just now.
+  enum class Reading { held, typed };
+  ProposedEDD eddFromCRL(Reading reading) const;
+  ProposedEDD eddFromLMP(Reading reading) const;
+  /// Says everything in `assessment` anew.
+  void assess();
+  void assessDialogs();
+  void editedTextChanged() override { assess(); }
+  std::string typedText(const framework::TextField& field) const;
+  /// NaN while the text is no number.
+  double typedNumber(const framework::NumberField& field) const;
+  std::int64_t typedInteger(const framework::IntegerField& field) const;
+  std::optional<foundation::Date> dateFromTypedText(const framework::TextField& field) const;
+  calc::Biometry typedLengths();
+  std::string improbableText(calc::Improbable what, calc::Measurement measurement) const;
+  /// Empty for an age within the weeks of `table`.
+  std::string beyondTableText(const calc::ReferenceTable& table, double age) const;
+  std::string examinationText() const;
+  std::string proposalText(const ProposedEDD& proposal) const;
+  std::string differenceText(std::int64_t days) const;
+  std::string obstacleText(const framework::TextField& obstacle) const;
+  const charts::NascorGraphView& graphFor(calc::Measurement measurement) const;
+  framework::TextField* firstEmptyField() override;
+
   bool controlTextShouldBeginEditing(framework::TextField& field) override;
   bool controlTextShouldEndEditing(framework::TextField& field, std::string_view text) override;
   void controlTextDidEndEditing(framework::TextField& field) override;
@@ -337,6 +365,7 @@ class NCDocument final : public framework::CorvelDocument,
   framework::TextField adjustEDDField_{"adjustEDDField"};
   framework::TextField adjustDeliverOnField_{"adjustDeliverOnField"};
   framework::TextField adjustDeliverAtField_{"adjustDeliverAtField"};
+  Assessment assessment_;
   std::vector<framework::TextField*> textFields_;
   std::array<framework::CheckBox*, 4> checkBoxes_{&measurementsWindowBPDCheck_, &measurementsWindowHCCheck_,
                                                   &measurementsWindowACCheck_, &measurementsWindowFLCheck_};

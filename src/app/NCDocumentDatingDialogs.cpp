@@ -23,18 +23,23 @@ void NCDocument::doSetEDDfromCRL(Sender) {
     crlWindow_.center();
   }
   crlWindow_.makeKeyAndOrderFront();
+  assessDialogs();
   checkOverwriteEDD(crlWindow_);
 }
 
 void NCDocument::okSetEDDfromCRL(Sender) { enterEDD(eddFromCRL(), crlWindow_); }
 
-NCDocument::ProposedEDD NCDocument::eddFromCRL() const {
+NCDocument::ProposedEDD NCDocument::eddFromCRL() const { return eddFromCRL(Reading::held); }
+
+NCDocument::ProposedEDD NCDocument::eddFromCRL(Reading reading) const {
   if (!patientRecord_) return {};
   ProposedEDD refused;
-  const auto scan = dateFromText(crlWindowDate_);
+  const bool isTyped = reading == Reading::typed;
+  const auto scan = isTyped ? dateFromTypedText(crlWindowDate_) : dateFromText(crlWindowDate_);
   if (!scan) refused.obstacles.push_back(&crlWindowDate_);
   const std::int64_t standard = patientRecord_->crlStandard();
-  const double age = calc::menstrualAgeFromCRL(crlWindowCRL_.doubleValue(), standard);
+  const double length = isTyped ? typedNumber(crlWindowCRL_) : crlWindowCRL_.doubleValue();
+  const double age = calc::menstrualAgeFromCRL(length, standard);
   if (!calc::crlFormula(standard)) {
     refused.obstacles.push_back(&crlStandardReference_);
   } else if (age == 0.0) {
@@ -47,16 +52,23 @@ NCDocument::ProposedEDD NCDocument::eddFromCRL() const {
 void NCDocument::doSetEDDfromLMP(Sender) {
   if (lmpWindowLMP_.text().empty()) lmpWindow_.center();
   lmpWindow_.makeKeyAndOrderFront();
+  assessDialogs();
   checkOverwriteEDD(lmpWindow_);
 }
 
 void NCDocument::okSetEDDfromLMP(Sender) { enterEDD(eddFromLMP(), lmpWindow_); }
 
-NCDocument::ProposedEDD NCDocument::eddFromLMP() const {
-  const auto lmp = dateFromText(lmpWindowLMP_);
+NCDocument::ProposedEDD NCDocument::eddFromLMP() const { return eddFromLMP(Reading::held); }
+
+NCDocument::ProposedEDD NCDocument::eddFromLMP(Reading reading) const {
+  const bool isTyped = reading == Reading::typed;
+  const auto lmp = isTyped ? dateFromTypedText(lmpWindowLMP_) : dateFromText(lmpWindowLMP_);
   if (!lmp) return {.text = {}, .obstacles = {&lmpWindowLMP_}};
-  const auto edd = calc::eddFromLMP(*lmp, lmpWindowCycleField_.integerValue(),
-                                    lmpWindowLutealField_.integerValue(), services().calendar);
+  const auto days = [&](const framework::IntegerField& field) {
+    return isTyped ? typedInteger(field) : field.integerValue();
+  };
+  const auto edd =
+      calc::eddFromLMP(*lmp, days(lmpWindowCycleField_), days(lmpWindowLutealField_), services().calendar);
   return proposed(edd, {&lmpWindowCycleField_, &lmpWindowLutealField_});
 }
 
@@ -64,6 +76,7 @@ void NCDocument::doSetEDDfromMeasurements(Sender) {
   updateEDDfromMeasurements(this);
   measurementsWindow_.center();
   measurementsWindow_.makeKeyAndOrderFront();
+  assessDialogs();
   checkOverwriteEDD(measurementsWindow_);
 }
 
@@ -95,6 +108,7 @@ void NCDocument::updateEDDfromMeasurements(Sender) {
     row.text.setRed(distance > 2.0 * row.graph.sdForGestation(avGestation_));
     row.text.setText(menstrualAgeStringForGestation(row.gestation));
   }
+  assessDialogs();
   measurementsWindowAvGestation_.setText(menstrualAgeStringForGestation(avGestation_));
 }
 

@@ -93,6 +93,7 @@ void NCDocument::deleteFetusAlertDidEnd(framework::AlertReturn returnCode) {
   for (const calc::Measurement measurement : calc::kMeasurements) fieldFor(measurement).forgetEdits();
   updateMultiplePopUp();
   showWhatTakesTyping();
+  assess();
   constexpr int kPuffOfSmoke = 10;
   const framework::Rect& frame = multiplePopUp_.frame();
   multiplePopUp_.showAnimationEffect(kPuffOfSmoke, {.x = frame.x - 20.0, .y = frame.y + frame.height / 2.0});

@@ -24,6 +24,7 @@ void NCDocument::doSetStandard(std::int64_t standard) {
   services().notifications.post(NotificationName::updateStandards, this);
   services().defaults.setValue(defaults_key::standard, std::to_string(patientRecord_->standard()));
   refreshEDDfromMeasurements();
+  assess();
 }
 
 void NCDocument::doSetEFWStandard(std::int64_t standard) {
@@ -32,6 +33,7 @@ void NCDocument::doSetEFWStandard(std::int64_t standard) {
   services().notifications.post(NotificationName::updateStandards, this);
   services().defaults.setValue(defaults_key::estimatedFetalWeightStandard,
                                std::to_string(patientRecord_->fetalWeightStandard()));
+  assess();
 }
 
 void NCDocument::doSetCRLStandard(std::int64_t standard) {
@@ -39,6 +41,7 @@ void NCDocument::doSetCRLStandard(std::int64_t standard) {
   patientRecord_->setCRLStandard(standard);
   crlStandardReference_.setText(calc::crlStandardTitle(standard, services().localizer));
   services().defaults.setValue(defaults_key::crlStandard, std::to_string(standard));
+  assessDialogs();
 }
 
 void NCDocument::updateShowAll() { tabView().setNeedsDisplay(); }

@@ -115,6 +115,7 @@ void NCDocument::updateDisplay() {
   const std::string title = preferredFileName(true);
   for (std::size_t page = 0; page < headers_.size(); ++page) setHeader(page, title);
   ageField().setText(menstrualAgeStringForRecord(static_cast<std::uint64_t>(currentExam())));
+  assess();
   tabView().setNeedsDisplay();
 }
 

@@ -20,6 +20,7 @@ CorvelDocument::CorvelDocument(const DocumentEnvironment& environment)
       ageField_("ageField"),
       notesField_("notesField") {
   notesField_.onEdit = [this] { updateChangeCount(ChangeType::changeDone); };
+  fieldEditor_.onEdit = [this] { editedTextChanged(); };
 }
 
 bool CorvelDocument::commitEditing() {
@@ -48,6 +49,7 @@ void CorvelDocument::addExaminationAction() {
   synchronizeFromData();
   updateArrayOrder();
   updateChangeCount(ChangeType::changeDone);
+  if (const TextField* field = firstEmptyField()) field->selectText();
 }
 
 void CorvelDocument::deleteExaminationAction() {

@@ -55,6 +55,7 @@ class CorvelDocument : public ZuDocument, public virtual GraphDocument, protecte
   TabView& tabView() { return tabView_; }
   const TabView& tabView() const { return tabView_; }
   FieldEditor& fieldEditor() { return fieldEditor_; }
+  const FieldEditor& fieldEditor() const { return fieldEditor_; }
   StatusLine& statusLine() { return statusLine_; }
 
   bool commitEditing() override;
@@ -148,6 +149,11 @@ class CorvelDocument : public ZuDocument, public virtual GraphDocument, protecte
   void changeWasDone() override { statusLine_.clear(); }
   void changesWereCleared() override { isMarkedByEdit_ = false; }
 
+  /// Another field, another text or none is in edit.
+  virtual void editedTextChanged() {}
+  /// Where typing goes on after something new was added: the first field of the examination on show that holds nothing yet;
+  /// null for none.
+  virtual TextField* firstEmptyField() { return nullptr; }
   /// Whether the current examination holds anything that its removal would lose.
   virtual bool currentExaminationHoldsData() const = 0;
   /// Whether anything but reference ID and gravidity was entered.

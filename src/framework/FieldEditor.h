@@ -47,9 +47,11 @@ class FieldEditor {
   bool isRefusing() const { return isRefusing_; }
 
   std::function<void()> onChange;  ///< set by the view; may be empty
+  std::function<void()> onEdit;    ///< set by the document, which is told before the view; may be empty
 
  private:
   void changed() const {
+    if (onEdit) onEdit();
     if (onChange) onChange();
   }
   TextField* field_ = nullptr;

@@ -297,6 +297,8 @@ Driver::Driver()
     document->multiplePopUp().onAnimationEffect = [this](int effect, framework::Point at) {
       effects_.push_back({effect, at.x, at.y});
     };
+    for (framework::TextField* field : document->textFields())
+      field->onSelectText = [this, field] { selected_ = field->name(); };
     return document;
   });
   documents_.onDocumentAdded = [this](framework::ZuDocument& added) {
@@ -365,6 +367,8 @@ Json Driver::perform(const std::string& key, const Json& argument) {
       {"locale", &Driver::locale},     {"paper", &Driver::paper},
       {"marks", &Driver::marks},       {"outside", &Driver::outside},
       {"told", &Driver::told},         {"status", &Driver::status},
+      {"type", &Driver::type},         {"beside", &Driver::beside},
+      {"focus", &Driver::focus},
   };
   if (key == "new" || key == "state") {
     if (argument != Json(true)) refuse("expected true");
@@ -422,21 +426,28 @@ Json Driver::close(const Json& word) {
 }
 
 Json Driver::edit(const Json& fieldAndText) {
-  if (!fieldAndText.is_array() || fieldAndText.size() != 2) refuse("expected a field and a text");
-  const std::string name = textArgument(fieldAndText[0], "the name of a field");
-  const std::string text = textArgument(fieldAndText[1], "a text");
   NCDocument& edited = document();
-  if (name == edited.notesField().name()) {
+  if (fieldAndText.is_array() && !fieldAndText.empty() && fieldAndText[0] == edited.notesField().name()) {
+    if (fieldAndText.size() != 2) refuse("expected a field and a text");
+    const std::string text = textArgument(fieldAndText[1], "a text");
     const bool began = edited.fieldEditor().end() && edited.notesField().isEditable();
     if (began) edited.notesField().takeEditedText(text);
     return {{"began", began}, {"ended", began}};
   }
-  framework::TextField& field = fieldNamed(edited, name);
+  const bool began = type(fieldAndText)["began"].get<bool>();
+  return {{"began", began}, {"ended", began && edited.fieldEditor().end()}};
+}
+
+Json Driver::type(const Json& fieldAndText) {
+  if (!fieldAndText.is_array() || fieldAndText.size() != 2) refuse("expected a field and a text");
+  const std::string name = textArgument(fieldAndText[0], "the name of a field");
+  const std::string text = textArgument(fieldAndText[1], "a text");
+  framework::TextField& field = fieldNamed(document(), name);
   if (tests::isReadOnlyField(name)) refuse("nobody can type into \"" + name + "\"");
-  framework::FieldEditor& editor = edited.fieldEditor();
-  if (!editor.begin(field)) return {{"began", false}, {"ended", false}};
-  editor.replace(text);
-  return {{"began", true}, {"ended", editor.end()}};
+  framework::FieldEditor& editor = document().fieldEditor();
+  const bool began = editor.begin(field);
+  if (began) editor.replace(text);
+  return {{"began", began}};
 }
 
 Json Driver::visit(const Json& field) {
@@ -609,6 +620,18 @@ Json Driver::told(const Json& word) {
 Json Driver::status(const Json& word) {
   if (word != Json(true)) refuse("expected true");
   return {{"status", document().statusLine().message()}};
+}
+
+Json Driver::beside(const Json& word) {
+  if (word != Json(true)) refuse("expected true");
+  Json texts = Json::object();
+  for (const framework::TextField* text : document().assessment().texts()) texts[text->name()] = text->text();
+  return {{"beside", texts}};
+}
+
+Json Driver::focus(const Json& word) {
+  if (word != Json(true)) refuse("expected true");
+  return {{"focus", std::exchange(selected_, {})}};
 }
 
 Json Driver::outside(const Json& call) {

@@ -46,6 +46,8 @@ class Driver {
   Json save(const Json& target);
   Json close(const Json& word);
   Json edit(const Json& fieldAndText);
+  /// Begins to change a field and types into it, without leaving it.
+  Json type(const Json& fieldAndText);
   Json visit(const Json& field);
   Json revert(const Json& field);
   Json answerQuestions(const Json& buttons);
@@ -66,6 +68,10 @@ class Driver {
   Json told(const Json& word);
   /// What the status line of the current document tells.
   Json status(const Json& word);
+  /// What stands beside the fields, by name.
+  Json beside(const Json& word);
+  /// The field whose text the document wanted selected last since this was last asked, which has the focus in a window.
+  Json focus(const Json& word);
   /// What another program does to the files.
   Json outside(const Json& call);
   Json advance(const Json& seconds);
@@ -109,6 +115,7 @@ class Driver {
   Json posted_ = Json::array();
   Json paper_ = Json::array();
   Json effects_ = Json::array();
+  std::string selected_;
   std::map<const framework::ZuDocument*, std::int64_t> numbers_;
   std::int64_t nextNumber_ = 0;
 };
