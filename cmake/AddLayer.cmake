@@ -27,13 +27,25 @@ function(add_layer name)
     add_library(${name} INTERFACE)
     set(scope INTERFACE)
   endif()
-  list(TRANSFORM LAYER_HEADERS PREPEND "${root}/${name}/" OUTPUT_VARIABLE headers)
+  # A source includes the header of its own name first, which tests/house checks, so that header compiles alone. The
+  # target all_verify_interface_header_sets compiles the others alone.
+  set(headers "")
+  set(alone "")
+  foreach(header IN LISTS LAYER_HEADERS)
+    string(REGEX REPLACE "\\.h$" ".cpp" source "${header}")
+    if(source IN_LIST LAYER_SOURCES)
+      list(APPEND headers "${root}/${name}/${header}")
+    else()
+      list(APPEND alone "${root}/${name}/${header}")
+    endif()
+  endforeach()
   target_sources(${name} ${scope}
-    FILE_SET HEADERS BASE_DIRS "${root}" FILES ${headers})
+    FILE_SET HEADERS BASE_DIRS "${root}" FILES ${headers}
+    FILE_SET without_source TYPE HEADERS BASE_DIRS "${root}" FILES ${alone})
+  set_target_properties(${name} PROPERTIES
+    VERIFY_INTERFACE_HEADER_SETS ON INTERFACE_HEADER_SETS_TO_VERIFY without_source)
   # moc would run once on the file and once on its link.
-  set_source_files_properties(${headers} PROPERTIES SKIP_AUTOMOC ON)
-  # Makes the target all_verify_interface_header_sets compile each header alone.
-  set_target_properties(${name} PROPERTIES VERIFY_INTERFACE_HEADER_SETS ON)
+  set_source_files_properties(${headers} ${alone} PROPERTIES SKIP_AUTOMOC ON)
 
   file(RELATIVE_PATH inSource "${CMAKE_SOURCE_DIR}" "${LAYER_DIRECTORY}")
   target_compile_options(${name} ${scope} "-ffile-prefix-map=${root}/${name}/=${inSource}/")
@@ -41,6 +53,11 @@ function(add_layer name)
     target_link_libraries(${name} PUBLIC nascor_options ${LAYER_USES} PRIVATE ${LAYER_LINKS})
   else()
     target_link_libraries(${name} INTERFACE nascor_options ${LAYER_USES} ${LAYER_LINKS})
+  endif()
+
+  if(NASCOR_FUZZ AND LAYER_SOURCES)
+    # The fuzzers follow the branches that they take through the layers.
+    target_compile_options(${name} PRIVATE -fsanitize=fuzzer-no-link)
   endif()
 
   list(JOIN LAYER_USES "," uses)

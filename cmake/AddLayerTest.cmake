@@ -14,9 +14,22 @@ function(add_layer_test layer)
   add_executable(${program} ${TEST_SOURCES})
   target_link_libraries(${program} PRIVATE
     nascor_options ${layer} test_support ${TEST_LINKS} GTest::gmock_main Threads::Threads)
+  target_precompile_headers(${program} REUSE_FROM test_headers)
   foreach(zone IN LISTS NASCOR_TEST_ZONES)
     add_test(NAME "${layer}@${zone}" COMMAND ${program} --gtest_brief=1)
     set_tests_properties("${layer}@${zone}" PROPERTIES
       ENVIRONMENT "TZ=${zone};LC_ALL=C.UTF-8" LABELS "core")
   endforeach()
+endfunction()
+
+# add_test_headers(NAME header... LINKS library...): headers that many test programs read, compiled once. A program takes
+# them by `target_precompile_headers(program REUSE_FROM NAME)`, and must be compiled with the same options.
+function(add_test_headers name)
+  cmake_parse_arguments(HEADERS "" "" "LINKS" ${ARGN})
+  file(CONFIGURE OUTPUT "${CMAKE_CURRENT_BINARY_DIR}/${name}.cpp" CONTENT "" @ONLY)
+  add_library(${name} OBJECT "${CMAKE_CURRENT_BINARY_DIR}/${name}.cpp")
+  target_link_libraries(${name} PRIVATE nascor_options GTest::gmock Threads::Threads ${HEADERS_LINKS})
+  target_precompile_headers(${name} PRIVATE ${HEADERS_UNPARSED_ARGUMENTS})
+  # A cache of compilations brings the compiled headers back with another time.
+  target_compile_options(${name} PRIVATE "$<$<CXX_COMPILER_ID:Clang>:SHELL:-Xclang -fno-pch-timestamp>")
 endfunction()
