@@ -23,10 +23,8 @@ endif()
 
 if(NASCOR_FUZZ)
   if(NOT CMAKE_CXX_COMPILER_ID MATCHES "Clang")
-    message(FATAL_ERROR "The fuzzers need clang: cmake --preset fuzz")
+    message(FATAL_ERROR "The fuzzers need clang: cmake --preset asan-ubsan")
   endif()
-  # The layers count the branches that the fuzzer takes through them.
-  target_compile_options(nascor_options INTERFACE -fsanitize=fuzzer-no-link)
 endif()
 
 if(NASCOR_COVERAGE)

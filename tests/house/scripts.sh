@@ -13,7 +13,7 @@ fake() {
 
 # setting: a system of its own, without apt, sudo and compilers.
 setting() {
-  rm -rf "$work/bin" "$work/calls"
+  rm -rf "$work/bin" "$work/calls" "$work"/nascor-install-*
   mkdir "$work/bin"
   : >"$work/calls"
   local tool
@@ -22,12 +22,12 @@ setting() {
   done
 }
 
-# need USER-ID: runs need_packages for the group `build` as that user; its words are in said, its status in status.
+# need USER-ID: runs need_packages for what ./run builds as that user; its words are in said, its status in status.
 need() {
   fake id <<<"echo $1"
   status=0
   said="$(PATH="$work/bin" TMPDIR="$work" bash_root="$root" "$BASH" -c '
-    set -euo pipefail; root="$bash_root"; . "$root/cmake/house.sh"; need_packages build' 2>&1 </dev/null)" || status=$?
+    set -euo pipefail; root="$bash_root"; . "$root/cmake/house.sh"; need_packages nocheck' 2>&1 </dev/null)" || status=$?
 }
 
 expect() {
@@ -35,6 +35,8 @@ expect() {
   "${@:2}" || wrong "$1. Said: $said. Calls: $(tr '\n' ';' <"$work/calls")"
 }
 said_has() { [[ "$said" == *"$1"* ]]; }
+said_lacks() { [[ "$said" != *"$1"* ]]; }
+no_log_is_left() { ! compgen -G "$work/nascor-install-*" >/dev/null; }
 apt_calls_are() { [[ "$(grep "^apt-get" "$work/calls")" == "$1" ]]; }
 status_is() { [[ "$status" == "$1" ]]; }
 all_installed='for name; do [[ "$name" == -* || "$name" == *"{"* ]] || echo "installed $name"; done'
@@ -66,6 +68,22 @@ expect "It shows what apt said" said_has "Unable to locate package"
 
 setting
 fake dpkg-query <<<"$all_but_ninja"
+fake apt-get <<<'echo "Err:1 http://packages.example bookworm InRelease
+  Temporary failure resolving '"'packages.example'"'
+E: Unable to locate package ninja-build"; [[ "$*" == *update* ]]'
+need 0
+expect "Without a network the installation fails" status_is 1
+expect "The cause is said" said_has "There is no connection to the package server packages.example."
+expect "A package is not blamed" said_lacks "Unable to locate"
+
+setting
+fake dpkg-query <<<"$all_but_ninja"
+fake apt-get <<<'echo "E: You don'"'"'t have enough free space in /var/cache/apt/archives/."; exit 100'
+need 0
+expect "A full disk is named" said_has "The disk is full."
+
+setting
+fake dpkg-query <<<"$all_but_ninja"
 fake apt-get <<<"exit 0"
 fake sudo <<<'[[ "$1" == -n ]] && shift; exec "$@"'
 need 1000
@@ -77,7 +95,8 @@ fake dpkg-query <<<"$all_but_ninja"
 fake apt-get <<<"exit 0"
 need 1000
 expect "Without sudo a user is sent to the administrator" status_is 1
-expect "The sentence names the package" said_has "ninja-build"
+expect "The sentence has the command" said_has "apt-get install --no-install-recommends ninja-build"
+expect "No log is left behind" no_log_is_left
 
 setting
 fake dpkg-query <<<"$all_but_ninja"
@@ -85,12 +104,22 @@ fake apt-get <<<"exit 0"
 fake sudo <<<"exit 1"
 need 1000
 expect "A sudo that refuses stops with a sentence" said_has "sudo gave no permission"
+expect "It has the command too" said_has "apt-get install --no-install-recommends ninja-build"
+expect "No log is left behind" no_log_is_left
 expect "Nothing is installed then" [ "$(grep -c '^apt-get' "$work/calls")" = 0 ]
 
 setting
 need 0
 expect "A system without apt is told so" status_is 1
 expect "The sentence names the packages there" said_has "no apt-get"
+
+# What debian/control says, by profile.
+listed() { awk -v profiles="$1" -f "$root/cmake/packages.awk" "$root/debian/control"; }
+checks=$((checks + 3))
+[[ " $(listed nocheck | tr '\n' ' ') " == *" g++ "*" fonts-dejavu-core "*" qt6-wayland "* ]] ||
+  wrong "./run installs not what it builds and runs with"
+listed nocheck | grep -qE 'gtest|clang' && wrong "./run installs packages of the tests or checks"
+listed "" | grep -q gtest && ! listed "" | grep -q clang || wrong "./test installs not the packages of the tests alone"
 
 for script in run test .ci/run; do
   [[ -e "$root/$script" ]] || continue

@@ -1,0 +1,16 @@
+# packages.awk -v profiles="nocheck pkg.nascor.checks" debian/control: the packages for building with these build
+# profiles and for running, one a line. Reads debian/control as this project writes it: one package a line of
+# Build-Depends and Depends, with at most one restriction <PROFILE> or <!PROFILE>.
+/^#/ { next }
+/^[^ ]/ { wanted = $1 ~ /^(Build-Depends|Depends):$/; next }
+wanted && $1 !~ /^\$/ {
+  name = $1
+  sub(/,$/, "", name)
+  if (match($0, /<[^>]*>/)) {
+    profile = substr($0, RSTART + 1, RLENGTH - 2)
+    without = sub(/^!/, "", profile)
+    active = index(" " profiles " ", " " profile " ") > 0
+    if (active == without) next
+  }
+  if (!(name in said)) { said[name] = 1; print name }
+}
