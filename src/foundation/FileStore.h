@@ -13,10 +13,18 @@
 
 namespace nascor::foundation {
 
-/// Why a file could not be read or written: the system's own words, without the file's name.
+/// Why a file could not be read or written.
 struct FileError {
-  std::string reason;
+  std::string
+      reason;  ///< the system's own words, without the file's name; a sentence that names it where there are details
+  std::string
+      details{};  ///< path and place for the one who looks into a file that is no document; else empty
 };
+
+/// The error of the file at `path` in one sentence, without its details.
+inline std::string sentenceAbout(const std::string& path, const FileError& error) {
+  return error.details.empty() ? path + ": " + error.reason : error.reason;
+}
 
 /// One file of a folder.
 struct FileEntry {

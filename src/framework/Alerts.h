@@ -36,6 +36,9 @@ class Alerts {
                                 const std::vector<std::string>& buttons) = 0;
   /// Says that something could not be done. Nothing to answer.
   virtual void tell(const std::string& message, const std::string& information) = 0;
+  /// The same with `details`, which are shown when the user asks for them; empty for none.
+  virtual void tellDetails(const std::string& message, const std::string& information,
+                           const std::string& details) = 0;
 };
 
 }  // namespace nascor::framework

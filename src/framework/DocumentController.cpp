@@ -17,14 +17,14 @@ ZuDocument& DocumentController::newDocument() {
   return document;
 }
 
-ZuDocument* DocumentController::openDocument(const std::string& path, std::string& error) {
+ZuDocument* DocumentController::openDocument(const std::string& path, FileError& error) {
   if (ZuDocument* open = documentOfFile(path)) {
     setCurrentDocument(*open);
     return open;
   }
   auto document = factory_();
   if (const auto unreadable = document->readFromFile(path)) {
-    error = path + ": " + unreadable->reason;
+    error = {.reason = foundation::sentenceAbout(path, *unreadable), .details = unreadable->details};
     return nullptr;
   }
   ZuDocument& added = add(std::move(document));
@@ -32,12 +32,15 @@ ZuDocument* DocumentController::openDocument(const std::string& path, std::strin
   return &added;
 }
 
+void DocumentController::tellUnopened(const FileError& error) {
+  alerts_.tellDetails(services_.localizer.text("CorvelDocument", "The document cannot be opened."),
+                      error.reason, error.details);
+}
+
 void DocumentController::openDocuments() {
   for (const std::string& path : panels_.chooseFilesToOpen()) {
-    std::string error;
-    if (!openDocument(path, error)) {
-      alerts_.tell(services_.localizer.text("CorvelDocument", "The document cannot be opened."), error);
-    }
+    FileError error;
+    if (!openDocument(path, error)) tellUnopened(error);
   }
 }
 
@@ -144,9 +147,9 @@ bool DocumentController::closeAllDocuments() {
 }
 
 bool DocumentController::replaceDocument(ZuDocument& document, const std::string& path) {
-  std::string error;
+  FileError error;
   if (!openDocument(path, error)) {
-    alerts_.tell(services_.localizer.text("CorvelDocument", "The document cannot be opened."), error);
+    tellUnopened(error);
     return false;
   }
   remove(document);

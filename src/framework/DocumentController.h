@@ -30,7 +30,7 @@ class DocumentController {
   /// The document of the file at `path`, in front: the one that is open already, or a new one. A file that says that it
   /// holds nothing opens as an untitled blank document, so that saving never overwrites it. Null, and the reason in
   /// `error` (which names the file), when the file cannot be read.
-  ZuDocument* openDocument(const std::string& path, std::string& error);
+  ZuDocument* openDocument(const std::string& path, foundation::FileError& error);
   /// Opens the files that the user chooses and says which of them cannot be read.
   void openDocuments();
 
@@ -74,6 +74,7 @@ class DocumentController {
  private:
   ZuDocument& add(std::unique_ptr<ZuDocument> document);
   void remove(ZuDocument& document);
+  void tellUnopened(const foundation::FileError& error);
   bool write(ZuDocument& document, const std::string& path);
   /// Whether the user wants to lose what somebody else has written into the file.
   bool userReplacesChanges(const std::string& path);

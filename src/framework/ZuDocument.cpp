@@ -38,7 +38,11 @@ std::optional<FileError> ZuDocument::readFromFile(const std::string& path) {
   try {
     loadDataRepresentation(bytes, "");
   } catch (const std::runtime_error& error) {
-    return FileError{error.what()};
+    constexpr std::string_view kName = "%1";
+    std::string sentence = services_.localizer.text("CorvelDocument", "%1 is not a Nascor document.");
+    if (const std::size_t at = sentence.find(kName); at != std::string::npos)
+      sentence.replace(at, kName.size(), path.substr(path.rfind('/') + 1));
+    return FileError{.reason = std::move(sentence), .details = path + ": " + error.what()};
   }
   docIsBlank_ = !holdsContents();
   if (docIsBlank_) {

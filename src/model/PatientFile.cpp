@@ -16,4 +16,8 @@ UnarchivedPatient unarchivedPatient(std::span<const std::byte> bytes) {
   return {.patient = std::move(patient), .facts = unarchiver.facts()};
 }
 
+std::string refusalText(const std::runtime_error& refusal) {
+  return std::string("not a Nascor document (") + refusal.what() + ")";
+}
+
 }  // namespace nascor::model

@@ -3,6 +3,8 @@
 #include <cstddef>
 #include <memory>
 #include <span>
+#include <stdexcept>
+#include <string>
 #include <vector>
 
 #include "model/PatientRecord.h"
@@ -22,5 +24,8 @@ struct UnarchivedPatient {
 /// Reads a document file of any class version. Nothing in it is checked for sense: see PatientRecord.
 /// Throws archive::FormatError, whose sentence names the byte; the caller names the file.
 UnarchivedPatient unarchivedPatient(std::span<const std::byte> bytes);
+
+/// What is said in one line of a file that `unarchivedPatient` has refused: "not a Nascor document (at byte 54: ...)".
+std::string refusalText(const std::runtime_error& refusal);
 
 }  // namespace nascor::model

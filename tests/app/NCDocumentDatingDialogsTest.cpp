@@ -29,6 +29,7 @@ class NotingAlerts final : public framework::Alerts {
     return 0;
   }
   void tell(const std::string&, const std::string&) override {}
+  void tellDetails(const std::string&, const std::string&, const std::string&) override {}
 
   std::function<void(framework::AlertReturn)> answer;
 

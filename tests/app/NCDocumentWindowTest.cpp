@@ -248,7 +248,7 @@ TEST_F(TheWindow, takesADialogsFieldWithoutFurtherAdo) {
 
 TEST_F(TheWindow, writesNoByteAnewWhenEveryFieldIsVisited) {
   platform.files.files["/documents/a"] = model::archivedPatient(twins());
-  std::string error;
+  foundation::FileError error;
   auto& document = dynamic_cast<NCDocument&>(*platform.documents.openDocument("/documents/a", error));
   const auto before = platform.files.files.at("/documents/a");
   for (framework::TextField* each : document.textFields()) {
@@ -264,7 +264,7 @@ TEST_F(TheWindow, writesNoByteAnewWhenEveryFieldIsVisited) {
 
 TEST_F(TheWindow, showsTheFirstFetusWhenItsFileIsReadAgain) {
   platform.files.files["/documents/a"] = model::archivedPatient(twins());
-  std::string error;
+  foundation::FileError error;
   auto& document = dynamic_cast<NCDocument&>(*platform.documents.openDocument("/documents/a", error));
   document.multiplePopUp().selectItemAtIndex(1);
   document.chooseFetus(document.multiplePopUp());

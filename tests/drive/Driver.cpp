@@ -383,9 +383,9 @@ Json Driver::perform(const std::string& key, const Json& argument) {
 Json Driver::newDocument() { return {{"number", numbers_.at(&documents_.newDocument())}}; }
 
 Json Driver::openDocument(const Json& path) {
-  std::string error;
+  foundation::FileError error;
   const framework::ZuDocument* opened = documents_.openDocument(textArgument(path, "a path"), error);
-  if (!opened) refuse(error);
+  if (!opened) refuse(error.details.empty() ? error.reason : error.details);
   return {{"number", numbers_.at(opened)}};
 }
 

@@ -258,7 +258,7 @@ TEST_F(ALookUp, goesOnToTheNextWhenADocumentCannotBeRead) {
   application.files.modificationDates["/documents/ID (G2).nascor"] = {86400.0 * 20};
   application.alerts.answers = {"Open", "Open"};
   document.lookUp("ID (G0)", true);
-  EXPECT_THAT(application.alerts.told, ElementsAre(HasSubstr("this is no document")));
+  EXPECT_THAT(application.alerts.told, ElementsAre(HasSubstr("is not a Nascor document.")));
   EXPECT_EQ(application.front()->model, "text of ID (G1).nascor");
 }
 

@@ -57,9 +57,11 @@ TEST_F(TheDocuments, openOncePerFile) {
 TEST_F(TheDocuments, sayWhyAFileDoesNotOpen) {
   application.put("/documents/bad", "bad");
   EXPECT_EQ(application.open("/documents/bad"), nullptr);
-  EXPECT_EQ(application.error, "/documents/bad: this is no document");
+  EXPECT_EQ(application.error.reason, "bad is not a Nascor document.");
+  EXPECT_EQ(application.error.details, "/documents/bad: this is no document");
   EXPECT_EQ(application.open("/documents/none"), nullptr);
-  EXPECT_EQ(application.error, "/documents/none: No such file or directory");
+  EXPECT_EQ(application.error.reason, "/documents/none: No such file or directory");
+  EXPECT_EQ(application.error.details, "");
   EXPECT_THAT(documents.documents(), IsEmpty());
 }
 
@@ -78,7 +80,8 @@ TEST_F(TheDocuments, openFromThePanelAndTellOfThoseThatDoNot) {
   documents.openDocuments();
   EXPECT_EQ(application.front()->model, "text");
   EXPECT_THAT(application.alerts.told,
-              ElementsAre("The document cannot be opened. /documents/bad: this is no document"));
+              ElementsAre("The document cannot be opened. bad is not a Nascor document."));
+  EXPECT_THAT(application.alerts.toldDetails, ElementsAre("/documents/bad: this is no document"));
 }
 
 TEST_F(TheDocuments, areSavedToTheirFile) {
@@ -303,7 +306,8 @@ TEST_F(TheDocuments, takeTheirPlaceFromOneAnother) {
   documents.onDocumentRemoved = [&](ZuDocument& document) { removed.push_back(&document); };
   EXPECT_FALSE(documents.replaceDocument(blank, "/documents/bad"));
   EXPECT_THAT(application.alerts.told,
-              ElementsAre("The document cannot be opened. /documents/bad: this is no document"));
+              ElementsAre("The document cannot be opened. bad is not a Nascor document."));
+  EXPECT_THAT(application.alerts.toldDetails, ElementsAre("/documents/bad: this is no document"));
   EXPECT_EQ(documents.currentDocument(), &blank);
   EXPECT_TRUE(documents.replaceDocument(blank, "/documents/a"));
   EXPECT_EQ(application.front()->model, "text");

@@ -96,7 +96,7 @@ struct TextApplication : tests::TestApplication {
   }
   TextDocument& newDocument() { return dynamic_cast<TextDocument&>(documents.newDocument()); }
   TextDocument* open(const std::string& path) {
-    error.clear();
+    error = {};
     return dynamic_cast<TextDocument*>(documents.openDocument(path, error));
   }
   TextDocument* front() { return dynamic_cast<TextDocument*>(documents.currentDocument()); }
@@ -107,7 +107,7 @@ struct TextApplication : tests::TestApplication {
   }
   void put(const std::string& path, std::string_view text) { files.files[path] = bytesOf(text); }
 
-  std::string error;
+  foundation::FileError error;
 };
 
 }  // namespace nascor::framework

@@ -99,7 +99,7 @@ TEST_F(ADocumentWithAFile, staysAsItIsWhenItsFileCannotBeReadAgain) {
   application.files.failReadAt = application.files.reads();
   EXPECT_EQ(document.revertToSaved()->reason, "Input/output error");
   application.put("/documents/a", "bad");
-  EXPECT_EQ(document.revertToSaved()->reason, "this is no document");
+  EXPECT_EQ(document.revertToSaved()->reason, "a is not a Nascor document.");
   EXPECT_EQ(document.model, "changed");
   EXPECT_TRUE(document.isDocumentEdited());
   TextDocument unsaved(application.environment());

@@ -91,7 +91,7 @@ TEST_F(TheApplication, failsWithASentenceForAFileThatItCannotRead) {
   const QString document = file("cut.nascor", cutDocument());
   const Answer answer = nascor({"--write-pages", folder.filePath(QStringLiteral("out")), document});
   EXPECT_EQ(answer.status, 1);
-  EXPECT_THAT(answer.error, HasSubstr((document + ": at byte ").toStdString()));
+  EXPECT_THAT(answer.error, HasSubstr((document + ": not a Nascor document (at byte ").toStdString()));
   EXPECT_EQ(answer.output, "");
 }
 

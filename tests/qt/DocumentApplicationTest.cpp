@@ -15,6 +15,7 @@ namespace {
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
+using testing::Not;
 
 class TheApplicationOfDocuments : public WindowTest {
  protected:
@@ -70,7 +71,9 @@ TEST_F(TheApplicationOfDocuments, tellsOnceOfAllThatCannotBeOpenedAndTakesNoMark
                          folder.filePath(QStringLiteral("<b>gone"))});
   EXPECT_THAT(titles(), ElementsAre("good.nascor[*]"));
   ASSERT_EQ(asked.size(), 1U);
-  EXPECT_THAT(asked[0].information, HasSubstr("cut.nascor: at byte "));
+  EXPECT_THAT(asked[0].information, HasSubstr("cut.nascor is not a Nascor document."));
+  EXPECT_THAT(asked[0].information, Not(HasSubstr("byte")));
+  EXPECT_THAT(asked[0].details, HasSubstr("cut.nascor: at byte "));
   EXPECT_THAT(asked[0].information, HasSubstr("<b>gone: No such file or directory"));
 }
 

@@ -60,7 +60,7 @@ TEST_F(TheExportCommand, saysWhichInputIsBadAndGoesOn) {
   writeFile(cut, cutDocument());
   const Answer answer = exportPages({cut, "--pages", "bpd"});
   EXPECT_EQ(answer.status, 1);
-  EXPECT_THAT(answer.error, HasSubstr(cut.toStdString() + ": at byte "));
+  EXPECT_THAT(answer.error, HasSubstr(cut.toStdString() + ": not a Nascor document (at byte "));
   EXPECT_EQ(written(), QStringList{QStringLiteral("twins.pdf")});
 }
 

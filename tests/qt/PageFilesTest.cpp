@@ -127,7 +127,8 @@ TEST_F(WritingPages, writesTheOthersWhenADocumentCannotBeRead) {
       write({file("cut.nascor", cutDocument()), file("good.nascor", documentBytes(singleton()))});
   EXPECT_EQ(written.paths.size(), 2);
   ASSERT_EQ(written.sentences.size(), 1);
-  EXPECT_THAT(written.sentences[0].toStdString(), ContainsRegex("cut.nascor: at byte [0-9]+: "));
+  EXPECT_THAT(written.sentences[0].toStdString(),
+              ContainsRegex("cut.nascor: not a Nascor document \\(at byte [0-9]+: "));
 }
 
 TEST_F(WritingPages, saysWhichFileCouldNotBeWrittenAndGoesOn) {

@@ -28,6 +28,7 @@ namespace {
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
+using testing::StartsWith;
 
 constexpr int kPatience = 60'000;
 
@@ -271,7 +272,10 @@ TEST_F(AScript, isToldWhyAFileDoesNotOpen) {
               HasSubstr("/nowhere/a.nascor: No such file or directory"));
   const QString cut = QDir(home.path()).filePath(QStringLiteral("cut.nascor"));
   writeFile(cut, cutDocument());
-  EXPECT_EQ(nameOfError(script->application("open", {cut})), "org.nascor.Error.CannotOpen");
+  const QDBusMessage noDocument = script->application("open", {cut});
+  EXPECT_EQ(nameOfError(noDocument), "org.nascor.Error.CannotOpen");
+  EXPECT_THAT(noDocument.errorMessage().toStdString(),
+              StartsWith("open: cut.nascor is not a Nascor document. (" + cut.toStdString() + ": at byte "));
   EXPECT_EQ(script->documents().size(), 1U);
 }
 

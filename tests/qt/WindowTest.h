@@ -28,6 +28,7 @@ struct Asked {
   std::string message;
   std::string information;
   std::vector<std::string> buttons;
+  std::string details;
 };
 
 /// The application with its windows, the preferences in memory, and documents in a folder of its own.
@@ -124,7 +125,10 @@ class WindowTest : public testing::Test {
   void answerBox() {
     auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
     if (!box || !box->isVisible()) return;
-    Asked question{box->text().toStdString(), box->informativeText().toStdString(), {}};
+    Asked question{box->text().toStdString(),
+                   box->informativeText().toStdString(),
+                   {},
+                   box->detailedText().toStdString()};
     for (const QAbstractButton* button : box->buttons())
       question.buttons.push_back(button->text().remove(u'&').toStdString());
     asked.push_back(question);

@@ -13,7 +13,7 @@ std::optional<model::UnarchivedPatient> documentIn(const std::string& path, Cons
     if (document.patient) return document;
     console.complain(nameOf(path), "holds no patient");
   } catch (const archive::FormatError& error) {
-    console.complain(nameOf(path), error.what());
+    console.complain(nameOf(path), model::refusalText(error));
   }
   return std::nullopt;
 }

@@ -239,10 +239,14 @@ QVariantList BusObjects::currentDocument(const Target&, const QVariantList&) {
 QVariantList BusObjects::open(const Target&, const QVariantList& arguments) {
   const QString path = arguments[0].toString();
   if (!QDir::isAbsolutePath(path)) refuse(kInvalidArguments, QStringLiteral("expected an absolute path"));
-  std::string error;
+  foundation::FileError error;
   const framework::ZuDocument* document =
       documents_.openDocument(QFile::encodeName(path).toStdString(), error);
-  if (!document) refuse(kCannotOpen, fromUtf8(error));
+  if (!document) {
+    // In one line, where a window has a button for the details.
+    const std::string details = error.details.empty() ? "" : " (" + error.details + ")";
+    refuse(kCannotOpen, fromUtf8(error.reason + details));
+  }
   return {QVariant::fromValue(QDBusObjectPath(pathOf(document)))};
 }
 

@@ -98,6 +98,7 @@ void DocumentApplication::chooseFilesToOpen() {
 
 void DocumentApplication::openNow(const QStringList& paths) {
   QStringList sentences;
+  std::string details;
   for (const QString& path : paths) {
     if (path.contains(QChar::ReplacementCharacter) && !QFile::exists(path)) {
       // The toolkit keeps no file name that is not written in the system's encoding.
@@ -109,20 +110,22 @@ void DocumentApplication::openNow(const QStringList& paths) {
     }
     ZuDocument* before = documents_.currentDocument();
     if (before && windowOf(*before)) windowOf(*before)->keepGeometry();
-    std::string error;
+    foundation::FileError error;
     if (const ZuDocument* opened = documents_.openDocument(QFile::encodeName(path).toStdString(), error)) {
       if (before && before != opened && !windowOf(*before)->hasDialog())
         documents_.closeUntouchedDocument(*before);
       continue;
     }
     recentFiles_.forget(path);
-    sentences << fromUtf8(error);
+    sentences << fromUtf8(error.reason);
+    if (!error.details.empty()) details += error.details + "\n";
   }
   if (sentences.isEmpty()) return;
   const foundation::Localizer& localizer = services_.localizer;
-  alerts_.tell(sentences.size() == 1 ? localizer.text("CorvelDocument", "The document cannot be opened.")
-                                     : localizer.text("CorvelDocument", "These documents cannot be opened."),
-               toUtf8(sentences.join(QStringLiteral("\n\n"))));
+  alerts_.tellDetails(sentences.size() == 1
+                          ? localizer.text("CorvelDocument", "The document cannot be opened.")
+                          : localizer.text("CorvelDocument", "These documents cannot be opened."),
+                      toUtf8(sentences.join(QStringLiteral("\n\n"))), details);
 }
 
 void DocumentApplication::activate() {

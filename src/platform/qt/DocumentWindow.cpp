@@ -642,8 +642,8 @@ void DocumentWindow::revert() {
          .alternateButton = toUtf8(said("MyDocument", "Cancel"))});
     if (answer != framework::AlertReturn::defaultButton || !document_) return;
     if (const auto error = document.revertToSaved())
-      alerts.tell(toUtf8(said("MyDocument", "The document cannot be read.")),
-                  *document.filePath() + ": " + error->reason);
+      alerts.tellDetails(toUtf8(said("MyDocument", "The document cannot be read.")),
+                         foundation::sentenceAbout(*document.filePath(), *error), error->details);
   });
 }
 

@@ -17,6 +17,7 @@
 #include "foundation/UserDefaults.h"
 #include "foundation/Utf8.h"
 #include "framework/DocumentController.h"
+#include "model/PatientFile.h"
 #include "qt/Text.h"
 
 namespace nascor::qt {
@@ -39,6 +40,7 @@ class NoAlerts final : public framework::Alerts {
     return buttons.size() - 1;
   }
   void tell(const std::string&, const std::string&) override {}
+  void tellDetails(const std::string&, const std::string&, const std::string&) override {}
 };
 class NoPanels final : public framework::FilePanels {
  public:
@@ -75,7 +77,7 @@ std::optional<QString> loadDocument(app::NCDocument& document, const QString& pa
   try {
     document.loadDataRepresentation(std::get<std::vector<std::byte>>(read), {});
   } catch (const std::runtime_error& error) {
-    return failure(error.what());
+    return failure(model::refusalText(error));
   }
   if (!document.patientRecord()) return about(path, said("PageFiles", "holds no patient"));
   return std::nullopt;

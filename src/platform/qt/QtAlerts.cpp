@@ -107,10 +107,16 @@ std::size_t QtAlerts::chooseOne(const std::string& message, const std::string& i
 }
 
 void QtAlerts::tell(const std::string& message, const std::string& information) {
+  tellDetails(message, information, {});
+}
+
+void QtAlerts::tellDetails(const std::string& message, const std::string& information,
+                           const std::string& details) {
   QMessageBox box(parent());
   setUp(box, message, information);
   box.setIcon(QMessageBox::Warning);
   box.addButton(QMessageBox::Ok);
+  if (!details.empty()) box.setDetailedText(linesOf(details));
   exec(box);
 }
 

@@ -20,6 +20,8 @@ class QtAlerts final : public framework::Alerts {
   std::size_t chooseOne(const std::string& message, const std::string& information,
                         const std::vector<std::string>& buttons) override;
   void tell(const std::string& message, const std::string& information) override;
+  void tellDetails(const std::string& message, const std::string& information,
+                   const std::string& details) override;
 
   /// The window in front; set by whoever makes windows. May return null.
   std::function<QWidget*()> frontWindow;

@@ -44,12 +44,18 @@ class ScriptedAlerts final : public framework::Alerts {
   void tell(const std::string& message, const std::string& information) override {
     told.push_back(message + " " + information);
   }
+  void tellDetails(const std::string& message, const std::string& information,
+                   const std::string& details) override {
+    tell(message, information);
+    toldDetails.push_back(details);
+  }
 
   std::deque<std::string> answers;  ///< titles of the buttons to press, in order; "Cancel" when there is none
   std::string choice = "Cancel";    ///< the button that `chooseOne` presses, in any case of letters
-  std::vector<framework::Alert> asked;  ///< the questions with two answers
-  std::vector<std::string> choices;     ///< the messages of the questions with more
-  std::vector<std::string> told;        ///< what the user was told
+  std::vector<framework::Alert> asked;   ///< the questions with two answers
+  std::vector<std::string> choices;      ///< the messages of the questions with more
+  std::vector<std::string> told;         ///< what the user was told
+  std::vector<std::string> toldDetails;  ///< the details of what had some
 };
 
 /// Opens and saves what a test says; without a word saves under the suggested name in `folder`.
