@@ -11,6 +11,28 @@ if [ $# -ne 7 ]; then
   exit 2
 fi
 
+# refuse KEY EXPECTATION TEXT: ends with a sentence.
+refuse() {
+  echo "$1: expected $2, but \"$3\" was given" >&2
+  exit 1
+}
+
+# day KEY TEXT, length KEY TEXT: all before the first call, so that a patient is made whole or not at all.
+day() {
+  [ "$(date -d "$2" +%F 2>/dev/null)" = "$2" ] || refuse "$1" "an ISO 8601 date such as 2027-04-10" "$2"
+}
+length() {
+  case "$2" in
+    "" | . | *[!0-9.]* | *.*.*) refuse "$1" "a length in mm such as 45.3" "$2" ;;
+  esac
+}
+day edd "$2"
+day examDate "$3"
+length bpd "$4"
+length hc "$5"
+length ac "$6"
+length fl "$7"
+
 # call PATH METHOD ARGUMENT...: what the object at PATH answers, as gdbus writes it.
 call() {
   path="$1"

@@ -27,19 +27,30 @@ std::string logText(const std::optional<Date>& date) {
   return text;
 }
 
+/// A text as the log shows it: its first 200 characters, so that no value fills the log.
+std::string logText(const std::string& text) {
+  constexpr std::size_t kLongest = 200;
+  std::size_t characters = 0;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    const bool isWithin = (static_cast<unsigned char>(text[i]) & 0xC0U) == 0x80U;
+    if (!isWithin && ++characters > kLongest) return text.substr(0, i) + "...";
+  }
+  return text;
+}
+
 }  // namespace
 
 std::optional<std::string> NCDocumentScripting::identifier() {
   document_.synchronizeFromData();
   const auto* record = document_.patientRecord();
   auto identifier = record ? record->maternalIDString() : std::nullopt;
-  log_.write("Scripting: identifier is " + identifier.value_or(kNone));
+  log_.write("Scripting: identifier is " + logText(identifier.value_or(kNone)));
   return identifier;
 }
 
 void NCDocumentScripting::setIdentifier(const std::string& identifier) {
   // "identifer" is how the line has always been spelt, and what is looked for in logs.
-  log_.write("Scripting: set identifer to " + identifier);
+  log_.write("Scripting: set identifer to " + logText(identifier));
   if (auto* record = document_.patientRecord()) record->setMaternalIDString(identifier);
   refreshAndMarkEdited();
 }

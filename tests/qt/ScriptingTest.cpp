@@ -263,6 +263,25 @@ TEST_F(AScript, opensTheGoodFilesAmongBadOnesAndIsToldOfTheBad) {
       kPatience));
 }
 
+TEST_F(AScript, cannotHaveAnotherMachinesFileOpened) {
+  start();
+  const QString mine = QDir(home.path()).filePath(QStringLiteral("mine.nascor"));
+  writeFile(mine, documentBytes(singleton()));
+  const QString elsewhere = QStringLiteral("file://elsewhere/y.nascor");
+  const auto open = [&](const QStringList& uris) {
+    return script->call(kApplicationPath, QStringLiteral("org.freedesktop.Application"),
+                        QStringLiteral("Open"), {uris, QVariantMap()});
+  };
+  const QDBusMessage refused = open({elsewhere});
+  EXPECT_EQ(refused.errorName(), kInvalidArguments);
+  EXPECT_THAT(refused.errorMessage().toStdString(), HasSubstr("\"file://elsewhere/y.nascor\""));
+  // A question that the first call had left open would hold this one back.
+  EXPECT_EQ(open({"file://localhost" + mine}).type(), QDBusMessage::ReplyMessage);
+  EXPECT_TRUE(QTest::qWaitFor(
+      [&] { return script->get(documentPath(2), "identifier") == QVariant(QStringLiteral("AB-123")); },
+      kPatience));
+}
+
 TEST_F(AScript, isToldWhyAFileDoesNotOpen) {
   start();
   EXPECT_EQ(script->application("open", {QStringLiteral("a.nascor")}).errorName(), kInvalidArguments);
@@ -430,6 +449,11 @@ TEST_P(AnExample, saysWhatIsWrong) {
       run(program, {"AB-123", "10 April", "2026-11-21", "48.5", "170", "150.2", "31"}, environment);
   EXPECT_EQ(answer.status, 1);
   EXPECT_THAT(answer.error, HasSubstr("edd: expected an ISO 8601 date"));
+  const Answer comma =
+      run(program, {"AB-123", "2027-04-10", "2026-11-21", "48.5", "170", "45,3", "31"}, environment);
+  EXPECT_EQ(comma.status, 1);
+  EXPECT_EQ(comma.error, "ac: expected a length in mm such as 45.3, but \"45,3\" was given\n");
+  EXPECT_EQ(script->documents().size(), 1U) << "nothing is half done";
 }
 
 INSTANTIATE_TEST_SUITE_P(inTwoLanguages, AnExample,
@@ -437,20 +461,19 @@ INSTANTIATE_TEST_SUITE_P(inTwoLanguages, AnExample,
                            return std::string(row.param).ends_with("py") ? "python" : "shell";
                          });
 
-/// The bus starts the application as the installed service file says.
-TEST(ABusWithTheServiceFile, startsTheApplicationForAScript) {
+/// The bus starts the application as the installed service file says, whatever prefix the installation was given.
+TEST(ABusWithAnInstallation, startsTheApplicationForAScript) {
   QTemporaryDir home;
-  const QString services = home.filePath(QStringLiteral("services"));
-  QDir().mkpath(services);
-  QString service = textOfFile(QStringLiteral(NASCOR_RESOURCES "/desktop/org.nascor.Nascor.service.in"));
-  service.replace(QStringLiteral("@CMAKE_INSTALL_FULL_BINDIR@/nascor"), QStringLiteral(NASCOR_PROGRAM));
-  writeFile(services + "/org.nascor.Nascor.service", service.toUtf8());
+  const QString prefix = home.filePath(QStringLiteral("my programs/$nascor"));
+  const Answer installed =
+      run(QStringLiteral(NASCOR_CMAKE), {"-DCMAKE_INSTALL_PREFIX=" + prefix, "-P", NASCOR_QT_INSTALL});
+  ASSERT_EQ(installed.status, 0) << installed.error;
   const QString configuration = home.filePath(QStringLiteral("bus.conf"));
   writeFile(configuration, QStringLiteral(R"(<busconfig><type>session</type>
-<listen>unix:dir=%1</listen><servicedir>%2</servicedir>
+<listen>unix:dir=%1</listen><servicedir>%2/share/dbus-1/services</servicedir>
 <policy context="default"><allow send_destination="*" eavesdrop="true"/><allow eavesdrop="true"/><allow own="*"/></policy>
 </busconfig>)")
-                               .arg(home.path(), services)
+                               .arg(home.path(), prefix)
                                .toUtf8());
   const SessionBus bus({QStringLiteral("--config-file=") + configuration});
   Caller script;
@@ -460,7 +483,23 @@ TEST(ABusWithTheServiceFile, startsTheApplicationForAScript) {
   EXPECT_THAT(script.documents(), ElementsAre(documentPath(1).toStdString()));
   const auto process = script.bus().interface()->servicePid(QStringLiteral("org.nascor.Nascor"));
   ASSERT_TRUE(process.isValid());
+  EXPECT_EQ(QFile::symLinkTarget(QStringLiteral("/proc/%1/exe").arg(process.value())),
+            prefix + "/bin/nascor");
   ::kill(static_cast<pid_t>(process.value()), SIGKILL);  // its document's window would stay
+}
+
+/// A package is put together under a folder of its own, of which the installed file knows nothing.
+TEST(AStagedInstallation, namesTheProgramWhereItWillLie) {
+  QTemporaryDir stage;
+  QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+  environment.insert("DESTDIR", stage.path());
+  const Answer installed = run(QStringLiteral(NASCOR_CMAKE),
+                               {"-DCMAKE_INSTALL_PREFIX=/usr", "-P", NASCOR_QT_INSTALL}, environment);
+  ASSERT_EQ(installed.status, 0) << installed.error;
+  EXPECT_THAT(
+      textOfFile(stage.filePath(QStringLiteral("usr/share/dbus-1/services/org.nascor.Nascor.service")))
+          .toStdString(),
+      HasSubstr("Exec=\"/usr/bin/nascor\" --service\n"));
 }
 
 TEST(TheApplication, runsWithoutABusAndSaysOnceThatScriptsCannotDriveIt) {

@@ -64,6 +64,17 @@ TEST_F(ScriptedDocument, readsEachPropertyAndLogsFourOfThem) {
   EXPECT_FALSE(document.isDocumentEdited());
 }
 
+TEST_F(ScriptedDocument, logsTheFirst200CharactersOfAValue) {
+  std::string longest;
+  for (int i = 0; i < 200; ++i) longest += "ä";
+  scripted.setIdentifier(longest);
+  scripted.setIdentifier(longest + "b");
+  EXPECT_EQ(scripted.identifier(), longest + "b");
+  EXPECT_THAT(platform.log.lines, ElementsAre("Scripting: set identifer to " + longest,
+                                              "Scripting: set identifer to " + longest + "...",
+                                              "Scripting: identifier is " + longest + "..."));
+}
+
 TEST_F(ScriptedDocument, logsWhatIsMissingAsNull) {
   document.patientRecord()->setMaternalIDString(std::nullopt);
   scripted.identifier();

@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QFile>
 #include <QMetaObject>
+#include <QSysInfo>
 #include <QUrl>
 #include <QVariantMap>
 #include <limits>
@@ -89,12 +90,20 @@ struct WantedFiles {
   QStringList others;  ///< no files of this machine, in quotation marks
 };
 
+/// Whether the host of a file's address is this machine; another's file would be looked for here in vain.
+bool isHere(const QString& host) {
+  return host.isEmpty() || host == QLatin1String("localhost") ||
+         host.compare(QSysInfo::machineHostName(), Qt::CaseInsensitive) == 0;
+}
+
 WantedFiles wantedFiles(const QStringList& uris) {
   WantedFiles wanted;
   for (const QString& uri : uris) {
     const QUrl url(uri, QUrl::StrictMode);
-    if (url.isLocalFile()) {
-      wanted.paths << url.toLocalFile();
+    if (url.isLocalFile() && isHere(url.host())) {
+      QUrl local = url;
+      local.setHost({});  // it would stand before the path
+      wanted.paths << local.toLocalFile();
     } else {
       wanted.others << quoted(fromUtf8(foundation::oneLine(toUtf8(uri))));
     }
