@@ -308,6 +308,10 @@
         <source>A field holds a text that is not permitted. It will not be saved.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>%1 is not a Nascor document.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>DatingDialogs</name>
@@ -1333,6 +1337,18 @@
         <source>it could not be painted</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>its pages are several files, which standard output cannot take</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>standard output</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it is there already, and stays as it is</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>Printer</name>
@@ -1358,13 +1374,32 @@
     </message>
 </context>
 <context>
-    <name>References</name>
+    <name>Progress</name>
     <message>
-        <source>The number is a name of this program; the lengths in parentheses tell the formula.</source>
+        <source>%ld of %ld</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Weeks 12 and 13 lie outside the published sample, which has 14 to 42 weeks.</source>
+        <source>%ld a second</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%ld a minute</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%ld s left</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%ld min left</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>References</name>
+    <message>
+        <source>The number is a name of this program; the lengths in parentheses tell the formula.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1373,10 +1408,6 @@
     </message>
     <message>
         <source>The numbers are those of the published tables.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Journal and pages are given differently elsewhere.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1401,6 +1432,18 @@
     </message>
     <message>
         <source>&amp;Copy All</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Weeks 12 and 13 lie outside the published sample, which has 14 to 42 weeks. The AC is the paper&apos;s equation, not its table, which is up to 1.68 mm higher. Dating reads the table of sizes backwards; the paper&apos;s own age equations, which scanners use, give other ages: HC 5 to 9.9 days more at 26 to 37 weeks, BPD 11.5 days less and AC 6.7 days less at 40, FL 3.6 days more at 29 to 30.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No second source has this formula. Compared with Hadlock (1992) it gives 9.4 days more at 6.7 mm, 2.9 days more at 20 mm, the same at 30 mm and 1.3 days less at 45 mm.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Two independent sources have the same formula.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1462,10 +1505,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Writes the pages of the documents into FOLDER, and shows no window. Files of the same names are replaced.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>With --write-pages: pdf, png or svg; else PNG and PDF.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -1483,6 +1522,14 @@
     </message>
     <message>
         <source>With --write-pages: the files are not listed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Writes the pages of the documents into FOLDER, and shows no window. Files of the same names are replaced. As - the one file goes to standard output.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>With --write-pages: files that are there are left as they are.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

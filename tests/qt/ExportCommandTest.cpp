@@ -12,6 +12,7 @@ namespace {
 
 using testing::ContainsRegex;
 using testing::HasSubstr;
+using testing::StartsWith;
 
 class TheExportCommand : public testing::Test {
  protected:
@@ -80,6 +81,45 @@ TEST_F(TheExportCommand, saysNothingWhereTheSystemGivesNoFolderForSockets) {
   const Answer answer = run("env", {"-u", "XDG_RUNTIME_DIR", NASCOR_CLI, "export", document, "--out", out});
   EXPECT_EQ(answer.status, 0);
   EXPECT_EQ(answer.error, "");
+}
+
+TEST_F(TheExportCommand, leavesFilesThatAreThereWhenItIsTold) {
+  const QString pdf = QDir(out).filePath(QStringLiteral("twins.pdf"));
+  ASSERT_TRUE(QDir().mkpath(out));
+  writeFile(pdf, "mine");
+  const Answer answer = exportPages({"--no-clobber", "--pages", "first"});
+  EXPECT_EQ(answer.status, 0);
+  EXPECT_EQ(answer.error, pdf.toStdString() + ": it is there already, and stays as it is\n");
+  EXPECT_EQ(run("cat", {pdf}).output, "mine");
+  EXPECT_EQ(exportPages({"--pages", "first"}).error, "");
+  EXPECT_EQ(run("head", {"-c5", pdf}).output, "%PDF-");
+}
+
+TEST_F(TheExportCommand, writesOneFileToStandardOutput) {
+  const auto toOutput = [&](QStringList options) {
+    return run(QStringLiteral(NASCOR_CLI), QStringList{"export", document, "--out", "-"} + options);
+  };
+  const Answer pdf = toOutput({});
+  EXPECT_EQ(pdf.status, 0) << pdf.error;
+  EXPECT_THAT(pdf.output, StartsWith("%PDF-"));
+  const Answer svg = toOutput({"--format", "SVG", "--pages", "weight", "--fetus", "1"});
+  EXPECT_THAT(svg.output, ContainsRegex("^<\\?xml"));
+  const Answer several = toOutput({"--format", "png"});
+  EXPECT_EQ(several.status, 1);
+  EXPECT_EQ(several.output, "");
+  EXPECT_EQ(several.error,
+            document.toStdString() + ": its pages are several files, which standard output cannot take\n");
+  EXPECT_EQ(toOutput({document}).status, 2);
+  EXPECT_FALSE(QDir(QStringLiteral("-")).exists());
+}
+
+TEST_F(TheExportCommand, showsOnATerminalHowFarItIs) {
+  const QString words = QStringLiteral("'%1' export '%2' '%2' --out '%3' --pages first")
+                            .arg(QStringLiteral(NASCOR_CLI), document, out);
+  const Answer answer = run("script", {"-qec", words, "/dev/null"});
+  EXPECT_EQ(answer.status, 0);
+  EXPECT_THAT(answer.output, HasSubstr("\r[                              ] 0 of 2\033[K"));
+  EXPECT_THAT(answer.output, testing::EndsWith("\r\033[K")) << "it is wiped at the end";
 }
 
 TEST_F(TheExportCommand, refusesWrongUsageBeforeItWrites) {

@@ -43,13 +43,16 @@ TEST_F(TheOutputItems, exportAllFetuses) {
 TEST_F(TheOutputItems, stopBetweenTwoPagesWhenCancelled) {
   open(twins());
   QTimer cancel;
+  QString label;
   cancel.setInterval(0);
   QObject::connect(&cancel, &QTimer::timeout, [&] {
     auto* progress = front().findChild<QProgressDialog*>(QLatin1String(qt::OutputMenu::kProgressName));
+    if (progress) label = progress->labelText();
     if (progress && progress->value() >= 1) progress->cancel();
   });
   cancel.start();
   action("exportAllAction").trigger();
+  EXPECT_THAT(label.toStdString(), testing::HasSubstr(" of 4"));
   EXPECT_EQ(written(), QStringList{QStringLiteral("AB-123 (G2) 1 of 2 - Trends.pdf")});
 }
 

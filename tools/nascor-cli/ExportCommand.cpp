@@ -9,6 +9,7 @@
 #include <unistd.h>
 
 #include "cli_commands/Command.h"
+#include "cli_commands/Names.h"
 
 namespace nascor::cli {
 
@@ -18,24 +19,17 @@ constexpr std::array<std::string_view, 3> kFormats{"pdf", "png", "svg"};
 constexpr std::array<std::string_view, 9> kPageNames{"first", "last", "trends", "bpd",   "hc",
                                                      "ac",    "fl",   "weight", "report"};
 
-std::string inSmallLetters(std::string text) {
-  std::ranges::transform(text, text.begin(), [](char each) {
-    return each >= 'A' && each <= 'Z' ? static_cast<char>(each - 'A' + 'a') : each;
-  });
-  return text;
-}
-
 bool isPage(std::string_view text) {
   const bool isNumber = text.size() == 1 && text[0] >= '0' && text[0] <= '6';
   return isNumber || std::ranges::find(kPageNames, text) != kPageNames.end();
 }
 
 void checkPages(std::string_view pages) {
-  if (inSmallLetters(std::string(pages)) == "all") return;
+  if (inSmallLetters(pages) == "all") return;
   for (std::size_t start = 0; start <= pages.size();) {
     const std::size_t end = std::min(pages.find(',', start), pages.size());
     const std::string_view page = pages.substr(start, end - start);
-    if (!isPage(inSmallLetters(std::string(page)))) {  // the window calls them BPD and HC
+    if (!isPage(inSmallLetters(page))) {  // the window calls them BPD and HC
       throw UsageError("--pages: expected all, first, last, a number from 0 to 6 or a name, but \"" +
                        std::string(page) + "\" stands here");
     }
@@ -58,18 +52,25 @@ std::string painter() {
 void runExport(const Arguments& arguments, Console& console) {
   const auto folder = arguments.option("out");
   if (!folder || folder->empty()) throw UsageError("--out is missing");
-  const std::string format = arguments.option("format").value_or("pdf");
+  const std::string format = inSmallLetters(arguments.option("format").value_or("pdf"));
   if (std::ranges::find(kFormats, format) == kFormats.end())
     throw UsageError("--format: expected pdf, png or svg");
   const std::string pages = arguments.option("pages").value_or("all");
   checkPages(pages);
-  const std::string fetus = arguments.option("fetus").value_or("all");
+  const std::string fetus = inSmallLetters(arguments.option("fetus").value_or("all"));
   checkFetus(fetus);
+
+  if (*folder == "-" && arguments.operands.size() > 1)
+    throw UsageError("--out - takes the pages of one document");
+  if (*folder == "-" && console.outputIsTerminal())
+    throw UsageError("pages are no text for a terminal; give --out DIR or send standard output to a file");
 
   const std::string program = painter();
   std::vector<std::string> words{program, "--quiet", "--write-pages", *folder,   "--format",
                                  format,  "--pages", pages,           "--fetus", fetus};
-  if (arguments.has("no-foot")) words.emplace_back("--no-foot");
+  for (const char* flag : {"no-foot", "no-clobber"}) {
+    if (arguments.has(flag)) words.push_back(std::string("--") + flag);
+  }
   words.emplace_back("--");
   for (const std::string& file : arguments.operands) words.push_back(file == "-" ? "/dev/stdin" : file);
 
@@ -88,20 +89,24 @@ void runExport(const Arguments& arguments, Console& console) {
 Command exportCommand() {
   static constexpr std::array<OperandSpec, 1> kOperands{
       {{"FILE...", "a document; - is standard input", true}}};
-  static constexpr std::array<OptionSpec, 5> kOptions{{
-      {"out", "DIR", "the folder for the files; it is made when it is missing"},
+  static constexpr std::array<OptionSpec, 6> kOptions{{
+      {"out", "DIR",
+       "the folder for the files, which is made when it is missing; - is standard output, for one file"},
       {"format", "pdf|png|svg", "what is written; without this option PDF"},
       {"pages", "PAGES", "all, or first, last, numbers from 0 to 6 and names, with commas between"},
       {"fetus", "all|N", "one fetus, the first is 1; without this option all"},
+      {"no-clobber", "", "leave files that are there as they are, and say so"},
       {"no-foot", "", "leave off what stands under each page"},
   }};
   return {.name = "export",
-          .usage = "FILE... --out DIR [--format pdf|png|svg] [--pages PAGES] [--fetus all|N] [--no-foot]",
+          .usage =
+              "FILE... --out DIR [--format pdf|png|svg] [--pages PAGES] [--fetus all|N] [--no-clobber] "
+              "[--no-foot]",
           .summary = "Writes the pages of each document, painted as the application paints them.",
           .details =
               "Names of pages: trends, BPD, HC, AC, FL, weight, report (0 to 6), in letters of any size.\n"
               "As PDF all pages of a document are one file; else each is a file of its own.\n"
-              "Files of the same names are replaced.\n",
+              "Files of the same names are replaced, but with --no-clobber.\n",
           .operands = kOperands,
           .options = kOptions,
           .run = runExport};

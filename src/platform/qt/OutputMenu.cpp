@@ -14,9 +14,11 @@
 #include <QProgressDialog>
 #include <QPushButton>
 #include <QStatusBar>
+#include <chrono>
 #include <utility>
 
 #include "foundation/Localizer.h"
+#include "foundation/Progress.h"
 #include "foundation/UserDefaults.h"
 #include "framework/PageWriter.h"
 #include "qt/Mnemonics.h"
@@ -156,7 +158,16 @@ void OutputMenu::exportAll(NCDocument& document) {
     ++written;
     last = path;
   };
+  const auto now = [] {
+    return std::chrono::duration<double>(std::chrono::steady_clock::now().time_since_epoch()).count();
+  };
+  foundation::Progress rate(0, now());
   const auto sentences = document.autoExport([&](std::int64_t done, std::int64_t total) {
+    rate.set(done, total, now());
+    if (rate.isDue()) {
+      progress.setLabelText(said("OutputMenu", "Exporting pages...") + u'\n' +
+                            fromUtf8(rate.text(environment_.services.localizer)));
+    }
     progress.setMaximum(static_cast<int>(total));
     progress.setValue(static_cast<int>(done));
     QCoreApplication::processEvents();

@@ -100,7 +100,7 @@ class Export {
   }
 
   WrittenPages run() {
-    if (!QDir().mkpath(wanted_.folder)) {
+    if (!wanted_.writeOneFile && !QDir().mkpath(wanted_.folder)) {
       result_.sentences << about(wanted_.folder, said("PageFiles", "the folder could not be made"));
       return result_;
     }
@@ -140,6 +140,11 @@ class Export {
                      "it says %1 fetuses, which cannot be chosen from; the pages are those of the first")
                     .arg(fetuses));
     }
+    if (wanted_.writeOneFile && !isOneFile(places)) {
+      result_.sentences << about(
+          file, said("PageFiles", "its pages are several files, which standard output cannot take"));
+      return;
+    }
     const QString stem = fileNameFrom(QFileInfo(file).completeBaseName());
     for (const PageFormat format : wanted_.formats) {
       if (format == PageFormat::pdf) {
@@ -166,6 +171,12 @@ class Export {
       }
     }
     return places;
+  }
+
+  /// Whether all that is wanted is one file.
+  bool isOneFile(const std::vector<Place>& places) const {
+    return wanted_.files.size() == 1 && wanted_.formats.size() == 1 &&
+           (wanted_.formats.front() == PageFormat::pdf || places.size() == 1);
   }
 
   /// The page as it goes out, with that fetus on show.
@@ -209,6 +220,12 @@ class Export {
 
   /// Under `name`, or where a document before has written that, the first of "name (2)", "name (3)", ... that is free.
   void write(const QString& name, PageFormat format, const QByteArray& bytes) {
+    if (wanted_.writeOneFile) {
+      const auto reason = bytes.isEmpty() ? std::optional(said("PageFiles", "it could not be painted"))
+                                          : wanted_.writeOneFile(bytes);
+      if (reason) result_.sentences << about(said("PageFiles", "standard output"), *reason);
+      return;
+    }
     const std::string_view extension = framework::extensionOf(format);
     const QString ending = QStringLiteral(".") + fromUtf8(extension);
     QString fileName = name + ending;
@@ -216,6 +233,10 @@ class Export {
       fileName = QStringLiteral("%1 (%2)").arg(name, QString::number(i)) + ending;
     taken_.insert(fileName);
     const QString path = QDir(wanted_.folder).filePath(fileName);
+    if (!wanted_.mayReplace && services_.files.exists(QFile::encodeName(path).toStdString())) {
+      result_.warnings << about(path, said("PageFiles", "it is there already, and stays as it is"));
+      return;
+    }
     if (const auto error = writeBytes(services_.files, QFile::encodeName(path).toStdString(), bytes)) {
       result_.sentences << about(path, fromUtf8(error->reason));
     } else {

@@ -23,6 +23,9 @@ struct PageExport {
   /// One fetus, the first is 0; nothing for all.
   std::optional<std::int64_t> fetus{};
   bool hasFoot = true;
+  bool mayReplace = true;  ///< whether a file of the same name is replaced; it stays as it is otherwise
+  /// Takes the one file in place of the folder, and returns why that failed. May be empty.
+  std::function<std::optional<QString>(const QByteArray& bytes)> writeOneFile{};
   double pngScale = kUsualPngScale;
   std::function<void(int done, int total)>
       onProgress{};  ///< sent before each document and at the end; may be empty

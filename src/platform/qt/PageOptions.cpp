@@ -2,31 +2,50 @@
 
 #include <unistd.h>
 
+#include <cerrno>
+#include <chrono>
 #include <cstdio>
+#include <memory>
 #include <string>
+#include <system_error>
 
+#include "foundation/Progress.h"
+#include "qt/QtLocalizer.h"
 #include "qt/Text.h"
 
 namespace nascor::qt {
 namespace {
 
-/// One changing line on the terminal, wiped at the end.
-void drawProgress(int done, int total) {
-  constexpr int kWidth = 40;
-  if (done == total) {
-    std::fputs("\r\033[K", stderr);
-  } else {
-    const int filled = kWidth * done / total;
-    std::fprintf(stderr, "\r[%s%s] %d/%d", std::string(static_cast<std::size_t>(filled), '#').c_str(),
-                 std::string(static_cast<std::size_t>(kWidth - filled), ' ').c_str(), done, total);
-  }
-  std::fflush(stderr);
+double secondsNow() {
+  return std::chrono::duration<double>(std::chrono::steady_clock::now().time_since_epoch()).count();
+}
+
+/// Draws one changing line on the terminal, wiped at the end.
+std::function<void(int, int)> terminalProgress() {
+  const auto localizer = std::make_shared<const QtLocalizer>(QLocale::system());
+  return [localizer, progress = foundation::Progress(0, secondsNow())](int done, int total) mutable {
+    progress.set(done, total, secondsNow());
+    if (done == total) {
+      std::fputs(foundation::Progress::kWiped, stderr);
+    } else if (progress.isDue()) {
+      std::fputs(progress.line(*localizer).c_str(), stderr);
+    }
+    std::fflush(stderr);
+  };
+}
+
+/// Writes the one file whose place is standard output. Returns why that failed.
+std::optional<QString> writeToStandardOutput(const QByteArray& bytes) {
+  const auto size = static_cast<std::size_t>(bytes.size());
+  const bool isWritten = std::fwrite(bytes.constData(), 1, size, stdout) == size && std::fflush(stdout) == 0;
+  if (isWritten) return std::nullopt;
+  return QString::fromLocal8Bit(std::generic_category().message(errno).c_str());
 }
 
 }  // namespace
 
 void PageOptions::addTo(QCommandLineParser& parser) const {
-  parser.addOptions({folder_, format_, pages_, fetus_, noFoot_, quiet_});
+  parser.addOptions({folder_, format_, pages_, fetus_, noFoot_, noClobber_, quiet_});
 }
 
 std::optional<PageExport> PageOptions::read(const QCommandLineParser& parser, QString& error) const {
@@ -59,7 +78,9 @@ std::optional<PageExport> PageOptions::read(const QCommandLineParser& parser, QS
     wanted.fetus = number - 1;
   }
   wanted.hasFoot = !parser.isSet(noFoot_);
-  if (::isatty(STDERR_FILENO) == 1) wanted.onProgress = drawProgress;
+  wanted.mayReplace = !parser.isSet(noClobber_);
+  if (isForStandardOutput(parser)) wanted.writeOneFile = writeToStandardOutput;
+  if (::isatty(STDERR_FILENO) == 1) wanted.onProgress = terminalProgress();
   return wanted;
 }
 

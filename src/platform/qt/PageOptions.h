@@ -14,17 +14,24 @@ class PageOptions {
  public:
   void addTo(QCommandLineParser& parser) const;
   bool areGiven(const QCommandLineParser& parser) const { return parser.isSet(folder_); }
-  bool arePathsWanted(const QCommandLineParser& parser) const { return !parser.isSet(quiet_); }
+  bool arePathsWanted(const QCommandLineParser& parser) const {
+    return !parser.isSet(quiet_) && !isForStandardOutput(parser);
+  }
   /// What was typed; nothing, and a sentence in `error`, for a value that is none.
   std::optional<PageExport> read(const QCommandLineParser& parser, QString& error) const;
 
  private:
+  /// The folder "-" is standard output.
+  bool isForStandardOutput(const QCommandLineParser& parser) const {
+    return parser.value(folder_) == QLatin1String("-");
+  }
+
   QCommandLineOption folder_{
       QStringLiteral("write-pages"),
       QCoreApplication::translate(
           "main",
           "Writes the pages of the documents into FOLDER, and shows no window. Files of "
-          "the same names are replaced."),
+          "the same names are replaced. As - the one file goes to standard output."),
       QStringLiteral("FOLDER")};
   QCommandLineOption format_{
       QStringLiteral("format"),
@@ -42,6 +49,9 @@ class PageOptions {
   QCommandLineOption noFoot_{
       QStringLiteral("no-foot"),
       QCoreApplication::translate("main", "With --write-pages: nothing stands under the pages.")};
+  QCommandLineOption noClobber_{
+      QStringLiteral("no-clobber"),
+      QCoreApplication::translate("main", "With --write-pages: files that are there are left as they are.")};
   QCommandLineOption quiet_{
       QStringLiteral("quiet"),
       QCoreApplication::translate("main", "With --write-pages: the files are not listed.")};
