@@ -51,8 +51,14 @@ std::vector<Publication> growthStandardPublications() {
       {"Hadlock FP, Deter RL, Harrist RB, Park SK. Estimating fetal age: computer-assisted analysis of "
        "multiple fetal growth parameters. Radiology 1984;152:497\u2013501. PMID 6739822",
        Confirmation::seen,
-       translatable("References",
-                    "Weeks 12 and 13 lie outside the published sample, which has 14 to 42 weeks.")},
+       translatable(
+           "References",
+           "Weeks 12 and 13 lie outside the published sample, which has 14 to 42 weeks. The AC is the "
+           "paper's "
+           "equation, not its table, which is up to 1.68 mm higher. Dating reads the table of sizes "
+           "backwards; "
+           "the paper's own age equations, which scanners use, give other ages: HC 5 to 9.9 days more at 26 "
+           "to 37 weeks, BPD 11.5 days less and AC 6.7 days less at 40, FL 3.6 days more at 29 to 30.")},
       {"Schluter PJ, Pritchard G, Gill MA. Ultrasonic fetal size measurements in Brisbane, Australia. "
        "Australas Radiol 2004;48:480\u2013486",
        Confirmation::awaited,
@@ -76,9 +82,8 @@ std::vector<Publication> weightFormulaPublications() {
        "fetal weight. Br J Obstet Gynaecol 1975;82:689\u2013697",
        Confirmation::partlySeen, ""},
       {"Combs CA, Jaekle RK, Rosenn B, Pope M, Miodovnik M, Siddiqi TA. Sonographic estimation of fetal "
-       "weight based on a model of fetal volume. Obstet Gynecol 1993;82:365\u2013370",
-       Confirmation::partlySeen,
-       translatable("References", "Journal and pages are given differently elsewhere.")},
+       "weight based on a model of fetal volume. Obstet Gynecol 1993;82:365\u2013370. PMID 8355935",
+       Confirmation::seen, ""},
       {"Ott WJ, Doyle S, Flamm S, Wittman J. Accurate ultrasonic estimation of fetal weight: prospective "
        "analysis of new ultrasonic formulas. Am J Perinatol 1986;3:307\u2013310",
        Confirmation::awaited, ""},
@@ -96,12 +101,17 @@ std::vector<Publication> crlFormulaPublications() {
        Confirmation::seen, ""},
       {"Nelson LH. Comparison of methods for determining crown-rump measurement by real-time ultrasound. "
        "J Clin Ultrasound 1981;9:67\u201370",
-       Confirmation::partlySeen, ""},
+       Confirmation::partlySeen,
+       translatable("References",
+                    "No second source has this formula. Compared with Hadlock (1992) it gives 9.4 days more "
+                    "at 6.7 mm, "
+                    "2.9 days more at 20 mm, the same at 30 mm and 1.3 days less at 45 mm.")},
       {"Robinson HP, Fleming JEE. A critical evaluation of sonar \"crown-rump length\" measurements. "
        "Br J Obstet Gynaecol 1975;82(9):702\u2013710. PMID 1182090",
        Confirmation::seen,
        translatable("References", "The constant is 23.72 here; publications have 23.73.")},
-      {kWesterway2000, Confirmation::partlySeen, ""},
+      {kWesterway2000, Confirmation::partlySeen,
+       translatable("References", "Two independent sources have the same formula.")},
   }};
   return joined(crlFormulas(), &CRLFormula::label, kSources);
 }

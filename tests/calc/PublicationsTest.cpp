@@ -58,9 +58,29 @@ TEST(Publications, areThoseThatTheLabelsName) {
 TEST(Publications, saySoWhereTheyAreToBeConfirmed) {
   EXPECT_EQ(growthStandardPublications()[1].confirmation, Confirmation::seen);
   EXPECT_EQ(growthStandardPublications()[2].confirmation, Confirmation::awaited);
-  EXPECT_EQ(weightFormulaPublications()[5].confirmation, Confirmation::partlySeen);
+  EXPECT_EQ(weightFormulaPublications()[5].confirmation, Confirmation::seen);
   EXPECT_EQ(weightFormulaPublications()[6].confirmation, Confirmation::awaited);
   EXPECT_EQ(crlFormulaPublications()[1].confirmation, Confirmation::partlySeen);
+}
+
+TEST(Publications, warnBesideNelsonOfTheDaysThatItIsOff) {
+  // 51.0008 + 0.6 CRL days against exp of a polynomial in cm, in weeks.
+  const std::string remark(crlFormulaPublications()[1].remark);
+  EXPECT_THAT(remark, HasSubstr("No second source"));
+  EXPECT_THAT(remark, HasSubstr("9.4 days more at 6.7 mm"));
+  const auto days = [](double crl) {
+    return 7.0 * (menstrualAgeFromCRLNelson(crl) - menstrualAgeFromCRLHadlock(crl));
+  };
+  EXPECT_NEAR(days(6.7), 9.4, 0.05);
+  EXPECT_NEAR(days(20.0), 2.9, 0.05);
+  EXPECT_NEAR(days(30.0), 0.0, 0.05);
+  EXPECT_NEAR(days(45.0), -1.3, 0.05);
+}
+
+TEST(Publications, sayThatScannersDateOtherwiseByHadlock) {
+  const std::string remark(growthStandardPublications()[1].remark);
+  EXPECT_THAT(remark, HasSubstr("the paper's own age equations, which scanners use, give other ages"));
+  EXPECT_THAT(remark, HasSubstr("equation, not its table"));
 }
 
 TEST(Publications, standWordByWordOnThePageOfTheSources) {

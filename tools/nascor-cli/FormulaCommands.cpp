@@ -165,7 +165,8 @@ Command crlCommand() {
               "dash (0 in\n"
               "JSON). A line of standard input that is no number is answered by nan (null in JSON).\n"
               "A length that no formula dates is named on standard error, of standard input the first one.\n"
-              "The formulas, by identifier: 0 Hadlock (1992), 2 to 120 mm; 1 Nelson (1981), 6.7 to 82.4 mm;\n"
+              "The formulas, by identifier: 0 Hadlock (1992), 2 to 120 mm; 1 Nelson (1981), 6.7 to 82.4 mm\n"
+              "(no second source has it; 9 days more than Hadlock (1992) at 7 mm, 3 days more at 20 mm);\n"
               "2 Robinson (1975), 7 to 79.6 mm; 3 Westerway (2000), 2 to 87 mm.\n",
           .operands = kOperands,
           .options = kOptions,
