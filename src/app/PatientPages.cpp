@@ -12,6 +12,8 @@ using framework::Rect;
 constexpr double kMargin = 10.0;
 constexpr double kTitleHeight = 30.0;
 constexpr double kStripHeight = 50.0;
+/// With room for the strip's two titles below each other.
+constexpr double kHighStripHeight = 62.0;
 
 /// Under the chart, as far to the right and as wide as the chart's plotting area.
 Rect under(const Rect& chart, double height) {
@@ -20,27 +22,29 @@ Rect under(const Rect& chart, double height) {
 
 // A chart page: its title line, the chart, the axis strip under it.
 
+double stripHeight(double pageWidth) {
+  return pageWidth < framework::Page::kWidth ? kHighStripHeight : kStripHeight;
+}
+
 Rect chartPlacement(double width, double height) {
   return {.x = kMargin,
           .y = kTitleHeight,
           .width = width - 2.0 * kMargin,
-          .height = height - kTitleHeight - kStripHeight - kMargin};
+          .height = height - kTitleHeight - stripHeight(width) - kMargin};
 }
 
 Rect stripPlacement(double width, double height) {
-  return under(chartPlacement(width, height), kStripHeight);
+  return under(chartPlacement(width, height), stripHeight(width));
 }
 
-// The trends: two rows and two columns of charts, each with its caption above it; a strip under each column, with room for
-// its two titles below each other.
+// The trends: two rows and two columns of charts, each with its caption above it; a strip under each column.
 
 constexpr double kCaptionHeight = 18.0;
-constexpr double kTrendsStripHeight = 62.0;
 constexpr std::size_t kRows = 2;
 
 Rect summaryPlacement(std::size_t row, std::size_t column, double width, double height) {
   const double columnWidth = (width - 2.0 * kMargin) / 2.0;
-  const double rowHeight = (height - kTitleHeight - kTrendsStripHeight) / static_cast<double>(kRows);
+  const double rowHeight = (height - kTitleHeight - kHighStripHeight) / static_cast<double>(kRows);
   return {.x = kMargin + static_cast<double>(column) * columnWidth,
           .y = kTitleHeight + static_cast<double>(row) * rowHeight + kCaptionHeight,
           .width = columnWidth,
@@ -63,7 +67,7 @@ framework::Page::Placement captionOver(std::size_t row, std::size_t column) {
 
 framework::Page::Placement trendsStrip(std::size_t column) {
   return [column](double width, double height) {
-    return under(summaryPlacement(kRows - 1, column, width, height), kTrendsStripHeight);
+    return under(summaryPlacement(kRows - 1, column, width, height), kHighStripHeight);
   };
 }
 

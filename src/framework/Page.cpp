@@ -1,7 +1,7 @@
 #include "framework/Page.h"
 
-#include "foundation/Utf8.h"
 #include "framework/Canvas.h"
+#include "framework/FittingText.h"
 
 namespace nascor::framework {
 
@@ -12,24 +12,10 @@ constexpr Point kTitlePlace{.x = 50.0, .y = 10.0};
 /// `title` as it fits into `width`. What tells one title from another stands at both ends of it, gravidity and fetus at the
 /// second: so it is the middle that goes.
 std::string fittingTitle(const std::string& title, const Canvas& canvas, double width) {
-  if (canvas.textWidth(title, {}) <= width) return title;
   constexpr std::size_t kMostOfEnd = 40;  // bytes
   const std::size_t last = title.rfind(" (");
-  const std::string end =
-      last != std::string::npos && title.size() - last <= kMostOfEnd ? title.substr(last) : std::string();
-  std::string start = title.substr(0, title.size() - end.size());
-  const auto shortened = [&](std::size_t bytes) {
-    while (bytes > 0 && (static_cast<unsigned char>(start[bytes]) & 0xC0U) == 0x80U) --bytes;
-    return start.substr(0, bytes) + "\u2026" + end;
-  };
-  // Half of what is in question at each step: a reference ID may have any length.
-  std::size_t fits = 0;
-  std::size_t tooMuch = start.size();
-  while (tooMuch - fits > 1) {
-    const std::size_t middle = fits + (tooMuch - fits) / 2;
-    (canvas.textWidth(shortened(middle), {}) <= width ? fits : tooMuch) = middle;
-  }
-  return shortened(fits);
+  const bool hasEnd = last != std::string::npos && title.size() - last <= kMostOfEnd;
+  return fittingText(title, hasEnd ? title.size() - last : 0, canvas, width);
 }
 
 }  // namespace

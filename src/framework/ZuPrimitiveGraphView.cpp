@@ -6,6 +6,7 @@
 #include "foundation/ConvertInteger.h"
 #include "foundation/Localizer.h"
 #include "foundation/NumberText.h"
+#include "framework/FittingText.h"
 
 namespace nascor::framework {
 namespace {
@@ -108,12 +109,18 @@ void ZuPrimitiveGraphView::drawYAxis() {
 }
 
 void ZuPrimitiveGraphView::drawReferenceTitle() {
-  const double width = canvas().textWidth(referenceTitle_, {});
+  // What stands behind a stroke is a title of its own: where there is room for some of both, the end of the first goes.
+  const std::size_t stroke = std::min(referenceTitle_.rfind(" / "), referenceTitle_.size());
+  const std::string end = referenceTitle_.substr(stroke);
+  const bool keepsEnd = canvas().textWidth(end, {}) <= graphRect_.width * 2.0 / 3.0;
+  const std::string title =
+      fittingText(referenceTitle_, keepsEnd ? end.size() : 0, canvas(), graphRect_.width);
+  const double width = canvas().textWidth(title, {});
   double base = graphRect_.y - kTick - 3.0 * kGap - 2.0 * kTextHeight;
   // Where the two titles do not fit on one line, this one takes the next.
   const double room = graphRect_.width - canvas().textWidth(xTitle_, {}) - 4.0 * kGap;
   if (width > room) base -= kTextHeight + kGap;
-  canvas().text(referenceTitle_, {std::max(graphRect_.x, graphRect_.x + graphRect_.width - width), base}, {});
+  canvas().text(title, {std::max(graphRect_.x, graphRect_.x + graphRect_.width - width), base}, {});
 }
 
 void ZuPrimitiveGraphView::plotMark(int code, double x, double y) {

@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 #include <string>
@@ -21,6 +22,47 @@ class ADriver : public testing::Test {
            !answer["error"].get<std::string>().empty();
   }
 };
+
+TEST_F(ADriver, drawsTheTitlesOfAStripWithinItsViewAtAnySize) {
+  constexpr double kTextHeight = 10.0;
+  constexpr double kAdvance = 6.0;
+  say(R"({"new":true})");
+  for (const int width : {1600, 800, 799, 640, 440, 300, 150}) {
+    for (const int height : {1100, 560, 300, 200}) {
+      for (int page = 0; page <= 5; ++page) {
+        const Json line{{"draw", {page, width, height}}};
+        Json view;
+        int titles = 0;
+        for (const Json& entry : say(line.dump())["draw"]) {
+          if (entry[0] == "view") view = entry;
+          if (entry[0] != "text" || !view[1].get<std::string>().starts_with("NoYaxis")) continue;
+          const auto text = entry[2].get<std::string>();
+          if (!text.starts_with("Nas")) continue;
+          ++titles;
+          const std::string where = line.dump() + entry.dump() + view.dump();
+          const auto bytesOfOneSign = [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U; };
+          const auto signs = static_cast<double>(std::ranges::count_if(text, bytesOfOneSign));
+          EXPECT_GE(entry[3], 0) << where;
+          EXPECT_LE(entry[3].get<double>() + kAdvance * signs, view[2][2].get<double>()) << where;
+          EXPECT_GE(entry[4], 0) << where;
+          EXPECT_LE(entry[4].get<double>() + kTextHeight, view[2][3].get<double>()) << where;
+        }
+        EXPECT_EQ(titles, page == 0 ? (width > 150 ? 2 : 0) : 1) << line;
+      }
+    }
+  }
+}
+
+TEST_F(ADriver, placesTheTitleOfAStripAtTheWindowsSize) {
+  say(R"({"new":true})");
+  const Json drawn = say(R"({"draw":5})")["draw"];
+  // The right end of 720 units, less 72 signs of 6; one line below the weeks.
+  EXPECT_THAT(drawn, testing::Contains(Json{"text", "Black",
+                                            "Nascor Standard: Westerway (ASUM 2001) / Fetal Weight Formula: "
+                                            "Hadlock 1",
+                                            720 - 72 * 6, 6}));
+  EXPECT_THAT(drawn, testing::Contains(Json{"view", "NoYaxisEFWGraphView", {60, 500, 720, 50}}));
+}
 
 TEST_F(ADriver, refusesLinesThatAreNoRequestsAndGoesOn) {
   for (const char* line : {"",

@@ -201,5 +201,19 @@ TEST_F(AGraphView, writesItsReferenceTitleBelowTheOtherWhereTheyWouldMeet) {
   EXPECT_LE(canvas.text("01234567890123456789012")->point.y, line - kTextHeight);
 }
 
+TEST_F(AGraphView, leavesOutWhatOfItsReferenceTitleIsWiderThanItsPlottingArea) {
+  const auto view = make<ShiftedView>(platform.services(), {0, 0, 250, 130});  // 200 wide: 33 characters
+  const auto title = [&](const std::string& text) {
+    canvas.clear();
+    view->setReferenceTitle(text);
+    view->display(canvas);
+    return canvas.of(Kind::text).back();
+  };
+  EXPECT_EQ(title("012345678901234567890123456789012").text, "012345678901234567890123456789012");
+  EXPECT_EQ(title("0123456789012345678901234567890123").text, "01234567890123456789012345678901\u2026");
+  EXPECT_EQ(title("0123456789012345678901234 / 9012345678").text, "0123456789012345678\u2026 / 9012345678");
+  EXPECT_EQ(title("0123456789 / 678901234567890123456789").text, "0123456789 / 6789012345678901234\u2026");
+}
+
 }  // namespace
 }  // namespace nascor::framework
