@@ -59,7 +59,12 @@ NCDocument::NCDocument(const framework::DocumentEnvironment& environment)
 NCDocument::~NCDocument() = default;
 
 std::vector<std::byte> NCDocument::dataRepresentationOfType(std::string_view) const {
-  return patientRecord_ ? model::archivedPatient(*patientRecord_) : std::vector<std::byte>{};
+  if (!patientRecord_) return {};
+  const double shown = patientRecord_->extrapolatedGestation();
+  patientRecord_->setExtrapolatedGestation(gestationInFile_.value_or(shown));
+  std::vector<std::byte> bytes = model::archivedPatient(*patientRecord_);
+  patientRecord_->setExtrapolatedGestation(shown);
+  return bytes;
 }
 
 bool NCDocument::loadDataRepresentation(std::span<const std::byte> data, std::string_view) {

@@ -287,6 +287,8 @@ class NCDocument final : public framework::CorvelDocument,
   std::string referenceIDForFileName() const override;
   std::string exportName() const override { return preferredFileName(true); }
 
+  /// Which fetus is on show and how much was measured of it.
+  std::string whatGoesWithFetus() const;
   framework::NumberField& fieldFor(calc::Measurement measurement);
   /// The measurement that `field` shows; nothing for another field.
   std::optional<calc::Measurement> measurementOf(const framework::TextField& field);
@@ -308,8 +310,11 @@ class NCDocument final : public framework::CorvelDocument,
   void enterEDD(const ProposedEDD& proposal, framework::Panel& window);
   /// The dialog of the measurements shows what the window shows, as long as it is open.
   void refreshEDDfromMeasurements();
-  std::optional<foundation::Date> dateFromField(const framework::TextField& field,
-                                                const std::optional<foundation::Date>& held) const;
+  /// Gives the dates that the user or a dialog has set to the records, and with them all dates of the document their days,
+  /// so that no age is between a day and a moment. Dates that were not set keep the moment of their file.
+  void takeDates();
+  /// A date without a day stays as it is.
+  std::optional<foundation::Date> beginningOfDay(const std::optional<foundation::Date>& date) const;
   double projected(double (model::MeasurementsRecord::*value)() const,
                    void (model::MeasurementsRecord::*store)(double), const charts::NascorGraphView& graph);
 
@@ -317,11 +322,15 @@ class NCDocument final : public framework::CorvelDocument,
   model::MeasurementsRecord extrapolatedMeasurementsRecord_;
   std::int64_t currentFetus_ = 0;
   double avGestation_ = 0.0;
-  /// A fetus was removed and the fields still show its numbers: until they are read anew, only what the user types in them
-  /// belongs to the fetus that took its place.
-  bool measurementFieldsAreStale_ = false;
   /// Read back as the day it already was, or another: the records do not tell that it was typed.
   bool examDateWasTyped_ = false;
+  /// The examination of a new patient is dated so, and is brought to its day when the fields are first taken.
+  std::optional<foundation::Date> madeNow_;
+  /// All dates are to be brought to their days when the fields are next taken.
+  bool examinationWasAdded_ = false;
+  /// The planned gestation that the file holds, which the window may show as a whole day or as the latest that is
+  /// permitted. Written again as long as nothing else is planned.
+  std::optional<double> gestationInFile_;
   foundation::NotificationCenter::Subscription showAllSubscription_;
 
   framework::IntegerField gravidaField_;

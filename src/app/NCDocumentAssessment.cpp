@@ -84,7 +84,7 @@ calc::Biometry NCDocument::typedLengths() {
   for (const Measurement measurement : calc::kMeasurements) {
     const framework::NumberField& field = fieldFor(measurement);
     // The numbers of a fetus that was removed belong to none.
-    const bool isStale = measurementFieldsAreStale_ && !field.wasEdited() && fieldEditor().field() != &field;
+    const bool isStale = field.isStale() && fieldEditor().field() != &field;
     lengths.*calc::memberFor(measurement) = isStale ? 0.0 : typedNumber(field);
   }
   return lengths;

@@ -39,6 +39,7 @@ void NCDocument::doAdjustDeliveryDate(Sender) {
 
 void NCDocument::adjustDeliveryDate(Sender sender) {
   if (!patientRecord_) return;
+  if (sender != this) gestationInFile_.reset();
   const double days = adjustDeliveryStepper_.value();
   patientRecord_->setExtrapolatedGestation(calc::plannedGestation(days));
   if (!patientRecord_->edd()) return;

@@ -140,7 +140,7 @@ NCDocument::ProposedEDD NCDocument::proposed(const std::optional<foundation::Dat
 
 void NCDocument::enterEDD(const ProposedEDD& proposal, Panel& window) {
   if (!patientRecord_ || proposal.text.empty()) return;
-  birthDateField().setText(proposal.text);
+  birthDateField().takeEditedText(proposal.text);
   cancelDialog(window);
   directUpdateDisplayAndSetDirty(true);
   adjustDeliveryDate(this);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <compare>
+#include <utility>
 
 #include "app/NCDocument.h"
 #include "calc/Dating.h"
@@ -18,6 +19,7 @@ void NCDocument::addExamination() {
   const std::int64_t fetuses = std::min(patientRecord_->numberOfFetuses(), kMostRecords);
   patientRecord_->addNCRecordWithNumberOfFetuses(fetuses, services().clock);
   setCurrentExam(numberOfExaminations() - 1);
+  examinationWasAdded_ = true;
 }
 
 void NCDocument::deleteCurrentExamination() {
@@ -80,8 +82,29 @@ void NCDocument::deleteFetus(Sender) {
       {.message = localizer.text("NCDocument", "Are you sure you want to remove this fetus?"),
        .information = "",
        .defaultButton = localizer.text("CorvelDocument", "Remove"),
-       .alternateButton = localizer.text("ZuVersion", "Cancel")},
+       .alternateButton = localizer.text("ZuVersion", "Cancel"),
+       .addition = whatGoesWithFetus()},
       [this](framework::AlertReturn returnCode) { deleteFetusAlertDidEnd(returnCode); });
+}
+
+std::string NCDocument::whatGoesWithFetus() const {
+  std::int64_t lengths = 0;
+  for (std::int64_t exam = 0; exam < numberOfExaminations(); ++exam) {
+    const model::MeasurementsRecord* measured = measurementsForCurrentFetus(exam);
+    if (!measured) continue;
+    lengths += std::ranges::count_if(calc::kMeasurements, [&](calc::Measurement measurement) {
+      return measured->biometry().*calc::memberFor(measurement) != 0.0;
+    });
+  }
+  // Not the title that the pop-up shows: a damaged file may have more fetuses than the pop-up has items.
+  const auto labels = model::fetusLabels(patientRecord_->numberOfFetuses());
+  std::string which;
+  if (currentFetus_ >= 0 && std::cmp_less(currentFetus_, labels.size())) {
+    which = services().localizer.text("NCDocument", labels[static_cast<std::size_t>(currentFetus_)]) + ". ";
+  }
+  return which + foundation::format(
+                     services().localizer.text("NCDocument", "Lengths that will be removed with it: %ld."),
+                     {lengths});
 }
 
 void NCDocument::deleteFetusAlertDidEnd(framework::AlertReturn returnCode) {
@@ -89,8 +112,10 @@ void NCDocument::deleteFetusAlertDidEnd(framework::AlertReturn returnCode) {
   updateChangeCount(ChangeType::changeDone);
   patientRecord_->deleteFetus(currentFetus_);
   // The fields go on showing the removed fetus, and no pop-up item is chosen anew. What they show belongs to nobody.
-  measurementFieldsAreStale_ = true;
-  for (const calc::Measurement measurement : calc::kMeasurements) fieldFor(measurement).forgetEdits();
+  for (const calc::Measurement measurement : calc::kMeasurements) {
+    fieldFor(measurement).forgetEdits();
+    fieldFor(measurement).setStale();
+  }
   updateMultiplePopUp();
   showWhatTakesTyping();
   assess();

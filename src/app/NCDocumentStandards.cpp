@@ -20,6 +20,7 @@ std::int64_t NCDocument::fetalWeightStandard() const {
 void NCDocument::doSetStandard(std::int64_t standard) {
   if (!patientRecord_) return;
   patientRecord_->setStandard(standard);
+  gestationInFile_.reset();  // the plan is as late as the new standard permits, and stays so
   updateAdjustDeliveryStepperForNewStandard();
   services().notifications.post(NotificationName::updateStandards, this);
   services().defaults.setValue(defaults_key::standard, std::to_string(patientRecord_->standard()));

@@ -2,8 +2,10 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "app/NCDocument.h"
+#include "calc/Dating.h"
 #include "calc/EditingBounds.h"
 #include "foundation/Calendar.h"
 #include "foundation/DateText.h"
@@ -19,24 +21,24 @@ using foundation::Date;
 using framework::TextField;
 
 void NCDocument::windowControllerDidLoadNib() {
+  examDateWasTyped_ = false;
+  examinationWasAdded_ = false;
+  madeNow_.reset();
+  statusLine().clear();
   if (!patientRecord_) {
     patientRecord_ = std::make_unique<model::PatientRecord>(services().clock, services().defaults);
+    madeNow_ = patientRecord_->ncRecordsArray().front()->examDate();
     setLookUpRequired(true);
   }
-  examDateWasTyped_ = false;
-  statusLine().clear();
   showAllSubscription_ =
       services().notifications.subscribe(foundation::NotificationName::updateShowAll,
                                          [this](const foundation::Notification&) { updateShowAll(); });
 
-  // A file holds the gestation in single precision. A whole number of days is shown as such, or every opening would plan
-  // the delivery a second early, which is the day before.
-  const double days = (patientRecord_->extrapolatedGestation() - 40.0) * 7.0;
-  const double whole = std::round(days);
-  const double shown = std::abs(days - whole) < 0.001 ? whole : days;
-  adjustDeliveryStepper_.setMinimum(std::min(adjustDeliveryStepper_.minimum(), std::floor(shown)));
-  adjustDeliveryStepper_.setMaximum(std::max(7.0, std::ceil(shown)));
-  adjustDeliveryStepper_.setValue(shown);
+  gestationInFile_ = patientRecord_->extrapolatedGestation();
+  const double days = calc::plannedDays(*gestationInFile_, standard());
+  adjustDeliveryStepper_.setMinimum(std::min(adjustDeliveryStepper_.minimum(), std::floor(days)));
+  adjustDeliveryStepper_.setMaximum(calc::plannedDeliveryDays(standard()).greatest);
+  adjustDeliveryStepper_.setValue(days);
 
   setCurrentExam(lastExam());
   setCurrentFetus(0);
@@ -73,7 +75,6 @@ void NCDocument::synchronizeFromData() {
       fieldFor(measurement).clear();
     }
   }
-  measurementFieldsAreStale_ = false;
   notesField().setText(exam ? exam->note().value_or("") : "");
   showWhatTakesTyping();
   updateDisplay();
@@ -91,23 +92,47 @@ void NCDocument::showWhatTakesTyping() {
 void NCDocument::synchronizeToData() {
   if (!patientRecord_) return;
   foundation::dateForm(services().localizer);
-  patientRecord_->setMaternalIDString(referenceIDField().text());
+  // A file may lack a text. It is shown as an empty one, and stays missing until something is typed.
+  if (referenceIDField().text() != patientRecord_->maternalIDString().value_or(""))
+    patientRecord_->setMaternalIDString(referenceIDField().text());
   patientRecord_->setGravida(gravidaField_.integerValue());
-  patientRecord_->setEDD(dateFromField(birthDateField(), patientRecord_->edd()));
+  takeDates();
   notesField().forgetEdits();
   model::NCRecord* exam = currentExamination();
   if (!exam) return;
-  exam->setExamDate(dateFromField(examDateField(), exam->examDate()));
   if (model::MeasurementsRecord* measured = currentMeasurements()) {
     calc::Biometry lengths = measured->biometry();
     for (const Measurement measurement : calc::kMeasurements) {
       const framework::NumberField& field = fieldFor(measurement);
-      if (measurementFieldsAreStale_ && !field.wasEdited()) continue;
-      lengths.*calc::memberFor(measurement) = field.doubleValue();
+      if (!field.isStale()) lengths.*calc::memberFor(measurement) = field.doubleValue();
     }
     *measured = model::MeasurementsRecord(lengths);
   }
-  exam->setNote(notesField().text());
+  if (notesField().text() != exam->note().value_or("")) exam->setNote(notesField().text());
+}
+
+void NCDocument::takeDates() {
+  model::NCRecord* exam = currentExamination();
+  const bool setsEDD = birthDateField().wasEdited();
+  const bool setsExamDate = exam != nullptr && examDateField().wasEdited();
+  if (setsEDD) patientRecord_->setEDD(dateFromText(birthDateField()));
+  if (setsExamDate) exam->setExamDate(dateFromText(examDateField()));
+  birthDateField().forgetEdits();
+  examDateField().forgetEdits();
+
+  const bool allToTheirDays = std::exchange(examinationWasAdded_, false) || setsEDD || setsExamDate;
+  const std::optional<Date> madeNow = std::exchange(madeNow_, std::nullopt);
+  if (allToTheirDays) patientRecord_->setEDD(beginningOfDay(patientRecord_->edd()));
+  for (const auto& record : patientRecord_->ncRecordsArray()) {
+    if (allToTheirDays || (madeNow && record->examDate() == madeNow))
+      record->setExamDate(beginningOfDay(record->examDate()));
+  }
+}
+
+std::optional<Date> NCDocument::beginningOfDay(const std::optional<Date>& date) const {
+  if (!date) return date;
+  const auto day = foundation::localDay(*date, services().calendar);
+  return day ? foundation::startOfDay(*day, services().calendar) : date;
 }
 
 void NCDocument::updateDisplay() {
@@ -224,12 +249,6 @@ bool NCDocument::mayModify(const std::string& message, const std::string& inform
 std::string NCDocument::shortDateText(const std::optional<Date>& date) const {
   foundation::dateForm(services().localizer);
   return foundation::shortDateText(date, services().calendar, services().localizer);
-}
-
-std::optional<Date> NCDocument::dateFromField(const TextField& field, const std::optional<Date>& held) const {
-  // A date that has no text is shown as nothing; it stays until the user types in its field.
-  if (held && field.text().empty() && !field.wasEdited() && shortDateText(held).empty()) return held;
-  return dateFromText(field);
 }
 
 std::optional<Date> NCDocument::dateFromText(const TextField& field) const {

@@ -1,9 +1,11 @@
 #include "calc/Dating.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <utility>
 
+#include "calc/EditingBounds.h"
 #include "foundation/ConvertInteger.h"
 
 namespace nascor::calc {
@@ -145,6 +147,12 @@ std::size_t nearestDate(Date target, std::span<const std::optional<Date>> dates)
     }
   }
   return nearest;
+}
+
+double plannedDays(double gestation, std::int64_t standard) {
+  const double days = (gestation - 40.0) * 7.0;
+  const double whole = std::round(days);
+  return std::min(std::abs(days - whole) < 0.001 ? whole : days, plannedDeliveryDays(standard).greatest);
 }
 
 double plannedGestation(double days) { return days / 7.0 + 40.0; }

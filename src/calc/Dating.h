@@ -69,6 +69,11 @@ std::optional<foundation::Date> eddFromLMP(foundation::Date lmp, std::int64_t cy
 foundation::Date eddFromMeasurements(foundation::Date examDate, double averageGestation,
                                      const foundation::Calendar& calendar);
 
+/// The days from the EDD to the delivery that a document plans at `gestation` weeks, under the growth standard of that
+/// identifier: no more than it permits (calc/EditingBounds.h). A file holds the gestation in single precision; within a
+/// thousandth of a whole day it is that day, or the plan would read a day short.
+double plannedDays(double gestation, std::int64_t standard);
+
 /// The gestation, in weeks, of a delivery planned `days` after the EDD (before it when negative).
 double plannedGestation(double days);
 

@@ -17,6 +17,7 @@ struct Alert {
   /// Whether the Return key cancels: what the default button does cannot be taken back.
   bool isCancelledByReturn = false;
   const Panel* window = nullptr;  ///< the panel that is asked on; null for the document's own window
+  std::string addition = {};      ///< what else a person reads beneath the information; may be empty
 };
 
 /// What was answered: 1 for the default button, 0 for the alternate one.

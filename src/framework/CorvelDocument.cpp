@@ -25,10 +25,14 @@ CorvelDocument::CorvelDocument(const DocumentEnvironment& environment)
 
 bool CorvelDocument::commitEditing() {
   const bool ended = fieldEditor_.end();
-  // The note has no field editor: what was typed waits in its view for the next synchronisation. It is stored beside a
-  // field that refuses too, or closing with such a field would lose it.
-  if (notesField_.wasEdited()) synchronizeToData();
+  // The note is stored beside a field that refuses too, or closing with such a field would lose it.
+  noteWasLeft();
   return ended;
+}
+
+void CorvelDocument::noteWasLeft() {
+  // The note has no field editor: what was typed waits in its view for the next synchronisation.
+  if (notesField_.wasEdited()) synchronizeToData();
 }
 
 void CorvelDocument::nextExamination() { showExamination(currentExam_ + 1); }

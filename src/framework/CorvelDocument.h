@@ -59,6 +59,8 @@ class CorvelDocument : public ZuDocument, public virtual GraphDocument, protecte
   StatusLine& statusLine() { return statusLine_; }
 
   bool commitEditing() override;
+  /// The user has left the note: what was typed there reaches the records, whatever a field holds back.
+  void noteWasLeft();
 
   /// @}
   /// @name The examination on show

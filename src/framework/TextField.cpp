@@ -17,6 +17,11 @@ void TextField::setRed(bool red) {
   if (onChange) onChange();
 }
 
+void TextField::setStale() {
+  isStale_ = true;
+  if (onChange) onChange();
+}
+
 void TextField::setEditable(bool editable) {
   if (std::exchange(isEditable_, editable) != editable && onChange) onChange();
 }
@@ -24,6 +29,7 @@ void TextField::setEditable(bool editable) {
 void TextField::show(std::string text, bool wasEdited) {
   text_ = std::move(text);
   wasEdited_ = wasEdited;
+  isStale_ = false;
   if (onChange) onChange();
 }
 

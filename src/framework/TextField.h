@@ -47,6 +47,10 @@ class TextField {
   bool isRed() const { return isRed_; }
   void setRed(bool red);
 
+  /// Whether what is shown belongs to nothing any more: it is there to be read only. Until the next text is shown or typed.
+  bool isStale() const { return isStale_; }
+  void setStale();
+
   /// Asks the view to select the text, so that typing replaces it.
   void selectText() const {
     if (onSelectText) onSelectText();
@@ -64,6 +68,7 @@ class TextField {
   std::string text_;
   bool wasEdited_ = false;
   bool isRed_ = false;
+  bool isStale_ = false;
   bool isEditable_ = true;
 };
 

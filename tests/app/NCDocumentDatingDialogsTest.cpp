@@ -70,7 +70,7 @@ class TheDatingDialogs : public testing::Test {
     return all;
   }
   void establishEDD() {
-    field("birthDateField").setText("4/10/27");
+    field("birthDateField").takeEditedText("4/10/27");
     document.synchronizeToData();
   }
 

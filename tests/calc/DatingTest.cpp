@@ -317,6 +317,31 @@ TEST(PlannedDelivery, countsDaysFromTheEdd) {
   }
 }
 
+TEST(PlannedDays, areWholeWhereSinglePrecisionMissesThemAndNoneTooMany) {
+  constexpr std::int64_t kWesterway = 0;
+  constexpr std::int64_t kCFEF = 3;
+  struct Case {
+    double gestation;
+    std::int64_t standard;
+    double days;
+  };
+  constexpr Case kCases[] = {
+      {39.428569793701172, kWesterway, -4.0},  // 39 3/7 in single precision
+      {40.142856597900391, kWesterway, 1.0},   // 40 1/7
+      {39.999, kWesterway, (39.999 - 40.0) * 7.0},
+      {40.5, kWesterway, 3.5},
+      {40.5, kCFEF, 0.0},
+      {41.0, kWesterway, 7.0},
+      {42.0, kWesterway, 7.0},
+      {0.0, kWesterway, -280.0},
+      {kInfinity, kWesterway, 7.0},
+      {-kInfinity, kWesterway, -kInfinity},
+      {kNaN, kWesterway, kNaN},
+  };
+  for (const Case& row : kCases)
+    EXPECT_TRUE(isExactly(plannedDays(row.gestation, row.standard), row.days)) << row.gestation;
+}
+
 // From an age to an examination.
 
 TEST(DateAtAge, liesTheRestOf40WeeksBeforeTheEdd) {

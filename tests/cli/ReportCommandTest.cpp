@@ -119,6 +119,28 @@ TEST(Report, showsNoAdjustmentOfADeliveryAt40Weeks) {
               HasSubstr("\nDays to Go:           0\n"));
 }
 
+// A file holds the gestation in single precision: 39 weeks and 3 days come back a little short of that. The window takes a
+// plan near a whole day as that day, and one later than the standard permits as the latest; so does the report.
+TEST(Report, plansTheDeliveryAsTheWindowDoes) {
+  struct Case {
+    const char* more;
+    const char* text;
+    double days;
+  };
+  for (const auto& [more, text, days] :
+       {Case{R"("extrapolatedGestation":39.42857142857143,)", "39w 3d", -4.0},
+        Case{R"("extrapolatedGestation":40.14285714285714,)", "40w 1d", 1.0},
+        Case{R"("extrapolatedGestation":42,)", "41w 0d", 7.0},
+        Case{R"("standard":3,"extrapolatedGestation":40.5,)", "40w 0d", 0.0}}) {
+    const std::string stored = document(singleton("2027-01-30", more));
+    const json report = json::parse(run({"report", "-", "--json"}, stored).out);
+    EXPECT_EQ(report["extrapolatedGestationText"], text) << more;
+    EXPECT_NEAR(report["deliveryAdjustment"].get<double>(), days, 1e-12) << more;
+    EXPECT_NEAR(report["extrapolatedGestation"].get<double>(), 40.0 + days / 7.0, 1e-12) << more;
+    EXPECT_THAT(run({"report", "-"}, stored).out, HasSubstr(std::string("\nProjected   ") + text)) << more;
+  }
+}
+
 TEST(Report, doesWithoutDatesAndExaminations) {
   const std::string text =
       run({"report", "-"}, document(R"({"examinations":[{"measurements":[{"bpd":45.25}]}]})")).out;

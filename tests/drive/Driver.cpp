@@ -6,6 +6,7 @@
 #include <array>
 #include <cmath>
 #include <functional>
+#include <set>
 #include <stdexcept>
 
 #include "drive/Drawing.h"
@@ -354,21 +355,22 @@ std::string Driver::answer(std::string_view line) {
 
 Json Driver::perform(const std::string& key, const Json& argument) {
   static const std::map<std::string, Json (Driver::*)(const Json&), std::less<>> lines{
-      {"open", &Driver::openDocument}, {"use", &Driver::use},
-      {"save", &Driver::save},         {"close", &Driver::close},
-      {"edit", &Driver::edit},         {"visit", &Driver::visit},
-      {"revert", &Driver::revert},     {"answer", &Driver::answerQuestions},
-      {"check", &Driver::check},       {"cancel", &Driver::cancel},
-      {"do", &Driver::operation},      {"app", &Driver::applicationOperation},
-      {"menu", &Driver::menu},         {"choose", &Driver::choose},
-      {"step", &Driver::step},         {"tab", &Driver::tab},
-      {"click", &Driver::click},       {"draw", &Driver::draw},
-      {"advance", &Driver::advance},   {"zone", &Driver::zone},
-      {"locale", &Driver::locale},     {"paper", &Driver::paper},
-      {"marks", &Driver::marks},       {"outside", &Driver::outside},
-      {"told", &Driver::told},         {"status", &Driver::status},
-      {"type", &Driver::type},         {"beside", &Driver::beside},
-      {"focus", &Driver::focus},
+      {"open", &Driver::openDocument},   {"use", &Driver::use},
+      {"save", &Driver::save},           {"close", &Driver::close},
+      {"edit", &Driver::edit},           {"visit", &Driver::visit},
+      {"revert", &Driver::revert},       {"answer", &Driver::answerQuestions},
+      {"check", &Driver::check},         {"cancel", &Driver::cancel},
+      {"do", &Driver::operation},        {"app", &Driver::applicationOperation},
+      {"menu", &Driver::menu},           {"choose", &Driver::choose},
+      {"step", &Driver::step},           {"tab", &Driver::tab},
+      {"click", &Driver::click},         {"draw", &Driver::draw},
+      {"advance", &Driver::advance},     {"zone", &Driver::zone},
+      {"locale", &Driver::locale},       {"paper", &Driver::paper},
+      {"marks", &Driver::marks},         {"outside", &Driver::outside},
+      {"told", &Driver::told},           {"status", &Driver::status},
+      {"type", &Driver::type},           {"beside", &Driver::beside},
+      {"focus", &Driver::focus},         {"stale", &Driver::stale},
+      {"additions", &Driver::additions},
   };
   if (key == "new" || key == "state") {
     if (argument != Json(true)) refuse("expected true");
@@ -455,9 +457,10 @@ Json Driver::visit(const Json& field) {
   NCDocument& visited = document();
   const framework::TextField* entered =
       name == visited.notesField().name() ? nullptr : &fieldNamed(visited, name);
-  // Entering a field leaves the one before; a visit itself changes nothing. A field that refuses is in edit already.
+  // Entering a field leaves the one before, and the note; a visit itself changes nothing. A field that refuses is in edit already.
   const bool isInEdit = entered && visited.fieldEditor().field() == entered;
   const bool ended = visited.fieldEditor().end();
+  if (entered) visited.noteWasLeft();
   return {{"began", isInEdit || ended}, {"ended", ended}};
 }
 
@@ -482,6 +485,12 @@ Json Driver::operation(const Json& call) {
   const std::string name = textArgument(call[0], "the name of an operation");
   const auto found = operations().find(name);
   if (found == operations().end()) refuse("there is no operation \"" + name + "\"");
+  // What a click in the window does waits for the field in edit; the other operations go straight to the document.
+  static const std::set<std::string, std::less<>> guarded{"addExaminationAction", "deleteExaminationAction",
+                                                          "nextExamination", "previousExamination"};
+  if (guarded.contains(name)) {
+    if (auto refusal = heldBack(document())) return *refusal;
+  }
   Arguments arguments(call);
   return {{"result", found->second(document(), arguments)}};
 }
@@ -489,6 +498,9 @@ Json Driver::operation(const Json& call) {
 Json Driver::applicationOperation(const Json& call) {
   if (!call.is_array() || call.empty()) refuse("expected an operation and its arguments");
   const std::string name = textArgument(call[0], "the name of an operation");
+  if (NCDocument* front = currentDocument()) {
+    if (auto refusal = heldBack(*front)) return *refusal;
+  }
   Arguments arguments(call);
   const auto tagged = [&] {
     framework::MenuItem item;
@@ -632,6 +644,22 @@ Json Driver::beside(const Json& word) {
 Json Driver::focus(const Json& word) {
   if (word != Json(true)) refuse("expected true");
   return {{"focus", std::exchange(selected_, {})}};
+}
+
+Json Driver::stale(const Json& word) {
+  if (word != Json(true)) refuse("expected true");
+  Json names = Json::array();
+  for (const framework::TextField* field : document().textFields()) {
+    if (field->isStale()) names.push_back(field->name());
+  }
+  return {{"stale", names}};
+}
+
+Json Driver::additions(const Json& word) {
+  if (word != Json(true)) refuse("expected true");
+  Json texts = Json::array();
+  for (const framework::Alert& alert : alerts_.asked) texts.push_back(alert.addition);
+  return {{"additions", texts}};
 }
 
 Json Driver::outside(const Json& call) {

@@ -72,6 +72,10 @@ class Driver {
   Json beside(const Json& word);
   /// The field whose text the document wanted selected last since this was last asked, which has the focus in a window.
   Json focus(const Json& word);
+  /// The fields of the current document that show what belongs to nothing any more.
+  Json stale(const Json& word);
+  /// What stood beneath each question since the last `state`, besides its information.
+  Json additions(const Json& word);
   /// What another program does to the files.
   Json outside(const Json& call);
   Json advance(const Json& seconds);

@@ -1,7 +1,8 @@
-A document from another zone keeps the day that is shown here
+A document from another zone keeps its moments until a date is set here
 
 A file holds moments, not days. Midnight in Sydney is the morning of the day before in New York: there the document shows the day
-before, and keeps that day once a field has been left. It is on the page of known oddities.
+before. Looking and measuring leave its dates alone. A date that is set here brings all of them to the days that they show here,
+together, so that no age is between a day of Sydney and one of New York. It is on the page of known oddities.
 
 {"zone":"Australia/Sydney"}
 {"new":true}
@@ -16,4 +17,7 @@ before, and keeps that day once a field has been left. It is on the page of know
 =~ {"edited":false,"fields":{"birthDateField":"4/9/27","examDateField":"12/23/26"},"document":{"eddISO":"2027-04-09T10:00:00","examinations":[{"examDateISO":"2026-12-23T08:00:00"}]}}
 {"edit":["bpdField","50"]}
 {"state":true}
-=~ {"fields":{"birthDateField":"4/9/27","examDateField":"12/23/26"},"document":{"eddISO":"2027-04-09T00:00:00","examinations":[{"examDateISO":"2026-12-23T00:00:00"}]}}
+=~ {"edited":true,"document":{"eddISO":"2027-04-09T10:00:00","examinations":[{"examDateISO":"2026-12-23T08:00:00"}]}}
+{"edit":["examDateField","12/22/26"]}
+{"state":true}
+=~ {"fields":{"birthDateField":"4/9/27","examDateField":"12/22/26"},"document":{"eddISO":"2027-04-09T00:00:00","examinations":[{"examDateISO":"2026-12-22T00:00:00"}]}}

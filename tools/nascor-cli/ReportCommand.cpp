@@ -40,7 +40,10 @@ struct Row {
 class Report {
  public:
   Report(const PatientRecord& patient, const foundation::Calendar& calendar)
-      : patient_(patient), calendar_(calendar) {
+      : patient_(patient),
+        calendar_(calendar),
+        plannedGestation_(
+            calc::plannedGestation(calc::plannedDays(patient.extrapolatedGestation(), patient.standard()))) {
     for (const Measurement measurement : calc::kMeasurements) {
       calc::appendStandard(tables_.at(static_cast<std::size_t>(measurement)), patient.standard(),
                            measurement);
@@ -55,6 +58,8 @@ class Report {
     return patient_.ncRecordsArray().empty() ? nullptr : patient_.ncRecordsArray().back().get();
   }
 
+  /// In weeks, as the window takes it from the file.
+  double plannedGestation() const { return plannedGestation_; }
   double age(const NCRecord& examination) const {
     return calc::menstrualAge(examination.examDate(), patient_.edd());
   }
@@ -65,13 +70,13 @@ class Report {
 
   bool projectionIsShown() const {
     const NCRecord* last = lastExamination();
-    return last != nullptr && calc::projectionIsShown(age(*last), patient_.extrapolatedGestation());
+    return last != nullptr && calc::projectionIsShown(age(*last), plannedGestation_);
   }
 
   /// "Days to Go:", a tab and the days. Empty when there are none to show.
   std::string daysToGoLine() const {
     if (!patient_.edd() || !projectionIsShown()) return {};
-    return calc::daysToGoLine(patient_.extrapolatedGestation(), english_);
+    return calc::daysToGoLine(plannedGestation_, english_);
   }
 
   std::string fetusLabel(std::size_t fetus) const {
@@ -89,7 +94,7 @@ class Report {
 
   Row projected(std::size_t fetus) const {
     const NCRecord& last = *lastExamination();
-    Row row{.age = patient_.extrapolatedGestation(), .lengths = lengthsOf(last, fetus), .weight = 0.0};
+    Row row{.age = plannedGestation_, .lengths = lengthsOf(last, fetus), .weight = 0.0};
     for (const Measurement measurement : calc::kMeasurements) {
       double& length = row.lengths.*calc::memberFor(measurement);
       length =
@@ -126,6 +131,7 @@ class Report {
 
   const PatientRecord& patient_;
   const foundation::Calendar& calendar_;
+  double plannedGestation_;
   foundation::EnglishLocalizer english_;
   std::array<calc::ReferenceTable, calc::kMeasurements.size()> tables_;
 };
@@ -223,14 +229,14 @@ class JsonReport {
     const auto* formula = calc::weightFormula(patient.fetalWeightStandard());
     json_.key("fetalWeightStandardText").text(formula ? formula->longLabel : "");
     json_.key("numberOfFetuses").integer(patient.numberOfFetuses());
-    json_.key("extrapolatedGestation").number(patient.extrapolatedGestation());
-    json_.key("extrapolatedGestationText").text(report_.ageText(patient.extrapolatedGestation()));
+    json_.key("extrapolatedGestation").number(report_.plannedGestation());
+    json_.key("extrapolatedGestationText").text(report_.ageText(report_.plannedGestation()));
     date("lastExamDate", last ? last->examDate() : std::nullopt,
          last ? report_.dayText(last->examDate()) : "");
     age("lastAge", last ? report_.age(*last) : 0.0);
     json_.key("projectionIsShown").boolean(report_.projectionIsShown());
     const std::string line = report_.daysToGoLine();
-    json_.key("deliveryAdjustment").number(calc::deliveryAdjustment(patient.extrapolatedGestation()));
+    json_.key("deliveryAdjustment").number(calc::deliveryAdjustment(report_.plannedGestation()));
     json_.key("daysToGoText").text(line.empty() ? "" : std::string_view(line).substr(line.find('\t') + 1));
     json_.key("fetuses").beginArray();
     report_.forEachFetus(
