@@ -527,6 +527,10 @@
         <source>Nothing can be entered here: the document holds no record for it.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Belongs to no fetus: the fetus was removed. %1</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>FilePanels</name>
@@ -1221,6 +1225,10 @@
     </message>
     <message>
         <source>The EDD would lie outside the calendar.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lengths that will be removed with it: %ld.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

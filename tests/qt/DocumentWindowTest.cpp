@@ -199,7 +199,7 @@ TEST_F(TheDocumentWindow, addsAFetusAndRemovesOneAfterAQuestion) {
   EXPECT_TRUE(QTest::qWaitFor([&] { return document().patientRecord()->numberOfFetuses() == 1; }));
   ASSERT_EQ(asked.size(), 1U);
   EXPECT_EQ(asked[0].message, "Are you sure you want to remove this fetus?");
-  EXPECT_EQ(asked[0].information, "");
+  EXPECT_EQ(asked[0].information, "Twin 2. Lengths that will be removed with it: 0.");
   EXPECT_THAT(asked[0].buttons, ElementsAre("Remove", "Cancel"));
   EXPECT_EQ(widget<QComboBox>("multiplePopUp").currentText(), QStringLiteral("Singleton"));
   // The smoke stands 20 to the left of the pop-up's upper left corner, half way down.

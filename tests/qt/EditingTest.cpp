@@ -4,6 +4,7 @@
 #include <QDropEvent>
 #include <QInputMethodEvent>
 #include <QMimeData>
+#include <QTabWidget>
 #include <QWheelEvent>
 
 #include "WindowTest.h"
@@ -30,19 +31,97 @@ TEST_F(Editing, bringsWhatIsTypedIntoTheRecordWhenTheFieldIsLeft) {
   EXPECT_EQ(field("bpdField"), "83.3");
 }
 
-TEST_F(Editing, endsWithTheReturnKeyToo) {
+TEST_F(Editing, goesOnToTheNextFieldWithTheReturnKey) {
   open(singleton());
   type("bpdField", "84");
   press(Qt::Key_Return);
   EXPECT_EQ(bpd(), 84.0);
-  EXPECT_EQ(focus(), "bpdField");
+  EXPECT_EQ(focus(), "hcField");
+  EXPECT_EQ(widget<QLineEdit>("hcField").selectedText(), QStringLiteral("0.0"));
+  QTest::keyClicks(front().focusWidget(), QStringLiteral("501"));
+  press(Qt::Key_Return);
+  EXPECT_EQ(focus(), "hcField") << "it refuses";
+  press(Qt::Key_Escape);
+  for (const char* next : {"acField", "flField", "notesField"}) {
+    press(Qt::Key_Return);
+    EXPECT_EQ(focus(), next);
+  }
+  press(Qt::Key_Return);
+  EXPECT_EQ(focus(), "notesField") << "a new line of the note";
+
+  widget<QLineEdit>("birthDateField").setFocus();
+  press(Qt::Key_Return);
+  EXPECT_EQ(focus(), "examDateField") << "what lies between takes no text";
+}
+
+TEST_F(Editing, replacesANumberOrDateThatIsClickedInto) {
+  open(singleton());
+  widget<QWidget>("referenceIDField").setFocus();
+  for (const auto& [name, digits] : {std::pair("bpdField", "35"), std::pair("gravidaField", "4"),
+                                     std::pair("birthDateField", "5"), std::pair("examDateField", "2")}) {
+    auto& edit = widget<QLineEdit>(name);
+    const QPoint behindTheText(edit.width() - 5, edit.height() / 2);
+    QTest::mouseClick(&edit, Qt::LeftButton, {}, behindTheText);
+    settle();
+    EXPECT_EQ(edit.selectedText(), edit.text()) << name;
+    QTest::mouseClick(&edit, Qt::LeftButton, {}, behindTheText);
+    settle();
+    EXPECT_FALSE(edit.hasSelectedText()) << name;
+    EXPECT_EQ(edit.cursorPosition(), edit.text().size()) << name;
+  }
+  auto& bpdEdit = widget<QLineEdit>("bpdField");
+  QTest::mouseClick(&bpdEdit, Qt::LeftButton, {}, QPoint(5, 5));
+  settle();
+  QTest::keyClicks(&bpdEdit, QStringLiteral("35"));
+  press(Qt::Key_Tab);
+  EXPECT_EQ(bpd(), 35.0);
+}
+
+TEST_F(Editing, placesTheCaretInAReferenceIDThatIsClickedInto) {
+  open(singleton());
+  auto& edit = widget<QLineEdit>("referenceIDField");
+  QTest::mouseClick(&edit, Qt::LeftButton, {}, QPoint(edit.width() - 5, edit.height() / 2));
+  settle();
+  EXPECT_FALSE(edit.hasSelectedText());
+}
+
+TEST_F(Editing, storesTheNoteThatIsLeft) {
+  open(singleton());
+  auto& note = widget<QPlainTextEdit>("notesField");
+  note.setFocus();
+  QTest::keyClicks(&note, QStringLiteral("breech "));
+  EXPECT_EQ(document().patientRecord()->ncRecordsArray().back()->note().value_or(""), "");
+  widget<QWidget>("bpdField").setFocus();
+  settle();
+  document().synchronizeFromData();  // as a script does that reads the identifier
+  EXPECT_EQ(note.toPlainText().toStdString(), "breech ");
+  EXPECT_EQ(document().patientRecord()->ncRecordsArray().back()->note(), "breech ");
+}
+
+TEST_F(Editing, greysWhatIsLeftOfARemovedFetus) {
+  open(twins());
+  const auto& edit = widget<QLineEdit>("bpdField");
+  const QColor usual = edit.palette().color(QPalette::Text);
+  answers = {"Remove"};
+  click("deleteFetusButton");
+  ASSERT_TRUE(QTest::qWaitFor([&] { return document().patientRecord()->numberOfFetuses() == 1; }));
+  ASSERT_EQ(asked.size(), 1U);
+  EXPECT_THAT(asked[0].information, testing::StartsWith("Twin 1. Lengths that will be removed with it: "));
+  EXPECT_EQ(edit.palette().color(QPalette::Text), edit.palette().color(QPalette::Disabled, QPalette::Text));
+  EXPECT_NE(edit.palette().color(QPalette::Text), usual);
+  EXPECT_THAT(edit.accessibleDescription().toStdString(), HasSubstr("Belongs to no fetus"));
+  widget<QLineEdit>("hcField").setFocus();
+  enter("hcField", "200");
+  EXPECT_EQ(edit.palette().color(QPalette::Text), usual);
+  EXPECT_THAT(edit.accessibleDescription().toStdString(), testing::Not(HasSubstr("Belongs to no fetus")));
 }
 
 // A digit typed before or behind what was just put into the field would make a number that nobody meant.
 TEST_F(Editing, beginsANewTextWhereTheFieldWasFilledMeanwhile) {
   open(singleton());
   type("bpdField", "50");
-  press(Qt::Key_Return);
+  widget<QTabWidget>("tabView").setCurrentIndex(2);  // which takes what was typed, and not the focus
+  settle();
   QTest::keyClicks(front().focusWidget(), QStringLiteral("61"));
   EXPECT_EQ(field("bpdField"), "61");
   action("previousAction").trigger();
@@ -56,7 +135,8 @@ TEST_F(Editing, beginsANewTextWhereTheFieldWasFilledMeanwhile) {
 TEST_F(Editing, goesOnInATextThatWasOnlyWrittenInCapitals) {
   openBlank();
   type("referenceIDField", "ab-1");
-  press(Qt::Key_Return);
+  widget<QTabWidget>("tabView").setCurrentIndex(2);
+  settle();
   QTest::keyClicks(front().focusWidget(), QStringLiteral("2"));
   EXPECT_EQ(field("referenceIDField"), "AB-12");
 }

@@ -1,6 +1,7 @@
 #include "qt/AdjustDeliveryDialog.h"
 
 #include <QCoreApplication>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QSignalBlocker>
 #include <cmath>
@@ -9,6 +10,7 @@
 #include "foundation/Localizer.h"
 #include "qt/FieldBinding.h"
 #include "qt/LongDate.h"
+#include "qt/SelectOnClick.h"
 #include "qt/Text.h"
 #include "ui_AdjustDelivery.h"
 
@@ -36,6 +38,7 @@ AdjustDeliveryDialog::AdjustDeliveryDialog(app::NCDocument& document, const foun
     });
     refresh();
   });
+  new SelectOnClick(*ui_->adjustDeliveryStepper->findChild<QLineEdit*>());
   bindPanel();
   refresh();
 }

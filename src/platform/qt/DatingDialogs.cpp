@@ -14,6 +14,7 @@
 #include "qt/FieldBinding.h"
 #include "qt/FieldEdit.h"
 #include "qt/LongDate.h"
+#include "qt/SelectOnClick.h"
 #include "qt/Text.h"
 #include "ui_EDDFromCRL.h"
 #include "ui_EDDFromLMP.h"
@@ -46,6 +47,7 @@ DatingDialog::DatingDialog(NCDocument& document, const foundation::Services& ser
 
 void DatingDialog::bindField(FieldEdit& edit) {
   bindings_.push_back(new FieldBinding(edit, fieldFor(edit), document()->fieldEditor(), actions_));
+  new SelectOnClick(edit);
   // Escape closes the dialog, which gives the old text back as well.
   edit.onEscape = nullptr;
   connect(&edit, &QLineEdit::textChanged, this, [this] { forgetObstacles(); });

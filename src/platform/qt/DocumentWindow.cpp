@@ -35,6 +35,7 @@
 #include "qt/Puff.h"
 #include "qt/QtAlerts.h"
 #include "qt/ReferencesDialog.h"
+#include "qt/SelectOnClick.h"
 #include "qt/StrayInput.h"
 #include "qt/Text.h"
 #include "ui_MyDocument.h"
@@ -205,6 +206,10 @@ void DocumentWindow::bindFields() {
        {ui_->flField, &document_->flField()}}};
   for (const auto& [edit, field] : fields)
     bindings_.push_back(new FieldBinding(*edit, *field, editor, environment_.actions));
+  // A reference ID is corrected more often than replaced: a click places the caret there.
+  for (const auto& [edit, field] : fields) {
+    if (edit != ui_->referenceIDField) new SelectOnClick(*edit);
+  }
   bindReadOnly(*ui_->ageField, document_->ageField());
   for (const FieldEdit* edit : {ui_->birthDateField, ui_->examDateField})
     connect(edit, &QLineEdit::textChanged, this, [this] { showLongDates(); });
@@ -219,6 +224,17 @@ void DocumentWindow::bindFields() {
     if (noteEdit->toPlainText() == text) return;
     const QSignalBlocker quiet(noteEdit);
     noteEdit->setPlainText(text);
+  };
+  // Not at once: an action that moved the focus has its own order of storing and showing.
+  noteEdit->onLeave = [this] {
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+          environment_.actions.performInTurn([self = QPointer<DocumentWindow>(this)] {
+            if (self && self->document_) self->document_->noteWasLeft();
+          });
+        },
+        Qt::QueuedConnection);
   };
   connect(noteEdit, &QPlainTextEdit::textChanged, this, [this] {
     if (document_) document_->notesField().takeEditedText(toUtf8(ui_->notesField->toPlainText()));

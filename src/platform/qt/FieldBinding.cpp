@@ -1,8 +1,11 @@
 #include "qt/FieldBinding.h"
 
 #include <QApplication>
+#include <QDialog>
 #include <QMetaObject>
+#include <utility>
 
+#include "qt/NoteEdit.h"
 #include "qt/Text.h"
 
 namespace nascor::qt {
@@ -23,17 +26,27 @@ void show(QLineEdit& edit, const QString& text) {
   }
 }
 
-void showColor(QLineEdit& edit, bool isRed) {
-  constexpr const char* kIsRed = "isRed";
-  if (edit.property(kIsRed).toBool() == isRed) return;
-  edit.setProperty(kIsRed, isRed);
+void showColor(QLineEdit& edit, const framework::TextField& field) {
+  enum Look { kUsual, kRed, kStale };
+  constexpr const char* kLook = "look";
+  const int look = field.isStale() ? kStale : field.isRed() ? kRed : kUsual;
+  if (edit.property(kLook).toInt() == look) return;
+  edit.setProperty(kLook, look);
   QPalette palette = edit.palette();
-  if (isRed) {
-    palette.setColor(QPalette::Text, refusalColor(palette));
-  } else {
-    palette.setColor(QPalette::Text, palette.color(QPalette::WindowText));
-  }
+  palette.setColor(QPalette::Text, look == kRed     ? refusalColor(palette)
+                                   : look == kStale ? palette.color(QPalette::Disabled, QPalette::Text)
+                                                    : palette.color(QPalette::WindowText));
   edit.setPalette(palette);
+}
+
+/// The field of the same window in which the tab key goes on from `edit`; null for none.
+QWidget* nextField(QWidget& edit) {
+  for (QWidget* next = edit.nextInFocusChain(); next != &edit; next = next->nextInFocusChain()) {
+    if (!next->isEnabled() || !next->isVisible() || next->window() != edit.window()) continue;
+    const auto* line = dynamic_cast<FieldEdit*>(next);
+    if ((line != nullptr && !line->isReadOnly()) || dynamic_cast<NoteEdit*>(next) != nullptr) return next;
+  }
+  return nullptr;
 }
 
 }  // namespace
@@ -47,7 +60,7 @@ FieldBinding::FieldBinding(FieldEdit& edit, framework::TextField& field, framewo
     edit_.selectAll();
   };
   connect(&edit, &QLineEdit::textEdited, this, [this](const QString& text) { typed(text); });
-  connect(&edit, &QLineEdit::returnPressed, this, [this] { leave(); });
+  connect(&edit, &QLineEdit::returnPressed, this, [this] { goOn(); });
   // Not at once: the next widget is to have the focus before the user is asked anything.
   edit.onLeave = [this] {
     QMetaObject::invokeMethod(
@@ -69,7 +82,9 @@ void FieldBinding::refresh() {
   show(edit_, fromUtf8(isInEdit() ? editor_.text() : field_->text()));
   edit_.setRefusing(isInEdit() && editor_.isRefusing());
   showEditable();
-  showColor(edit_, field_->isRed());
+  showColor(edit_, *field_);
+  if (std::exchange(wasStale_, field_->isStale()) != field_->isStale())
+    edit_.setAccessibleDescription(description());
 }
 
 void FieldBinding::showEditable() {
@@ -85,6 +100,10 @@ void FieldBinding::showEditable() {
 }
 
 QString FieldBinding::description() const {
+  if (field_ && field_->isStale()) {
+    return QCoreApplication::translate("FieldBinding", "Belongs to no fetus: the fetus was removed. %1")
+        .arg(edit_.toolTip());
+  }
   if (!edit_.isReadOnly()) return edit_.toolTip();
   return QCoreApplication::translate("FieldBinding",
                                      "Nothing can be entered here: the document holds no record for it.");
@@ -129,6 +148,20 @@ void FieldBinding::leave() {
   });
 }
 
+void FieldBinding::goOn() {
+  // In a dialog the Return key presses its button.
+  if (qobject_cast<QDialog*>(edit_.window())) {
+    leave();
+    return;
+  }
+  actions_.performInTurn([self = QPointer<FieldBinding>(this)] {
+    if (!self || (self->isInEdit() && !self->editor_.end())) return;
+    // Leaving the field may have put another document into its place.
+    if (!self || !self->field_) return;
+    if (QWidget* next = nextField(self->edit_)) next->setFocus(Qt::TabFocusReason);
+  });
+}
+
 bool FieldBinding::escape() {
   if (!isInEdit()) return false;
   editor_.revert();
@@ -147,7 +180,7 @@ void bindReadOnly(QLineEdit& edit, framework::TextField& field) {
   letWindowThrough(edit);
   field.onChange = [&edit, &field] {
     show(edit, fromUtf8(field.text()));
-    showColor(edit, field.isRed());
+    showColor(edit, field);
   };
   field.onChange();
 }

@@ -36,6 +36,8 @@ class FieldBinding final : public QObject {
   void typed(const QString& text);
   void showEditable();
   void leave();
+  /// Leaves the field, and goes to the next one unless it refuses its text.
+  void goOn();
   bool escape();
   bool isInEdit() const { return field_ != nullptr && editor_.field() == field_; }
 
@@ -44,6 +46,7 @@ class FieldBinding final : public QObject {
   framework::FieldEditor& editor_;
   Actions& actions_;
   bool isBeginning_ = false;
+  bool wasStale_ = false;
 };
 
 /// Shows the window behind a line that takes no typing.

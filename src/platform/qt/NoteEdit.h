@@ -2,6 +2,7 @@
 
 #include <QMimeData>
 #include <QPlainTextEdit>
+#include <functional>
 
 namespace nascor::qt {
 
@@ -10,7 +11,13 @@ class NoteEdit final : public QPlainTextEdit {
  public:
   using QPlainTextEdit::QPlainTextEdit;
 
+  std::function<void()> onLeave;  ///< the focus went elsewhere, to another window too
+
  protected:
+  void focusOutEvent(QFocusEvent* event) override {
+    QPlainTextEdit::focusOutEvent(event);
+    if (onLeave) onLeave();
+  }
   bool canInsertFromMimeData(const QMimeData* source) const override {
     return !source->hasUrls() && QPlainTextEdit::canInsertFromMimeData(source);
   }

@@ -41,7 +41,8 @@ QPushButton* addButton(QMessageBox& box, const std::string& text, QMessageBox::B
 }
 
 void setUp(QMessageBox& box, const Alert& alert) {
-  setUp(box, alert.message, alert.information);
+  const bool hasBoth = !alert.information.empty() && !alert.addition.empty();
+  setUp(box, alert.message, alert.information + (hasBoth ? "\n" : "") + alert.addition);
   box.setIcon(QMessageBox::Question);
   QPushButton* agree = addButton(box, alert.defaultButton, QMessageBox::AcceptRole);
   QPushButton* cancel = addButton(box, alert.alternateButton, QMessageBox::RejectRole);
