@@ -8,8 +8,10 @@
 namespace nascor::calc {
 
 double zScore(const ReferenceTable& table, double value, double age) {
-  return (value - meanForGestation(table, age)) / sdForGestation(table, age);
+  return zScore(value, meanForGestation(table, age), sdForGestation(table, age));
 }
+
+double zScore(double value, double mean, double sd) { return (value - mean) / sd; }
 
 double centileOfZ(double z) {
   // 1 - erf would leave no digits in the lower tail.

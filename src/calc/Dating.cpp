@@ -17,11 +17,15 @@ using foundation::Localizer;
 using foundation::truncatedToInteger;
 
 double menstrualAge(std::optional<Date> examDate, std::optional<Date> edd) {
-  if (!examDate || !edd) return 0.0;
-  const std::int64_t daysToGo =
-      truncatedToInteger(std::round(timeIntervalSince(*edd, *examDate) / foundation::kSecondsPerDay));
+  const auto daysToGo = daysToEDD(examDate, edd);
+  if (!daysToGo) return 0.0;
   // Subtracted as doubles: a date from a damaged file may lie at the limit of the integers.
-  return (280.0 - static_cast<double>(daysToGo)) / 7.0;
+  return (280.0 - static_cast<double>(*daysToGo)) / 7.0;
+}
+
+std::optional<std::int64_t> daysToEDD(std::optional<Date> examDate, std::optional<Date> edd) {
+  if (!examDate || !edd) return std::nullopt;
+  return truncatedToInteger(std::round(timeIntervalSince(*edd, *examDate) / foundation::kSecondsPerDay));
 }
 
 WeeksAndDays weeksAndDays(double gestation) {

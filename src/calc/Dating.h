@@ -20,6 +20,11 @@ namespace nascor::calc {
 /// either date. Not clamped: more than 40 after the EDD, negative more than 280 days before it.
 double menstrualAge(std::optional<foundation::Date> examDate, std::optional<foundation::Date> edd);
 
+/// The whole days from an examination to the EDD that the age counts, halves rounded away from zero; negative after the
+/// EDD. Nothing without either date.
+std::optional<std::int64_t> daysToEDD(std::optional<foundation::Date> examDate,
+                                      std::optional<foundation::Date> edd);
+
 /// A gestation as whole weeks and days, both truncated toward zero: -0.5 weeks is 0 weeks and -3 days.
 struct WeeksAndDays {
   std::int64_t weeks = 0;
