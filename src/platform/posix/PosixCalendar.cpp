@@ -1,7 +1,10 @@
 #include "posix/PosixCalendar.h"
 
 #include <cmath>
+#include <cstdlib>
 #include <ctime>
+#include <filesystem>
+#include <system_error>
 
 namespace nascor::posix {
 
@@ -24,6 +27,17 @@ double PosixCalendar::offsetFromUtc(foundation::Date instant) const {
   std::tm local{};
   if (::localtime_r(&systemTime, &local) == nullptr) return 0.0;
   return static_cast<double>(local.tm_gmtoff);
+}
+
+bool chooseTimeZone(const std::string& name) {
+  const char* chosenFolder = std::getenv("TZDIR");
+  const std::filesystem::path folder = chosenFolder ? chosenFolder : "/usr/share/zoneinfo";
+  const bool isPath = name.starts_with('/') || name.find("..") != std::string::npos;
+  std::error_code ignored;
+  // The system itself takes a name that it does not know for UTC, without a word.
+  const bool isKnown = name == "UTC" || (!name.empty() && !isPath && name.find('\0') == std::string::npos &&
+                                         std::filesystem::is_regular_file(folder / name, ignored));
+  return isKnown && ::setenv("TZ", name.c_str(), 1) == 0;
 }
 
 }  // namespace nascor::posix

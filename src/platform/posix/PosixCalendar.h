@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 #include "foundation/Calendar.h"
 
 namespace nascor::posix {
@@ -11,5 +13,9 @@ class PosixCalendar final : public foundation::Calendar {
   PosixCalendar();
   double offsetFromUtc(foundation::Date instant) const override;
 };
+
+/// Makes `name` ("Europe/Paris") the time zone of this process, for calendars that are made afterwards. False, and nothing
+/// changes, when the system's list of zones has no such name.
+bool chooseTimeZone(const std::string& name);
 
 }  // namespace nascor::posix
