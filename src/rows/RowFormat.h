@@ -1,0 +1,96 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "calc/Biometry.h"
+#include "calc/Standards.h"
+#include "rows/Columns.h"
+
+namespace nascor::rows {
+
+enum class Style {
+  csv,       ///< RFC 4180, but lines end with a line feed alone
+  jsonLines  ///< one JSON object a row
+};
+
+/// What one row is made of. Texts live elsewhere, as long as the row is written.
+struct Row {
+  std::string_view fileName{};  ///< printed where files are named
+  std::uint64_t filePlace = 0;  ///< printed where they are counted
+  std::size_t examination = 0;  ///< from 0
+  std::size_t fetus = 0;        ///< from 0
+  std::string_view examDate{};  ///< an ISO day; empty: unknown
+  std::string_view edd{};       ///< an ISO day; empty: unknown
+  std::optional<std::int64_t> daysToEDD{};
+  double age = 0.0;           ///< weeks; 0.0: unknown
+  calc::Biometry lengths{};   ///< mm; 0.0: not measured
+  std::int64_t standard = 0;  ///< the document's own; may be unknown
+  std::string_view referenceID{};
+  std::string_view note{};
+  std::span<const std::string_view> kept{};  ///< cells of the input, as they came
+  /// One line; empty where all is well. A row with an error has its file and the cells of the input, and nothing else.
+  std::string_view error{};
+};
+
+/// Writes rows of chosen columns. A number is printed by the shortest digits that read back to the same double. A cell is
+/// empty (null in JSON) for what was not measured or cannot be computed, for a weight or an age of exactly 0.0, and for
+/// what is not finite; a z-score of 0.0 is a number. Unchanged once made, so many threads may write with one.
+class RowFormat {
+ public:
+  struct Settings {
+    Style style = Style::csv;
+    bool isFixed = false;     ///< one decimal, three for z-scores: C's "%.1f" and "%.3f"
+    bool namesFiles = false;  ///< by name, not by place
+  };
+
+  RowFormat(std::vector<Column> columns, Settings settings);
+
+  std::span<const Column> columns() const { return columns_; }
+
+  /// Appends the line of the columns' names. JSON Lines have none, and nothing is appended.
+  void appendHeader(std::string& out) const;
+
+  /// Appends one line.
+  void append(std::string& out, const Row& row) const;
+
+ private:
+  /// A length's mean and standard deviation by one standard, which several columns of a row share.
+  struct Reference {
+    std::int64_t standard;
+    calc::Measurement measurement;
+  };
+  struct Found {
+    bool isThere = false;
+    double mean = 0.0;
+    double sd = 0.0;
+  };
+  static constexpr std::size_t kMostReferences = 20;
+
+  const calc::ReferenceTable* tableOf(const Reference& reference, const Row& row) const;
+  void appendCell(std::string& out, std::size_t column, const Row& row, std::span<const Found> found) const;
+  void appendEmpty(std::string& out) const;
+  void appendNumber(std::string& out, double value, int decimals) const;
+  void appendInteger(std::string& out, std::int64_t value) const;
+  void appendText(std::string& out, std::string_view text) const;
+  void appendWarning(std::string& out, const Row& row) const;
+
+  std::vector<Column> columns_;
+  Settings settings_;
+  std::vector<std::string> prefixes_;                          // what stands before each cell
+  std::vector<Reference> references_;                          // those that the columns need
+  std::vector<std::size_t> referenceOf_;                       // by column
+  std::vector<std::int64_t> standards_;                        // of the columns, each once
+  std::array<std::array<calc::ReferenceTable, 4>, 4> tables_;  // by standard and measurement
+};
+
+/// Appends a cell of CSV: in quotation marks where it holds a comma, a quotation mark or the end of a line.
+void appendCsvText(std::string& out, std::string_view text);
+
+}  // namespace nascor::rows

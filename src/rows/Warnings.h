@@ -1,0 +1,24 @@
+#pragma once
+
+#include <span>
+#include <string>
+
+#include "calc/Biometry.h"
+#include "calc/Standards.h"
+
+namespace nascor::rows {
+
+/// A growth standard whose numbers a row holds.
+struct StandardInUse {
+  const calc::GrowthStandard* standard;
+  const calc::ReferenceTable* table;  ///< of one of its lengths
+};
+
+/// Appends what is improbable about the lengths (mm) and the age (weeks; 0.0 is unknown) of one fetus, in English, with
+/// "; " between the sentences; nothing where all is well. Lengths are named that cannot be typed into a document, ages
+/// below 0 or above 45 weeks, and the age again for each of `standards` that does not reach it: there its first or last week
+/// counts.
+void appendWarnings(std::string& out, const calc::Biometry& lengths, double age,
+                    std::span<const StandardInUse> standards);
+
+}  // namespace nascor::rows
