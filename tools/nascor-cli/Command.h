@@ -36,8 +36,9 @@ struct OptionSpec {
 struct OperandSpec {
   std::string_view name;
   std::string_view help;
-  bool repeated = false;  ///< one or more; of the last operand only
-  bool isNumber = false;  ///< -.5 is one then, and no option
+  bool repeated = false;    ///< one or more; of the last operand only
+  bool isNumber = false;    ///< -.5 is one then, and no option
+  bool isOptional = false;  ///< may be missing; of the last operand only
 };
 
 /// One command: all that the program knows of it.
@@ -57,6 +58,8 @@ std::span<const Command> commands();
 
 // The families, each in a source of its own.
 Command reportCommand();
+Command rowsCommand();
+Command calcCommand();
 Command checkCommand();
 Command jsonCommand();
 Command makeCommand();

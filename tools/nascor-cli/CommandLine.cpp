@@ -115,7 +115,8 @@ class Parser {
     }
     const auto specs = command_->operands;
     const std::size_t given = arguments.operands.size();
-    if (given < specs.size()) throw UsageError(std::string(specs[given].name) + " is missing");
+    if (given < specs.size() && !specs[given].isOptional)
+      throw UsageError(std::string(specs[given].name) + " is missing");
     const bool anyNumber = !specs.empty() && specs.back().repeated;
     if (given > specs.size() && !anyNumber) {
       throw UsageError("\"" + oneLine(arguments.operands[specs.size()]) + "\" is one argument too many");

@@ -1,6 +1,7 @@
 #include "cli_commands/Console.h"
 
 #include <cerrno>
+#include <csignal>
 #include <system_error>
 #include <utility>
 
@@ -25,8 +26,22 @@ int writeAll(int descriptor, std::string_view bytes) {
   return 0;
 }
 
+constexpr int kInterrupted = 130;
+
+// Only the thread that writes takes the signal, so it comes before a write, after it or within it.
+volatile std::sig_atomic_t isWriting = 0;
+volatile std::sig_atomic_t isInterrupted = 0;
+
+void interrupted(int) {
+  if (isWriting == 0) ::_exit(kInterrupted);
+  isInterrupted = 1;
+}
+
 void writeOutput(std::string_view bytes) {
+  isWriting = 1;
   const int error = writeAll(STDOUT_FILENO, bytes);
+  isWriting = 0;
+  if (isInterrupted != 0) ::_exit(kInterrupted);
   if (error != 0) throw OutputError(std::generic_category().message(error), error == EPIPE);
 }
 
@@ -36,12 +51,22 @@ Console::Console() : outputIsTerminal_(::isatty(STDOUT_FILENO) == 1) {}
 
 void Console::lineDone() {
   out_ += '\n';
-  outputIsTerminal_ ? flush() : partDone();
+  linesDone();
 }
+
+void Console::linesDone() { outputIsTerminal_ ? flush() : partDone(); }
 
 void Console::partDone() {
   constexpr std::size_t kEnough = std::size_t{1} << 16;
   if (out_.size() >= kEnough) flush();
+}
+
+void Console::endOnInterrupt() {
+  struct sigaction action {};
+  action.sa_handler = interrupted;
+  // A write goes on where it was.
+  action.sa_flags = SA_RESTART | static_cast<int>(SA_RESETHAND);
+  ::sigaction(SIGINT, &action, nullptr);
 }
 
 void Console::flush() {

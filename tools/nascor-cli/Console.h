@@ -36,6 +36,9 @@ class Console {
   /// Ends a line of `out` and sends it on: at once to a terminal, else when enough has come together.
   void lineDone();
 
+  /// The same for lines whose ends `out` holds already.
+  void linesDone();
+
   /// Sends on what `out` holds of a long line, when enough has come together.
   void partDone();
 
@@ -53,6 +56,10 @@ class Console {
 
   /// Text for standard error as it stands. Nothing can be done when that fails.
   static void tell(std::string_view text);
+
+  /// From now on Ctrl-C ends the program with status 130, and what is being written is written to its end: a reader gets
+  /// whole lines, as long as `out` is sent on at the ends of lines only. A second Ctrl-C ends it at once.
+  static void endOnInterrupt();
 
   bool outputIsTerminal() const { return outputIsTerminal_; }
 

@@ -1,11 +1,11 @@
 #include "cli_commands/Input.h"
 
-#include <array>
 #include <cerrno>
 #include <span>
 #include <system_error>
 #include <variant>
 
+#include <fcntl.h>
 #include <unistd.h>
 
 #include "cli_commands/Numbers.h"
@@ -17,20 +17,15 @@ namespace {
 
 constexpr std::string_view kStandardInput = "standard input";
 
-/// Hands on standard input piece by piece, until `take` wants no more. False after a complaint.
-bool readStandardInput(Console& console, const std::function<bool(std::span<const char>)>& take) {
-  std::array<char, 65536> piece;
+/// Hands on standard input piece by piece, until `take` wants no more. Why it cannot be read, if so.
+std::optional<std::string> readStandardInput(Console& console,
+                                             const std::function<bool(std::span<const char>)>& take) {
+  InputStream input(console, "-");
   for (;;) {
-    // Whoever waits for an answer before writing the next line has it now.
-    console.flush();
-    const ssize_t count = ::read(STDIN_FILENO, piece.data(), piece.size());
-    if (count == 0) return true;
-    if (count > 0) {
-      if (!take(std::span(piece).first(static_cast<std::size_t>(count)))) return true;
-    } else if (errno != EINTR) {
-      console.complain(kStandardInput, std::generic_category().message(errno));
-      return false;
-    }
+    const auto piece = input.next();
+    if (const auto* error = std::get_if<std::string>(&piece)) return *error;
+    const auto bytes = std::get<0>(piece);
+    if (bytes.empty() || !take(bytes)) return std::nullopt;
   }
 }
 
@@ -43,6 +38,40 @@ std::string_view withoutBlanks(std::string_view text) {
 
 }  // namespace
 
+InputStream::InputStream(Console& console, std::string path)
+    : console_(console),
+      descriptor_(path == "-" ? STDIN_FILENO : ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NOCTTY)),
+      error_(descriptor_ < 0 ? std::generic_category().message(errno) : ""),
+      piece_(std::size_t{1} << 16) {}
+
+InputStream::~InputStream() {
+  if (descriptor_ > STDIN_FILENO) ::close(descriptor_);
+}
+
+std::variant<std::span<const char>, std::string> InputStream::next() {
+  if (descriptor_ < 0) return error_;
+  console_.flush();
+  for (;;) {
+    const ssize_t count = ::read(descriptor_, piece_.data(), piece_.size());
+    if (count >= 0) return std::span<const char>(piece_.data(), static_cast<std::size_t>(count));
+    if (errno != EINTR) return std::generic_category().message(errno);
+  }
+}
+
+std::variant<std::vector<std::byte>, std::string> standardInput(Console& console) {
+  // An endless input must end before the machine's memory does. No document comes near this.
+  constexpr std::size_t kMost = std::size_t{1} << 30;
+  std::vector<std::byte> bytes;
+  auto error = readStandardInput(console, [&](std::span<const char> piece) {
+    const auto more = std::as_bytes(piece);
+    bytes.insert(bytes.end(), more.begin(), more.end());
+    return bytes.size() <= kMost;
+  });
+  if (error) return std::move(*error);
+  if (bytes.size() > kMost) return "longer than 1 GiB, which no document is";
+  return bytes;
+}
+
 std::string nameOf(const std::string& path) { return path == "-" ? std::string(kStandardInput) : path; }
 
 std::optional<std::vector<std::byte>> contentsOf(const std::string& path, Console& console) {
@@ -52,20 +81,10 @@ std::optional<std::vector<std::byte>> contentsOf(const std::string& path, Consol
     console.complain(path, std::get<foundation::FileError>(contents).reason);
     return std::nullopt;
   }
-  // An endless input must end before the machine's memory does. No document comes near this.
-  constexpr std::size_t kMost = std::size_t{1} << 30;
-  std::vector<std::byte> bytes;
-  const bool wasRead = readStandardInput(console, [&](std::span<const char> piece) {
-    const auto more = std::as_bytes(piece);
-    bytes.insert(bytes.end(), more.begin(), more.end());
-    return bytes.size() <= kMost;
-  });
-  if (!wasRead) return std::nullopt;
-  if (bytes.size() > kMost) {
-    console.complain(kStandardInput, "longer than 1 GiB, which no document is");
-    return std::nullopt;
-  }
-  return bytes;
+  auto contents = standardInput(console);
+  if (auto* bytes = std::get_if<std::vector<std::byte>>(&contents)) return std::move(*bytes);
+  console.complain(kStandardInput, std::get<std::string>(contents));
+  return std::nullopt;
 }
 
 void forEachNumberOfInput(Console& console, const std::function<void(std::optional<double>)>& take) {
@@ -87,7 +106,7 @@ void forEachNumberOfInput(Console& console, const std::function<void(std::option
     line.clear();
   };
 
-  readStandardInput(console, [&](std::span<const char> piece) {
+  const auto error = readStandardInput(console, [&](std::span<const char> piece) {
     for (const char character : piece) {
       if (character == '\n') {
         endLine();
@@ -97,6 +116,7 @@ void forEachNumberOfInput(Console& console, const std::function<void(std::option
     }
     return true;
   });
+  if (error) console.complain(kStandardInput, *error);
   if (!line.empty()) endLine();
 }
 

@@ -3,8 +3,10 @@
 #include <cstddef>
 #include <functional>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
+#include <variant>
 #include <vector>
 
 #include "cli_commands/Console.h"
@@ -13,6 +15,28 @@ namespace nascor::cli {
 
 /// How messages name an input: the path, or "standard input" for "-".
 std::string nameOf(const std::string& path);
+
+/// The bytes of a file, or of standard input for "-", piece by piece.
+class InputStream {
+ public:
+  /// The output of `console` is sent on before this waits for input: an answer never lies behind the question.
+  InputStream(Console& console, std::string path);
+  ~InputStream();
+  InputStream(const InputStream&) = delete;
+  InputStream& operator=(const InputStream&) = delete;
+
+  /// The next piece, valid until the next call; none at the end. Or why it cannot be read, in the system's words.
+  std::variant<std::span<const char>, std::string> next();
+
+ private:
+  Console& console_;
+  int descriptor_;
+  std::string error_;
+  std::vector<char> piece_;
+};
+
+/// All of standard input, or why it cannot be read.
+std::variant<std::vector<std::byte>, std::string> standardInput(Console& console);
 
 /// The whole file, or all of standard input for "-". When it cannot be read: a complaint, and nothing.
 std::optional<std::vector<std::byte>> contentsOf(const std::string& path, Console& console);

@@ -1,0 +1,53 @@
+#include "cli_commands/RowOptions.h"
+
+#include <algorithm>
+
+#include "cli_commands/Names.h"
+
+namespace nascor::cli {
+
+std::vector<std::string> partsOf(const std::string& list) {
+  std::vector<std::string> parts;
+  for (std::size_t start = 0;;) {
+    const std::size_t comma = list.find(',', start);
+    parts.push_back(list.substr(start, comma - start));
+    if (comma == std::string::npos) return parts;
+    start = comma + 1;
+  }
+}
+
+std::vector<std::int64_t> chosenStandards(const Arguments& arguments) {
+  const auto list = arguments.option("standard");
+  if (!list) return {};
+  if (inSmallLetters(*list) == "all") return rows::allStandards();
+  std::vector<std::int64_t> standards;
+  for (const std::string& part : partsOf(*list)) {
+    const std::int64_t standard = requiredStandard("--standard", part);
+    if (std::ranges::find(standards, standard) != standards.end()) {
+      throw UsageError("--standard: \"" + part + "\" stands there twice");
+    }
+    standards.push_back(standard);
+  }
+  return standards;
+}
+
+std::optional<std::int64_t> chosenFormula(const Arguments& arguments) {
+  const auto formula = arguments.option("formula");
+  if (!formula) return std::nullopt;
+  return requiredFormula("--formula", *formula);
+}
+
+std::optional<std::vector<std::string>> chosenColumnNames(const Arguments& arguments) {
+  const auto list = arguments.option("columns");
+  if (!list) return std::nullopt;
+  std::vector<std::string> names = partsOf(*list);
+  for (auto name = names.begin(); name != names.end(); ++name) {
+    if (name->empty()) throw UsageError("--columns: a name is empty");
+    if (std::find(names.begin(), name, *name) != name) {
+      throw UsageError("--columns: \"" + *name + "\" stands there twice");
+    }
+  }
+  return names;
+}
+
+}  // namespace nascor::cli
