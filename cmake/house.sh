@@ -62,7 +62,7 @@ cause_in() {
   if grep -qE 'No space left on device|have enough free space' "$1"; then
     say "The disk is full." >&2
   elif grep -qE 'Temporary failure resolving|Could not resolve|Could not connect|Network is unreachable|Connection (failed|timed out)' "$1"; then
-    server="$(grep -oE "(resolving|resolve|connect to) '?[A-Za-z0-9.-]+" "$1" | tail -n 1 | sed -E "s/.*[ ']//" || true)"
+    server="$(grep -oE "(failure resolving|not resolve|connect to) '?[A-Za-z0-9.-]+" "$1" | tail -n 1 | sed -E "s/.*[ ']//" || true)"
     say "There is no connection to the package server${server:+ $server}." >&2
   else
     return 1
