@@ -95,6 +95,9 @@ class NCDocument final : public framework::CorvelDocument,
   void synchronizeFromData() override;
   void synchronizeToData() override;
   void updateDisplay() override;
+  /// What the marks of the examination on show say on that chart page, for those who do not see it: measure, value, z-score,
+  /// and the standard. The standard alone where there is none.
+  std::string spokenPage(std::int64_t page) const;
   // Selector: switchToGraph:
   /// Shows that page. Throws RangeError.
   void switchToGraph(std::int64_t tabIndex) override;

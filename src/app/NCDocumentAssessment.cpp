@@ -277,9 +277,29 @@ const charts::NascorGraphView& NCDocument::graphFor(Measurement measurement) con
   return *FLGraph();
 }
 
+std::string NCDocument::spokenPage(std::int64_t page) const {
+  const std::array<std::vector<const charts::NascorGraphView*>, PatientPages::kReportPage> graphs{
+      {{BPDGraph(), HCGraph(), ACGraph(), FLGraph()},
+       {BPDGraph()},
+       {HCGraph()},
+       {ACGraph()},
+       {FLGraph()},
+       {&EFWGraph()}}};
+  std::string text;
+  if (page >= 0 && page < PatientPages::kReportPage) {
+    for (const charts::NascorGraphView* graph : graphs.at(static_cast<std::size_t>(page))) {
+      const std::string value = graph->spokenValue(currentExam());
+      if (!value.empty()) text += value + " ";
+    }
+  }
+  text += calc::growthStandardTitle(standard(), services().localizer);
+  if (page == PatientPages::kWeightPage)
+    text += ". " + calc::fetalWeightTitle(fetalWeightStandard(), services().localizer);
+  return text;
+}
+
 TextField* NCDocument::firstEmptyField() {
-  const bool hasDate = !examDateField().text().empty();
-  if (!hasDate && examDateField().isEditable()) return &examDateField();
+  if (examDateField().text().empty() && examDateField().isEditable()) return &examDateField();
   for (const Measurement measurement : calc::kMeasurements) {
     framework::NumberField& field = fieldFor(measurement);
     if (field.isEditable() && field.doubleValue() == 0.0) return &field;

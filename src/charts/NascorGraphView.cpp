@@ -229,12 +229,35 @@ std::string NascorGraphView::describe(const PlottedValue& plotted) const {
     text.append(fetuses.itemTitleAtIndex(plotted.fetus)).append("\n");
   }
   text.append(date).append(", ").append(document.menstrualAgeStringForRecord(plotted.exam)).append("\n");
-  text += valueText(plotted.y);
+  return text + valueAndPlace(plotted);
+}
+
+std::string NascorGraphView::valueAndPlace(const PlottedValue& plotted) const {
+  std::string text = valueText(plotted.y);
   const double z = calc::zScore(standardData(), plotted.y, plotted.x);
-  if (std::isfinite(z)) {
-    const std::string score = foundation::fieldText(z, 2, services().localizer.decimalSign());
-    text.append(", ").append(localized("", "z-score")).append(z >= 0.0 ? " +" : " ").append(score);
-  }
+  if (!std::isfinite(z)) return text;
+  const std::string score = foundation::fieldText(z, 2, services().localizer.decimalSign());
+  text.append(", ").append(localized("", "z-score")).append(z >= 0.0 ? " +" : " ").append(score);
+  if (calc::weekBeyondTable(standardData(), plotted.x) != calc::BeyondTable::no)
+    text.append(", ").append(localized("", "beyond the table"));
+  return text;
+}
+
+std::vector<framework::ReadOut> NascorGraphView::readOuts() const {
+  std::vector<framework::ReadOut> all;
+  forEachPlottedValue([&](const PlottedValue& plotted) {
+    all.push_back({.at = pointForXY(plotted.x, plotted.y), .text = describe(plotted)});
+  });
+  std::ranges::stable_sort(all, {}, [](const framework::ReadOut& readOut) { return readOut.at.x; });
+  return all;
+}
+
+std::string NascorGraphView::spokenValue(std::int64_t exam) const {
+  std::string text;
+  forEachPlottedValue([&](const PlottedValue& plotted) {
+    if (plotted.isSelected && std::cmp_equal(plotted.exam, exam))
+      text = yTitle() + ": " + valueAndPlace(plotted) + ".";
+  });
   return text;
 }
 

@@ -37,6 +37,10 @@ class NascorGraphView : public UpdatingGraphView {
   void mouseDown(const framework::MouseEvent& event) override;
   /// The nearest mark: date, age, value and by how many standard deviations it lies above the mean.
   std::string toolTipAt(framework::Point point) const override;
+  /// By age, the fetuses of an examination in their order.
+  std::vector<framework::ReadOut> readOuts() const override;
+  /// What the mark of that examination and the fetus on show says: measure, value, z-score; empty where there is none.
+  std::string spokenValue(std::int64_t exam) const;
 
   /// The outline of the band as it was last drawn; empty before that.
   const framework::Path& sdPath() const { return sdPath_; }
@@ -76,6 +80,8 @@ class NascorGraphView : public UpdatingGraphView {
   template <class Use>
   void forEachValueOf(std::int64_t fetus, bool isSelected, Use use) const;
   std::string describe(const PlottedValue& plotted) const;
+  /// Value and z-score, and whether another week of the table stands in.
+  std::string valueAndPlace(const PlottedValue& plotted) const;
 
   framework::Path sdPath_;
 };

@@ -59,6 +59,10 @@ Point Page::PlacedView::inView(Point point) const {
   return {.x = point.x - frame.x, .y = view->isFlipped() ? down : frame.height - down};
 }
 
+Point Page::PlacedView::onPage(Point point) const {
+  return {.x = frame.x + point.x, .y = frame.y + (view->isFlipped() ? point.y : frame.height - point.y)};
+}
+
 bool Page::click(Point point, int count) {
   for (std::size_t i = views_.size(); i-- > 0;) {
     const PlacedView& placed = views_[i];
@@ -77,6 +81,15 @@ std::string Page::toolTipAt(Point point) const {
     if (!text.empty()) return text;
   }
   return {};
+}
+
+std::vector<ReadOut> Page::readOuts() const {
+  std::vector<ReadOut> all;
+  for (const PlacedView& placed : views_) {
+    for (ReadOut& readOut : placed.view->readOuts())
+      all.push_back({.at = placed.onPage(readOut.at), .text = std::move(readOut.text)});
+  }
+  return all;
 }
 
 }  // namespace nascor::framework

@@ -47,6 +47,8 @@ class Page {
   bool click(Point point, int count);
   /// What a tool tip at `point` says; empty for none.
   std::string toolTipAt(Point point) const;
+  /// The marks of all views, in the views' order, with their places on the page as it was last laid out.
+  std::vector<ReadOut> readOuts() const;
 
  private:
   struct PlacedView {
@@ -56,6 +58,8 @@ class Page {
 
     /// `point` of the page in the view's own coordinates.
     Point inView(Point point) const;
+    /// `point` of the view on the page.
+    Point onPage(Point point) const;
   };
   struct Caption {
     std::string text;

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 #include "foundation/NotificationCenter.h"
 #include "foundation/Services.h"
@@ -14,6 +15,12 @@ namespace nascor::framework {
 struct MouseEvent {
   Point location;      ///< in the view's own coordinates
   int clickCount = 1;  ///< 2 for the second press of a double click, whose first one came by itself
+};
+
+/// A mark of a chart in words.
+struct ReadOut {
+  Point at;  ///< of the view, or of its page where the page says so
+  std::string text;
 };
 
 /// A view that maps data into a plotting rectangle and draws axes, titles and marks.
@@ -83,6 +90,8 @@ class ZuPrimitiveGraphView : public foundation::NotificationSender {
   virtual void mouseDown(const MouseEvent&) {}
   /// What a tool tip at `point` says; empty for none.
   virtual std::string toolTipAt(Point) const { return {}; }
+  /// What the tool tips of all marks say, in the order in which a reader goes through them.
+  virtual std::vector<ReadOut> readOuts() const { return {}; }
 
   /// @}
 

@@ -136,6 +136,19 @@ TEST_F(APointerOverAMark, isToldWhichTwinItIs) {
   EXPECT_EQ(chart->toolTipAt(chart->pointForXY(20, 48.22)).substr(0, 9), "Fetus 0\n,");
 }
 
+TEST_F(APointerOverAMark, isNotNeededToReadIt) {
+  document.setFetuses(2);
+  document.addExamination(24, {{.bpd = 60}, {.bpd = 0}});
+  document.addExamination(20, {{.bpd = 48.22}, {.bpd = 47}});
+  const auto chart = make<BPDGraphView>();
+  const auto readOuts = chart->readOuts();
+  ASSERT_EQ(readOuts.size(), 3U) << "what is not measured has no mark";
+  EXPECT_EQ(readOuts[0].text, chart->toolTipAt(chart->pointForXY(20, 48.22))) << "by age";
+  EXPECT_EQ(readOuts[1].text, chart->toolTipAt(chart->pointForXY(20, 47)));
+  EXPECT_EQ(readOuts[2].text, chart->toolTipAt(chart->pointForXY(24, 60)));
+  EXPECT_EQ(readOuts[2].at.x, chart->pointForXY(24, 60).x);
+}
+
 TEST_F(APointerOverAMark, readsWeightsInGrams) {
   document.addExamination(20, {{.bpd = 0, .hc = 0, .ac = 154.374, .fl = 0}});
   document.weightFormula = 4;  // by the abdominal circumference alone

@@ -192,6 +192,7 @@ const std::map<std::string, Operation, std::less<>>& operations() {
       {"directUpdateDisplayAndSetDirty",
        act([](NCDocument& d, Arguments& a) { d.directUpdateDisplayAndSetDirty(a.truthOr(true)); })},
       {"switchToGraph", act([](NCDocument& d, Arguments& a) { d.switchToGraph(a.integer()); })},
+      {"spokenPage", [](NCDocument& d, Arguments& a) { return Json(d.spokenPage(a.integer())); }},
       {"isBlank", [](NCDocument& d, Arguments&) { return Json(d.isBlank()); }},
       {"lookUp", act([](NCDocument& d, Arguments& a) {
          const std::string name = a.text();
