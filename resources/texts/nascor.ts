@@ -107,6 +107,10 @@
         <source>z-score</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>beyond the table</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>AdjustDelivery</name>
@@ -404,6 +408,10 @@
     </message>
     <message>
         <source>Formula</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The examination on show</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -894,10 +902,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Growth chart of %1. Examination %2, %3.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Do you want to go back to the document as it was last saved?</source>
         <translation type="unfinished"></translation>
     </message>
@@ -935,6 +939,42 @@
     </message>
     <message>
         <source>d MMMM yyyy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Standard deviations from the mean of the growth standard</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>z</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Centile by the growth standard</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Centile</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Estimated fetal weight, by the formula in force</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>EFW</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>! %1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Growth chart of %1. Examination %2, %3. %4</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>by %1</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -368,7 +368,7 @@ TEST_F(TheDocumentWindow, isReachedWholeByTheTabKey) {
   click("addExaminationButton");  // between the two, so that nothing is disabled
   widget<QLineEdit>("referenceIDField").setFocus();
   std::vector<std::string> visited;
-  for (int i = 0; i < 20; ++i) {
+  for (int i = 0; i < 21; ++i) {
     visited.push_back(focus());
     press(Qt::Key_Tab);
   }
@@ -390,6 +390,7 @@ TEST_F(TheDocumentWindow, isReachedWholeByTheTabKey) {
                                        "addFetusButton",
                                        "deleteFetusButton",
                                        "qt_tabwidget_tabbar",
+                                       "TrendsPage",
                                        "referenceIDField",
                                        "gravidaField"};
   EXPECT_EQ(visited, order);
@@ -420,8 +421,31 @@ TEST_F(TheDocumentWindow, namesItsFieldsForScreenReaders) {
   EXPECT_EQ(spoken("addExaminationButton", QAccessible::Name), "Add Examination");
   EXPECT_EQ(spoken("deleteFetusButton", QAccessible::Name), "Remove Fetus");
   EXPECT_EQ(spoken("BPDPage", QAccessible::Name), "BPD");
-  EXPECT_EQ(spoken("BPDPage", QAccessible::Description),
-            "Growth chart of AB-123 (G2). Examination 6 of 6, 32w 0d.");
+  EXPECT_EQ(
+      spoken("BPDPage", QAccessible::Description),
+      "Growth chart of AB-123 (G2). Examination 6 of 6, 32w 0d. Biparietal Diameter (mm): 82.0 mm, z-score "
+      "+0.47. Nascor Standard: Westerway (ASUM 2001)");
+}
+
+TEST_F(TheDocumentWindow, showsBesideALengthWhatItMeans) {
+  open(singleton());
+  EXPECT_EQ(label("bpdZ"), "+0.47");
+  type("bpdField", "99");
+  EXPECT_EQ(label("bpdZ"), "+5.95") << "before the field is left";
+  EXPECT_EQ(label("bpdCentile"), ">99.9");
+  EXPECT_EQ(label("bpdSign"), "");
+  press(Qt::Key_Tab);
+  EXPECT_EQ(label("bpdSign"), "!");
+  EXPECT_EQ(label("remarks"), "! BPD: More than 4 SD above the growth standard.");
+  EXPECT_TRUE(widget<QLabel>("remarks").isVisible());
+  EXPECT_EQ(spoken("bpdField", QAccessible::Description),
+            "More than 4 SD above the growth standard. Biparietal diameter, 0 to 200 mm");
+  enter("acField", "280");
+  EXPECT_EQ(label("weightText"), "-");
+  action("previousAction").trigger();
+  settle();
+  EXPECT_FALSE(widget<QLabel>("remarks").isVisible());
+  EXPECT_EQ(label("bpdSign"), "");
 }
 
 TEST_F(TheDocumentWindow, hasEveryMenuAndItemOnTheKeyboard) {

@@ -119,6 +119,25 @@ TEST_F(TheMouseOnAPage, readsAMarkWhenItRestsOnIt) {
   QTRY_VERIFY_WITH_TIMEOUT(!QToolTip::isVisible(), 5000);
 }
 
+TEST_F(TheMouseOnAPage, isNotNeededToReadAMark) {
+  open(singleton());
+  show(1);
+  page().setFocus(Qt::TabFocusReason);
+  QTest::keyClick(&page(), Qt::Key_Right);
+  EXPECT_EQ(QToolTip::text(), QStringLiteral("9/26/26, 12w 0d<br>20.0 mm, z-score +0.55"));
+  QTest::keyClick(&page(), Qt::Key_End);
+  EXPECT_THAT(QToolTip::text().toStdString(), testing::StartsWith("2/13/27, 32w 0d<br>82.0 mm"));
+  EXPECT_THAT(page().accessibleDescription().toStdString(),
+              testing::StartsWith("2/13/27, 32w 0d, 82.0 mm, z-score +0.47. Growth chart of"));
+  QTest::keyClick(&page(), Qt::Key_Left);
+  EXPECT_THAT(QToolTip::text().toStdString(), testing::StartsWith("1/16/27"));
+  QTest::keyClick(&page(), Qt::Key_Home);
+  QTest::keyClick(&page(), Qt::Key_Left);
+  EXPECT_THAT(QToolTip::text().toStdString(), testing::StartsWith("9/26/26"));
+  QTest::keyClick(&page(), Qt::Key_Escape);
+  EXPECT_THAT(page().accessibleDescription().toStdString(), testing::StartsWith("Growth chart of"));
+}
+
 TEST_F(TheMouseOnAPage, copiesTheReportAsATable) {
   open(singleton());
   action("copyReportAction").trigger();

@@ -26,6 +26,9 @@ using app::NCDocument;
 
 namespace {
 
+/// The EDD, the age today, the difference, and what would become of the examinations.
+constexpr int kProposalLines = 4;
+
 /// Makes `edit`, which only shows, wide enough for `text` on the narrowest screen too.
 void giveRoom(QLineEdit& edit, const QString& text) {
   constexpr int kFrameAndMargins = 16;
@@ -69,7 +72,14 @@ void DatingDialog::bindDate(FieldEdit& edit, QLabel& form, QLabel& longForm) {
   showLongForm();
 }
 
+void DatingDialog::bindText(QLabel& label, framework::TextField& text, int lines) {
+  label.setMinimumHeight(lines * label.fontMetrics().lineSpacing());
+  bindLabel(label, text);
+  texts_.push_back(&text);
+}
+
 void DatingDialog::releaseControls() {
+  for (framework::TextField* text : texts_) text->onChange = nullptr;
   for (FieldBinding* binding : bindings_) binding->release();
 }
 
@@ -118,6 +128,8 @@ EDDFromCRLDialog::EDDFromCRLDialog(NCDocument& document, const foundation::Servi
   ui_->setupUi(this);
   bindDate(*ui_->crlWindowDate, *ui_->crlWindowDateForm, *ui_->crlWindowDateLongForm);
   bindField(*ui_->crlWindowCRL);
+  bindText(*ui_->crlWindowExamination, document.assessment().crlExamination);
+  bindText(*ui_->crlWindowProposal, document.assessment().crlProposal, kProposalLines);
   framework::TextField& formula = fieldFor(*ui_->crlStandardReference);
   bindReadOnly(*ui_->crlStandardReference, formula);
   formula.onChange = [this, show = formula.onChange] {
@@ -175,6 +187,7 @@ EDDFromLMPDialog::EDDFromLMPDialog(NCDocument& document, const foundation::Servi
   bindDate(*ui_->lmpWindowLMP, *ui_->lmpWindowLMPForm, *ui_->lmpWindowLMPLongForm);
   bindField(*ui_->lmpWindowCycleField);
   bindField(*ui_->lmpWindowLutealField);
+  bindText(*ui_->lmpWindowProposal, document.assessment().lmpProposal, kProposalLines);
   bindPanel();
 }
 
@@ -200,19 +213,24 @@ struct EDDFromMeasurementsDialog::Row {
   QLineEdit& gestation;
   QLabel& sign;
   const framework::NumberField& length;
+  const framework::TextField& datingRemark;
 };
 
 std::vector<EDDFromMeasurementsDialog::Row> EDDFromMeasurementsDialog::rows() const {
   const Ui::EDDFromMeasurements& ui = *ui_;
   NCDocument& shown = *document();
   return {{*ui.measurementsWindowBPDCheck, *ui.measurementsWindowBPDValue, *ui.measurementsWindowBPDGestation,
-           *ui.measurementsWindowBPDSign, shown.bpdField()},
+           *ui.measurementsWindowBPDSign, shown.bpdField(),
+           shown.assessment().length(calc::Measurement::bpd).datingRemark},
           {*ui.measurementsWindowHCCheck, *ui.measurementsWindowHCValue, *ui.measurementsWindowHCGestation,
-           *ui.measurementsWindowHCSign, shown.hcField()},
+           *ui.measurementsWindowHCSign, shown.hcField(),
+           shown.assessment().length(calc::Measurement::hc).datingRemark},
           {*ui.measurementsWindowACCheck, *ui.measurementsWindowACValue, *ui.measurementsWindowACGestation,
-           *ui.measurementsWindowACSign, shown.acField()},
+           *ui.measurementsWindowACSign, shown.acField(),
+           shown.assessment().length(calc::Measurement::ac).datingRemark},
           {*ui.measurementsWindowFLCheck, *ui.measurementsWindowFLValue, *ui.measurementsWindowFLGestation,
-           *ui.measurementsWindowFLSign, shown.flField()}};
+           *ui.measurementsWindowFLSign, shown.flField(),
+           shown.assessment().length(calc::Measurement::fl).datingRemark}};
 }
 
 EDDFromMeasurementsDialog::EDDFromMeasurementsDialog(NCDocument& document,
@@ -238,6 +256,7 @@ EDDFromMeasurementsDialog::EDDFromMeasurementsDialog(NCDocument& document,
       });
     }
   }
+  bindText(*ui_->measurementsWindowProposal, document.assessment().measurementsProposal, kProposalLines);
   // The average is shown last, when all the others are as they are to be.
   framework::TextField& average = fieldFor(*ui_->measurementsWindowAvGestation);
   bindReadOnly(*ui_->measurementsWindowAvGestation, average);
@@ -272,6 +291,11 @@ void EDDFromMeasurementsDialog::refresh() {
                                        "More than 2 standard deviations from the mean at the average. %1")
                                 : said("DatingDialogs", "Not measured. %1"))
                         .arg(description);
+    }
+    const QString beyond = fromUtf8(row.datingRemark.text());
+    if (!beyond.isEmpty()) {
+      sign += (sign.isEmpty() ? QStringLiteral("! ") : QStringLiteral(", ")) + beyond;
+      description = beyond + QStringLiteral(". ") + description;
     }
     row.sign.setText(sign);
     row.gestation.setAccessibleDescription(description);

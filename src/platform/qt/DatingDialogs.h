@@ -35,6 +35,8 @@ class DatingDialog : public PanelDialog {
   void bindField(FieldEdit& edit);
   /// The same for a date: under it stands, in `form`, how a date is written, behind it how this one is read.
   void bindDate(FieldEdit& edit, QLabel& form, QLabel& longForm);
+  /// Shows `text`, which the document says beside its fields, in `label`, with room for `lines` of it.
+  void bindText(QLabel& label, framework::TextField& text, int lines = 1);
   /// Outlines nothing any more.
   void forgetObstacles();
   void releaseControls() override;
@@ -50,6 +52,7 @@ class DatingDialog : public PanelDialog {
   foundation::Services services_;
   Actions& actions_;
   std::vector<FieldBinding*> bindings_;
+  std::vector<framework::TextField*> texts_;
 };
 
 /// From a crown-rump length at a scan.

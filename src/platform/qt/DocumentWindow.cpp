@@ -95,6 +95,7 @@ DocumentWindow::DocumentWindow(NCDocument& document, WindowEnvironment environme
   bindPages();
   describeFields();
   bindFields();
+  bindAssessment();
   bindPopUp();
   bindActions();
   bindDialogs();
@@ -148,6 +149,7 @@ void DocumentWindow::release() {
     panel->onChange = nullptr;
   }
   document_->ageField().onChange = nullptr;
+  for (framework::TextField* text : document_->assessment().texts()) text->onChange = nullptr;
   document_->notesField().onChange = nullptr;
   document_->multiplePopUp().onChange = nullptr;
   document_->multiplePopUp().onAnimationEffect = nullptr;
@@ -239,6 +241,72 @@ void DocumentWindow::bindFields() {
   connect(noteEdit, &QPlainTextEdit::textChanged, this, [this] {
     if (document_) document_->notesField().takeEditedText(toUtf8(ui_->notesField->toPlainText()));
   });
+}
+
+void DocumentWindow::bindAssessment() {
+  app::Assessment& assessment = document_->assessment();
+  for (framework::TextField* text : assessment.texts()) {
+    // Those of the dialogs are bound by the dialogs.
+    auto* label = findChild<QLabel*>(fromUtf8(text->name()));
+    if (label) bindLabel(*label, *text);
+  }
+  // Room for the longest, so that nothing moves while somebody types.
+  const auto room = [this](QLabel* label, const QString& longest) {
+    label->setMinimumWidth(fontMetrics().horizontalAdvance(longest));
+  };
+  for (QLabel* label : {ui_->bpdZ, ui_->hcZ, ui_->acZ, ui_->flZ}) room(label, QStringLiteral("+99.99"));
+  for (QLabel* label : {ui_->bpdCentile, ui_->hcCentile, ui_->acCentile, ui_->flCentile})
+    room(label, QStringLiteral(">99.9"));
+  for (QLabel* sign : {ui_->bpdSign, ui_->hcSign, ui_->acSign, ui_->flSign, ui_->ageSign}) {
+    QFont bold = sign->font();
+    bold.setBold(true);
+    sign->setFont(bold);
+    // An empty label wants a little room too.
+    sign->setMinimumWidth(std::max(QFontMetrics(bold).horizontalAdvance(u'!'), sign->sizeHint().width()));
+  }
+  const auto show = [this] { showRemarks(); };
+  for (const calc::Measurement measurement : calc::kMeasurements)
+    assessment.length(measurement).remark.onChange = show;
+  assessment.ageRemark.onChange = show;
+  showRemarks();
+}
+
+void DocumentWindow::showRemarks() {
+  if (!document_) return;
+  struct Row {
+    const framework::TextField& remark;
+    QLabel* sign;
+    const QLabel* label;
+  };
+  app::Assessment& assessment = document_->assessment();
+  QStringList sentences;
+  for (const Row& row : {Row{assessment.ageRemark, ui_->ageSign, ui_->ageLabel},
+                         Row{assessment.length(calc::Measurement::bpd).remark, ui_->bpdSign, ui_->bpdLabel},
+                         Row{assessment.length(calc::Measurement::hc).remark, ui_->hcSign, ui_->hcLabel},
+                         Row{assessment.length(calc::Measurement::ac).remark, ui_->acSign, ui_->acLabel},
+                         Row{assessment.length(calc::Measurement::fl).remark, ui_->flSign, ui_->flLabel}}) {
+    const QString remark = fromUtf8(row.remark.text());
+    row.sign->setText(remark.isEmpty() ? QString() : QStringLiteral("!"));
+    row.sign->setToolTip(remark);
+    if (remark.isEmpty()) continue;
+    sentences << said("MyDocument", "! %1: %2").arg(row.label->text().remove(u'&'), remark);
+  }
+  ui_->remarks->setText(sentences.join(u'\n'));
+  ui_->remarks->setVisible(!sentences.isEmpty());
+  const QString age = fromUtf8(assessment.ageRemark.text());
+  ui_->ageField->setAccessibleDescription(age.isEmpty() ? ui_->ageField->toolTip()
+                                                        : age + u' ' + ui_->ageField->toolTip());
+  showEditing();
+}
+
+QString DocumentWindow::remarkOn(const FieldEdit& edit) const {
+  app::Assessment& assessment = document_->assessment();
+  for (const auto& [length, measurement] :
+       {std::pair{ui_->bpdField, calc::Measurement::bpd}, std::pair{ui_->hcField, calc::Measurement::hc},
+        std::pair{ui_->acField, calc::Measurement::ac}, std::pair{ui_->flField, calc::Measurement::fl}}) {
+    if (length == &edit) return fromUtf8(assessment.length(measurement).remark.text());
+  }
+  return {};
 }
 
 void DocumentWindow::bindPopUp() {
@@ -544,6 +612,8 @@ void DocumentWindow::showEditing() {
     QString description = binding->description();
     if (!message.isEmpty() && document_->statusLine().field() == binding->field())
       description = message + QStringLiteral(". ") + description;
+    const QString remark = document_ ? remarkOn(binding->edit()) : QString();
+    if (!remark.isEmpty()) description = remark + u' ' + description;
     binding->edit().setAccessibleDescription(binding->edit().isRefusing()
                                                  ? said("MyDocument", "Not permitted. %1").arg(description)
                                                  : description);
@@ -629,6 +699,9 @@ void DocumentWindow::showStandards() {
   const foundation::Localizer& localizer = environment_.services.localizer;
   growthLabel_->setText(fromUtf8(calc::growthStandardTitle(document_->standard(), localizer)));
   weightLabel_->setText(fromUtf8(calc::fetalWeightTitle(document_->fetalWeightStandard(), localizer)));
+  const calc::WeightFormula* formula = calc::weightFormula(document_->fetalWeightStandard());
+  ui_->weightFormula->setText(formula ? said("MyDocument", "by %1").arg(fromUtf8(formula->shortLabel))
+                                      : QString());
   updatePages();
 }
 
@@ -637,12 +710,12 @@ void DocumentWindow::updatePages() {
   for (PageView* view : pageViews_) view->update();
   const std::int64_t shown = document_->tabView().indexOfSelectedPage();
   pageViews_.at(static_cast<std::size_t>(shown))
-      ->setAccessibleDescription(
-          shown == app::PatientPages::kReportPage
-              ? fromUtf8(document_->report().tabSeparatedText())
-              : said("MyDocument", "Growth chart of %1. Examination %2, %3.")
-                    .arg(fromUtf8(foundation::oneLine(document_->preferredFileName(true))),
-                         ui_->examinationLabel->text(), fromUtf8(document_->ageField().text())));
+      ->setDescription(shown == app::PatientPages::kReportPage
+                           ? fromUtf8(document_->report().tabSeparatedText())
+                           : said("MyDocument", "Growth chart of %1. Examination %2, %3. %4")
+                                 .arg(fromUtf8(foundation::oneLine(document_->preferredFileName(true))),
+                                      ui_->examinationLabel->text(), fromUtf8(document_->ageField().text()),
+                                      fromUtf8(document_->spokenPage(shown))));
 }
 
 void DocumentWindow::revert() {

@@ -84,6 +84,7 @@ class DocumentWindow final : public QMainWindow {
   /// Does `action` unless another is in progress, a sheet is open, or a field refuses its text, which then has the focus.
   void perform(const DocumentAction& action);
   void bindFields();
+  void bindAssessment();
   void bindPopUp();
   void bindPages();
   void bindActions();
@@ -101,6 +102,10 @@ class DocumentWindow final : public QMainWindow {
   void placePopUp();
   void focusFieldInEdit();
   void showEditing();
+  /// Shows which values are improbable: a sign beside each, and a sentence under them all.
+  void showRemarks();
+  /// What is to be said of the value in `edit`; mostly nothing.
+  QString remarkOn(const FieldEdit& edit) const;
   void showFetuses();
   void showState();
   /// Shows what no field shows by itself: which examination of how many, what can be done, the pages.

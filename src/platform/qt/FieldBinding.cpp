@@ -176,6 +176,11 @@ void letWindowThrough(QLineEdit& edit) {
   edit.setPalette(palette);
 }
 
+void bindLabel(QLabel& label, framework::TextField& field) {
+  field.onChange = [&label, &field] { label.setText(fromUtf8(field.text())); };
+  field.onChange();
+}
+
 void bindReadOnly(QLineEdit& edit, framework::TextField& field) {
   letWindowThrough(edit);
   field.onChange = [&edit, &field] {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QComboBox>
+#include <QLabel>
 #include <QObject>
 #include <QPlainTextEdit>
 #include <QPointer>
@@ -51,6 +52,9 @@ class FieldBinding final : public QObject {
 
 /// Shows the window behind a line that takes no typing.
 void letWindowThrough(QLineEdit& edit);
+
+/// A label that shows a field.
+void bindLabel(QLabel& label, framework::TextField& field);
 
 /// A line that shows a field and takes no typing.
 void bindReadOnly(QLineEdit& edit, framework::TextField& field);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QWidget>
+#include <cstddef>
 #include <functional>
 
 #include "framework/Page.h"
@@ -10,7 +11,7 @@
 namespace nascor::qt {
 
 /// Shows a page on white, as large as fits, whatever the colours of the desktop. Tells of clicks, and what a mark means when
-/// the pointer rests on it.
+/// the pointer rests on it or the arrow keys reach it.
 class PageView final : public QWidget {
  public:
   /// `page` outlives the view, or `release` is called before it goes. `clicks` is shared by the pages of a window: a row of
@@ -25,6 +26,9 @@ class PageView final : public QWidget {
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override;
 
+  /// What screen readers say of the page, behind the mark that the keys have reached.
+  void setDescription(const QString& description);
+
   /// A press of the left button, in page coordinates, and its place in a row of presses.
   std::function<void(framework::Point, int count)> onClick;
 
@@ -33,13 +37,20 @@ class PageView final : public QWidget {
   void paintEvent(QPaintEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseDoubleClickEvent(QMouseEvent* event) override { mousePressEvent(event); }
+  void keyPressEvent(QKeyEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
 
  private:
+  /// Reads out the mark of that place among those of the page; a place outside them reads none.
+  void readOut(std::ptrdiff_t mark);
   framework::Point onPage(QPointF point) const;
 
   framework::Page* page_;
   ClickCounter& clicks_;
   TextLayouts texts_;
+  QString description_;
+  std::ptrdiff_t mark_ = -1;  ///< the mark that the keys have reached; -1 for none
 };
 
 }  // namespace nascor::qt
