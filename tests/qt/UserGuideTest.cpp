@@ -1,43 +1,67 @@
-// The user guide that the build has made, read by programs that know nothing of how it is made.
+// The user guide and the handbook that the build has made, read by programs that know nothing of how they are made.
 #include <gmock/gmock.h>
 
 #include <QDesktopServices>
 #include <QDir>
 #include <QFile>
 #include <QMenu>
+#include <QMenuBar>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTextBrowser>
 #include <QXmlStreamReader>
+#include <map>
+#include <set>
 
 #include "Run.h"
 #include "WindowTest.h"
 #include "qt/QtViewer.h"
-#include "user-guide/GuideDocument.h"
-#include "user-guide/GuideText.h"
-#include "user-guide/PdfNavigation.h"
 #include "user-guide/WindowPictures.h"
 
 namespace nascor::tests {
 namespace {
 
-using testing::ElementsAre;
 using testing::HasSubstr;
 
-QString guidePath() {
-  return QFile::decodeName(QByteArray::fromStdString(qt::resourceFolder())) +
-         QStringLiteral("/Nascor User Guide.pdf");
+const QString kGuide = QStringLiteral("Nascor User Guide");
+const QString kHandbook = QStringLiteral("Nascor Handbook");
+
+QString builtFolder() { return QFile::decodeName(QByteArray::fromStdString(qt::resourceFolder())); }
+QString built(const QString& title, const char* form) {
+  return builtFolder() + u'/' + title + QLatin1String(form);
+}
+
+QStringList chaptersOf(const QString& title) {
+  if (title == kGuide) return {QStringLiteral(NASCOR_SOURCE "/resources/guide/guide.md")};
+  QStringList files;
+  for (const char* name : {"command-line", "json", "scripting", "file-format", "oddities", "sources"})
+    files << QStringLiteral(NASCOR_SOURCE "/docs/%1.md").arg(QLatin1String(name));
+  return files;
+}
+
+/// Makes the document as the build does, in a folder of its own.
+Answer typeset(const char* tool, const QString& title, const QString& folder) {
+  EXPECT_EQ(run("cp", {"-r", builtFolder() + QStringLiteral("/guide"), folder}).status, 0);
+  return run("bash", QStringList{QStringLiteral(NASCOR_SOURCE "/tools/user-guide/typeset.sh"),
+                                 QLatin1String(tool), title, QStringLiteral(NASCOR_VERSION), folder} +
+                         chaptersOf(title));
+}
+
+QByteArray bytesOf(const QString& path) {
+  QFile file(path);
+  EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path.toStdString();
+  return file.readAll();
 }
 
 QString textOf(const QString& pdf, const QStringList& options = {}) {
   return QString::fromStdString(run("pdftotext", options + QStringList{pdf, "-"}).output);
 }
-QString textOfPage(int page) {
-  return textOf(guidePath(), {"-layout", "-f", QString::number(page), "-l", QString::number(page)});
+QString textOfPage(const QString& pdf, int page) {
+  return textOf(pdf, {"-layout", "-f", QString::number(page), "-l", QString::number(page)});
 }
-int pages() {
+int pagesOf(const QString& pdf) {
   static const QRegularExpression count(QStringLiteral("Pages:\\s+(\\d+)"));
-  return count.match(QString::fromStdString(run("pdfinfo", {guidePath()}).output)).captured(1).toInt();
+  return count.match(QString::fromStdString(run("pdfinfo", {pdf}).output)).captured(1).toInt();
 }
 
 struct Bookmark {
@@ -72,135 +96,219 @@ std::vector<Bookmark> bookmarksOf(const QString& pdf) {
   return found;
 }
 
-struct Link {
-  QString words;
-  int page = 0;
-  bool operator==(const Link&) const = default;
+/// What screen readers make of a page of HTML.
+struct Html {
+  struct Picture {
+    QString file;
+    QString alternative;
+  };
+  QString text;
+  std::vector<int> headings;  ///< their levels
+  QStringList ids;
+  QStringList links;  ///< where they lead
+  std::vector<Picture> pictures;
+  int tables = 0;
+  int tableHeads = 0;
+  QString language;
+  QString error;  ///< empty where the page is well-formed
 };
-void PrintTo(const Link& link, std::ostream* out) { *out << link.words.toStdString() << " -> " << link.page; }
 
-/// Where one gets to by a click on the words of a file.
-std::vector<Link> linksOf(const QString& pdf) {
-  const QTemporaryDir folder;
-  const Answer answer = run("pdftohtml", {"-xml", "-i", "-q", pdf, folder.filePath("guide")});
-  QFile file(folder.filePath("guide.xml"));
-  EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << answer.error;
-  static const QRegularExpression link(QStringLiteral("<a href=\"guide.html#(\\d+)\">(.*)</a>"));
-  static const QRegularExpression tag(QStringLiteral("<[^>]*>"));
-  std::vector<Link> found;
-  for (auto links = link.globalMatch(QString::fromUtf8(file.readAll())); links.hasNext();) {
-    const auto match = links.next();
-    found.push_back({.words = match.captured(2).remove(tag).simplified(), .page = match.captured(1).toInt()});
+Html htmlOf(const QString& path) {
+  Html html;
+  QXmlStreamReader xml(bytesOf(path));
+  while (!xml.atEnd()) {
+    xml.readNext();
+    if (xml.isCharacters()) html.text += xml.text();
+    if (!xml.isStartElement()) continue;
+    const QString name = xml.name().toString();
+    const auto attribute = [&](const char* wanted) {
+      return xml.attributes().value(QLatin1String(wanted)).toString();
+    };
+    if (const QString id = attribute("id"); !id.isEmpty()) html.ids << id;
+    if (name == QLatin1String("html")) html.language = attribute("lang");
+    if (name.size() == 2 && name[0] == u'h' && name[1].isDigit())
+      html.headings.push_back(name[1].digitValue());
+    if (name == QLatin1String("a")) html.links << attribute("href");
+    if (name == QLatin1String("img"))
+      html.pictures.push_back({.file = attribute("src"), .alternative = attribute("alt")});
+    html.tables += name == QLatin1String("table");
+    html.tableHeads += name == QLatin1String("thead");
   }
-  return found;
+  if (xml.hasError()) html.error = QStringLiteral("line %1: %2").arg(xml.lineNumber()).arg(xml.errorString());
+  return html;
 }
 
-TEST(TheUserGuide, liesWhereTheApplicationLooks) { EXPECT_TRUE(QFile::exists(guidePath())); }
+class EachDocument : public testing::TestWithParam<QString> {
+ protected:
+  static QString pdf() { return built(GetParam(), ".pdf"); }
+};
+INSTANTIATE_TEST_SUITE_P(documents, EachDocument, testing::Values(kGuide, kHandbook),
+                         [](const auto& each) { return each.param == kGuide ? "guide" : "handbook"; });
 
-TEST(TheUserGuide, isInstalledWhereTheInstalledApplicationLooks) {
-  const QTemporaryDir prefix;
-  const Answer answer = run(NASCOR_CMAKE, {"--install", NASCOR_BUILD, "--prefix", prefix.path()});
-  ASSERT_EQ(answer.status, 0) << answer.error;
-  EXPECT_TRUE(QFile::exists(prefix.filePath("bin/nascor")));
-  EXPECT_TRUE(QFile::exists(prefix.filePath("share/nascor/Nascor User Guide.pdf")));
-}
-
-TEST(TheUserGuide, hasEachChapterAsABookmarkOfThePageOnWhichItBegins) {
-  const std::vector<Bookmark> bookmarks = bookmarksOf(guidePath());
-  QStringList chapters;
-  for (const Bookmark& bookmark : bookmarks) {
-    if (bookmark.level == 1) chapters << bookmark.title;
-    EXPECT_THAT(textOfPage(bookmark.page).simplified().toStdString(),
+TEST_P(EachDocument, hasItsHeadingsAsBookmarksOfThePagesOnWhichTheyStand) {
+  QStringList expected;
+  for (const QString& file : chaptersOf(GetParam())) {
+    static const QRegularExpression heading(QStringLiteral("^#{1,2} (.*)$"),
+                                            QRegularExpression::MultilineOption);
+    for (auto each = heading.globalMatch(QString::fromUtf8(bytesOf(file))); each.hasNext();)
+      expected << each.next().captured(1).remove(u'`');
+  }
+  QStringList found;
+  static const QRegularExpression number(QStringLiteral("^[0-9.]+ "));
+  for (const Bookmark& bookmark : bookmarksOf(pdf())) {
+    found << QString(bookmark.title).remove(number);
+    EXPECT_THAT(textOfPage(pdf(), bookmark.page).simplified().toStdString(),
                 HasSubstr(bookmark.title.toStdString()));
   }
-  EXPECT_EQ(chapters.join(u'\n').toStdString(),
-            "1 What Nascor is, and what it is not\n2 A first patient in ten minutes\n3 Twins, step by step\n"
-            "4 The window\n5 Dating the pregnancy\n6 The charts\n7 The report\n8 Printing and exporting\n"
-            "9 What the numbers mean, and what they do not\n10 When something goes wrong\n"
-            "11 Menus and keys\n12 Glossary\n13 Scripting\n14 The command line\n15 The document file\n"
-            "16 Oddities kept on purpose\n17 Formulas and their sources");
-  EXPECT_GT(bookmarks.size(), 30U);
+  EXPECT_EQ(found.join(u'\n').toStdString(), expected.join(u'\n').toStdString());
 }
 
-TEST(TheUserGuide, listsInItsContentsThePagesOfTheBookmarks) {
-  const QString contents = textOfPage(1) + textOfPage(2);
-  const std::vector<Bookmark> bookmarks = bookmarksOf(guidePath());
-  ASSERT_FALSE(bookmarks.empty());
-  for (const Bookmark& bookmark : bookmarks) {
-    QString pattern = QRegularExpression::escape(bookmark.title);
+TEST_P(EachDocument, listsInItsContentsThePagesOfTheBookmarks) {
+  const QString contents = textOfPage(pdf(), 1) + textOfPage(pdf(), 2);
+  static const QRegularExpression number(QStringLiteral("^[0-9.]+ "));
+  for (const Bookmark& bookmark : bookmarksOf(pdf())) {
+    QString pattern = QRegularExpression::escape(QString(bookmark.title).remove(number));
     pattern.replace(QStringLiteral("\\ "), QStringLiteral("\\s+"));
-    EXPECT_TRUE(QRegularExpression(pattern + QStringLiteral("\\s+%1\\n").arg(bookmark.page))
+    EXPECT_TRUE(QRegularExpression(pattern + QStringLiteral("[ .]+%1\n").arg(bookmark.page))
                     .match(contents)
                     .hasMatch())
         << bookmark.title.toStdString() << ' ' << bookmark.page;
   }
 }
 
-TEST(TheUserGuide, leadsFromItsContentsToThePagesByAClick) {
-  const std::vector<Link> links = linksOf(guidePath());
-  const std::vector<Bookmark> bookmarks = bookmarksOf(guidePath());
-  ASSERT_FALSE(bookmarks.empty());
-  for (const Bookmark& bookmark : bookmarks) {
-    for (const QString& words : {bookmark.title, QString::number(bookmark.page)})
-      EXPECT_THAT(links, testing::Contains(Link{.words = words, .page = bookmark.page}))
-          << bookmark.title.toStdString();
+TEST_P(EachDocument, numbersItsPagesAndSaysOnEachThatItIsNoMedicalDevice) {
+  const int count = pagesOf(pdf());
+  ASSERT_GT(count, 10);
+  for (int page = 1; page <= count; ++page) {
+    const QString foot = textOfPage(pdf(), page).trimmed().section(u'\n', -1).simplified();
+    EXPECT_EQ(foot.toStdString(),
+              (GetParam() +
+               QStringLiteral(" \u2013 Not a medical device. Not validated for clinical use. %1").arg(page))
+                  .toStdString());
   }
 }
 
-TEST(TheUserGuide, numbersItsPages) {
-  const int count = pages();
-  ASSERT_GT(count, 20);
-  for (int page = 2; page <= count; ++page) {
-    EXPECT_TRUE(textOfPage(page).trimmed().endsWith(QStringLiteral(" %1").arg(page))) << page;
+TEST_P(EachDocument, keepsEveryWordOnItsPage) {
+  constexpr double kSide = 56.6;  // 20 mm in points
+  const QString boxes = textOf(pdf(), {"-bbox"});
+  static const QRegularExpression word(QStringLiteral(
+      "<word xMin=\"([0-9.]+)\" yMin=\"([0-9.]+)\" xMax=\"([0-9.]+)\" yMax=\"([0-9.]+)\">(.*)</word>"));
+  int words = 0;
+  for (auto each = word.globalMatch(boxes); each.hasNext(); ++words) {
+    const auto box = each.next();
+    EXPECT_GE(box.captured(1).toDouble(), kSide - 1.0) << box.captured(5).toStdString();
+    EXPECT_LE(box.captured(3).toDouble(), 595.3 - kSide + 1.0) << box.captured(5).toStdString();
+    EXPECT_LE(box.captured(4).toDouble(), 842.0) << box.captured(5).toStdString();
   }
+  EXPECT_GT(words, 1000);
 }
 
-TEST(TheUserGuide, saysOnEachPageThatItIsNoMedicalDevice) {
-  const int count = pages();
-  ASSERT_GT(count, 20);
-  for (int page = 1; page <= count; ++page)
-    EXPECT_THAT(textOfPage(page).toStdString(),
-                HasSubstr("Not a medical device. Not validated for clinical use."));
+TEST_P(EachDocument, isTaggedForProgramsThatReadAloud) {
+  const std::string facts = run("pdfinfo", {pdf()}).output;
+  EXPECT_THAT(facts, HasSubstr("Title:           " + GetParam().toStdString() + "\n"));
+  EXPECT_THAT(facts, HasSubstr("Tagged:          yes\n"));
+  const std::string tags = run("pdfinfo", {"-struct", pdf()}).output;
+  for (const char* tag : {" H1 ", " H2 ", " H3 ", " P ", " LI ", " TH\n", " TD\n", " Link "})
+    EXPECT_THAT(tags, HasSubstr(tag));
 }
 
-TEST(TheUserGuide, namesEveryItemOfTheMenus) {
-  const QString text = textOf(guidePath()).simplified();
-  QFile form(QStringLiteral(NASCOR_FORMS "/MyDocument.ui"));
-  ASSERT_TRUE(form.open(QIODevice::ReadOnly));
-  QXmlStreamReader xml(&form);
-  bool isItem = false;
-  QString property;
-  int items = 0;
-  while (!xml.atEnd()) {
-    xml.readNext();
-    if (!xml.isStartElement()) continue;
-    const auto attribute = [&](const char* name) {
-      return xml.attributes().value(QLatin1String(name)).toString();
-    };
-    if (xml.name() == QLatin1String("action")) {
-      isItem = true;
-    } else if (xml.name() == QLatin1String("widget")) {
-      isItem = attribute("class") == QLatin1String("QMenu");
-    } else if (xml.name() == QLatin1String("property")) {
-      property = attribute("name");
-    } else if (isItem && xml.name() == QLatin1String("string") &&
-               (property == QLatin1String("text") || property == QLatin1String("title"))) {
-      const QString item = xml.readElementText().remove(u'&');
-      EXPECT_THAT(text.toStdString(), HasSubstr(item.toStdString()));
-      ++items;
+TEST_P(EachDocument, hasTheSameBytesWhereverItIsMade) {
+  const QTemporaryDir folder;
+  const Answer answer = typeset("pandoc", GetParam(), folder.path());
+  ASSERT_EQ(answer.status, 0) << answer.error;
+  for (const char* form : {".html", ".pdf"})
+    EXPECT_TRUE(bytesOf(folder.filePath(GetParam() + QLatin1String(form))) ==
+                bytesOf(built(GetParam(), form)))
+        << form;
+}
+
+/// Both ways to HTML: that of the package, and that of a build without Pandoc.
+struct Way {
+  QString title;
+  const char* tool;
+  friend std::ostream& operator<<(std::ostream& to, const Way& way) {
+    return to << way.title.toStdString() << " by " << way.tool;
+  }
+};
+class EachPage : public testing::TestWithParam<Way> {
+ protected:
+  void SetUp() override {
+    QString path = built(GetParam().title, ".html");
+    if (GetParam().tool == std::string("lowdown")) {
+      ASSERT_EQ(typeset("lowdown", GetParam().title, folder_.path()).status, 0);
+      path = folder_.filePath(GetParam().title + QStringLiteral(".html"));
     }
+    html = htmlOf(path);
+    ASSERT_EQ(html.error.toStdString(), "");
   }
-  EXPECT_GT(items, 30);
+  Html html;
+
+ private:
+  QTemporaryDir folder_;
+};
+INSTANTIATE_TEST_SUITE_P(ways, EachPage,
+                         testing::Values(Way{kGuide, "pandoc"}, Way{kHandbook, "pandoc"},
+                                         Way{kGuide, "lowdown"}, Way{kHandbook, "lowdown"}),
+                         [](const auto& each) {
+                           return std::string(each.param.title == kGuide ? "guide" : "handbook") + "By" +
+                                  each.param.tool;
+                         });
+
+TEST_P(EachPage, hasHeadingsWithoutGaps) {
+  EXPECT_EQ(html.language.toStdString(), "en");
+  ASSERT_GT(html.headings.size(), 25U);
+  EXPECT_EQ(html.headings.front(), 1);
+  EXPECT_EQ(std::ranges::count(html.headings, 1), 1);
+  for (std::size_t i = 1; i < html.headings.size(); ++i)
+    EXPECT_LE(html.headings[i], html.headings[i - 1] + 1) << i;
 }
 
-TEST(TheUserGuide, citesWhatTheReferencesCite) {
-  const QString text = textOf(guidePath()).simplified();
+TEST_P(EachPage, hasNoLinkToNowhere) {
+  const std::set<QString> places(html.ids.begin(), html.ids.end());
+  EXPECT_EQ(static_cast<qsizetype>(places.size()), html.ids.size());
+  EXPECT_GT(html.links.size(), 10);
+  for (const QString& link : html.links)
+    EXPECT_TRUE(link.startsWith(u'#') && places.contains(link.mid(1))) << link.toStdString();
+}
+
+TEST_P(EachPage, saysWhatItsPicturesShowAndHeadsItsTables) {
+  EXPECT_EQ(html.pictures.empty(), GetParam().title == kHandbook);
+  for (const Html::Picture& picture : html.pictures) {
+    EXPECT_FALSE(QImage(builtFolder() + u'/' + picture.file).isNull()) << picture.file.toStdString();
+    EXPECT_GT(picture.alternative.size(), 20) << picture.file.toStdString();
+  }
+  EXPECT_GT(html.tables, 10);
+  EXPECT_EQ(html.tableHeads, html.tables);
+}
+
+TEST(TheUserGuide, hasAtMostTwentyPages) { EXPECT_LE(pagesOf(built(kGuide, ".pdf")), 20); }
+
+TEST(TheUserGuide, showsTheWindowsInItsPdf) {
+  const std::string list = run("pdfimages", {"-list", built(kGuide, ".pdf")}).output;
+  const auto pictures = htmlOf(built(kGuide, ".html")).pictures.size();
+  EXPECT_GT(pictures, 8U);
+  EXPECT_GE(static_cast<std::size_t>(std::ranges::count(list, '\n')) - 2, pictures);
+}
+
+TEST(TheUserGuide, isInstalledWhereTheInstalledApplicationLooks) {
+  const QTemporaryDir prefix;
+  const Answer answer = run(NASCOR_CMAKE, {"--install", NASCOR_BUILD, "--prefix", prefix.path()});
+  ASSERT_EQ(answer.status, 0) << answer.error;
+  EXPECT_TRUE(QFile::exists(prefix.filePath("bin/nascor")));
+  for (const char* file :
+       {"Nascor User Guide.pdf", "Nascor User Guide.html", "Nascor Handbook.pdf", "Nascor Handbook.html",
+        "guide/guide.css", "guide/pictures.css", "guide/window.png"})
+    EXPECT_TRUE(QFile::exists(prefix.filePath("share/nascor/") + QLatin1String(file))) << file;
+}
+
+TEST(TheHandbook, citesWhatTheReferencesCite) {
+  const QString text = htmlOf(built(kHandbook, ".html")).text.simplified();
   EXPECT_THAT(text.toStdString(), HasSubstr("Radiology 1984;152:497\u2013501"));
   EXPECT_THAT(text.toStdString(), HasSubstr("Br J Obstet Gynaecol 1975;82(9):702\u2013710"));
 }
 
 TEST(TheUserGuide, saysThatTheBandOfTheWeightIsNoPopulation) {
-  EXPECT_THAT(textOf(guidePath()).simplified().toStdString(),
+  EXPECT_THAT(textOf(built(kGuide, ".pdf")).simplified().toStdString(),
               HasSubstr("The band of the weight chart is not a population and shows no centiles."));
 }
 
@@ -224,164 +332,47 @@ TEST_F(TheHelpMenu, showsTheGuideInTheUsersViewer) {
   settle();
   ASSERT_EQ(viewer.shown.size(), 1);
   EXPECT_TRUE(QFile::exists(viewer.shown.front())) << viewer.shown.front().toStdString();
-  EXPECT_EQ(viewer.shown.front().toStdString(), guidePath().toStdString());
+  EXPECT_EQ(viewer.shown.front().toStdString(), built(kGuide, ".pdf").toStdString());
+}
+
+TEST(TheViewer, showsTheHtmlWhereThereIsNoPdf) {
+  const QTemporaryDir folder;
+  Viewer viewer;
+  QStringList told;
+  qt::QtViewer shower;
+  shower.tell = [&](const QString& sentence) { told << sentence; };
+  const QString pdf = folder.filePath("a b.c.pdf");
+  const std::string url = QUrl::fromLocalFile(pdf).toString(QUrl::FullyEncoded).toStdString();
+  EXPECT_FALSE(shower.open(url));
+  EXPECT_EQ(told, QStringList{pdf + " is not installed."});
+  writeFile(folder.filePath("a b.c.html"), "<p>");
+  EXPECT_TRUE(shower.open(url));
+  writeFile(pdf, "%PDF");
+  EXPECT_TRUE(shower.open(url));
+  EXPECT_EQ(viewer.shown, (QStringList{folder.filePath("a b.c.html"), pdf}));
 }
 
 TEST_F(TheHelpMenu, isNotTheOnlyOneThatTheGuideExplains) {
   openBlank();
-  const std::string text = textOf(guidePath()).simplified().toStdString();
+  const std::string text = htmlOf(built(kGuide, ".html")).text.simplified().toStdString();
   int items = 0;
-  for (const char* menu : {"fileMenu", "editMenu", "patientMenu", "viewMenu", "helpMenu"}) {
-    for (const QAction* item : widget<QMenu>(menu).actions()) {
+  for (const QAction* menu : widget<QMenuBar>("menuBar").actions()) {
+    EXPECT_THAT(text, HasSubstr(menu->text().remove(u'&').toStdString()));
+    for (const QAction* item : menu->menu()->actions()) {
       if (item->isSeparator() || item->objectName().startsWith(QLatin1String("fetusAction"))) continue;
       EXPECT_THAT(text, HasSubstr(item->text().remove(u'&').toStdString()));
+      const QString keys = item->shortcut().toString(QKeySequence::PortableText);
+      const bool isPage = keys.startsWith(QLatin1String("Alt+")) && keys.size() == 5;
+      EXPECT_THAT(text, HasSubstr(isPage ? "Alt+1 to Alt+7" : keys.toStdString()));
       ++items;
     }
   }
-  EXPECT_GT(items, 35);
+  EXPECT_GT(items, 50);
 }
 
-TEST(MakingTheGuide, stopsAtAPictureThatThereIsNot) {
+TEST(TheWindowPictures, stopAtAPictureThatThereIsNot) {
   EXPECT_THROW(user_guide::WindowPictures(QString()).picture(QStringLiteral("dialog-none")),
                std::runtime_error);
-}
-TEST(MakingTheGuide, keepsTheColumnsOfWhatATerminalShows) {
-  const QTemporaryDir folder;
-  const QString path = folder.filePath("chapter.md");
-  writeFile(path, "    a\tb\n\n| | x |\n| --- | --- |\n");
-  EXPECT_EQ(user_guide::guideText({path}).toStdString(),
-            "    a       b\n\n| \u00a0 | x |\n| --- | --- |\n\n\n");
-}
-TEST(MakingTheGuide, stopsAtAChapterThatThereIsNot) {
-  EXPECT_THROW(user_guide::guideText({QStringLiteral("/nowhere/chapter.md")}), std::runtime_error);
-}
-TEST(MakingTheGuide, appendsNoBookmarksToWhatIsNoPdf) {
-  EXPECT_THROW(user_guide::withNavigation("%PDF-1.4 and rubbish", {{.title = QStringLiteral("A")}}, 842.0),
-               std::runtime_error);
-}
-TEST(MakingTheGuide, keepsEverySignOfATitleInItsBookmark) {
-  const QTemporaryDir folder;
-  const QString path = folder.filePath("a.pdf");
-  writeFile(path, user_guide::guidePdf(
-                      {.title = "T", .subtitle = {}, .warning = {}},
-                      "# Cr\u00e9quat\n\ntext\n\n## One\n\ntext\n\n## Two\n\ntext\n\n# Last\n\ntext\n",
-                      [](const QString&) { return QImage(); }));
-  std::vector<std::string> read;
-  for (const Bookmark& each : bookmarksOf(path))
-    read.push_back(std::to_string(each.level) + " " + each.title.toStdString() + " " +
-                   std::to_string(each.page));
-  EXPECT_THAT(read, ElementsAre("1 1 Cr\u00e9quat 2", "2 1.1 One 2", "2 1.2 Two 2", "1 2 Last 3"));
-}
-
-/// A guide of a few lines.
-class AGuide : public testing::Test {
- protected:
-  /// The pages behind the contents.
-  QStringList make(const QString& text) {
-    writeFile(path(), user_guide::guidePdf({.title = "T", .subtitle = {}, .warning = {}}, text,
-                                           [](const QString&) { return picture(); }));
-    QStringList found = textOf(path(), {"-layout"}).split(u'\f', Qt::SkipEmptyParts);
-    found.removeFirst();
-    return found;
-  }
-  QString path() const { return folder_.filePath("a.pdf"); }
-  static QImage picture() {
-    QImage image(200, 400, QImage::Format_RGB32);
-    image.fill(Qt::white);
-    return image;
-  }
-  static QString lines(int count) {
-    QString text;
-    for (int i = 0; i < count; ++i) text += QStringLiteral("line\n\n");
-    return text;
-  }
-  static QString table(int rows) {
-    QString text = QStringLiteral("| headword | b |\n| --- | --- |\n");
-    for (int i = 1; i <= rows; ++i) text += QStringLiteral("| row%1 | x |\n").arg(i);
-    return text + u'\n';
-  }
-
- private:
-  QTemporaryDir folder_;
-};
-
-TEST_F(AGuide, leadsFromWordsToTheSectionThatTheyName) {
-  const QStringList pages = make(
-      "# One\n\n[there](#far-away) and [again](#far-away-1)\n\n# Far away\n\ntext\n\n"
-      "# Other\n\n## Far away\n\ntext\n");
-  EXPECT_TRUE(pages.at(0).contains("there (2) and again (3.1)")) << pages.at(0).toStdString();
-  const std::vector<Link> links = linksOf(path());
-  EXPECT_THAT(links, testing::Contains(Link{.words = "there (2)", .page = 3}));
-  EXPECT_THAT(links, testing::Contains(Link{.words = "again (3.1)", .page = 4}));
-}
-TEST_F(AGuide, isNotMadeWithALinkToNowhere) {
-  EXPECT_THROW(make("# One\n\n[there](#nowhere)\n"), std::runtime_error);
-}
-TEST_F(AGuide, repeatsTheHeadOfALongTable) {
-  const QStringList pages = make("# One\n\n" + table(120));
-  ASSERT_GT(pages.size(), 2);
-  for (const QString& page : pages) EXPECT_EQ(page.count("headword"), 1) << page.toStdString();
-}
-TEST_F(AGuide, keepsATableWhole) {
-  // At some of these lengths the table does not fit under the lines.
-  bool isMoved = false;
-  for (int count = 20; count < 45; count += 4) {
-    const QStringList pages = make("# One\n\n" + lines(count) + table(8));
-    for (const QString& page : pages) EXPECT_EQ(page.contains("headword"), page.contains("row8")) << count;
-    isMoved = isMoved || (pages.size() > 1 && !pages.at(0).contains("headword"));
-  }
-  EXPECT_TRUE(isMoved);
-}
-TEST_F(AGuide, keepsAHeadingWithThePictureAndTheTableUnderIt) {
-  bool isMoved = false;
-  for (int count = 12; count < 40; count += 4) {
-    const QStringList pages =
-        make("# One\n\n" + lines(count) + "## Section\n\n![caption](picture:a)\n\n" + table(4));
-    for (const QString& page : pages) {
-      EXPECT_EQ(page.contains("Section"), page.contains("caption")) << count;
-      EXPECT_EQ(page.contains("Section"), page.contains("row4")) << count;
-    }
-    isMoved = isMoved || (pages.size() > 1 && !pages.at(0).contains("Section"));
-  }
-  EXPECT_TRUE(isMoved);
-}
-TEST_F(AGuide, keepsAPictureUnderAHeadingWithItsExplanation) {
-  bool isMoved = false;
-  for (int count = 12; count < 40; ++count) {
-    const QStringList pages = make("# One\n\n" + lines(count) +
-                                   "## Section\n\n![caption](picture:a)\n\nexplained\n\n## Next\n\ntext\n");
-    for (const QString& page : pages)
-      EXPECT_EQ(page.contains("caption"), page.contains("explained")) << count;
-    isMoved = isMoved || (pages.size() > 1 && !pages.at(0).contains("Section"));
-  }
-  EXPECT_TRUE(isMoved);
-}
-TEST_F(AGuide, partsAPictureFromTheNextSection) {
-  bool isParted = false;
-  for (int count = 12; count < 40; count += 2) {
-    const QStringList pages =
-        make("# One\n\n" + lines(count) + "## Section\n\n![caption](picture:a)\n\n## Next\n\ntext\n");
-    isParted = isParted || (pages.at(0).contains("caption") && !pages.at(0).contains("Next"));
-  }
-  EXPECT_TRUE(isParted);
-}
-TEST_F(AGuide, keepsWhatIsAnnouncedWithItsAnnouncement) {
-  bool isMoved = false;
-  for (int count = 30; count < 46; count += 2) {
-    const QStringList pages =
-        make("# One\n\n" + lines(count) + "So it is called:\n\n    code1\n    code2\n\ntext\n");
-    for (const QString& page : pages) EXPECT_EQ(page.contains("called:"), page.contains("code2")) << count;
-    isMoved =
-        isMoved || (pages.size() > 1 && !pages.at(0).contains("called:") && pages.at(1).contains("called:"));
-  }
-  EXPECT_TRUE(isMoved);
-}
-TEST_F(AGuide, readsALinkToAnotherChaptersFile) {
-  const QTemporaryDir folder;
-  writeFile(folder.filePath("a.md"), "# First\n\n[b.md](b.md), [that](b.md#part), [other](c.md)\n");
-  writeFile(folder.filePath("b.md"), "# The Second\n\n## Part\n\ntext\n");
-  EXPECT_THAT(user_guide::guideText({folder.filePath("a.md"), folder.filePath("b.md")}).toStdString(),
-              HasSubstr("[The Second](#the-second), [that](#part), other\n"));
 }
 
 }  // namespace

@@ -6,10 +6,7 @@
 #include <QDir>
 #include <QLineEdit>
 #include <QLocale>
-#include <QMenu>
-#include <QMenuBar>
 #include <QMessageBox>
-#include <QSpinBox>
 #include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -158,14 +155,6 @@ struct WindowPictures::Application {
     }
     throw std::runtime_error("there is no page " + name.toStdString());
   }
-  QImage menu(const QString& name) {
-    qt::DocumentWindow& window = open("singleton.nascor");
-    auto& menu = part<QMenu>(window, name + QStringLiteral("Menu"));
-    QMetaObject::invokeMethod(&menu, "aboutToShow");
-    menu.ensurePolished();
-    menu.resize(menu.sizeHint());
-    return imageOf(menu);
-  }
   QImage question() {
     qt::DocumentWindow& window = open("singleton.nascor");
     dialog(window, "eddFromLMPAction", "lmpWindow");
@@ -221,25 +210,11 @@ QImage WindowPictures::picture(const QString& name) {
                                             "adjustDeliveryPanel"));
        }},
       {QStringLiteral("dialog-question"), [&] { return shown.question(); }},
-      {QStringLiteral("dialog-references"),
-       [&] {
-         return imageOf(
-             Application::dialog(shown.open("singleton.nascor"), "referencesAction", "referencesDialog"));
-       }},
-      {QStringLiteral("dialog-about"),
-       [&] { return Application::modal(shown.open("singleton.nascor"), QStringLiteral("aboutAction")); }},
-      {QStringLiteral("dialog-export-settings"),
-       [&] {
+      {QStringLiteral("dialog-export-settings"), [&] {
          return Application::modal(shown.open("singleton.nascor"), QStringLiteral("exportSettingsAction"));
-       }},
-      {QStringLiteral("dialog-page-setup"),
-       [&] { return Application::modal(shown.open("singleton.nascor"), QStringLiteral("pageSetupAction")); }},
-      {QStringLiteral("dialog-preview"), [&] {
-         return Application::modal(shown.open("singleton.nascor"), QStringLiteral("printPreviewAction"));
        }}};
   if (const auto found = makers.find(name); found != makers.end()) return found->second();
   if (name.startsWith(QLatin1String("page-"))) return shown.page(name.mid(5));
-  if (name.startsWith(QLatin1String("menu-"))) return shown.menu(name.mid(5));
   throw std::runtime_error("there is no picture " + name.toStdString());
 }
 

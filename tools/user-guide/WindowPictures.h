@@ -8,7 +8,8 @@
 
 namespace nascor::user_guide {
 
-/// Pictures of the application's own windows, two pixels to the unit: "window", "page-NAME", "menu-NAME" and "dialog-NAME".
+/// Pictures of the application's own windows, two pixels to the unit: "window", "window-twins",
+/// "page-NAME" and "dialog-NAME".
 class WindowPictures {
  public:
   /// The patients on show are those of the folder `samples`.

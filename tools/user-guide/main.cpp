@@ -1,42 +1,68 @@
+#include <QBuffer>
+#include <QFile>
 #include <QLocale>
-#include <QSaveFile>
+#include <QRegularExpression>
 #include <QTemporaryDir>
+#include <algorithm>
 #include <cstdio>
-#include <cstdlib>
 #include <exception>
+#include <map>
+#include <stdexcept>
 
 #include "qt/Application.h"
-#include "user-guide/GuideDocument.h"
-#include "user-guide/GuideText.h"
 #include "user-guide/WindowPictures.h"
 
 namespace {
 
-int write(const QStringList& arguments) {
-  if (arguments.size() < 4) {
-    std::fputs("usage: nascor-user-guide GUIDE.pdf SAMPLES CHAPTER.md...\n", stderr);
-    return 2;
+using nascor::user_guide::WindowPictures;
+
+QByteArray contents(const QString& path) {
+  QFile file(path);
+  return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+void write(const QString& path, const QByteArray& bytes) {
+  QFile file(path);
+  if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+    throw std::runtime_error(qUtf8Printable(path + QStringLiteral(" cannot be written")));
+}
+
+QByteArray pngOf(const QImage& picture) {
+  QBuffer buffer;
+  if (!picture.save(&buffer, "PNG")) throw std::runtime_error("a picture cannot be made a PNG");
+  return buffer.data();
+}
+
+/// Writes each picture that the guide shows as FOLDER/NAME.png, and last FOLDER/pictures.css with their widths in units of
+/// the window, 16 to the em. Touches no file when all hold these bytes already.
+void writePictures(const QString& guide, const QString& samples, const QString& folder) {
+  WindowPictures pictures(samples);
+  std::map<QString, QByteArray> files;
+  QByteArray css;
+  static const QRegularExpression shown(QStringLiteral(R"(!\[[^\]]*\]\(guide/([\w-]+)\.png\))"));
+  for (auto matches = shown.globalMatch(QString::fromUtf8(contents(guide))); matches.hasNext();) {
+    const QString name = matches.next().captured(1);
+    const QImage picture = pictures.picture(name);
+    files.emplace(name + QStringLiteral(".png"), pngOf(picture));
+    css += QStringLiteral("img[src$=\"/%1.png\"] { width: %2em; }\n")
+               .arg(name)
+               .arg(picture.width() / picture.devicePixelRatio() / 16.0)
+               .toUtf8();
   }
-  nascor::user_guide::WindowPictures pictures(arguments.at(2));
-  const QByteArray pdf = nascor::user_guide::guidePdf(
-      {.title = QStringLiteral("Nascor User Guide"),
-       .subtitle = QStringLiteral("Version %1. Obstetric ultrasound biometry: one document for each patient.")
-                       .arg(nascor::qt::programVersion()),
-       .warning = nascor::qt::disclaimer()},
-      nascor::user_guide::guideText(arguments.mid(3)),
-      [&](const QString& name) { return pictures.picture(name); });
-  QSaveFile file(arguments.at(1));
-  if (!file.open(QIODevice::WriteOnly) || file.write(pdf) != pdf.size() || !file.commit()) {
-    std::fprintf(stderr, "%s cannot be written\n", qUtf8Printable(arguments.at(1)));
-    return 1;
-  }
-  return 0;
+  if (files.empty()) throw std::runtime_error(qUtf8Printable(guide + QStringLiteral(" shows no pictures")));
+  const auto path = [&](const QString& name) { return folder + u'/' + name; };
+  const QString style = path(QStringLiteral("pictures.css"));
+  if (contents(style) == css &&
+      std::ranges::all_of(files, [&](const auto& file) { return contents(path(file.first)) == file.second; }))
+    return;
+  for (const auto& [name, bytes] : files) write(path(name), bytes);
+  write(style, css);
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
-  // The same guide on every machine: no display, no preferences, no place on earth.
+  // The same pictures on every machine: no display, no preferences, no place on earth.
   const QTemporaryDir home;
   qputenv("QT_QPA_PLATFORM", "offscreen");
   qputenv("XDG_CONFIG_HOME", home.path().toUtf8());
@@ -45,14 +71,20 @@ int main(int argc, char** argv) {
   qunsetenv("QT_SCALE_FACTOR");
   QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
   nascor::qt::Application application(argc, argv);
+  const QStringList arguments = nascor::qt::Application::arguments();
+  if (arguments.size() != 4) {
+    std::fputs("usage: nascor-window-pictures GUIDE.md SAMPLES FOLDER\n", stderr);
+    return 2;
+  }
   if (const QString sentence = nascor::qt::missingFontSentence(); !sentence.isEmpty()) {
     std::fprintf(stderr, "%s\n", qUtf8Printable(sentence));
     return 1;
   }
   try {
-    return write(nascor::qt::Application::arguments());
+    writePictures(arguments.at(1), arguments.at(2), arguments.at(3));
   } catch (const std::exception& error) {
-    std::fprintf(stderr, "nascor-user-guide: %s\n", error.what());
+    std::fprintf(stderr, "nascor-window-pictures: %s\n", error.what());
     return 1;
   }
+  return 0;
 }

@@ -4,14 +4,26 @@
 #include <QDesktopServices>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QUrl>
 
 #include "qt/Text.h"
 
 namespace nascor::qt {
+namespace {
+
+/// The file itself or, where only that is there, the HTML beside it of the same name.
+QUrl asBuilt(const QUrl& target) {
+  if (!target.isLocalFile() || QFile::exists(target.toLocalFile())) return target;
+  const QFileInfo file(target.toLocalFile());
+  const QString html = file.path() + u'/' + file.completeBaseName() + QStringLiteral(".html");
+  return QFile::exists(html) ? QUrl::fromLocalFile(html) : target;
+}
+
+}  // namespace
 
 bool QtViewer::open(const std::string& url) {
-  const QUrl target(fromUtf8(url), QUrl::StrictMode);
+  const QUrl target = asBuilt(QUrl(fromUtf8(url), QUrl::StrictMode));
   const QString name = target.isLocalFile() ? target.toLocalFile() : target.toString();
   const auto fail = [&](const QString& sentence) {
     if (tell) tell(sentence.arg(name));

@@ -8,7 +8,8 @@
 
 namespace nascor::qt {
 
-/// The program that the desktop has for a URL.
+/// The program that the desktop has for a URL. A build without a maker of PDF has its documents as HTML alone: a local file
+/// that is missing gives way to the HTML beside it of the same name.
 class QtViewer final : public framework::Viewer {
  public:
   bool open(const std::string& url) override;
