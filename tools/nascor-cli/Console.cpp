@@ -49,6 +49,8 @@ void writeOutput(std::string_view bytes) {
 
 Console::Console() : outputIsTerminal_(::isatty(STDOUT_FILENO) == 1) {}
 
+bool Console::errorsAloneAreSeen() const { return !outputIsTerminal_ && ::isatty(STDERR_FILENO) == 1; }
+
 void Console::lineDone() {
   out_ += '\n';
   linesDone();

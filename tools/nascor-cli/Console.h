@@ -61,6 +61,9 @@ class Console {
   /// whole lines, as long as `out` is sent on at the ends of lines only. A second Ctrl-C ends it at once.
   static void endOnInterrupt();
 
+  /// Whether people see standard error, and nothing else that this program writes.
+  bool errorsAloneAreSeen() const;
+
   bool outputIsTerminal() const { return outputIsTerminal_; }
 
   /// Whether there was no complaint.

@@ -142,6 +142,19 @@ class DocumentsInTar final : public DocumentSource {
 
 }  // namespace
 
+std::optional<std::uint64_t> countOf(Console& console, const Names& names) {
+  struct stat status {};
+  const bool isListed = names.listPath.has_value();
+  const bool isFile = isListed && ::stat(names.listPath->c_str(), &status) == 0 && S_ISREG(status.st_mode);
+  if (isListed && !isFile) return std::nullopt;
+  Names others = names;
+  const auto inputs = std::erase(others.paths, "-");
+  NamedDocuments documents(console, std::move(others));
+  std::uint64_t count = inputs;
+  while (documents.next()) ++count;
+  return count;
+}
+
 std::unique_ptr<DocumentSource> namedDocuments(Console& console, Names names) {
   return std::make_unique<NamedDocuments>(console, std::move(names));
 }

@@ -54,6 +54,10 @@ struct Names {
   char listEnd = '\n';                  ///< behind each name of the list
 };
 
+/// How many documents these are, as far as names tell; nothing where standard input or a pipe has the names. Folders are
+/// gone through, files are not opened.
+std::optional<std::uint64_t> countOf(Console& console, const Names& names);
+
 /// Files, and the documents in folders.
 std::unique_ptr<DocumentSource> namedDocuments(Console& console, Names names);
 

@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <array>
+#include <chrono>
 #include <memory>
 #include <utility>
 
@@ -9,6 +10,7 @@
 #include "cli_commands/Numbers.h"
 #include "cli_commands/OrderedWork.h"
 #include "cli_commands/RowOptions.h"
+#include "foundation/Progress.h"
 #include "posix/PosixCalendar.h"
 #include "rows/PatientRows.h"
 
@@ -92,20 +94,19 @@ RowsOptions optionsOf(const Arguments& arguments) {
   return options;
 }
 
-std::unique_ptr<DocumentSource> sourceOf(const Arguments& arguments, Console& console) {
+/// The names of documents; nothing for an archive.
+std::optional<Names> namesOf(const Arguments& arguments) {
   const auto list = arguments.option("files-from");
-  const auto archive = arguments.option("tar");
   const auto& paths = arguments.operands;
   if (arguments.has("null") && !list) throw UsageError("--null needs --files-from");
-  if (archive) {
+  if (arguments.has("tar")) {
     if (list || !paths.empty()) throw UsageError("--tar stands alone, without PATH and --files-from");
-    return documentsInTar(console, *archive);
+    return std::nullopt;
   }
   const auto inputs = std::ranges::count(paths, "-") + (list == "-" ? 1 : 0);
   if (inputs > 1) throw UsageError("standard input (-) can be read once only");
   if (paths.empty() && !list) throw UsageError("a PATH, --files-from or --tar is missing");
-  return namedDocuments(console,
-                        {.paths = paths, .listPath = list, .listEnd = arguments.has("null") ? '\0' : '\n'});
+  return Names{.paths = paths, .listPath = list, .listEnd = arguments.has("null") ? '\0' : '\n'};
 }
 
 /// Several documents, so that threads meet rarely.
@@ -124,6 +125,7 @@ struct Complaint {
 struct Finished {
   std::string rows;
   std::vector<Complaint> complaints;
+  std::size_t documents = 0;
   std::size_t bytes = 0;
   bool isLast = false;  // of a strict run
 };
@@ -136,12 +138,49 @@ std::string withoutQuotes(std::string sentence) {
   return sentence;
 }
 
+/// The changing line on a terminal's standard error; nothing elsewhere.
+class ProgressLine {
+ public:
+  ProgressLine(const Console& console, std::optional<std::uint64_t> total)
+      : isShown_(console.errorsAloneAreSeen()),
+        progress_(static_cast<std::int64_t>(total.value_or(0)), now()) {}
+  ProgressLine(const ProgressLine&) = delete;
+  ProgressLine& operator=(const ProgressLine&) = delete;
+  ~ProgressLine() { wipe(); }
+
+  void add(std::size_t documents) {
+    if (!isShown_) return;
+    done_ += static_cast<std::int64_t>(documents);
+    progress_.set(done_, now());
+    if (!progress_.isDue()) return;
+    Console::tell(progress_.line(english_));
+    isThere_ = true;
+  }
+
+  /// Before anything else is said.
+  void wipe() {
+    if (std::exchange(isThere_, false)) Console::tell(foundation::Progress::kWiped);
+  }
+
+ private:
+  static double now() {
+    return std::chrono::duration<double>(std::chrono::steady_clock::now().time_since_epoch()).count();
+  }
+
+  bool isShown_;
+  bool isThere_ = false;
+  std::int64_t done_ = 0;
+  foundation::Progress progress_;
+  foundation::EnglishLocalizer english_;
+};
+
 class RowsRun {
  public:
-  RowsRun(RowsOptions options, Console& console)
+  RowsRun(RowsOptions options, Console& console, ProgressLine& progress)
       : options_(std::move(options)),
         format_(std::move(options_.columns), options_.settings),
-        console_(console) {}
+        console_(console),
+        progress_(progress) {}
 
   void run(DocumentSource& source) {
     if (options_.hasHeader) {
@@ -150,6 +189,7 @@ class RowsRun {
     }
     const bool wasStopped = options_.jobs == 1 ? runAlone(source) : runTogether(source);
     if (wasStopped) return;
+    progress_.wipe();
     if (const auto complaint = source.complaint()) console_.complain(complaint->source, complaint->sentence);
   }
 
@@ -205,6 +245,7 @@ class RowsRun {
   Finished rowsOf(Batch batch) const {
     Finished finished;
     finished.bytes = batch.bytes;
+    finished.documents = batch.documents.size();
     for (PendingDocument& pending : batch.documents) {
       const std::string path = pending.name;
       const rows::DocumentName document{.name = path, .place = pending.place};
@@ -240,9 +281,11 @@ class RowsRun {
     };
     for (const Complaint& complaint : finished.complaints) {
       printTo(complaint.at);
+      progress_.wipe();
       console_.complain(complaint.source, complaint.sentence);
     }
     printTo(finished.rows.size());
+    progress_.add(finished.documents);
     return finished.isLast;
   }
 
@@ -250,16 +293,21 @@ class RowsRun {
   rows::RowFormat format_;
   posix::PosixCalendar calendar_;
   Console& console_;
+  ProgressLine& progress_;
 };
 
 void runRows(const Arguments& arguments, Console& console) {
   RowsOptions options = optionsOf(arguments);
-  const auto source = sourceOf(arguments, console);
+  const auto names = namesOf(arguments);
   if (const auto zone = arguments.option("time-zone"); zone && !posix::chooseTimeZone(*zone)) {
     throw UsageError("--time-zone: this system knows no zone \"" + *zone + "\"");
   }
   Console::endOnInterrupt();
-  RowsRun(std::move(options), console).run(*source);
+  const bool isCounted = names && console.errorsAloneAreSeen();
+  ProgressLine progress(console, isCounted ? countOf(console, *names) : std::nullopt);
+  const auto source =
+      names ? namedDocuments(console, *names) : documentsInTar(console, *arguments.option("tar"));
+  RowsRun(std::move(options), console, progress).run(*source);
 }
 
 }  // namespace
