@@ -1,12 +1,15 @@
 #include "app/NCDocument.h"
 
 #include <limits>
+#include <stdexcept>
 #include <utility>
 
 #include "calc/Dating.h"
 #include "calc/Projection.h"
+#include "foundation/Calendar.h"
 #include "foundation/ConvertInteger.h"
 #include "foundation/Localizer.h"
+#include "foundation/LongDate.h"
 #include "model/PatientFile.h"
 
 namespace nascor::app {
@@ -81,6 +84,29 @@ std::optional<std::string> NCDocument::lossInFile() const {
       services().localizer.text("NCDocument",
                                 "The gravidity %ld will be read as %ld. A file holds gravidities up to %ld."),
       {gravida, kept, std::numeric_limits<std::int32_t>::max()});
+}
+
+std::vector<std::string> NCDocument::factsOfFile(std::span<const std::byte> data) const {
+  std::unique_ptr<model::PatientRecord> patient;
+  try {
+    patient = model::unarchivedPatient(data).patient;
+  } catch (const std::runtime_error&) {
+    return {};  // opening the file tells why
+  }
+  if (!patient) return {};
+  const foundation::Localizer& localizer = services().localizer;
+  const auto fact = [&](const std::string& label, const std::optional<foundation::Date>& date) {
+    return label + " " + (date ? longDateText(*date) : "-");
+  };
+  const auto& examinations = patient->ncRecordsArray();
+  return {fact(localizer.text("NCDocument", "Last examination:"),
+               examinations.empty() ? std::nullopt : examinations.back()->examDate()),
+          fact(localizer.text("NCDocument", "EDD:"), patient->edd())};
+}
+
+std::string NCDocument::longDateText(const foundation::Date& date) const {
+  const auto day = foundation::localDay(date, services().calendar);
+  return day ? foundation::longDateText(*day, services().localizer) : std::string();
 }
 
 std::int64_t NCDocument::lastExam() const { return std::max<std::int64_t>(numberOfExaminations() - 1, 0); }

@@ -67,6 +67,8 @@ class NCDocument final : public framework::CorvelDocument,
   void printDocumentWithSettings(const framework::PrintSettings& settings, bool showPrintPanel,
                                  const DidPrint& didPrint) override;
   framework::PageFoot footOfPage(std::int64_t index, std::int64_t number, std::int64_t count) const override;
+  /// The patient, or the page's name where she has none; the program; what the page is about.
+  framework::SheetFacts factsOfPage(std::int64_t index) const override;
 
   /// @}
   /// @name The window
@@ -98,6 +100,9 @@ class NCDocument final : public framework::CorvelDocument,
   /// What the marks of the examination on show say on that chart page, for those who do not see it: measure, value, z-score,
   /// and the standard. The standard alone where there is none.
   std::string spokenPage(std::int64_t page) const;
+  /// What a page cannot show for want of something, and where it is entered: a sentence each, none where nothing is missing.
+  /// For the window alone; paper, files and drawings never show it.
+  std::vector<std::string> adviceOnPage(std::int64_t page) const;
   // Selector: switchToGraph:
   /// Shows that page. Throws RangeError.
   void switchToGraph(std::int64_t tabIndex) override;
@@ -188,6 +193,8 @@ class NCDocument final : public framework::CorvelDocument,
   /// @name Planned delivery
   /// @{
 
+  /// Whether planning changes anything: without an EDD there is no day to count from.
+  bool canAdjustDelivery() const;
   // Selector: doAdjustDeliveryDate:
   void doAdjustDeliveryDate(Sender sender);
   // Selector: adjustDeliveryDate:
@@ -287,6 +294,8 @@ class NCDocument final : public framework::CorvelDocument,
   void controlTextDidEndEditing(framework::TextField& field) override;
   bool currentExaminationHoldsData() const override;
   bool holdsMoreThanIdentity() const override;
+  /// The date of the last examination and the EDD.
+  std::vector<std::string> factsOfFile(std::span<const std::byte> data) const override;
   std::string referenceIDForFileName() const override;
   std::string exportName() const override { return preferredFileName(true); }
 
@@ -304,6 +313,8 @@ class NCDocument final : public framework::CorvelDocument,
   void showWhatTakesTyping();
   model::MeasurementsRecord* currentMeasurements();
   std::string shortDateText(const std::optional<foundation::Date>& date) const;
+  /// The day with its month in words.
+  std::string longDateText(const foundation::Date& date) const;
   std::optional<foundation::Date> dateFromText(const framework::TextField& field) const;
   /// `date` as what is entered; nothing, because of `obstacles`, when it has no text that reads back to the same day.
   ProposedEDD proposed(const std::optional<foundation::Date>& date,

@@ -32,6 +32,8 @@ double NCDocument::menstrualAgeFromCRLWesterway(double crl) const {
   return calc::menstrualAgeFromCRLWesterway(crl);
 }
 
+bool NCDocument::canAdjustDelivery() const { return patientRecord_ && patientRecord_->edd(); }
+
 void NCDocument::doAdjustDeliveryDate(Sender) {
   adjustDeliveryPanel_.center();
   adjustDeliveryPanel_.makeKeyAndOrderFront();

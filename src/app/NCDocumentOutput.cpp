@@ -5,10 +5,9 @@
 #include "app/NCDocument.h"
 #include "calc/FetalWeight.h"
 #include "calc/Standards.h"
-#include "foundation/Calendar.h"
 #include "foundation/Localizer.h"
-#include "foundation/LongDate.h"
 #include "foundation/ProgramVersion.h"
+#include "foundation/Utf8.h"
 
 namespace nascor::app {
 
@@ -57,10 +56,6 @@ framework::PageFoot NCDocument::footOfPage(std::int64_t index, std::int64_t numb
                                            std::int64_t count) const {
   if (!patientRecord_) return {};
   const foundation::Localizer& localizer = services().localizer;
-  const auto dateText = [&](const foundation::Date& date) {
-    const auto day = foundation::localDay(date, services().calendar);
-    return day ? foundation::longDateText(*day, localizer) : std::string();
-  };
   const auto labelled = [](const std::string& label, const std::string& value) {
     return value.empty() ? std::string() : label + " " + value;
   };
@@ -69,7 +64,7 @@ framework::PageFoot NCDocument::footOfPage(std::int64_t index, std::int64_t numb
   std::string last;
   for (const auto& record : patientRecord_->ncRecordsArray()) {
     if (!record->examDate()) continue;
-    last = dateText(*record->examDate());
+    last = longDateText(*record->examDate());
     if (first.empty()) first = last;
   }
   const std::string examinations = first == last ? first : first + " \u2013 " + last;
@@ -96,7 +91,7 @@ framework::PageFoot NCDocument::footOfPage(std::int64_t index, std::int64_t numb
            labelled(localizer.text("NCDocument", "Gravidity:"), std::to_string(patientRecord_->gravida())),
            labelled(localizer.text("NCDocument", "Fetus:"), multiplePopUp_.titleOfSelectedItem()),
            labelled(localizer.text("NCDocument", "EDD:"),
-                    patientRecord_->edd() ? dateText(*patientRecord_->edd()) : std::string()),
+                    patientRecord_->edd() ? longDateText(*patientRecord_->edd()) : std::string()),
            labelled(first == last ? localizer.text("NCDocument", "Examination:")
                                   : localizer.text("NCDocument", "Examinations:"),
                     examinations)},
@@ -104,8 +99,18 @@ framework::PageFoot NCDocument::footOfPage(std::int64_t index, std::int64_t numb
            calc::fetalWeightTitle(fetalWeightStandard(), localizer), leftOut},
           {std::string("Nascor ").append(foundation::programVersion()),
            localizer.text("NCDocument", "Not a medical device. Not validated for clinical use."),
-           labelled(localizer.text("NCDocument", "Printed:"), dateText(services().clock.now())), page},
+           labelled(localizer.text("NCDocument", "Printed:"), longDateText(services().clock.now())), page},
       }};
+}
+
+framework::SheetFacts NCDocument::factsOfPage(std::int64_t index) const {
+  const foundation::Localizer& localizer = services().localizer;
+  const std::string page =
+      localizer.text(windowNibName, pages_.pages().at(static_cast<std::size_t>(index)).name());
+  const std::string patient = foundation::oneLine(exportName());
+  return {.title = patient.empty() ? page : patient,
+          .author = std::string("Nascor ").append(foundation::programVersion()),
+          .subject = localizer.text("NCDocument", "Obstetric ultrasound biometry")};
 }
 
 }  // namespace nascor::app

@@ -263,9 +263,7 @@ bool NCDocument::currentExaminationHoldsData() const {
   if (!exam) return false;
   if (!exam->note().value_or("").empty()) return true;
   return std::ranges::any_of(exam->measurements(), [](const model::MeasurementsRecord& record) {
-    return std::ranges::any_of(calc::kMeasurements, [&](Measurement measurement) {
-      return record.biometry().*calc::memberFor(measurement) != 0.0;
-    });
+    return calc::isAnyMeasured(record.biometry());
   });
 }
 

@@ -24,6 +24,7 @@ class PatientPages {
   static constexpr std::int64_t kReportPage = 6;
 
   std::array<framework::Page, kNumberOfPages>& pages() { return pages_; }
+  const std::array<framework::Page, kNumberOfPages>& pages() const { return pages_; }
 
   charts::NascorGraphView* bpdGraph() const { return bpdGraph_; }
   charts::NascorGraphView* hcGraph() const { return hcGraph_; }

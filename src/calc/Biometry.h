@@ -13,6 +13,11 @@ struct Biometry {
   double fl = 0.0;   ///< femur length
 };
 
+/// Whether any of the four was measured.
+constexpr bool isAnyMeasured(const Biometry& lengths) {
+  return lengths.bpd != 0.0 || lengths.hc != 0.0 || lengths.ac != 0.0 || lengths.fl != 0.0;
+}
+
 enum class Measurement { bpd, hc, ac, fl };
 
 /// The four in the order in which the program lists them everywhere.

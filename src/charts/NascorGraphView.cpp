@@ -159,21 +159,25 @@ void NascorGraphView::plotDataPoints() {
   });
 }
 
-template <class Use>
-void NascorGraphView::forEachPlottedValue(Use use) const {
-  if (!owningDocument() || !owningDocument()->patientRecord()) return;
+std::vector<std::int64_t> NascorGraphView::plottedFetuses() const {
+  if (!owningDocument() || !owningDocument()->patientRecord()) return {};
   const std::int64_t selected = owningDocument()->multiplePopUp().indexOfSelectedItem();
-  if (!foundation::boolForKey(services().defaults, foundation::defaults_key::showAll)) {
-    if (selected >= 0) forEachValueOf(selected, true, use);
-    return;
-  }
+  if (!foundation::boolForKey(services().defaults, foundation::defaults_key::showAll))
+    return selected >= 0 ? std::vector{selected} : std::vector<std::int64_t>();
   // A file may name any number of fetuses. Those beyond the symbols show nothing unless they are selected.
   constexpr std::int64_t kSymbols = 5;
   const std::int64_t count = owningDocument()->patientRecord()->numberOfFetuses();
-  for (std::int64_t fetus = 0; fetus < std::min(count, kSymbols); ++fetus) {
-    forEachValueOf(fetus, fetus == selected, use);
-  }
-  if (selected >= kSymbols && selected < count) forEachValueOf(selected, true, use);
+  std::vector<std::int64_t> fetuses;
+  for (std::int64_t fetus = 0; fetus < std::min(count, kSymbols); ++fetus) fetuses.push_back(fetus);
+  if (selected >= kSymbols && selected < count) fetuses.push_back(selected);
+  return fetuses;
+}
+
+template <class Use>
+void NascorGraphView::forEachPlottedValue(Use use) const {
+  if (!owningDocument()) return;
+  const std::int64_t selected = owningDocument()->multiplePopUp().indexOfSelectedItem();
+  for (const std::int64_t fetus : plottedFetuses()) forEachValueOf(fetus, fetus == selected, use);
 }
 
 template <class Use>

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 #include "charts/UpdatingGraphView.h"
 
@@ -19,6 +20,9 @@ class NascorGraphView : public UpdatingGraphView {
   /// Rebuilds the table for the document's growth standard (for the user's preference while there is no document), sets
   /// the reference title, and announces it so that the weight chart may follow.
   void resetStandards() override;
+
+  /// The fetuses that are plotted: all that have a symbol and the one on show, or that one alone.
+  std::vector<std::int64_t> plottedFetuses() const;
 
   // Selector: valueForFetus:exam:
   /// What is plotted; not plotted unless above 0.0.

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <utility>
+#include <variant>
 
 #include "foundation/Calendar.h"
 #include "foundation/Localizer.h"
@@ -150,6 +151,11 @@ bool CorvelDocument::userOpens(const foundation::FileEntry& file) const {
     information += "\n";
     information += localizer.text("CorvelDocument",
                                   "What was entered here besides reference ID and gravidity will be lost.");
+  }
+  const auto contents = services().files.contents(file.path);
+  if (const auto* bytes = std::get_if<std::vector<std::byte>>(&contents)) {
+    std::string separator = "\n\n";
+    for (const std::string& fact : factsOfFile(*bytes)) information += std::exchange(separator, "\n") + fact;
   }
   return environment_.alerts.runModal(
              {.message = localizer.text("CorvelDocument", "This patient has a document already."),

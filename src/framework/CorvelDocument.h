@@ -1,8 +1,10 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <optional>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -160,12 +162,16 @@ class CorvelDocument : public ZuDocument, public virtual GraphDocument, protecte
   virtual bool currentExaminationHoldsData() const = 0;
   /// Whether anything but reference ID and gravidity was entered.
   virtual bool holdsMoreThanIdentity() const = 0;
+  /// What the document in a file is known by, a line each; none where the file cannot be read.
+  virtual std::vector<std::string> factsOfFile(std::span<const std::byte>) const { return {}; }
   /// The reference ID in the form that file names have.
   virtual std::string referenceIDForFileName() const = 0;
   /// What exported pages are named after; may be empty.
   virtual std::string exportName() const { return suggestedFileName(); }
   /// What stands under page `index`, which is the `number`th of `count` that go out together.
   virtual PageFoot footOfPage(std::int64_t index, std::int64_t number, std::int64_t count) const;
+  /// What a file of page `index` says of itself.
+  virtual SheetFacts factsOfPage(std::int64_t index) const;
 
   /// Commits what is in edit. False when a field refuses its text, or when the patient that was looked up has taken this
   /// document's place: then nothing more may be done with it.

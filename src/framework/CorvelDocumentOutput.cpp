@@ -99,7 +99,8 @@ std::optional<std::string> CorvelDocument::exportPage(std::int64_t page, const s
   }
   const OnPaper onPaper(*this);
   const auto error = environment_.pageWriter->writePage(
-      {.page = tabView_.page(page), .foot = footIfWanted(page, 1, 1)}, format, path);
+      {.page = tabView_.page(page), .foot = footIfWanted(page, 1, 1), .facts = factsOfPage(page)}, format,
+      path);
   if (error) return path + ": " + error->reason;
   if (onExported) onExported(path);
   return std::nullopt;
@@ -115,7 +116,9 @@ void CorvelDocument::printPages(const std::vector<std::int64_t>& pages, const Pr
   bool isPrinted = false;
   if (commitsEditing() && environment_.printer) {
     const OnPaper onPaper(*this);
-    const auto job = environment_.printer->beginJob(printInfo_, settings);
+    PrintSettings named = settings;
+    named.name = portableFileNameText(exportName());
+    const auto job = environment_.printer->beginJob(printInfo_, named);
     const auto sentence = print(*job, pages, showPrintPanel, isPrinted);
     if (sentence && showPrintPanel) {
       environment_.alerts.tell(services().localizer.text("CorvelDocument", "The document was not printed."),
@@ -131,8 +134,9 @@ std::optional<std::string> CorvelDocument::print(PrintJob& job, const std::vecto
   std::int64_t number = 0;
   for (const std::int64_t page : pages) {
     ++number;
-    const auto result =
-        job.addPage({.page = tabView_.page(page), .foot = footIfWanted(page, number, count)}, showPrintPanel);
+    const auto result = job.addPage(
+        {.page = tabView_.page(page), .foot = footIfWanted(page, number, count), .facts = factsOfPage(page)},
+        showPrintPanel);
     if (const auto* error = std::get_if<FileError>(&result)) return error->reason;
     // Who cancels one page wants none of the others either.
     if (std::get<PrintOutcome>(result) == PrintOutcome::cancelled) return std::nullopt;
@@ -149,5 +153,7 @@ PageFoot CorvelDocument::footIfWanted(std::int64_t index, std::int64_t number, s
 }
 
 PageFoot CorvelDocument::footOfPage(std::int64_t, std::int64_t, std::int64_t) const { return {}; }
+
+SheetFacts CorvelDocument::factsOfPage(std::int64_t) const { return {.title = exportName()}; }
 
 }  // namespace nascor::framework

@@ -100,7 +100,7 @@ bool DocumentController::mayGo(ZuDocument& document) {
   const auto text = [&](std::string_view table, std::string_view key) {
     return services_.localizer.text(table, key);
   };
-  std::string information = document.displayName();
+  std::string information = document.nameForUser();
   if (!isCommitted) {
     information += "\n\n";
     information +=
@@ -134,8 +134,7 @@ bool DocumentController::saveEditedDocuments() {
 }
 
 bool DocumentController::closeUntouchedDocument(ZuDocument& document) {
-  if (!isOpen(document) || !document.isBlank() || document.isDocumentEdited() || document.filePath())
-    return false;
+  if (!isOpen(document) || !document.isUntouched()) return false;
   remove(document);
   return true;
 }
@@ -205,8 +204,7 @@ ZuDocument* DocumentController::documentOfFile(const std::string& path) const {
 
 std::string DocumentController::suggestedFileName(const ZuDocument& document) const {
   if (document.filePath()) return document.displayName();
-  const std::string name = document.suggestedFileName();
-  return fileName(name.empty() ? document.displayName() : name,
+  return fileName(document.nameForUser(),
                   services_.defaults.value(foundation::defaults_key::dataFileExtension).value_or("nascor"));
 }
 

@@ -27,6 +27,8 @@ struct PrintInfo {
 /// What is asked of one request to print.
 struct PrintSettings {
   std::string file;  ///< the PDF file to print into; empty for the printer, unless the user chooses a file
+  std::string name =
+      {};  ///< what the print is called in the printer's queue, and a file that it goes to, without its extension
 };
 
 enum class PrintOutcome : std::uint8_t { printed, cancelled };

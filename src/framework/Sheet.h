@@ -15,10 +15,18 @@ struct PageFoot {
   std::vector<std::vector<std::string>> lines;
 };
 
+/// What a file says of itself beside its pages.
+struct SheetFacts {
+  std::string title = {};
+  std::string author = {};
+  std::string subject = {};
+};
+
 /// One page on its way to paper or into a file. The foot lies under the page, which keeps its size.
 struct Sheet {
   Page& page;
   PageFoot foot;
+  SheetFacts facts = {};
 };
 
 /// The lines of `foot` as they fit into `width` units: what does not fit goes on in a line of its own.

@@ -21,6 +21,11 @@ std::string ZuDocument::displayName() const {
   return filePath_->substr(filePath_->rfind('/') + 1);
 }
 
+std::string ZuDocument::nameForUser() const {
+  const std::string suggested = filePath_ ? std::string() : suggestedFileName();
+  return suggested.empty() ? displayName() : suggested;
+}
+
 std::optional<FileError> ZuDocument::writeToFile(const std::string& path) {
   std::vector<std::byte> bytes = dataRepresentationOfType("");
   if (auto error = services_.files.replaceContents(path, bytes)) return error;

@@ -57,6 +57,8 @@ class ZuDocument {
   void setFilePath(std::optional<std::string> path);
   /// The file's name, or "Untitled".
   std::string displayName() const;
+  /// What the user knows the document by: the name of its file, else what it would be saved as.
+  std::string nameForUser() const;
 
   /// Writes the model as it stands to `path`, whole or not at all. On success that is the document's file from now on, it
   /// is not edited any more, and not blank. On failure nothing changes.
@@ -80,6 +82,8 @@ class ZuDocument {
   bool isDocumentEdited() const { return changeCount_ != 0; }
   /// Whether the document holds no patient yet: new, and nobody identified.
   bool isBlank() const { return docIsBlank_; }
+  /// Whether the document is new and nothing was done in it.
+  bool isUntouched() const { return docIsBlank_ && !isDocumentEdited() && !filePath_; }
   void setDocIsBlank(bool blank) { docIsBlank_ = blank; }
 
   /// Sent when name or edited state may have changed; set by the window layer.

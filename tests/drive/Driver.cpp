@@ -159,6 +159,7 @@ const std::map<std::string, Operation, std::less<>>& operations() {
       {"adjustDeliveryDate", act([](NCDocument& d, Arguments&) { d.adjustDeliveryDate(&d); })},
       {"updateAdjustDeliveryStepperForNewStandard",
        act([](NCDocument& d, Arguments&) { d.updateAdjustDeliveryStepperForNewStandard(); })},
+      {"canAdjustDelivery", [](NCDocument& d, Arguments&) { return Json(d.canAdjustDelivery()); }},
       {"doAdjustDeliveryDate", act([](NCDocument& d, Arguments&) { d.doAdjustDeliveryDate(&d); })},
       {"doSetEDDfromCRL", act([](NCDocument& d, Arguments&) { d.doSetEDDfromCRL(&d); })},
       {"okSetEDDfromCRL", act([](NCDocument& d, Arguments&) { d.okSetEDDfromCRL(&d); })},
@@ -371,7 +372,7 @@ Json Driver::perform(const std::string& key, const Json& argument) {
       {"told", &Driver::told},           {"status", &Driver::status},
       {"type", &Driver::type},           {"beside", &Driver::beside},
       {"focus", &Driver::focus},         {"stale", &Driver::stale},
-      {"additions", &Driver::additions},
+      {"additions", &Driver::additions}, {"advice", &Driver::advice},
   };
   if (key == "new" || key == "state") {
     if (argument != Json(true)) refuse("expected true");
@@ -618,6 +619,10 @@ Json Driver::draw(const Json& drawn) {
 
 Json Driver::marks(const Json& page) {
   return {{"marks", marksOf(document().tabView().page(integerArgument(page, "the index of a page")))}};
+}
+
+Json Driver::advice(const Json& page) {
+  return {{"advice", document().adviceOnPage(integerArgument(page, "the index of a page"))}};
 }
 
 Json Driver::paper(const Json& word) {

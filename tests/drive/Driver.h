@@ -62,6 +62,8 @@ class Driver {
   Json click(const Json& click);
   Json draw(const Json& drawn);
   Json marks(const Json& page);
+  /// What the window says over a page that lacks something.
+  Json advice(const Json& page);
   /// The marks and discs on the pages that were exported or printed since this was last asked.
   Json paper(const Json& word);
   /// What the user was told since this was last asked: each message with its information.

@@ -18,7 +18,7 @@ is found under any gravidity.
 {"answer":["Open"]}
 {"edit":["gravidaField","3"]}
 {"state":true}
-=~ {"number":2,"edited":false,"blank":false,"lookUpRequired":false,"fields":{"referenceIDField":"AB/123","gravidaField":"2","bpdField":"47.4"},"alerts":[["This patient has a document already.","AB-123 (G2).nascor\n11/21/26, ... bytes","Open","Cancel"]]}
+=~ {"number":2,"edited":false,"blank":false,"lookUpRequired":false,"fields":{"referenceIDField":"AB/123","gravidaField":"2","bpdField":"47.4"},"alerts":[["This patient has a document already.","AB-123 (G2).nascor\n11/21/26, ... bytes\n\nLast examination: 21 November 2026\nEDD: -","Open","Cancel"]]}
 
 The blank window is gone.
 

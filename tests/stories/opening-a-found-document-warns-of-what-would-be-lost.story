@@ -13,7 +13,7 @@ Somebody typed the measurements first and the patient last. Opening her document
 {"edit":["referenceIDField","A"]}
 {"edit":["gravidaField","1"]}
 {"state":true}
-=~ {"fields":{"bpdField":"50.0"},"alerts":[["This patient has a document already.","A (G1).nascor\n11/21/26, ... bytes\nWhat was entered here besides reference ID and gravidity will be lost.","Open","Cancel"]]}
+=~ {"fields":{"bpdField":"50.0"},"alerts":[["This patient has a document already.","A (G1).nascor\n11/21/26, ... bytes\nWhat was entered here besides reference ID and gravidity will be lost.\n\nLast examination: 21 November 2026\nEDD: -","Open","Cancel"]]}
 {"close":"discard"}
 
 The date of the examination counts too, and a note that is still in its field.

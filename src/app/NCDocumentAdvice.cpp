@@ -1,0 +1,91 @@
+// What the window says over a page that lacks something.
+
+#include <algorithm>
+#include <array>
+
+#include "app/NCDocument.h"
+#include "calc/FetalWeight.h"
+#include "calc/Standards.h"
+#include "foundation/Localizer.h"
+
+namespace nascor::app {
+
+using charts::NascorGraphView;
+using foundation::translatable;
+
+namespace {
+
+constexpr std::array<std::string_view, PatientPages::kNumberOfPages> kWithoutLengths{
+    translatable("NCDocument", "No lengths, so no marks. Type BPD, HC, AC or FL beside the page."),
+    translatable("NCDocument", "No BPD, so no marks. Type it beside the page."),
+    translatable("NCDocument", "No HC, so no marks. Type it beside the page."),
+    translatable("NCDocument", "No AC, so no marks. Type it beside the page."),
+    translatable("NCDocument", "No FL, so no marks. Type it beside the page."),
+    translatable("NCDocument", "No weight, so no marks. Type the lengths that the formula needs."),
+    translatable("NCDocument", "No lengths. Type BPD, HC, AC or FL beside the page.")};
+
+/// Whether an examination has a value that the chart would plot.
+bool hasValues(const NascorGraphView& chart, std::uint64_t examinations) {
+  const auto fetuses = chart.plottedFetuses();
+  return std::ranges::any_of(fetuses, [&](std::int64_t fetus) {
+    for (std::uint64_t exam = 0; exam < examinations; ++exam) {
+      if (chart.valueForFetus(static_cast<std::uint64_t>(fetus), exam) > 0.0) return true;
+    }
+    return false;
+  });
+}
+
+}  // namespace
+
+std::vector<std::string> NCDocument::adviceOnPage(std::int64_t page) const {
+  if (!patientRecord_ || page < 0 || page >= tabView().numberOfPages()) return {};
+  const foundation::Localizer& localizer = services().localizer;
+  const auto& examinations = patientRecord_->ncRecordsArray();
+  if (examinations.empty())
+    return {localizer.text("NCDocument", "No examination. Patient > Add Examination")};
+
+  const bool isReport = page == PatientPages::kReportPage;
+  const bool isWeight = page == PatientPages::kWeightPage;
+  std::vector<std::string> advice;
+  if (!calc::growthStandard(standard())) {
+    advice.push_back(
+        isReport
+            ? localizer.text("NCDocument",
+                             "No known growth standard, so no projection. Choose from Standards.")
+            : localizer.text("NCDocument", "No known growth standard, so no curves. Choose from Standards."));
+  }
+  const bool hasFormula = calc::weightFormula(fetalWeightStandard()) != nullptr;
+  if ((isWeight || isReport) && !hasFormula) {
+    advice.push_back(localizer.text(
+        "NCDocument", "No known weight formula, so no weights. Choose from Estimated Fetal Weight."));
+  }
+  if (!patientRecord_->edd()) {
+    advice.push_back(isReport ? localizer.text("NCDocument", "No EDD, so no ages. Patient > EDD from ...")
+                              : localizer.text("NCDocument", "No EDD, so no marks. Patient > EDD from ..."));
+  } else if (std::ranges::none_of(examinations,
+                                  [](const auto& exam) { return exam->examDate().has_value(); })) {
+    advice.push_back(isReport
+                         ? localizer.text("NCDocument", "No date, so no ages. Type it beside the page.")
+                         : localizer.text("NCDocument", "No date, so no marks. Type it beside the page."));
+  }
+
+  const auto isPlotted = [&](const NascorGraphView* chart) { return hasValues(*chart, examinations.size()); };
+  const std::array<const NascorGraphView*, 4> lengths{BPDGraph(), HCGraph(), ACGraph(), FLGraph()};
+  bool isMeasured = false;
+  if (isReport) {
+    for (std::int64_t exam = 0; exam < numberOfExaminations(); ++exam) {
+      const model::MeasurementsRecord* measured = measurementsForCurrentFetus(exam);
+      isMeasured = isMeasured || (measured && calc::isAnyMeasured(measured->biometry()));
+    }
+  } else if (isWeight) {
+    isMeasured = isPlotted(&EFWGraph());
+  } else {
+    isMeasured = page == 0 ? std::ranges::any_of(lengths, isPlotted)
+                           : isPlotted(lengths.at(static_cast<std::size_t>(page) - 1));
+  }
+  if (!isMeasured && (!isWeight || hasFormula))
+    advice.push_back(localizer.text("NCDocument", kWithoutLengths.at(static_cast<std::size_t>(page))));
+  return advice;
+}
+
+}  // namespace nascor::app
