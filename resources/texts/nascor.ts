@@ -594,10 +594,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>0 or more</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Estimated date of delivery</source>
         <translation type="unfinished"></translation>
     </message>
@@ -770,15 +766,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Add</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>&amp;Delete Examination</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Delete</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -787,10 +775,6 @@
     </message>
     <message>
         <source>&amp;Remove Fetus</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Remove</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -975,6 +959,46 @@
     </message>
     <message>
         <source>by %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Window</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add Examination</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Delete Examination</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add Fetus</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove Fetus</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zoom &amp;In</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zoom &amp;Out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zoom to &amp;Fit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nascor opens files of this machine only.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Please save what the link leads to as a file here, and open that.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1269,6 +1293,74 @@
     </message>
     <message>
         <source>Lengths that will be removed with it: %ld.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Last examination:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No lengths, so no marks. Type BPD, HC, AC or FL beside the page.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No BPD, so no marks. Type it beside the page.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No HC, so no marks. Type it beside the page.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No AC, so no marks. Type it beside the page.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No FL, so no marks. Type it beside the page.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No weight, so no marks. Type the lengths that the formula needs.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No lengths. Type BPD, HC, AC or FL beside the page.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No examination. Patient &gt; Add Examination</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No known growth standard, so no projection. Choose from Standards.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No known growth standard, so no curves. Choose from Standards.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No known weight formula, so no weights. Choose from Estimated Fetal Weight.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No EDD, so no ages. Patient &gt; EDD from ...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No EDD, so no marks. Patient &gt; EDD from ...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No date, so no ages. Type it beside the page.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No date, so no marks. Type it beside the page.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Obstetric ultrasound biometry</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

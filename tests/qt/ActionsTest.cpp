@@ -48,6 +48,7 @@ class Viewer final : public QTextBrowser {
 
 /// What the rows below say about the window in front.
 struct Actions : WindowTest {
+  using WindowTest::action;
   using WindowTest::answers;
   using WindowTest::asked;
   using WindowTest::click;
@@ -163,6 +164,11 @@ std::string title(Actions& window) { return window.title(); }
 std::string documents(Actions& window) { return window.documents(); }
 std::string exported(Actions& window) { return window.files(); }
 std::string seen(Actions& window) { return window.seen; }
+std::string pageSize(Actions& window) {
+  const auto& page = static_cast<qt::PageView&>(*window.widget<QTabWidget>("tabView").currentWidget());
+  return page.scale() > page.fittingScale() * 1.02 ? "larger" : "fits";
+}
+void enlarge(Actions& window) { window.action("zoomInAction").trigger(); }
 std::string clipboard(Actions&) { return Actions::clipboard(); }
 void typeALength(Actions& window) { window.type("bpdField", "7"); }
 void typeAndSelectALength(Actions& window) {
@@ -320,6 +326,9 @@ std::vector<Row> rows() {
              foundation::boolForKey(window.platform.defaults, foundation::defaults_key::showAll) ? "YES"
                                                                                                  : "NO");
        }},
+      {"zoomInAction", "fits", "larger", pageSize, {}, "Ctrl++"},
+      {"zoomOutAction", "larger", "fits", pageSize, enlarge, "Ctrl+-"},
+      {"zoomFitAction", "larger", "fits", pageSize, enlarge, "Ctrl+0"},
       {"guideAction",
        "nothing",
        "Nascor User Guide.pdf",
@@ -709,6 +718,10 @@ const std::map<std::string, std::string>& doneElsewhere() {
       {"recentMenu/0", "Actions.openClearAndForgetRecentDocumentsByKeys"},
       {"clearRecentAction", "Actions.openClearAndForgetRecentDocumentsByKeys"},
       {"rememberRecentAction", "Actions.openClearAndForgetRecentDocumentsByKeys"},
+      {"windowMenu/0", "TheWindowMenu.bringsTheChosenDocumentToTheFront"},
+      {"Ctrl+= for a larger page", "ThePages.growWithoutTheShiftKeyToo"},
+      {"the wheel and the keys over a page that is larger", "ThePages.scrollWhenTheyAreLargerThanTheWindow"},
+      {"a link dropped", "TheApplicationOfDocuments.saysThatItOpensNoLinks"},
       {"multiplePopUp", "TheDocumentWindow.showsTheFetusThatIsChosen"},
       {"letter of multiplePopUp", "Actions.chooseAFetusByTheLetterOfItsLabel"},
       {"tabs", "Actions.turnThePagesByTheMouseOnTheTabs"},
@@ -816,6 +829,7 @@ TEST_F(TheCensus, knowsATestForEverythingThatCanBeDone) {
   action("referencesAction").trigger();
   widget<QDialog>("referencesDialog").close();
   emit widget<QMenu>("recentMenu").aboutToShow();
+  emit widget<QMenu>("windowMenu").aboutToShow();
   std::set<std::string> found;
   for (const QAction* each : widget<QMenuBar>("menuBar").actions()) addItems(*each->menu(), found);
   addWidgets(front(), found);

@@ -186,6 +186,33 @@ TEST_F(TheApplicationOfDocuments, opensWhatIsDroppedOnAWindowAndNotAsText) {
   }
 }
 
+TEST_F(TheApplicationOfDocuments, asksByThePatientsNameWhetherAnUntitledDocumentIsSaved) {
+  openBlank();
+  enter("referenceIDField", "xy-9");
+  enter("gravidaField", "1");
+  answers = {"Discard"};
+  front().close();
+  settle();
+  ASSERT_EQ(asked.size(), 1);
+  EXPECT_EQ(asked[0].information, "XY-9 (G1)");
+}
+
+TEST_F(TheApplicationOfDocuments, saysThatItOpensNoLinks) {
+  openBlank();
+  const QString path = file(QStringLiteral("a.nascor"), documentBytes(singleton()));
+  answers = {"OK"};
+  drop(widget<QWidget>("tabView"),
+       {QUrl(QStringLiteral("http://example.org/b.nascor")),
+        QUrl(QStringLiteral("file://elsewhere/c.nascor")), QUrl(QStringLiteral("file://localhost") + path)});
+  ASSERT_TRUE(QTest::qWaitFor([&] { return asked.size() == 1; }));
+  EXPECT_EQ(asked[0].message, "Nascor opens files of this machine only.");
+  EXPECT_EQ(
+      asked[0].information,
+      "http://example.org/b.nascor\nfile://elsewhere/c.nascor\n\nPlease save what the link leads to as a "
+      "file here, and open that.");
+  EXPECT_THAT(titles(), ElementsAre("a.nascor[*]"));
+}
+
 TEST_F(TheApplicationOfDocuments, remembersWhatWasOpenedAndForgetsItWhenAsked) {
   open(singleton(), QStringLiteral("a & b.nascor"));
   open(singleton(), QStringLiteral("b%20 c.nascor"));

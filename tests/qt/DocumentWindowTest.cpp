@@ -385,14 +385,14 @@ TEST_F(TheDocumentWindow, isReachedWholeByTheTabKey) {
                                        "nextButton",
                                        "addExaminationButton",
                                        "deleteExaminationButton",
-                                       "ageField",
                                        "multiplePopUp",
                                        "addFetusButton",
                                        "deleteFetusButton",
                                        "qt_tabwidget_tabbar",
                                        "TrendsPage",
                                        "referenceIDField",
-                                       "gravidaField"};
+                                       "gravidaField",
+                                       "birthDateField"};
   EXPECT_EQ(visited, order);
 }
 

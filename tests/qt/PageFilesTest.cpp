@@ -10,6 +10,7 @@
 #include <QSvgRenderer>
 #include <QTemporaryDir>
 #include <QXmlStreamReader>
+#include <map>
 
 #include "Pixels.h"
 #include "Run.h"
@@ -112,6 +113,52 @@ TEST_F(WritingPages, makesThePdfOneSheetOfAPointToTheUnit) {
   const Answer facts = run("pdfinfo", {out("a.pdf")});
   EXPECT_THAT(facts.output, ContainsRegex("Pages: +1\n"));
   EXPECT_THAT(facts.output, ContainsRegex("Page size: +800 x 560 pts"));
+}
+
+TEST_F(WritingPages, saysInEveryFileWhoseItIsWhoMadeItAndWhatItIsAbout) {
+  model::PatientRecord record = singleton();
+  record.setMaternalIDString("\u00c5 <B> & (C)");
+  wanted.pages = {6};
+  wanted.formats = {PageFormat::pdf, PageFormat::png, PageFormat::svg};
+  write({file("a.nascor", documentBytes(record))});
+  const std::string title = "\u00c5 <B> & (C) (G2)";
+  const std::string author = "Nascor 0.1.0";
+  const std::string subject = "Obstetric ultrasound biometry";
+
+  const QString pdf = out("a.pdf");
+  const Answer facts = run("pdfinfo", {pdf});
+  EXPECT_THAT(facts.output, ContainsRegex("Title: +\u00c5 <B> & \\(C\\) \\(G2\\)\n"));
+  EXPECT_THAT(facts.output, ContainsRegex("Subject: +" + subject + "\n"));
+  EXPECT_THAT(facts.output, ContainsRegex("Author: +" + author + "\n"));
+  EXPECT_THAT(facts.output, ContainsRegex("Creator: +Nascor\n"));
+  EXPECT_EQ(facts.error, "");
+  EXPECT_THAT(run("pdftotext", {pdf, "-"}).output, HasSubstr("Identifier:"));
+
+  const QImage png(out("a - Report.png"));
+  EXPECT_EQ(png.text("Title").toStdString(), title);
+  EXPECT_EQ(png.text("Author").toStdString(), author);
+  EXPECT_EQ(png.text("Description").toStdString(), subject);
+
+  QFile svg(out("a - Report.svg"));
+  ASSERT_TRUE(svg.open(QIODevice::ReadOnly));
+  std::map<QString, std::string> elements;
+  QXmlStreamReader xml(&svg);
+  while (!xml.atEnd()) {
+    if (xml.readNext() != QXmlStreamReader::StartElement) continue;
+    const QString name = xml.qualifiedName().toString();
+    if (name == "title" || name.startsWith("dc:")) elements[name] = xml.readElementText().toStdString();
+  }
+  EXPECT_FALSE(xml.hasError()) << xml.errorString().toStdString();
+  EXPECT_EQ(elements["title"], title);
+  EXPECT_EQ(elements["dc:creator"], author);
+  EXPECT_EQ(elements["dc:subject"], subject);
+}
+
+TEST_F(WritingPages, namesAPageOfNobodyByThePage) {
+  model::PatientRecord record = singleton();
+  record.setMaternalIDString(std::nullopt);
+  write({file("a.nascor", documentBytes(record))});
+  EXPECT_THAT(run("pdfinfo", {out("a.pdf")}).output, ContainsRegex("Title: +BPD\n"));
 }
 
 TEST_F(WritingPages, doesNotReplaceOneDocumentsPagesByAnothers) {

@@ -123,6 +123,22 @@ TEST_F(ThePaperDialogs, setUpThePaperOfTheDocumentAndOfThoseToCome) {
   EXPECT_FALSE(document().printInfo().isLandscape);
 }
 
+QStringList& warnings() {
+  static QStringList all;
+  return all;
+}
+
+TEST_F(ThePaperDialogs, warnOfNothingWhereNoPrinterIsSetUp) {
+  open(singleton());
+  warnings().clear();
+  const QtMessageHandler handler = qInstallMessageHandler(
+      [](QtMsgType, const QMessageLogContext&, const QString& message) { warnings() << message; });
+  then<QPageSetupDialog>([](QPageSetupDialog& dialog) { button(dialog, QStringLiteral("Cancel")).click(); });
+  action("pageSetupAction").trigger();
+  qInstallMessageHandler(handler);
+  EXPECT_EQ(warnings().filter(QStringLiteral("QPageSetupDialog")), QStringList());
+}
+
 TEST_F(ThePaperDialogs, leaveThePaperAsItIsWhenTheyAreCancelled) {
   open(singleton());
   const framework::PrintInfo before = document().printInfo();

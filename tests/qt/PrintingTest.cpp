@@ -63,6 +63,8 @@ TEST_F(Printing, thatTheUserSendsToAFileAsksOnce) {
   int asked = 0;
   printer.ask = [&](QPrinter& target) {
     ++asked;
+    // The printer's queue shows it, and a file is suggested under it.
+    EXPECT_EQ(target.docName(), QStringLiteral("AB-123 (G2) 1 of 2"));
     target.setOutputFormat(QPrinter::PdfFormat);
     target.setOutputFileName(pdf);
     return true;

@@ -7,7 +7,6 @@
 #include <QDir>
 #include <QFile>
 #include <QMetaObject>
-#include <QSysInfo>
 #include <QUrl>
 #include <QVariantMap>
 #include <limits>
@@ -18,6 +17,7 @@
 #include "foundation/Utf8.h"
 #include "qt/Application.h"
 #include "qt/Dictionary.h"
+#include "qt/LocalPath.h"
 #include "qt/Text.h"
 #include "scripting/NCDocumentScripting.h"
 #include "scripting/NascorScriptCommand.h"
@@ -90,20 +90,11 @@ struct WantedFiles {
   QStringList others;  ///< no files of this machine, in quotation marks
 };
 
-/// Whether the host of a file's address is this machine; another's file would be looked for here in vain.
-bool isHere(const QString& host) {
-  return host.isEmpty() || host == QLatin1String("localhost") ||
-         host.compare(QSysInfo::machineHostName(), Qt::CaseInsensitive) == 0;
-}
-
 WantedFiles wantedFiles(const QStringList& uris) {
   WantedFiles wanted;
   for (const QString& uri : uris) {
-    const QUrl url(uri, QUrl::StrictMode);
-    if (url.isLocalFile() && isHere(url.host())) {
-      QUrl local = url;
-      local.setHost({});  // it would stand before the path
-      wanted.paths << local.toLocalFile();
+    if (const auto path = localPath(QUrl(uri, QUrl::StrictMode))) {
+      wanted.paths << *path;
     } else {
       wanted.others << quoted(fromUtf8(foundation::oneLine(toUtf8(uri))));
     }

@@ -175,18 +175,33 @@ void DocumentApplication::leaveSession() {
 
 void DocumentApplication::addWindow(ZuDocument& document) {
   numbers_.add(document);
-  auto* window = new DocumentWindow(dynamic_cast<app::NCDocument&>(document),
-                                    {.services = services_,
-                                     .documents = documents_,
-                                     .application = controller_,
-                                     .alerts = alerts_,
-                                     .panels = panels_,
-                                     .printer = printer_,
-                                     .actions = actions_,
-                                     .recentFiles = recentFiles_,
-                                     .openFiles = [this](const QStringList& paths) { openFiles(paths); },
-                                     .chooseFilesToOpen = [this] { chooseFilesToOpen(); },
-                                     .quit = [this] { quit(); }});
+  auto* window = new DocumentWindow(
+      dynamic_cast<app::NCDocument&>(document),
+      {.services = services_,
+       .documents = documents_,
+       .application = controller_,
+       .alerts = alerts_,
+       .panels = panels_,
+       .printer = printer_,
+       .actions = actions_,
+       .recentFiles = recentFiles_,
+       .openFiles = [this](const QStringList& paths) { openFiles(paths); },
+       .chooseFilesToOpen = [this] { chooseFilesToOpen(); },
+       .openDocuments =
+           [this] {
+             std::vector<ZuDocument*> open;
+             for (const auto& [number, each] : numbers_.open()) open.push_back(each);
+             return open;
+           },
+       .bringToFront =
+           [this](ZuDocument& chosen) { actions_.perform([&] { documents_.setCurrentDocument(chosen); }); },
+       .quit = [this] { quit(); }});
+  std::vector<const DocumentWindow*> others;
+  for (const auto& [open, other] : windows_) {
+    // A file that is opened takes the place of a document that nothing was done in.
+    if (!document.filePath() || !open->isUntouched()) others.push_back(other);
+  }
+  window->moveAside(others);
   windows_.emplace(&document, window);
   window->show();
   window->raise();

@@ -1,5 +1,6 @@
 #include "qt/DocumentWindow.h"
 
+#include <QActionGroup>
 #include <QClipboard>
 #include <QCloseEvent>
 #include <QComboBox>
@@ -15,6 +16,7 @@
 #include <QScreen>
 #include <QScrollBar>
 #include <QSignalBlocker>
+#include <QStyle>
 #include <algorithm>
 #include <array>
 
@@ -27,17 +29,23 @@
 #include "qt/AdjustDeliveryDialog.h"
 #include "qt/Application.h"
 #include "qt/DatingDialogs.h"
+#include "qt/EditMenu.h"
 #include "qt/FieldBinding.h"
+#include "qt/LocalPath.h"
 #include "qt/LongDate.h"
 #include "qt/Mnemonics.h"
 #include "qt/OutputMenu.h"
 #include "qt/PageView.h"
+#include "qt/PageZoom.h"
 #include "qt/Puff.h"
 #include "qt/QtAlerts.h"
+#include "qt/RecentMenu.h"
 #include "qt/ReferencesDialog.h"
 #include "qt/SelectOnClick.h"
+#include "qt/StandardsMenus.h"
 #include "qt/StrayInput.h"
 #include "qt/Text.h"
+#include "qt/WindowMenu.h"
 #include "ui_MyDocument.h"
 
 namespace nascor::qt {
@@ -49,19 +57,22 @@ namespace {
 /// The context under which the texts of the window's form are translated.
 constexpr std::string_view kGeometryKey = "Window Geometry";
 
-/// `action` done to the text that has the focus, if one has.
-template <class LineAction, class NoteAction>
-void editText(QWidget* focus, LineAction line, NoteAction note) {
-  if (auto* edit = qobject_cast<QLineEdit*>(focus)) (edit->*line)();
-  if (auto* edit = qobject_cast<QPlainTextEdit*>(focus)) (edit->*note)();
-}
-
-QStringList localFiles(const QMimeData* data) {
+/// What was dropped.
+struct Dropped {
   QStringList paths;
+  QStringList links;  ///< which lead to no file of this machine
+};
+
+Dropped dropped(const QMimeData* data) {
+  Dropped all;
   for (const QUrl& url : data->urls()) {
-    if (url.isLocalFile()) paths << url.toLocalFile();
+    if (const auto path = localPath(url)) {
+      all.paths << *path;
+    } else {
+      all.links << url.toDisplayString();
+    }
   }
-  return paths;
+  return all;
 }
 
 }  // namespace
@@ -321,12 +332,14 @@ void DocumentWindow::bindPopUp() {
     });
     showFetuses();
   };
+  auto* group = new QActionGroup(this);
   // Only what the user chooses: the box also changes while it is filled.
   connect(ui_->multiplePopUp, &QComboBox::activated, this, choose);
   for (std::size_t i = 0; i < fetusActions_.size(); ++i) {
     auto* action = new QAction(this);
     action->setObjectName(QStringLiteral("fetusAction%1").arg(i + 1));
     action->setCheckable(true);
+    group->addAction(action);
     connect(action, &QAction::triggered, this, [choose, i] { choose(static_cast<int>(i)); });
     ui_->patientMenu->addAction(action);
     fetusActions_[i] = action;
@@ -336,7 +349,8 @@ void DocumentWindow::bindPopUp() {
 
 void DocumentWindow::bindPages() {
   framework::TabView& tabs = document_->tabView();
-  QString taken = mnemonicOf(ui_->showAllAction->text());
+  QString taken;
+  for (const QAction* item : ui_->viewMenu->actions()) taken += mnemonicOf(item->text());
   for (std::int64_t i = 0; i < tabs.numberOfPages(); ++i) {
     framework::Page& page = tabs.page(i);
     auto* view = new PageView(page, clicks_);
@@ -421,7 +435,17 @@ void DocumentWindow::bindActions() {
                   .sender = environment_.application,
                   .perform = [this](const DocumentAction& action) { perform(action); }});
   bindEditActions();
-  bindStandardsMenus();
+  new StandardsMenus(*ui_->menuBar, {ui_->standardsMenu, ui_->fetalWeightMenu, ui_->crownRumpLengthMenu},
+                     mnemonicsOf(*ui_->menuBar, *ui_->patientPanel), environment_.application,
+                     [this](const framework::MenuItem& item) {
+                       perform([this, &item](NCDocument&) { environment_.application.chooseStandard(item); });
+                     });
+  new PageZoom({.in = *ui_->zoomInAction,
+                .out = *ui_->zoomOutAction,
+                .fit = *ui_->zoomFitAction,
+                .views = pageViews_,
+                .pageOnShow = [this] { return static_cast<PageView*>(ui_->tabView->currentWidget()); }},
+               *this);
   connect(ui_->referencesAction, &QAction::triggered, this, [this] {
     if (!references_) references_ = new ReferencesDialog(environment_.services.localizer, this);
     references_->show();
@@ -477,7 +501,10 @@ void DocumentWindow::bindFileActions() {
   connect(ui_->newAction, &QAction::triggered, this,
           [this] { environment_.actions.perform([this] { environment_.documents.newDocument(); }); });
   connect(ui_->openAction, &QAction::triggered, this, [this] { environment_.chooseFilesToOpen(); });
-  connect(ui_->recentMenu, &QMenu::aboutToShow, this, [this] { showRecentFiles(); });
+  new RecentMenu(*ui_->recentMenu, environment_.recentFiles, environment_.openFiles);
+  new WindowMenu(*ui_->windowMenu, {.documents = environment_.openDocuments,
+                                    .own = [this] { return document_; },
+                                    .bringToFront = environment_.bringToFront});
   connect(ui_->saveAction, &QAction::triggered, this, [this] {
     perform([this](NCDocument& document) { environment_.documents.saveDocument(document); });
   });
@@ -487,44 +514,16 @@ void DocumentWindow::bindFileActions() {
   connect(ui_->revertAction, &QAction::triggered, this, [this] { revert(); });
   connect(ui_->closeAction, &QAction::triggered, this, [this] { close(); });
   connect(ui_->quitAction, &QAction::triggered, this, [this] { environment_.quit(); });
-  showRecentFiles();
-}
-
-void DocumentWindow::showRecentFiles() {
-  ui_->recentMenu->clear();
-  const QStringList paths = environment_.recentFiles.paths();
-  int number = 0;
-  for (const QString& path : paths) {
-    QString name = path.mid(path.lastIndexOf(u'/') + 1);
-    name = fromUtf8(foundation::oneLine(toUtf8(name))).replace(u'&', QStringLiteral("&&"));
-    QAction* action =
-        ui_->recentMenu->addAction(QStringLiteral("&%1  %2").arg(QString::number(++number % 10), name));
-    action->setToolTip(fromUtf8(foundation::oneLine(toUtf8(path))));
-    action->setData(path);
-    connect(action, &QAction::triggered, this, [this, path] { environment_.openFiles({path}); });
-  }
-  if (!paths.isEmpty()) ui_->recentMenu->addSeparator();
-  QAction* clear = ui_->recentMenu->addAction(said("MyDocument", "&Clear"));
-  clear->setObjectName(QStringLiteral("clearRecentAction"));
-  clear->setEnabled(!paths.isEmpty());
-  connect(clear, &QAction::triggered, this, [this] { environment_.recentFiles.clear(); });
-  QAction* remember = ui_->recentMenu->addAction(said("MyDocument", "&Remember Recent Documents"));
-  remember->setObjectName(QStringLiteral("rememberRecentAction"));
-  remember->setCheckable(true);
-  remember->setChecked(environment_.recentFiles.isKept());
-  connect(remember, &QAction::toggled, this, [this](bool kept) { environment_.recentFiles.setKept(kept); });
 }
 
 void DocumentWindow::bindEditActions() {
-  const auto bind = [this](QAction* action, auto line, auto note) {
-    connect(action, &QAction::triggered, this, [this, line, note] { editText(focusWidget(), line, note); });
-  };
-  bind(ui_->undoAction, &QLineEdit::undo, &QPlainTextEdit::undo);
-  bind(ui_->redoAction, &QLineEdit::redo, &QPlainTextEdit::redo);
-  bind(ui_->cutAction, &QLineEdit::cut, &QPlainTextEdit::cut);
-  bind(ui_->copyAction, &QLineEdit::copy, &QPlainTextEdit::copy);
-  bind(ui_->pasteAction, &QLineEdit::paste, &QPlainTextEdit::paste);
-  bind(ui_->selectAllAction, &QLineEdit::selectAll, &QPlainTextEdit::selectAll);
+  new EditMenu(*this, *ui_->editMenu,
+               {.undo = *ui_->undoAction,
+                .redo = *ui_->redoAction,
+                .cut = *ui_->cutAction,
+                .copy = *ui_->copyAction,
+                .paste = *ui_->pasteAction,
+                .selectAll = *ui_->selectAllAction});
   connect(ui_->copyReportAction, &QAction::triggered, this, [this] {
     perform([](NCDocument& document) {
       auto* table = new QMimeData;
@@ -534,39 +533,6 @@ void DocumentWindow::bindEditActions() {
       QGuiApplication::clipboard()->setMimeData(table);
     });
   });
-}
-
-void DocumentWindow::bindStandardsMenus() {
-  // The menus of this form stand in the order in which the controller gives theirs.
-  const std::array menus{ui_->standardsMenu, ui_->fetalWeightMenu, ui_->crownRumpLengthMenu};
-  QString taken = mnemonicsOf(*ui_->menuBar, *ui_->patientPanel);
-  std::size_t next = 0;
-  std::string title;
-  QMenu* menu = nullptr;
-  QString takenItems;
-  for (const framework::MenuItem& item : environment_.application.standardsMenuItems()) {
-    if (!menu || item.menuTitle != title) {
-      if (next == std::size(menus)) break;
-      menu = menus[next++];
-      title = item.menuTitle;
-      takenItems.clear();
-      menu->setTitle(withMnemonic(fromUtf8(title), taken));
-      taken += mnemonicOf(menu->title());
-    }
-    QAction* action = menu->addAction(withMnemonic(fromUtf8(item.title), takenItems));
-    takenItems += mnemonicOf(action->text());
-    action->setCheckable(true);
-    const auto validate = [this, action, item] {
-      framework::MenuItem validated = item;
-      action->setEnabled(environment_.application.validateMenuItem(validated));
-      action->setChecked(validated.state != 0);
-    };
-    connect(menu, &QMenu::aboutToShow, action, validate);
-    connect(action, &QAction::triggered, this, [this, validate, item] {
-      perform([this, &item](NCDocument&) { environment_.application.chooseStandard(item); });
-      validate();
-    });
-  }
 }
 
 void DocumentWindow::describeFields() {
@@ -690,6 +656,7 @@ void DocumentWindow::showExaminations() {
   ui_->previousAction->setEnabled(exam > 0);
   ui_->nextAction->setEnabled(exam + 1 < count);
   ui_->deleteExaminationAction->setEnabled(count > 1);
+  ui_->adjustDeliveryAction->setEnabled(document_->canAdjustDelivery());
   showLongDates();
   updatePages();
 }
@@ -709,6 +676,9 @@ void DocumentWindow::updatePages() {
   if (!document_) return;
   for (PageView* view : pageViews_) view->update();
   const std::int64_t shown = document_->tabView().indexOfSelectedPage();
+  QStringList advice;
+  for (const std::string& sentence : document_->adviceOnPage(shown)) advice << fromUtf8(sentence);
+  pageViews_.at(static_cast<std::size_t>(shown))->setAdvice(advice.join(u'\n'));
   pageViews_.at(static_cast<std::size_t>(shown))
       ->setDescription(shown == app::PatientPages::kReportPage
                            ? fromUtf8(document_->report().tabSeparatedText())
@@ -761,6 +731,22 @@ void DocumentWindow::restoreWindowGeometry() {
   }
 }
 
+void DocumentWindow::moveAside(const std::vector<const DocumentWindow*>& others) {
+  if (isMaximized() || isFullScreen() || !screen()) return;
+  const QRect available = screen()->availableGeometry();
+  const int step = style()->pixelMetric(QStyle::PM_TitleBarHeight) + 8;
+  const auto covers = [this](const DocumentWindow* other) {
+    return other->isVisible() && (other->pos() - pos()).manhattanLength() < 8;
+  };
+  const QRect start(available.topLeft(), available.size() / 2);
+  // Each step leaves one of the others behind; after the middle of the screen it begins at the upper left corner.
+  for (std::size_t i = 0; i <= others.size() && std::ranges::any_of(others, covers); ++i) {
+    const QPoint next = pos() + QPoint(step, step);
+    move(start.contains(next) ? next : start.topLeft());
+    resize(size().boundedTo(QRect(pos(), available.bottomRight()).size()).expandedTo(minimumSizeHint()));
+  }
+}
+
 void DocumentWindow::changeEvent(QEvent* event) {
   QMainWindow::changeEvent(event);
   if (event->type() != QEvent::ActivationChange || !isActiveWindow() || !document_) return;
@@ -780,16 +766,30 @@ void DocumentWindow::closeEvent(QCloseEvent* event) {
 }
 
 void DocumentWindow::dragEnterEvent(QDragEnterEvent* event) {
-  if (!localFiles(event->mimeData()).isEmpty()) event->acceptProposedAction();
+  if (event->mimeData()->hasUrls()) event->acceptProposedAction();
 }
 
 void DocumentWindow::dropEvent(QDropEvent* event) {
-  const QStringList paths = localFiles(event->mimeData());
-  if (paths.isEmpty()) return;
+  const Dropped all = dropped(event->mimeData());
+  if (all.paths.isEmpty() && all.links.isEmpty()) return;
   event->acceptProposedAction();
   // Whoever dragged the files waits for the drop to end; a question must not hold it up.
   QMetaObject::invokeMethod(
-      this, [this, paths] { environment_.openFiles(paths); }, Qt::QueuedConnection);
+      this,
+      [this, all] {
+        if (!all.paths.isEmpty()) environment_.openFiles(all.paths);
+        if (!all.links.isEmpty()) tellOfLinks(all.links);
+      },
+      Qt::QueuedConnection);
+}
+
+void DocumentWindow::tellOfLinks(const QStringList& links) {
+  environment_.actions.performInTurn([this, links] {
+    environment_.alerts.tell(
+        toUtf8(said("MyDocument", "Nascor opens files of this machine only.")),
+        toUtf8(links.join(u'\n') + QStringLiteral("\n\n") +
+               said("MyDocument", "Please save what the link leads to as a file here, and open that.")));
+  });
 }
 
 void DocumentWindow::placePopUp() {

@@ -45,6 +45,8 @@ struct WindowEnvironment {
   RecentFiles& recentFiles;
   std::function<void(const QStringList&)> openFiles;
   std::function<void()> chooseFilesToOpen;
+  std::function<std::vector<framework::ZuDocument*>()> openDocuments;  ///< in the order of opening
+  std::function<void(framework::ZuDocument&)> bringToFront;
   std::function<void()> quit;
 };
 
@@ -66,6 +68,8 @@ class DocumentWindow final : public QMainWindow {
   bool hasDialog() const;
   /// The next window opens in this one's place.
   void keepGeometry() const;
+  /// Moves the window, which is about to be shown, so far from each of `others` that their titles can be read.
+  void moveAside(const std::vector<const DocumentWindow*>& others);
   /// The dialog that shows `panel`; null for a panel of another document.
   QWidget* windowOfPanel(const framework::Panel& panel) const;
 
@@ -90,12 +94,10 @@ class DocumentWindow final : public QMainWindow {
   void bindActions();
   void bindFileActions();
   void bindEditActions();
-  void bindStandardsMenus();
   void bindDialogs();
   /// The dialog that shows `panel`, made now if it was not shown before.
   PanelDialog& dialogOf(const framework::Panel& panel);
   PanelDialog* makeDialog(const framework::Panel& panel);
-  void showRecentFiles();
   void describeFields();
 
   /// Tells the document where its pop-up stands.
@@ -114,6 +116,7 @@ class DocumentWindow final : public QMainWindow {
   void showLongDates();
   void updatePages();
   void showAbout();
+  void tellOfLinks(const QStringList& links);
   void revert();
   void restoreWindowGeometry();
 

@@ -3,15 +3,27 @@
 #include <QCoreApplication>
 #include <QDate>
 #include <QLocale>
+#include <QRegularExpression>
 
 #include "qt/Text.h"
 
 namespace nascor::qt {
 namespace {
 
-QString inWords(const QDate& day) {
-  return QLocale().toString(day, QCoreApplication::translate("MyDocument", "d MMMM yyyy"));
+/// How the user's country writes a day in words, without the day of the week; in English as everywhere in this program.
+QString formInWords(const QLocale& locale) {
+  const QString usual = QCoreApplication::translate("MyDocument", "d MMMM yyyy");
+  if (locale.language() == QLocale::English || locale.language() == QLocale::C) return usual;
+  static const QRegularExpression kWeekday(
+      QStringLiteral("[\\s,\\x{060C}\\x{3001}]*\\bdddd\\b[\\s,\\x{060C}\\x{3001}]*"));
+  QString form = locale.dateFormat(QLocale::LongFormat);
+  form.remove(kWeekday);
+  const bool isWhole =
+      form.contains(u'd') && form.contains(QStringLiteral("M")) && form.contains(QStringLiteral("yyyy"));
+  return isWhole ? form : usual;
 }
+
+QString inWords(const QDate& day) { return QLocale().toString(day, formInWords(QLocale())); }
 
 }  // namespace
 

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <QEvent>
 #include <QMimeData>
+#include <QPainter>
 #include <QPlainTextEdit>
 #include <functional>
 
@@ -20,6 +22,24 @@ class NoteEdit final : public QPlainTextEdit {
   }
   bool canInsertFromMimeData(const QMimeData* source) const override {
     return !source->hasUrls() && QPlainTextEdit::canInsertFromMimeData(source);
+  }
+  bool event(QEvent* event) override {
+    const bool isDone = QPlainTextEdit::event(event);
+    // Many styles draw the frame of a text of several lines alike with and without the focus.
+    if (event->type() == QEvent::Paint && hasFocus()) {
+      QPainter painter(this);
+      painter.setPen(QPen(palette().color(QPalette::Highlight), 2.0 * frameWidth()));
+      painter.drawRect(rect());
+    }
+    return isDone;
+  }
+  void focusInEvent(QFocusEvent* event) override {
+    QPlainTextEdit::focusInEvent(event);
+    update();
+  }
+  void focusOutEvent(QFocusEvent* event) override {
+    QPlainTextEdit::focusOutEvent(event);
+    update();
   }
 };
 

@@ -106,7 +106,11 @@ void OutputMenu::add(QMenu& menu, QAction* before, const char* name, const char*
 void OutputMenu::pageSetup(NCDocument& document) {
   QPrinter printer;
   printer.setPageLayout(layoutOf(document.printInfo()));
+  // Where no printer is set up Qt warns that the paper is that of a file, which the dialog sets all the same.
+  const QtMessageHandler handler =
+      qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
   QPageSetupDialog dialog(&printer, &window_);
+  qInstallMessageHandler(handler);
   if (dialog.exec() == QDialog::Accepted) setPaper(document, printer.pageLayout());
 }
 

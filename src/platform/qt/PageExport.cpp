@@ -193,7 +193,10 @@ class Export {
                                                static_cast<std::int64_t>(places.size()))
                          : document.footOfPage(place.page, 1, 1);
     }
-    return LaidOutSheet({.page = document.tabView().page(place.page), .foot = foot}, texts_);
+    return LaidOutSheet({.page = document.tabView().page(place.page),
+                         .foot = foot,
+                         .facts = document.factsOfPage(place.page)},
+                        texts_);
   }
 
   void writeAsOneFile(app::NCDocument& document, const std::vector<Place>& places, const QString& stem) {

@@ -8,6 +8,7 @@
 #include <span>
 #include <utility>
 
+#include "qt/PdfInformation.h"
 #include "qt/QtCanvas.h"
 #include "qt/QtSurface.h"
 #include "qt/SvgSurface.h"
@@ -36,11 +37,12 @@ std::vector<std::string> linesOfFoot(const framework::PageFoot& foot, TextLayout
 LaidOutSheet::LaidOutSheet(const framework::Sheet& sheet, std::shared_ptr<TextLayouts> texts)
     : page_(&sheet.page),
       texts_(texts ? std::move(texts) : std::make_shared<TextLayouts>()),
-      footLines_(linesOfFoot(sheet.foot, *texts_)) {}
+      footLines_(linesOfFoot(sheet.foot, *texts_)),
+      facts_(sheet.facts) {}
 
 double LaidOutSheet::height() const { return Page::kHeight + framework::footHeight(footLines_.size()); }
 
-QString LaidOutSheet::title() const { return fromUtf8(page_->title()); }
+QString LaidOutSheet::title() const { return fromUtf8(facts_.title.empty() ? page_->title() : facts_.title); }
 
 void LaidOutSheet::paint(QPainter& painter, const QRectF& paper) const {
   const double scale = std::min(paper.width() / Page::kWidth, paper.height() / height());
@@ -63,29 +65,33 @@ PdfPages::PdfPages() : writer_((file_.open(QIODevice::WriteOnly), &file_)) {
   writer_.setCreator(QCoreApplication::applicationName());
 }
 
-bool PdfPages::beginPage(const QPageLayout& layout, const QString& title) {
+bool PdfPages::beginPage(const QPageLayout& layout, const LaidOutSheet& sheet) {
   if (!writer_.setPageLayout(layout)) return false;
   if (painter_.isActive()) return writer_.newPage();
-  writer_.setTitle(title);
+  writer_.setTitle(sheet.title());
+  facts_ = sheet.facts();
   return painter_.begin(&writer_);
 }
 
 bool PdfPages::add(const LaidOutSheet& sheet) {
   const QPageSize size(QSizeF(Page::kWidth, sheet.height()), QPageSize::Point, QString(),
                        QPageSize::ExactMatch);
-  if (!beginPage(QPageLayout(size, QPageLayout::Portrait, QMarginsF()), sheet.title())) return false;
+  if (!beginPage(QPageLayout(size, QPageLayout::Portrait, QMarginsF()), sheet)) return false;
   sheet.paint(painter_, QRectF(0.0, 0.0, Page::kWidth, sheet.height()));
   return true;
 }
 
 bool PdfPages::add(const LaidOutSheet& sheet, const QPageLayout& paper) {
-  if (!beginPage(paper, sheet.title())) return false;
+  if (!beginPage(paper, sheet)) return false;
   // The painter's origin is the corner within the margins.
   sheet.paint(painter_, QRectF(QPointF(), paper.paintRect(QPageLayout::Point).size()));
   return true;
 }
 
-QByteArray PdfPages::finish() { return painter_.isActive() && painter_.end() ? file_.data() : QByteArray(); }
+QByteArray PdfPages::finish() {
+  if (!painter_.isActive() || !painter_.end()) return {};
+  return withPdfInformation(file_.data(), fromUtf8(facts_.author), fromUtf8(facts_.subject));
+}
 
 QByteArray pdfOfSheet(const LaidOutSheet& sheet) {
   PdfPages pages;
@@ -105,6 +111,13 @@ QByteArray pngOfSheet(const LaidOutSheet& sheet, double scale) {
   if (!painter.begin(&image)) return {};
   sheet.paint(painter, QRectF(image.rect()));
   painter.end();
+  const auto describe = [&](const char* keyword, const QString& text) {
+    if (!text.isEmpty()) image.setText(QLatin1String(keyword), text);
+  };
+  // Keywords of the PNG specification.
+  describe("Title", sheet.title());
+  describe("Author", fromUtf8(sheet.facts().author));
+  describe("Description", fromUtf8(sheet.facts().subject));
   QBuffer file;
   file.open(QIODevice::WriteOnly);
   return image.save(&file, "PNG") ? file.data() : QByteArray();
@@ -122,7 +135,9 @@ QByteArray svgOfSheet(const LaidOutSheet& sheet) {
         sheet.footLines());
     surface.endView();
   }
-  return surface.finish(sheet.title());
+  return surface.finish({.title = sheet.title(),
+                         .author = fromUtf8(sheet.facts().author),
+                         .subject = fromUtf8(sheet.facts().subject)});
 }
 
 QByteArray bytesOfSheet(const LaidOutSheet& sheet, PageFormat format, double pngScale) {

@@ -26,7 +26,9 @@ class LaidOutSheet {
   explicit LaidOutSheet(const framework::Sheet& sheet, std::shared_ptr<TextLayouts> texts = nullptr);
 
   double height() const;
+  /// The title among the sheet's facts, else that of the page.
   QString title() const;
+  const framework::SheetFacts& facts() const { return facts_; }
   /// Paints page and foot on white, as a whole and as large as `paper` permits: at its top, in the middle of its width.
   void paint(QPainter& painter, const QRectF& paper) const;
 
@@ -38,6 +40,7 @@ class LaidOutSheet {
   framework::Page* page_;
   std::shared_ptr<TextLayouts> texts_;
   std::vector<std::string> footLines_;
+  framework::SheetFacts facts_;
 };
 
 /// One PDF document of sheets, its texts as text and its fonts inside, each font once.
@@ -53,11 +56,12 @@ class PdfPages {
   QByteArray finish();
 
  private:
-  bool beginPage(const QPageLayout& layout, const QString& title);
+  bool beginPage(const QPageLayout& layout, const LaidOutSheet& sheet);
 
   QBuffer file_;
   QPdfWriter writer_;
   QPainter painter_;
+  framework::SheetFacts facts_;  ///< of the first page
 };
 
 /// One page of a point to the unit. Empty when it could not be made, as are the other two.

@@ -24,15 +24,20 @@ QRectF paintRectOf(const QPrinter& printer) {
 
 class QtPrintJob final : public framework::PrintJob {
  public:
-  QtPrintJob(foundation::FileStore& files, const framework::PrintInfo& info, QString file,
-             std::function<bool(QPrinter&)> ask)
-      : files_(files), layout_(layoutOf(info)), file_(std::move(file)), ask_(std::move(ask)) {}
+  QtPrintJob(foundation::FileStore& files, const framework::PrintInfo& info,
+             const framework::PrintSettings& settings, std::function<bool(QPrinter&)> ask)
+      : files_(files),
+        layout_(layoutOf(info)),
+        name_(fromUtf8(settings.name)),
+        file_(QFile::decodeName(QByteArray::fromStdString(settings.file))),
+        ask_(std::move(ask)) {}
 
   std::variant<PrintOutcome, FileError> addPage(const framework::Sheet& sheet, bool showsPanel) override {
     if (file_.isEmpty()) {
       if (!printer_) {
         printer_ = std::make_unique<QPrinter>(QPrinter::HighResolution);
         printer_->setPageLayout(layout_);
+        printer_->setDocName(name_);
       }
       if (showsPanel && !ask_(*printer_)) return PrintOutcome::cancelled;
       layout_ = printer_->pageLayout();
@@ -81,6 +86,7 @@ class QtPrintJob final : public framework::PrintJob {
 
   foundation::FileStore& files_;
   QPageLayout layout_;
+  QString name_;
   QString file_;
   std::function<bool(QPrinter&)> ask_;
   std::unique_ptr<QPrinter> printer_;
@@ -120,8 +126,7 @@ QtPrinter::QtPrinter(foundation::FileStore& files) : files_(files) {
 std::unique_ptr<framework::PrintJob> QtPrinter::beginJob(const framework::PrintInfo& info,
                                                          const framework::PrintSettings& settings) {
   if (preview_) return std::make_unique<PreviewJob>(*preview_);
-  return std::make_unique<QtPrintJob>(files_, info,
-                                      QFile::decodeName(QByteArray::fromStdString(settings.file)), ask);
+  return std::make_unique<QtPrintJob>(files_, info, settings, ask);
 }
 
 void QtPrinter::paintInto(QPrinter* preview, const std::function<void()>& print) {

@@ -95,14 +95,27 @@ void SvgSurface::endView() {
   view_.reset();
 }
 
-QByteArray SvgSurface::finish(const QString& title) {
+QByteArray SvgSurface::finish(const Facts& facts) {
   const QString size = QStringLiteral("width=\"%1\" height=\"%2\"").arg(number(width_), number(height_));
+  const auto element = [](const QString& name, const QString& text) {
+    if (text.isEmpty()) return QString();
+    return u'<' + name + u'>' + onlyXmlCharacters(text).toHtmlEscaped() + QStringLiteral("</") + name +
+           QStringLiteral(">\n");
+  };
+  QString metadata = element(QStringLiteral("dc:creator"), facts.author) +
+                     element(QStringLiteral("dc:subject"), facts.subject);
+  if (!metadata.isEmpty()) {
+    metadata = QStringLiteral(
+                   "<metadata>\n<rdf:RDF xmlns:rdf=\"http://www.w3.org/1999/02/22-rdf-syntax-ns#\" "
+                   "xmlns:dc=\"http://purl.org/dc/elements/1.1/\">\n<rdf:Description rdf:about=\"\">\n") +
+               metadata + QStringLiteral("</rdf:Description>\n</rdf:RDF>\n</metadata>\n");
+  }
   return (QStringLiteral("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
                          "<svg xmlns=\"http://www.w3.org/2000/svg\" ") +
           size + QStringLiteral(" viewBox=\"0 0 ") + number(width_) + u' ' + number(height_) +
-          QStringLiteral("\">\n<title>") + onlyXmlCharacters(title).toHtmlEscaped() +
-          QStringLiteral("</title>\n<rect ") + size + QStringLiteral(" fill=\"#ffffff\"/>\n") +
-          page_->contents() + views_ + QStringLiteral("</svg>\n"))
+          QStringLiteral("\">\n<title>") + onlyXmlCharacters(facts.title).toHtmlEscaped() +
+          QStringLiteral("</title>\n") + metadata + QStringLiteral("<rect ") + size +
+          QStringLiteral(" fill=\"#ffffff\"/>\n") + page_->contents() + views_ + QStringLiteral("</svg>\n"))
       .toUtf8();
 }
 

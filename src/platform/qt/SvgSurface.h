@@ -26,8 +26,14 @@ class SvgSurface final : public framework::Surface {
   /// What is drawn until `endView` lies in `frame` and is clipped to it.
   framework::Canvas& beginLayer(const framework::Rect& frame, bool isFlipped);
 
+  /// What the drawing says of itself; what is empty is left out.
+  struct Facts {
+    QString title;
+    QString author;
+    QString subject;
+  };
   /// The whole drawing, UTF-8.
-  QByteArray finish(const QString& title);
+  QByteArray finish(const Facts& facts);
 
  private:
   class Layer;

@@ -15,6 +15,7 @@
 #include <vector>
 
 #include "qt/Application.h"
+#include "qt/ApplicationIcon.h"
 #include "qt/ApplicationService.h"
 #include "qt/BusObjects.h"
 #include "qt/DocumentApplication.h"
@@ -197,6 +198,7 @@ int showDocuments(Application& application, const CommandLine& line, const found
   const ApplicationService::Start start = service.start(files);
   if (start == ApplicationService::Start::handedOver) return kAllWell;
 
+  Application::setWindowIcon(applicationIcon());
   followSession(application, documents);
   Patience patience(documents);
   if (line.parser.isSet(line.service) && start == ApplicationService::Start::first) {

@@ -1,0 +1,10 @@
+#pragma once
+
+#include <QIcon>
+
+namespace nascor::qt {
+
+/// The application's icon, resources/desktop, in the sizes of title bars and lists of windows.
+QIcon applicationIcon();
+
+}  // namespace nascor::qt
