@@ -100,7 +100,6 @@ TEST_F(ThePages, growWithoutTheShiftKeyToo) {
 TEST_F(ThePages, scrollWhenTheyAreLargerThanTheWindow) {
   open(singleton());
   show(1);
-  EXPECT_EQ(page().focusPolicy(), Qt::NoFocus) << "there is nothing to scroll";
   enlarge(4);
   EXPECT_FALSE(bar(Qt::Vertical).isHidden());
   bar(Qt::Vertical).setValue(0);
@@ -116,13 +115,13 @@ TEST_F(ThePages, scrollWhenTheyAreLargerThanTheWindow) {
   QCoreApplication::sendEvent(&page(), &up);
   EXPECT_LT(bar(Qt::Vertical).value(), bar(Qt::Vertical).maximum());
 
-  ASSERT_EQ(page().focusPolicy(), Qt::TabFocus);
   page().setFocus();
-  QTest::keyClick(&page(), Qt::Key_Home);
+  for (int i = 0; i < 10; ++i) QTest::keyClick(&page(), Qt::Key_PageUp);
   EXPECT_EQ(bar(Qt::Vertical).value(), 0);
   QTest::keyClick(&page(), Qt::Key_PageDown);
   EXPECT_GT(bar(Qt::Vertical).value(), 0);
-  QTest::keyClick(&page(), Qt::Key_Left);
+  // Without Shift the key goes from mark to mark.
+  QTest::keyClick(&page(), Qt::Key_Left, Qt::ShiftModifier);
   EXPECT_LT(bar(Qt::Horizontal).value(), bar(Qt::Horizontal).maximum());
 }
 

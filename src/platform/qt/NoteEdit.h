@@ -16,10 +16,6 @@ class NoteEdit final : public QPlainTextEdit {
   std::function<void()> onLeave;  ///< the focus went elsewhere, to another window too
 
  protected:
-  void focusOutEvent(QFocusEvent* event) override {
-    QPlainTextEdit::focusOutEvent(event);
-    if (onLeave) onLeave();
-  }
   bool canInsertFromMimeData(const QMimeData* source) const override {
     return !source->hasUrls() && QPlainTextEdit::canInsertFromMimeData(source);
   }
@@ -40,6 +36,7 @@ class NoteEdit final : public QPlainTextEdit {
   void focusOutEvent(QFocusEvent* event) override {
     QPlainTextEdit::focusOutEvent(event);
     update();
+    if (onLeave) onLeave();
   }
 };
 

@@ -92,8 +92,6 @@ void PageView::layOutScrollBars() {
   isWide = isWide || width > this->width() - (isHigh ? down : 0);
   horizontal_->setVisible(isWide);
   vertical_->setVisible(isHigh);
-  // The keys scroll a page that does not fit, so they must reach it.
-  setFocusPolicy(isWide || isHigh ? Qt::TabFocus : Qt::NoFocus);
   const QRect area = viewport();
   horizontal_->setGeometry(0, area.height(), area.width(), across);
   vertical_->setGeometry(area.width(), 0, down, area.height());
