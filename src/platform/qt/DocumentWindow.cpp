@@ -586,6 +586,8 @@ void DocumentWindow::showEditing() {
   }
   statusLabel_->setText(permitted.isEmpty() ? message : said("MyDocument", "Permitted: %1").arg(permitted));
   statusLabel_->setToolTip(statusLabel_->text());
+  // What a field permits is short and must be read whole.
+  statusLabel_->setMinimumWidth(permitted.isEmpty() ? 0 : statusLabel_->sizeHint().width());
   showLongDates();
 }
 

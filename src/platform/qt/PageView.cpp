@@ -216,12 +216,21 @@ bool PageView::readOutByKey(const QKeyEvent& event) {
   }
 }
 
-bool PageView::scrollByKey(QKeyEvent& event) {
+bool PageView::scrollByKey(const QKeyEvent& event) {
   const bool isAcross = event.key() == Qt::Key_Left || event.key() == Qt::Key_Right;
   QScrollBar* bar = isAcross ? horizontal_ : vertical_;
   if (!bar || bar->isHidden()) return false;
-  QCoreApplication::sendEvent(bar, &event);
-  return event.isAccepted();
+  switch (event.key()) {
+    case Qt::Key_Left:
+    case Qt::Key_Up: bar->triggerAction(QAbstractSlider::SliderSingleStepSub); return true;
+    case Qt::Key_Right:
+    case Qt::Key_Down: bar->triggerAction(QAbstractSlider::SliderSingleStepAdd); return true;
+    case Qt::Key_PageUp: bar->triggerAction(QAbstractSlider::SliderPageStepSub); return true;
+    case Qt::Key_PageDown: bar->triggerAction(QAbstractSlider::SliderPageStepAdd); return true;
+    case Qt::Key_Home: bar->triggerAction(QAbstractSlider::SliderToMinimum); return true;
+    case Qt::Key_End: bar->triggerAction(QAbstractSlider::SliderToMaximum); return true;
+    default: return false;
+  }
 }
 
 void PageView::focusInEvent(QFocusEvent* event) {
@@ -269,7 +278,14 @@ void PageView::wheelEvent(QWheelEvent* event) {
     event->ignore();
     return;
   }
-  QCoreApplication::sendEvent(bar, event);
+  constexpr int kNotch = 120;
+  constexpr int kStepsOfANotch = 3;
+  const QPoint pixels = event->pixelDelta();
+  const QPoint notches = event->angleDelta() * kStepsOfANotch * bar->singleStep() / kNotch;
+  const QPoint by = pixels.isNull() ? notches : pixels;
+  // Shift turns a wheel that goes up and down only.
+  bar->setValue(bar->value() - (isAcross && by.x() != 0 ? by.x() : by.y()));
+  event->accept();
 }
 
 }  // namespace nascor::qt

@@ -62,7 +62,7 @@ class PageView final : public QWidget {
   /// Goes to the mark that the key means. False where the key means none.
   bool readOutByKey(const QKeyEvent& event);
   /// Scrolls by the key. False where the page is shown whole.
-  bool scrollByKey(QKeyEvent& event);
+  bool scrollByKey(const QKeyEvent& event);
   /// Reads out the mark of that place among those of the page; a place outside them reads none.
   void readOut(std::ptrdiff_t mark);
   framework::Point onPage(QPointF point) const;

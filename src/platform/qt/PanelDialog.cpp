@@ -1,5 +1,7 @@
 #include "qt/PanelDialog.h"
 
+#include <QEvent>
+#include <QLayout>
 #include <algorithm>
 #include <utility>
 
@@ -24,6 +26,14 @@ void PanelDialog::center() {
   adjustSize();
   if (const QWidget* window = parentWidget())
     move(window->geometry().center() - QRect(QPoint(), size()).center());
+}
+
+bool PanelDialog::event(QEvent* event) {
+  const bool wasHandled = QDialog::event(event);
+  const bool isAboutRoom = event->type() == QEvent::Resize || event->type() == QEvent::LayoutRequest;
+  if (isAboutRoom && layout() && layout()->hasHeightForWidth())
+    setMinimumHeight(layout()->totalHeightForWidth(width()));
+  return wasHandled;
 }
 
 void PanelDialog::release() {

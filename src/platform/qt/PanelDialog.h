@@ -42,6 +42,9 @@ class PanelDialog : public QDialog {
   /// The document's field of that widget's name.
   framework::TextField& fieldFor(const QWidget& widget) const;
 
+  /// Stays as tall as its texts need at its width: a layout alone would cut the last line of a text that wraps.
+  bool event(QEvent* event) override;
+
   /// Shows what nothing shows by itself.
   virtual void refresh() = 0;
   /// Puts the focus where work begins.
