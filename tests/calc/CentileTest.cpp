@@ -41,7 +41,7 @@ TEST(ZScore, hasTheBitsOfTheLookUps) {
 TEST(ZScore, isNotFiniteWithoutAnAgeOrATable) {
   EXPECT_TRUE(isExactly(zScore(kTable, 80.0, 0.0), kInfinity));
   EXPECT_TRUE(isExactly(zScore(kTable, -80.0, 0.0), -kInfinity));
-  EXPECT_FALSE(std::isfinite(zScore({}, 80.0, 35.0)));
+  EXPECT_FALSE(std::isfinite(zScore(ReferenceTable{}, 80.0, 35.0)));
 }
 
 // The distribution by its power series, in decimal arithmetic of 120 digits.

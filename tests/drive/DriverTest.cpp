@@ -33,9 +33,11 @@ TEST_F(ADriver, drawsTheTitlesOfAStripWithinItsViewAtAnySize) {
         const Json line{{"draw", {page, width, height}}};
         Json view;
         int titles = 0;
-        for (const Json& entry : say(line.dump())["draw"]) {
+        const Json drawn = say(line.dump())["draw"];
+        for (const Json& entry : drawn) {
           if (entry[0] == "view") view = entry;
-          if (entry[0] != "text" || !view[1].get<std::string>().starts_with("NoYaxis")) continue;
+          if (entry[0] != "text" || view.is_null() || !view[1].get<std::string>().starts_with("NoYaxis"))
+            continue;
           const auto text = entry[2].get<std::string>();
           if (!text.starts_with("Nas")) continue;
           ++titles;

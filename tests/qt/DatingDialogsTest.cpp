@@ -88,6 +88,8 @@ TEST_F(TheDialogs, areInTheMenuOfThePatient) {
   for (const auto& [item, panel] :
        {std::pair{Qt::Key_L, "lmpWindow"}, std::pair{Qt::Key_C, "crlWindow"},
         std::pair{Qt::Key_M, "measurementsWindow"}, std::pair{Qt::Key_A, "adjustDeliveryPanel"}}) {
+    // A delivery is planned by its distance from the EDD.
+    if (item == Qt::Key_A) enter("birthDateField", "4/14/27");
     auto& menu = in<QMenu>("patientMenu");
     menu.popup(QPoint());
     QTest::keyClick(&menu, item);
@@ -366,7 +368,7 @@ TEST_F(TheDialogs, saySoInWordsWhereAnAgeIsRed) {
 
 TEST_F(TheDialogs, followTheWindowWhileTheyAreOpen) {
   openWindow(twins());
-  window->document()->birthDateField().setText("");
+  window->document()->birthDateField().takeEditedText("");
   window->document()->synchronizeToData();
   key(Qt::Key_M, Qt::ControlModifier | Qt::ShiftModifier);
   ASSERT_TRUE(isActive(dialog("measurementsWindow")));

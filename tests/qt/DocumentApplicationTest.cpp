@@ -437,7 +437,7 @@ TEST_F(TheApplicationOfDocuments, keepsANewDocumentInWhichSomethingWasDone) {
   settle();
 
   press(Qt::Key_N, Qt::ControlModifier);
-  action("adjustDeliveryAction").trigger();
+  action("eddFromLMPAction").trigger();
   application.openFiles({good});
   EXPECT_THAT(titles(), ElementsAre("Untitled[*]", "Untitled[*]", "a.nascor[*]")) << "its dialog is open";
 }

@@ -238,7 +238,7 @@ TEST_F(TheDocumentWindow, hasAMenuForEachFamilyOfStandards) {
   for (const QAction* menu : front().menuBar()->actions())
     titles.push_back(menu->text().remove(u'&').toStdString());
   EXPECT_THAT(titles, ElementsAre("File", "Edit", "Patient", "Standards", "Estimated Fetal Weight",
-                                  "Crown Rump Length", "View", "Help"));
+                                  "Crown Rump Length", "View", "Window", "Help"));
   EXPECT_EQ(widget<QMenu>("standardsMenu").actions().size(), 4);
   EXPECT_EQ(widget<QMenu>("fetalWeightMenu").actions().size(), 8);
   EXPECT_EQ(widget<QMenu>("crownRumpLengthMenu").actions().size(), 4);
