@@ -35,6 +35,27 @@ bool hasValues(const NascorGraphView& chart, std::uint64_t examinations) {
   });
 }
 
+/// Whether the fetus on show has a length at any examination.
+bool isReported(const NCDocument& document) {
+  for (std::int64_t exam = 0; exam < document.numberOfExaminations(); ++exam) {
+    const model::MeasurementsRecord* measured = document.measurementsForCurrentFetus(exam);
+    if (measured != nullptr && calc::isAnyMeasured(measured->biometry())) return true;
+  }
+  return false;
+}
+
+/// Whether the page has a value to show.
+bool isMeasured(const NCDocument& document, std::int64_t page) {
+  if (page == PatientPages::kReportPage) return isReported(document);
+  const std::uint64_t examinations = document.patientRecord()->ncRecordsArray().size();
+  const auto isPlotted = [&](const NascorGraphView* chart) { return hasValues(*chart, examinations); };
+  if (page == PatientPages::kWeightPage) return isPlotted(&document.EFWGraph());
+  const std::array<const NascorGraphView*, 4> lengths{document.BPDGraph(), document.HCGraph(),
+                                                      document.ACGraph(), document.FLGraph()};
+  return page == 0 ? std::ranges::any_of(lengths, isPlotted)
+                   : isPlotted(lengths.at(static_cast<std::size_t>(page) - 1));
+}
+
 }  // namespace
 
 std::vector<std::string> NCDocument::adviceOnPage(std::int64_t page) const {
@@ -69,21 +90,7 @@ std::vector<std::string> NCDocument::adviceOnPage(std::int64_t page) const {
                          : localizer.text("NCDocument", "No date, so no marks. Type it beside the page."));
   }
 
-  const auto isPlotted = [&](const NascorGraphView* chart) { return hasValues(*chart, examinations.size()); };
-  const std::array<const NascorGraphView*, 4> lengths{BPDGraph(), HCGraph(), ACGraph(), FLGraph()};
-  bool isMeasured = false;
-  if (isReport) {
-    for (std::int64_t exam = 0; exam < numberOfExaminations(); ++exam) {
-      const model::MeasurementsRecord* measured = measurementsForCurrentFetus(exam);
-      isMeasured = isMeasured || (measured && calc::isAnyMeasured(measured->biometry()));
-    }
-  } else if (isWeight) {
-    isMeasured = isPlotted(&EFWGraph());
-  } else {
-    isMeasured = page == 0 ? std::ranges::any_of(lengths, isPlotted)
-                           : isPlotted(lengths.at(static_cast<std::size_t>(page) - 1));
-  }
-  if (!isMeasured && (!isWeight || hasFormula))
+  if (!isMeasured(*this, page) && (!isWeight || hasFormula))
     advice.push_back(localizer.text("NCDocument", kWithoutLengths.at(static_cast<std::size_t>(page))));
   return advice;
 }
