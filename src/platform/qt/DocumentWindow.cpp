@@ -444,7 +444,7 @@ void DocumentWindow::bindActions() {
                 .out = *ui_->zoomOutAction,
                 .fit = *ui_->zoomFitAction,
                 .views = pageViews_,
-                .pageOnShow = [this] { return static_cast<PageView*>(ui_->tabView->currentWidget()); }},
+                .pageOnShow = [this] { return dynamic_cast<PageView*>(ui_->tabView->currentWidget()); }},
                *this);
   connect(ui_->referencesAction, &QAction::triggered, this, [this] {
     if (!references_) references_ = new ReferencesDialog(environment_.services.localizer, this);
@@ -576,7 +576,7 @@ void DocumentWindow::showEditing() {
     binding->refresh();
     if (binding->edit().isRefusing()) permitted = binding->edit().toolTip();
     QString description = binding->description();
-    if (!message.isEmpty() && document_->statusLine().field() == binding->field())
+    if (document_ && !message.isEmpty() && document_->statusLine().field() == binding->field())
       description = message + QStringLiteral(". ") + description;
     const QString remark = document_ ? remarkOn(binding->edit()) : QString();
     if (!remark.isEmpty()) description = remark + u' ' + description;

@@ -21,7 +21,7 @@ struct Possible {
 
 bool clipboardHasText() {
   const QMimeData* data = QGuiApplication::clipboard()->mimeData();
-  return data && data->hasText() && !data->text().isEmpty();
+  return data != nullptr && data->hasText() && !data->text().isEmpty();
 }
 
 Possible possibleIn(const QWidget* focus) {

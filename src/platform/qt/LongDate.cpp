@@ -12,7 +12,7 @@ namespace {
 
 /// How the user's country writes a day in words, without the day of the week; in English as everywhere in this program.
 QString formInWords(const QLocale& locale) {
-  const QString usual = QCoreApplication::translate("MyDocument", "d MMMM yyyy");
+  QString usual = QCoreApplication::translate("MyDocument", "d MMMM yyyy");
   if (locale.language() == QLocale::English || locale.language() == QLocale::C) return usual;
   static const QRegularExpression kWeekday(
       QStringLiteral("[\\s,\\x{060C}\\x{3001}]*\\bdddd\\b[\\s,\\x{060C}\\x{3001}]*"));
