@@ -11,6 +11,10 @@ namespace {
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 constexpr std::size_t kNone = std::string::npos;
 
+std::uint64_t linesIn(std::string_view text) {
+  return static_cast<std::uint64_t>(std::ranges::count(text, '\n'));
+}
+
 }  // namespace
 
 std::string textOf(const CsvCell& cell) {
@@ -67,62 +71,64 @@ std::size_t CsvReader::endOfQuoted(std::size_t begin) const {
   return kNone;
 }
 
+/// A cell, the byte behind it and behind the carriage return of its line, and whether that ends its record.
+struct CsvReader::Found {
+  CsvCell cell;
+  std::size_t end;
+  bool isLast;
+};
+
+/// Nothing when more bytes are needed. The cell begins on `line`.
+std::optional<CsvReader::Found> CsvReader::quotedCell(std::size_t begin, std::uint64_t line) const {
+  const std::string_view bytes = bytes_;
+  const std::size_t end = endOfQuoted(begin);
+  if (end == kNone) {
+    if (!isFinished_) return std::nullopt;
+    throw CsvError(line, "a quotation mark that opens here never closes");
+  }
+  const CsvCell cell{bytes.substr(begin, end - begin), true};
+  std::size_t behind = end;
+  if (behind < bytes.size() && bytes[behind] == '\r') ++behind;
+  if (behind == bytes.size() && !isFinished_) return std::nullopt;
+  if (behind == bytes.size() || bytes[behind] == '\n') return Found{cell, behind, true};
+  if (bytes[end] != ',')
+    throw CsvError(line + linesIn(cell.text), "text stands behind a closing quotation mark");
+  return Found{cell, end, false};
+}
+
+/// Nothing when more bytes are needed.
+std::optional<CsvReader::Found> CsvReader::plainCell(std::size_t begin) const {
+  const std::string_view bytes = bytes_;
+  const std::size_t end = std::min(bytes.find_first_of(",\n", begin), bytes.size());
+  if (end == bytes.size() && !isFinished_) return std::nullopt;
+  std::string_view text = bytes.substr(begin, end - begin);
+  const bool isLast = end == bytes.size() || bytes[end] == '\n';
+  if (isLast && text.ends_with('\r')) text.remove_suffix(1);
+  return Found{{text, false}, end, isLast};
+}
+
 /// False when more bytes are needed.
 bool CsvReader::readRecord() {
-  const std::string_view bytes = bytes_;
-  const auto linesBetween = [&](std::size_t begin, std::size_t end) {
-    return static_cast<std::uint64_t>(std::ranges::count(bytes.substr(begin, end - begin), '\n'));
-  };
   std::uint64_t lines = linesRead_;
   std::size_t begin = at_;
   for (;;) {
-    std::size_t end = 0;
-    const bool isQuoted = begin < bytes.size() && bytes[begin] == '"';
-    if (isQuoted) {
-      end = endOfQuoted(begin);
-      if (end == kNone) {
-        if (!isFinished_) return false;
-        throw CsvError(lines + 1, "a quotation mark that opens here never closes");
-      }
-      lines += linesBetween(begin, end);
-      std::size_t behind = end;
-      if (behind < bytes.size() && bytes[behind] == '\r') ++behind;
-      if (behind == bytes.size() && !isFinished_) return false;
-      const bool isLineEnd = behind == bytes.size() || bytes[behind] == '\n';
-      if (!isLineEnd && bytes[end] != ',') {
-        throw CsvError(lines + 1, "text stands behind a closing quotation mark");
-      }
-      cells_.push_back({bytes.substr(begin, end - begin), true});
-      if (!isLineEnd) {
-        begin = end + 1;
-        continue;
-      }
-      end = behind;
-    } else {
-      end = std::min(bytes.find_first_of(",\n", begin), bytes.size());
-      if (end == bytes.size() && !isFinished_) return false;
-      std::string_view text = bytes.substr(begin, end - begin);
-      const bool isLineEnd = end == bytes.size() || bytes[end] == '\n';
-      if (isLineEnd && text.ends_with('\r')) text.remove_suffix(1);
-      // The carriage return of a line that the end of the input cut off.
-      if (isLineEnd && cells_.empty() && text.empty()) {
-        at_ = end;
-        return true;
-      }
-      cells_.push_back({text, false});
-      if (!isLineEnd) {
-        begin = end + 1;
-        continue;
-      }
+    const bool isQuoted = begin < bytes_.size() && bytes_[begin] == '"';
+    const std::optional<Found> found = isQuoted ? quotedCell(begin, lines + 1) : plainCell(begin);
+    if (!found) return false;
+    // The carriage return of a line that the end of the input cut off.
+    if (!isQuoted && found->isLast && cells_.empty() && found->cell.text.empty()) {
+      at_ = found->end;
+      return true;
     }
-    if (end < bytes.size()) {
-      ++end;
-      ++lines;
-    }
-    at_ = end;
-    linesRead_ = lines;
-    return true;
+    cells_.push_back(found->cell);
+    lines += linesIn(found->cell.text);
+    begin = found->end + 1;
+    if (found->isLast) break;
   }
+  // The end of the input ends a record, too.
+  at_ = std::min(begin, bytes_.size());
+  linesRead_ = begin <= bytes_.size() ? lines + 1 : lines;
+  return true;
 }
 
 }  // namespace nascor::rows

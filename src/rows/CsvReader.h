@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <stdexcept>
 #include <string>
@@ -62,8 +63,12 @@ class CsvReader {
   static constexpr std::size_t kLongestRecord = std::size_t{1} << 22;
 
  private:
+  struct Found;
+
   bool readRecord();
   std::size_t endOfQuoted(std::size_t begin) const;
+  std::optional<Found> quotedCell(std::size_t begin, std::uint64_t line) const;
+  std::optional<Found> plainCell(std::size_t begin) const;
 
   std::string bytes_;
   std::size_t at_ = 0;  // where the next record begins

@@ -190,7 +190,8 @@ void RowFormat::appendWarning(std::string& out, const Row& row) const {
     const std::int64_t meant = identifier == kOwnStandard ? row.standard : identifier;
     const auto* standard = calc::growthStandard(meant);
     const auto used = std::span(standards).first(count);
-    if (!standard || std::ranges::find(used, standard, &StandardInUse::standard) != used.end()) continue;
+    if (standard == nullptr || std::ranges::find(used, standard, &StandardInUse::standard) != used.end())
+      continue;
     standards.at(count++) = {.standard = standard,
                              .table = &tables_[static_cast<std::size_t>(meant)].front()};
   }

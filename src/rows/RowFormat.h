@@ -74,7 +74,7 @@ class RowFormat {
   static constexpr std::size_t kMostReferences = 20;
 
   const calc::ReferenceTable* tableOf(const Reference& reference, const Row& row) const;
-  void appendCell(std::string& out, std::size_t column, const Row& row, std::span<const Found> found) const;
+  void appendCell(std::string& out, std::size_t place, const Row& row, std::span<const Found> found) const;
   void appendEmpty(std::string& out) const;
   void appendNumber(std::string& out, double value, int decimals) const;
   void appendInteger(std::string& out, std::int64_t value) const;

@@ -29,8 +29,10 @@ int writeAll(int descriptor, std::string_view bytes) {
 constexpr int kInterrupted = 130;
 
 // Only the thread that writes takes the signal, so it comes before a write, after it or within it.
+// NOLINTBEGIN(cppcoreguidelines-avoid-non-const-global-variables): a signal handler reaches nothing else
 volatile std::sig_atomic_t isWriting = 0;
 volatile std::sig_atomic_t isInterrupted = 0;
+// NOLINTEND(cppcoreguidelines-avoid-non-const-global-variables)
 
 void interrupted(int) {
   if (isWriting == 0) ::_exit(kInterrupted);

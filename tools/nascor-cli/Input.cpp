@@ -38,7 +38,7 @@ std::string_view withoutBlanks(std::string_view text) {
 
 }  // namespace
 
-InputStream::InputStream(Console& console, std::string path)
+InputStream::InputStream(Console& console, const std::string& path)
     : console_(console),
       descriptor_(path == "-" ? STDIN_FILENO : ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NOCTTY)),
       error_(descriptor_ < 0 ? std::generic_category().message(errno) : ""),

@@ -20,7 +20,7 @@ std::string nameOf(const std::string& path);
 class InputStream {
  public:
   /// The output of `console` is sent on before this waits for input: an answer never lies behind the question.
-  InputStream(Console& console, std::string path);
+  InputStream(Console& console, const std::string& path);
   ~InputStream();
   InputStream(const InputStream&) = delete;
   InputStream& operator=(const InputStream&) = delete;
