@@ -44,7 +44,7 @@ for layer in "${layers[@]}"; do
     places=("${folder_of[$layer]}")
     [[ -d "tests/$layer" ]] && places+=("tests/$layer")
     while IFS= read -r found; do
-      wrong "$found: the toolkit is named outside its layer"
+      wrong "$found: Qt is named outside its layer"
     done < <(grep -rnE '\bQt|\bQ[A-Z][a-z]+[A-Za-z]*\b' "${places[@]}" --include='*.h' --include='*.cpp')
   fi
 done

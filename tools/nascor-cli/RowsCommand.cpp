@@ -353,8 +353,8 @@ Command rowsCommand() {
           "Privacy: documents are named after patients. Without --identify no cell holds a reference ID, a\n"
           "note or (unless --file path is given) the name of a file. Standard error names files in any "
           "case,\n"
-          "for the person at the terminal: do not keep it with the rows. Notes may hold dates that somebody\n"
-          "typed: --relative-dates with --identify leaves them as they are.\n"
+          "for the person at the terminal: do not keep it with the rows. Notes may hold dates\n"
+          "in their text: --relative-dates with --identify leaves them as they are.\n"
           "Texts stand in CSV as they are. A spreadsheet runs cells that begin with '=': import names,\n"
           "reference IDs and notes as text.\n",
       .operands = kOperands,

@@ -261,7 +261,7 @@ void DocumentWindow::bindAssessment() {
     auto* label = findChild<QLabel*>(fromUtf8(text->name()));
     if (label) bindLabel(*label, *text);
   }
-  // Room for the longest, so that nothing moves while somebody types.
+  // Room for the longest, so that nothing moves while the user types.
   const auto room = [this](QLabel* label, const QString& longest) {
     label->setMinimumWidth(fontMetrics().horizontalAdvance(longest));
   };

@@ -114,7 +114,7 @@ QByteArray pngOfSheet(const LaidOutSheet& sheet, double scale) {
   const auto describe = [&](const char* keyword, const QString& text) {
     if (!text.isEmpty()) image.setText(QLatin1String(keyword), text);
   };
-  // Keywords of the PNG specification.
+  // Keywords that PNG defines.
   describe("Title", sheet.title());
   describe("Author", fromUtf8(sheet.facts().author));
   describe("Description", fromUtf8(sheet.facts().subject));
