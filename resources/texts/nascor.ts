@@ -1586,6 +1586,42 @@
         <source>Two independent sources have the same formula.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>BPD is measured from outer to outer edge. Held against the 1512 values of the printed tables: at most 0.073 mm off.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fits weights by the formula Hadlock 1 (HC/AC/FL) only. Held against the printed table: at most 0.49 g off.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The abstract has 12.7 % for one standard deviation; the printed percentiles have 13.27 %, which stands here. Held against the printed table: at most 2.2 g off.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Coefficients of the revision of 2023-03-13, published under CC BY. Curves of centiles, no distribution: below the 1st and above the 99th it says no more than that.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lengths measured as the publication has it; normal about the mean</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>BPD measured from outer to outer edge; normal about the mean</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Weight by the formula Hadlock 1 (HC/AC/FL); no other formula fits it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Weight normal about the mean, with a standard deviation of 13.27 % of it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No distribution: between the curves of eleven centiles linear in the value, beyond the 1st and the 99th unknown</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>Viewer</name>

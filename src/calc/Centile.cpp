@@ -18,4 +18,20 @@ double centileOfZ(double z) {
   return 50.0 * std::erfc(-z / std::numbers::sqrt2);
 }
 
+double zOfCentile(double centile) {
+  constexpr double kMiddle = 50.0;
+  constexpr double kBelowAll = -40.0;  // the share below it is no double above 0
+  constexpr int kHalvings = 64;
+  if (centile == kMiddle) return 0.0;
+  // The lower tail keeps its digits.
+  if (centile > kMiddle) return -zOfCentile(100.0 - centile);
+  double low = kBelowAll;
+  double high = 0.0;
+  for (int i = 0; i < kHalvings; ++i) {
+    const double middle = low + (high - low) / 2.0;
+    (centileOfZ(middle) < centile ? low : high) = middle;
+  }
+  return high;
+}
+
 }  // namespace nascor::calc

@@ -18,4 +18,8 @@ double zScore(double value, double mean, double sd);
 /// lower tail to twelve digits however small it is; 0 and 100 at the infinities, NaN for NaN.
 double centileOfZ(double z);
 
+/// The z below which `centile` percent of a normal distribution lie, for more than 0 and less than 100: the inverse of
+/// `centileOfZ`, exactly 0 for 50.
+double zOfCentile(double centile);
+
 }  // namespace nascor::calc

@@ -22,7 +22,12 @@ struct Publication {
 std::vector<Publication> growthStandardPublications();
 std::vector<Publication> weightFormulaPublications();
 std::vector<Publication> crlFormulaPublications();
+/// The growth standards are the first of the references.
+std::vector<Publication> referencePublications();
 /// @}
+
+/// The digital object identifier that the citation names, "10.1148/..."; empty where it names none.
+std::string_view doiOf(const Publication& publication);
 
 /// What holds for all weight formulas, in English.
 std::string_view weightBandRemark();

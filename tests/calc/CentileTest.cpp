@@ -83,5 +83,25 @@ TEST(Centile, reachesItsEndsAtTheInfinities) {
   EXPECT_TRUE(isExactly(centileOfZ(kNaN), kNaN));
 }
 
+// The inverse error function, in arithmetic of 60 digits.
+constexpr CentileCase kInverse[] = {
+    {-7.6506280929352688, 1e-12},  {-4.2648907939228246, 0.001}, {-3.011453758499784, 0.13},
+    {-1.8807936081512509, 3.0},    {-1.2815515655446005, 10.0},  {-0.67448975019608174, 25.0},
+    {-0.012533469508069263, 49.5}, {0.2533471031357998, 60.0},   {0.67448975019608174, 75.0},
+    {1.2815515655446005, 90.0},    {1.8807936081512509, 97.0},   {3.0902323061678135, 99.9},
+};
+
+TEST(ZOfCentile, isTheInverseOfTheCentile) {
+  for (const CentileCase& row : kInverse) EXPECT_NEAR(zOfCentile(row.centile), row.z, 1e-13) << row.centile;
+  EXPECT_NEAR(zOfCentile(99.999999), 5.6120012441747887, 1e-7) << "so near to 100 a double has few digits";
+  EXPECT_TRUE(isExactly(zOfCentile(50.0), 0.0));
+  EXPECT_TRUE(std::isfinite(zOfCentile(5e-324)));
+}
+
+TEST(ZOfCentile, isAsFarAboveTheMeanAsTheOppositeIsBelow) {
+  for (const double centile : {0.5, 3.0, 10.0, 25.0, 49.0})
+    EXPECT_TRUE(isExactly(zOfCentile(100.0 - centile), -zOfCentile(centile))) << centile;
+}
+
 }  // namespace
 }  // namespace nascor::calc

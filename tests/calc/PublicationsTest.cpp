@@ -8,6 +8,7 @@
 
 #include "calc/Dating.h"
 #include "calc/FetalWeight.h"
+#include "calc/References.h"
 #include "calc/Standards.h"
 
 namespace nascor::calc {
@@ -17,7 +18,7 @@ using testing::HasSubstr;
 using testing::StartsWith;
 
 std::vector<Publication> all() {
-  std::vector<Publication> publications = growthStandardPublications();
+  std::vector<Publication> publications = referencePublications();
   for (const auto& family : {weightFormulaPublications(), crlFormulaPublications()})
     publications.insert(publications.end(), family.begin(), family.end());
   return publications;
@@ -27,6 +28,10 @@ TEST(Publications, standInTheOrderOfTheTables) {
   const auto standards = growthStandardPublications();
   ASSERT_EQ(standards.size(), 4U);
   for (std::size_t i = 0; i < 4; ++i) EXPECT_EQ(standards[i].label, growthStandards()[i].label);
+  const auto populations = referencePublications();
+  ASSERT_EQ(populations.size(), references().size());
+  for (std::size_t i = 0; i < populations.size(); ++i) EXPECT_EQ(populations[i].label, references()[i].label);
+  for (std::size_t i = 0; i < 4; ++i) EXPECT_EQ(populations[i].citation, standards[i].citation);
   const auto weights = weightFormulaPublications();
   ASSERT_EQ(weights.size(), 8U);
   for (std::size_t i = 0; i < 8; ++i) EXPECT_EQ(weights[i].label, weightFormulas()[i].longLabel);
@@ -42,6 +47,10 @@ TEST(Publications, areThoseThatTheLabelsName) {
     const std::string name = label.substr(0, label.find(' '));
     if (name == "CFEF") {
       EXPECT_THAT(citation, HasSubstr("(CFEF)"));
+    } else if (name == "INTERGROWTH-21st") {
+      EXPECT_THAT(citation, HasSubstr(name));
+    } else if (name == "WHO") {
+      EXPECT_THAT(citation, HasSubstr("The World Health Organization fetal growth charts"));
     } else {
       EXPECT_THAT(citation, StartsWith(name + " "));
     }
@@ -53,6 +62,15 @@ TEST(Publications, areThoseThatTheLabelsName) {
       EXPECT_THAT(citation, HasSubstr(" " + wanted + ";")) << label;
     }
   }
+}
+
+TEST(Publications, nameTheirIdentifierWithinTheCitation) {
+  const auto publications = referencePublications();
+  EXPECT_EQ(doiOf(publications[0]), "10.1111/j.1479-828X.2000.tb03338.x") << "at the end";
+  EXPECT_EQ(doiOf(publications[1]), "10.1148/radiology.152.2.6739822") << "before another number";
+  EXPECT_EQ(doiOf(publications[2]), "");
+  EXPECT_EQ(doiOf(publications[4]), "10.1016/S0140-6736(14)61490-2");
+  EXPECT_EQ(doiOf(publications[7]), "10.1371/journal.pmed.1002220");
 }
 
 TEST(Publications, saySoWhereTheyAreToBeConfirmed) {
