@@ -23,7 +23,7 @@ std::size_t characterLength(std::string_view text) {
 JsonText& JsonText::key(std::string_view name) {
   startElement();
   appendQuoted(name);
-  out_ += indent_ == 0 ? ":" : ": ";
+  out_ += ':';
   afterKey_ = true;
   return *this;
 }
@@ -80,9 +80,7 @@ JsonText& JsonText::open(char bracket) {
 }
 
 JsonText& JsonText::close(char bracket) {
-  const bool hadElements = hasElements_.back();
   hasElements_.pop_back();
-  if (hadElements) startLine();
   out_ += bracket;
   return *this;
 }
@@ -93,14 +91,7 @@ void JsonText::startElement() {
   } else if (!hasElements_.empty()) {
     if (hasElements_.back()) out_ += ',';
     hasElements_.back() = true;
-    startLine();
   }
-}
-
-void JsonText::startLine() {
-  if (indent_ == 0) return;
-  out_ += '\n';
-  out_.append(indent_ * hasElements_.size(), ' ');
 }
 
 void JsonText::appendQuoted(std::string_view value) {

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -8,7 +7,7 @@
 
 namespace nascor::foundation {
 
-/// Writes JSON, value after value, at the end of a string. Nothing is kept but the open brackets, so that a
+/// Writes JSON without blanks and line ends, value after value, at the end of a string. Nothing is kept but the open brackets, so that a
 /// text as long as wanted can be taken away piece by piece.
 ///
 ///     JsonText json(out);
@@ -19,9 +18,7 @@ namespace nascor::foundation {
 /// write.
 class JsonText {
  public:
-  /// With an `indent` of 0 everything stands on one line without blanks; otherwise each element stands on a
-  /// line of its own, moved that many blanks to the right for each open bracket.
-  explicit JsonText(std::string& out, std::size_t indent = 0) : out_(out), indent_(indent) {}
+  explicit JsonText(std::string& out) : out_(out) {}
 
   JsonText& beginObject() { return open('{'); }
   JsonText& endObject() { return close('}'); }
@@ -45,11 +42,9 @@ class JsonText {
   JsonText& open(char bracket);
   JsonText& close(char bracket);
   void startElement();
-  void startLine();
   void appendQuoted(std::string_view value);
 
   std::string& out_;
-  std::size_t indent_;
   std::vector<bool> hasElements_;  // of each open bracket
   bool afterKey_ = false;
 };

@@ -2,11 +2,13 @@
 
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <unicase.h>
 
 #include <algorithm>
 #include <cmath>
-
-#include "drive/UpperCase.h"
+#include <cstdint>
+#include <cstdlib>
+#include <memory>
 
 namespace nascor::drive {
 
@@ -19,7 +21,15 @@ const std::vector<LocaleRow>& locales() {
   return rows;
 }
 
-std::string StoryLocalizer::upperCased(std::string_view text) const { return drive::upperCased(text); }
+std::string StoryLocalizer::upperCased(std::string_view text) const {
+  const auto* bytes = reinterpret_cast<const std::uint8_t*>(text.data());
+  std::size_t length = 0;
+  const std::unique_ptr<std::uint8_t, decltype(&std::free)> capitals(
+      u8_toupper(bytes, text.size(), "", nullptr, nullptr, &length), &std::free);
+  // What is not UTF-8 has no capitals.
+  if (capitals == nullptr) return std::string(text);
+  return {reinterpret_cast<const char*>(capitals.get()), length};
+}
 
 bool StoryLocalizer::choose(std::string_view locale) {
   const auto row = std::ranges::find(locales(), locale, &LocaleRow::name);

@@ -9,18 +9,18 @@
 namespace nascor::foundation {
 namespace {
 
-/// What `write` gives in compact form.
+/// What `write` gives.
 template <class Write>
-std::string compact(Write write) {
+std::string written(Write write) {
   std::string out;
   JsonText json(out);
   write(json);
   return out;
 }
 
-TEST(JsonInCompactForm, hasNoBlanks) {
+TEST(Json, hasNoBlanks) {
   EXPECT_EQ(
-      compact([](JsonText& json) {
+      written([](JsonText& json) {
         json.beginObject();
         json.key("id").text("AB-123").key("weeks").number(20.5).key("fetuses").integer(2);
         json.key("open").boolean(false).key("saved").boolean(true).key("edd").null();
@@ -30,7 +30,7 @@ TEST(JsonInCompactForm, hasNoBlanks) {
       R"({"id":"AB-123","weeks":20.5,"fetuses":2,"open":false,"saved":true,"edd":null,"rows":[1,[],{}]})");
 }
 
-TEST(JsonInCompactForm, isAppendedToWhatIsThere) {
+TEST(Json, isAppendedToWhatIsThere) {
   std::string out = "# ";
   JsonText json(out);
   json.beginArray().null().endArray();
@@ -39,41 +39,8 @@ TEST(JsonInCompactForm, isAppendedToWhatIsThere) {
   EXPECT_EQ(out, "# [null]\n{}");
 }
 
-TEST(JsonInIndentedForm, hasALineForEachElement) {
-  std::string out;
-  JsonText(out, 2)
-      .beginObject()
-      .key("a")
-      .integer(1)
-      .key("b")
-      .beginArray()
-      .text("x")
-      .beginObject()
-      .endObject()
-      .beginArray()
-      .endArray()
-      .endArray()
-      .key("c")
-      .beginObject()
-      .key("d")
-      .null()
-      .endObject()
-      .endObject();
-  EXPECT_EQ(out, R"({
-  "a": 1,
-  "b": [
-    "x",
-    {},
-    []
-  ],
-  "c": {
-    "d": null
-  }
-})");
-}
-
-TEST(JsonInCompactForm, writesNumbersAsTheyAreWanted) {
-  EXPECT_EQ(compact([](JsonText& json) {
+TEST(Json, writesNumbersAsTheyAreWanted) {
+  EXPECT_EQ(written([](JsonText& json) {
               json.beginArray().fixed(38.0, 1).fixed(25.25, 1).fixed(-1.2345, 3).fixed(0.0 / 0.0, 1);
               json.unsignedInteger(18446744073709551615U).endArray();
             }),
@@ -87,7 +54,7 @@ struct NumberCase {
 class AJsonNumber : public testing::TestWithParam<NumberCase> {};
 
 TEST_P(AJsonNumber, hasTheShortestDigitsThatReadBack) {
-  EXPECT_EQ(compact([](JsonText& json) { json.number(GetParam().value); }), GetParam().json);
+  EXPECT_EQ(written([](JsonText& json) { json.number(GetParam().value); }), GetParam().json);
 }
 
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
@@ -101,7 +68,7 @@ INSTANTIATE_TEST_SUITE_P(ofEveryKind, AJsonNumber,
                                          NumberCase{std::numeric_limits<double>::quiet_NaN(), "\"nan\""}));
 
 TEST(AJsonNumber, mayBeAnyInteger) {
-  EXPECT_EQ(compact([](JsonText& json) {
+  EXPECT_EQ(written([](JsonText& json) {
               json.beginArray();
               json.integer(std::numeric_limits<std::int64_t>::min());
               json.integer(std::numeric_limits<std::int64_t>::max());
@@ -118,8 +85,8 @@ struct TextCase {
 class AJsonText : public testing::TestWithParam<TextCase> {};
 
 TEST_P(AJsonText, isEscapedWhereItMust) {
-  EXPECT_EQ(compact([](JsonText& json) { json.text(GetParam().text); }), GetParam().json);
-  EXPECT_EQ(compact([](JsonText& json) { json.beginObject().key(GetParam().text).null().endObject(); }),
+  EXPECT_EQ(written([](JsonText& json) { json.text(GetParam().text); }), GetParam().json);
+  EXPECT_EQ(written([](JsonText& json) { json.beginObject().key(GetParam().text).null().endObject(); }),
             std::string("{").append(GetParam().json).append(":null}"));
 }
 

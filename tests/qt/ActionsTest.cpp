@@ -336,7 +336,7 @@ std::vector<Row> rows() {
        {},
        "F1"},
       {"referencesAction", "none", "referencesDialog", dialog},
-      {"aboutAction", "nothing", "Nascor 0.1.0",
+      {"aboutAction", "nothing", "Nascor " NASCOR_VERSION,
        [](Actions& window) { return window.asked.empty() ? "nothing" : window.asked[0].message; },
        answering("OK")},
   };

@@ -492,7 +492,7 @@ TEST_F(TheDocumentWindow, saysInItsAboutBoxThatItIsNoMedicalDevice) {
   ASSERT_EQ(asked.size(), 1U);
   const std::string text = asked[0].message + asked[0].information;
   EXPECT_THAT(text, testing::HasSubstr("Not a medical device. Not validated for clinical use."));
-  EXPECT_THAT(text, testing::HasSubstr("0.1.0"));
+  EXPECT_THAT(text, testing::HasSubstr(NASCOR_VERSION));
   EXPECT_THAT(text, testing::HasSubstr("LGPL"));
   EXPECT_THAT(text, testing::HasSubstr("D-Bus"));
 }

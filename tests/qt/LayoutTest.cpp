@@ -1,6 +1,7 @@
 // A walk over everything that is shown: in light and dark, with texts as they are and with longer ones.
 #include <QDialog>
 #include <QDir>
+#include <QFontInfo>
 #include <QMenu>
 #include <QMenuBar>
 #include <QSpinBox>
@@ -120,8 +121,9 @@ class EveryWidget : public WindowTest, public testing::WithParamInterface<Look> 
     }
   }
   void keep(QWidget& shown, const char* what) {
-    QDir().mkpath(QStringLiteral(NASCOR_ARTEFACTS));
-    const QString path = QStringLiteral(NASCOR_ARTEFACTS "/%1-%2-%3x%4@%5.png")
+    const QString pictures = QStringLiteral(NASCOR_ARTEFACTS "/") + QFontInfo(shown.font()).family();
+    QDir().mkpath(pictures);
+    const QString path = (pictures + QStringLiteral("/%1-%2-%3x%4@%5.png"))
                              .arg(QLatin1String(what), QLatin1String(GetParam().name))
                              .arg(shown.width())
                              .arg(shown.height())
@@ -244,6 +246,12 @@ TEST_P(EveryWidget, ofTheDatingDialogsHasItsRoomAndCanBeRead) {
     }
     dialog->close();
   }
+}
+
+TEST(TheDefaultFont, isTheOneThatTheTestsBring) {
+  const QByteArray family = qgetenv("NASCOR_TEST_FONT");
+  EXPECT_EQ(QFontInfo(QApplication::font()).family().toStdString(),
+            family.isEmpty() ? "DejaVu Sans" : family.toStdString());
 }
 
 INSTANTIATE_TEST_SUITE_P(looks, EveryWidget,

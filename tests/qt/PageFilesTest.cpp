@@ -122,7 +122,7 @@ TEST_F(WritingPages, saysInEveryFileWhoseItIsWhoMadeItAndWhatItIsAbout) {
   wanted.formats = {PageFormat::pdf, PageFormat::png, PageFormat::svg};
   write({file("a.nascor", documentBytes(record))});
   const std::string title = "\u00c5 <B> & (C) (G2)";
-  const std::string author = "Nascor 0.1.0";
+  const std::string author = "Nascor " NASCOR_VERSION;
   const std::string subject = "Obstetric ultrasound biometry";
 
   const QString pdf = out("a.pdf");

@@ -261,9 +261,10 @@ void DocumentWindow::bindAssessment() {
     auto* label = findChild<QLabel*>(fromUtf8(text->name()));
     if (label) bindLabel(*label, *text);
   }
-  // Room for the longest, so that nothing moves while the user types.
+  // Room for the longest, so that nothing moves while the user types. A label rounds its width up by itself.
   const auto room = [this](QLabel* label, const QString& longest) {
-    label->setMinimumWidth(fontMetrics().horizontalAdvance(longest));
+    const QLabel widest(longest, this);
+    label->setMinimumWidth(widest.sizeHint().width());
   };
   for (QLabel* label : {ui_->bpdZ, ui_->hcZ, ui_->acZ, ui_->flZ}) room(label, QStringLiteral("+99.99"));
   for (QLabel* label : {ui_->bpdCentile, ui_->hcCentile, ui_->acCentile, ui_->flCentile})
