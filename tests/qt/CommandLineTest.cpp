@@ -69,7 +69,7 @@ TEST_F(TheApplication, saysThatThereIsNoDisplay) {
   const QString document = file("a.nascor", documentBytes(singleton()));
   for (const QStringList& arguments : {QStringList{}, {document}, {"-style", "Fusion"}}) {
     const Answer answer = nascor(arguments);
-    EXPECT_EQ(answer.status, 1);
+    EXPECT_EQ(answer.status, 3);
     EXPECT_THAT(answer.error, testing::MatchesRegex("nascor: no window can be shown: [^\n]*display[^\n]*\n"));
   }
 }

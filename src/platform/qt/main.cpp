@@ -31,7 +31,7 @@ namespace {
 constexpr const char* kPlatform = "QT_QPA_PLATFORM";
 constexpr std::chrono::seconds kPatienceOfAService{10};
 
-enum ExitStatus { kAllWell = 0, kFailed = 1, kWrongUsage = 2 };
+enum ExitStatus { kAllWell = 0, kFailed = 1, kWrongUsage = 2, kNoDisplay = 3 };
 
 void say(std::FILE* stream, const QString& line) { std::fprintf(stream, "%s\n", qUtf8Printable(line)); }
 
@@ -90,22 +90,21 @@ bool areOurOwn(std::span<char*> arguments) {
   return CommandLine().parser.parse(texts);
 }
 
-/// What the toolkit says while it begins.
+/// What Qt says while it begins.
 QStringList& beginningMessages() {
   static QStringList messages;
   return messages;
 }
 
-/// The toolkit ends a program without a display by many words and an abort. Whoever starts this one gets a sentence and a
-/// status instead.
+/// Without a display Qt prints several lines and aborts. Print one line and exit with a status of its own.
 void takeBeginningMessage(QtMsgType type, const QMessageLogContext&, const QString& message) {
-  // Where the system gives no folder for sockets the toolkit finds another, and nobody has to know.
+  // Qt finds another folder for sockets where the system gives none.
   if (message.startsWith(QLatin1String("QStandardPaths: XDG_RUNTIME_DIR not set"))) return;
   beginningMessages() << message.trimmed();
   if (type != QtFatalMsg) return;
   say(stderr, QCoreApplication::translate("main", "nascor: no window can be shown: %1")
                   .arg(beginningMessages().constFirst()));
-  std::_Exit(kFailed);
+  std::_Exit(kNoDisplay);
 }
 
 /// Asks the toolkit, which knows its own options and takes them out, but only once it has begun. It begins without a
