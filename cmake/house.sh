@@ -18,7 +18,7 @@ need_packages() {
   local wanted missing as_root=() log
   mapfile -t wanted < <(packages_of "$@")
   if ! command -v dpkg-query >/dev/null || ! command -v apt-get >/dev/null; then
-    # Not a Debian system. Whoever has the tools may go on; CMake names what else is missing.
+    # Not a Debian system. With the tools at hand go on; CMake names what else is missing.
     command -v cmake >/dev/null && command -v ninja >/dev/null && return 0
     fail "This system has no apt-get, so please install these packages, or what they are called here: ${wanted[*]}"
   fi
@@ -118,8 +118,8 @@ jobs_here() {
   say "$cpus"
 }
 
-# own_folder NAME: makes NAME in the checkout and prints its path. What root makes in somebody else's checkout is
-# theirs, or root's build would lock them out. Where the checkout cannot be written, it lies in the cache.
+# own_folder NAME: makes NAME in the checkout and prints its path. What root makes in another user's checkout is
+# that user's, or root's build would lock them out. Where the checkout cannot be written, it lies in the cache.
 own_folder() {
   local folder="$root/$1"
   if mkdir -p "$folder" 2>/dev/null && [[ -w "$folder" ]]; then

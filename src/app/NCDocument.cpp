@@ -52,7 +52,7 @@ NCDocument::NCDocument(const framework::DocumentEnvironment& environment)
                  &adjustEDDField_,
                  &adjustDeliverOnField_,
                  &adjustDeliverAtField_};
-  // The usual cycle; whoever knows better types over it.
+  // The usual cycle, to be typed over.
   lmpWindowCycleField_.setIntegerValue(28);
   lmpWindowLutealField_.setIntegerValue(14);
 

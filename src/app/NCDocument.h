@@ -34,7 +34,7 @@ class NCDocument final : public framework::CorvelDocument,
                          public charts::ChartDocument,
                          public foundation::NotificationSender {
  public:
-  /// Whoever sent an action: the document itself, or anybody else (null will do).
+  /// The sender of an action: the document itself, or another object (null will do).
   using Sender = const foundation::NotificationSender*;
 
   /// A document without a patient; `windowControllerDidLoadNib` gives it a blank one unless a file was loaded.
@@ -309,7 +309,7 @@ class NCDocument final : public framework::CorvelDocument,
   bool mayModify(const std::string& message, const std::string& information);
   const model::NCRecord* examination(std::int64_t exam) const;
   model::NCRecord* currentExamination();
-  /// A file may lack the examination, or the record of a fetus: nobody types into what holds nothing.
+  /// Makes fields without a record read-only: a file may lack the examination, or the record of a fetus.
   void showWhatTakesTyping();
   model::MeasurementsRecord* currentMeasurements();
   std::string shortDateText(const std::optional<foundation::Date>& date) const;

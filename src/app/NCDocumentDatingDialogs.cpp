@@ -169,7 +169,7 @@ void NCDocument::checkOverwriteEDDAlertDidEnd(framework::AlertReturn returnCode,
 }
 
 void NCDocument::cancelDialog(Panel& window) {
-  // A field that refuses its text must not go on refusing where nobody sees it.
+  // Drops refused texts: a field that is not shown must not hold back every action.
   const std::array<std::pair<const Panel*, const TextField*>, 5> fields{
       {{&crlWindow_, &crlWindowDate_},
        {&crlWindow_, &crlWindowCRL_},

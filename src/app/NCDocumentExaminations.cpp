@@ -111,7 +111,7 @@ void NCDocument::deleteFetusAlertDidEnd(framework::AlertReturn returnCode) {
   if (returnCode != framework::AlertReturn::defaultButton || !patientRecord_) return;
   updateChangeCount(ChangeType::changeDone);
   patientRecord_->deleteFetus(currentFetus_);
-  // The fields go on showing the removed fetus, and no pop-up item is chosen anew. What they show belongs to nobody.
+  // The fields go on showing the removed fetus, and no pop-up item is chosen anew. Mark their numbers as no fetus's.
   for (const calc::Measurement measurement : calc::kMeasurements) {
     fieldFor(measurement).forgetEdits();
     fieldFor(measurement).setStale();

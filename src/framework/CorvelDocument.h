@@ -90,7 +90,7 @@ class CorvelDocument : public ZuDocument, public virtual GraphDocument, protecte
 
   // Selector: doExport:
   /// Writes the page on show into a file of the format that the user prefers, under a name that is not taken. Without a
-  /// sender nobody is asked or told anything: it goes to the folder that was chosen once, else to the document's, else to
+  /// sender it asks and says nothing: the file goes to the folder that was chosen once, else to the document's, else to
   /// the user's documents folder. With one, the user is asked for a folder where none was chosen, and told of a failure.
   /// Nothing when it was written or the user cancelled, else why not.
   std::optional<std::string> doExport(const foundation::NotificationSender* sender);

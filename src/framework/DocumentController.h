@@ -34,7 +34,7 @@ class DocumentController {
   /// Opens the files that the user chooses and says which of them cannot be read.
   void openDocuments();
 
-  /// Saves to the document's file, or where the user says when it has none. Asks first when somebody else has changed that
+  /// Saves to the document's file, or where the user says when it has none. Asks first when another program has changed that
   /// file since the document read or wrote it, and tells when the file cannot hold all of the document. False when a field
   /// refuses its text, the user cancels, the document was replaced by one that the user looked up, or the file cannot be
   /// written: it is open in another window, or the system refuses (which the user is told).
@@ -48,7 +48,7 @@ class DocumentController {
   bool closeAllDocuments();
   /// The same without closing any: the session is about to end.
   bool saveEditedDocuments();
-  /// Closes `document` when it is a new one in which nothing was done yet; nobody is asked. False when it stays.
+  /// Closes `document` when it is a new one in which nothing was done yet, without a question. False when it stays.
   bool closeUntouchedDocument(ZuDocument& document);
   /// Puts the document at `path` into the place of `document`, which is closed without a question. False, and the user is
   /// told, when the file cannot be read.
@@ -61,7 +61,7 @@ class DocumentController {
   std::vector<ZuDocument*> documents() const;
 
   /// Ends the life of the documents that were closed. They wait for this call, because a document may be closed in the
-  /// middle of an action of its own; whoever runs the actions sends it between two of them.
+  /// middle of an action of its own; the caller of actions sends it between two of them.
   void releaseClosedDocuments() { closed_.clear(); }
 
   /// Sent when a document has got its place among the open ones, before its window is loaded: the window layer makes its
@@ -76,7 +76,7 @@ class DocumentController {
   void remove(ZuDocument& document);
   void tellUnopened(const foundation::FileError& error);
   bool write(ZuDocument& document, const std::string& path);
-  /// Whether the user wants to lose what somebody else has written into the file.
+  /// Asks whether to replace what another program has written into the file.
   bool userReplacesChanges(const std::string& path);
   /// Whether nothing of the document would be lost that the user wants to keep.
   bool mayGo(ZuDocument& document);

@@ -43,7 +43,7 @@ class Page {
 
   // Selector: click:count:
   /// A press of the mouse button at `point` of the page as it was last laid out and painted. The frontmost view that takes it
-  /// acts; what no view takes is nobody's. Whether some view took it.
+  /// acts. False when no view takes it.
   bool click(Point point, int count);
   /// What a tool tip at `point` says; empty for none.
   std::string toolTipAt(Point point) const;

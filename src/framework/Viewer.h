@@ -8,7 +8,7 @@ namespace nascor::framework {
 class Viewer {
  public:
   virtual ~Viewer() = default;
-  /// False when nobody can show it.
+  /// False when no program can show it.
   virtual bool open(const std::string& url) = 0;
 };
 

@@ -80,7 +80,7 @@ class ZuDocument {
   // Selector: updateChangeCount:
   void updateChangeCount(ChangeType change);
   bool isDocumentEdited() const { return changeCount_ != 0; }
-  /// Whether the document holds no patient yet: new, and nobody identified.
+  /// Whether the document holds no patient yet: it is new, and no reference ID was given.
   bool isBlank() const { return docIsBlank_; }
   /// Whether the document is new and nothing was done in it.
   bool isUntouched() const { return docIsBlank_ && !isDocumentEdited() && !filePath_; }

@@ -42,7 +42,7 @@ void checkFetus(std::string_view fetus) {
   if (fetus != "all" && !isNumber) throw UsageError("--fetus: expected all or a number from 1 to 5");
 }
 
-/// The application paints. It lies beside this program, which starts in a hundredth of the time without a toolkit.
+/// The application, which paints. It lies beside this program, which starts in a hundredth of the time without loading windows.
 std::string painter() {
   std::error_code error;
   const std::filesystem::path self = std::filesystem::read_symlink("/proc/self/exe", error);

@@ -15,7 +15,7 @@ namespace nascor::posix {
 /// The files of the operating system.
 class PosixFileStore final : public foundation::FileStore {
  public:
-  /// Whether a pipe is read to its end like a file. Who waits for its writer waits for as long as nobody writes.
+  /// Whether a pipe is read to its end like a file, however long its writer takes.
   enum class Pipes { areRefused, areRead };
 
   /// `documentsFolder` is where the user keeps documents; empty for the folder "Documents" of the user's home. Where

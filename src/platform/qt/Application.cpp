@@ -46,10 +46,10 @@ bool installTranslation(const QStringList& languages, const QString& folder) {
       delete texts;
       continue;
     }
-    auto* toolkits = new QTranslator(qApp);
-    if (toolkits->load(locale, QStringLiteral("qtbase"), QStringLiteral("_"),
-                       QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
-      QCoreApplication::installTranslator(toolkits);
+    auto* qtsOwn = new QTranslator(qApp);
+    if (qtsOwn->load(locale, QStringLiteral("qtbase"), QStringLiteral("_"),
+                     QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+      QCoreApplication::installTranslator(qtsOwn);
     }
     return QCoreApplication::installTranslator(texts);
   }

@@ -12,12 +12,12 @@ QString programVersion();
 /// What stands wherever the program introduces itself.
 QString disclaimer();
 
-/// Why no text could be painted, in one sentence; nothing where there is a font. A PDF without fonts would have no text,
-/// and nobody would say so.
+/// Why no text could be painted, in one sentence; nothing where there is a font. Without fonts a
+/// PDF is written without text and without an error.
 QString missingFontSentence();
 
-/// Installs the first table of texts in `folder` that there is for one of `languages` ("de-AT", the preferred first), and the
-/// toolkit's own of that language. English needs none, since the keys are its texts: behind it no other language is tried.
+/// Installs the first table of texts in `folder` that there is for one of `languages` ("de-AT", the preferred first), and
+/// Qt's own of that language. English needs none, since the keys are its texts: behind it no other language is tried.
 /// Whether one was installed.
 bool installTranslation(const QStringList& languages, const QString& folder);
 

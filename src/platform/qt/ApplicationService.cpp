@@ -13,7 +13,7 @@ namespace {
 
 constexpr int kPatience = 10'000;  // milliseconds that the one that runs has for its answer
 
-/// Whether somebody has started a bus. Asking the library would start one, which nobody else would be on.
+/// Whether the session has a bus. Asking the library would start one for this process alone.
 bool hasSessionBus() {
   if (qEnvironmentVariableIsSet("DBUS_SESSION_BUS_ADDRESS")) return true;
   const QString folder = qEnvironmentVariable("XDG_RUNTIME_DIR");
@@ -26,7 +26,7 @@ ApplicationService::Start ApplicationService::start(const QStringList& paths) {
   if (!hasSessionBus()) return alone("there is no session bus");
   QDBusConnection bus = QDBusConnection::sessionBus();
   if (!bus.isConnected()) return alone("the session bus does not answer");
-  // The object first: whoever sees the name may call at once.
+  // Registers the object before the name: a client may call as soon as it sees the name.
   bus.registerVirtualObject(QLatin1String(BusObjects::kPath), this, QDBusConnection::SubPath);
   const auto registered =
       bus.interface()->registerService(QLatin1String(kName), QDBusConnectionInterface::DontQueueService,

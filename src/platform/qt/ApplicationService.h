@@ -17,9 +17,9 @@ class ApplicationService final : public QDBusVirtualObject {
   static constexpr const char* kName = "org.nascor.Nascor";
 
   enum class Start {
-    first,       ///< nobody else runs; messages are answered by the objects from now on
+    first,       ///< no other one runs; messages are answered by the objects from now on
     handedOver,  ///< the one that runs has taken the files
-    alone        ///< there is no bus, or nobody answers on it; the log says so
+    alone        ///< there is no bus, or it does not answer; the log says so
   };
 
   /// Both outlive the service.
@@ -28,7 +28,7 @@ class ApplicationService final : public QDBusVirtualObject {
   /// Looks for an application that runs, and hands `paths` over to it (nothing: a new document).
   Start start(const QStringList& paths);
 
-  /// Somebody asks the user. Whoever called and waits for what goes on after that is told so: an answer may be long in coming.
+  /// A question stands on the screen. Answers the callers that wait for what follows it, since the user may take long.
   void questionIsAsked();
 
   /// Sent after each message, whatever it asked; may be empty.

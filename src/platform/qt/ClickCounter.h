@@ -6,7 +6,7 @@
 namespace nascor::qt {
 
 /// Counts the presses of a mouse button as a person means them: each that follows the one before it soon and in the same
-/// place counts one more. The toolkit itself tells a third press from a first one in nothing.
+/// place counts one more. Qt itself reports a third press as a first one.
 class ClickCounter {
  public:
   /// The place of `press` in its row: 1 for a press by itself, 2 for the second of a double click, and so on. The places are

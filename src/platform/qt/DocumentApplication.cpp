@@ -101,7 +101,7 @@ void DocumentApplication::openNow(const QStringList& paths) {
   std::string details;
   for (const QString& path : paths) {
     if (path.contains(QChar::ReplacementCharacter) && !QFile::exists(path)) {
-      // The toolkit keeps no file name that is not written in the system's encoding.
+      // Qt cannot hold a file name that is not in the system's encoding.
       sentences << QCoreApplication::translate(
                        "FilePanels",
                        "%1: The file's name is not UTF-8. Please rename the file and open it again.")

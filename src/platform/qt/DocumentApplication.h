@@ -48,7 +48,7 @@ class DocumentApplication {
   bool quit();
   /// The session is about to end: asks of each edited document whether to save it, and closes none, since another program
   /// may yet stop the end. `mayAsk` asks the session whether the user may be asked, and is sent only where something was
-  /// edited; what nobody may be asked about stays as it is. Sends `cancel` when the user stops the end of the session, or a
+  /// edited; where it may not, the documents stay as they are. Sends `cancel` when the user stops the end of the session, or a
   /// question is open already.
   void endSession(const std::function<bool()>& mayAsk, const std::function<void()>& cancel);
   /// The session wants the program gone: everything was asked when its end was announced; otherwise like `quit`.

@@ -776,7 +776,7 @@ void DocumentWindow::dropEvent(QDropEvent* event) {
   const Dropped all = dropped(event->mimeData());
   if (all.paths.isEmpty() && all.links.isEmpty()) return;
   event->acceptProposedAction();
-  // Whoever dragged the files waits for the drop to end; a question must not hold it up.
+  // Opens the files after the drop has ended: the other program waits for it, and a question would hold it up.
   QMetaObject::invokeMethod(
       this,
       [this, all] {

@@ -55,12 +55,12 @@ QSize FieldEdit::minimumSizeHint() const {
 }
 
 void FieldEdit::focusOutEvent(QFocusEvent* event) {
-  // Left for the menu bar, the toolkit's field forgets what is selected, and so what the Edit menu is to cut or copy. For a
+  // Left for the menu bar, Qt's field forgets what is selected, and so what the Edit menu is to cut or copy. For a
   // menu that pops up by itself it does not.
   QFocusEvent forMenu(QEvent::FocusOut, Qt::PopupFocusReason);
   QLineEdit::focusOutEvent(event->reason() == Qt::MenuBarFocusReason ? &forMenu : event);
   switch (event->reason()) {
-    // The focus comes back by itself: whoever looks at another window has not left the field.
+    // The focus comes back by itself: a look at another window does not leave the field.
     case Qt::PopupFocusReason:
     case Qt::ActiveWindowFocusReason:
     case Qt::MenuBarFocusReason: return;

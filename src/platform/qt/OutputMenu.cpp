@@ -129,8 +129,8 @@ void OutputMenu::printPreview(NCDocument& document) {
   connect(&dialog, &QPrintPreviewDialog::paintRequested, this, [this, &document](QPrinter* preview) {
     environment_.printer.paintInto(preview, [&] { document.printDocumentWithSettings({}, false, {}); });
   });
-  constexpr const char* kPreviewTable = "QPrintPreviewDialog";  // the toolkit's own
-  // The dialog's own printing writes into the file that the user names, and tells nobody of a full disk.
+  constexpr const char* kPreviewTable = "QPrintPreviewDialog";  // Qt's own
+  // The dialog's own printing writes into the file that the user names, and reports no full disk.
   for (QAction* item : dialog.findChildren<QAction*>()) {
     if (item->text() != QCoreApplication::translate(kPreviewTable, "Print")) continue;
     item->disconnect(&dialog);

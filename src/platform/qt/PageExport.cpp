@@ -28,7 +28,7 @@ namespace {
 
 constexpr std::int64_t kLastPage = -1;
 
-/// There is nobody to ask.
+/// Answers every question by its default: an export has no user to ask.
 class NoAlerts final : public framework::Alerts {
  public:
   framework::AlertReturn runModal(const framework::Alert&) override {

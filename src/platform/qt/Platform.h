@@ -16,7 +16,7 @@ namespace nascor::qt {
 /// The application's answers to what documents ask of the platform. Outlives all documents.
 class Platform {
  public:
-  /// A window reads no pipe: it would stand still until somebody writes into it.
+  /// A window reads no pipe: it would stand still until the pipe is written.
   explicit Platform(const QLocale& locale,
                     posix::PosixFileStore::Pipes pipes = posix::PosixFileStore::Pipes::areRefused);
   Platform(const Platform&) = delete;

@@ -23,7 +23,7 @@ class QtAlerts final : public framework::Alerts {
   void tellDetails(const std::string& message, const std::string& information,
                    const std::string& details) override;
 
-  /// The window in front; set by whoever makes windows. May return null.
+  /// The window in front; set by the maker of windows. May return null.
   std::function<QWidget*()> frontWindow;
   /// The window of a panel; set likewise. May return null.
   std::function<QWidget*(const framework::Panel&)> windowOfPanel;

@@ -17,7 +17,7 @@ using framework::Point;
 
 namespace {
 
-QColor toolkitColor(const framework::Color& color) {
+QColor qtColor(const framework::Color& color) {
   const framework::Rgba value = color.value();
   const auto byte = [](double part) { return static_cast<int>(std::lround(part * 255.0)); };
   return QColor(byte(value.red), byte(value.green), byte(value.blue), byte(value.alpha));
@@ -47,7 +47,7 @@ QtCanvas::QtCanvas(QPainter& painter, QSizeF size, bool isFlipped, TextLayouts& 
   painter_.setRenderHint(QPainter::Antialiasing, false);
 }
 
-void QtCanvas::setColor(const framework::Color& color) { color_ = toolkitColor(color); }
+void QtCanvas::setColor(const framework::Color& color) { color_ = qtColor(color); }
 
 void QtCanvas::take(Tool tool, double penWidth) {
   if (tool == tool_ && color_ == toolColor_ && penWidth == penWidth_) return;
@@ -123,7 +123,7 @@ void QtCanvas::fillOval(const framework::Rect& rect) {
 }
 
 void QtCanvas::fillOvalInSlices(const QRectF& oval) {
-  // The toolkit blends a shape of many rows in several threads, which costs more than it saves for one as small as this.
+  // Qt blends a shape of many rows in several threads, which costs more than it saves for one as small as this.
   // The slices meet on the edge of a row of pixels, so that no seam shows.
   constexpr double kRows = 8.0;
   constexpr qsizetype kPointsOfASide = 12;
@@ -231,7 +231,7 @@ void QtCanvas::text(std::string_view text, Point at, const framework::TextStyle&
   constexpr double kTallest = 1.5 * framework::kTextHeight;
   const bool isBeyond = at.y >= size_.height() || at.y + kTallest <= 0.0;
   if (style.degrees == 0.0 && isBeyond) return;
-  const QColor color = toolkitColor(style.color);
+  const QColor color = qtColor(style.color);
   const QPointF place = placed(at);
   const bool isTurned = style.degrees != 0.0;
   const QTransform upright = isTurned ? painter_.worldTransform() : QTransform();
@@ -255,7 +255,7 @@ double QtCanvas::textWidth(std::string_view text, const framework::TextStyle& st
 }
 
 QPointF QtCanvas::placed(Point point) const {
-  // Farther out than any paper; the toolkit reckons pixels in whole numbers of 32 bits.
+  // Farther out than any paper; Qt computes pixels as 32-bit integers.
   constexpr double kFarOut = 1e5;
   const double y = isFlipped_ ? point.y : size_.height() - point.y;
   return {std::clamp(point.x, -kFarOut, kFarOut), std::clamp(y, -kFarOut, kFarOut)};

@@ -9,7 +9,7 @@
 
 namespace nascor::qt {
 
-/// The toolkit's file dialogs. They begin in the folder that was chosen last, at first in that of the user's documents.
+/// Qt's file dialogs. They begin in the folder that was chosen last, at first in that of the user's documents.
 class QtFilePanels final : public framework::FilePanels {
  public:
   explicit QtFilePanels(const foundation::Services& services) : services_(services) {}
@@ -20,7 +20,7 @@ class QtFilePanels final : public framework::FilePanels {
 
   std::optional<std::string> chooseFolder() override;
 
-  std::function<QWidget*()> frontWindow;  ///< set by whoever makes windows; may return null
+  std::function<QWidget*()> frontWindow;  ///< set by the maker of windows; may return null
 
  private:
   QWidget* parent() const { return frontWindow ? frontWindow() : nullptr; }

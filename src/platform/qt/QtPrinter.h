@@ -10,7 +10,7 @@
 
 namespace nascor::qt {
 
-/// The toolkit's printers and print panel. A printer that is a file becomes one PDF document, written through the file
+/// Qt's printers and print panel. A printer that is a file becomes one PDF document, written through the file
 /// store.
 class QtPrinter final : public framework::Printer {
  public:
@@ -22,8 +22,8 @@ class QtPrinter final : public framework::Printer {
   /// What `print` prints goes to `preview` instead, as one document.
   void paintInto(QPrinter* preview, const std::function<void()>& print);
 
-  std::function<QWidget*()> frontWindow;  ///< set by whoever makes windows; may return null
-  /// Asks what `printer` is to do; false when the user cancels. Shows the print panel unless somebody sets another.
+  std::function<QWidget*()> frontWindow;  ///< set by the maker of windows; may return null
+  /// Asks what `printer` is to do; false when the user cancels. Shows the print panel by default.
   std::function<bool(QPrinter&)> ask;
 
  private:
@@ -31,7 +31,7 @@ class QtPrinter final : public framework::Printer {
   QPrinter* preview_ = nullptr;
 };
 
-/// @name The document's paper in the toolkit's words
+/// @name The document's paper in Qt's types
 /// @{
 QPageLayout layoutOf(const framework::PrintInfo& info);
 framework::PrintInfo printInfoOf(const QPageLayout& layout);

@@ -7,7 +7,7 @@ namespace nascor::qt {
 QtUserDefaults::QtUserDefaults()
     : settings_(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("Nascor"),
                 QStringLiteral("nascor")) {
-  // A preference that somebody set for the whole machine is not one of this user's.
+  // Ignores the preferences of the whole machine: they are not this user's.
   settings_.setFallbacksEnabled(false);
 }
 

@@ -32,7 +32,7 @@ QString onlyXmlCharacters(const QString& text) {
 
 }  // namespace
 
-/// One drawing of the toolkit's generator, of which only the contents are used.
+/// One drawing of Qt's generator, of which only the contents are used.
 class SvgSurface::Layer {
  public:
   Layer(const framework::Rect& frame, bool isFlipped, TextLayouts& texts) : frame_(frame) {

@@ -9,7 +9,7 @@
 
 namespace nascor::qt {
 
-/// A page as a drawing of XML. The toolkit's own generator knows no clipping, so each view is a drawing of its own, and
+/// A page as a drawing of XML. Qt's generator knows no clipping, so each view is a drawing of its own, and
 /// these are put together, each with its clip.
 class SvgSurface final : public framework::Surface {
  public:

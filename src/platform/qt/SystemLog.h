@@ -4,7 +4,7 @@
 
 namespace nascor::qt {
 
-/// Writes `text` to standard error, or as much of it as is taken at once: where nobody reads the other end of a pipe, the
+/// Writes `text` to standard error, or as much of it as is taken at once: where the other end of a pipe is not read, the
 /// program goes on and the rest is lost.
 void writeToStandardError(std::string_view text);
 

@@ -32,7 +32,7 @@ TextLayouts::TextLayouts()
 
 const LaidOutText& TextLayouts::of(std::string_view text) {
   if (const auto kept = texts_.find(text); kept != texts_.end()) return kept->second;
-  // Whoever pages through many patients is not to keep them all.
+  // Keeps memory bounded while the user pages through many patients.
   constexpr std::size_t kMostTexts = 500;
   if (texts_.size() >= kMostTexts) texts_.clear();
   LaidOutText laidOut{.text = fromUtf8(text), .layout = {}};

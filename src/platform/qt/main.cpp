@@ -83,7 +83,7 @@ std::optional<int> answerAtOnce(CommandLine& line, const QStringList& arguments)
   return std::nullopt;
 }
 
-/// Whether the arguments stand as they are, with no option of the toolkit's among them and none that nobody knows.
+/// Whether the arguments stand as they are, without an option of Qt's and without an unknown one.
 bool areOurOwn(std::span<char*> arguments) {
   QStringList texts;
   for (const char* argument : arguments) texts << QString::fromLocal8Bit(argument);
@@ -107,9 +107,9 @@ void takeBeginningMessage(QtMsgType type, const QMessageLogContext&, const QStri
   std::_Exit(kNoDisplay);
 }
 
-/// Asks the toolkit, which knows its own options and takes them out, but only once it has begun. It begins without a
-/// display here, since a mistake is to be told where there is none too.
-std::optional<int> answerWithToolkit(std::span<char*> arguments) {
+/// Lets Qt take out its own options, which it does only once it has begun. It begins without a display here, so that a
+/// mistake is named where there is no display too.
+std::optional<int> answerWithQt(std::span<char*> arguments) {
   std::vector<char*> copy(arguments.begin(), arguments.end());
   auto count = static_cast<int>(copy.size());
   copy.push_back(nullptr);
@@ -124,15 +124,14 @@ std::optional<int> answerWithToolkit(std::span<char*> arguments) {
   return status;
 }
 
-/// What is to happen before the toolkit asks for a display: what paints no window needs none. Gives the status where that
-/// was all.
+/// Decides before Qt asks for a display: what paints no window needs none. Gives the exit status where that was all.
 std::optional<int> chooseDisplay(std::span<char*> arguments) {
   if (qEnvironmentVariableIsSet(kPlatform)) return std::nullopt;
   if (hasArgument(arguments, {"--write-pages", "--help", "-h", "--version", "-v"})) {
     qputenv(kPlatform, "offscreen");
     return std::nullopt;
   }
-  return areOurOwn(arguments) ? std::nullopt : answerWithToolkit(arguments);
+  return areOurOwn(arguments) ? std::nullopt : answerWithQt(arguments);
 }
 
 int writePages(const CommandLine& line, const foundation::Services& services) {
@@ -150,7 +149,7 @@ int writePages(const CommandLine& line, const foundation::Services& services) {
   return written.sentences.isEmpty() ? kAllWell : kFailed;
 }
 
-/// Ends an application that nobody wants anything of. Started by the bus, it waits for what it is to show.
+/// Ends an application that the bus started and that then gets nothing to show.
 class Patience {
  public:
   explicit Patience(DocumentApplication& documents) {
@@ -214,12 +213,12 @@ int showDocuments(Application& application, const CommandLine& line, const found
 
 int nascorMain(int argc, char** argv) {
   if (const auto status = chooseDisplay({argv, static_cast<std::size_t>(argc)})) return *status;
-  const QtMessageHandler toolkitsHandler = qInstallMessageHandler(takeBeginningMessage);
-  // The system's fonts are read aside, while the toolkit loads its parts and asks the display: both take long.
+  const QtMessageHandler qtsHandler = qInstallMessageHandler(takeBeginningMessage);
+  // The system's fonts are read aside, while Qt loads its parts and asks the display: both take long.
   const std::future<FcBool> fonts = std::async(FcInit);
   Application application(argc, argv);
   fonts.wait();
-  qInstallMessageHandler(toolkitsHandler);
+  qInstallMessageHandler(qtsHandler);
   for (const QString& message : beginningMessages()) say(stderr, message);
 
   installTranslation(QLocale::system().uiLanguages(),
