@@ -402,6 +402,7 @@ std::span<const Reference, 8> references() {
             .quantities = kWeight,
             .assumes = translatable("References",
                                     "Weight by the formula Hadlock 1 (HC/AC/FL); no other formula fits it"),
+            .onlyFormula = 0,
             .population = intergrowth2020Population}),
        curveReference<hadlock1991Median, 10, 40>(
            {.name = "hadlock-1991",

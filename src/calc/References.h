@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <cstdint>
 #include <optional>
 #include <span>
 #include <string>
@@ -102,6 +103,8 @@ struct Reference {
   int firstWeek = 0;  ///< the first and the last week belong to it
   int lastWeek = 0;
   std::string_view assumes{};  ///< what a value must be to be compared with it, in English; never empty
+  std::optional<std::int64_t>
+      onlyFormula{};  ///< the one weight formula whose weights it fits; without it any
   /// The population at an age; ask by `populationAt`.
   Population (*population)(Quantity quantity, double week) = nullptr;
   /// The age of a median; ask by the function of that name.

@@ -1,0 +1,171 @@
+#include "compare/Comparison.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "calc/Dating.h"
+#include "calc/FetalWeight.h"
+#include "calc/Standards.h"
+#include "foundation/RangeError.h"
+
+namespace nascor::compare {
+namespace {
+
+using calc::Measurement;
+using calc::Quantity;
+using model::NCRecord;
+using model::PatientRecord;
+
+std::optional<double> ifAboveZero(double value) {
+  if (!std::isfinite(value) || !(value > 0.0)) return std::nullopt;
+  return value;
+}
+
+std::optional<double> ageAt(const PatientRecord& patient, const NCRecord& examination) {
+  const double age = calc::menstrualAge(examination.examDate(), patient.edd());
+  if (age == 0.0 || !std::isfinite(age)) return std::nullopt;
+  return age;
+}
+
+calc::Biometry lengthsOf(const NCRecord& examination, std::size_t fetus) {
+  const auto& measurements = examination.measurements();
+  return fetus < measurements.size() ? measurements[fetus].biometry() : calc::Biometry{};
+}
+
+/// A length, or the weight by the formula that the document names.
+std::optional<double> valueOf(const PatientRecord& patient, const calc::Biometry& lengths,
+                              Quantity quantity) {
+  if (quantity == Quantity::efw)
+    return ifAboveZero(calc::estimatedFetalWeight(lengths, patient.fetalWeightStandard()));
+  return ifAboveZero(lengths.*calc::memberFor(calc::kMeasurements.at(static_cast<std::size_t>(quantity))));
+}
+
+Length lengthOf(Measurement measurement, const calc::Biometry& lengths, std::optional<double> age) {
+  Length length{.measurement = measurement, .value = ifAboveZero(lengths.*calc::memberFor(measurement))};
+  const Quantity quantity = calc::quantityOf(measurement);
+  for (const calc::Reference& reference : calc::references()) {
+    if (calc::tellsOf(reference, quantity))
+      length.references.push_back(placed(reference, quantity, length.value, age));
+  }
+  return length;
+}
+
+Weight weightOf(std::int64_t formula, const calc::Biometry& lengths, std::optional<double> chosen,
+                std::optional<double> age) {
+  Weight weight{.formula = formula, .grams = ifAboveZero(calc::estimatedFetalWeight(lengths, formula))};
+  if (weight.grams && chosen) weight.difference = *weight.grams - *chosen;
+  for (const calc::Reference& reference : calc::references()) {
+    if (!calc::tellsOf(reference, Quantity::efw)) continue;
+    Placed& figure = weight.references.emplace_back(placed(reference, Quantity::efw, weight.grams, age));
+    const bool isOther = reference.onlyFormula && *reference.onlyFormula != formula;
+    if (isOther && weight.grams) figure.cautions.push_back(Caution::otherFormula);
+  }
+  return weight;
+}
+
+std::optional<double> quotient(double dividend, double divisor) {
+  if (!ifAboveZero(dividend) || !ifAboveZero(divisor)) return std::nullopt;
+  return dividend / divisor;
+}
+
+std::optional<double> discordanceAt(const PatientRecord& patient, const NCRecord& examination) {
+  std::vector<double> weights;
+  for (const model::MeasurementsRecord& measured : examination.measurements()) {
+    if (const auto grams = valueOf(patient, measured.biometry(), Quantity::efw)) weights.push_back(*grams);
+  }
+  if (weights.size() < 2) return std::nullopt;
+  const auto [lightest, heaviest] = std::ranges::minmax(weights);
+  return (heaviest - lightest) / heaviest * 100.0;
+}
+
+/// Weeks from one examination to a later one: the difference of their ages, or of their days where these are not known.
+std::optional<double> weeksBetween(const PatientRecord& patient, const NCRecord& before,
+                                   const NCRecord& now) {
+  const auto ageBefore = ageAt(patient, before);
+  const auto ageNow = ageAt(patient, now);
+  if (ageBefore && ageNow) return *ageNow - *ageBefore;
+  const auto days = calc::daysToEDD(before.examDate(), now.examDate());
+  if (!days) return std::nullopt;
+  return static_cast<double>(*days) / 7.0;
+}
+
+std::optional<double> zByDocument(const PatientRecord& patient, const NCRecord& examination,
+                                  Quantity quantity, double value) {
+  const bool isKnown = calc::growthStandard(patient.standard()) != nullptr;
+  const auto age = ageAt(patient, examination);
+  if (!isKnown || !age) return std::nullopt;
+  const calc::Reference& reference = calc::references()[static_cast<std::size_t>(patient.standard())];
+  return placed(reference, quantity, value, age).z;
+}
+
+std::optional<Growth> growthOf(Quantity quantity, const PatientRecord& patient, std::size_t place,
+                               std::size_t fetus) {
+  const auto& examinations = patient.ncRecordsArray();
+  const NCRecord& now = *examinations[place];
+  const auto valueNow = valueOf(patient, lengthsOf(now, fetus), quantity);
+  if (!valueNow) return std::nullopt;
+  for (std::size_t earlier = place; earlier-- > 0;) {
+    const NCRecord& before = *examinations[earlier];
+    const auto valueBefore = valueOf(patient, lengthsOf(before, fetus), quantity);
+    if (!valueBefore) continue;
+    Growth growth{.quantity = quantity};
+    const auto weeks = weeksBetween(patient, before, now);
+    if (weeks && *weeks > 0.0) growth.perWeek = (*valueNow - *valueBefore) / *weeks;
+    const auto zBefore = zByDocument(patient, before, quantity, *valueBefore);
+    const auto zNow = zByDocument(patient, now, quantity, *valueNow);
+    if (zBefore && zNow) growth.zChange = *zNow - *zBefore;
+    return growth;
+  }
+  return std::nullopt;
+}
+
+}  // namespace
+
+Placed placed(const calc::Reference& reference, Quantity quantity, std::optional<double> value,
+              std::optional<double> age) {
+  Placed figure{.reference = &reference};
+  if (value) figure.weeks = calc::weekOfMedian(reference, quantity, *value);
+  if (!age) {
+    figure.cautions.push_back(Caution::ageUnknown);
+    return figure;
+  }
+  if (!calc::reaches(reference, *age)) {
+    figure.cautions.push_back(Caution::outsideWeeks);
+    return figure;
+  }
+  const auto population = calc::populationAt(reference, quantity, *age);
+  if (!population) return figure;
+  figure.mean = population->mean();
+  figure.sd = population->sd();
+  figure.median = population->median();
+  if (!value) return figure;
+  figure.z = population->z(*value);
+  figure.centile = population->centile(*value);
+  if (!figure.centile) figure.cautions.push_back(Caution::withoutPlace);
+  return figure;
+}
+
+Comparison comparisonOf(const PatientRecord& patient, std::size_t examination, std::size_t fetus) {
+  const auto& examinations = patient.ncRecordsArray();
+  const NCRecord& now = *foundation::checkedAt(examinations, examination);
+  const calc::Biometry lengths = lengthsOf(now, fetus);
+  const auto age = ageAt(patient, now);
+  const auto chosen = valueOf(patient, lengths, Quantity::efw);
+
+  Comparison comparison{.age = age};
+  for (const Measurement measurement : calc::kMeasurements)
+    comparison.lengths.push_back(lengthOf(measurement, lengths, age));
+  for (std::size_t formula = 0; formula < calc::weightFormulas().size(); ++formula)
+    comparison.weights.push_back(weightOf(static_cast<std::int64_t>(formula), lengths, chosen, age));
+  comparison.ratios = {.hcToAC = quotient(lengths.hc, lengths.ac),
+                       .flToAC = quotient(lengths.fl, lengths.ac),
+                       .flToBPD = quotient(lengths.fl, lengths.bpd)};
+  comparison.discordance = discordanceAt(patient, now);
+  for (const Quantity quantity : calc::kQuantities) {
+    if (const auto growth = growthOf(quantity, patient, examination, fetus))
+      comparison.growth.push_back(*growth);
+  }
+  return comparison;
+}
+
+}  // namespace nascor::compare
