@@ -37,8 +37,8 @@ TEST(Usage, helpAndVersionSayThatThisIsNoMedicalDevice) {
 
 TEST(Usage, helpNamesEveryCommand) {
   const std::string help = run({"--help"}).out;
-  for (const char* command :
-       {"report", "weight", "crl", "standard", "lookup", "make", "json", "check", "dump"}) {
+  for (const char* command : {"report", "weight", "crl", "standard", "lookup", "reference", "compare",
+                              "self-test", "make", "json", "check", "dump"}) {
     EXPECT_THAT(help, HasSubstr("\n  " + std::string(command) + " "));
     EXPECT_THAT(run({command, "--help"}).out, StartsWith("usage: nascor-cli " + std::string(command) + " "));
   }

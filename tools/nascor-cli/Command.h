@@ -31,6 +31,7 @@ struct OptionSpec {
   std::string_view name;   ///< without the dashes
   std::string_view value;  ///< what stands for the value in help; empty for a flag
   std::string_view help;
+  bool isNumber = false;  ///< -.5 is one then, and no option
 };
 
 struct OperandSpec {
@@ -68,6 +69,9 @@ Command weightCommand();
 Command crlCommand();
 Command standardCommand();
 Command lookupCommand();
+Command referenceCommand();
+Command compareCommand();
+Command selfTestCommand();
 /// Only where the application is built too.
 Command exportCommand();
 

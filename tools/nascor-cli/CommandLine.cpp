@@ -169,7 +169,8 @@ std::vector<std::string> reversedArguments(std::vector<std::string> arguments) {
   };
   const auto all = commands();
   const auto command = std::ranges::find_if(all, isChosen);
-  if (command != all.end() && std::ranges::any_of(command->operands, &OperandSpec::isNumber)) {
+  if (command != all.end() && (std::ranges::any_of(command->operands, &OperandSpec::isNumber) ||
+                               std::ranges::any_of(command->options, &OptionSpec::isNumber))) {
     for (std::string& argument : arguments) {
       if (argument == "--") break;
       if (argument.starts_with("-.")) argument.insert(1, "0");

@@ -10,8 +10,9 @@ std::optional<std::string> Arguments::option(std::string_view name) const {
 
 std::span<const Command> commands() {
   static const std::vector<Command> kCommands{
-      reportCommand(), rowsCommand(),   calcCommand(), checkCommand(),    makeCommand(),   jsonCommand(),
-      dumpCommand(),   weightCommand(), crlCommand(),  standardCommand(), lookupCommand(),
+      reportCommand(), rowsCommand(),      calcCommand(),    checkCommand(),    makeCommand(),
+      jsonCommand(),   dumpCommand(),      weightCommand(),  crlCommand(),      standardCommand(),
+      lookupCommand(), referenceCommand(), compareCommand(), selfTestCommand(),
 #ifdef NASCOR_EXPORT
       exportCommand(),
 #endif
