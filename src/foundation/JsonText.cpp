@@ -10,14 +10,6 @@ namespace {
 
 constexpr std::string_view kReplacement = "\xEF\xBF\xBD";
 
-/// Bytes of the UTF-8 character at the start of `text`, 0 when there is none.
-std::size_t characterLength(std::string_view text) {
-  for (std::size_t length = 1; length <= 4; ++length) {
-    if (isValidUtf8(text.substr(0, length))) return length;
-  }
-  return 0;
-}
-
 }  // namespace
 
 JsonText& JsonText::key(std::string_view name) {
@@ -96,7 +88,7 @@ void JsonText::startElement() {
 
 void JsonText::appendQuoted(std::string_view value) {
   constexpr std::string_view kHexDigits = "0123456789abcdef";
-  const bool allValid = isValidUtf8(value);
+  constexpr char32_t kSeen = 0xFFFD;
   out_ += '"';
   while (!value.empty()) {
     const auto byte = static_cast<unsigned char>(value.front());
@@ -110,17 +102,16 @@ void JsonText::appendQuoted(std::string_view value) {
       case '\r': out_ += "\\r"; break;
       case '\t': out_ += "\\t"; break;
       default:
-        if (byte < 0x20) {
-          out_ += "\\u00";
-          out_ += kHexDigits[byte >> 4U];
-          out_ += kHexDigits[byte & 15U];
-        } else if (byte < 0x80 || allValid) {
+        if (byte >= 0x20 && byte < 0x7F) {
           out_ += value.front();
-        } else if (length = characterLength(value); length != 0) {
-          out_ += value.substr(0, length);
-        } else {
+        } else if (length = characterLength(value); length == 0) {
           out_ += kReplacement;
           length = 1;
+        } else if (const char32_t code = codeOfUnseen(value.substr(0, length)); code != kSeen) {
+          out_ += "\\u";
+          for (const unsigned shift : {12U, 8U, 4U, 0U}) out_ += kHexDigits[(code >> shift) & 15U];
+        } else {
+          out_ += value.substr(0, length);
         }
     }
     value.remove_prefix(length);

@@ -26,8 +26,9 @@ class JsonText {
   JsonText& endArray() { return close(']'); }
   JsonText& key(std::string_view name);
 
-  /// UTF-8 stays as it is; only quotation mark, backslash and control characters are escaped. Each byte that
-  /// is no UTF-8 becomes U+FFFD, since JSON has no way to write it.
+  /// UTF-8 stays as it is; quotation mark, backslash, control characters and signs of direction are escaped, so that a
+  /// terminal shows the text as it is and takes no orders from it. Each byte that is no UTF-8 becomes U+FFFD, since JSON has
+  /// no way to write it.
   JsonText& text(std::string_view value);
   /// The shortest digits that read back to the same double. Not finite: the texts "nan", "inf" and "-inf".
   JsonText& number(double value);

@@ -1,11 +1,11 @@
 #include "foundation/Utf8.h"
 
+#include <algorithm>
 #include <cstddef>
+#include <vector>
 
 namespace nascor::foundation {
-namespace {
 
-/// The length of the character at the start of `bytes`, 0 when it is malformed.
 std::size_t characterLength(std::string_view bytes) {
   const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(bytes[i]); };
   const auto within = [&](std::size_t i, unsigned first, unsigned last) {
@@ -29,6 +29,8 @@ std::size_t characterLength(std::string_view bytes) {
   return 0;
 }
 
+namespace {
+
 bool isWithin(char32_t point, char32_t first, char32_t last) { return point >= first && point <= last; }
 
 /// Combines with the sign before it.
@@ -38,6 +40,9 @@ bool extendsBase(char32_t point) {
          isWithin(point, 0xFE00, 0xFE0F) || isWithin(point, 0xFE20, 0xFE2F) ||
          isWithin(point, 0x1F3FB, 0x1F3FF) || isWithin(point, 0xE0100, 0xE01EF);
 }
+
+constexpr char32_t kJoiner = 0x200D;
+constexpr char32_t kReplacement = 0xFFFD;
 
 bool isHalfOfAFlag(char32_t point) { return isWithin(point, 0x1F1E6, 0x1F1FF); }
 
@@ -60,10 +65,10 @@ char32_t popCodePoint(std::string& text) {
 }  // namespace
 
 void removeLastCharacter(std::string& text) {
-  constexpr char32_t kJoiner = 0x200D;
   const auto last = [&] {
-    std::string copy = text;
-    return copy.empty() ? U'\0' : popCodePoint(copy);
+    constexpr std::size_t kLongest = 4;  // bytes of a code point
+    std::string end = text.substr(text.size() - std::min(text.size(), kLongest));
+    return end.empty() ? U'\0' : popCodePoint(end);
   };
   while (!text.empty()) {
     const char32_t point = popCodePoint(text);
@@ -96,6 +101,13 @@ bool isSignOfDirection(std::string_view character) {
 
 }  // namespace
 
+char32_t codeOfUnseen(std::string_view character) {
+  std::string copy(character);
+  const char32_t point = copy.empty() ? kReplacement : popCodePoint(copy);
+  const bool isControl = point < 0x20 || isWithin(point, 0x7F, 0x9F);
+  return copy.empty() && (isControl || isSignOfDirection(character)) ? point : kReplacement;
+}
+
 std::string oneLine(std::string_view text) {
   constexpr std::string_view kHexDigits = "0123456789abcdef";
   std::string line;
@@ -125,6 +137,52 @@ std::string oneLine(std::string_view text) {
     }
     text.remove_prefix(length == 0 ? 1 : length);
   }
+  return line;
+}
+
+std::size_t lengthOfBeginning(std::string_view text, std::size_t most) {
+  // Where each of the last code points begins, and what it is.
+  struct Place {
+    std::size_t begin;
+    char32_t point;
+  };
+  std::vector<Place> places;
+  std::size_t at = 0;
+  const auto next = [&] {
+    const std::size_t length = std::max<std::size_t>(characterLength(text.substr(at)), 1);
+    std::string point(text.substr(at, length));
+    places.push_back({.begin = at, .point = popCodePoint(point)});
+    at += length;
+  };
+  while (at < text.size() && places.size() < most) next();
+  if (at >= text.size() || places.empty()) return at;
+
+  next();
+  const auto isInside = [&](std::size_t i) {  // between the code point before and this one
+    const char32_t before = places[i - 1].point;
+    const char32_t point = places[i].point;
+    if (extendsBase(point) || point == kJoiner || before == kJoiner) return true;
+    if (!isHalfOfAFlag(point)) return false;
+    std::size_t halves = 0;
+    while (halves < i && isHalfOfAFlag(places[i - 1 - halves].point)) ++halves;
+    return halves % 2 == 1;
+  };
+  constexpr std::size_t kLongestCharacter = 64;  // code points
+  const std::size_t last = places.size() - 1;
+  std::size_t cut = last;
+  while (cut > 0 && last - cut < kLongestCharacter && isInside(cut)) --cut;
+  return places[cut > 0 && !isInside(cut) ? cut : last].begin;
+}
+
+std::string shownLine(std::string_view text) {
+  const auto cut = [](std::string_view whole) { return lengthOfBeginning(whole, kMostShown); };
+  // Control characters grow as they become visible.
+  const std::size_t read = cut(text);
+  std::string line = oneLine(text.substr(0, read));
+  const std::size_t shown = cut(line);
+  if (read == text.size() && shown == line.size()) return line;
+  line.resize(shown);
+  line += kCutSign;
   return line;
 }
 

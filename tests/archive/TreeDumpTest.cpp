@@ -139,7 +139,7 @@ TEST(DumpingAsText, givesATerminalNoOrders) {
   EXPECT_EQ(text.find('\x1b'), std::string::npos);
   EXPECT_NE(text.find("\\x1b[31m"), std::string::npos);
   // DEL, and the control characters beyond ASCII.
-  EXPECT_NE(dumpAsText(little("84 01 '+' 04 7f c2 9b 'm'")).find("\\x7f\\x9bm"), std::string::npos);
+  EXPECT_NE(dumpAsText(little("84 01 '+' 04 7f c2 9b 'm'")).find("\\u007f\\u009bm"), std::string::npos);
 }
 
 TEST(DumpingAsText, showsAGroupOfNoValues) {

@@ -96,7 +96,7 @@ INSTANTIATE_TEST_SUITE_P(
                     TextCase{"quotesAndBackslash", "\"\\", R"("\"\\")"},
                     TextCase{"namedControls", "\b\f\n\r\t", R"("\b\f\n\r\t")"},
                     TextCase{"otherControls", std::string("\0\x1f\x10", 3), R"("\u0000\u001f\u0010")"},
-                    TextCase{"del", "\x7f", "\"\x7f\""},
+                    TextCase{"del", "\x7f", "\"\\u007f\""},
                     TextCase{"utf8", "\xc3\xa4\xe2\x82\xac\xf0\x9f\x98\x80",
                              "\"\xc3\xa4\xe2\x82\xac\xf0\x9f\x98\x80\""}),
     [](const auto& row) { return std::string(row.param.name); });
@@ -110,6 +110,17 @@ INSTANTIATE_TEST_SUITE_P(thatIsNoUtf8, AJsonText,
                                          TextCase{"wholeBesideBroken", "\xf0\x9f\x98\x80\xf0",
                                                   "\"\xf0\x9f\x98\x80\xef\xbf\xbd\""}),
                          [](const auto& row) { return std::string(row.param.name); });
+
+TEST(ATextInJson, givesATerminalNoOrdersAndMirrorsNothing) {
+  const auto quoted = [](std::string_view text) {
+    return written([&](JsonText& json) { json.text(text); });
+  };
+  EXPECT_EQ(quoted("a\x7F\u0080\u009B\u009Fz"), R"("a\u007f\u0080\u009b\u009fz")");
+  EXPECT_EQ(quoted("\u061C\u200E\u200F\u2028\u2029\u202A\u202E\u2066\u2069"),
+            R"("\u061c\u200e\u200f\u2028\u2029\u202a\u202e\u2066\u2069")");
+  EXPECT_EQ(quoted("~\u00A0\u200D\u2010\U0001F476"), "\"~\u00A0\u200D\u2010\U0001F476\"") << "others stay";
+  EXPECT_EQ(quoted("\xC2\x9B\xFF"), "\"\\u009b\xEF\xBF\xBD\"") << "beside what is no UTF-8 too";
+}
 
 }  // namespace
 }  // namespace nascor::foundation

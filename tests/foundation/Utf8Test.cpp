@@ -26,5 +26,45 @@ TEST(TheLastCharacter, isWhatAReaderCountsAsOne) {
   EXPECT_EQ(shortened("\xCC\x81"), "") << "an accent by itself";
 }
 
+std::string beginning(std::string_view text, std::size_t most) {
+  return std::string(text.substr(0, lengthOfBeginning(text, most)));
+}
+
+TEST(TheBeginningOfAText, isCountedInCodePointsAndPartsNoCharacter) {
+  EXPECT_EQ(beginning("", 3), "");
+  EXPECT_EQ(beginning("abc", 0), "");
+  EXPECT_EQ(beginning("abc", 2), "ab");
+  EXPECT_EQ(beginning("abc", 3), "abc");
+  EXPECT_EQ(beginning("abc", 4), "abc");
+  EXPECT_EQ(beginning("\u00E4\u00F6\u00FC", 2), "\u00E4\u00F6");
+  EXPECT_EQ(beginning("xe\u0301", 2), "x") << "a letter and its accent";
+  EXPECT_EQ(beginning("xe\u0301y", 3), "xe\u0301");
+  EXPECT_EQ(beginning("x\U0001F469\u200D\U0001F476", 3), "x") << "two signs joined";
+  EXPECT_EQ(beginning("\U0001F1E6\U0001F1FA\U0001F1E6\U0001F1FA", 3), "\U0001F1E6\U0001F1FA") << "two flags";
+  EXPECT_EQ(beginning("\xFF\xFF\xFF", 2), "\xFF\xFF") << "bytes that are no UTF-8";
+}
+
+TEST(TheBeginningOfAText, partsACharacterThatIsLongerThanAnyone) {
+  std::string text = "a";
+  for (int i = 0; i < 1000; ++i) text += "\u0301";
+  EXPECT_EQ(lengthOfBeginning(text, 200), 1U + 199U * 2U);
+}
+
+TEST(AShownLine, isTheOneLineOfAShortText) {
+  EXPECT_EQ(shownLine(""), "");
+  EXPECT_EQ(shownLine("AB\n\x7F\u202E"), "AB\\n\\x7f\\u202e");
+  EXPECT_EQ(shownLine(std::string(kMostShown, 'A')), std::string(kMostShown, 'A'));
+}
+
+TEST(AShownLine, saysThatItIsCut) {
+  EXPECT_EQ(shownLine(std::string(kMostShown + 1, 'A')), std::string(kMostShown, 'A') + "\u2026");
+  // What becomes visible takes room too: six signs for each of these.
+  std::string signs;
+  for (int i = 0; i < 500; ++i) signs += "\u202E";
+  const std::string line = shownLine(signs);
+  EXPECT_EQ(line.size(), kMostShown + kCutSign.size());
+  EXPECT_TRUE(line.ends_with(kCutSign)) << line;
+}
+
 }  // namespace
 }  // namespace nascor::foundation
