@@ -539,6 +539,14 @@
         <source>Belongs to no fetus: the fetus was removed. %1</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>No more text fits here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This text is too long to be shown whole. It is kept whole, and cannot be changed here.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>FilePanels</name>

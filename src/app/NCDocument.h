@@ -210,6 +210,8 @@ class NCDocument final : public framework::CorvelDocument,
   /// The patient's title: reference ID as typed with "/" as "-", gravidity, and, when asked for and there are several,
   /// which fetus is on show. Empty without a reference ID.
   std::string preferredFileName(bool withFetus) const;
+  /// That title as it is shown: in one line, a reference ID that is too long for any page cut.
+  std::string shownTitle(bool withFetus) const;
 
   /// @name Records
   /// @{
@@ -304,8 +306,9 @@ class NCDocument final : public framework::CorvelDocument,
   framework::NumberField& fieldFor(calc::Measurement measurement);
   /// The measurement that `field` shows; nothing for another field.
   std::optional<calc::Measurement> measurementOf(const framework::TextField& field);
-  /// Shows `title` over that page.
-  void setHeader(std::size_t page, const std::string& title);
+  /// Shows `title`, as `shown`, over that page.
+  void setHeader(std::size_t page, const std::string& title, const std::string& shown);
+  std::string gravidaAndFetus(bool withFetus) const;
   bool mayModify(const std::string& message, const std::string& information);
   const model::NCRecord* examination(std::int64_t exam) const;
   model::NCRecord* currentExamination();

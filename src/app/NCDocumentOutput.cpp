@@ -60,13 +60,14 @@ framework::PageFoot NCDocument::footOfPage(std::int64_t index, std::int64_t numb
     return value.empty() ? std::string() : label + " " + value;
   };
 
+  const auto& records = patientRecord_->ncRecordsArray();
   std::string first;
-  std::string last;
-  for (const auto& record : patientRecord_->ncRecordsArray()) {
-    if (!record->examDate()) continue;
-    last = longDateText(*record->examDate());
-    if (first.empty()) first = last;
+  for (auto record = records.begin(); record != records.end() && first.empty(); ++record) {
+    if ((*record)->examDate()) first = longDateText(*(*record)->examDate());
   }
+  const auto newest =
+      std::find_if(records.rbegin(), records.rend(), [](const auto& record) { return record->examDate(); });
+  const std::string last = newest != records.rend() ? longDateText(*(*newest)->examDate()) : std::string();
   const std::string examinations = first == last ? first : first + " \u2013 " + last;
 
   std::string leftOut;

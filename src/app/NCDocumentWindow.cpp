@@ -138,15 +138,16 @@ std::optional<Date> NCDocument::beginningOfDay(const std::optional<Date>& date) 
 void NCDocument::updateDisplay() {
   CorvelDocument::updateDisplay();
   const std::string title = preferredFileName(true);
-  for (std::size_t page = 0; page < headers_.size(); ++page) setHeader(page, title);
+  const std::string shown = shownTitle(true);
+  for (std::size_t page = 0; page < headers_.size(); ++page) setHeader(page, title, shown);
   ageField().setText(menstrualAgeStringForRecord(static_cast<std::uint64_t>(currentExam())));
   assess();
   tabView().setNeedsDisplay();
 }
 
-void NCDocument::setHeader(std::size_t page, const std::string& title) {
+void NCDocument::setHeader(std::size_t page, const std::string& title, const std::string& shown) {
   headers_.at(page)->setText(title);
-  pages_.pages().at(page).setTitle(foundation::oneLine(title));
+  pages_.pages().at(page).setTitle(shown);
 }
 
 void NCDocument::switchToGraph(std::int64_t tabIndex) { tabView().selectPage(tabIndex); }
@@ -205,13 +206,21 @@ bool NCDocument::erasesDate(const TextField& field) const {
 
 std::string NCDocument::preferredFileName(bool withFetus) const {
   std::string name = referenceIDForFileName();
-  if (name.empty()) return name;
-  name += " (G" + std::to_string(patientRecord_ ? patientRecord_->gravida() : 0) + ")";
+  return name.empty() ? name : name.append(gravidaAndFetus(withFetus));
+}
+
+std::string NCDocument::shownTitle(bool withFetus) const {
+  const std::string name = foundation::shownLine(referenceIDForFileName());
+  return name.empty() ? name : name + foundation::shownLine(gravidaAndFetus(withFetus));
+}
+
+std::string NCDocument::gravidaAndFetus(bool withFetus) const {
+  std::string text = " (G" + std::to_string(patientRecord_ ? patientRecord_->gravida() : 0) + ")";
   if (withFetus && patientRecord_ && patientRecord_->numberOfFetuses() > 1) {
-    name += foundation::format(services().localizer.text("NCDocument", " %ld of %ld"),
+    text += foundation::format(services().localizer.text("NCDocument", " %ld of %ld"),
                                {currentFetus_ + 1, patientRecord_->numberOfFetuses()});
   }
-  return name;
+  return text;
 }
 
 std::string NCDocument::referenceIDForFileName() const {

@@ -1,5 +1,7 @@
 #include "charts/NascorDataView.h"
 
+#include <algorithm>
+#include <limits>
 #include <span>
 
 #include "calc/FetalWeight.h"
@@ -11,6 +13,7 @@
 #include "foundation/NumberText.h"
 #include "foundation/UserDefaults.h"
 #include "foundation/Utf8.h"
+#include "framework/LongestBeginning.h"
 
 namespace nascor::charts {
 namespace {
@@ -29,6 +32,8 @@ constexpr double kFrameTop = 124.0;
 constexpr double kBelowLastLine = 40.0;
 /// Where what follows a label's tab begins.
 constexpr double kTabStop = 100.0;
+/// More rows than any paper shows.
+constexpr std::int64_t kMostRowsDrawn = 1000;
 
 }  // namespace
 
@@ -59,9 +64,9 @@ std::int64_t NascorDataView::examinationsShown() const {
          firstExaminationShown(bounds().height);
 }
 
-std::vector<std::string> NascorDataView::leftHeader() const {
+std::vector<std::string> NascorDataView::leftHeader(const std::string& identifier) const {
   const model::PatientRecord& patient = *owningDocument()->patientRecord();
-  return {localized("", "Identifier:\t").append(foundation::oneLine(patient.maternalIDString().value_or(""))),
+  return {localized("", "Identifier:\t").append(identifier),
           localized("", "Gravida:\t").append(std::to_string(patient.gravida())),
           localized("", "Fetus:\t").append(owningDocument()->multiplePopUp().titleOfSelectedItem())};
 }
@@ -123,9 +128,11 @@ std::string NascorDataView::dateText(const std::optional<foundation::Date>& date
 }
 
 std::string NascorDataView::shortened(std::string line) const {
-  while (!line.empty() && canvas().textWidth(line, {.tabStop = kTabStop}) > kIdentifierWidth) {
-    foundation::removeLastCharacter(line);
-  }
+  const auto fits = [this](std::string_view text) {
+    return canvas().textWidth(text, {.tabStop = kTabStop}) <= kIdentifierWidth;
+  };
+  line.resize(framework::roughBeginning(line, fits));
+  while (!line.empty() && !fits(line)) foundation::removeLastCharacter(line);
   return line;
 }
 
@@ -153,7 +160,8 @@ void NascorDataView::drawRect(const framework::Rect& rect) {
       y += kLine;
     }
   };
-  std::vector<std::string> left = leftHeader();
+  const auto& identifier = owningDocument()->patientRecord()->maternalIDString();
+  std::vector<std::string> left = leftHeader(foundation::shownLine(identifier.value_or("")));
   left.front() = shortened(std::move(left.front()));
   drawHeader(left, kLeftHeader);
   // Dates cannot be written without a form for them.
@@ -163,10 +171,14 @@ void NascorDataView::drawRect(const framework::Rect& rect) {
   drawRow(titles(), kTitles, NamedColor::black);
   // One empty line under the titles.
   double y = kTitles + kLine;
-  for (std::int64_t exam = firstExaminationShown(rect.height); exam < count; ++exam) {
+  const std::int64_t first = firstExaminationShown(rect.height);
+  // A page too low for a single row lists every examination, beyond its lower edge.
+  const std::int64_t afterLastDrawn = std::min(count, first + kMostRowsDrawn);
+  for (std::int64_t exam = first; exam < afterLastDrawn; ++exam) {
     y += kLine;
     drawRow(examinationCells(exam), y, NamedColor::black);
   }
+  y += kLine * static_cast<double>(count - afterLastDrawn);
   if (projectionIsShown()) {
     y += kLine;
     drawRow(projectedCells(), y, NamedColor::darkGray);
@@ -178,6 +190,16 @@ void NascorDataView::drawRect(const framework::Rect& rect) {
 }
 
 std::string NascorDataView::tabSeparatedText() const {
+  return text(std::numeric_limits<std::int64_t>::max(), foundation::oneLine);
+}
+
+std::string NascorDataView::shownText() const {
+  constexpr std::int64_t kMostExaminations = 100;
+  return text(kMostExaminations, foundation::shownLine);
+}
+
+std::string NascorDataView::text(std::int64_t mostExaminations,
+                                 std::string (*lineOf)(std::string_view)) const {
   std::string text;
   if (!owningDocument() || !owningDocument()->patientRecord()) return text;
   const auto addLine = [&](const std::string& line) {
@@ -187,12 +209,15 @@ std::string NascorDataView::tabSeparatedText() const {
     for (std::size_t i = 0; i < cells.size(); ++i) text.append(i == 0 ? "" : "\t").append(cells.at(i));
     text += '\n';
   };
-  for (const std::string& line : leftHeader()) addLine(line);
+  const auto& identifier = owningDocument()->patientRecord()->maternalIDString();
+  for (const std::string& line : leftHeader(lineOf(identifier.value_or("")))) addLine(line);
   for (const std::string& line : rightHeader()) addLine(line);
   text += '\n';
   addRow(titles());
   const auto count = static_cast<std::int64_t>(owningDocument()->patientRecord()->ncRecordsArray().size());
-  for (std::int64_t exam = 0; exam < count; ++exam) addRow(examinationCells(exam));
+  const std::int64_t first = count - std::min(count, mostExaminations);
+  if (first > 0) addLine(std::string(foundation::kCutSign));
+  for (std::int64_t exam = first; exam < count; ++exam) addRow(examinationCells(exam));
   if (projectionIsShown()) addRow(projectedCells());
   text += '\n';
   addLine(referenceTitle());

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "charts/UpdatingGraphView.h"
@@ -27,6 +28,8 @@ class NascorDataView final : public UpdatingGraphView {
   std::int64_t examinationsShown() const;
   /// The whole report as text, with all examinations: a line a row, its cells set apart by tabs.
   std::string tabSeparatedText() const;
+  /// The same as it is read aloud: of very many examinations the newest hundred, and a long identifier cut as everywhere.
+  std::string shownText() const;
 
  protected:
   void drawRect(const framework::Rect& rect) override;
@@ -40,7 +43,8 @@ class NascorDataView final : public UpdatingGraphView {
 
   bool projectionIsShown() const;
   std::int64_t firstExaminationShown(double height) const;
-  std::vector<std::string> leftHeader() const;
+  std::string text(std::int64_t mostExaminations, std::string (*lineOf)(std::string_view)) const;
+  std::vector<std::string> leftHeader(const std::string& identifier) const;
   std::vector<std::string> rightHeader() const;
   Cells titles() const;
   Cells examinationCells(std::int64_t exam) const;

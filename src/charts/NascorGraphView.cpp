@@ -4,6 +4,7 @@
 #include <cmath>
 #include <optional>
 #include <utility>
+#include <vector>
 
 #include "calc/Centile.h"
 #include "calc/LookUp.h"
@@ -132,12 +133,61 @@ void NascorGraphView::plotMean() {
   canvas().strokePath(curve);
 }
 
+namespace {
+
+/// Finds out which of very many marks need not be drawn, because they would lie on others.
+class CoveredMarks {
+ public:
+  explicit CoveredMarks(const framework::Rect& bounds)
+      : columns_(cells(bounds.width)), rows_(cells(bounds.height)), isTaken_(columns_ * rows_) {}
+
+  /// The marks that follow are other signs, and cover these.
+  void beginSign() { std::fill(isTaken_.begin(), isTaken_.end(), false); }
+  /// Whether another mark stands so near that it covers most of one here, or `at` lies outside the view. Otherwise a mark
+  /// stands here from now on.
+  bool covers(Point at) {
+    if (!(at.x >= 0.0 && at.y >= 0.0)) return true;
+    const auto column = static_cast<std::size_t>(std::min(at.x / kCell, 1e6));
+    const auto row = static_cast<std::size_t>(std::min(at.y / kCell, 1e6));
+    if (column >= columns_ || row >= rows_) return true;
+    const bool isCovered = isTaken_[row * columns_ + column];
+    isTaken_[row * columns_ + column] = true;
+    return isCovered;
+  }
+
+ private:
+  static constexpr double kCell = 6.0;  // marks are eight units wide
+  static std::size_t cells(double length) {
+    constexpr double kMostCells = 1000.0;
+    return static_cast<std::size_t>(std::clamp(length / kCell, 0.0, kMostCells)) + 1;
+  }
+
+  std::size_t columns_;
+  std::size_t rows_;
+  std::vector<bool> isTaken_;
+};
+
+}  // namespace
+
 void NascorGraphView::plotDataPoints() {
   constexpr double kDisc = 20.0;
-  forEachPlottedValue([this](const PlottedValue& plotted) {
+  // As long as each mark can be told from the others, each is drawn.
+  constexpr std::size_t kManyExaminations = 1000;
+  std::optional<CoveredMarks> covered;
+  if (owningDocument() && owningDocument()->patientRecord() &&
+      owningDocument()->patientRecord()->ncRecordsArray().size() > kManyExaminations) {
+    covered.emplace(bounds());
+  }
+  std::int64_t fetus = -1;
+  forEachPlottedValue([&](const PlottedValue& plotted) {
+    const bool isCurrent =
+        plotted.isSelected && std::cmp_equal(plotted.exam, owningDocument()->currentExam());
+    if (covered) {
+      if (std::exchange(fetus, plotted.fetus) != plotted.fetus) covered->beginSign();
+      if (covered->covers(pointForXY(plotted.x, plotted.y)) && !isCurrent) return;
+    }
     if (plotted.isSelected) {
-      const ChartDocument& document = *owningDocument();
-      if (std::cmp_equal(plotted.exam, document.currentExam()) && document.shouldShowGraphHilite()) {
+      if (isCurrent && owningDocument()->shouldShowGraphHilite()) {
         const Point centre = pointForXY(plotted.x, plotted.y);
         canvas().setColor(NamedColor::faintGray);
         canvas().fillOval(

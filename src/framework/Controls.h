@@ -3,10 +3,12 @@
 #include <cstdint>
 #include <functional>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
 #include "framework/Geometry.h"
+#include "framework/LongText.h"
 #include "framework/Page.h"
 
 namespace nascor::framework {
@@ -20,16 +22,26 @@ class TextView {
 
   const std::string& name() const { return name_; }
   const std::string& text() const { return text_; }
-  void setText(std::string text) { show(std::move(text), false); }
-  /// The user has typed `text`.
-  void takeEditedText(std::string text) {
-    show(std::move(text), true);
+  void setText(std::string text) {
+    isFull_ = false;
+    show(std::move(text), false);
+  }
+  /// The user has made `typed` of the text, which takes no more than a note does (framework/LongText.h).
+  void takeEditedText(std::string_view typed) {
+    TypedText taken = typedOver(text_, typed, kMostInNote);
+    isFull_ = taken.isFull;
+    show(std::move(taken.text), true);
     if (onEdit) onEdit();
   }
+  /// Whether not all that was typed last found room.
+  bool isFull() const { return isFull_; }
   bool wasEdited() const { return wasEdited_; }
   void forgetEdits() { wasEdited_ = false; }
-  /// Whether the user may type here. Not where there is nothing that could hold what is typed.
-  bool isEditable() const { return isEditable_; }
+  /// Whether the user may type here. Not where there is nothing that could hold what is typed, and not over a text of which
+  /// only a part is shown.
+  bool isEditable() const { return isEditable_ && !isShownInPart_; }
+  /// Whether the text is longer than a note shows (framework/LongText.h).
+  bool isShownInPart() const { return isShownInPart_; }
   void setEditable(bool editable) {
     if (std::exchange(isEditable_, editable) != editable && onChange) onChange();
   }
@@ -41,12 +53,15 @@ class TextView {
   void show(std::string text, bool wasEdited) {
     text_ = std::move(text);
     wasEdited_ = wasEdited;
+    isShownInPart_ = isTooLong(text_, kMostInNote);
     if (onChange) onChange();
   }
   std::string name_;
   std::string text_;
   bool wasEdited_ = false;
+  bool isFull_ = false;
   bool isEditable_ = true;
+  bool isShownInPart_ = false;
 };
 
 class CheckBox {

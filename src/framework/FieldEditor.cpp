@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "framework/LongText.h"
+
 namespace nascor::framework {
 
 bool FieldEditor::begin(TextField& field) {
@@ -12,14 +14,17 @@ bool FieldEditor::begin(TextField& field) {
   field_ = &field;
   text_ = field.text();
   isRefusing_ = false;
+  isFull_ = false;
   if (delegate) delegate->controlTextDidBeginEditing(field);
   changed();
   return true;
 }
 
-void FieldEditor::replace(std::string text) {
+void FieldEditor::replace(std::string_view typed) {
   if (!field_) return;
-  text_ = std::move(text);
+  TypedText taken = typedOver(text_, typed, kMostInField);
+  text_ = std::move(taken.text);
+  isFull_ = taken.isFull;
   isRefusing_ = false;
   changed();
 }
@@ -35,6 +40,7 @@ bool FieldEditor::end() {
     return false;
   }
   field_ = nullptr;
+  isFull_ = false;
   field.takeEditedText(std::exchange(text_, {}));
   // What the delegate does now may ask the user, and leave the window's fields meanwhile.
   isEnding_ = true;
@@ -52,6 +58,7 @@ void FieldEditor::revert() {
   TextField& field = *std::exchange(field_, nullptr);
   text_.clear();
   isRefusing_ = false;
+  isFull_ = false;
   if (TextFieldDelegate* delegate = field.delegate()) delegate->controlTextDidDropEditing(field);
   changed();
 }

@@ -32,8 +32,9 @@ class FieldEditor {
   /// Begins to change `field`: asks its delegate. The field in edit before is ended first. False when that one refuses
   /// or the delegate declines. A field that is in edit already stays so and is not asked again.
   bool begin(TextField& field);
-  /// Changes the edited text only. Does nothing when no field is in edit.
-  void replace(std::string text);
+  /// The user has made `typed` of the edited text. Changes that text only, which takes no more than a field does
+  /// (framework/LongText.h). Does nothing when no field is in edit.
+  void replace(std::string_view typed);
   /// Ends editing: when field and delegate agree the field takes the text and the delegate is told. False, and the field
   /// stays in edit, when they refuse. True when no field is in edit.
   bool end();
@@ -43,6 +44,8 @@ class FieldEditor {
   /// The field in edit; null for none.
   const TextField* field() const { return field_; }
   const std::string& text() const { return text_; }
+  /// Whether not all that was typed last found room.
+  bool isFull() const { return isFull_; }
   /// Whether the field in edit has refused its text and not been changed since.
   bool isRefusing() const { return isRefusing_; }
 
@@ -57,6 +60,7 @@ class FieldEditor {
   TextField* field_ = nullptr;
   std::string text_;
   bool isRefusing_ = false;
+  bool isFull_ = false;
   bool isEnding_ = false;
 };
 

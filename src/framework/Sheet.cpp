@@ -1,6 +1,7 @@
 #include "framework/Sheet.h"
 
 #include "foundation/Utf8.h"
+#include "framework/LongestBeginning.h"
 
 namespace nascor::framework {
 namespace {
@@ -10,20 +11,11 @@ constexpr double kLineHeight = 13.0;
 constexpr double kSpaceAbove = 4.0;
 constexpr double kSpaceBelow = 6.0;
 
-/// Where the last character of `text` begins.
-std::size_t lastCharacter(std::string_view text) {
-  std::size_t start = text.size() - 1;
-  while (start > 0 && (static_cast<unsigned char>(text[start]) & 0xC0U) == 0x80U) --start;
-  return start;
-}
-
 /// Moves what is too much for one line from the beginning of `text` to lines of its own.
 template <class Fits>
 void breakUp(std::string& text, const Fits& fits, std::vector<std::string>& lines) {
   while (!fits(text)) {
-    std::size_t end = lastCharacter(text);
-    while (end > 0 && !fits(std::string_view(text).substr(0, end)))
-      end = lastCharacter(std::string_view(text).substr(0, end));
+    const std::size_t end = fittingBeginning(text, fits);
     if (end == 0) return;  // no room for a single character
     lines.push_back(text.substr(0, end));
     text.erase(0, end);
@@ -43,7 +35,7 @@ std::vector<std::string> wrappedFoot(const PageFoot& foot, const Canvas& canvas,
     };
     for (const std::string& each : texts) {
       if (each.empty()) continue;
-      std::string text = foundation::oneLine(each);
+      std::string text = foundation::shownLine(each);
       const std::string longer = line.empty() ? text : std::string(line).append(kGap).append(text);
       if (fits(longer)) {
         line = longer;

@@ -29,7 +29,8 @@ struct Sheet {
   SheetFacts facts = {};
 };
 
-/// The lines of `foot` as they fit into `width` units: what does not fit goes on in a line of its own.
+/// The lines of `foot` as they fit into `width` units: what does not fit goes on in a line of its own. A text longer than
+/// can be shown (foundation/Utf8.h) is cut, with a sign that it is.
 std::vector<std::string> wrappedFoot(const PageFoot& foot, const Canvas& canvas, double width);
 
 /// The height of a foot of that many lines, in units; 0 for none.

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "foundation/NumberText.h"
+#include "framework/LongText.h"
 
 namespace nascor::framework {
 
@@ -30,6 +31,7 @@ void TextField::show(std::string text, bool wasEdited) {
   text_ = std::move(text);
   wasEdited_ = wasEdited;
   isStale_ = false;
+  isShownInPart_ = isTooLong(text_, kMostInField);
   if (onChange) onChange();
 }
 

@@ -39,9 +39,12 @@ class TextField {
   bool wasEdited() const { return wasEdited_; }
   void forgetEdits() { wasEdited_ = false; }
 
-  /// Whether the user may type here. Not where there is nothing that could hold what is typed.
-  bool isEditable() const { return isEditable_; }
+  /// Whether the user may type here. Not where there is nothing that could hold what is typed, and not over a text of which
+  /// only a part is shown.
+  bool isEditable() const { return isEditable_ && !isShownInPart_; }
   void setEditable(bool editable);
+  /// Whether the text is longer than a field shows (framework/LongText.h).
+  bool isShownInPart() const { return isShownInPart_; }
 
   /// Whether the text is to be shown in red.
   bool isRed() const { return isRed_; }
@@ -70,6 +73,7 @@ class TextField {
   bool isRed_ = false;
   bool isStale_ = false;
   bool isEditable_ = true;
+  bool isShownInPart_ = false;
 };
 
 /// A field that holds a number and shows it rounded. Only what the user types replaces the number, so showing a value and

@@ -255,6 +255,24 @@ TEST_F(AGrowthChart, takesNoLongerForAFetusCountThatADamagedFileNames) {
   EXPECT_EQ(canvas.of(Kind::mark).size(), 2U + 2U);
 }
 
+TEST_F(AGrowthChart, drawsEachOfAThousandMarksAndOfMoreNoneThatLiesOnAnother) {
+  const auto marks = [this] {
+    canvas.clear();
+    make<BPDGraphView>()->display(canvas);
+    return canvas.of(Kind::mark);
+  };
+  for (int i = 0; i < 1000; ++i) document.addExamination(20, {{.bpd = 50, .hc = 0, .ac = 0, .fl = 0}});
+  EXPECT_EQ(marks().size(), 1000U);
+  document.addExamination(20, {{.bpd = 50, .hc = 0, .ac = 0, .fl = 0}});
+  document.addExamination(30, {{.bpd = 50, .hc = 0, .ac = 0, .fl = 0}});
+  document.addExamination(20, {{.bpd = 5000, .hc = 0, .ac = 0, .fl = 0}});  // outside the chart
+  EXPECT_EQ(marks().size(), 2U);
+  // The examination on show has its disc and its mark wherever it lies.
+  document.exam = 700;
+  EXPECT_EQ(marks().size(), 3U);
+  EXPECT_EQ(canvas.of(Kind::fillOval).size(), 1U);
+}
+
 TEST_F(AGrowthChart, isDrawnWithoutADocumentAndWithoutAPatient) {
   const auto bare = framework::make<BPDGraphView>(platform.services(), {0, 0, 800, 500});
   bare->display(canvas);

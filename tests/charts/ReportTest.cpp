@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <limits>
 
 #include "charts/NascorDataView.h"
@@ -51,6 +52,9 @@ class TheReport : public ChartTest {
       }
     }
     return texts;
+  }
+  std::size_t rowsOfText(const std::string& text) {
+    return static_cast<std::size_t>(std::ranges::count(text, '\n'));
   }
   std::string textAt(double x, double y) {
     for (const auto& entry : canvas.of(Kind::text)) {
@@ -273,6 +277,33 @@ TEST_F(TheReport, isATableOfTextToo) {
                          "11/21/26\tage 0\t40.0\t0.0\t0.0\t0.0\t-\n"
                          "11/21/26\tage 1\t41.0\t0.0\t0.0\t0.0\t-\n"
                          "Projected\t40 weeks\t95.0\t340.1\t355.6\t75.0\t"));
+}
+
+TEST_F(TheReport, shortensALongIdentifierAtOnce) {
+  addExaminations(1);
+  // 260 units are there: 100 to the tab and 26 signs of six units.
+  document.patient.setMaternalIDString(std::string(1'000'000, 'A'));
+  draw();
+  EXPECT_EQ(textAt(40, 10), "Identifier:\t" + std::string(26, 'A'));
+}
+
+TEST_F(TheReport, drawsNoMoreRowsThanAnyPaperShows) {
+  addExaminations(1500);
+  document.projected = {};
+  draw(100);  // so low that every examination is listed
+  EXPECT_EQ(column(10).size(), 1U + 1000U);
+  EXPECT_EQ(canvas.of(Kind::strokeRect).back().rect.height, 164.0 + 1500.0 * 24.0 - 124.0 + 40.0);
+}
+
+TEST_F(TheReport, isReadAloudInPartAndCopiedWhole) {
+  addExaminations(150);
+  document.patient.setMaternalIDString(std::string(2000, 'A'));
+  draw();
+  const std::string whole = report->tabSeparatedText();
+  const std::string shown = report->shownText();
+  EXPECT_NE(whole.find(std::string(2000, 'A')), std::string::npos);
+  EXPECT_EQ(shown.find(std::string(1001, 'A')), std::string::npos);
+  EXPECT_EQ(rowsOfText(whole) - rowsOfText(shown), 49U) << "the sign stands for fifty";
 }
 
 }  // namespace

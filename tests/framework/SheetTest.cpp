@@ -43,6 +43,14 @@ TEST(TheFootOfAPage, losesNoCharacterOfALongText) {
   EXPECT_THAT(wrappedFoot({{{"ab"}}}, canvas, 1.0), ElementsAre("ab"));
 }
 
+TEST(TheFootOfAPage, cutsATextThatIsTooLongToRead) {
+  const tests::RecordingCanvas canvas;
+  const auto lines = wrappedFoot({{{std::string(1'000'000, 'A')}}}, canvas, 6.0 * 100.0);
+  ASSERT_EQ(lines.size(), 11U) << "1000 signs in ten lines";
+  EXPECT_EQ(lines.front(), std::string(100, 'A'));
+  EXPECT_EQ(lines.back(), "\u2026");
+}
+
 TEST(TheFootOfAPage, isOfLinesThatStayLines) {
   const tests::RecordingCanvas canvas;
   EXPECT_THAT(wrappedFoot({{{"a\nb"}}}, canvas, 100.0), ElementsAre("a\\nb"));

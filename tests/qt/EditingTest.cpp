@@ -5,6 +5,7 @@
 #include <QInputMethodEvent>
 #include <QMimeData>
 #include <QTabWidget>
+#include <QToolTip>
 #include <QWheelEvent>
 
 #include "WindowTest.h"
@@ -29,6 +30,84 @@ TEST_F(Editing, bringsWhatIsTypedIntoTheRecordWhenTheFieldIsLeft) {
   press(Qt::Key_Tab);
   EXPECT_EQ(bpd(), 83.25);
   EXPECT_EQ(field("bpdField"), "83.3");
+}
+
+void paste(const QString& text) {
+  QGuiApplication::clipboard()->setText(text);
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_V, Qt::ControlModifier);
+}
+
+TEST_F(Editing, ofAFieldThatIsFullSaysSo) {
+  open(singleton());
+  type("referenceIDField", "A");
+  QToolTip::hideText();
+  // One sign of two units does not find room for both.
+  paste(QString(998, u'B') + QStringLiteral("\U0001F476\U0001F476"));
+  EXPECT_EQ(field("referenceIDField"), "A" + std::string(998, 'B'));
+  EXPECT_EQ(QToolTip::text().toStdString(), "No more text fits here.");
+  press(Qt::Key_Tab);
+  EXPECT_EQ(document().patientRecord()->maternalIDString(), "A" + std::string(998, 'B'));
+}
+
+TEST_F(Editing, ofANoteThatIsFullSaysSo) {
+  open(singleton());
+  auto& note = widget<QPlainTextEdit>("notesField");
+  note.setFocus();
+  paste(QString(9'998, u'x') + QStringLiteral("yz"));
+  QToolTip::hideText();
+  EXPECT_EQ(note.toPlainText().size(), 10'000);
+  QTest::keyClicks(&note, QStringLiteral("a"));
+  EXPECT_EQ(note.toPlainText().size(), 10'000);
+  EXPECT_EQ(QToolTip::text().toStdString(), "No more text fits here.");
+  QTest::keyClick(&note, Qt::Key_Return);
+  EXPECT_EQ(note.toPlainText().size(), 10'000);
+  QTest::keyClick(&note, Qt::Key_Backspace);
+  QTest::keyClicks(&note, QStringLiteral("b"));
+  EXPECT_TRUE(note.toPlainText().endsWith(u'b')) << "there is room again";
+  note.selectAll();
+  paste(QString(30'000, u'w'));
+  EXPECT_EQ(document().notesField().text(), std::string(10'000, 'w'));
+}
+
+TEST_F(Editing, isNotPossibleWhereATextIsShownInPart) {
+  const std::string identifier(5000, 'A');
+  const std::string longNote(50'000, 'n');
+  const auto shown = [](char sign, std::size_t count) { return std::string(count, sign) + "\u2026"; };
+  model::PatientRecord record = singleton();
+  record.setMaternalIDString(identifier);
+  record.ncRecordsArray().back()->setNote(longNote);
+  open(record);
+  EXPECT_EQ(field("referenceIDField"), shown('A', 999));
+  auto& edit = widget<QLineEdit>("referenceIDField");
+  auto& note = widget<QPlainTextEdit>("notesField");
+  EXPECT_EQ(note.toPlainText().toStdString(), shown('n', 9'999));
+
+  for (QWidget* each : {static_cast<QWidget*>(&edit), static_cast<QWidget*>(&note)}) {
+    QToolTip::hideText();
+    each->setFocus();
+    QTest::keyClick(each, Qt::Key_Home);
+    QTest::keyClicks(each, QStringLiteral("BC"));
+    EXPECT_TRUE(QToolTip::text().startsWith(QStringLiteral("This text is too long")));
+    EXPECT_TRUE(each->accessibleDescription().contains(QStringLiteral("This text is too long")));
+    paste(QStringLiteral("BC"));
+    QTest::keyClick(each, Qt::Key_Delete);
+    press(Qt::Key_Tab);
+  }
+  EXPECT_EQ(document().patientRecord()->maternalIDString(), identifier);
+  EXPECT_EQ(document().notesField().text(), longNote);
+  action("previousAction").trigger();
+  action("nextAction").trigger();
+  settle();
+  EXPECT_EQ(document().patientRecord()->ncRecordsArray().back()->note(), longNote);
+  EXPECT_FALSE(document().isDocumentEdited());
+
+  // A script makes the text shorter, and it can be edited again.
+  document().patientRecord()->setMaternalIDString("CD-4");
+  document().synchronizeFromData();
+  type("referenceIDField", "CD-5");
+  press(Qt::Key_Tab);
+  EXPECT_EQ(document().patientRecord()->maternalIDString(), "CD-5");
+  EXPECT_FALSE(edit.accessibleDescription().contains(QStringLiteral("This text is too long")));
 }
 
 TEST_F(Editing, goesOnToTheNextFieldWithTheReturnKey) {

@@ -26,6 +26,7 @@
 #include "foundation/Localizer.h"
 #include "foundation/UserDefaults.h"
 #include "foundation/Utf8.h"
+#include "framework/LongText.h"
 #include "qt/AdjustDeliveryDialog.h"
 #include "qt/Application.h"
 #include "qt/DatingDialogs.h"
@@ -230,8 +231,9 @@ void DocumentWindow::bindFields() {
   framework::TextView& note = document_->notesField();
   NoteEdit* noteEdit = ui_->notesField;
   note.onChange = [noteEdit, &note] {
-    const QString text = fromUtf8(note.text());
+    const QString text = fromUtf8(framework::shownInEdit(note.text(), framework::kMostInNote));
     noteEdit->setReadOnly(!note.isEditable());
+    noteEdit->setShownInPart(note.isShownInPart());
     noteEdit->setPlaceholderText(
         note.isEditable() ? QString() : said("MyDocument", "There is no examination to note this at."));
     if (noteEdit->toPlainText() == text) return;
@@ -684,10 +686,10 @@ void DocumentWindow::updatePages() {
   pageViews_.at(static_cast<std::size_t>(shown))->setAdvice(advice.join(u'\n'));
   pageViews_.at(static_cast<std::size_t>(shown))
       ->setDescription(shown == app::PatientPages::kReportPage
-                           ? fromUtf8(document_->report().tabSeparatedText())
+                           ? fromUtf8(document_->report().shownText())
                            : said("MyDocument", "Growth chart of %1. Examination %2, %3. %4")
-                                 .arg(fromUtf8(foundation::oneLine(document_->preferredFileName(true))),
-                                      ui_->examinationLabel->text(), fromUtf8(document_->ageField().text()),
+                                 .arg(fromUtf8(document_->shownTitle(true)), ui_->examinationLabel->text(),
+                                      fromUtf8(document_->ageField().text()),
                                       fromUtf8(document_->spokenPage(shown))));
 }
 

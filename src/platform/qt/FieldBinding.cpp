@@ -5,13 +5,16 @@
 #include <QMetaObject>
 #include <utility>
 
+#include "framework/LongText.h"
+#include "qt/EditNotices.h"
 #include "qt/NoteEdit.h"
 #include "qt/Text.h"
 
 namespace nascor::qt {
 namespace {
 
-void show(QLineEdit& edit, const QString& text) {
+void show(QLineEdit& edit, const std::string& whole) {
+  const QString text = fromUtf8(framework::shownInEdit(whole, framework::kMostInField));
   const QString before = edit.text();
   if (before == text) return;
   const int cursor = edit.cursorPosition();
@@ -79,7 +82,7 @@ void FieldBinding::release() {
 
 void FieldBinding::refresh() {
   if (!field_ || isBeginning_) return;
-  show(edit_, fromUtf8(isInEdit() ? editor_.text() : field_->text()));
+  show(edit_, isInEdit() ? editor_.text() : field_->text());
   edit_.setRefusing(isInEdit() && editor_.isRefusing());
   showEditable();
   showColor(edit_, *field_);
@@ -89,6 +92,7 @@ void FieldBinding::refresh() {
 
 void FieldBinding::showEditable() {
   const bool isEditable = field_->isEditable();
+  edit_.setShownInPart(field_->isShownInPart());
   if (edit_.isReadOnly() != isEditable) return;
   edit_.setReadOnly(!isEditable);
   QPalette palette = edit_.palette();
@@ -105,6 +109,7 @@ QString FieldBinding::description() const {
         .arg(edit_.toolTip());
   }
   if (!edit_.isReadOnly()) return edit_.toolTip();
+  if (field_ && field_->isShownInPart()) return shownInPartText();
   return QCoreApplication::translate("FieldBinding",
                                      "Nothing can be entered here: the document holds no record for it.");
 }
@@ -122,7 +127,7 @@ void FieldBinding::typed(const QString& text) {
   isBeginning_ = true;
   const int cursor = edit_.cursorPosition();
   edit_.undo();
-  if (edit_.text() != fromUtf8(field_->text())) edit_.redo();
+  if (edit_.text() != fromUtf8(framework::shownInEdit(field_->text(), framework::kMostInField))) edit_.redo();
   actions_.perform([&] { began = editor_.begin(*field_); });
   if (!self) return;
   if (began && edit_.text() != text) edit_.redo();
@@ -184,7 +189,7 @@ void bindLabel(QLabel& label, framework::TextField& field) {
 void bindReadOnly(QLineEdit& edit, framework::TextField& field) {
   letWindowThrough(edit);
   field.onChange = [&edit, &field] {
-    show(edit, fromUtf8(field.text()));
+    show(edit, field.text());
     showColor(edit, field);
   };
   field.onChange();

@@ -8,6 +8,9 @@
 #include <QRegularExpression>
 #include <QValidator>
 
+#include "framework/LongText.h"
+#include "qt/EditNotices.h"
+
 namespace nascor::qt {
 
 QColor refusalColor(const QPalette& palette) {
@@ -28,13 +31,25 @@ class OneLine final : public QValidator {
     static const QRegularExpression kBreaksAtAnEnd(QStringLiteral("^[\\v\\t]+|[\\v\\t]+$"));
     static const QRegularExpression kBreaks(QStringLiteral("[\\v\\t]+"));
     input.remove(kBreaksAtAnEnd).replace(kBreaks, QStringLiteral(" "));
+    // A sign of two units that was cut in the middle, where there was room for one.
+    const auto isHalf = [&input](qsizetype i) {
+      if (input[i].isHighSurrogate()) return i + 1 == input.size() || !input[i + 1].isLowSurrogate();
+      return input[i].isLowSurrogate() && (i == 0 || !input[i - 1].isHighSurrogate());
+    };
+    for (qsizetype i = input.size(); i-- > 0;) {
+      if (isHalf(i)) input.remove(i, 1);
+    }
     return Acceptable;
   }
 };
 
 }  // namespace
 
-FieldEdit::FieldEdit(QWidget* parent) : QLineEdit(parent) { setValidator(new OneLine(this)); }
+FieldEdit::FieldEdit(QWidget* parent) : QLineEdit(parent) {
+  setValidator(new OneLine(this));
+  setMaxLength(static_cast<int>(framework::kMostInField));
+  connect(this, &QLineEdit::inputRejected, this, [this] { sayThatItIsFull(*this); });
+}
 
 void FieldEdit::setRefusing(bool refusing) {
   if (isRefusing_ == refusing) return;
@@ -74,12 +89,21 @@ bool FieldEdit::event(QEvent* event) {
   const auto* key = dynamic_cast<const QKeyEvent*>(event);
   if (event->type() == QEvent::ShortcutOverride && key != nullptr && key->key() == Qt::Key_Escape)
     event->accept();
+  if (event->type() == QEvent::ToolTip && isShownInPart_) {
+    sayThatItShowsAPart(*this);
+    return true;
+  }
   return QLineEdit::event(event);
 }
 
 void FieldEdit::keyPressEvent(QKeyEvent* event) {
   if (event->key() == Qt::Key_Escape && onEscape && onEscape()) {
     event->accept();
+    return;
+  }
+  if (isShownInPart_ && putsText(*event)) {
+    event->accept();
+    sayThatItShowsAPart(*this);
     return;
   }
   QLineEdit::keyPressEvent(event);

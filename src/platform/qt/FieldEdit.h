@@ -5,8 +5,8 @@
 
 namespace nascor::qt {
 
-/// A line to type in that can be outlined while it refuses what was typed. Lines that are pasted into it become one. Files
-/// that are dropped on it go to its window.
+/// A line to type in that can be outlined while it refuses what was typed. Lines that are pasted into it become one. What
+/// finds no room in it (framework/LongText.h) is left out, and it says so. Files that are dropped on it go to its window.
 class FieldEdit final : public QLineEdit {
  public:
   explicit FieldEdit(QWidget* parent = nullptr);
@@ -17,6 +17,8 @@ class FieldEdit final : public QLineEdit {
   /// Outlines the field because something cannot be done with what it holds, or not.
   void setObstacle(bool obstacle);
   bool isObstacle() const { return isObstacle_; }
+  /// Says, in place of the tool tip and whenever something is typed, that only a part of the text is shown.
+  void setShownInPart(bool isShownInPart) { isShownInPart_ = isShownInPart; }
   /// Room for a date at least.
   QSize minimumSizeHint() const override;
 
@@ -34,6 +36,7 @@ class FieldEdit final : public QLineEdit {
  private:
   bool isRefusing_ = false;
   bool isObstacle_ = false;
+  bool isShownInPart_ = false;
 };
 
 /// The colour of the outline on this palette: at least 3:1 against the field and the window.

@@ -1,24 +1,24 @@
 #pragma once
 
 #include <QEvent>
-#include <QMimeData>
 #include <QPainter>
 #include <QPlainTextEdit>
 #include <functional>
 
 namespace nascor::qt {
 
-/// A note of several lines. Files that are dropped on it go to its window.
+/// A note of several lines. What finds no room in it (framework/LongText.h) is left out, and it says so. Files that are
+/// dropped on it go to its window.
 class NoteEdit final : public QPlainTextEdit {
  public:
-  using QPlainTextEdit::QPlainTextEdit;
+  explicit NoteEdit(QWidget* parent = nullptr);
+
+  /// Says, in place of the usual tool tip and whenever something is typed, that only a part of the text is shown.
+  void setShownInPart(bool isShownInPart);
 
   std::function<void()> onLeave;  ///< the focus went elsewhere, to another window too
 
  protected:
-  bool canInsertFromMimeData(const QMimeData* source) const override {
-    return !source->hasUrls() && QPlainTextEdit::canInsertFromMimeData(source);
-  }
   bool event(QEvent* event) override {
     const bool isDone = QPlainTextEdit::event(event);
     // Many styles draw the frame of a text of several lines alike with and without the focus.
@@ -38,6 +38,17 @@ class NoteEdit final : public QPlainTextEdit {
     update();
     if (onLeave) onLeave();
   }
+  bool canInsertFromMimeData(const QMimeData* source) const override;
+  void insertFromMimeData(const QMimeData* source) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void inputMethodEvent(QInputMethodEvent* event) override;
+
+ private:
+  /// How many units of UTF-16 may take the place of what is selected.
+  qsizetype room() const;
+
+  bool isShownInPart_ = false;
+  QString usualToolTip_;
 };
 
 }  // namespace nascor::qt

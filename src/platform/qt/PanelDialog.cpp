@@ -6,7 +6,6 @@
 #include <utility>
 
 #include "foundation/Assertion.h"
-#include "foundation/Utf8.h"
 #include "qt/Text.h"
 
 namespace nascor::qt {
@@ -61,7 +60,7 @@ void PanelDialog::followPanel() {
     return;
   }
   // Where several patients are open, a dialog of the wrong one must not be taken for the right one's.
-  const QString patient = fromUtf8(foundation::oneLine(document_->preferredFileName(false)));
+  const QString patient = fromUtf8(document_->shownTitle(false));
   setWindowTitle(patient.isEmpty() ? title_ : title_ + QStringLiteral(" \u2013 ") + patient);
   refresh();
   show();

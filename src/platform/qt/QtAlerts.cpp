@@ -20,9 +20,17 @@ const QString kSheetName = QStringLiteral("sheet");
 
 /// The lines of a text. A name in one of them, of a file or a patient, gives it no other direction.
 QString linesOf(const std::string& text) {
+  // More than fits on any screen. No sentence of the program is as long, but a name in it may be.
+  constexpr int kMostLines = 40;
   QStringList lines;
-  for (const QString& line : fromUtf8(text).split(u'\n'))
-    lines << fromUtf8(foundation::oneLine(toUtf8(line)));
+  std::string_view left = text;
+  while (lines.size() < kMostLines) {
+    const std::size_t end = left.find('\n');
+    lines << fromUtf8(foundation::shownLine(left.substr(0, end)));
+    if (end == std::string_view::npos) return lines.join(u'\n');
+    left.remove_prefix(end + 1);
+  }
+  lines << fromUtf8(foundation::kCutSign);
   return lines.join(u'\n');
 }
 
