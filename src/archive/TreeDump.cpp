@@ -16,6 +16,8 @@ namespace {
 /// Known streams give up to 25 bytes of text a byte, the deepest indentation gives some 120.
 constexpr std::size_t kTextPerByte = 250;
 constexpr std::size_t kTextAllowed = 65'536;
+/// What is handed on at once.
+constexpr std::size_t kPiece = 65'536;
 
 std::string hexDigits(std::span<const std::byte> bytes) {
   constexpr std::string_view kDigits = "0123456789abcdef";
@@ -295,13 +297,14 @@ class TextForm final : public Form {
 /// Reads a stream to its end and tells a form of all that it meets.
 class Dump {
  public:
-  Dump(TypedStreamReader& reader, Form& form, std::size_t size)
-      : reader_(reader), form_(form), longest_(kTextAllowed + kTextPerByte * size) {}
+  Dump(TypedStreamReader& reader, Form& form, std::size_t size, const TakeText& take)
+      : reader_(reader), form_(form), longest_(kTextAllowed + kTextPerByte * size), take_(take) {}
 
   void run() {
     form_.beginStream();
     groups();
     form_.endStream();
+    handOn();
   }
 
  private:
@@ -318,11 +321,12 @@ class Dump {
   void values() {
     while (const TypeNode* type = reader_.due()) {
       value(*type);
-      if (form_.out.size() > longest_) {
+      if (handedOn_ + form_.out.size() > longest_) {
         throw FormatError(reader_.offset(), "the text of this stream is more than " +
                                                 std::to_string(kTextPerByte) +
                                                 " times as long as the stream itself");
       }
+      if (form_.out.size() >= kPiece) handOn();
     }
   }
 
@@ -363,23 +367,52 @@ class Dump {
     form_.endObject();
   }
 
+  void handOn() {
+    handedOn_ += form_.out.size();
+    if (take_) take_(form_.out);
+    form_.out.clear();
+  }
+
   TypedStreamReader& reader_;
   Form& form_;
   std::size_t longest_;
+  const TakeText& take_;
+  std::size_t handedOn_ = 0;
 };
 
 template <class AForm>
-std::string dump(std::span<const std::byte> bytes) {
+void dump(std::span<const std::byte> bytes, const TakeText& take) {
   TypedStreamReader reader(bytes);
   AForm form(reader);
-  Dump(reader, form, bytes.size()).run();
-  return std::move(form.out);
+  Dump(reader, form, bytes.size(), take).run();
+}
+
+/// Nothing is handed on before the whole stream is known to be well-formed: it is read twice rather than kept as text.
+template <class AForm>
+void checkedDump(std::span<const std::byte> bytes, const TakeText& take) {
+  dump<AForm>(bytes, nullptr);
+  dump<AForm>(bytes, take);
+}
+
+template <class AForm>
+std::string wholeDump(std::span<const std::byte> bytes) {
+  std::string text;
+  dump<AForm>(bytes, [&](std::string_view piece) { text += piece; });
+  return text;
 }
 
 }  // namespace
 
-std::string dumpAsJson(std::span<const std::byte> bytes) { return dump<JsonForm>(bytes); }
+void dumpAsJsonInPieces(std::span<const std::byte> bytes, const TakeText& take) {
+  checkedDump<JsonForm>(bytes, take);
+}
 
-std::string dumpAsText(std::span<const std::byte> bytes) { return dump<TextForm>(bytes); }
+void dumpAsTextInPieces(std::span<const std::byte> bytes, const TakeText& take) {
+  checkedDump<TextForm>(bytes, take);
+}
+
+std::string dumpAsJson(std::span<const std::byte> bytes) { return wholeDump<JsonForm>(bytes); }
+
+std::string dumpAsText(std::span<const std::byte> bytes) { return wholeDump<TextForm>(bytes); }
 
 }  // namespace nascor::archive

@@ -1,8 +1,10 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <span>
 #include <string>
+#include <string_view>
 
 namespace nascor::archive {
 
@@ -33,5 +35,13 @@ std::string dumpAsJson(std::span<const std::byte> bytes);
 /// The same for people: one line a value, indented by what holds it, each line beginning with the byte where
 /// the value begins. Line ends are "\n". Throws as dumpAsJson() does.
 std::string dumpAsText(std::span<const std::byte> bytes);
+
+/// Takes a dump piece by piece.
+using TakeText = std::function<void(std::string_view piece)>;
+
+/// The same texts in pieces, so that no more than a piece is in memory. The stream is read twice: the first piece comes when
+/// it is known to be well-formed, and a function that throws has handed on nothing.
+void dumpAsJsonInPieces(std::span<const std::byte> bytes, const TakeText& take);
+void dumpAsTextInPieces(std::span<const std::byte> bytes, const TakeText& take);
 
 }  // namespace nascor::archive

@@ -181,7 +181,7 @@ class TypedStreamReader {
   std::int64_t systemVersion_ = 0;
   ValueWalk walk_;
   std::deque<SharedString> strings_;  // a deque, since the walk points into it while it grows
-  std::vector<LabelEntry> labels_;
+  std::deque<LabelEntry> labels_;     // a deque, since a vector that grows takes three times its size
   std::unordered_map<std::string_view, Label> classes_;  // the first record of each name
 };
 

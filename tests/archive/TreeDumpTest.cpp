@@ -6,6 +6,7 @@
 
 #include "Bytes.h"
 #include "archive/FormatError.h"
+#include "support/Spent.h"
 
 namespace nascor::archive {
 namespace {
@@ -172,6 +173,55 @@ TEST(DumpingAHostileStream, keepsItsJsonValidWhenNamesAreNot) {
   EXPECT_EQ(
       groups("84 01 '#' 84 84 02 'A' ff 00 85"),
       "{\"types\":\"#\",\"values\":[{\"cls\":0,\"name\":\"A\xEF\xBF\xBD\",\"version\":0,\"super\":null}]}");
+}
+
+// ---- In pieces
+
+/// A group of as many bytes.
+Bytes longStream(std::size_t values) {
+  Bytes stream = little("");
+  for (std::size_t i = 0; i < values; ++i) {
+    const Bytes group = i == 0 ? bytes("84 01 'i' 05") : bytes("92 05");
+    stream.insert(stream.end(), group.begin(), group.end());
+  }
+  return stream;
+}
+
+TEST(DumpingInPieces, givesTheSameText) {
+  const Bytes stream = longStream(50'000);
+  std::string text;
+  std::size_t pieces = 0;
+  dumpAsTextInPieces(stream, [&](std::string_view piece) {
+    text += piece;
+    ++pieces;
+  });
+  EXPECT_TRUE(text == dumpAsText(stream));
+  EXPECT_GT(pieces, 10U);
+  text.clear();
+  dumpAsJsonInPieces(stream, [&](std::string_view piece) { text += piece; });
+  EXPECT_TRUE(text == dumpAsJson(stream));
+}
+
+TEST(DumpingInPieces, handsOnNothingOfABrokenStream) {
+  Bytes stream = longStream(50'000);
+  stream.push_back(std::byte{0x92});
+  std::size_t pieces = 0;
+  EXPECT_THROW(dumpAsTextInPieces(stream, [&](std::string_view) { ++pieces; }), FormatError);
+  EXPECT_THROW(dumpAsJsonInPieces(stream, [&](std::string_view) { ++pieces; }), FormatError);
+  EXPECT_EQ(pieces, 0U);
+}
+
+TEST(DumpingInPieces, takesNoMoreMemoryThanFiftyBytesAByte) {
+  if (tests::kIsSanitized) GTEST_SKIP() << "a sanitizer keeps memory of its own";
+  // Groups of one byte's type and value; objects as short as can be; one long text.
+  const Bytes shortObjects = little("84 01 '@' 84 84 84 01 'A' 00 85 86") + repeated(300'000, "92 84 93 86");
+  for (const Bytes& stream :
+       {longStream(500'000), shortObjects, little("84 01 '+' 82 00 00 10 00") + repeated(1'048'576, "1b")}) {
+    const tests::Spent spent;
+    dumpAsTextInPieces(stream, [](std::string_view) {});
+    dumpAsJsonInPieces(stream, [](std::string_view) {});
+    EXPECT_LT(spent.memory() * 1048576.0, 50.0 * static_cast<double>(stream.size()));
+  }
 }
 
 }  // namespace

@@ -59,12 +59,17 @@ void runDump(const Arguments& arguments, Console& console) {
     const auto contents = contentsOf(path, console);
     if (!contents) continue;
     try {
-      std::string tree = asJson ? archive::dumpAsJson(*contents) : archive::dumpAsText(*contents);
-      if (!asJson) {
-        if (arguments.operands.size() > 1) console.out() += oneLine(nameOf(path)) + ": ";
-        tree.pop_back();  // the last line end, which follows
-      }
-      console.out() += tree;
+      std::string before;
+      if (!asJson && arguments.operands.size() > 1) before.append(oneLine(nameOf(path))).append(": ");
+      const auto take = [&](std::string_view piece) {
+        const bool endsLine = piece.ends_with('\n');
+        console.out() += before;
+        console.out() += endsLine ? piece.substr(0, piece.size() - 1) : piece;
+        console.partDone();
+        before.clear();
+        if (endsLine) before += '\n';  // the last line end is not the dump's to write
+      };
+      asJson ? archive::dumpAsJsonInPieces(*contents, take) : archive::dumpAsTextInPieces(*contents, take);
       console.lineDone();
     } catch (const archive::FormatError& error) {
       console.complain(nameOf(path), error.what());
