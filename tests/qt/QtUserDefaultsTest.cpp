@@ -7,6 +7,8 @@
 #include <QSettings>
 #include <QTemporaryDir>
 
+#include <sys/stat.h>
+
 #include "Sample.h"
 #include "qt/DocumentApplication.h"
 
@@ -44,6 +46,41 @@ TEST_F(ThePreferences, areWrittenAtOnce) {
   QtUserDefaults defaults;
   defaults.setValue(standard, "3");
   EXPECT_TRUE(contents().contains("Standard=3")) << contents().toStdString();
+}
+
+/// What new files may not be, until the end of a test.
+class Umask {
+ public:
+  explicit Umask(mode_t mask) : before_(::umask(mask)) {}
+  Umask(const Umask&) = delete;
+  Umask& operator=(const Umask&) = delete;
+  ~Umask() { ::umask(before_); }
+
+ private:
+  mode_t before_;
+};
+
+mode_t modeOf(const QString& path) {
+  struct stat facts {};
+  return ::stat(QFile::encodeName(path).constData(), &facts) == 0 ? facts.st_mode & 07777U : 0;
+}
+
+TEST_F(ThePreferences, areReadByTheirOwnerAloneWhateverTheUmask) {
+  for (const mode_t mask : {mode_t{000}, mode_t{022}, mode_t{077}}) {
+    QFile::remove(path());
+    const Umask umask(mask);
+    QtUserDefaults().setValue(standard, "3");
+    EXPECT_EQ(modeOf(path()), mode_t{0600});
+    QtUserDefaults().setValue(standard, "2");
+    EXPECT_EQ(modeOf(path()), mode_t{0600}) << "written again";
+  }
+}
+
+TEST_F(ThePreferences, thatAnOlderProgramLeftOpenAreClosed) {
+  QtUserDefaults().setValue(standard, "3");
+  ASSERT_EQ(::chmod(QFile::encodeName(path()).constData(), 0666), 0);
+  EXPECT_EQ(QtUserDefaults().value(standard), "3");
+  EXPECT_EQ(modeOf(path()), mode_t{0600});
 }
 
 TEST_F(ThePreferences, keepNamesWithBlanksAndTextsWithSigns) {
