@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <cstdint>
+#include <iterator>
 
 #include "foundation/RangeError.h"
 #include "model/PatientFile.h"

@@ -43,8 +43,9 @@ double formulaAnswer(const Example& example) {
 
 double standardAnswer(const Example& example) {
   const auto& [a, b, c, d] = example.given;
-  const auto row = [&] {
-    return calc::growthStandards()[example.which].row(measurementOf(example), static_cast<int>(a));
+  const auto row = [&example] {
+    const int week = static_cast<int>(example.given[0]);
+    return calc::growthStandards()[example.which].row(measurementOf(example), week);
   };
   switch (example.question) {
     case Question::rowMean: return row().mean();
