@@ -26,8 +26,10 @@ void appendWeights(std::vector<Column>& columns, std::optional<std::int64_t> for
 
 /// Mean, standard deviation and z-score of each length.
 void appendBlock(std::vector<Column>& columns, std::int64_t standard) {
-  const auto* named = calc::growthStandard(standard);
-  const std::string prefix = named ? std::string(named->name) + "_" : "";
+  const std::string prefix =
+      standard == kOwnStandard
+          ? std::string()
+          : std::string(calc::references()[static_cast<std::size_t>(standard)].name) + "_";
   for (const calc::Measurement measurement : calc::kMeasurements) {
     const auto appendOne = [&](const char* ending, Content content) {
       columns.push_back({.name = prefix + std::string(calc::nameOf(measurement)) + ending,
@@ -73,7 +75,22 @@ void appendTail(std::vector<Column>& columns, bool identified) {
   append(columns, "error", Content::error);
 }
 
+/// The places of all references of which a block can be made.
+std::vector<std::int64_t> allBlocks() {
+  std::vector<std::int64_t> places;
+  for (std::size_t place = 0; place < calc::references().size(); ++place) {
+    if (hasBlock(calc::references()[place])) places.push_back(static_cast<std::int64_t>(place));
+  }
+  return places;
+}
+
 }  // namespace
+
+bool hasBlock(const calc::Reference& reference) {
+  const bool hasMeanAndSD =
+      reference.form == calc::ReferenceForm::table || reference.form == calc::ReferenceForm::meanAndSD;
+  return hasMeanAndSD && calc::tellsOf(reference, calc::Quantity::bpd);
+}
 
 std::vector<std::int64_t> allStandards() {
   std::vector<std::int64_t> standards(calc::growthStandards().size());
@@ -104,13 +121,13 @@ std::vector<Column> everyPatientColumn(bool identified, bool datesAreRelative) {
   appendHead(columns, datesAreRelative);
   appendWeights(columns, std::nullopt);
   appendOwnBlock(columns);
-  for (const std::int64_t standard : allStandards()) appendBlock(columns, standard);
+  for (const std::int64_t standard : allBlocks()) appendBlock(columns, standard);
   appendTail(columns, identified);
   return columns;
 }
 
 std::vector<Column> everyComputedColumn() {
-  return computedColumns({.standards = allStandards(), .formula = std::nullopt});
+  return computedColumns({.standards = allBlocks(), .formula = std::nullopt});
 }
 
 }  // namespace nascor::rows

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "calc/Biometry.h"
+#include "calc/References.h"
 
 namespace nascor::rows {
 
@@ -41,15 +42,15 @@ struct Column {
   std::string name;  ///< UTF-8, but for a column of the input
   Content content;
   calc::Measurement measurement{};  ///< of a length, mean, standard deviation or z-score
-  /// Of a weight the identifier of its formula; of a mean, standard deviation or z-score that of its growth standard, or
-  /// `kOwnStandard`; of a cell of the input its place there, from 0.
+  /// Of a weight the identifier of its formula; of a mean, standard deviation or z-score the place of its reference
+  /// (calc/References.h), which for a growth standard is its identifier, or `kOwnStandard`; of a cell of the input its place there, from 0.
   std::int64_t number = 0;
 };
 
 /// Which columns there are.
 struct Choice {
-  std::vector<std::int64_t>
-      standards{};  ///< a block for each, in this order; without any each document's own
+  /// Places of references, a block for each, in this order; without any each document's own.
+  std::vector<std::int64_t> standards{};
   std::optional<std::int64_t> formula{};  ///< one weight; without it all eight
   bool identified = false;                ///< reference ID and note too
   bool datesAreRelative = false;          ///< days to the EDD in place of examination date and EDD
@@ -57,6 +58,9 @@ struct Choice {
 
 /// All four growth standards.
 std::vector<std::int64_t> allStandards();
+
+/// Whether a block can be made of that reference: it tells mean and standard deviation of all four lengths.
+bool hasBlock(const calc::Reference& reference);
 
 /// The columns of rows of documents, in order.
 std::vector<Column> patientColumns(const Choice& choice);

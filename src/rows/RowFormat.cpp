@@ -8,6 +8,7 @@
 #include "calc/Centile.h"
 #include "calc/FetalWeight.h"
 #include "calc/LookUp.h"
+#include "calc/References.h"
 #include "foundation/JsonText.h"
 #include "rows/Warnings.h"
 
@@ -87,22 +88,31 @@ void RowFormat::appendHeader(std::string& out) const {
   out += '\n';
 }
 
-const calc::ReferenceTable* RowFormat::tableOf(const Reference& reference, const Row& row) const {
-  const std::int64_t standard = reference.standard == kOwnStandard ? row.standard : reference.standard;
-  if (!calc::growthStandard(standard)) return nullptr;
-  return &tables_[static_cast<std::size_t>(standard)][static_cast<std::size_t>(reference.measurement)];
+std::optional<std::size_t> RowFormat::placeOf(std::int64_t standard, const Row& row) {
+  if (standard != kOwnStandard) return static_cast<std::size_t>(standard);
+  if (!calc::growthStandard(row.standard)) return std::nullopt;
+  return static_cast<std::size_t>(row.standard);
+}
+
+RowFormat::Found RowFormat::foundBy(const Reference& reference, const Row& row) const {
+  const auto place = placeOf(reference.standard, row);
+  if (!place) return {};
+  if (*place < tables_.size()) {
+    const calc::ReferenceTable& table = tables_[*place][static_cast<std::size_t>(reference.measurement)];
+    return {.isThere = true,
+            .mean = calc::meanForGestation(table, row.age),
+            .sd = calc::sdForGestation(table, row.age)};
+  }
+  const auto population =
+      calc::populationAt(calc::references()[*place], calc::quantityOf(reference.measurement), row.age);
+  if (!population) return {};
+  return {.isThere = true, .mean = population->mean().value_or(0.0), .sd = population->sd().value_or(0.0)};
 }
 
 void RowFormat::append(std::string& out, const Row& row) const {
   std::array<Found, kMostReferences> found;
   if (row.error.empty() && row.age != 0.0) {
-    for (std::size_t i = 0; i < references_.size(); ++i) {
-      const auto* table = tableOf(references_[i], row);
-      if (!table) continue;
-      found[i] = {.isThere = true,
-                  .mean = calc::meanForGestation(*table, row.age),
-                  .sd = calc::sdForGestation(*table, row.age)};
-    }
+    for (std::size_t i = 0; i < references_.size(); ++i) found[i] = foundBy(references_[i], row);
   }
   for (std::size_t i = 0; i < columns_.size(); ++i) {
     out += prefixes_[i];
@@ -186,17 +196,24 @@ void RowFormat::appendText(std::string& out, std::string_view text) const {
 void RowFormat::appendWarning(std::string& out, const Row& row) const {
   std::array<StandardInUse, 5> standards;
   std::size_t count = 0;
+  std::string beyond;
   for (const std::int64_t identifier : standards_) {
-    const std::int64_t meant = identifier == kOwnStandard ? row.standard : identifier;
-    const auto* standard = calc::growthStandard(meant);
-    const auto used = std::span(standards).first(count);
-    if (standard == nullptr || std::ranges::find(used, standard, &StandardInUse::standard) != used.end())
+    const auto place = placeOf(identifier, row);
+    if (!place) continue;
+    if (*place >= tables_.size()) {
+      const calc::Reference& reference = calc::references()[*place];
+      if (row.age != 0.0 && !calc::reaches(reference, row.age))
+        beyond += "; " + outsideText(reference, row.age);
       continue;
-    standards.at(count++) = {.standard = standard,
-                             .table = &tables_[static_cast<std::size_t>(meant)].front()};
+    }
+    const auto* standard = calc::growthStandard(static_cast<std::int64_t>(*place));
+    const auto used = std::span(standards).first(count);
+    if (std::ranges::find(used, standard, &StandardInUse::standard) != used.end()) continue;
+    standards.at(count++) = {.standard = standard, .table = &tables_[*place].front()};
   }
   std::string warning;
   appendWarnings(warning, row.lengths, row.age, std::span(standards).first(count));
+  warning += warning.empty() && !beyond.empty() ? beyond.substr(2) : beyond;
   appendText(out, warning);
 }
 

@@ -61,7 +61,7 @@ class RowFormat {
   void append(std::string& out, const Row& row) const;
 
  private:
-  /// A length's mean and standard deviation by one standard, which several columns of a row share.
+  /// A length's mean and standard deviation by one reference, which several columns of a row share.
   struct Reference {
     std::int64_t standard;
     calc::Measurement measurement;
@@ -71,9 +71,11 @@ class RowFormat {
     double mean = 0.0;
     double sd = 0.0;
   };
-  static constexpr std::size_t kMostReferences = 20;
+  static constexpr std::size_t kMostReferences = 24;
 
-  const calc::ReferenceTable* tableOf(const Reference& reference, const Row& row) const;
+  /// The place of the reference that is meant in a row; nothing for a document's own standard that is unknown.
+  static std::optional<std::size_t> placeOf(std::int64_t standard, const Row& row);
+  Found foundBy(const Reference& reference, const Row& row) const;
   void appendCell(std::string& out, std::size_t place, const Row& row, std::span<const Found> found) const;
   void appendEmpty(std::string& out) const;
   void appendNumber(std::string& out, double value, int decimals) const;

@@ -53,4 +53,9 @@ void appendWarnings(std::string& out, const calc::Biometry& lengths, double age,
   }
 }
 
+std::string outsideText(const calc::Reference& reference, double week) {
+  return shortestText(week) + " weeks lie outside " + std::string(reference.name) + ", which has " +
+         std::to_string(reference.firstWeek) + " to " + std::to_string(reference.lastWeek) + " weeks";
+}
+
 }  // namespace nascor::rows

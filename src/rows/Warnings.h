@@ -4,6 +4,7 @@
 #include <string>
 
 #include "calc/Biometry.h"
+#include "calc/References.h"
 #include "calc/Standards.h"
 
 namespace nascor::rows {
@@ -20,5 +21,8 @@ struct StandardInUse {
 /// counts.
 void appendWarnings(std::string& out, const calc::Biometry& lengths, double age,
                     std::span<const StandardInUse> standards);
+
+/// "45 weeks lie outside who-2017, which has 14 to 40 weeks".
+std::string outsideText(const calc::Reference& reference, double week);
 
 }  // namespace nascor::rows

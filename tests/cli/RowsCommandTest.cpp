@@ -322,6 +322,42 @@ TEST(RowsColumns, ofEachStandardHoldItsNumbers) {
   EXPECT_EQ(row.at("westerway_bpd_sd_mm"), "1.9");
 }
 
+TEST(RowsColumns, ofAFurtherReferenceHoldItsNumbers) {
+  EXPECT_EQ(headerOf({"--standard", "INTERGROWTH-2014,cfef"}),
+            kHead + kWeights + block("intergrowth-2014_") + block("cfef_") + "warning,error");
+  const CsvRow row = rowsOfPatient(kTwins, {"--standard", "0,intergrowth-2014"})[0];
+  const std::string length = row.at("hc_mm");
+  const auto lines = linesOf(
+      run({"reference", "intergrowth-2014", "hc", "--week", row.at("ga_weeks"), "--value", length}).out);
+  EXPECT_EQ("mean: " + row.at("intergrowth-2014_hc_mean_mm"), lines.at(4));
+  EXPECT_EQ("sd: " + row.at("intergrowth-2014_hc_sd_mm"), lines.at(5));
+  EXPECT_EQ("z: " + row.at("intergrowth-2014_hc_z"), lines.at(7));
+  EXPECT_EQ(row.at("warning"), "");
+  EXPECT_EQ(headerOf({"--columns", "intergrowth-2014_fl_z"}), "intergrowth-2014_fl_z");
+}
+
+TEST(RowsColumns, ofAFurtherReferenceAreEmptyBeyondItsWeeks) {
+  const auto beyond = rowsOfPatient(
+      singleton(R"("edd":"2027-04-10",)", R"("examDate":"2027-04-11","measurements":[{"bpd":95}])"),
+      {"--standard", "intergrowth-2014,cfef"});
+  EXPECT_EQ(beyond[0].at("intergrowth-2014_bpd_mean_mm"), "");
+  EXPECT_EQ(beyond[0].at("intergrowth-2014_bpd_z"), "");
+  EXPECT_EQ(beyond[0].at("cfef_bpd_mean_mm"), "93.45");
+  EXPECT_THAT(beyond[0].at("warning"),
+              HasSubstr("beyond cfef, whose last week, 40, counts; 40.142857142857146 "
+                        "weeks lie outside intergrowth-2014, which has 14 to 40 weeks"));
+  const auto alone = rowsOfPatient(
+      singleton(R"("edd":"2027-04-10",)", R"("examDate":"2027-04-11","measurements":[{"bpd":95}])"),
+      {"--standard", "intergrowth-2014"});
+  EXPECT_THAT(alone[0].at("warning"), testing::StartsWith("40.142857142857146 weeks lie outside"));
+}
+
+TEST(RowsColumns, ofAnUnknownStandardOfADocumentAreThoseOfNoOtherReference) {
+  const auto rows = rowsOfPatient(singleton(R"("edd":"2027-04-10","standard":4,)",
+                                            R"("examDate":"2026-12-19","measurements":[{"bpd":60}])"));
+  EXPECT_EQ(rows[0].at("bpd_mean_mm"), "");
+}
+
 TEST(Rows, fixedAreAsCPrintsThem) {
   // 25.25 lies in the middle, and so does 75.75: the even digit wins.
   const auto rows = rowsOfPatient(kTwins, {"--fixed"});
@@ -646,6 +682,8 @@ INSTANTIATE_TEST_SUITE_P(
                     UsageCase{"standardEmptyInList", {"-", "--standard", "0,"}, "--standard"},
                     UsageCase{"standardUnknown", {"-", "--standard", "4"}, "\"4\""},
                     UsageCase{"standardUnknownName", {"-", "--standard", "who"}, "\"who\""},
+                    UsageCase{"standardOfCurves", {"-", "--standard", "who-2017"}, "has no mean and SD"},
+                    UsageCase{"standardOfWeights", {"-", "--standard", "hadlock-1991"}, "has no mean and SD"},
                     UsageCase{"allInList", {"-", "--standard", "all,0"}, "\"all\""},
                     UsageCase{"formulaUnknown", {"-", "--formula", "8"}, "\"8\""},
                     UsageCase{"columnUnknown", {"-", "--columns", "bpd"}, "no column \"bpd\""},

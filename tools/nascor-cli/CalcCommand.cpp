@@ -97,7 +97,8 @@ void runCalc(const Arguments& arguments, Console& console) {
 
 Command calcCommand() {
   static constexpr std::array<OptionSpec, 4> kOptions{{
-      {"standard", "LIST", "growth standards, by number or name, with commas between; without it all"},
+      {"standard", "LIST",
+       "growth standards by number or name, intergrowth-2014, with commas between; without it all four"},
       {"formula", "N", "one weight, by number or name, instead of all eight"},
       {"columns", "LIST", "only these columns, of the input or computed, in this order"},
       {"fixed", "", "what is computed with one decimal, z-scores with three"},

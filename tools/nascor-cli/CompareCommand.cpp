@@ -14,6 +14,7 @@
 #include "foundation/Localizer.h"
 #include "foundation/NumberText.h"
 #include "posix/PosixCalendar.h"
+#include "rows/Warnings.h"
 
 namespace nascor::cli {
 
@@ -37,7 +38,7 @@ std::string cautionText(Caution caution, const calc::Reference& reference, std::
   const std::string name(reference.name);
   switch (caution) {
     case Caution::ageUnknown: return "the age is not known";
-    case Caution::outsideWeeks: return outsideText(reference, age.value_or(0.0));
+    case Caution::outsideWeeks: return rows::outsideText(reference, age.value_or(0.0));
     case Caution::otherFormula:
       return name + " fits weights by " +
              std::string(calc::weightFormulas()[static_cast<std::size_t>(reference.onlyFormula.value_or(0))]

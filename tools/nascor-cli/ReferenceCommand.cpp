@@ -12,6 +12,7 @@
 #include "cli_commands/Table.h"
 #include "foundation/JsonText.h"
 #include "foundation/NumberText.h"
+#include "rows/Warnings.h"
 
 namespace nascor::cli {
 
@@ -145,7 +146,7 @@ void answerZ(Answer& answer, const Question& question, const calc::Population& p
 
 Answer answerTo(const Question& question, double week, double number) {
   const auto population = calc::populationAt(*question.reference, question.quantity, week);
-  if (!population) return {.warning = outsideText(*question.reference, week)};
+  if (!population) return {.warning = rows::outsideText(*question.reference, week)};
   Answer answer{
       .week = week, .mean = population->mean(), .sd = population->sd(), .median = population->median()};
   switch (question.given) {

@@ -13,7 +13,7 @@ using foundation::JsonText;
 using foundation::shortestText;
 
 std::string centileText(const calc::Centile& centile) {
-  const std::string percent = shortestText(centile.percent);
+  std::string percent = shortestText(centile.percent);
   switch (centile.side) {
     case calc::Centile::Side::below: return "<" + percent;
     case calc::Centile::Side::above: return ">" + percent;
@@ -38,11 +38,6 @@ void writeOrNull(JsonText& json, const std::optional<calc::Centile>& centile) {
   } else {
     json.text(centileText(*centile));
   }
-}
-
-std::string outsideText(const calc::Reference& reference, double week) {
-  return shortestText(week) + " weeks lie outside " + std::string(reference.name) + ", which has " +
-         std::to_string(reference.firstWeek) + " to " + std::to_string(reference.lastWeek) + " weeks";
 }
 
 const calc::Reference& requiredReference(std::string_view what, const std::string& text) {

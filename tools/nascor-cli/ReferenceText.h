@@ -17,9 +17,6 @@ std::string centileText(const calc::Centile& centile);
 void writeOrNull(foundation::JsonText& json, std::optional<double> number);
 void writeOrNull(foundation::JsonText& json, const std::optional<calc::Centile>& centile);
 
-/// "45 weeks lie outside who-2017, which has 14 to 40 weeks".
-std::string outsideText(const calc::Reference& reference, double week);
-
 /// The reference of that name, in letters of any size, or a UsageError that lists what there is.
 const calc::Reference& requiredReference(std::string_view what, const std::string& text);
 

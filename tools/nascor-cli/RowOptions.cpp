@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "calc/References.h"
 #include "cli_commands/Names.h"
 
 namespace nascor::cli {
@@ -16,13 +17,27 @@ std::vector<std::string> partsOf(const std::string& list) {
   }
 }
 
+namespace {
+
+/// The place of a growth standard, by number or name, or of another reference of which a block can be made, by name.
+std::int64_t requiredBlock(const std::string& text) {
+  const auto all = calc::references();
+  const auto found = std::ranges::find(all, inSmallLetters(text), &calc::Reference::name);
+  if (found == all.end()) return requiredStandard("--standard", text);
+  if (!rows::hasBlock(*found))
+    throw UsageError("--standard: " + std::string(found->name) + " has no mean and SD of the four lengths");
+  return found - all.begin();
+}
+
+}  // namespace
+
 std::vector<std::int64_t> chosenStandards(const Arguments& arguments) {
   const auto list = arguments.option("standard");
   if (!list) return {};
   if (inSmallLetters(*list) == "all") return rows::allStandards();
   std::vector<std::int64_t> standards;
   for (const std::string& part : partsOf(*list)) {
-    const std::int64_t standard = requiredStandard("--standard", part);
+    const std::int64_t standard = requiredBlock(part);
     if (std::ranges::find(standards, standard) != standards.end()) {
       throw UsageError("--standard: \"" + part + "\" stands there twice");
     }
