@@ -1,0 +1,209 @@
+#include "dicom/FileStructure.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <string_view>
+#include <vector>
+
+namespace nascor::dicom {
+
+namespace {
+
+constexpr std::size_t kPreamble = 128;
+constexpr std::uint32_t kUndefined = 0xFFFFFFFFU;
+constexpr std::uint32_t kItem = 0xFFFEE000U;
+constexpr std::uint32_t kItemEnd = 0xFFFEE00DU;
+constexpr std::uint32_t kSequenceEnd = 0xFFFEE0DDU;
+constexpr std::uint32_t kTransferSyntax = 0x00020010U;
+/// Two levels for each level of a report's content.
+constexpr std::size_t kDeepest = 128;
+
+constexpr std::string_view kCutOff = "is cut off: it ends before its end";
+constexpr std::string_view kDamaged = "is damaged: a part is longer than what holds it";
+
+struct Encoding {
+  bool isExplicit = true;
+  bool isBigEndian = false;
+};
+
+/// A sequence, or an item of one, that is open.
+struct Level {
+  std::size_t end = 0;  ///< of a defined length
+  bool isUndefined = false;
+  bool isItem = false;
+  Encoding encoding;
+};
+
+struct Header {
+  std::uint32_t tag = 0;
+  std::string_view vr;  ///< empty when it is implicit
+  std::uint32_t length = 0;
+};
+
+class Walk {
+ public:
+  explicit Walk(std::span<const std::byte> bytes)
+      : text_(reinterpret_cast<const char*>(bytes.data()), bytes.size()) {}
+
+  std::optional<std::string> fault() {
+    if (text_.substr(std::min(kPreamble, text_.size()), 4) != "DICM") return "is no DICOM file";
+    at_ = kPreamble + 4;
+    if (!header()) return fault_;
+    if (!elements()) return fault_;
+    return std::nullopt;
+  }
+
+ private:
+  bool refuse(std::string_view sentence) {
+    fault_ = sentence;
+    return false;
+  }
+
+  std::uint32_t number(std::size_t at, std::size_t size, bool isBigEndian) const {
+    std::uint32_t value = 0;
+    for (std::size_t i = 0; i < size; ++i) {
+      const std::size_t place = isBigEndian ? i : size - 1 - i;
+      value = value << 8U | static_cast<unsigned char>(text_[at + place]);
+    }
+    return value;
+  }
+
+  std::uint32_t tagAt(std::size_t at, bool isBigEndian) const {
+    return number(at, 2, isBigEndian) << 16U | number(at + 2, 2, isBigEndian);
+  }
+
+  bool has(std::size_t count) const { return text_.size() - at_ >= count; }
+
+  /// Reads tag, representation and length at `at_` and steps behind them.
+  bool readHeader(Encoding encoding, Header& result) {
+    constexpr std::array<std::string_view, 13> kLong{"OB", "OD", "OF", "OL", "OV", "OW", "SQ",
+                                                     "UC", "UR", "UT", "UN", "SV", "UV"};
+    if (!has(8)) return refuse(kCutOff);
+    result.tag = tagAt(at_, encoding.isBigEndian);
+    const bool isDelimiter = result.tag >> 16U == kItem >> 16U;
+    result.vr = encoding.isExplicit && !isDelimiter ? text_.substr(at_ + 4, 2) : std::string_view();
+    if (result.vr.empty()) {
+      result.length = number(at_ + 4, 4, encoding.isBigEndian);
+      at_ += 8;
+    } else if (std::ranges::find(kLong, result.vr) == kLong.end()) {
+      result.length = number(at_ + 6, 2, encoding.isBigEndian);
+      at_ += 8;
+    } else {
+      if (!has(12)) return refuse(kCutOff);
+      result.length = number(at_ + 8, 4, encoding.isBigEndian);
+      at_ += 12;
+    }
+    return true;
+  }
+
+  /// The group that says how the rest is encoded.
+  bool header() {
+    while (at_ < text_.size()) {
+      if (!has(2)) return refuse(kCutOff);
+      if (number(at_, 2, false) != 2) break;
+      Header element;
+      if (!readHeader({}, element)) return false;
+      if (element.length == kUndefined) return refuse(kDamaged);
+      if (!has(element.length)) return refuse(kCutOff);
+      if (element.tag == kTransferSyntax && !takeSyntax(text_.substr(at_, element.length))) return false;
+      at_ += element.length;
+    }
+    return syntaxIsKnown_ || refuse("is a DICOM file that does not say how it is encoded");
+  }
+
+  bool takeSyntax(std::string_view uid) {
+    while (!uid.empty() && (uid.back() == '\0' || uid.back() == ' ')) uid.remove_suffix(1);
+    syntaxIsKnown_ = true;
+    if (uid == "1.2.840.10008.1.2") {
+      encoding_ = {.isExplicit = false, .isBigEndian = false};
+    } else if (uid == "1.2.840.10008.1.2.2") {
+      encoding_ = {.isExplicit = true, .isBigEndian = true};
+    } else if (uid != "1.2.840.10008.1.2.1") {
+      return refuse("is a compressed DICOM file; reports are read uncompressed");
+    }
+    return true;
+  }
+
+  bool elements() {
+    while (true) {
+      while (!levels_.empty() && !levels_.back().isUndefined && at_ >= levels_.back().end) {
+        if (at_ > levels_.back().end) return refuse(kDamaged);
+        levels_.pop_back();
+      }
+      if (at_ == text_.size()) return levels_.empty() || refuse(kCutOff);
+      if (!element()) return false;
+    }
+  }
+
+  bool element() {
+    const Encoding encoding = levels_.empty() ? encoding_ : levels_.back().encoding;
+    const bool inSequence = !levels_.empty() && !levels_.back().isItem;
+    Header header;
+    if (!readHeader(encoding, header)) return false;
+    if (inSequence) return itemOrEnd(header);
+    if (header.tag == kItemEnd && !levels_.empty() && levels_.back().isUndefined) {
+      levels_.pop_back();
+      return header.length == 0 || refuse(kDamaged);
+    }
+    if (header.tag >> 16U == kItem >> 16U) return refuse(kDamaged);
+    if (!lengthFits(header.length)) return false;
+
+    if (header.length == kUndefined) {
+      const bool isUnknown = header.vr == "UN";
+      return open({.end = 0,
+                   .isUndefined = true,
+                   .isItem = false,
+                   .encoding = isUnknown ? Encoding{.isExplicit = false, .isBigEndian = false} : encoding});
+    }
+    // Without a representation, what begins like an item is taken for a sequence, as DCMTK would where it knows the tag.
+    const bool beginsLikeItem = header.length >= 8 && tagAt(at_, encoding.isBigEndian) == kItem;
+    if (header.vr == "SQ" || (header.vr.empty() && beginsLikeItem))
+      return open({.end = at_ + header.length, .isUndefined = false, .isItem = false, .encoding = encoding});
+    at_ += header.length;
+    return true;
+  }
+
+  bool itemOrEnd(const Header& header) {
+    Level& sequence = levels_.back();
+    if (header.tag == kSequenceEnd && sequence.isUndefined) {
+      levels_.pop_back();
+      return header.length == 0 || refuse(kDamaged);
+    }
+    if (header.tag != kItem) return refuse(kDamaged);
+    if (!lengthFits(header.length)) return false;
+    const bool isUndefined = header.length == kUndefined;
+    return open({.end = isUndefined ? 0 : at_ + header.length,
+                 .isUndefined = isUndefined,
+                 .isItem = true,
+                 .encoding = sequence.encoding});
+  }
+
+  /// Whether that many bytes lie within what is open.
+  bool lengthFits(std::uint32_t length) {
+    if (length == kUndefined) return true;
+    if (!has(length)) return refuse(kCutOff);
+    const auto holder =
+        std::find_if(levels_.rbegin(), levels_.rend(), [](const Level& level) { return !level.isUndefined; });
+    return holder == levels_.rend() || at_ + length <= holder->end || refuse(kDamaged);
+  }
+
+  bool open(const Level& level) {
+    if (levels_.size() >= kDeepest) return refuse("is nested deeper than any report");
+    levels_.push_back(level);
+    return true;
+  }
+
+  std::string_view text_;
+  std::size_t at_ = 0;
+  Encoding encoding_;
+  bool syntaxIsKnown_ = false;
+  std::vector<Level> levels_;
+  std::string fault_;
+};
+
+}  // namespace
+
+std::optional<std::string> structureFault(std::span<const std::byte> bytes) { return Walk(bytes).fault(); }
+
+}  // namespace nascor::dicom

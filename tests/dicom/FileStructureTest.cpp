@@ -1,0 +1,96 @@
+#include "dicom/FileStructure.h"
+
+#include <gmock/gmock.h>
+
+#include <cstring>
+
+namespace nascor::tests {
+namespace {
+
+using testing::HasSubstr;
+
+std::string fault(const std::string& file) {
+  return dicom::structureFault(std::as_bytes(std::span(file))).value_or("");
+}
+
+std::string little(std::uint32_t value, std::size_t size) {
+  std::string bytes;
+  for (std::size_t i = 0; i < size; ++i) bytes += static_cast<char>(value >> (8 * i) & 0xFFU);
+  return bytes;
+}
+
+std::string tag(unsigned group, unsigned element) { return little(group, 2) + little(element, 2); }
+std::string shortElement(unsigned group, unsigned element, const char* vr, const std::string& value) {
+  return tag(group, element) + vr + little(static_cast<std::uint32_t>(value.size()), 2) + value;
+}
+std::string sequence(std::uint32_t length, const std::string& content) {
+  return tag(0x40, 0xA730) + "SQ" + little(0, 2) + little(length, 4) + content;
+}
+std::string item(std::uint32_t length, const std::string& content) {
+  return tag(0xFFFE, 0xE000) + little(length, 4) + content;
+}
+const std::string kItemEnd = tag(0xFFFE, 0xE00D) + little(0, 4);
+const std::string kSequenceEnd = tag(0xFFFE, 0xE0DD) + little(0, 4);
+constexpr std::uint32_t kUndefined = 0xFFFFFFFFU;
+
+std::string file(const std::string& content, const std::string& syntax = "1.2.840.10008.1.2.1") {
+  const std::string uid = syntax.size() % 2 == 0 ? syntax : syntax + '\0';
+  return std::string(128, '\0') + "DICM" + shortElement(2, 0x10, "UI", uid) + content;
+}
+
+const std::string kText = shortElement(0x40, 0xA160, "LO", "text");
+
+TEST(TheStructure, ofAWholeFileIsWhole) {
+  EXPECT_EQ(fault(file("")), "");
+  EXPECT_EQ(fault(file(kText)), "");
+  EXPECT_EQ(fault(file(sequence(0, ""))), "");
+  EXPECT_EQ(fault(file(sequence(20, item(12, kText)) + kText)), "");
+  EXPECT_EQ(
+      fault(file(sequence(kUndefined, item(kUndefined, kText + kItemEnd) + item(12, kText) + kSequenceEnd))),
+      "");
+  EXPECT_EQ(fault(file(sequence(kUndefined, item(12, kText) + kSequenceEnd) + kText)), "");
+}
+
+TEST(TheStructure, isRefusedWhereAPartIsLongerThanWhatHoldsIt) {
+  EXPECT_THAT(fault(file(sequence(20, item(10, kText)) + kText)), HasSubstr("damaged"));
+  EXPECT_THAT(fault(file(sequence(19, item(12, kText)) + kText)), HasSubstr("damaged"));
+  EXPECT_THAT(fault(file(sequence(12, kText))), HasSubstr("damaged"));
+  EXPECT_THAT(fault(file(kItemEnd)), HasSubstr("damaged"));
+  EXPECT_THAT(fault(file(sequence(kUndefined, item(kUndefined, kText + kSequenceEnd)))),
+              HasSubstr("damaged"));
+}
+
+TEST(TheStructure, isRefusedWhereItEnds) {
+  EXPECT_THAT(fault(file(sequence(kUndefined, item(12, kText)))), HasSubstr("cut off"));
+  EXPECT_THAT(fault(file(sequence(21, item(12, kText)))), HasSubstr("cut off"));
+  EXPECT_THAT(fault(file(tag(0x40, 0xA160) + "UT" + little(0, 2))), HasSubstr("cut off"));
+  EXPECT_THAT(fault(file(tag(0x40, 0xA160))), HasSubstr("cut off"));
+}
+
+TEST(TheStructure, isRefusedWhereNestedTooDeep) {
+  // Without lengths, each level takes twenty bytes; DCMTK would read them by recursion.
+  std::string deep;
+  for (int i = 0; i < 20000; ++i) deep += sequence(kUndefined, item(kUndefined, ""));
+  EXPECT_THAT(fault(file(deep)), HasSubstr("deeper"));
+}
+
+TEST(TheStructure, isRefusedWhereNestedTooDeepWithoutRepresentations) {
+  std::string deep;
+  for (int i = 0; i < 2000; ++i) {
+    const auto length = static_cast<std::uint32_t>(deep.size());
+    deep.insert(0, tag(0x40, 0xA730) + little(length + 8, 4) + item(length, ""));
+  }
+  EXPECT_THAT(fault(file(deep, "1.2.840.10008.1.2")), HasSubstr("deeper"));
+}
+
+TEST(OtherFiles, areNoDicomFiles) {
+  for (const std::string& text :
+       {std::string(), std::string("DICM"), std::string(200, 'x'), std::string(131, '\0')})
+    EXPECT_THAT(fault(text), HasSubstr("no DICOM file"));
+  EXPECT_THAT(fault(file("", "1.2.840.10008.1.2.1.99")), HasSubstr("compressed"));
+  EXPECT_THAT(fault(std::string(128, '\0') + "DICM"), HasSubstr("does not say"));
+  EXPECT_THAT(fault(std::string(128, '\0') + "DICM" + kText), HasSubstr("does not say"));
+}
+
+}  // namespace
+}  // namespace nascor::tests
