@@ -22,6 +22,8 @@ class UsageError : public std::runtime_error {
 struct Arguments {
   std::map<std::string_view, std::string> options;  ///< by name; a flag that was given holds "true"
   std::vector<std::string> operands;                ///< what belongs to no option, in order
+  /// All values of each option that takes one, in order: `options` holds the last.
+  std::map<std::string_view, std::vector<std::string>> repeated{};
 
   bool has(std::string_view name) const { return options.contains(name); }
   std::optional<std::string> option(std::string_view name) const;
@@ -32,6 +34,7 @@ struct OptionSpec {
   std::string_view value;  ///< what stands for the value in help; empty for a flag
   std::string_view help;
   bool isNumber = false;  ///< -.5 is one then, and no option
+  bool repeated = false;  ///< may be given several times
 };
 
 struct OperandSpec {
@@ -72,7 +75,7 @@ Command lookupCommand();
 Command referenceCommand();
 Command compareCommand();
 Command selfTestCommand();
-/// Only where the application is built too.
 Command exportCommand();
+Command importCommand();
 
 }  // namespace nascor::cli

@@ -88,6 +88,7 @@ class Parser {
     for (const OptionSpec& option : command.options) {
       const std::string name = "--" + std::string(option.name);
       options_.push_back(option.value.empty() ? app_->add_flag(name) : app_->add_option(name)->type_size(1));
+      if (option.repeated) options_.back()->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
     }
     // As many as there are, each taken as it was typed: otherwise the parser would split a file named "[a]", and take
     // what follows "--" for options again once it has enough operands.
@@ -103,7 +104,7 @@ class Parser {
 
   /// What was typed behind the command. Throws UsageError.
   Arguments arguments() const {
-    Arguments arguments{.options = {}, .operands = operands_->results()};
+    Arguments arguments{.options = {}, .operands = operands_->results(), .repeated = {}};
     for (std::size_t i = 0; i < options_.size(); ++i) {
       if (options_[i]->count() == 0) continue;
       const OptionSpec& spec = command_->options[i];
@@ -112,6 +113,7 @@ class Parser {
         throw UsageError("--" + std::string(spec.name) + " takes no value");
       }
       arguments.options.emplace(spec.name, value);
+      if (!spec.value.empty()) arguments.repeated.emplace(spec.name, options_[i]->results());
     }
     const auto specs = command_->operands;
     const std::size_t given = arguments.operands.size();

@@ -10,6 +10,7 @@
 
 #include "cli_commands/Command.h"
 #include "cli_commands/Names.h"
+#include "cli_commands/RecordExport.h"
 
 namespace nascor::cli {
 
@@ -49,12 +50,12 @@ std::string painter() {
   return error ? std::string() : (self.parent_path() / "nascor").string();
 }
 
-void runExport(const Arguments& arguments, Console& console) {
+void exportPages(const std::string& format, const Arguments& arguments, Console& console) {
   const auto folder = arguments.option("out");
   if (!folder || folder->empty()) throw UsageError("--out is missing");
-  const std::string format = inSmallLetters(arguments.option("format").value_or("pdf"));
   if (std::ranges::find(kFormats, format) == kFormats.end())
-    throw UsageError("--format: expected pdf, png or svg");
+    throw UsageError("--format: expected pdf, png, svg, sr or fhir");
+  if (arguments.has("ndjson")) throw UsageError("--ndjson is for --format fhir");
   const std::string pages = arguments.option("pages").value_or("all");
   checkPages(pages);
   const std::string fetus = inSmallLetters(arguments.option("fetus").value_or("all"));
@@ -84,32 +85,51 @@ void runExport(const Arguments& arguments, Console& console) {
                    std::generic_category().message(errno) + "; the pages are painted by this program");
 }
 
+#ifdef NASCOR_PAGES
+constexpr bool kHasPages = true;
+#else
+constexpr bool kHasPages = false;
+#endif
+
+void runExport(const Arguments& arguments, Console& console) {
+  const std::string format = inSmallLetters(arguments.option("format").value_or("pdf"));
+  if (format == "sr" || format == "fhir") return exportRecords(format, arguments, console);
+  if (!kHasPages)
+    throw UsageError(
+        "--format: expected sr or fhir; pages are painted by the application, which is not built here");
+  exportPages(format, arguments, console);
+}
+
 }  // namespace
 
 Command exportCommand() {
   static constexpr std::array<OperandSpec, 1> kOperands{
       {{"FILE...", "a document; - is standard input", true}}};
-  static constexpr std::array<OptionSpec, 6> kOptions{{
+  static constexpr std::array<OptionSpec, 7> kOptions{{
       {"out", "DIR",
        "the folder for the files, which is made when it is missing; - is standard output, for one file"},
-      {"format", "pdf|png|svg", "what is written; without this option PDF"},
+      {"format", "pdf|png|svg|sr|fhir", "what is written; without this option PDF"},
       {"pages", "PAGES", "all, or first, last, numbers from 0 to 6 and names, with commas between"},
       {"fetus", "all|N", "one fetus, the first is 1; without this option all"},
       {"no-clobber", "", "leave files that are there as they are, and say so"},
       {"no-foot", "", "leave off what stands under each page"},
+      {"ndjson", "", "FHIR as one resource a line, of all documents, on standard output"},
   }};
-  return {.name = "export",
-          .usage =
-              "FILE... --out DIR [--format pdf|png|svg] [--pages PAGES] [--fetus all|N] [--no-clobber] "
-              "[--no-foot]",
-          .summary = "Writes the pages of each document, painted as the application paints them.",
-          .details =
-              "Names of pages: trends, BPD, HC, AC, FL, weight, report (0 to 6), in letters of any size.\n"
-              "As PDF all pages of a document are one file; else each is a file of its own.\n"
-              "Files of the same names are replaced, but with --no-clobber.\n",
-          .operands = kOperands,
-          .options = kOptions,
-          .run = runExport};
+  return {
+      .name = "export",
+      .usage =
+          "FILE... --out DIR [--format pdf|png|svg|sr|fhir] [--pages PAGES] [--fetus all|N] [--no-clobber] "
+          "[--no-foot] [--ndjson]",
+      .summary = "Writes the pages of each document, or its numbers for other programs.",
+      .details =
+          "Names of pages: trends, BPD, HC, AC, FL, weight, report (0 to 6), in letters of any size.\n"
+          "As PDF all pages of a document are one file; else each is a file of its own.\n"
+          "Files of the same names are replaced, but with --no-clobber.\n"
+          "sr: a DICOM structured report (Comprehensive SR) for each examination, \"NAME 1.dcm\", ...\n"
+          "fhir: a FHIR R4 bundle for each document, NAME.json; with --ndjson lines on standard output.\n",
+      .operands = kOperands,
+      .options = kOptions,
+      .run = runExport};
 }
 
 }  // namespace nascor::cli

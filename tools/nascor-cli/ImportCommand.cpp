@@ -1,0 +1,170 @@
+#include <array>
+#include <charconv>
+#include <filesystem>
+#include <system_error>
+
+#include "calc/EditingBounds.h"
+#include "cli_commands/Command.h"
+#include "cli_commands/Documents.h"
+#include "cli_commands/Input.h"
+#include "cli_commands/Reports.h"
+#include "exchange/Findings.h"
+#include "exchange/FindingsJson.h"
+#include "exchange/Storing.h"
+#include "foundation/JsonText.h"
+#include "model/PatientFile.h"
+#include "posix/PosixCalendar.h"
+#include "posix/PosixFileStore.h"
+
+namespace nascor::cli {
+
+namespace {
+
+/// ID=N, where N counts from 1; what stands before the last equals sign is the ID.
+std::pair<std::string, std::int64_t> fetusPlaceIn(const std::string& text) {
+  const std::size_t equals = text.rfind('=');
+  const std::string_view number =
+      std::string_view(text).substr(equals == std::string::npos ? text.size() : equals + 1);
+  std::int64_t place = 0;
+  const auto [end, error] = std::from_chars(number.data(), number.data() + number.size(), place);
+  const bool isNumber = error == std::errc() && end == number.data() + number.size();
+  if (!isNumber || place < calc::kFewestFetuses || place > calc::kMostFetuses)
+    throw UsageError("--fetus: expected ID=N with a number from 1 to 5, but \"" + text + "\" stands here");
+  return {text.substr(0, equals), place - 1};
+}
+
+exchange::Confirmation confirmationIn(const Arguments& arguments) {
+  exchange::Confirmation confirmation{
+      .patientID = arguments.option("patient"), .fetusPlaces = {}, .takeEDD = arguments.has("edd")};
+  const auto fetuses = arguments.repeated.find("fetus");
+  if (fetuses == arguments.repeated.end()) return confirmation;
+  for (const std::string& text : fetuses->second) {
+    const auto [id, place] = fetusPlaceIn(text);
+    const auto [found, isNew] = confirmation.fetusPlaces.emplace(id, place);
+    if (!isNew && found->second != place) throw UsageError("--fetus: \"" + id + "\" is given two numbers");
+  }
+  return confirmation;
+}
+
+/// Findings and the file that they come from.
+struct Found {
+  std::string file;
+  exchange::Findings findings;
+};
+
+/// The findings of every file that can be read, printed as they come.
+std::vector<Found> findAndPrint(const std::vector<std::string>& files, Console& console) {
+  std::vector<Found> all;
+  for (const std::string& file : files) {
+    const auto bytes = contentsOf(file, console);
+    if (!bytes) continue;
+    const auto reports = reportsIn(*bytes);
+    if (const auto* why = std::get_if<std::string>(&reports)) {
+      console.complain(nameOf(file), *why);
+      continue;
+    }
+    for (const exchange::StructuredReport& report : std::get<0>(reports)) {
+      auto findings = exchange::findingsIn(report);
+      if (const auto* why = std::get_if<std::string>(&findings)) {
+        console.complain(nameOf(file), *why);
+        continue;
+      }
+      all.push_back({file, std::move(std::get<exchange::Findings>(findings))});
+      foundation::JsonText json(console.out());
+      exchange::writeFindingsJson(json, file, all.back().findings);
+      console.lineDone();
+    }
+  }
+  return all;
+}
+
+/// What findings are stored in: the document of --into, or a new one.
+std::optional<model::UnarchivedPatient> documentFor(const Arguments& arguments, Console& console) {
+  if (const auto into = arguments.option("into")) return documentIn(*into, console);
+  const std::string out = arguments.option("out").value_or("");
+  std::error_code ignored;
+  if (std::filesystem::symlink_status(out, ignored).type() != std::filesystem::file_type::not_found) {
+    console.complain(out, "it is there already, and stays as it is");
+    return std::nullopt;
+  }
+  model::UnarchivedPatient document{.patient = std::make_unique<model::PatientRecord>(), .facts = {}};
+  document.patient->setMaternalIDString("");
+  document.patient->setNumberOfFetuses(1);
+  constexpr double kWeeks = 40.0;
+  document.patient->setExtrapolatedGestation(kWeeks);
+  return document;
+}
+
+/// All of them, or nothing is written.
+void store(const std::vector<Found>& all, const Arguments& arguments, Console& console) {
+  const exchange::Confirmation confirmation = confirmationIn(arguments);
+  const posix::PosixCalendar calendar;
+  const bool isNewDocument = !arguments.has("into");
+  auto document = documentFor(arguments, console);
+  if (!document || all.empty()) return;
+
+  bool isNew = isNewDocument;
+  bool isRefused = false;
+  std::vector<std::pair<std::string, std::string>> warnings;
+  for (const Found& found : all) {
+    const auto stored =
+        exchange::storeFindings(found.findings, confirmation, isNew, calendar, *document->patient);
+    if (const auto* why = std::get_if<std::string>(&stored)) {
+      console.complain(nameOf(found.file), *why);
+      isRefused = true;
+      continue;
+    }
+    isNew = false;
+    for (const std::string& warning : std::get<0>(stored)) warnings.emplace_back(nameOf(found.file), warning);
+  }
+  if (isRefused) return;
+  for (const auto& [file, warning] : warnings) console.warn(file, warning);
+  const std::string target = arguments.option(isNewDocument ? "out" : "into").value_or("");
+  if (const auto error =
+          posix::PosixFileStore().replaceContents(target, model::archivedPatient(*document->patient)))
+    console.complain(target, error->reason);
+}
+
+void runImport(const Arguments& arguments, Console& console) {
+  const bool isStored = arguments.has("out") || arguments.has("into");
+  if (arguments.has("out") && arguments.has("into"))
+    throw UsageError("--out and --into are two ways to store");
+  for (const char* name : {"out", "into"}) {
+    if (arguments.has(name) && (arguments.option(name)->empty() || *arguments.option(name) == "-"))
+      throw UsageError("--" + std::string(name) + " takes a file");
+  }
+  // What is wrong with it is said before anything is printed.
+  static_cast<void>(confirmationIn(arguments));
+
+  const std::vector<Found> all = findAndPrint(arguments.operands, console);
+  if (isStored) store(all, arguments, console);
+}
+
+}  // namespace
+
+Command importCommand() {
+  static constexpr std::array<OperandSpec, 1> kOperands{
+      {{"FILE...", "a DICOM report, or a FHIR bundle of this program; - is standard input", true}}};
+  static constexpr std::array<OptionSpec, 5> kOptions{{
+      {"out", "FILE", "store what was found in a new document"},
+      {"into", "FILE", "add what was found to a document"},
+      {"patient", "ID", "the reports are of the patient of this reference ID, whatever they say"},
+      {"fetus", "ID=N", "the fetus that the reports call ID is fetus N of the document; once for each", false,
+       true},
+      {"edd", "", "the report's EDD takes the place of the document's"},
+  }};
+  return {
+      .name = "import",
+      .usage = "FILE... [--out FILE | --into FILE] [--patient ID] [--fetus ID=N]... [--edd]",
+      .summary = "What ultrasound machines' reports hold, as JSON; stored only on demand.",
+      .details =
+          "One object a report: file, patientID, examDate, edd, eddFrom, gravida, numberOfFetuses, fetuses "
+          "(id,\n"
+          "bpd, hc, ac, fl and crl in mm, efw in g, chosen), notTaken, warnings.\n"
+          "Nothing is stored when patient or fetus are in doubt, and nothing that stands is overwritten.\n",
+      .operands = kOperands,
+      .options = kOptions,
+      .run = runImport};
+}
+
+}  // namespace nascor::cli
