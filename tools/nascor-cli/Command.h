@@ -68,6 +68,7 @@ Command checkCommand();
 Command jsonCommand();
 Command makeCommand();
 Command dumpCommand();
+Command recoverCommand();
 Command weightCommand();
 Command crlCommand();
 Command standardCommand();

@@ -1,0 +1,8 @@
+#pragma once
+
+namespace nascor::posix {
+
+/// From now on the system writes no memory of this process into a file when it crashes: patients' records are in it.
+void switchOffCoreDumps();
+
+}  // namespace nascor::posix
