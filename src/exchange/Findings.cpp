@@ -426,8 +426,7 @@ class Collector {
   FoundLength meanOf(std::vector<double> values, std::string_view kind, const std::string& subject) {
     std::vector<double> distinct = values;
     std::ranges::sort(distinct);
-    const auto repeated = std::ranges::unique(distinct);
-    distinct.erase(repeated.begin(), repeated.end());
+    distinct.erase(std::unique(distinct.begin(), distinct.end()), distinct.end());
     if (distinct.size() == 1) return {.mm = distinct.front(), .chosen = kind};
 
     double sum = 0.0;

@@ -263,8 +263,7 @@ class Reader {
     if (report.hasContent) report.root = item(dataset_, texts);
     // Once is enough.
     std::ranges::sort(report.warnings);
-    const auto repeated = std::ranges::unique(report.warnings);
-    report.warnings.erase(repeated.begin(), repeated.end());
+    report.warnings.erase(std::unique(report.warnings.begin(), report.warnings.end()), report.warnings.end());
     return report;
   }
 
