@@ -1545,6 +1545,105 @@
     </message>
 </context>
 <context>
+    <name>Recovery</name>
+    <message>
+        <source>Reference ID</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>EDD</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Growth standard</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Weight formula</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Number of fetuses</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Planned delivery</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Formula for the crown-rump length</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gravidity</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unsaved changes cannot be kept against a crash. Please save:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nascor ended before the changes of this document were saved. Do you want to recover them?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Recover</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not Now</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unsaved changes were kept when Nascor ended, but they cannot be read.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove the File</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keep the File</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Patient:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Document:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>never saved</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Last kept:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An examination that was removed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Examination of</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An examination without a date</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What differs from the saved document:</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>References</name>
     <message>
         <source>The number is a name of this program; the lengths in parentheses tell the formula.</source>

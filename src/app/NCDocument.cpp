@@ -70,6 +70,53 @@ std::vector<std::byte> NCDocument::dataRepresentationOfType(std::string_view) co
   return bytes;
 }
 
+std::vector<std::byte> NCDocument::contentsAsTyped() {
+  if (!patientRecord_) return {};
+  model::NCRecord* exam = currentExamination();
+  const auto identifier = patientRecord_->maternalIDString();
+  const auto edd = patientRecord_->edd();
+  const std::int64_t gravida = patientRecord_->gravida();
+  const model::NCRecord before = exam ? *exam : model::NCRecord();
+  storeTyped(*patientRecord_, exam);
+  std::vector<std::byte> bytes = dataRepresentationOfType("");
+  patientRecord_->setMaternalIDString(identifier);
+  patientRecord_->setEDD(edd);
+  patientRecord_->setGravida(gravida);
+  if (exam) *exam = before;
+  return bytes;
+}
+
+bool NCDocument::takesTypedText(framework::TextField& field) {
+  if (fieldEditor().field() != &field) return true;
+  const std::string& text = fieldEditor().text();
+  return field.accepts(text) && controlTextShouldEndEditing(field, text);
+}
+
+void NCDocument::storeTyped(model::PatientRecord& patient, model::NCRecord* exam) {
+  const std::string identifier = typedText(referenceIDField());
+  // A file may lack a text, which is shown as an empty one.
+  if (identifier != patient.maternalIDString().value_or("")) patient.setMaternalIDString(identifier);
+  if (takesTypedText(gravidaField_)) patient.setGravida(typedInteger(gravidaField_));
+  // What is no date yet, or none any more, leaves the date that is known.
+  const auto typedDate = [this](const framework::TextField& field) {
+    const bool isTyped = field.wasEdited() || fieldEditor().field() == &field;
+    return isTyped ? dateFromTypedText(field) : std::nullopt;
+  };
+  if (const auto edd = typedDate(birthDateField())) patient.setEDD(edd);
+  if (!exam) return;
+  if (const auto examDate = typedDate(examDateField())) exam->setExamDate(examDate);
+  if (notesField().text() != exam->note().value_or("")) exam->setNote(notesField().text());
+  model::MeasurementsRecord* measured = currentMeasurements();
+  if (!measured) return;
+  calc::Biometry lengths = measured->biometry();
+  for (const calc::Measurement measurement : calc::kMeasurements) {
+    framework::NumberField& field = fieldFor(measurement);
+    const bool isStale = field.isStale() && fieldEditor().field() != &field;
+    if (!isStale && takesTypedText(field)) lengths.*calc::memberFor(measurement) = typedNumber(field);
+  }
+  *measured = model::MeasurementsRecord(lengths);
+}
+
 bool NCDocument::loadDataRepresentation(std::span<const std::byte> data, std::string_view) {
   patientRecord_ = model::unarchivedPatient(data).patient;
   return true;

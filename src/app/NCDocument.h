@@ -48,6 +48,7 @@ class NCDocument final : public framework::CorvelDocument,
 
   /// The patient as it stands. Edits that have not reached the records are not in it.
   std::vector<std::byte> dataRepresentationOfType(std::string_view type) const override;
+  std::vector<std::byte> contentsAsTyped() override;
   /// True also for a file whose root is nil, which leaves no patient. Throws archive::FormatError for a malformed file.
   bool loadDataRepresentation(std::span<const std::byte> data, std::string_view type) override;
   std::optional<std::string> lossInFile() const override;
@@ -276,6 +277,10 @@ class NCDocument final : public framework::CorvelDocument,
   void assessDialogs();
   void editedTextChanged() override { assess(); }
   std::string typedText(const framework::TextField& field) const;
+  /// Whether `field` would take what the user types in it just now; true for a field that is not in edit.
+  bool takesTypedText(framework::TextField& field);
+  /// Puts what the fields show, and what the user types, into the patient and the examination on show.
+  void storeTyped(model::PatientRecord& patient, model::NCRecord* exam);
   /// NaN while the text is no number.
   double typedNumber(const framework::NumberField& field) const;
   std::int64_t typedInteger(const framework::IntegerField& field) const;

@@ -61,6 +61,7 @@ class CorvelDocument : public ZuDocument, public virtual GraphDocument, protecte
   StatusLine& statusLine() { return statusLine_; }
 
   bool commitEditing() override;
+  void remark(const std::string& sentence) override { statusLine_.say(sentence, nullptr); }
   /// The user has left the note: what was typed there reaches the records, whatever a field holds back.
   void noteWasLeft();
 

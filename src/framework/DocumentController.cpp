@@ -155,6 +155,16 @@ bool DocumentController::replaceDocument(ZuDocument& document, const std::string
   return true;
 }
 
+ZuDocument& DocumentController::recoverDocument(std::span<const std::byte> contents,
+                                                const std::string& path) {
+  auto document = factory_();
+  document->takeRecovered(contents, path);
+  ZuDocument& added = add(std::move(document));
+  added.windowControllerDidLoadNib();
+  added.updateChangeCount(ZuDocument::ChangeType::changeDone);
+  return added;
+}
+
 ZuDocument* DocumentController::currentDocument() const {
   return documents_.empty() ? nullptr : documents_.back().get();
 }

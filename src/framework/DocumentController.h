@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -53,6 +54,10 @@ class DocumentController {
   /// Puts the document at `path` into the place of `document`, which is closed without a question. False, and the user is
   /// told, when the file cannot be read.
   bool replaceDocument(ZuDocument& document, const std::string& path);
+
+  /// A document of contents that were kept against the end of the program (ZuDocument::takeRecovered), in front and edited.
+  /// Throws std::runtime_error for contents that are none.
+  ZuDocument& recoverDocument(std::span<const std::byte> contents, const std::string& path);
 
   /// The document in front; null for none.
   ZuDocument* currentDocument() const;

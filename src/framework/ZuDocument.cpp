@@ -59,6 +59,15 @@ std::optional<FileError> ZuDocument::readFromFile(const std::string& path) {
   return std::nullopt;
 }
 
+void ZuDocument::takeRecovered(std::span<const std::byte> data, const std::string& path) {
+  loadDataRepresentation(data, "");
+  docIsBlank_ = false;
+  setFilePath(path.empty() ? std::nullopt : std::optional(path));
+  if (!filePath_) return;
+  auto contents = services_.files.contents(path);
+  if (auto* bytes = std::get_if<std::vector<std::byte>>(&contents)) fileContents_ = std::move(*bytes);
+}
+
 bool ZuDocument::isFileChangedByOthers() const {
   if (!filePath_ || !fileContents_) return false;
   const auto contents = services_.files.contents(*filePath_);

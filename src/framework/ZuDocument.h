@@ -30,6 +30,8 @@ class ZuDocument {
   // Selector: dataRepresentationOfType:
   /// The contents of the document's file.
   virtual std::vector<std::byte> dataRepresentationOfType(std::string_view type) const = 0;
+  /// The contents with what the user is typing just now, as far as its fields take it. Changes nothing.
+  virtual std::vector<std::byte> contentsAsTyped() { return dataRepresentationOfType(""); }
   // Selector: loadDataRepresentation:ofType:
   /// Takes the contents of a file. Throws std::runtime_error, whose text is a sentence for the user, when they are not
   /// those of a document, and then changes nothing.
@@ -66,6 +68,9 @@ class ZuDocument {
   /// Takes what the file at `path` holds. That is the document's file from now on, unless it says that it holds nothing:
   /// then the document is untitled and blank, and never overwrites it. On failure nothing changes.
   std::optional<foundation::FileError> readFromFile(const std::string& path);
+  /// Takes contents that were kept against the end of the program, whose own file is at `path`; empty for none. What that
+  /// file holds now counts as read. Throws as `loadDataRepresentation` does.
+  void takeRecovered(std::span<const std::byte> data, const std::string& path);
   /// Whether the document's file holds something else than when this document read or wrote it last. A file that is gone
   /// does not: saving loses nothing of it.
   bool isFileChangedByOthers() const;
@@ -85,6 +90,9 @@ class ZuDocument {
   /// Whether the document is new and nothing was done in it.
   bool isUntouched() const { return docIsBlank_ && !isDocumentEdited() && !filePath_; }
   void setDocIsBlank(bool blank) { docIsBlank_ = blank; }
+
+  /// Tells the user `sentence` in the document's window, without a question.
+  virtual void remark(const std::string& /*sentence*/) {}
 
   /// Sent when name or edited state may have changed; set by the window layer.
   std::function<void()> onStateChanged;

@@ -307,7 +307,11 @@ Driver::Driver()
   documents_.onDocumentAdded = [this](framework::ZuDocument& added) {
     numbers_.emplace(&added, nextNumber_++);
   };
-  documents_.onDocumentRemoved = [this](framework::ZuDocument& removed) { numbers_.erase(&removed); };
+  documents_.onDocumentRemoved = [this](framework::ZuDocument& removed) {
+    numbers_.erase(&removed);
+    if (recovery_) recovery_->forget(removed);
+  };
+  startRecovery();
   application_.awakeFromNib();
   pageWriter_.onSheet =
       printer_.onSheet = [this](const framework::Sheet& sheet) { paper_.push_back(marksOf(sheet.page)); };
@@ -373,6 +377,8 @@ Json Driver::perform(const std::string& key, const Json& argument) {
       {"type", &Driver::type},           {"beside", &Driver::beside},
       {"focus", &Driver::focus},         {"stale", &Driver::stale},
       {"additions", &Driver::additions}, {"advice", &Driver::advice},
+      {"keep", &Driver::keep},           {"crash", &Driver::crash},
+      {"recover", &Driver::recover},
   };
   if (key == "new" || key == "state") {
     if (argument != Json(true)) refuse("expected true");
@@ -628,6 +634,37 @@ Json Driver::advice(const Json& page) {
 Json Driver::paper(const Json& word) {
   if (word != Json(true)) refuse("expected true");
   return {{"paper", std::exchange(paper_, Json::array())}};
+}
+
+void Driver::startRecovery() {
+  recoveryFolder_.emplace((scratchFolder_ / ".state" / "recovery").string());
+  recovery_.emplace(services_, documents_, alerts_, *recoveryFolder_);
+}
+
+Json Driver::keep(const Json& word) {
+  if (word != Json(true)) refuse("expected true");
+  recovery_->keepChanges();
+  return {{"kept", recoveryFolder_->files().size()}};
+}
+
+Json Driver::crash(const Json& word) {
+  if (word != Json(true)) refuse("expected true");
+  recovery_.reset();
+  recoveryFolder_.reset();
+  alerts_.choice = "discard";
+  while (documents_.currentDocument()) documents_.closeDocument(*documents_.currentDocument());
+  startRecovery();
+  return Json::object();
+}
+
+Json Driver::recover(const Json& button) {
+  alerts_.choice = textArgument(button, "a button");
+  alerts_.choiceInformation.clear();
+  const std::int64_t before = nextNumber_;
+  recovery_->offer();
+  Json opened = Json::array();
+  for (std::int64_t number = before; number < nextNumber_; ++number) opened.push_back(number);
+  return {{"offered", std::exchange(alerts_.choiceInformation, {})}, {"opened", std::move(opened)}};
 }
 
 Json Driver::told(const Json& word) {

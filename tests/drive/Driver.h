@@ -11,10 +11,12 @@
 
 #include "app/NCAppController.h"
 #include "app/NCDocument.h"
+#include "app/Recovery.h"
 #include "drive/Ports.h"
 #include "foundation/NotificationCenter.h"
 #include "framework/DocumentController.h"
 #include "posix/PosixCalendar.h"
+#include "posix/RecoveryFolder.h"
 #include "support/FixedClock.h"
 #include "support/MemoryUserDefaults.h"
 #include "support/RecordingOutput.h"
@@ -78,6 +80,12 @@ class Driver {
   Json stale(const Json& word);
   /// What stood beneath each question since the last `state`, besides its information.
   Json additions(const Json& word);
+  /// Keeps unsaved changes, as the window layer does within two seconds of a change: the recovery files that there are then.
+  Json keep(const Json& word);
+  /// The program is killed, with all its windows, and started again.
+  Json crash(const Json& word);
+  /// What the program offers at its start, each offer answered by that button: what was said, and the documents that opened.
+  Json recover(const Json& button);
   /// What another program does to the files.
   Json outside(const Json& call);
   Json advance(const Json& seconds);
@@ -96,6 +104,7 @@ class Driver {
   /// What a refusing field answers to an action that it holds back; nothing when the edits were committed.
   std::optional<Json> heldBack(app::NCDocument& document);
   void recordPosts();
+  void startRecovery();
 
   std::filesystem::path startFolder_;
   std::filesystem::path scratchFolder_;
@@ -116,6 +125,8 @@ class Driver {
   tests::RecordingViewer viewer_;
   framework::DocumentController documents_;
   app::NCAppController application_;
+  std::optional<posix::RecoveryFolder> recoveryFolder_;
+  std::optional<app::Recovery> recovery_;
 
   std::vector<foundation::NotificationCenter::Subscription> postSubscriptions_;
   Json posted_ = Json::array();

@@ -31,9 +31,10 @@ class ScriptedAlerts final : public framework::Alerts {
                   std::function<void(framework::AlertReturn)> didEnd) override {
     didEnd(runModal(alert));
   }
-  std::size_t chooseOne(const std::string& message, const std::string&,
+  std::size_t chooseOne(const std::string& message, const std::string& information,
                         const std::vector<std::string>& buttons) override {
     choices.push_back(message);
+    choiceInformation.push_back(information);
     const auto isChoice = [&](const std::string& button) {
       return std::ranges::equal(button, choice, [](unsigned char one, unsigned char other) {
         return std::tolower(one) == std::tolower(other);
@@ -52,10 +53,11 @@ class ScriptedAlerts final : public framework::Alerts {
 
   std::deque<std::string> answers;  ///< titles of the buttons to press, in order; "Cancel" when there is none
   std::string choice = "Cancel";    ///< the button that `chooseOne` presses, in any case of letters
-  std::vector<framework::Alert> asked;   ///< the questions with two answers
-  std::vector<std::string> choices;      ///< the messages of the questions with more
-  std::vector<std::string> told;         ///< what the user was told
-  std::vector<std::string> toldDetails;  ///< the details of what had some
+  std::vector<framework::Alert> asked;         ///< the questions with two answers
+  std::vector<std::string> choices;            ///< the messages of the questions with more
+  std::vector<std::string> choiceInformation;  ///< what stood beneath each of them
+  std::vector<std::string> told;               ///< what the user was told
+  std::vector<std::string> toldDetails;        ///< the details of what had some
 };
 
 /// Opens and saves what a test says; without a word saves under the suggested name in `folder`.

@@ -1,0 +1,222 @@
+#include "app/Recovery.h"
+
+#include <algorithm>
+#include <array>
+#include <memory>
+#include <optional>
+#include <stdexcept>
+#include <string_view>
+#include <utility>
+#include <variant>
+
+#include "calc/Biometry.h"
+#include "foundation/Calendar.h"
+#include "foundation/IsoDate.h"
+#include "foundation/Localizer.h"
+#include "foundation/LongDate.h"
+#include "foundation/Utf8.h"
+#include "model/PatientFile.h"
+
+namespace nascor::app {
+namespace {
+
+using foundation::RecoveryFile;
+using foundation::translatable;
+using framework::ZuDocument;
+using model::PatientDifference;
+using model::PatientRecord;
+
+constexpr std::size_t kMostDifferences = 1000;
+constexpr std::size_t kMostLines = 8;
+
+/// Whether a patient who was never saved holds anything that a person entered.
+bool holdsAnything(const PatientRecord& patient) {
+  if (!patient.maternalIDString().value_or("").empty() || patient.edd() || patient.gravida() != 0)
+    return true;
+  return std::ranges::any_of(patient.ncRecordsArray(), [](const auto& exam) {
+    return !exam->note().value_or("").empty() ||
+           std::ranges::any_of(exam->measurements(),
+                               [](const auto& record) { return calc::isAnyMeasured(record.biometry()); });
+  });
+}
+
+struct Label {
+  std::string_view key;
+  std::string_view text;
+};
+constexpr std::array kLabels{
+    Label{"maternalIDString", translatable("Recovery", "Reference ID")},
+    Label{"edd", translatable("Recovery", "EDD")},
+    Label{"standard", translatable("Recovery", "Growth standard")},
+    Label{"fetalWeightStandard", translatable("Recovery", "Weight formula")},
+    Label{"numberOfFetuses", translatable("Recovery", "Number of fetuses")},
+    Label{"extrapolatedGestation", translatable("Recovery", "Planned delivery")},
+    Label{"crlStandard", translatable("Recovery", "Formula for the crown-rump length")},
+    Label{"gravida", translatable("Recovery", "Gravidity")}};
+
+std::string_view labelOf(std::string_view key) {
+  const auto found = std::ranges::find(kLabels, key, &Label::key);
+  return found == kLabels.end() ? key : found->text;
+}
+
+}  // namespace
+
+void Recovery::keepChanges() {
+  for (ZuDocument* document : documents_.documents()) {
+    if (document->isDocumentEdited()) {
+      keep(*document);
+    } else {
+      forget(*document);
+    }
+  }
+}
+
+bool Recovery::hasWork() const {
+  return std::ranges::any_of(documents_.documents(), [this](const ZuDocument* document) {
+    return document->isDocumentEdited() || kept_.contains(document);
+  });
+}
+
+bool Recovery::keep(ZuDocument& document) {
+  std::vector<std::byte> contents = document.contentsAsTyped();
+  std::string path = document.filePath().value_or("");
+  Kept& kept = kept_[&document];
+  if (kept.isWritten && kept.contents == contents && kept.path == path) return true;
+  if (kept.number == 0) kept.number = ++lastNumber_;
+  const auto error = store_.keep(kept.number, path, contents);
+  kept.isWritten = !error;
+  if (error) {
+    document.remark(
+        services_.localizer.text("Recovery", "Unsaved changes cannot be kept against a crash. Please save:") +
+        " " + error->reason);
+    return false;
+  }
+  kept.contents = std::move(contents);
+  kept.path = std::move(path);
+  return true;
+}
+
+void Recovery::forget(const ZuDocument& document) {
+  const auto kept = kept_.find(&document);
+  if (kept == kept_.end()) return;
+  store_.forget(kept->second.number);
+  kept_.erase(kept);
+}
+
+std::size_t Recovery::offer() {
+  std::size_t opened = 0;
+  for (const RecoveryFile& file : store_.takeAbandoned()) opened += offer(file) ? 1 : 0;
+  return opened;
+}
+
+bool Recovery::offer(const RecoveryFile& file) {
+  const auto contents = services_.files.contents(file.path);
+  const auto* bytes = std::get_if<std::vector<std::byte>>(&contents);
+  if (!bytes) {
+    tellDamaged(file, std::get<foundation::FileError>(contents).reason);
+    return false;
+  }
+  std::unique_ptr<PatientRecord> patient;
+  try {
+    patient = model::unarchivedPatient(*bytes).patient;
+  } catch (const std::runtime_error& error) {
+    tellDamaged(file, error.what());
+    return false;
+  }
+
+  const PatientRecord none;
+  const std::unique_ptr<PatientRecord> saved = savedPatient(file.document);
+  const auto differences = patient
+                               ? model::patientDifferences(saved ? *saved : none, *patient, kMostDifferences)
+                               : std::vector<PatientDifference>();
+  if (differences.empty() || (file.document.empty() && !holdsAnything(*patient))) {
+    store_.remove(file);
+    return false;
+  }
+
+  const std::size_t answer = alerts_.chooseOne(
+      services_.localizer.text("Recovery",
+                               "Nascor ended before the changes of this document were saved. Do you want to "
+                               "recover them?"),
+      informationOf(file, *patient, differences),
+      {services_.localizer.text("Recovery", "Recover"), services_.localizer.text("Recovery", "Discard"),
+       services_.localizer.text("Recovery", "Not Now")});
+  enum : std::size_t { kRecover = 0, kDiscard = 1 };
+  if (answer == kDiscard) store_.remove(file);
+  if (answer != kRecover) return false;
+  ZuDocument& document = documents_.recoverDocument(*bytes, file.document);
+  // Not before it is kept again: it may be the only copy.
+  if (keep(document)) store_.remove(file);
+  return true;
+}
+
+std::unique_ptr<PatientRecord> Recovery::savedPatient(const std::string& path) const {
+  if (path.empty()) return nullptr;
+  const auto contents = services_.files.contents(path);
+  const auto* bytes = std::get_if<std::vector<std::byte>>(&contents);
+  if (!bytes) return nullptr;
+  try {
+    return model::unarchivedPatient(*bytes).patient;
+  } catch (const std::runtime_error&) {
+    return nullptr;  // opening the file tells why
+  }
+}
+
+void Recovery::tellDamaged(const RecoveryFile& file, const std::string& reason) {
+  const auto answer = alerts_.runModal(
+      {.message = services_.localizer.text(
+           "Recovery", "Unsaved changes were kept when Nascor ended, but they cannot be read."),
+       .information = file.path + ": " + reason,
+       .defaultButton = services_.localizer.text("Recovery", "Remove the File"),
+       .alternateButton = services_.localizer.text("Recovery", "Keep the File"),
+       .isCancelledByReturn = true});
+  if (answer == framework::AlertReturn::defaultButton) store_.remove(file);
+}
+
+std::string Recovery::informationOf(const RecoveryFile& file, const PatientRecord& patient,
+                                    const std::vector<PatientDifference>& differences) const {
+  const auto& localizer = services_.localizer;
+  const std::string identifier = foundation::shownLine(patient.maternalIDString().value_or(""));
+  std::string information = localizer.text("Recovery", "Patient:");
+  information.append(" ").append(identifier.empty() ? "-" : identifier);
+  information.append("\n").append(localizer.text("Recovery", "Document:")).append(" ");
+  information += file.document.empty() ? localizer.text("Recovery", "never saved") : file.document;
+  information.append("\n")
+      .append(localizer.text("Recovery", "Last kept:"))
+      .append(" ")
+      .append(textOf(file.saved));
+
+  std::vector<std::string> lines;
+  const auto add = [&](std::string line) {
+    if (lines.empty() || lines.back() != line) lines.push_back(std::move(line));
+  };
+  for (const PatientDifference& difference : differences) {
+    const auto& examinations = patient.ncRecordsArray();
+    if (!difference.examination) {
+      add(localizer.text("Recovery", labelOf(difference.key)));
+    } else if (difference.isMissingAfter) {
+      add(localizer.text("Recovery", "An examination that was removed"));
+    } else {
+      const auto& date = examinations.at(*difference.examination)->examDate();
+      const auto day = date ? foundation::localDay(*date, services_.calendar) : std::nullopt;
+      add(day ? localizer.text("Recovery", "Examination of") + " " + foundation::longDateText(*day, localizer)
+              : localizer.text("Recovery", "An examination without a date"));
+    }
+  }
+  information.append("\n\n").append(localizer.text("Recovery", "What differs from the saved document:"));
+  for (std::size_t i = 0; i < std::min(lines.size(), kMostLines); ++i)
+    information.append("\n").append(lines[i]);
+  if (lines.size() > kMostLines) information += "\n\u2026";
+  return information;
+}
+
+std::string Recovery::textOf(const foundation::Date& moment) const {
+  const auto day = foundation::localDay(moment, services_.calendar);
+  const std::string iso = foundation::isoDateTimeText(moment, services_.calendar);
+  constexpr std::size_t kTime = 11;  // behind 2027-04-10T
+  constexpr std::size_t kHoursAndMinutes = 5;
+  if (!day || iso.size() < kTime + kHoursAndMinutes) return "-";
+  return foundation::longDateText(*day, services_.localizer) + ", " + iso.substr(kTime, kHoursAndMinutes);
+}
+
+}  // namespace nascor::app
