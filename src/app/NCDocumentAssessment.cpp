@@ -149,7 +149,11 @@ void NCDocument::assess() {
     }
     show(said.remark, remark);
   }
-  if (const auto what = calc::improbableAge(age)) ofAge = improbableText(*what, Measurement::bpd);
+  if (const auto what = calc::improbableAge(age)) {
+    std::string first = improbableText(*what, Measurement::bpd);
+    if (!ofAge.empty()) first.append(" ").append(ofAge);
+    ofAge = std::move(first);
+  }
   show(assessment_.ageRemark, ofAge);
   const std::string weight = calc::reportedWeight(calc::estimatedFetalWeight(lengths, fetalWeightStandard()));
   show(assessment_.weight, weight == "-" ? weight : weight + " " + localizer.text("NCDocument", "g"));

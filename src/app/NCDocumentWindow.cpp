@@ -50,6 +50,8 @@ void NCDocument::windowControllerDidLoadNib() {
   updateAdjustDeliveryStepperForNewStandard();
   doSetCRLStandard(patientRecord_->crlStandard());
   refreshEDDfromMeasurements();
+  // The charts have had the document's own standard only since it was posted.
+  assess();
 }
 
 void NCDocument::windowWillClose() { showAllSubscription_.reset(); }

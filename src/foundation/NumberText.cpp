@@ -62,11 +62,19 @@ void countUp(std::string& text) {
 
 }  // namespace
 
-std::string shortestText(double value) {
+namespace {
+
+template <class Number>
+std::string shortestTextOf(Number value) {
   if (std::isnan(value)) return "nan";
   std::array<char, 32> buffer;
   return {buffer.data(), std::to_chars(buffer.data(), buffer.data() + buffer.size(), value).ptr};
 }
+
+}  // namespace
+
+std::string shortestText(double value) { return shortestTextOf(value); }
+std::string shortestSingleText(float value) { return shortestTextOf(value); }
 
 std::string fixedText(double value, int decimals) {
   if (std::isnan(value)) return "nan";

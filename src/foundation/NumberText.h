@@ -10,6 +10,8 @@ namespace nascor::foundation {
 /// The shortest decimal text that reads back to the same double; `nan`, `inf` and `-inf` for the rest.
 /// For programs: JSON, CSV, the command line. No locale.
 std::string shortestText(double value);
+/// The shortest that reads back to the same single-precision number.
+std::string shortestSingleText(float value);
 
 /// What C's "%.*f" gives in the C locale: the exact value rounded to `decimals` places (0 to 9), ties
 /// to even; a NaN is `nan` whatever its sign bit. For the report and logs. No locale.

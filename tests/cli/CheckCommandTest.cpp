@@ -30,6 +30,12 @@ TEST(CheckCommand, namesEachOddityInALineAndStillSucceeds) {
                              good + ": ok\n");
 }
 
+TEST(CheckCommand, saysALengthAsItWasTyped) {
+  const std::string centimetres = R"({"edd":"2027-04-10","examinations":[
+    {"examDate":"2026-11-22","measurements":[{"bpd":9.1}]}]})";
+  EXPECT_THAT(run({"check", "-"}, document(centimetres)).out, testing::HasSubstr("BPD 9.1 mm is more than 4 SD below"));
+}
+
 TEST(CheckCommand, printsJson) {
   EXPECT_EQ(run({"check", "-", "--json"}, document(kGood)).out,
             "{\"file\":\"standard input\",\"oddities\":[]}\n");

@@ -182,6 +182,16 @@ TEST_F(TheDialogs, movesTheDeliveryByKeysAlone) {
   EXPECT_FALSE(dialog("adjustDeliveryPanel").isVisible());
 }
 
+TEST_F(TheDialogs, replaceTheDaysToTheDeliveryByWhatIsTyped) {
+  openWindow(singleton());
+  key(Qt::Key_D, Qt::ControlModifier | Qt::ShiftModifier);
+  ASSERT_EQ(focusName(), "adjustDeliveryStepper");
+  QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("-7"));
+  EXPECT_EQ(text("adjustDeliverOnField"), "4/3/27") << "while it is typed";
+  key(Qt::Key_Escape);
+  EXPECT_EQ(window->document()->adjustDeliveryStepper().value(), -7.0);
+}
+
 TEST_F(TheDialogs, askOnThemselvesWhetherAnEstablishedEDDIsModified) {
   openWindow(singleton());
   struct Way {

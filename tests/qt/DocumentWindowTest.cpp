@@ -535,12 +535,23 @@ TEST_F(TheDocumentWindow, usesTheRoomOfALargeScreenAndFitsASmallOne) {
 }
 
 TEST_F(TheDocumentWindow, keepsItsPlaceOnTheScreenApartFromTheClinicalPreferences) {
-  open(singleton()).resize(1000, 700);
+  // The screen is 800 wide and high, less than the window's least width.
+  qt::DocumentWindow& window = open(singleton());
+  const int width = window.minimumSizeHint().width();
+  window.resize(width, 700);
+  settle();
+  window.close();
+  settle();
+  EXPECT_EQ(openBlank().size(), QSize(width, 700));
+  EXPECT_TRUE(platform.defaults.written().contains("Window Geometry"));
+}
+
+TEST_F(TheDocumentWindow, isNotHigherThanTheScreenThatItComesBackTo) {
+  open(singleton()).resize(1440, 1080);
   settle();
   front().close();
   settle();
-  EXPECT_EQ(openBlank().size(), QSize(1000, 700));
-  EXPECT_TRUE(platform.defaults.written().contains("Window Geometry"));
+  EXPECT_LE(openBlank().height(), 800);
 }
 
 }  // namespace

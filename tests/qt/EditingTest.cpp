@@ -156,6 +156,29 @@ TEST_F(Editing, replacesANumberOrDateThatIsClickedInto) {
   EXPECT_EQ(bpd(), 35.0);
 }
 
+TEST_F(Editing, replacesANumberThatIsClickedIntoWhereTheProgramHasPutTheFocus) {
+  open(twins());
+  auto& edit = widget<QLineEdit>("bpdField");
+  const QPoint behindTheText(edit.width() - 5, edit.height() / 2);
+  const auto clickInto = [&] {
+    QTest::mouseClick(&edit, Qt::LeftButton, {}, behindTheText);
+    settle();
+  };
+  for (const auto& bringsTheFocus : std::vector<std::function<void()>>{
+           [this] { click("addExaminationButton"); }, [this] { action("addExaminationAction").trigger(); }}) {
+    bringsTheFocus();
+    settle();
+    ASSERT_EQ(focus(), "bpdField");
+    clickInto();
+    EXPECT_EQ(edit.selectedText(), edit.text());
+    clickInto();
+    EXPECT_FALSE(edit.hasSelectedText()) << "the second click places the caret";
+  }
+  QTest::keyClicks(&edit, QStringLiteral("1"));
+  clickInto();
+  EXPECT_FALSE(edit.hasSelectedText()) << "as does one into what is being typed";
+}
+
 TEST_F(Editing, placesTheCaretInAReferenceIDThatIsClickedInto) {
   open(singleton());
   auto& edit = widget<QLineEdit>("referenceIDField");

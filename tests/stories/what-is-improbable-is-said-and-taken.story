@@ -50,13 +50,13 @@ Before the last period, and long past term:
 {"do":["menstrualAgeStringForRecord",0]}
 => {"result":"0w -1d"}
 {"beside":true}
-=~ {"beside":{"ageRemark":"The examination is before the last period."}}
+=~ {"beside":{"ageRemark":"The examination is before the last period. The growth standard begins at 11 weeks, which count."}}
 {"answer":["Modify"]}
 {"edit":["birthDateField","10/16/26"]}
 {"do":["menstrualAgeStringForRecord",0]}
 => {"result":"45w 1d"}
 {"beside":true}
-=~ {"beside":{"ageRemark":"The age is above 45 weeks."}}
+=~ {"beside":{"ageRemark":"The age is above 45 weeks. The growth standard ends at 41 weeks, which count."}}
 {"answer":["Modify"]}
 {"edit":["birthDateField","10/18/26"]}
 {"beside":true}

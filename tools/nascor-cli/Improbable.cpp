@@ -13,9 +13,20 @@ namespace nascor::cli {
 using calc::Improbable;
 using foundation::shortestText;
 
+namespace {
+
+/// As it was typed: a document holds single-precision numbers, the command line double.
+std::string lengthText(double millimetres) {
+  const auto single = static_cast<float>(millimetres);
+  return static_cast<double>(single) == millimetres ? foundation::shortestSingleText(single)
+                                                    : shortestText(millimetres);
+}
+
+}  // namespace
+
 std::string improbableText(Improbable what, calc::Measurement measurement, const calc::Biometry& lengths) {
   const std::string length = inCapitals(calc::nameOf(measurement)) + " " +
-                             shortestText(lengths.*calc::memberFor(measurement)) + " mm is ";
+                             lengthText(lengths.*calc::memberFor(measurement)) + " mm is ";
   switch (what) {
     case Improbable::outsideBounds: {
       const auto bounds = calc::editingBounds(measurement);
@@ -29,7 +40,7 @@ std::string improbableText(Improbable what, calc::Measurement measurement, const
     case Improbable::farAboveStandard:
       return length + "more than 4 SD above the mean of the growth standard at this age";
     case Improbable::headTooSmall:
-      return length + "below nine tenths of pi times the BPD, " + shortestText(lengths.bpd) + " mm";
+      return length + "below nine tenths of pi times the BPD, " + lengthText(lengths.bpd) + " mm";
     default: return length + "improbable";
   }
 }

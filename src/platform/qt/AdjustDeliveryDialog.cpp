@@ -69,6 +69,9 @@ void AdjustDeliveryDialog::refresh() {
   ui_->adjustDeliverOnLongForm->setText(longDateText(ui_->adjustDeliverOnField->text(), form));
 }
 
-void AdjustDeliveryDialog::focusFirst() { ui_->adjustDeliveryStepper->setFocus(); }
+void AdjustDeliveryDialog::focusFirst() {
+  ui_->adjustDeliveryStepper->setFocus();
+  ui_->adjustDeliveryStepper->selectAll();
+}
 
 }  // namespace nascor::qt

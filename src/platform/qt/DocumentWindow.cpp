@@ -729,7 +729,11 @@ void DocumentWindow::showAbout() {
 
 void DocumentWindow::restoreWindowGeometry() {
   const auto kept = environment_.services.defaults.value(kGeometryKey);
-  if (kept && restoreGeometry(QByteArray::fromBase64(QByteArray::fromStdString(*kept)))) return;
+  if (kept && restoreGeometry(QByteArray::fromBase64(QByteArray::fromStdString(*kept)))) {
+    // It may be from a larger screen, or one of another scale.
+    if (const QScreen* here = screen()) resize(size().boundedTo(here->availableSize()));
+    return;
+  }
   if (const QScreen* here = screen()) {
     resize(usualWindowSize(size(), here->availableSize()));
     move(here->availableGeometry().center() - QRect(QPoint(), size()).center());

@@ -193,10 +193,11 @@ class Export {
                                                static_cast<std::int64_t>(places.size()))
                          : document.footOfPage(place.page, 1, 1);
     }
-    return LaidOutSheet({.page = document.tabView().page(place.page),
-                         .foot = foot,
-                         .facts = document.factsOfPage(place.page)},
-                        texts_);
+    framework::SheetFacts facts = document.factsOfPage(place.page);
+    // A file of several fetuses is not named after the first.
+    if (isOneOfMany && places.front().fetus != places.back().fetus)
+      facts.title = foundation::oneLine(document.suggestedFileName());
+    return LaidOutSheet({.page = document.tabView().page(place.page), .foot = foot, .facts = facts}, texts_);
   }
 
   void writeAsOneFile(app::NCDocument& document, const std::vector<Place>& places, const QString& stem) {

@@ -94,7 +94,8 @@ void PageView::layOutScrollBars() {
   vertical_->setVisible(isHigh);
   const QRect area = viewport();
   horizontal_->setGeometry(0, area.height(), area.width(), across);
-  vertical_->setGeometry(area.width(), 0, down, area.height());
+  // To the foot, so that no corner is left between the two.
+  vertical_->setGeometry(area.width(), 0, down, this->height());
   const auto setRange = [this](QScrollBar& bar, int length, int room) {
     bar.setRange(0, std::max(0, length - room));
     bar.setPageStep(room);
