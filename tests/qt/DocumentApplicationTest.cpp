@@ -6,8 +6,11 @@
 #include <QMenu>
 #include <QMimeData>
 #include <QUrl>
+#include <variant>
 
 #include "WindowTest.h"
+#include "model/PatientFile.h"
+#include "posix/RecoveryFolder.h"
 
 namespace nascor::tests {
 namespace {
@@ -545,6 +548,35 @@ TEST_F(TheEndOfTheSession, asksNobodyWhenItMayNot) {
   EXPECT_EQ(cancels, 0);
   EXPECT_EQ(bytesOf("AB-123.nascor"), before);
   EXPECT_TRUE(front().isWindowModified());
+}
+
+TEST_F(TheApplicationOfDocuments, keepsWhatIsTypedWithinTwoSecondsUntilItIsSaved) {
+  posix::RecoveryFolder store(folder.filePath(QStringLiteral("recovery")).toStdString());
+  qt::DocumentApplication keeping(platform.services(), qt::resourceFolder(), &store);
+  keeping.openFiles({file(QStringLiteral("kept.nascor"), documentBytes(singleton()))});
+  framework::ZuDocument& opened = *keeping.documents().currentDocument();
+  qt::DocumentWindow& window = *keeping.windowOf(opened);
+  window.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+  constexpr int kMost = 2000;  // milliseconds
+  const auto isKept = [&](double bpd) {
+    const auto files = store.files();
+    if (files.size() != 1) return false;
+    const auto contents = platform.files.contents(files.front().path);
+    const auto* bytes = std::get_if<std::vector<std::byte>>(&contents);
+    return bytes &&
+           model::unarchivedPatient(*bytes).patient->ncRecordsArray().back()->measurements().front().bpd() ==
+               bpd;
+  };
+  auto* bpd = window.findChild<QLineEdit*>(QStringLiteral("bpdField"));
+  bpd->setFocus();
+  bpd->selectAll();
+  QTest::keyClicks(bpd, QStringLiteral("83"));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return isKept(83); }, kMost));
+  QTest::keyClicks(bpd, QStringLiteral(".5"));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return isKept(83.5); }, kMost)) << "before the field is left";
+  EXPECT_TRUE(keeping.documents().saveDocument(opened));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return store.files().empty(); }, kMost));
 }
 
 TEST_F(TheApplicationOfDocuments, takesItsWindowsAlong) {

@@ -4,6 +4,7 @@
 #include <QFile>
 #include <QMetaObject>
 #include <algorithm>
+#include <chrono>
 
 #include "foundation/Localizer.h"
 #include "qt/OutputMenu.h"
@@ -13,7 +14,15 @@ namespace nascor::qt {
 
 using framework::ZuDocument;
 
-DocumentApplication::DocumentApplication(const foundation::Services& services, const std::string& resources)
+namespace {
+
+/// Every change is kept within two seconds; one is left for writing.
+constexpr std::chrono::seconds kKeepingInterval{1};
+
+}  // namespace
+
+DocumentApplication::DocumentApplication(const foundation::Services& services, const std::string& resources,
+                                         foundation::RecoveryStore* recoveryStore)
     : services_(services),
       alerts_(actions_),
       panels_(services),
@@ -62,6 +71,12 @@ DocumentApplication::DocumentApplication(const foundation::Services& services, c
         Qt::QueuedConnection);
   };
   controller_.awakeFromNib();
+  if (recoveryStore) recovery_.emplace(services_, documents_, alerts_, *recoveryStore);
+  keeping_.setInterval(kKeepingInterval);
+  QObject::connect(&keeping_, &QTimer::timeout, &context_, [this] {
+    keepChanges();
+    if (!recovery_->hasWork()) keeping_.stop();
+  });
 }
 
 DocumentApplication::~DocumentApplication() {
@@ -165,6 +180,20 @@ void DocumentApplication::endSession(const std::function<bool()>& mayAsk,
   if (!isSessionEndAgreed_) cancel();
 }
 
+bool DocumentApplication::offerRecovery() {
+  std::size_t opened = 0;
+  if (recovery_) actions_.perform([&] { opened = recovery_->offer(); });
+  return opened > 0;
+}
+
+void DocumentApplication::keepChanges() {
+  if (recovery_) recovery_->keepChanges();
+}
+
+void DocumentApplication::keepChangesSoon() {
+  if (recovery_ && !keeping_.isActive() && recovery_->hasWork()) keeping_.start();
+}
+
 void DocumentApplication::leaveSession() {
   if (!isSessionEndAgreed_) {
     quit();
@@ -195,7 +224,8 @@ void DocumentApplication::addWindow(ZuDocument& document) {
            },
        .bringToFront =
            [this](ZuDocument& chosen) { actions_.perform([&] { documents_.setCurrentDocument(chosen); }); },
-       .quit = [this] { quit(); }});
+       .quit = [this] { quit(); },
+       .documentMayBeEdited = [this] { keepChangesSoon(); }});
   std::vector<const DocumentWindow*> others;
   for (const auto& [open, other] : windows_) {
     // A file that is opened takes the place of a document that nothing was done in.
@@ -210,6 +240,7 @@ void DocumentApplication::addWindow(ZuDocument& document) {
 
 void DocumentApplication::removeWindow(ZuDocument& document) {
   numbers_.remove(document);
+  if (recovery_) recovery_->forget(document);
   const auto found = windows_.find(&document);
   if (found == windows_.end()) return;
   found->second->release();

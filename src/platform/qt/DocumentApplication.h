@@ -1,10 +1,14 @@
 #pragma once
 
 #include <QStringList>
+#include <QTimer>
 #include <functional>
 #include <map>
+#include <optional>
 
 #include "app/NCAppController.h"
+#include "app/Recovery.h"
+#include "foundation/RecoveryStore.h"
 #include "foundation/Services.h"
 #include "framework/DocumentController.h"
 #include "qt/Actions.h"
@@ -22,9 +26,11 @@ namespace nascor::qt {
 /// The application around the documents: makes a window for each, and asks its questions in front of them.
 class DocumentApplication {
  public:
-  /// Registers the preferences. `services` outlives it. In the folder `resources` lies the user guide.
+  /// Registers the preferences. `services` outlives it. In the folder `resources` lies the user guide. Unsaved changes are
+  /// kept in `recoveryStore`, which outlives it too; null for nowhere.
   explicit DocumentApplication(const foundation::Services& services,
-                               const std::string& resources = resourceFolder());
+                               const std::string& resources = resourceFolder(),
+                               foundation::RecoveryStore* recoveryStore = nullptr);
   DocumentApplication(const DocumentApplication&) = delete;
   DocumentApplication& operator=(const DocumentApplication&) = delete;
   /// Takes the windows along, without a question.
@@ -51,6 +57,10 @@ class DocumentApplication {
   /// edited; where it may not, the documents stay as they are. Sends `cancel` when the user stops the end of the session, or a
   /// question is open already.
   void endSession(const std::function<bool()>& mayAsk, const std::function<void()>& cancel);
+  /// Offers what programs kept that ended without a question. Whether a document was opened.
+  bool offerRecovery();
+  /// Keeps what was not saved: the program is to end at once.
+  void keepChanges();
   /// The session wants the program gone: everything was asked when its end was announced; otherwise like `quit`.
   void leaveSession();
 
@@ -63,6 +73,7 @@ class DocumentApplication {
 
  private:
   void openNow(const QStringList& paths);
+  void keepChangesSoon();
   bool hasOpenQuestion();
   void addWindow(framework::ZuDocument& document);
   void removeWindow(framework::ZuDocument& document);
@@ -82,6 +93,8 @@ class DocumentApplication {
   DocumentNumbers numbers_;
   std::map<const framework::ZuDocument*, DocumentWindow*> windows_;
   bool isSessionEndAgreed_ = false;
+  std::optional<app::Recovery> recovery_;
+  QTimer keeping_;   ///< runs while something is edited
   QObject context_;  ///< what is queued ends with it
 };
 

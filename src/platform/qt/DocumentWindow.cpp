@@ -643,6 +643,7 @@ void DocumentWindow::showState() {
   if (!document_) return;
   setWindowTitle(fromUtf8(foundation::oneLine(document_->displayName())) + QStringLiteral("[*]"));
   setWindowModified(document_->isDocumentEdited());
+  environment_.documentMayBeEdited();
   ui_->revertAction->setEnabled(document_->filePath().has_value());
   const QString path = document_->filePath()
                            ? QFile::decodeName(QByteArray::fromStdString(*document_->filePath()))

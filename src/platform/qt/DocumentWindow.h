@@ -48,6 +48,7 @@ struct WindowEnvironment {
   std::function<std::vector<framework::ZuDocument*>()> openDocuments;  ///< in the order of opening
   std::function<void(framework::ZuDocument&)> bringToFront;
   std::function<void()> quit;
+  std::function<void()> documentMayBeEdited;  ///< sent when a document has been edited, saved or read
 };
 
 /// How large a window opens for the first time, which was designed for a small screen.

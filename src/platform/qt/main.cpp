@@ -3,6 +3,7 @@
 #include <QFile>
 #include <QLocale>
 #include <QSessionManager>
+#include <QSocketNotifier>
 #include <QTimer>
 #include <algorithm>
 #include <chrono>
@@ -14,6 +15,9 @@
 #include <string_view>
 #include <vector>
 
+#include "posix/CoreDumps.h"
+#include "posix/EndingSignals.h"
+#include "posix/RecoveryFolder.h"
 #include "qt/Application.h"
 #include "qt/ApplicationIcon.h"
 #include "qt/ApplicationService.h"
@@ -186,7 +190,14 @@ void followSession(Application& application, DocumentApplication& documents) {
 
 int showDocuments(Application& application, const CommandLine& line, const foundation::Services& services) {
   const QStringList files = line.parser.positionalArguments();
-  DocumentApplication documents(services);
+  posix::RecoveryFolder recoveryFolder(posix::RecoveryFolder::usualPath());
+  DocumentApplication documents(services, resourceFolder(), &recoveryFolder);
+  const posix::EndingSignals endingSignals;
+  const QSocketNotifier ending(endingSignals.descriptor(), QSocketNotifier::Read);
+  QObject::connect(&ending, &QSocketNotifier::activated, &application, [&] {
+    documents.keepChanges();
+    endingSignals.obey();
+  });
   BusObjects objects(services, documents.documents(), documents.numbers());
   objects.onOpen = [&](const QStringList& paths) { documents.openFiles(paths); };
   objects.onNew = [&] { documents.newDocument(); };
@@ -202,8 +213,8 @@ int showDocuments(Application& application, const CommandLine& line, const found
   if (line.parser.isSet(line.service) && start == ApplicationService::Start::first) {
     service.onMessage = [&] { patience.begin(); };
     patience.begin();
-  } else if (files.isEmpty()) {
-    documents.newDocument();
+  } else if (const bool isRecovered = documents.offerRecovery(); files.isEmpty()) {
+    if (!isRecovered) documents.newDocument();
   } else {
     documents.openFiles(files);
     if (documents.documents().documents().empty()) return kFailed;
@@ -238,6 +249,7 @@ int nascorMain(int argc, char** argv) {
 }  // namespace
 
 int main(int argc, char** argv) {
+  posix::switchOffCoreDumps();
   try {
     return nascorMain(argc, argv);
   } catch (const std::exception& error) {
