@@ -130,6 +130,10 @@ Label TypedStreamReader::takeLabel(LabelKind kind, std::string_view wanted) {
 
 ClassValue TypedStreamReader::takeClass(std::string_view wanted) {
   ClassValue value{.offset = position_, .label = std::nullopt, .newRecords = 0};
+  if (bytesLeft() > 0 && headAt(position_) >= kFirstNumber) {
+    value.label = takeLabel(LabelKind::cls, wanted);
+    return value;
+  }
   while (peekHead(wanted) == kNewTag) {
     const std::size_t begin = position_++;
     const auto name = takeShared("a class name");
@@ -210,6 +214,7 @@ std::size_t TypedStreamReader::takeGroupTypes(std::string_view wanted) {
       throw FormatError(begin, "the type string " + inQuotes(types.text) + " " + error.reason);
     }
     types.parsed = true;
+    if (types.text.size() == 1 && *number < plainTypes_.size()) plainTypes_[*number] = types.text.front();
   }
   return *number;
 }
@@ -349,14 +354,19 @@ std::string_view TypedStreamReader::beginStructure() {
 }
 
 ObjectValue TypedStreamReader::beginObject() {
+  dueOf("@", "an object");
+  return objectThatIsDue(false);
+}
+
+/// `isOfItsGroup`: a group that the walk has not opened holds the object alone.
+ObjectValue TypedStreamReader::objectThatIsDue(bool isOfItsGroup) {
   constexpr std::string_view kWanted = "an object";
-  dueOf("@", kWanted);
   ObjectValue value{
       .offset = position_, .kind = ObjectValue::Kind::nil, .label = 0, .cls = {}, .complete = true};
   switch (peekHead(kWanted)) {
     case kNilTag:
       ++position_;
-      walk_.passValue();
+      if (!isOfItsGroup) walk_.passValue();
       return value;
     case kNewTag: {
       checkDepth();
@@ -370,7 +380,7 @@ ObjectValue TypedStreamReader::beginObject() {
       value.cls = takeClass("the class of an object");
       if (!value.cls.label) refuse(value.cls.offset, "the class of an object", "nil stands here");
       labels_[value.label].cls = value.cls.label;
-      walk_.enterObject(value.label);
+      isOfItsGroup ? walk_.enterObjectOfItsGroup(value.label) : walk_.enterObject(value.label);
       return value;
     }
     default:
@@ -378,45 +388,90 @@ ObjectValue TypedStreamReader::beginObject() {
       value.label = takeLabel(LabelKind::object, kWanted);
       value.complete = labels_[value.label].complete;
       value.cls = {.offset = value.offset, .label = labels_[value.label].cls, .newRecords = 0};
-      walk_.passValue();
+      if (!isOfItsGroup) walk_.passValue();
       return value;
   }
 }
 
 void TypedStreamReader::endObject() {
   const Label label = walk_.leaveObject();
+  if (bytesLeft() > 0 && headAt(position_) == kEndTag) {
+    ++position_;
+    labels_[label].complete = true;
+    return;
+  }
   const auto wanted = [&] { return "the end of " + describeLabel(label); };
   if (bytesLeft() == 0) refuse(position_, wanted(), "the file ends here");
-  if (peekHead({}) != kEndTag) refuse(position_, wanted(), "more values follow");
-  ++position_;
-  labels_[label].complete = true;
+  refuse(position_, wanted(), "more values follow");
 }
 
-// ---- Groups of one value
+// ---- Groups of one value. Nearly all are of a type that was met before and hold a value in one of its short forms; these
+// are read without the walk, which then stands as it stood. All else, and all that is wrong, goes the long way.
+
+/// Whether a group of this type alone begins here, and its head byte says so.
+inline bool TypedStreamReader::plainTypeFollows(char code) const {
+  if (bytesLeft() == 0 || !walk_.betweenGroups()) return false;
+  const int head = headAt(position_);
+  return head >= kFirstNumber && plainTypes_[static_cast<std::size_t>(head - kFirstNumber)] == code;
+}
+
+template <class Bits>
+inline Bits TypedStreamReader::fixedAt(std::size_t position) const {
+  Bits bits = 0;
+  for (std::size_t i = 0; i < sizeof bits; ++i) {
+    const std::size_t place = byteOrder_ == ByteOrder::big ? sizeof bits - 1 - i : i;
+    bits |= std::to_integer<Bits>(bytes_[position + place]) << (8 * i);
+  }
+  return bits;
+}
 
 std::int32_t TypedStreamReader::takeInt() {
+  if (bytesLeft() >= 2 && plainTypeFollows('i') && headAt(position_ + 1) >= kFirstNumber) {
+    position_ += 2;
+    return headAt(position_ - 1);
+  }
   expectGroup("i");
   return static_cast<std::int32_t>(readInteger());
 }
 
 double TypedStreamReader::takeFloat() {
+  constexpr std::size_t kSize = 2 + sizeof(float);
+  if (bytesLeft() >= kSize && plainTypeFollows('f') && headAt(position_ + 1) == kRealTag) {
+    position_ += kSize;
+    return std::bit_cast<float>(fixedAt<std::uint32_t>(position_ - sizeof(float)));
+  }
   expectGroup("f");
   return readReal();
 }
 
 double TypedStreamReader::takeDouble() {
+  constexpr std::size_t kSize = 2 + sizeof(double);
+  if (bytesLeft() >= kSize && plainTypeFollows('d') && headAt(position_ + 1) == kRealTag) {
+    position_ += kSize;
+    return std::bit_cast<double>(fixedAt<std::uint64_t>(position_ - sizeof(double)));
+  }
   expectGroup("d");
   return readReal();
 }
 
 std::optional<std::string_view> TypedStreamReader::takeString() {
+  if (bytesLeft() >= 2 && plainTypeFollows('+') && headAt(position_ + 1) >= 0 &&
+      bytesLeft() - 2 >= static_cast<std::size_t>(headAt(position_ + 1))) {
+    const auto text = bytes_.subspan(position_ + 2, static_cast<std::size_t>(headAt(position_ + 1)));
+    position_ += 2 + text.size();
+    return asText(text);
+  }
   expectGroup("+");
   return readString();
 }
 
 ObjectValue TypedStreamReader::takeObject() {
+  if (plainTypeFollows('@')) {
+    ++position_;
+    return objectThatIsDue(true);
+  }
   expectGroup("@");
-  return beginObject();
+  return objectThatIsDue(false);
 }
 
 // ---- What is known

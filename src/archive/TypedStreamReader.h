@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <deque>
@@ -170,6 +171,12 @@ class TypedStreamReader {
   ClassValue takeClass(std::string_view wanted);
   void readHeader();
 
+  bool plainTypeFollows(char code) const;
+  int headAt(std::size_t position) const { return std::to_integer<std::int8_t>(bytes_[position]); }
+  template <class Bits>
+  Bits fixedAt(std::size_t position) const;
+  ObjectValue objectThatIsDue(bool isOfItsGroup);
+
   std::size_t takeGroupTypes(std::string_view wanted);
   const TypeNode& dueOf(std::string_view codes, std::string_view wanted) const;
   void checkDepth() const;
@@ -181,6 +188,8 @@ class TypedStreamReader {
   std::int64_t systemVersion_ = 0;
   ValueWalk walk_;
   std::deque<SharedString> strings_;  // a deque, since the walk points into it while it grows
+  // Of the strings whose numbers take one byte: the type that each is, where it has been the whole of a group's types.
+  std::array<char, 238> plainTypes_{};
   std::deque<LabelEntry> labels_;     // a deque, since a vector that grows takes three times its size
   std::unordered_map<std::string_view, Label> classes_;  // the first record of each name
 };

@@ -1,10 +1,11 @@
 #include "archive/TypedStreamWriter.h"
 
+#include <algorithm>
 #include <bit>
 #include <cmath>
 #include <limits>
 #include <stdexcept>
-#include <utility>
+#include <type_traits>
 
 namespace nascor::archive {
 namespace {
@@ -17,7 +18,44 @@ bool fits(std::int64_t value) {
 /// Whole numbers of 32 bits are written as integers, whatever the width of the real. The border is that of
 /// the conversion to a 32-bit integer, with which the value is compared; a NaN fails every comparison.
 bool isWrittenAsInteger(double value) {
-  return value >= -2147483648.0 && value < 2147483648.0 && value == std::trunc(value);
+  return value >= -2147483648.0 && value < 2147483648.0 && value == static_cast<std::int32_t>(value);
+}
+
+/// No number takes more bytes than its head and eight, whether it is whole or real.
+constexpr std::size_t kLongestNumber = 9;
+
+// Each writes where it is told, which has room, and returns where it ended.
+
+std::byte* writtenByte(std::byte* to, int value) {
+  *to = static_cast<std::byte>(static_cast<unsigned char>(value));
+  return to + 1;
+}
+
+template <class Bits>
+std::byte* writtenFixed(std::byte* to, Bits bits) {
+  for (std::size_t i = 0; i < sizeof bits; ++i) to[i] = static_cast<std::byte>(bits >> (8 * i) & 0xffU);
+  return to + sizeof bits;
+}
+
+[[gnu::noinline]] std::byte* writtenLongNumber(std::byte* to, std::int64_t value) {
+  if (fits<std::int16_t>(value))
+    return writtenFixed(writtenByte(to, kInt16Tag), static_cast<std::uint16_t>(value));
+  if (fits<std::int32_t>(value))
+    return writtenFixed(writtenByte(to, kInt32Tag), static_cast<std::uint32_t>(value));
+  return writtenFixed(writtenByte(to, kInt64Tag), static_cast<std::uint64_t>(value));
+}
+
+std::byte* writtenNumber(std::byte* to, std::int64_t value) {
+  const bool isHead = value >= kFirstNumber && value <= std::numeric_limits<std::int8_t>::max();
+  return isHead ? writtenByte(to, static_cast<int>(value)) : writtenLongNumber(to, value);
+}
+
+template <class Real>
+std::byte* writtenReal(std::byte* to, Real value) {
+  using Bits = std::conditional_t<sizeof(Real) == 4, std::uint32_t, std::uint64_t>;
+  if (isWrittenAsInteger(static_cast<double>(value)))
+    return writtenNumber(to, static_cast<std::int64_t>(value));
+  return writtenFixed(writtenByte(to, kRealTag), std::bit_cast<Bits>(value));
 }
 
 }  // namespace
@@ -30,29 +68,30 @@ TypedStreamWriter::TypedStreamWriter(std::int64_t systemVersion) {
 
 // ---- Bytes and numbers
 
-void TypedStreamWriter::appendFixed(std::uint64_t bits, std::size_t width) {
-  for (std::size_t i = 0; i < width; ++i) bytes_.push_back(static_cast<std::byte>(bits >> (8 * i) & 0xffU));
+[[gnu::noinline]] void TypedStreamWriter::grow(std::size_t size) {
+  constexpr std::size_t kLeast = 1024;
+  const auto used = static_cast<std::size_t>(at_ - bytes_.get());
+  const std::size_t room = std::max(kLeast, 2 * (used + size));
+  auto larger = std::make_unique_for_overwrite<std::byte[]>(room);
+  std::copy(bytes_.get(), at_, larger.get());
+  bytes_ = std::move(larger);
+  at_ = bytes_.get() + used;
+  end_ = bytes_.get() + room;
+}
+
+void TypedStreamWriter::appendByte(int value) { at_ = writtenByte(roomFor(1), value); }
+
+void TypedStreamWriter::appendBytes(std::span<const std::byte> bytes) {
+  at_ = std::ranges::copy(bytes, roomFor(bytes.size())).out;
 }
 
 void TypedStreamWriter::appendNumber(std::int64_t value) {
-  if (value >= kFirstNumber && value <= std::numeric_limits<std::int8_t>::max()) {
-    appendByte(static_cast<int>(value));
-  } else if (fits<std::int16_t>(value)) {
-    appendByte(kInt16Tag);
-    appendFixed(static_cast<std::uint64_t>(value), 2);
-  } else if (fits<std::int32_t>(value)) {
-    appendByte(kInt32Tag);
-    appendFixed(static_cast<std::uint64_t>(value), 4);
-  } else {
-    appendByte(kInt64Tag);
-    appendFixed(static_cast<std::uint64_t>(value), 8);
-  }
+  at_ = writtenNumber(roomFor(kLongestNumber), value);
 }
 
 void TypedStreamWriter::appendUnshared(std::string_view text) {
   appendNumber(static_cast<std::int64_t>(text.size()));
-  const auto bytes = std::as_bytes(std::span(text));
-  bytes_.insert(bytes_.end(), bytes.begin(), bytes.end());
+  appendBytes(std::as_bytes(std::span(text)));
 }
 
 TypedStreamWriter::SharedString& TypedStreamWriter::appendShared(std::string_view text) {
@@ -67,19 +106,31 @@ TypedStreamWriter::SharedString& TypedStreamWriter::appendShared(std::string_vie
   return strings_.back();
 }
 
-void TypedStreamWriter::appendClass(const ClassDescription* cls) {
+/// The label of the class; nothing for nil.
+std::optional<Label> TypedStreamWriter::appendClass(const ClassDescription* cls) {
+  std::optional<Label> label;
   for (; cls != nullptr; cls = cls->superclass) {
-    const auto [place, isNew] = classes_.try_emplace(std::string(cls->name), labels_.size());
-    if (!isNew) {
-      appendLabel(place->second);
-      return;
+    const auto known = std::ranges::find(classes_, cls->name, &std::pair<std::string, Label>::first);
+    if (known != classes_.end()) {
+      appendLabel(known->second);
+      return label.value_or(known->second);
     }
+    if (!label) label = labels_.size();
+    classes_.emplace_back(cls->name, labels_.size());
     appendByte(kNewTag);
     appendShared(cls->name);
     appendNumber(cls->version);
     labels_.push_back('#');
   }
   appendByte(kNilTag);
+  return label;
+}
+
+/// The object is numbered before its class, which follows.
+Label TypedStreamWriter::appendNewObject() {
+  appendByte(kNewTag);
+  labels_.push_back('@');
+  return labels_.size() - 1;
 }
 
 // ---- Groups and values
@@ -113,7 +164,7 @@ void TypedStreamWriter::writeInteger(std::int64_t value) {
     throw std::logic_error(std::to_string(value) + " does not fit " + describeTypes(type.text));
   }
   if (type.isRawByte()) {
-    appendFixed(static_cast<std::uint64_t>(value), 1);
+    appendByte(static_cast<std::uint8_t>(value));
   } else {
     appendNumber(value);
   }
@@ -127,16 +178,8 @@ void TypedStreamWriter::writeReal(double value) {
     const bool isFloat = std::abs(value) <= kLargestFloat && static_cast<float>(value) == value;
     if (!isFloat) throw std::logic_error("a 32-bit real is due, and the value has more digits");
   }
-  if (isWrittenAsInteger(value)) {
-    appendNumber(static_cast<std::int64_t>(value));
-  } else {
-    appendByte(kRealTag);
-    if (single) {
-      appendFixed(std::bit_cast<std::uint32_t>(static_cast<float>(value)), 4);
-    } else {
-      appendFixed(std::bit_cast<std::uint64_t>(value), 8);
-    }
-  }
+  std::byte* to = roomFor(kLongestNumber);
+  at_ = single ? writtenReal(to, static_cast<float>(value)) : writtenReal(to, value);
   walk_.passValue();
 }
 
@@ -170,7 +213,7 @@ void TypedStreamWriter::writeBytes(std::span<const std::byte> bytes) {
     throw std::logic_error(describeTypes(type.text) + " is due, not " + std::to_string(bytes.size()) +
                            " bytes");
   }
-  bytes_.insert(bytes_.end(), bytes.begin(), bytes.end());
+  appendBytes(bytes);
   walk_.passValue();
 }
 
@@ -186,10 +229,7 @@ void TypedStreamWriter::beginStructure() {
 
 Label TypedStreamWriter::beginObject(const ClassDescription& cls) {
   dueOf("@");
-  // The object is numbered before its class.
-  const Label label = labels_.size();
-  appendByte(kNewTag);
-  labels_.push_back('@');
+  const Label label = appendNewObject();
   appendClass(&cls);
   walk_.enterObject(label);
   return label;
@@ -215,37 +255,51 @@ void TypedStreamWriter::writeReference(Label label) {
   walk_.passValue();
 }
 
-// ---- Groups of one value
+// ---- Groups of one value. They are complete as soon as they begin, so the walk need not open them.
 
-void TypedStreamWriter::putInt(std::int32_t value) {
-  beginGroup("i");
-  writeInteger(value);
+[[gnu::noinline]] std::byte* TypedStreamWriter::beginFirstPlainGroup(char type) {
+  appendShared({&type, 1});
+  plainTypes_[static_cast<unsigned char>(type)] = stringNumbers_.at({&type, 1}) + 1;
+  return roomFor(kLongestNumber);
 }
 
-void TypedStreamWriter::putFloat(float value) {
-  beginGroup("f");
-  writeReal(static_cast<double>(value));
+/// Writes the type, and returns where its value may be written, a number or a head byte.
+inline std::byte* TypedStreamWriter::beginPlainGroup(char type) {
+  walk_.requireBetweenGroups();
+  const std::size_t number = plainTypes_[static_cast<unsigned char>(type)];
+  if (number == 0) return beginFirstPlainGroup(type);
+  return writtenNumber(roomFor(2 * kLongestNumber), static_cast<std::int64_t>(number - 1) + kFirstNumber);
 }
 
-void TypedStreamWriter::putDouble(double value) {
-  beginGroup("d");
-  writeReal(value);
-}
+void TypedStreamWriter::putInt(std::int32_t value) { at_ = writtenNumber(beginPlainGroup('i'), value); }
+
+void TypedStreamWriter::putFloat(float value) { at_ = writtenReal(beginPlainGroup('f'), value); }
+
+void TypedStreamWriter::putDouble(double value) { at_ = writtenReal(beginPlainGroup('d'), value); }
 
 void TypedStreamWriter::putString(std::string_view text) {
-  beginGroup("+");
-  writeString(text);
+  at_ = writtenNumber(beginPlainGroup('+'), static_cast<std::int64_t>(text.size()));
+  appendBytes(std::as_bytes(std::span(text)));
 }
 
 Label TypedStreamWriter::putObject(const ClassDescription& cls) {
-  beginGroup("@");
-  return beginObject(cls);
+  WrittenClass unknown{&cls};
+  return putObject(unknown);
 }
 
-void TypedStreamWriter::putNil() {
-  beginGroup("@");
-  writeNil();
+Label TypedStreamWriter::putObject(WrittenClass& cls) {
+  at_ = beginPlainGroup('@');
+  const Label label = appendNewObject();
+  if (cls.label) {
+    appendLabel(*cls.label);
+  } else {
+    cls.label = appendClass(cls.description);
+  }
+  walk_.enterObjectOfItsGroup(label);
+  return label;
 }
+
+void TypedStreamWriter::putNil() { at_ = writtenByte(beginPlainGroup('@'), kNilTag); }
 
 void TypedStreamWriter::putReference(Label label) {
   beginGroup("@");
@@ -255,7 +309,7 @@ void TypedStreamWriter::putReference(Label label) {
 std::vector<std::byte> TypedStreamWriter::finish() && {
   walk_.requireBetweenGroups();
   if (walk_.insideObject()) throw std::logic_error("an object is still open");
-  return std::move(bytes_);
+  return {bytes_.get(), at_};
 }
 
 }  // namespace nascor::archive

@@ -1,12 +1,16 @@
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <deque>
+#include <memory>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 #include "archive/Encoding.h"
@@ -20,6 +24,13 @@ struct ClassDescription {
   std::string_view name;
   std::int64_t version = 0;
   const ClassDescription* superclass = nullptr;  ///< Null above the root class.
+};
+
+/// A class of which many objects follow. The writer keeps here where it stands in the stream, so that it need not look the
+/// name up for each object. Of one writer only.
+struct WrittenClass {
+  const ClassDescription* description;
+  std::optional<Label> label{};  ///< the writer's
 };
 
 /// Writes a typed stream, little-endian, byte for byte as the platform's own archiver does: shortest
@@ -72,8 +83,9 @@ class TypedStreamWriter {
   void putDouble(double value);                  ///< A group of type d.
   void putString(std::string_view text);         ///< A group of type +.
   Label putObject(const ClassDescription& cls);  ///< A group of type @; groups follow until endObject().
-  void putNil();                                 ///< A group of type @ with nil.
-  void putReference(Label label);                ///< A group of type @.
+  Label putObject(WrittenClass& cls);
+  void putNil();                   ///< A group of type @ with nil.
+  void putReference(Label label);  ///< A group of type @.
 
   /// @}
 
@@ -87,20 +99,32 @@ class TypedStreamWriter {
   };
 
   const TypeNode& dueOf(std::string_view codes) const;
-  void appendByte(int value) { bytes_.push_back(static_cast<std::byte>(static_cast<unsigned char>(value))); }
-  void appendFixed(std::uint64_t bits, std::size_t width);
+  std::byte* beginPlainGroup(char type);
+  [[gnu::cold]] std::byte* beginFirstPlainGroup(char type);
+  std::byte* roomFor(std::size_t size) {
+    if (static_cast<std::size_t>(end_ - at_) < size) grow(size);
+    return at_;
+  }
+  [[gnu::cold]] void grow(std::size_t size);
+  void appendByte(int value);
+  void appendBytes(std::span<const std::byte> bytes);
   void appendNumber(std::int64_t value);
   void appendLabel(std::size_t number) { appendNumber(static_cast<std::int64_t>(number) + kFirstNumber); }
   void appendUnshared(std::string_view text);
   SharedString& appendShared(std::string_view text);
-  void appendClass(const ClassDescription* cls);
+  std::optional<Label> appendClass(const ClassDescription* cls);
+  Label appendNewObject();
 
-  std::vector<std::byte> bytes_;
+  std::unique_ptr<std::byte[]> bytes_;
+  std::byte* at_ = nullptr;   // where the next byte is written
+  std::byte* end_ = nullptr;  // of the room
   ValueWalk walk_;
   std::deque<SharedString> strings_;  // a deque, since the walk and the map point into it while it grows
   std::unordered_map<std::string_view, std::size_t> stringNumbers_;
-  std::unordered_map<std::string, Label> classes_;
-  std::vector<char> labels_;  // the type code of each: '@', '#' or '*'
+  std::array<std::size_t, 128>
+      plainTypes_{};  // 1 + the number of the string that is this one character; 0: none yet
+  std::vector<std::pair<std::string, Label>> classes_;  // no document has more than a handful
+  std::vector<char> labels_;                            // the type code of each: '@', '#' or '*'
 };
 
 }  // namespace nascor::archive

@@ -14,15 +14,9 @@ const TypeNode* ValueWalk::due() const {
   }
 }
 
-bool ValueWalk::betweenGroups() const {
-  if (frames_.empty()) return true;
-  const Frame& top = frames_.back();
-  return top.kind == Kind::object || (top.kind == Kind::group && top.next == top.end);
-}
+void ValueWalk::refuse() { throw std::logic_error("values of the open group are left"); }
 
-void ValueWalk::requireBetweenGroups() const {
-  if (!betweenGroups()) throw std::logic_error("values of the open group are left");
-}
+void ValueWalk::refuseToLeave() { throw std::logic_error("no object is open"); }
 
 void ValueWalk::beginGroup(const std::vector<TypeNode>& types) {
   if (!frames_.empty() && frames_.back().kind == Kind::group) frames_.pop_back();
@@ -51,17 +45,6 @@ void ValueWalk::enterArray() {
 void ValueWalk::enterStructure() {
   const TypeNode* structure = due();
   enter(Kind::structure, structure + 1, structure + structure->size, 0);
-}
-
-Label ValueWalk::leaveObject() {
-  if (!insideObject()) throw std::logic_error("no object is open");
-  requireBetweenGroups();
-  if (frames_.back().kind == Kind::group) frames_.pop_back();
-  frames_.pop_back();
-  --depth_;
-  const Label label = objects_.back();
-  objects_.pop_back();
-  return label;
 }
 
 void ValueWalk::enter(Kind kind, const TypeNode* first, const TypeNode* end, std::uint64_t count) {

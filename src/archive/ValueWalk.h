@@ -21,9 +21,15 @@ class ValueWalk {
   const TypeNode* due() const;
 
   /// True where a group may begin: at the top, or in an object, with no value of the last group left.
-  bool betweenGroups() const;
+  bool betweenGroups() const {
+    if (frames_.empty()) return true;
+    const Frame& top = frames_.back();
+    return top.kind == Kind::object || (top.kind == Kind::group && top.next == top.end);
+  }
   /// Throws unless betweenGroups().
-  void requireBetweenGroups() const;
+  void requireBetweenGroups() const {
+    if (!betweenGroups()) refuse();
+  }
   /// True when an object is open, however deep inside it the walk stands.
   bool insideObject() const { return !objects_.empty(); }
   /// The innermost open object. Only when insideObject().
@@ -37,9 +43,26 @@ class ValueWalk {
 
   void passValue();               ///< Goes over the value that is due. Only when one is.
   void enterObject(Label label);  ///< Goes into the object that is due; its groups follow. Only when one is.
-  Label leaveObject();            ///< Leaves the innermost open object and returns its label.
-  void enterArray();              ///< Goes into the array that is due. Only when one is.
-  void enterStructure();          ///< Goes into the structure that is due. Only when one is.
+  /// Opens a group of one object and goes into that. Only betweenGroups().
+  void enterObjectOfItsGroup(Label label) {
+    if (!frames_.empty() && frames_.back().kind == Kind::group) frames_.pop_back();
+    frames_.push_back({Kind::object, nullptr, nullptr, 0});
+    objects_.push_back(label);
+    ++depth_;
+  }
+  /// Leaves the innermost open object and returns its label.
+  Label leaveObject() {
+    if (!insideObject()) refuseToLeave();
+    requireBetweenGroups();
+    if (frames_.back().kind == Kind::group) frames_.pop_back();
+    frames_.pop_back();
+    --depth_;
+    const Label label = objects_.back();
+    objects_.pop_back();
+    return label;
+  }
+  void enterArray();      ///< Goes into the array that is due. Only when one is.
+  void enterStructure();  ///< Goes into the structure that is due. Only when one is.
   void leaveArray() { leave(Kind::array); }
   void leaveStructure() { leave(Kind::structure); }
 
@@ -52,6 +75,8 @@ class ValueWalk {
     std::uint64_t remaining;  // elements of an array still to come
   };
 
+  [[noreturn]] static void refuse();
+  [[noreturn]] static void refuseToLeave();
   void enter(Kind kind, const TypeNode* first, const TypeNode* end, std::uint64_t count);
   void leave(Kind kind);
 

@@ -20,11 +20,12 @@ inline std::int64_t truncatedToInteger(double value) {
 /// Plain conversion of such a value is undefined in C++.
 inline float narrowedToFloat(double value) {
   static_assert(std::numeric_limits<float>::is_iec559 && std::numeric_limits<double>::is_iec559);
+  constexpr double kMax = std::numeric_limits<float>::max();
+  if (value >= -kMax && value <= kMax) return static_cast<float>(value);
   // Half a unit above the largest float: from here on rounding to nearest gives infinity.
   constexpr double kFirstInfinite = 0x1.ffffffp+127;
   if (value >= kFirstInfinite) return std::numeric_limits<float>::infinity();
   if (value <= -kFirstInfinite) return -std::numeric_limits<float>::infinity();
-  constexpr double kMax = std::numeric_limits<float>::max();
   if (value > kMax) return std::numeric_limits<float>::max();
   if (value < -kMax) return std::numeric_limits<float>::lowest();
   return static_cast<float>(value);

@@ -19,6 +19,13 @@ constexpr ClassDescription kMeasurements{class_name::measurementsRecord, class_v
 
 }  // namespace
 
+Archiver::Archiver()
+    : string_{&kString},
+      date_{&kDate},
+      array_{&kMutableArray},
+      examination_{&kExamination},
+      measurements_{&kMeasurements} {}
+
 void Archiver::encodeRoot(const PatientRecord& patient) {
   writer_.putObject(kPatient);
   patient.encodeWithCoder(*this);
@@ -37,7 +44,7 @@ void Archiver::encodeString(const std::optional<std::string_view>& text) {
   } else if (text->empty() && emptyString_) {
     writer_.putReference(*emptyString_);
   } else {
-    const archive::Label label = writer_.putObject(kString);
+    const archive::Label label = writer_.putObject(string_);
     writer_.putString(*text);
     writer_.endObject();
     if (text->empty()) emptyString_ = label;
@@ -49,16 +56,16 @@ void Archiver::encodeDate(const std::optional<foundation::Date>& date) {
     writer_.putNil();
     return;
   }
-  writer_.putObject(kDate);
+  writer_.putObject(date_);
   writer_.putDouble(date->secondsSince2001);
   writer_.endObject();
 }
 
 void Archiver::encodeExaminations(const PatientRecord::Examinations& examinations) {
-  writer_.putObject(kMutableArray);
+  writer_.putObject(array_);
   encodeInteger(static_cast<std::int64_t>(examinations.size()));
   for (const auto& examination : examinations) {
-    writer_.putObject(kExamination);
+    writer_.putObject(examination_);
     examination->encodeWithCoder(*this);
     writer_.endObject();
   }
@@ -66,10 +73,10 @@ void Archiver::encodeExaminations(const PatientRecord::Examinations& examination
 }
 
 void Archiver::encodeMeasurements(const std::vector<MeasurementsRecord>& measurements) {
-  writer_.putObject(kMutableArray);
+  writer_.putObject(array_);
   encodeInteger(static_cast<std::int64_t>(measurements.size()));
   for (const MeasurementsRecord& record : measurements) {
-    writer_.putObject(kMeasurements);
+    writer_.putObject(measurements_);
     record.encodeWithCoder(*this);
     writer_.endObject();
   }

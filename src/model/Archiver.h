@@ -17,6 +17,8 @@ namespace nascor::model {
 /// record is written in full. The same patient therefore always gives the same bytes.
 class Archiver {
  public:
+  Archiver();
+
   void encodeRoot(const PatientRecord& patient);
   /// The whole file. Call it last.
   std::vector<std::byte> finish() &&;
@@ -30,6 +32,12 @@ class Archiver {
 
  private:
   archive::TypedStreamWriter writer_;
+  // The classes of which a document has many objects.
+  archive::WrittenClass string_;
+  archive::WrittenClass date_;
+  archive::WrittenClass array_;
+  archive::WrittenClass examination_;
+  archive::WrittenClass measurements_;
   std::optional<archive::Label> emptyString_;
 };
 

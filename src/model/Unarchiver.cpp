@@ -16,7 +16,7 @@ Unarchiver::Unarchiver(std::span<const std::byte> bytes) : size_(bytes.size()), 
 
 std::unique_ptr<PatientRecord> Unarchiver::decodeRoot() {
   std::unique_ptr<PatientRecord> patient;
-  const ObjectValue root = takeObject({class_name::patientRecord}, "a PatientRecord");
+  const ObjectValue root = takeObject(patient_);
   if (!root.isNil()) {
     patient = std::make_unique<PatientRecord>(PatientRecord::initWithCoder(*this));
     reader_.endObject();
@@ -37,7 +37,7 @@ std::int64_t Unarchiver::decodeInteger() { return reader_.takeInt(); }
 double Unarchiver::decodeFloat() { return reader_.takeFloat(); }
 
 std::optional<std::string> Unarchiver::decodeString() {
-  const ObjectValue object = takeObject({class_name::string, class_name::mutableString}, "a string or nil");
+  const ObjectValue object = takeObject(string_);
   if (object.isNil()) return std::nullopt;
   if (object.isReference()) {
     const auto text = decodedAt<std::string_view>(object);
@@ -50,17 +50,17 @@ std::optional<std::string> Unarchiver::decodeString() {
                                          std::string(text ? "not UTF-8" : "missing"));
   }
   reader_.endObject();
-  decoded_.emplace(object.label, *text);
+  keep(object, *text);
   return std::string(*text);
 }
 
 std::optional<Date> Unarchiver::decodeDate() {
-  const ObjectValue object = takeObject({class_name::date}, "a date or nil");
+  const ObjectValue object = takeObject(date_);
   if (object.isNil()) return std::nullopt;
   if (object.isReference()) return decodedAt<Date>(object);
   const Date date{reader_.takeDouble()};
   reader_.endObject();
-  decoded_.emplace(object.label, date);
+  keep(object, date);
   return date;
 }
 
@@ -71,8 +71,7 @@ std::optional<std::string> Unarchiver::decodeGravidityText() {
 
 PatientRecord::Examinations Unarchiver::decodeExaminations() {
   PatientRecord::Examinations examinations;
-  const ObjectValue array =
-      takeObject({class_name::array, class_name::mutableArray}, "an array of examinations or nil");
+  const ObjectValue array = takeObject(examinations_);
   if (array.isNil()) {
     ++facts_.missingArrays;
     return examinations;
@@ -84,7 +83,7 @@ PatientRecord::Examinations Unarchiver::decodeExaminations() {
 }
 
 std::unique_ptr<NCRecord> Unarchiver::decodeExamination() {
-  const ObjectValue object = takeObject({class_name::ncRecord}, "an NCRecord");
+  const ObjectValue object = takeObject(examination_);
   if (object.isNil()) throw FormatError(object.offset, "expected an NCRecord, but nil stands here");
   if (object.isReference()) {
     const NCRecord& shared = *decodedAt<const NCRecord*>(object);
@@ -95,14 +94,13 @@ std::unique_ptr<NCRecord> Unarchiver::decodeExamination() {
   }
   auto examination = std::make_unique<NCRecord>(NCRecord::initWithCoder(*this));
   reader_.endObject();
-  decoded_.emplace(object.label, examination.get());
+  keep(object, examination.get());
   return examination;
 }
 
 std::vector<MeasurementsRecord> Unarchiver::decodeMeasurements() {
   std::vector<MeasurementsRecord> measurements;
-  const ObjectValue array =
-      takeObject({class_name::array, class_name::mutableArray}, "an array of measurements or nil");
+  const ObjectValue array = takeObject(measurements_);
   if (array.isNil()) {
     ++facts_.missingArrays;
     return measurements;
@@ -113,15 +111,19 @@ std::vector<MeasurementsRecord> Unarchiver::decodeMeasurements() {
     ++facts_.sharedRecords;
     return {shared.begin(), shared.end()};
   }
-  for (std::int32_t left = takeCount(); left > 0; --left) measurements.push_back(decodeMeasurementsRecord());
+  std::int32_t left = takeCount();
+  // A file may state any count. Few have more fetuses than this.
+  constexpr std::int32_t kUsual = 5;
+  measurements.reserve(static_cast<std::size_t>(std::min(left, kUsual)));
+  for (; left > 0; --left) measurements.push_back(decodeMeasurementsRecord());
   reader_.endObject();
   // The elements stay where they are when the vector moves into its examination.
-  decoded_.emplace(array.label, Measurements(measurements));
+  keep(array, Measurements(measurements));
   return measurements;
 }
 
 MeasurementsRecord Unarchiver::decodeMeasurementsRecord() {
-  const ObjectValue object = takeObject({class_name::measurementsRecord}, "a MeasurementsRecord");
+  const ObjectValue object = takeObject(measurementsRecord_);
   if (object.isNil()) throw FormatError(object.offset, "expected a MeasurementsRecord, but nil stands here");
   if (object.isReference()) {
     ++facts_.sharedRecords;
@@ -129,20 +131,31 @@ MeasurementsRecord Unarchiver::decodeMeasurementsRecord() {
   }
   const MeasurementsRecord record = MeasurementsRecord::initWithCoder(*this);
   reader_.endObject();
-  decoded_.emplace(object.label, record);
+  keep(object, record);
   return record;
 }
 
-ObjectValue Unarchiver::takeObject(std::initializer_list<std::string_view> classNames,
-                                   std::string_view wanted) {
+ObjectValue Unarchiver::takeObject(Expected& expected) {
   const ObjectValue object = reader_.takeObject();
   if (object.isNil()) return object;
-  const bool fits = std::ranges::find(classNames, reader_.classNameOf(object)) != classNames.end();
-  if (!fits || (object.isReference() && !object.complete)) {
-    throw FormatError(object.offset, "expected " + std::string(wanted) + ", but " + reader_.describe(object) +
-                                         (fits ? " would contain itself" : " stands here"));
+  if (object.cls.label != expected.fitting) {
+    const auto& names = expected.classNames;
+    if (std::ranges::find(names, reader_.classNameOf(object)) == names.end())
+      refuse(object, expected, " stands here");
+    expected.fitting = object.cls.label;
   }
+  if (object.isReference() && !object.complete) refuse(object, expected, " would contain itself");
   return object;
+}
+
+void Unarchiver::refuse(const ObjectValue& object, const Expected& expected, const char* reason) const {
+  throw FormatError(object.offset, "expected " + std::string(expected.wanted) + ", but " +
+                                       reader_.describe(object) + reason);
+}
+
+void Unarchiver::keep(const ObjectValue& object, Decoded decoded) {
+  if (decoded_.size() <= object.label) decoded_.resize(object.label + 1);
+  decoded_[object.label] = decoded;
 }
 
 template <class Value>

@@ -1,12 +1,12 @@
 #pragma once
 
+#include <array>
 #include <cstddef>
-#include <initializer_list>
+#include <deque>
 #include <optional>
 #include <span>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <variant>
 #include <vector>
 
@@ -58,11 +58,21 @@ class Unarchiver {
  private:
   using Measurements = std::span<const MeasurementsRecord>;
   /// Texts point into the file, the others into the patient that is being built.
-  using Decoded =
-      std::variant<std::string_view, foundation::Date, MeasurementsRecord, Measurements, const NCRecord*>;
+  using Decoded = std::variant<std::monostate, std::string_view, foundation::Date, MeasurementsRecord,
+                               Measurements, const NCRecord*>;
 
-  archive::ObjectValue takeObject(std::initializer_list<std::string_view> classNames,
-                                  std::string_view wanted);
+  /// What may stand where an object is decoded.
+  struct Expected {
+    std::array<std::string_view, 2> classNames;  ///< twice the same where there is one
+    std::string_view wanted;
+    std::optional<archive::Label>
+        fitting{};  ///< the class that fitted last, so that its name is compared once
+  };
+
+  archive::ObjectValue takeObject(Expected& expected);
+  [[noreturn]] void refuse(const archive::ObjectValue& object, const Expected& expected,
+                           const char* reason) const;
+  void keep(const archive::ObjectValue& object, Decoded decoded);
   template <class Value>
   const Value& decodedAt(const archive::ObjectValue& reference) const;
   void chargeForCopy(const archive::ObjectValue& reference, std::size_t bytes);
@@ -72,7 +82,15 @@ class Unarchiver {
 
   std::size_t size_;
   archive::TypedStreamReader reader_;
-  std::unordered_map<archive::Label, Decoded> decoded_;
+  std::deque<Decoded> decoded_;  // by label
+  Expected patient_{{class_name::patientRecord, class_name::patientRecord}, "a PatientRecord"};
+  Expected string_{{class_name::string, class_name::mutableString}, "a string or nil"};
+  Expected date_{{class_name::date, class_name::date}, "a date or nil"};
+  Expected examinations_{{class_name::array, class_name::mutableArray}, "an array of examinations or nil"};
+  Expected examination_{{class_name::ncRecord, class_name::ncRecord}, "an NCRecord"};
+  Expected measurements_{{class_name::array, class_name::mutableArray}, "an array of measurements or nil"};
+  Expected measurementsRecord_{{class_name::measurementsRecord, class_name::measurementsRecord},
+                               "a MeasurementsRecord"};
   std::size_t copiedBytes_ = 0;
   ArchiveFacts facts_;
 };
