@@ -1,12 +1,25 @@
 #include "calc/LookUp.h"
 
+#include <algorithm>
+
 namespace nascor::calc {
 namespace {
 
+/// The first row that is not before `gestation`; the number of rows where there is none. With a row for each week, the weeks
+/// since the first row lead there at once; in another table the neighbours are looked at.
+std::size_t rowForGestation(const ReferenceTable& table, double gestation) {
+  if (!(gestation <= table.back().observation())) return table.size();
+  const double weeks = gestation - table.front().observation();
+  if (weeks <= 0.0) return 0;
+  std::size_t i = std::min(static_cast<std::size_t>(weeks), table.size() - 1);
+  while (table[i].observation() < gestation) ++i;
+  while (table[i - 1].observation() >= gestation) --i;
+  return i;
+}
+
 double interpolated(const ReferenceTable& table, double gestation, double (DatabaseRecord::*column)() const) {
   if (gestation == 0.0 || table.empty()) return 0.0;
-  std::size_t i = 0;
-  while (i < table.size() && !(table[i].observation() >= gestation)) ++i;
+  const std::size_t i = rowForGestation(table, gestation);
   if (i == table.size()) return (table.back().*column)();
   if (i == 0) return (table.front().*column)();
 

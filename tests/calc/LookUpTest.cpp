@@ -177,6 +177,53 @@ TEST(MeanAndSDForGestation, divideByTheDistanceOfTheRowsBeforeTheyMultiply) {
   EXPECT_TRUE(isExactly(meanForGestation(gap, 12.5), 45.60000000000001));
 }
 
+/// The definition: row after row from the first.
+double byScan(const ReferenceTable& table, double gestation, double (DatabaseRecord::*column)() const) {
+  if (gestation == 0.0 || table.empty()) return 0.0;
+  std::size_t i = 0;
+  while (i < table.size() && !(table[i].observation() >= gestation)) ++i;
+  if (i == table.size()) return (table.back().*column)();
+  if (i == 0) return (table.front().*column)();
+  const DatabaseRecord& before = table[i - 1];
+  const DatabaseRecord& after = table[i];
+  return (before.*column)() + (gestation - before.observation()) /
+                                  (after.observation() - before.observation()) *
+                                  ((after.*column)() - (before.*column)());
+}
+
+void expectWhatAScanFinds(const ReferenceTable& table, const std::string& name) {
+  std::vector<double> gestations{-1.0, -0.0, 0.0, 5e-324, kInfinity, -kInfinity, kNaN};
+  for (int i = 0; i < 6000; ++i) gestations.push_back(i / 128.0);
+  for (const DatabaseRecord& row : table) {
+    gestations.push_back(std::nextafter(row.observation(), 0.0));
+    gestations.push_back(row.observation());
+    gestations.push_back(std::nextafter(row.observation(), 100.0));
+  }
+  for (const double gestation : gestations) {
+    EXPECT_TRUE(
+        isExactly(meanForGestation(table, gestation), byScan(table, gestation, &DatabaseRecord::mean)))
+        << name << " at " << gestation;
+    EXPECT_TRUE(isExactly(sdForGestation(table, gestation), byScan(table, gestation, &DatabaseRecord::sd)))
+        << name << " at " << gestation;
+  }
+}
+
+TEST(MeanAndSDForGestation, areWhatAScanFindsInEveryTable) {
+  forEveryTable(expectWhatAScanFinds);
+  expectWhatAScanFinds(kSteps, "steps");
+}
+
+TEST(MeanAndSDForGestation, areWhatAScanFindsWhereRowsAreNoWeekApart) {
+  ReferenceTable apart;
+  ReferenceTable close;
+  for (int i = 0; i < 9; ++i) {
+    apart.push_back(DatabaseRecord::initWithData(10.0 + 2.5 * i, 20.0 + i * i, 1.0 + i));
+    close.push_back(DatabaseRecord::initWithData(10.0 + 0.25 * i, 20.0 + i * i, 1.0 + i));
+  }
+  expectWhatAScanFinds(apart, "apart");
+  expectWhatAScanFinds(close, "close");
+}
+
 TEST(MeanAndSDForGestation, areThoseOfTheRowAtEveryWholeWeekOfEveryTable) {
   forEveryTable([](const ReferenceTable& table, const std::string& name) {
     for (const DatabaseRecord& row : table) {
