@@ -2,8 +2,10 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <charconv>
 #include <cmath>
+#include <limits>
 
 #include "foundation/LeadingInteger.h"
 
@@ -60,6 +62,27 @@ void countUp(std::string& text) {
   text.insert(text.begin(), '1');
 }
 
+/// `value`, which is not negative, in units of the last of up to three decimal places: the nearest whole number to the exact
+/// value, ties to even. Nothing for more places, and where 64 bits may not hold it.
+std::optional<std::uint64_t> roundedToPlaces(double value, int decimals) {
+  constexpr std::array<std::uint64_t, 4> kUnits{1, 10, 100, 1000};
+  constexpr int kDigits = std::numeric_limits<double>::digits - 1;
+  constexpr std::uint64_t kLeading = std::uint64_t{1} << kDigits;
+  if (decimals < 0 || static_cast<std::size_t>(decimals) >= kUnits.size()) return std::nullopt;
+  const auto bits = std::bit_cast<std::uint64_t>(value);
+  // The value is (significand) / 2^shift, but for those next to zero, which have no leading bit and round to it.
+  const int shift = 1075 - static_cast<int>(bits >> kDigits);
+  if (shift <= 0) return std::nullopt;
+  // Below 2^63, so that from 64 on it is less than half of a unit.
+  const std::uint64_t units = (bits % kLeading + kLeading) * kUnits[static_cast<std::size_t>(decimals)];
+  if (shift >= 64) return 0;
+  const std::uint64_t whole = units >> shift;
+  const std::uint64_t rest = units - (whole << shift);
+  const std::uint64_t half = std::uint64_t{1} << (shift - 1);
+  const bool isUp = rest > half || (rest == half && whole % 2 == 1);
+  return whole + (isUp ? 1 : 0);
+}
+
 }  // namespace
 
 namespace {
@@ -77,11 +100,32 @@ std::string shortestText(double value) { return shortestTextOf(value); }
 std::string shortestSingleText(float value) { return shortestTextOf(value); }
 
 std::string fixedText(double value, int decimals) {
-  if (std::isnan(value)) return "nan";
+  std::string text;
+  appendFixedText(text, value, decimals);
+  return text;
+}
+
+void appendFixedText(std::string& out, double value, int decimals) {
+  if (std::isnan(value)) {
+    out += "nan";
+    return;
+  }
+  if (auto digits = roundedToPlaces(std::fabs(value), decimals)) {
+    std::array<char, 24> buffer;
+    char* at = buffer.data() + buffer.size();
+    for (int place = 0; *digits != 0 || place <= decimals; ++place) {
+      if (place == decimals && decimals > 0) *--at = '.';
+      *--at = static_cast<char>('0' + *digits % 10);
+      *digits /= 10;
+    }
+    if (std::signbit(value)) *--at = '-';
+    out.append(at, buffer.data() + buffer.size());
+    return;
+  }
   std::array<char, 1 + kMostDigits + 1 + 9> buffer;
-  return {buffer.data(), std::to_chars(buffer.data(), buffer.data() + buffer.size(), value,
-                                       std::chars_format::fixed, decimals)
-                             .ptr};
+  out.append(buffer.data(), std::to_chars(buffer.data(), buffer.data() + buffer.size(), value,
+                                          std::chars_format::fixed, decimals)
+                                .ptr);
 }
 
 std::string fieldText(double value, int decimals, char decimalSign) {

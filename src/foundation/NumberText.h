@@ -17,6 +17,9 @@ std::string shortestSingleText(float value);
 /// to even; a NaN is `nan` whatever its sign bit. For the report and logs. No locale.
 std::string fixedText(double value, int decimals);
 
+/// Appends the same.
+void appendFixedText(std::string& out, double value, int decimals);
+
 /// What a number field shows: the exact decimal value rounded half away from zero to `decimals` places
 /// (25.25 is 25.3 where `fixedText` gives 25.2), with `decimalSign` as its point. A value that rounds to
 /// zero shows no minus sign. Empty when the value is not finite.

@@ -18,6 +18,7 @@ constexpr std::array<InputColumn, Calculation::kInputs> kInputColumns{
     {{"ga_weeks", "ga"}, {"bpd_mm", "bpd"}, {"hc_mm", "hc"}, {"ac_mm", "ac"}, {"fl_mm", "fl"}}};
 
 std::string_view withoutBlanks(std::string_view text) {
+  if (!text.empty() && text.front() > ' ' && text.back() > ' ') return text;
   constexpr std::string_view kBlanks = " \t\n\v\f\r";
   const std::size_t first = text.find_first_not_of(kBlanks);
   if (first == std::string_view::npos) return {};
@@ -170,8 +171,7 @@ std::string Calculation::read(std::span<const CsvCell> record, Row& row) const {
 std::string Calculation::append(std::string& out, std::span<const CsvCell> record) {
   for (std::size_t i = 0; i < kept_.size(); ++i) {
     kept_[i] = i < record.size() ? record[i].text : std::string_view();
-    if (i < record.size() && !record[i].isQuoted &&
-        kept_[i].find_first_of("\"\r") != std::string_view::npos) {
+    if (i < record.size() && record[i].hasMarks) {
       quoted_[i].clear();
       appendCell(quoted_[i], record[i]);
       kept_[i] = quoted_[i];

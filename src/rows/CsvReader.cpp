@@ -86,7 +86,7 @@ std::optional<CsvReader::Found> CsvReader::quotedCell(std::size_t begin, std::ui
     if (!isFinished_) return std::nullopt;
     throw CsvError(line, "a quotation mark that opens here never closes");
   }
-  const CsvCell cell{bytes.substr(begin, end - begin), true};
+  const CsvCell cell{bytes.substr(begin, end - begin), true, false};
   std::size_t behind = end;
   if (behind < bytes.size() && bytes[behind] == '\r') ++behind;
   if (behind == bytes.size() && !isFinished_) return std::nullopt;
@@ -99,12 +99,16 @@ std::optional<CsvReader::Found> CsvReader::quotedCell(std::size_t begin, std::ui
 /// Nothing when more bytes are needed.
 std::optional<CsvReader::Found> CsvReader::plainCell(std::size_t begin) const {
   const std::string_view bytes = bytes_;
-  const std::size_t end = std::min(bytes.find_first_of(",\n", begin), bytes.size());
+  std::size_t end = begin;
+  bool hasMarks = false;
+  for (; end < bytes.size() && bytes[end] != ',' && bytes[end] != '\n'; ++end) {
+    hasMarks = hasMarks || bytes[end] == '"' || bytes[end] == '\r';
+  }
   if (end == bytes.size() && !isFinished_) return std::nullopt;
   std::string_view text = bytes.substr(begin, end - begin);
   const bool isLast = end == bytes.size() || bytes[end] == '\n';
   if (isLast && text.ends_with('\r')) text.remove_suffix(1);
-  return Found{{text, false}, end, isLast};
+  return Found{{text, false, hasMarks}, end, isLast};
 }
 
 /// False when more bytes are needed.
@@ -121,7 +125,7 @@ bool CsvReader::readRecord() {
       return true;
     }
     cells_.push_back(found->cell);
-    lines += linesIn(found->cell.text);
+    if (isQuoted) lines += linesIn(found->cell.text);
     begin = found->end + 1;
     if (found->isLast) break;
   }

@@ -27,6 +27,7 @@ class CsvError : public std::runtime_error {
 struct CsvCell {
   std::string_view text;  ///< as it came, with its quotation marks
   bool isQuoted = false;
+  bool hasMarks = false;  ///< not quoted, and holds a quotation mark or a carriage return
 };
 
 /// What the cell says: without quotation marks around it, those within it single.

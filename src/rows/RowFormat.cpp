@@ -10,6 +10,7 @@
 #include "calc/LookUp.h"
 #include "calc/References.h"
 #include "foundation/JsonText.h"
+#include "foundation/NumberText.h"
 #include "rows/Warnings.h"
 
 namespace nascor::rows {
@@ -31,7 +32,8 @@ bool isKnownOfAnError(Content content) {
 }  // namespace
 
 void appendCsvText(std::string& out, std::string_view text) {
-  if (text.find_first_of(",\"\r\n") == std::string_view::npos) {
+  const auto isMark = [](char byte) { return byte == ',' || byte == '"' || byte == '\r' || byte == '\n'; };
+  if (std::ranges::none_of(text, isMark)) {
     out += text;
     return;
   }
@@ -170,12 +172,9 @@ void RowFormat::appendEmpty(std::string& out) const {
 
 void RowFormat::appendNumber(std::string& out, double value, int decimals) const {
   if (!std::isfinite(value)) return appendEmpty(out);
-  // The greatest double has 309 digits before the point.
-  std::array<char, 1 + 309 + 1 + kZDecimals> buffer;
-  const auto end = settings_.isFixed ? std::to_chars(buffer.data(), buffer.data() + buffer.size(), value,
-                                                     std::chars_format::fixed, decimals)
-                                     : std::to_chars(buffer.data(), buffer.data() + buffer.size(), value);
-  out.append(buffer.data(), end.ptr);
+  if (settings_.isFixed) return foundation::appendFixedText(out, value, decimals);
+  std::array<char, 32> buffer;
+  out.append(buffer.data(), std::to_chars(buffer.data(), buffer.data() + buffer.size(), value).ptr);
 }
 
 void RowFormat::appendInteger(std::string& out, std::int64_t value) const {

@@ -37,16 +37,17 @@ void appendWarnings(std::string& out, const calc::Biometry& lengths, double age,
     append(std::string(titleOf(measurement)) + " " + shortestText(length) + " mm is outside " +
            shortestText(bounds.least) + " to " + shortestText(bounds.greatest) + " mm");
   }
-  const std::string ageText = shortestText(age) + " weeks";
+  const auto ageText = [&] { return shortestText(age) + " weeks"; };
   if (const auto improbable = calc::improbableAge(age)) {
-    append(ageText + (*improbable == calc::Improbable::beforeLastPeriod ? " is an age before the last period"
-                                                                        : " is an age above 45 weeks"));
+    append(ageText() + (*improbable == calc::Improbable::beforeLastPeriod
+                            ? " is an age before the last period"
+                            : " is an age above 45 weeks"));
   }
   for (const auto& [standard, table] : standards) {
     const auto beyond = calc::weekBeyondTable(*table, age);
     if (beyond == calc::BeyondTable::no) continue;
     const bool isBefore = beyond == calc::BeyondTable::before;
-    append(ageText + " lie beyond " + std::string(standard->name) + ", whose " +
+    append(ageText() + " lie beyond " + std::string(standard->name) + ", whose " +
            (isBefore ? "first week, " + std::to_string(standard->firstWeek)
                      : "last week, " + std::to_string(standard->lastWeek)) +
            ", counts");

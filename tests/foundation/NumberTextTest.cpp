@@ -122,6 +122,35 @@ RC_GTEST_PROP(FixedText, isWhatTheCLibraryPrints, (std::uint64_t bits)) {
   RC_ASSERT(fixedText(any, decimals) == printed(any, decimals));
 }
 
+TEST(FixedText, areThoseOfTheStandardLibraryAroundEveryTie) {
+  const auto expectSame = [](double value) {
+    for (const int decimals : {0, 1, 2, 3, 4}) {
+      std::array<char, 400> text;
+      const auto end =
+          std::to_chars(text.data(), text.data() + text.size(), value, std::chars_format::fixed, decimals);
+      ASSERT_EQ(fixedText(value, decimals), std::string(text.data(), end.ptr)) << value << " " << decimals;
+    }
+  };
+  // Multiples of a 16th are ties of one, two and three places; their neighbours lie on both sides.
+  for (int i = 0; i < 3000; ++i) {
+    const double tie = i / 16.0;
+    for (const double value : {tie, std::nextafter(tie, 1e9), std::nextafter(tie, -1e9)}) {
+      expectSame(value);
+      expectSame(-value);
+    }
+  }
+  std::uint64_t bits = 1;
+  for (int i = 0; i < 10'000; ++i) {
+    bits = bits * 6364136223846793005U + 1442695040888963407U;
+    // All magnitudes from 2^-80 to 2^80.
+    expectSame(std::ldexp(static_cast<double>(bits >> 11U), static_cast<int>(bits % 161) - 133));
+  }
+  for (const double border : {0x1p52, 0x1p53, 0x1p-11, 0x1p-12, 5e-324, 0x1p-1022}) {
+    expectSame(border);
+    expectSame(std::nextafter(border, 0.0));
+  }
+}
+
 TEST(FixedText, holdsTheGreatestNumberWithTheMostDecimals) {
   constexpr double kGreatest = std::numeric_limits<double>::max();
   EXPECT_EQ(fixedText(-kGreatest, 9), printed(-kGreatest, 9));
