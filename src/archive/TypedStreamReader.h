@@ -190,7 +190,7 @@ class TypedStreamReader {
   std::deque<SharedString> strings_;  // a deque, since the walk points into it while it grows
   // Of the strings whose numbers take one byte: the type that each is, where it has been the whole of a group's types.
   std::array<char, 238> plainTypes_{};
-  std::deque<LabelEntry> labels_;     // a deque, since a vector that grows takes three times its size
+  std::deque<LabelEntry> labels_;  // a deque, since a vector that grows takes three times its size
   std::unordered_map<std::string_view, Label> classes_;  // the first record of each name
 };
 

@@ -13,8 +13,8 @@ std::string dayText(const std::optional<foundation::Date>& date, const foundatio
 
 }  // namespace
 
-void appendPatientRows(std::string& out, const model::PatientRecord& patient, const DocumentName& document,
-                       const RowFormat& format, const foundation::Calendar& calendar) {
+void forEachRow(const model::PatientRecord& patient, const DocumentName& document,
+                const foundation::Calendar& calendar, const std::function<void(const Row&)>& take) {
   const std::string edd = dayText(patient.edd(), calendar);
   Row row{.fileName = document.name,
           .filePlace = document.place,
@@ -32,11 +32,16 @@ void appendPatientRows(std::string& out, const model::PatientRecord& patient, co
     row.fetus = 0;
     for (const model::MeasurementsRecord& measured : examination->measurements()) {
       row.lengths = measured.biometry();
-      format.append(out, row);
+      take(row);
       ++row.fetus;
     }
     ++row.examination;
   }
+}
+
+void appendPatientRows(std::string& out, const model::PatientRecord& patient, const DocumentName& document,
+                       const RowFormat& format, const foundation::Calendar& calendar) {
+  forEachRow(patient, document, calendar, [&](const Row& row) { format.append(out, row); });
 }
 
 void appendErrorRow(std::string& out, std::string_view error, const DocumentName& document,

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -15,6 +16,11 @@ struct DocumentName {
   std::string_view name;    ///< bytes, as the file system has it
   std::uint64_t place = 0;  ///< among the documents of a run, from 0
 };
+
+/// Hands on a row for each record that an examination holds, as `appendPatientRows` appends it. Its texts last until `take`
+/// returns.
+void forEachRow(const model::PatientRecord& patient, const DocumentName& document,
+                const foundation::Calendar& calendar, const std::function<void(const Row&)>& take);
 
 /// Appends a row for each record that an examination holds, whatever number of fetuses the patient states, in the order of
 /// the file. Days are those of the calendar. A date that has no day (not finite, or outside the years 1 to 9999) counts as

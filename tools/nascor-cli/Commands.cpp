@@ -10,10 +10,10 @@ std::optional<std::string> Arguments::option(std::string_view name) const {
 
 std::span<const Command> commands() {
   static const std::vector<Command> kCommands{
-      reportCommand(),   rowsCommand(),   calcCommand(),      checkCommand(),   makeCommand(),
-      jsonCommand(),     dumpCommand(),   recoverCommand(),   weightCommand(),  crlCommand(),
-      standardCommand(), lookupCommand(), referenceCommand(), compareCommand(), selfTestCommand(),
-      importCommand(),   exportCommand(),
+      reportCommand(),    rowsCommand(),    calcCommand(),     indexCommand(),    dueCommand(),
+      searchCommand(),    checkCommand(),   makeCommand(),     jsonCommand(),     dumpCommand(),
+      recoverCommand(),   weightCommand(),  crlCommand(),      standardCommand(), lookupCommand(),
+      referenceCommand(), compareCommand(), selfTestCommand(), importCommand(),   exportCommand(),
   };
   return kCommands;
 }

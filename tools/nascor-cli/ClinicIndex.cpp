@@ -1,0 +1,457 @@
+#include "cli_commands/ClinicIndex.h"
+
+#include <algorithm>
+#include <cmath>
+#include <ctime>
+#include <filesystem>
+#include <system_error>
+#include <utility>
+
+#include <sys/stat.h>
+
+#include "calc/Centile.h"
+#include "calc/FetalWeight.h"
+#include "calc/LookUp.h"
+#include "cli_commands/DocumentSource.h"
+#include "cli_commands/Documents.h"
+#include "foundation/IsoDate.h"
+#include "posix/FolderWalk.h"
+#include "posix/PosixCalendar.h"
+#include "posix/PosixFileStore.h"
+#include "rows/PatientRows.h"
+
+namespace nascor::cli {
+
+namespace {
+
+using sqlite::Database;
+using sqlite::Statement;
+
+/// "NASC": says that a database is of this program.
+constexpr std::int64_t kApplication = 0x4E415343;
+/// Of the tables below and of what stands in them. An index of another version is made anew.
+constexpr std::int64_t kVersion = 1;
+
+constexpr const char* kTables = R"(
+  CREATE TABLE about (name TEXT PRIMARY KEY, value TEXT NOT NULL) WITHOUT ROWID;
+  CREATE TABLE documents (
+    id INTEGER PRIMARY KEY,
+    path TEXT NOT NULL UNIQUE,
+    stamp TEXT NOT NULL,
+    error TEXT,
+    reference_id TEXT,
+    edd TEXT,
+    standard INTEGER,
+    formula INTEGER,
+    fetuses INTEGER,
+    last_exam TEXT,
+    last_ga_weeks REAL,
+    last_ac_z REAL);
+  CREATE INDEX documents_by_edd ON documents (edd) WHERE edd IS NOT NULL;
+  CREATE TABLE rows (
+    document INTEGER NOT NULL,
+    exam INTEGER NOT NULL,
+    fetus INTEGER NOT NULL,
+    exam_date TEXT,
+    ga_weeks REAL,
+    bpd_mm REAL, hc_mm REAL, ac_mm REAL, fl_mm REAL,
+    efw_g REAL,
+    bpd_z REAL, hc_z REAL, ac_z REAL, fl_z REAL,
+    note TEXT,
+    PRIMARY KEY (document, exam, fetus)) WITHOUT ROWID;
+  CREATE VIRTUAL TABLE texts USING fts5 (
+    reference_id, path, content = 'documents', content_rowid = 'id', tokenize = 'trigram');
+)";
+
+std::int64_t integerOf(Database& database, const std::string& question) {
+  Statement statement = database.prepare(question);
+  const std::int64_t value = statement.next() ? statement.integer(0) : 0;
+  statement.reset();
+  return value;
+}
+
+void setAbout(Database& database, std::string_view name, std::string_view value) {
+  database.prepare("INSERT OR REPLACE INTO about VALUES (?, ?)").bind(1, name).bind(2, value).run();
+}
+
+std::optional<std::string> about(Database& database, std::string_view name) {
+  Statement statement = database.prepare("SELECT value FROM about WHERE name = ?");
+  statement.bind(1, name);
+  if (!statement.next()) return std::nullopt;
+  std::string value(statement.text(0));
+  statement.reset();
+  return value;
+}
+
+/// Days depend on the zone of the process. Zones that keep the same time in these years are one.
+std::string zoneText(const foundation::Calendar& calendar) {
+  std::string text;
+  constexpr double kQuarter = 91.0 * foundation::kSecondsPerDay;
+  for (int quarter = 0; quarter < 4 * 40; ++quarter) {
+    text += std::to_string(static_cast<int>(calendar.offsetFromUtc({kQuarter * quarter}) / 60.0)) + " ";
+  }
+  return text;
+}
+
+std::string timeText(const struct timespec& time) {
+  return std::to_string(time.tv_sec) + "." + std::to_string(time.tv_nsec);
+}
+
+/// What tells a file from the same file changed.
+std::string stampOf(const struct stat& status) {
+  return std::to_string(status.st_size) + " " + std::to_string(status.st_ino) + " " +
+         timeText(status.st_mtim) + " " + timeText(status.st_ctim);
+}
+
+/// Whether another change might leave the times of the file as they are.
+bool isFresh(const struct stat& status) {
+  constexpr std::time_t kShortly = 2;
+  return std::max(status.st_mtim.tv_sec, status.st_ctim.tv_sec) + kShortly > std::time(nullptr);
+}
+
+/// The stamp of a document that is read again the next time, though it may be the same.
+std::string doubtful(const std::string& stamp) { return "?" + stamp; }
+
+std::optional<double> unlessUnknown(double value) {
+  return value == 0.0 || !std::isfinite(value) ? std::nullopt : std::optional(value);
+}
+
+std::optional<std::string_view> unlessEmpty(std::string_view text) {
+  return text.empty() ? std::nullopt : std::optional(text);
+}
+
+std::string withSlash(std::string folder) {
+  if (!folder.ends_with('/')) folder += '/';
+  return folder;
+}
+
+}  // namespace
+
+/// One run over the folder. Documents and entries of the index both come in the order of the bytes of their paths, so that each
+/// meets its own, and neither list is held.
+class ClinicIndex::Update {
+ public:
+  using Complain = std::function<void(const std::string&, const std::string&)>;
+
+  Update(Database& database, Database& known, std::string folder, const Complain& complain)
+      : database_(database),
+        folder_(withSlash(std::move(folder))),
+        complain_(complain),
+        known_(known.prepare("SELECT id, path, stamp FROM documents ORDER BY path")),
+        forgetTexts_(database.prepare("INSERT INTO texts (texts, rowid, reference_id, path) "
+                                      "SELECT 'delete', id, reference_id, path FROM documents WHERE id = ?")),
+        forgetRows_(database.prepare("DELETE FROM rows WHERE document = ?")),
+        forgetDocument_(database.prepare("DELETE FROM documents WHERE id = ?")),
+        addDocument_(database.prepare(
+            "INSERT INTO documents (path, stamp, error, reference_id, edd, standard, formula, "
+            "fetuses, last_exam, last_ga_weeks, last_ac_z) "
+            "VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?) RETURNING id")),
+        addTexts_(database.prepare("INSERT INTO texts (rowid, reference_id, path) "
+                                   "SELECT id, reference_id, path FROM documents WHERE id >= ?")),
+        addRow_(database.prepare("INSERT INTO rows VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)")) {
+    for (std::size_t standard = 0; standard < tables_.size(); ++standard) {
+      for (const calc::Measurement measurement : calc::kMeasurements) {
+        calc::appendStandard(tables_[standard].at(static_cast<std::size_t>(measurement)),
+                             static_cast<std::int64_t>(standard), measurement);
+      }
+    }
+  }
+
+  IndexChanges run() {
+    posix::FolderWalk walk(folder_, std::string(kDocumentSuffix));
+    hasKnown_ = known_.next();
+    while (auto found = walk.next()) {
+      if (found->error.empty()) {
+        meet(found->path);
+      } else {
+        complain_(found->path, found->error);
+        passOver(withSlash(found->path));
+      }
+    }
+    while (hasKnown_) forgetKnown();
+    known_.reset();
+    commit();
+    return changes_;
+  }
+
+ private:
+  static constexpr int kChangesInTransaction = 1000;
+
+  std::string_view within(std::string_view path) const {
+    return path.substr(std::min(folder_.size(), path.size()));
+  }
+  std::string_view knownPath() const { return known_.text(1); }
+
+  void change() {
+    if (pending_++ == 0) database_.execute("BEGIN IMMEDIATE");
+  }
+  void commit() {
+    if (std::exchange(pending_, 0) == 0) return;
+    // All at once: each statement that follows makes the index of texts write what it has.
+    if (firstAdded_) addTexts_.bind(1, *std::exchange(firstAdded_, std::nullopt)).run();
+    database_.execute("COMMIT");
+  }
+  void commitOften() {
+    if (pending_ >= kChangesInTransaction) commit();
+  }
+
+  void forget(std::int64_t id) {
+    forgetTexts_.bind(1, id).run();
+    forgetRows_.bind(1, id).run();
+    forgetDocument_.bind(1, id).run();
+  }
+
+  void forgetKnown() {
+    change();
+    forget(known_.integer(0));
+    ++changes_.removed;
+    hasKnown_ = known_.next();
+    commitOften();
+  }
+
+  /// What lies in a folder that cannot be read now may still be there.
+  void passOver(const std::string& folder) {
+    const std::string_view prefix = within(folder);
+    while (hasKnown_ && knownPath() < prefix) forgetKnown();
+    for (; hasKnown_ && knownPath().starts_with(prefix); hasKnown_ = known_.next()) ++changes_.documents;
+  }
+
+  void meet(const std::string& path) {
+    struct stat status {};
+    if (::stat(path.c_str(), &status) != 0) return;  // gone meanwhile
+    const std::string_view name = within(path);
+    while (hasKnown_ && knownPath() < name) forgetKnown();
+    const std::string stamp = stampOf(status);
+    ++changes_.documents;
+    std::optional<std::int64_t> old;
+    bool isCounted = true;
+    if (hasKnown_ && knownPath() == name) {
+      const bool isSame = known_.text(2) == stamp;
+      if (!isSame) old = known_.integer(0);
+      isCounted = known_.text(2) != doubtful(stamp);
+      hasKnown_ = known_.next();
+      if (isSame) return;
+    }
+    change();
+    if (old) forget(*old);
+    if (isCounted) ++(old ? changes_.changed : changes_.added);
+    add(path, name, isFresh(status) ? doubtful(stamp) : stamp);
+    commitOften();
+  }
+
+  void add(const std::string& path, std::string_view name, const std::string& stamp) {
+    auto contents = posix::PosixFileStore().contents(path);
+    if (const auto* error = std::get_if<foundation::FileError>(&contents)) {
+      // It may be readable tomorrow with the same times.
+      return addUnreadable(path, name, stamp.starts_with('?') ? stamp : doubtful(stamp), error->reason);
+    }
+    const auto document = documentFrom(std::get<0>(contents));
+    if (const auto* sentence = std::get_if<std::string>(&document))
+      return addUnreadable(path, name, stamp, *sentence);
+    addPatient(name, stamp, *std::get<0>(document).patient);
+  }
+
+  void addUnreadable(const std::string& path, std::string_view name, const std::string& stamp,
+                     const std::string& sentence) {
+    complain_(path, sentence);
+    addDocument_.bind(1, name).bind(2, stamp).bind(3, std::string_view(sentence));
+    for (int parameter = 4; parameter <= 11; ++parameter) addDocument_.bindNull(parameter);
+    addedDocument();
+  }
+
+  std::int64_t addedDocument() {
+    addDocument_.next();
+    const std::int64_t id = addDocument_.integer(0);
+    addDocument_.run();
+    // Numbers grow from the greatest that is there.
+    if (!firstAdded_) firstAdded_ = id;
+    return id;
+  }
+
+  /// What a fetus's last measured AC says.
+  struct LastAC {
+    std::string day{};
+    double zScore = 0.0;
+  };
+
+  /// The z-scores of a row's lengths by its own standard, NaN where there is none.
+  std::array<double, 4> zScores(const rows::Row& row) const {
+    std::array<double, 4> scores{NAN, NAN, NAN, NAN};
+    if (!calc::growthStandard(row.standard) || row.age == 0.0) return scores;
+    const auto& tables = tables_[static_cast<std::size_t>(row.standard)];
+    for (std::size_t i = 0; i < scores.size(); ++i) {
+      const double length = row.lengths.*calc::memberFor(calc::kMeasurements.at(i));
+      if (length != 0.0) scores.at(i) = calc::zScore(tables.at(i), length, row.age);
+    }
+    return scores;
+  }
+
+  static std::optional<double> unlessInfinite(double value) {
+    return std::isfinite(value) ? std::optional(value) : std::nullopt;
+  }
+
+  void addPatient(std::string_view name, const std::string& stamp, const model::PatientRecord& patient) {
+    std::string edd;
+    std::string lastExam;
+    double lastAge = 0.0;
+    std::vector<LastAC> last;
+    rows::forEachRow(patient, {.name = name}, calendar_, [&](const rows::Row& row) {
+      if (!row.examDate.empty() && row.examDate >= lastExam) {
+        lastExam = row.examDate;
+        lastAge = row.age;
+      }
+      if (last.size() <= row.fetus) last.resize(row.fetus + 1);
+      const double ac = zScores(row)[static_cast<std::size_t>(calc::Measurement::ac)];
+      LastAC& known = last[row.fetus];
+      if (std::isfinite(ac) && row.examDate >= known.day) known = {std::string(row.examDate), ac};
+    });
+    std::optional<double> least;
+    for (const LastAC& each : last) {
+      if (!each.day.empty()) least = std::min(least.value_or(each.zScore), each.zScore);
+    }
+    if (patient.edd()) edd = foundation::isoDayText(*patient.edd(), calendar_);
+    const std::optional<std::string_view> referenceID = patient.maternalIDString();
+    addDocument_.bind(1, name).bind(2, stamp).bindNull(3).bind(4, referenceID).bind(5, unlessEmpty(edd));
+    addDocument_.bind(6, patient.standard())
+        .bind(7, patient.fetalWeightStandard())
+        .bind(8, patient.numberOfFetuses());
+    addDocument_.bind(9, unlessEmpty(lastExam)).bind(10, unlessUnknown(lastAge)).bind(11, least);
+    const std::int64_t id = addedDocument();
+    rows::forEachRow(patient, {.name = name}, calendar_,
+                     [&](const rows::Row& row) { addRow(id, row, patient.fetalWeightStandard()); });
+  }
+
+  void addRow(std::int64_t id, const rows::Row& row, std::int64_t formula) {
+    addRow_.bind(1, id);
+    addRow_.bind(2, static_cast<std::int64_t>(row.examination)).bind(3, static_cast<std::int64_t>(row.fetus));
+    addRow_.bind(4, unlessEmpty(row.examDate)).bind(5, unlessUnknown(row.age));
+    const std::array<double, 4> scores = zScores(row);
+    for (std::size_t i = 0; i < scores.size(); ++i) {
+      const double length = row.lengths.*calc::memberFor(calc::kMeasurements.at(i));
+      addRow_.bind(6 + static_cast<int>(i), unlessUnknown(length));
+      addRow_.bind(11 + static_cast<int>(i), unlessInfinite(scores.at(i)));
+    }
+    addRow_.bind(10, unlessUnknown(calc::estimatedFetalWeight(row.lengths, formula)));
+    addRow_.bind(15, unlessEmpty(row.note)).run();
+  }
+
+  Database& database_;
+  std::string folder_;
+  const Complain& complain_;
+  posix::PosixCalendar calendar_;
+  std::array<std::array<calc::ReferenceTable, 4>, 4> tables_;  // by standard and measurement
+  Statement known_;
+  bool hasKnown_ = false;
+  Statement forgetTexts_;
+  Statement forgetRows_;
+  Statement forgetDocument_;
+  Statement addDocument_;
+  Statement addTexts_;
+  Statement addRow_;
+  int pending_ = 0;
+  std::optional<std::int64_t> firstAdded_;  // of the transaction
+  IndexChanges changes_;
+};
+
+ClinicIndex::ClinicIndex(const std::string& database, const std::string& folder)
+    : path_(database), folder_(folder), database_(database, Database::Access::write) {
+  const std::int64_t application = integerOf(database_, "PRAGMA application_id");
+  const std::int64_t tables = integerOf(database_, "SELECT count(*) FROM sqlite_schema");
+  if (application != kApplication && tables > 0) throw IndexError("is a database of another program");
+  database_.execute("PRAGMA journal_mode = WAL; PRAGMA synchronous = NORMAL;");
+  std::error_code error;
+  const std::string absolute = std::filesystem::canonical(folder, error).string();
+  if (tables > 0 && integerOf(database_, "PRAGMA user_version") != kVersion) {
+    throw IndexError("was made by another version of this program: remove it, and make it anew");
+  }
+  const std::string zone = zoneText(posix::PosixCalendar());
+  if (tables == 0) {
+    database_.execute("BEGIN IMMEDIATE; PRAGMA application_id = " + std::to_string(kApplication) +
+                      "; PRAGMA user_version = " + std::to_string(kVersion) + ";" + kTables);
+    setAbout(database_, "folder", absolute);
+    setAbout(database_, "zone", zone);
+    database_.execute("COMMIT");
+    return;
+  }
+  if (const auto indexed = about(database_, "folder"); indexed != absolute && !absolute.empty()) {
+    throw IndexError("is the index of " + indexed.value_or("no folder") + ", not of " + absolute);
+  }
+  if (about(database_, "zone") != zone) {
+    database_.execute("BEGIN IMMEDIATE; UPDATE documents SET stamp = '';");
+    setAbout(database_, "zone", zone);
+    database_.execute("COMMIT");
+  }
+}
+
+IndexChanges ClinicIndex::bringUpToDate(
+    const std::function<void(const std::string&, const std::string&)>& complain) {
+  Database known(path_, Database::Access::read);
+  IndexChanges changes = Update(database_, known, folder_, complain).run();
+  changes.unreadable = integerOf(database_, "SELECT count(*) FROM documents WHERE error IS NOT NULL");
+  return changes;
+}
+
+namespace {
+
+constexpr const char* kColumns = "path, reference_id, edd, fetuses, last_exam, last_ga_weeks, last_ac_z";
+
+IndexedDocument documentOf(const Statement& row) {
+  IndexedDocument document{.file = std::string(row.text(0)),
+                           .referenceID = std::string(row.text(1)),
+                           .edd = std::string(row.text(2)),
+                           .fetuses = row.integer(3),
+                           .lastExam = std::string(row.text(4)),
+                           .lastAge = row.real(5)};
+  if (!row.isNull(6)) document.acZ = row.real(6);
+  return document;
+}
+
+std::string dayText(const foundation::CivilDay& day, const foundation::Calendar& calendar) {
+  return foundation::isoDayText(foundation::startOfDay(day, calendar), calendar);
+}
+
+}  // namespace
+
+IndexQueries::IndexQueries(const std::string& database) : database_(database, Database::Access::read) {
+  if (integerOf(database_, "PRAGMA application_id") != kApplication)
+    throw IndexError("is no index of this program");
+  if (integerOf(database_, "PRAGMA user_version") != kVersion) {
+    throw IndexError("was made by another version of this program: remove it, and make it anew");
+  }
+}
+
+void IndexQueries::due(const foundation::CivilDay& from, std::int64_t days,
+                       const std::optional<double>& acBelow,
+                       const std::function<void(const IndexedDocument&)>& take) {
+  const posix::PosixCalendar calendar;
+  const std::int64_t first = foundation::daysSince2001(from);
+  const auto last = foundation::civilDayFromDaysSince2001(first + days);
+  Statement statement =
+      database_.prepare(std::string("SELECT ") + kColumns + " FROM documents WHERE edd >= ? AND edd <= ?" +
+                        (acBelow ? " AND last_ac_z < ?" : "") + " ORDER BY edd, path");
+  statement.bind(1, std::string_view(dayText(from, calendar)));
+  statement.bind(2, last ? std::string_view(dayText(*last, calendar)) : std::string_view("9999-12-31"));
+  if (acBelow) statement.bind(3, *acBelow);
+  while (statement.next()) {
+    IndexedDocument document = documentOf(statement);
+    const auto edd = foundation::dateFromIsoText(document.edd, calendar);
+    if (const auto day = edd ? foundation::localDay(*edd, calendar) : std::nullopt) {
+      document.days = foundation::daysSince2001(*day) - first;
+    }
+    take(document);
+  }
+}
+
+void IndexQueries::search(const std::string& text, std::int64_t most,
+                          const std::function<void(const IndexedDocument&)>& take) {
+  std::string quoted = "\"";
+  for (const char byte : text) quoted.append(byte == '"' ? 2 : 1, byte);
+  quoted += '"';
+  Statement statement = database_.prepare(std::string("SELECT ") + kColumns +
+                                          " FROM documents WHERE id IN (SELECT rowid FROM texts WHERE texts "
+                                          "MATCH ? ORDER BY rowid LIMIT ?) ORDER BY id");
+  statement.bind(1, std::string_view(quoted)).bind(2, most);
+  while (statement.next()) take(documentOf(statement));
+}
+
+}  // namespace nascor::cli
