@@ -385,7 +385,9 @@ TEST_F(TheApplicationOfDocuments, opensWhatComesWhileAQuestionIsOpenAfterIt) {
 }
 
 TEST_F(TheApplicationOfDocuments, letsAnUntouchedNewDocumentMakeWayForAFile) {
-  openBlank().resize(1010, 710);
+  qt::DocumentWindow& blank = openBlank();
+  const QSize size(blank.minimumSizeHint().width(), 710);
+  blank.resize(size);
   settle();
   const QPoint place = front().pos();
   const QString good = file(QStringLiteral("a.nascor"), documentBytes(singleton()));
@@ -394,7 +396,7 @@ TEST_F(TheApplicationOfDocuments, letsAnUntouchedNewDocumentMakeWayForAFile) {
   EXPECT_THAT(titles(), ElementsAre("Untitled[*]")) << "nothing came into its place";
   application.openFiles({good});
   EXPECT_THAT(titles(), ElementsAre("a.nascor[*]"));
-  EXPECT_EQ(front().size(), QSize(1010, 710));
+  EXPECT_EQ(front().size(), size);
   EXPECT_EQ(front().pos(), place);
 }
 

@@ -732,7 +732,7 @@ void DocumentWindow::restoreWindowGeometry() {
   const auto kept = environment_.services.defaults.value(kGeometryKey);
   if (kept && restoreGeometry(QByteArray::fromBase64(QByteArray::fromStdString(*kept)))) {
     // It may be from a larger screen, or one of another scale.
-    if (const QScreen* here = screen()) resize(size().boundedTo(here->availableSize()));
+    if (const QScreen* here = screen()) resize(size().boundedTo(here->availableVirtualSize()));
     return;
   }
   if (const QScreen* here = screen()) {
