@@ -1,7 +1,10 @@
 #include "foundation/Utf8.h"
 
+#include <unigbrk.h>
+
 #include <algorithm>
 #include <cstddef>
+#include <cstdint>
 #include <vector>
 
 namespace nascor::foundation {
@@ -33,18 +36,7 @@ namespace {
 
 bool isWithin(char32_t point, char32_t first, char32_t last) { return point >= first && point <= last; }
 
-/// Combines with the sign before it.
-bool extendsBase(char32_t point) {
-  return isWithin(point, 0x0300, 0x036F) || isWithin(point, 0x1AB0, 0x1AFF) ||
-         isWithin(point, 0x1DC0, 0x1DFF) || isWithin(point, 0x20D0, 0x20FF) ||
-         isWithin(point, 0xFE00, 0xFE0F) || isWithin(point, 0xFE20, 0xFE2F) ||
-         isWithin(point, 0x1F3FB, 0x1F3FF) || isWithin(point, 0xE0100, 0xE01EF);
-}
-
-constexpr char32_t kJoiner = 0x200D;
 constexpr char32_t kReplacement = 0xFFFD;
-
-bool isHalfOfAFlag(char32_t point) { return isWithin(point, 0x1F1E6, 0x1F1FF); }
 
 /// Takes the last code point off `text`, which is not empty.
 char32_t popCodePoint(std::string& text) {
@@ -62,20 +54,18 @@ char32_t popCodePoint(std::string& text) {
   }
 }
 
+/// For each byte of `text` whether what a reader counts as one character begins there.
+std::string beginningsOfCharacters(std::string_view text) {
+  std::string begins(text.size(), '\0');
+  u8_grapheme_breaks(reinterpret_cast<const std::uint8_t*>(text.data()), text.size(), begins.data());
+  return begins;
+}
+
 }  // namespace
 
 void removeLastCharacter(std::string& text) {
-  const auto last = [&] {
-    constexpr std::size_t kLongest = 4;  // bytes of a code point
-    std::string end = text.substr(text.size() - std::min(text.size(), kLongest));
-    return end.empty() ? U'\0' : popCodePoint(end);
-  };
-  while (!text.empty()) {
-    const char32_t point = popCodePoint(text);
-    if (extendsBase(point) || point == kJoiner) continue;
-    if (isHalfOfAFlag(point) && isHalfOfAFlag(last())) popCodePoint(text);
-    if (last() != kJoiner) return;
-  }
+  const std::size_t last = beginningsOfCharacters(text).rfind('\1');
+  text.resize(last == std::string::npos ? 0 : last);
 }
 
 bool isValidUtf8(std::string_view bytes) {
@@ -141,37 +131,19 @@ std::string oneLine(std::string_view text) {
 }
 
 std::size_t lengthOfBeginning(std::string_view text, std::size_t most) {
-  // Where each of the last code points begins, and what it is.
-  struct Place {
-    std::size_t begin;
-    char32_t point;
+  const auto next = [&](std::size_t at) {
+    return at + std::max<std::size_t>(characterLength(text.substr(at)), 1);
   };
-  std::vector<Place> places;
-  std::size_t at = 0;
-  const auto next = [&] {
-    const std::size_t length = std::max<std::size_t>(characterLength(text.substr(at)), 1);
-    std::string point(text.substr(at, length));
-    places.push_back({.begin = at, .point = popCodePoint(point)});
-    at += length;
-  };
-  while (at < text.size() && places.size() < most) next();
-  if (at >= text.size() || places.empty()) return at;
+  std::vector<std::size_t> ends{0};  // of each code point
+  while (ends.back() < text.size() && ends.size() <= most) ends.push_back(next(ends.back()));
+  if (ends.back() == text.size()) return text.size();
 
-  next();
-  const auto isInside = [&](std::size_t i) {  // between the code point before and this one
-    const char32_t before = places[i - 1].point;
-    const char32_t point = places[i].point;
-    if (extendsBase(point) || point == kJoiner || before == kJoiner) return true;
-    if (!isHalfOfAFlag(point)) return false;
-    std::size_t halves = 0;
-    while (halves < i && isHalfOfAFlag(places[i - 1 - halves].point)) ++halves;
-    return halves % 2 == 1;
-  };
+  // The code point behind the cut tells whether it parts a character.
   constexpr std::size_t kLongestCharacter = 64;  // code points
-  const std::size_t last = places.size() - 1;
-  std::size_t cut = last;
-  while (cut > 0 && last - cut < kLongestCharacter && isInside(cut)) --cut;
-  return places[cut > 0 && !isInside(cut) ? cut : last].begin;
+  const std::size_t from = ends.size() > kLongestCharacter ? ends[ends.size() - 1 - kLongestCharacter] : 0;
+  const std::string begins = beginningsOfCharacters(text.substr(from, next(ends.back()) - from));
+  const std::size_t cut = begins.rfind('\1', ends.back() - from);
+  return cut == std::string::npos || cut == 0 ? ends.back() : from + cut;
 }
 
 std::string shownLine(std::string_view text) {
