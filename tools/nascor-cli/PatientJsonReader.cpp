@@ -139,8 +139,9 @@ std::string describe(const Scalar& value) {
 /// Receives the parts of the JSON in their order. Each function answers whether to go on; after false there is an error.
 class Receiver final : public nlohmann::json_sax<nlohmann::json> {
  public:
-  Receiver(std::string_view source, const foundation::Calendar& calendar)
-      : source_(source), calendar_(calendar) {
+  /// Reads `source` behind its first `skipped` bytes.
+  Receiver(std::string_view source, std::size_t skipped, const foundation::Calendar& calendar)
+      : source_(source), skipped_(skipped), calendar_(calendar) {
     patient().setMaternalIDString("");
     patient().setNumberOfFetuses(1);
     patient().setExtrapolatedGestation(40.0);
@@ -238,7 +239,7 @@ class Receiver final : public nlohmann::json_sax<nlohmann::json> {
 
   bool parse_error(std::size_t position, const std::string&,
                    const nlohmann::json::exception& reason) override {
-    error_ = placeInText(source_, position) + "expected JSON, but " + inPlainWords(reason.what());
+    error_ = placeInText(source_, skipped_ + position) + "expected JSON, but " + inPlainWords(reason.what());
     return false;
   }
 
@@ -435,6 +436,7 @@ class Receiver final : public nlohmann::json_sax<nlohmann::json> {
   }
 
   std::string_view source_;
+  std::size_t skipped_;
   const foundation::Calendar& calendar_;
   PatientFromJson result_{.patient = std::make_unique<PatientRecord>(), .warnings = {}};
   std::string error_;
@@ -453,8 +455,13 @@ PatientFromJson patientFromJson(std::string_view text, const foundation::Calenda
     throw JsonDocumentError(Receiver::placeInText(text, zero + 1) +
                             "expected JSON, but a zero byte stands here");
   }
-  Receiver receiver(text, calendar);
-  if (!nlohmann::json::sax_parse(text.begin(), text.end(), &receiver))
+  // The library writes the blanks before a token into its message one by one, which takes long for a mebibyte of them. A
+  // byte order mark may stand at the very beginning alone.
+  std::size_t blanks = std::min(text.find_first_not_of(" \t\r\n"), text.size());
+  if (blanks < text.size() && text[blanks] == '\xEF') blanks = 0;
+  Receiver receiver(text, blanks, calendar);
+  const std::string_view json = text.substr(blanks);
+  if (!nlohmann::json::sax_parse(json.begin(), json.end(), &receiver))
     throw JsonDocumentError(receiver.error());
   return receiver.takeResult();
 }
