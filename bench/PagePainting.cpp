@@ -26,7 +26,7 @@
 #include "calc/Standards.h"
 #include "framework/DocumentController.h"
 #include "model/NCRecord.h"
-#include "qt/QtSurface.h"
+#include "painting/QtSurface.h"
 #include "support/ScriptedAlerts.h"
 #include "support/TestServices.h"
 

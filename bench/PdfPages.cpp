@@ -26,9 +26,9 @@
 #include "app/NCAppController.h"
 #include "app/NCDocument.h"
 #include "framework/DocumentController.h"
-#include "qt/PageExport.h"
-#include "qt/PageFiles.h"
-#include "qt/Platform.h"
+#include "painting/PageFiles.h"
+#include "program/PageExport.h"
+#include "program/Platform.h"
 #include "support/RecordingCanvas.h"
 #include "support/ScriptedAlerts.h"
 

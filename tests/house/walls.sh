@@ -4,8 +4,8 @@
 . "$(dirname "$0")/common.sh" "$@"
 cd "$root"
 
-# The toolkit may be named in its own layer and in that layer's tests.
-toolkit_layer=qt
+# Qt may be named in the layers of this folder, and in their tests.
+qt_folder=src/platform/qt/
 
 # --- What the sources include: never by "..", from a layer only what its add_layer names.
 earlier=" "
@@ -23,7 +23,7 @@ for layer in "${layers[@]}"; do
     include="${include%%\"*}"
     if [[ "$include" != */* ]]; then
       # What moc and uic make stands in no layer.
-      [[ "$layer" == "$toolkit_layer" && "$include" =~ ^(ui_.*\.h|.*\.moc)$ ]] ||
+      [[ "${folder_of[$layer]}" == "$qt_folder"* && "$include" =~ ^(ui_.*\.h|.*\.moc)$ ]] ||
         wrong "$file:$line: \"$include\" names no layer"
     elif [[ "$may_name" != *" ${include%%/*} "* ]]; then
       wrong "$file:$line: \"$include\" is of a layer that the add_layer of $layer does not name in USES"
@@ -40,7 +40,7 @@ for layer in "${layers[@]}"; do
       wrong "$source does not include $layer/$name first"
   done < <(find "${folder_of[$layer]}" -name '*.h')
 
-  if [[ "$layer" != "$toolkit_layer" ]]; then
+  if [[ "${folder_of[$layer]}" != "$qt_folder"* ]]; then
     places=("${folder_of[$layer]}")
     [[ -d "tests/$layer" ]] && places+=("tests/$layer")
     while IFS= read -r found; do

@@ -24,8 +24,8 @@
 #include "WindowTest.h"
 #include "foundation/IsoDate.h"
 #include "framework/PageWriter.h"
-#include "qt/PageView.h"
 #include "support/ReadOnlyFields.h"
+#include "window/PageView.h"
 
 namespace nascor::tests {
 namespace {

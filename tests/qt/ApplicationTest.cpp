@@ -1,4 +1,4 @@
-#include "qt/Application.h"
+#include "program/Application.h"
 
 #include <gmock/gmock.h>
 

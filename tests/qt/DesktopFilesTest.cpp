@@ -6,7 +6,7 @@
 #include <QXmlStreamReader>
 
 #include "Sample.h"
-#include "qt/ApplicationIcon.h"
+#include "program/ApplicationIcon.h"
 
 namespace nascor::tests {
 namespace {

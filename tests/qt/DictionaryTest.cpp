@@ -7,8 +7,8 @@
 #include <string>
 #include <vector>
 
-#include "qt/Dictionary.h"
-#include "qt/Text.h"
+#include "base/Text.h"
+#include "bus/Dictionary.h"
 #include "scripting/ScriptProperties.h"
 
 namespace nascor::tests {

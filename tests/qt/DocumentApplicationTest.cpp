@@ -1,4 +1,4 @@
-#include "qt/DocumentApplication.h"
+#include "program/DocumentApplication.h"
 
 #include <QDragEnterEvent>
 #include <QDropEvent>

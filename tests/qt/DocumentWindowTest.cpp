@@ -1,4 +1,4 @@
-#include "qt/DocumentWindow.h"
+#include "window/DocumentWindow.h"
 
 #include <QAccessible>
 #include <QClipboard>
@@ -10,7 +10,7 @@
 
 #include "Pixels.h"
 #include "WindowTest.h"
-#include "qt/PageView.h"
+#include "window/PageView.h"
 
 namespace nascor::tests {
 namespace {

@@ -8,7 +8,7 @@
 #include <array>
 
 #include "WindowTest.h"
-#include "qt/PageFiles.h"
+#include "painting/PageFiles.h"
 #include "support/HeavyDocuments.h"
 #include "support/Spent.h"
 

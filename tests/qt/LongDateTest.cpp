@@ -3,8 +3,8 @@
 
 #include <QLocale>
 
-#include "qt/LongDate.h"
-#include "qt/QtLocalizer.h"
+#include "base/LongDate.h"
+#include "base/QtLocalizer.h"
 
 namespace nascor::tests {
 namespace {

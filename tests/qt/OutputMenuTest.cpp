@@ -1,4 +1,4 @@
-#include "qt/OutputMenu.h"
+#include "window/OutputMenu.h"
 
 #include <QCheckBox>
 #include <QDialog>

@@ -9,7 +9,7 @@
 #include <QToolTip>
 
 #include "WindowTest.h"
-#include "qt/PageView.h"
+#include "window/PageView.h"
 
 namespace nascor::tests {
 namespace {

@@ -1,4 +1,4 @@
-#include "qt/PageExport.h"
+#include "program/PageExport.h"
 
 #include <gmock/gmock.h>
 

@@ -7,8 +7,8 @@
 #include "Pixels.h"
 #include "Sample.h"
 #include "app/NCDocument.h"
-#include "qt/PageView.h"
-#include "qt/QtSurface.h"
+#include "painting/QtSurface.h"
+#include "window/PageView.h"
 
 namespace nascor::tests {
 namespace {

@@ -9,7 +9,7 @@
 #include "Run.h"
 #include "WindowTest.h"
 #include "framework/PageWriter.h"
-#include "qt/PageView.h"
+#include "window/PageView.h"
 
 namespace nascor::tests {
 namespace {

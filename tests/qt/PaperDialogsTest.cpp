@@ -13,7 +13,7 @@
 #include "Run.h"
 #include "WindowTest.h"
 #include "framework/PageWriter.h"
-#include "qt/OutputMenu.h"
+#include "window/OutputMenu.h"
 
 namespace nascor::tests {
 namespace {

@@ -5,8 +5,8 @@
 
 #include "Run.h"
 #include "Sample.h"
-#include "qt/PageFiles.h"
-#include "qt/QtPrinter.h"
+#include "painting/PageFiles.h"
+#include "painting/QtPrinter.h"
 #include "support/FaultyFileStore.h"
 
 namespace nascor::tests {

@@ -1,4 +1,4 @@
-#include "qt/QtCanvas.h"
+#include "painting/QtCanvas.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "qt/QtLocalizer.h"
+#include "base/QtLocalizer.h"
 
 #include <gtest/gtest.h>
 

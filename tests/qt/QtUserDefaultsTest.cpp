@@ -1,4 +1,4 @@
-#include "qt/QtUserDefaults.h"
+#include "base/QtUserDefaults.h"
 
 #include <gtest/gtest.h>
 
@@ -10,7 +10,7 @@
 #include <sys/stat.h>
 
 #include "Sample.h"
-#include "qt/DocumentApplication.h"
+#include "program/DocumentApplication.h"
 
 namespace nascor::tests {
 namespace {

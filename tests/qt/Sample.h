@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "app/NCAppController.h"
+#include "base/QtLocalizer.h"
 #include "foundation/Calendar.h"
 #include "foundation/Log.h"
 #include "foundation/NotificationCenter.h"
@@ -18,7 +19,6 @@
 #include "model/PatientRecord.h"
 #include "posix/PosixCalendar.h"
 #include "posix/PosixFileStore.h"
-#include "qt/QtLocalizer.h"
 #include "support/FixedClock.h"
 #include "support/MemoryUserDefaults.h"
 #include "support/ScriptedAlerts.h"

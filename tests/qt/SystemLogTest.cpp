@@ -1,4 +1,4 @@
-#include "qt/SystemLog.h"
+#include "base/SystemLog.h"
 
 #include <gmock/gmock.h>
 #include <syslog.h>

@@ -16,7 +16,7 @@
 #include "WindowTest.h"
 #include "app/NCDocument.h"
 #include "calc/Publications.h"
-#include "qt/Application.h"
+#include "program/Application.h"
 
 namespace nascor::tests {
 namespace {

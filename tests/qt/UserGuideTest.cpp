@@ -15,8 +15,8 @@
 
 #include "Run.h"
 #include "WindowTest.h"
-#include "qt/QtViewer.h"
 #include "user-guide/WindowPictures.h"
+#include "window/QtViewer.h"
 
 namespace nascor::tests {
 namespace {

@@ -6,7 +6,7 @@
 #include <QMenu>
 
 #include "WindowTest.h"
-#include "qt/FileLabels.h"
+#include "base/FileLabels.h"
 
 namespace nascor::tests {
 namespace {

@@ -18,8 +18,8 @@
 #include <vector>
 
 #include "Sample.h"
-#include "qt/DocumentApplication.h"
-#include "qt/FieldEdit.h"
+#include "program/DocumentApplication.h"
+#include "window/FieldEdit.h"
 
 namespace nascor::tests {
 

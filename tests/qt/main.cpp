@@ -3,7 +3,7 @@
 #include <QLocale>
 #include <QTemporaryDir>
 
-#include "qt/Application.h"
+#include "program/Application.h"
 
 int main(int argc, char** argv) {
   testing::InitGoogleMock(&argc, argv);

@@ -13,6 +13,8 @@
 #include <stdexcept>
 #include <string_view>
 
+#include "base/QtLocalizer.h"
+#include "base/Text.h"
 #include "foundation/Clock.h"
 #include "foundation/Log.h"
 #include "foundation/NotificationCenter.h"
@@ -20,10 +22,8 @@
 #include "foundation/UserDefaults.h"
 #include "posix/PosixCalendar.h"
 #include "posix/PosixFileStore.h"
-#include "qt/DocumentApplication.h"
-#include "qt/PageView.h"
-#include "qt/QtLocalizer.h"
-#include "qt/Text.h"
+#include "program/DocumentApplication.h"
+#include "window/PageView.h"
 
 namespace nascor::user_guide {
 namespace {

@@ -9,7 +9,7 @@
 #include <map>
 #include <stdexcept>
 
-#include "qt/Application.h"
+#include "program/Application.h"
 #include "user-guide/WindowPictures.h"
 
 namespace {

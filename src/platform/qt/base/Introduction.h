@@ -1,0 +1,11 @@
+#pragma once
+
+#include <QString>
+
+namespace nascor::qt {
+
+QString programVersion();
+/// What stands wherever the program introduces itself.
+QString disclaimer();
+
+}  // namespace nascor::qt

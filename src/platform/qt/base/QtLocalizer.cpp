@@ -1,0 +1,39 @@
+#include "base/QtLocalizer.h"
+
+#include <QCoreApplication>
+
+#include "base/Text.h"
+
+namespace nascor::qt {
+
+std::string QtLocalizer::text(std::string_view table, std::string_view key) const {
+  return toUtf8(QCoreApplication::translate(std::string(table).c_str(), std::string(key).c_str()));
+}
+
+namespace {
+
+foundation::ShortDateForm shortDateFormOf(const QLocale& locale) {
+  constexpr int kMonths = 12;
+  const QString pattern = locale.dateFormat(QLocale::ShortFormat);
+  const auto length = pattern.contains(QStringLiteral("MMMM")) ? QLocale::LongFormat : QLocale::ShortFormat;
+  foundation::ShortDateForm form{.pattern = toUtf8(pattern), .monthNames = {}};
+  for (int month = 1; month <= kMonths; ++month) {
+    form.monthNames.push_back(toUtf8(locale.monthName(month, length)));
+  }
+  return form;
+}
+
+}  // namespace
+
+QtLocalizer::QtLocalizer(const QLocale& locale) : locale_(locale), shortDateForm_(shortDateFormOf(locale)) {}
+
+char QtLocalizer::decimalSign() const {
+  const QString sign = locale_.decimalPoint();
+  return sign.size() == 1 && sign[0].unicode() < 0x80 ? sign[0].toLatin1() : '.';
+}
+
+std::string QtLocalizer::upperCased(std::string_view text) const {
+  return toUtf8(locale_.toUpper(fromUtf8(text)));
+}
+
+}  // namespace nascor::qt

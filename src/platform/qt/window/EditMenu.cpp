@@ -1,0 +1,90 @@
+#include "window/EditMenu.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QLineEdit>
+#include <QMimeData>
+#include <QPlainTextEdit>
+
+namespace nascor::qt {
+namespace {
+
+/// What can be done to a text.
+struct Possible {
+  bool undo = false;
+  bool redo = false;
+  bool cut = false;
+  bool copy = false;
+  bool paste = false;
+  bool selectAll = false;
+};
+
+bool clipboardHasText() {
+  const QMimeData* data = QGuiApplication::clipboard()->mimeData();
+  return data != nullptr && data->hasText() && !data->text().isEmpty();
+}
+
+Possible possibleIn(const QWidget* focus) {
+  if (const auto* edit = qobject_cast<const QLineEdit*>(focus)) {
+    const bool isTyped = !edit->isReadOnly();
+    return {.undo = isTyped && edit->isUndoAvailable(),
+            .redo = isTyped && edit->isRedoAvailable(),
+            .cut = isTyped && edit->hasSelectedText(),
+            .copy = edit->hasSelectedText(),
+            .paste = isTyped && clipboardHasText(),
+            .selectAll = !edit->text().isEmpty()};
+  }
+  if (const auto* edit = qobject_cast<const QPlainTextEdit*>(focus)) {
+    const bool isTyped = !edit->isReadOnly();
+    const bool hasSelection = edit->textCursor().hasSelection();
+    return {.undo = isTyped && edit->document()->isUndoAvailable(),
+            .redo = isTyped && edit->document()->isRedoAvailable(),
+            .cut = isTyped && hasSelection,
+            .copy = hasSelection,
+            .paste = edit->canPaste(),
+            .selectAll = !edit->document()->isEmpty()};
+  }
+  return {};
+}
+
+/// `action` done to the text that has the focus, if one has.
+template <class LineAction, class NoteAction>
+void editText(QWidget* focus, LineAction line, NoteAction note) {
+  if (auto* edit = qobject_cast<QLineEdit*>(focus)) (edit->*line)();
+  if (auto* edit = qobject_cast<QPlainTextEdit*>(focus)) (edit->*note)();
+}
+
+}  // namespace
+
+EditMenu::EditMenu(QWidget& window, QMenu& menu, Items items)
+    : QObject(&window), window_(window), items_(items) {
+  const auto bind = [this](QAction& item, auto line, auto note) {
+    connect(&item, &QAction::triggered, this,
+            [this, line, note] { editText(window_.focusWidget(), line, note); });
+  };
+  bind(items_.undo, &QLineEdit::undo, &QPlainTextEdit::undo);
+  bind(items_.redo, &QLineEdit::redo, &QPlainTextEdit::redo);
+  bind(items_.cut, &QLineEdit::cut, &QPlainTextEdit::cut);
+  bind(items_.copy, &QLineEdit::copy, &QPlainTextEdit::copy);
+  bind(items_.paste, &QLineEdit::paste, &QPlainTextEdit::paste);
+  bind(items_.selectAll, &QLineEdit::selectAll, &QPlainTextEdit::selectAll);
+  connect(&menu, &QMenu::aboutToShow, this, [this] { validate(); });
+  // The keys are the fields' own, which know by themselves what can be done.
+  connect(&menu, &QMenu::aboutToHide, this, [this] {
+    for (QAction* item :
+         {&items_.undo, &items_.redo, &items_.cut, &items_.copy, &items_.paste, &items_.selectAll})
+      item->setEnabled(true);
+  });
+}
+
+void EditMenu::validate() {
+  const Possible possible = possibleIn(window_.focusWidget());
+  items_.undo.setEnabled(possible.undo);
+  items_.redo.setEnabled(possible.redo);
+  items_.cut.setEnabled(possible.cut);
+  items_.copy.setEnabled(possible.copy);
+  items_.paste.setEnabled(possible.paste);
+  items_.selectAll.setEnabled(possible.selectAll);
+}
+
+}  // namespace nascor::qt

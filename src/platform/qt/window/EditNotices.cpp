@@ -1,0 +1,30 @@
+#include "window/EditNotices.h"
+
+#include <QToolTip>
+
+#include "base/Text.h"
+
+namespace nascor::qt {
+namespace {
+
+void sayAt(QWidget& edit, const QString& sentence) {
+  QToolTip::showText(edit.mapToGlobal(QPoint(0, edit.height())), sentence, &edit);
+}
+
+}  // namespace
+
+bool putsText(const QKeyEvent& event) {
+  return !event.text().isEmpty() && event.text().front().isPrint() &&
+         !(event.modifiers() & (Qt::ControlModifier | Qt::MetaModifier));
+}
+
+void sayThatItIsFull(QWidget& edit) { sayAt(edit, said("FieldBinding", "No more text fits here.")); }
+
+QString shownInPartText() {
+  return said("FieldBinding",
+              "This text is too long to be shown whole. It is kept whole, and cannot be changed here.");
+}
+
+void sayThatItShowsAPart(QWidget& edit) { sayAt(edit, shownInPartText()); }
+
+}  // namespace nascor::qt

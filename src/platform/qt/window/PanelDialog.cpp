@@ -1,0 +1,72 @@
+#include "window/PanelDialog.h"
+
+#include <QEvent>
+#include <QLayout>
+#include <algorithm>
+#include <utility>
+
+#include "base/Text.h"
+#include "foundation/Assertion.h"
+
+namespace nascor::qt {
+
+PanelDialog::PanelDialog(app::NCDocument& document, Perform perform, QWidget* parent)
+    : QDialog(parent), document_(&document), perform_(std::move(perform)) {}
+
+void PanelDialog::bindPanel() {
+  title_ = windowTitle();
+  for (framework::Panel* panel : document_->panels()) {
+    if (fromUtf8(panel->name()) == objectName()) panel_ = panel;
+  }
+  foundation::required(panel_);
+}
+
+void PanelDialog::center() {
+  adjustSize();
+  if (const QWidget* window = parentWidget())
+    move(window->geometry().center() - QRect(QPoint(), size()).center());
+}
+
+bool PanelDialog::event(QEvent* event) {
+  const bool wasHandled = QDialog::event(event);
+  const bool isAboutRoom = event->type() == QEvent::Resize || event->type() == QEvent::LayoutRequest;
+  if (isAboutRoom && layout() && layout()->hasHeightForWidth())
+    setMinimumHeight(layout()->totalHeightForWidth(width()));
+  return wasHandled;
+}
+
+void PanelDialog::release() {
+  if (!document_) return;
+  releaseControls();
+  panel_ = nullptr;
+  document_ = nullptr;
+  hide();
+}
+
+void PanelDialog::done(int result) {
+  QDialog::done(result);
+  if (isPanelShown()) document_->cancelDialog(*panel_);
+}
+
+framework::TextField& PanelDialog::fieldFor(const QWidget& widget) const {
+  const auto fields = document_->textFields();
+  const auto found = std::ranges::find(fields, toUtf8(widget.objectName()), &framework::TextField::name);
+  return *foundation::required(found != fields.end() ? *found : nullptr);
+}
+
+void PanelDialog::followPanel() {
+  if (!panel_->isShown()) {
+    hide();
+    return;
+  }
+  // Where several patients are open, a dialog of the wrong one must not be taken for the right one's.
+  const QString patient = fromUtf8(document_->shownTitle(false));
+  setWindowTitle(patient.isEmpty() ? title_ : title_ + QStringLiteral(" \u2013 ") + patient);
+  refresh();
+  show();
+  raise();
+  activateWindow();
+  focusFirst();
+}
+
+}  // namespace nascor::qt
