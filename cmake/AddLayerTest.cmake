@@ -17,7 +17,7 @@ function(pin_tests)
   set(home "${CMAKE_BINARY_DIR}/tests/home")
   file(MAKE_DIRECTORY "${home}")
   set(environment "LANG=C.UTF-8" "LC_ALL=C.UTF-8" "HOME=${home}"
-    "FONTCONFIG_FILE=${CMAKE_BINARY_DIR}/tests/fonts/DejaVuSans.conf")
+    "FONTCONFIG_FILE=${NASCOR_FONTS}")
   if(PIN_ZONE)
     list(APPEND environment "TZ=${PIN_ZONE}")
   endif()
@@ -28,15 +28,6 @@ function(pin_tests)
   set_tests_properties(${PIN_UNPARSED_ARGUMENTS} PROPERTIES LABELS "${PIN_LABELS}"
     ENVIRONMENT "${environment};${PIN_ENVIRONMENT}" ENVIRONMENT_MODIFICATION "${unset}" ${PIN_PROPERTIES})
 endfunction()
-
-# default_font(FAMILY OUTPUT): writes the settings of a system whose default font that is, and puts their path into OUTPUT.
-function(default_font family output)
-  string(REPLACE " " "" files "${family}")
-  set(path "${CMAKE_BINARY_DIR}/tests/fonts/${files}.conf")
-  configure_file("${CMAKE_SOURCE_DIR}/tests/support/fonts.conf.in" "${path}" @ONLY)
-  set(${output} "${path}" PARENT_SCOPE)
-endfunction()
-default_font("DejaVu Sans" ignored)
 
 function(add_layer_test layer)
   cmake_parse_arguments(TEST "" "" "SOURCES;LINKS" ${ARGN})

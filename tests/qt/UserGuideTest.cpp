@@ -34,7 +34,8 @@ QString built(const QString& title, const char* form) {
 QStringList chaptersOf(const QString& title) {
   if (title == kGuide) return {QStringLiteral(NASCOR_SOURCE "/resources/guide/guide.md")};
   QStringList files;
-  for (const char* name : {"command-line", "json", "scripting", "file-format", "oddities", "sources"})
+  for (const char* name :
+       {"command-line", "json", "scripting", "file-format", "exchange", "oddities", "reliability", "sources"})
     files << QStringLiteral(NASCOR_SOURCE "/docs/%1.md").arg(QLatin1String(name));
   return files;
 }
