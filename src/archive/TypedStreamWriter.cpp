@@ -72,6 +72,7 @@ TypedStreamWriter::TypedStreamWriter(std::int64_t systemVersion) {
   constexpr std::size_t kLeast = 1024;
   const auto used = static_cast<std::size_t>(at_ - bytes_.get());
   const std::size_t room = std::max(kLeast, 2 * (used + size));
+  // NOLINTNEXTLINE(*-avoid-c-arrays): room that is not cleared before it is written
   auto larger = std::make_unique_for_overwrite<std::byte[]>(room);
   std::copy(bytes_.get(), at_, larger.get());
   bytes_ = std::move(larger);

@@ -115,6 +115,7 @@ class TypedStreamWriter {
   std::optional<Label> appendClass(const ClassDescription* cls);
   Label appendNewObject();
 
+  // NOLINTNEXTLINE(*-avoid-c-arrays): room that is not cleared before it is written
   std::unique_ptr<std::byte[]> bytes_;
   std::byte* at_ = nullptr;   // where the next byte is written
   std::byte* end_ = nullptr;  // of the room

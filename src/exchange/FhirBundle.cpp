@@ -229,7 +229,7 @@ class Writer {
       });
       members.push_back(self);
     }
-    const Reference self = make("Observation", role);
+    Reference self = make("Observation", role);
     resource(self, [&] {
       observed(term::fetalBiometry, subject, examination.day);
       references("hasMember", members);

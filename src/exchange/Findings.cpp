@@ -423,8 +423,7 @@ class Collector {
     return meanOf(std::move(values), kindOf(best), subject);
   }
 
-  FoundLength meanOf(std::vector<double> values, std::string_view kind, const std::string& subject) {
-    std::vector<double> distinct = values;
+  FoundLength meanOf(std::vector<double> distinct, std::string_view kind, const std::string& subject) {
     std::ranges::sort(distinct);
     distinct.erase(std::unique(distinct.begin(), distinct.end()), distinct.end());
     if (distinct.size() == 1) return {.mm = distinct.front(), .chosen = kind};

@@ -9,10 +9,10 @@
 
 namespace nascor::foundation {
 
-std::size_t characterLength(std::string_view bytes) {
-  const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(bytes[i]); };
+std::size_t characterLength(std::string_view text) {
+  const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(text[i]); };
   const auto within = [&](std::size_t i, unsigned first, unsigned last) {
-    return i < bytes.size() && byte(i) >= first && byte(i) <= last;
+    return i < text.size() && byte(i) >= first && byte(i) <= last;
   };
   const auto continues = [&](std::size_t i) { return within(i, 0x80, 0xBF); };
 

@@ -47,6 +47,8 @@ TEST(TwoPatients, thatAreAlikeDifferInNothing) {
     each->ncRecordsArray().front()->measurements().front().setFL(std::numeric_limits<double>::quiet_NaN());
   }
   EXPECT_THAT(keys(one, other), IsEmpty()) << "numbers that are none";
+  other.setEDD(foundation::Date{1});
+  EXPECT_EQ(keys(one, other).size(), 1U) << "a number in place of none";
 }
 
 TEST(TwoPatients, differInTheValuesThatJsonNames) {

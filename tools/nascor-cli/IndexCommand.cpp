@@ -67,7 +67,7 @@ class Answers {
     if (isJson_) {
       addJson(document);
     } else {
-      const auto shown = [](std::string text) {
+      const auto shown = [](const std::string& text) {
         return text.empty() ? std::string("-") : foundation::oneLine(text);
       };
       table_.addRow({shown(document.edd), document.days ? std::to_string(*document.days) : "-",
