@@ -43,7 +43,9 @@ TEST(AMebibyteOfText, isReadOrRefusedAtOnceByWhateverReadsTexts) {
   auto texts = tests::heavyTexts(kMebibyte);
   for (const char* piece : {"1", "-", "1/", "0.", "9999999999 ", "\\", "\"", "{\"a\":", "[", "\xFF", "e9"})
     texts.push_back({piece, tests::repeated(piece, kMebibyte)});
-  for (const auto& [name, text] : texts) {
+  for (const tests::HeavyText& each : texts) {
+    const std::string& name = each.name;
+    const std::string& text = each.text;
     expectQuick(name + " as a number", [&] { static_cast<void>(foundation::numberFromFieldText(text)); });
     expectQuick(name + " as a whole number",
                 [&] { static_cast<void>(foundation::integerFromFieldText(text)); });
@@ -70,10 +72,10 @@ TEST(AMebibyteOfText, isReadOrRefusedAtOnceByWhateverReadsTexts) {
 
 TEST(AMebibyteOfText, isReadAtOnceWithinAFile) {
   const posix::PosixCalendar calendar;
-  for (const auto& [name, text] : tests::heavyTexts(kMebibyte / 2)) {
+  for (const tests::HeavyText& each : tests::heavyTexts(kMebibyte / 2)) {
     const auto bytes =
-        model::archivedPatient(*tests::heavyPatient({.identifier = text, .note = text}, calendar));
-    expectQuick(name, [&] { EXPECT_TRUE(model::unarchivedPatient(bytes).patient); });
+        model::archivedPatient(*tests::heavyPatient({.identifier = each.text, .note = each.text}, calendar));
+    expectQuick(each.name, [&] { EXPECT_TRUE(model::unarchivedPatient(bytes).patient); });
   }
 }
 

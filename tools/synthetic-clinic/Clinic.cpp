@@ -22,17 +22,11 @@ constexpr std::int64_t kLatestVersion = 7;
 /// Numbers by Steele, Lea and Flood's SplitMix64: the same on every machine, which those of the standard library are not.
 class Chance {
  public:
-  Chance(std::uint64_t seed, std::uint64_t number) : state_(seed) {
-    state_ = next() ^ (number * 0x9E3779B97F4A7C15U);
+  Chance(std::uint64_t seed, std::uint64_t number) : state_(mixed(seed + kStep) ^ (number * kStep)) {
     next();
   }
 
-  std::uint64_t next() {
-    std::uint64_t z = (state_ += 0x9E3779B97F4A7C15U);
-    z = (z ^ (z >> 30U)) * 0xBF58476D1CE4E5B9U;
-    z = (z ^ (z >> 27U)) * 0x94D049BB133111EBU;
-    return z ^ (z >> 31U);
-  }
+  std::uint64_t next() { return mixed(state_ += kStep); }
   std::int64_t below(std::int64_t limit) {
     return static_cast<std::int64_t>(next() % static_cast<std::uint64_t>(limit));
   }
@@ -47,6 +41,14 @@ class Chance {
   }
 
  private:
+  static constexpr std::uint64_t kStep = 0x9E3779B97F4A7C15U;
+
+  static std::uint64_t mixed(std::uint64_t z) {
+    z = (z ^ (z >> 30U)) * 0xBF58476D1CE4E5B9U;
+    z = (z ^ (z >> 27U)) * 0x94D049BB133111EBU;
+    return z ^ (z >> 31U);
+  }
+
   std::uint64_t state_;
 };
 
@@ -86,7 +88,7 @@ double length(const calc::ReferenceTable& table, double age, const Growth& growt
 /// Whole days after the last period, in order.
 std::vector<std::int64_t> examinationDays(Chance& chance) {
   constexpr std::int64_t kFirst = 11 * 7 + 1;
-  constexpr std::int64_t kLast = 40 * 7;
+  constexpr std::int64_t kLast = std::int64_t{40} * 7;
   const std::int64_t count = chance.oneIn(100) ? 12 + chance.below(19) : 2 + chance.below(5);
   std::vector<std::int64_t> days;
   for (std::int64_t i = 0; i < count; ++i) days.push_back(kFirst + chance.below(kLast - kFirst));
@@ -147,7 +149,7 @@ model::PatientRecord Clinic::patient(std::uint64_t number) const {
     auto examination = std::make_unique<model::NCRecord>();
     examination->setNote(chance.oneIn(3) ? kNotes.at(static_cast<std::size_t>(chance.below(kNotes.size())))
                                          : "");
-    const double daytime = static_cast<double>(8 * 3600 + 60 * chance.below(600));
+    const auto daytime = static_cast<double>(std::int64_t{8} * 3600 + std::int64_t{60} * chance.below(600));
     const double beforeEDD = static_cast<double>(280 - day) * kSecondsPerDay;
     if (!chance.oneIn(200)) {
       examination->setExamDate(foundation::dateByAddingWallClockSeconds(edd, daytime - beforeEDD, zone));

@@ -50,9 +50,7 @@ int writeFolder(const clinic::Clinic& patients, std::uint64_t first, std::uint64
   return 0;
 }
 
-}  // namespace
-
-int main(int argc, char** argv) {
+int run(int argc, char** argv) {
   CLI::App app(
       "Writes documents of patients that do not exist. The same numbers and seed give the same bytes.");
   std::uint64_t count = 0;
@@ -64,9 +62,15 @@ int main(int argc, char** argv) {
   app.add_option("--seed", seed, "which clinic");
   app.add_option("--out", folder, "a folder for them; without it a tar stream goes to standard output");
   CLI11_PARSE(app, argc, argv);
+  const clinic::Clinic patients(seed);
+  return folder.empty() ? writeTar(patients, first, count) : writeFolder(patients, first, count, folder);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
   try {
-    const clinic::Clinic patients(seed);
-    return folder.empty() ? writeTar(patients, first, count) : writeFolder(patients, first, count, folder);
+    return run(argc, argv);
   } catch (const std::exception& error) {
     std::fprintf(stderr, "nascor-clinic: %s\n", error.what());
     return 1;
