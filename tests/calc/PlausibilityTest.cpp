@@ -14,6 +14,13 @@ using expected::kNaN;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
+TEST(Lengths, areMeasuredWhereAnyIs) {
+  EXPECT_FALSE(isAnyMeasured({}));
+  for (const Biometry& lengths :
+       {Biometry{.bpd = 1.0}, Biometry{.hc = 1.0}, Biometry{.ac = 1.0}, Biometry{.fl = 1.0}})
+    EXPECT_TRUE(isAnyMeasured(lengths));
+}
+
 TEST(ImprobableAge, isOneBelow0OrAbove45Weeks) {
   EXPECT_EQ(improbableAge(-1.0 / 7.0), Improbable::beforeLastPeriod);
   EXPECT_EQ(improbableAge(0.0), std::nullopt) << "unknown";

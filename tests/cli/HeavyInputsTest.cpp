@@ -23,7 +23,7 @@ namespace nascor::cli {
 namespace {
 
 constexpr std::size_t kMebibyte = std::size_t{1} << 20U;
-constexpr double kMostSecondsOfAReader = tests::kIsSanitized ? 5.0 : 0.1;
+constexpr double kMostSecondsOfAReader = tests::kIsSlowed ? 5.0 : 0.1;
 
 /// Other programs on the machine make a reader slower, never quicker: the best of a few tries counts.
 void expectQuick(const std::string& name, const std::function<void()>& read) {

@@ -19,6 +19,13 @@ inline constexpr bool kIsSanitized = false;
 inline constexpr bool kIsSanitized = false;
 #endif
 
+/// Whether a sanitizer or the count of covered lines slows the program down.
+#ifdef NASCOR_COUNTS_LINES
+inline constexpr bool kIsSlowed = true;
+#else
+inline constexpr bool kIsSlowed = kIsSanitized;
+#endif
+
 /// What this process has spent since the beginning of a step: processor time, which others on the machine do not lengthen,
 /// and the greatest memory in use on the way.
 class Spent {
@@ -57,7 +64,7 @@ class Spent {
 };
 
 /// The most that one step may take with any document: a second of the processor, and 200 MiB. A sanitizer takes more of both.
-inline constexpr double kMostSeconds = kIsSanitized ? 20.0 : 1.0;
+inline constexpr double kMostSeconds = kIsSlowed ? 20.0 : 1.0;
 inline constexpr double kMostMemory = kIsSanitized ? 4000.0 : 200.0;
 
 }  // namespace nascor::tests
