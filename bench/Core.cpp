@@ -66,12 +66,15 @@ class Work {
  public:
   Work() : patient_(largePatient()), bytes_(model::archivedPatient(patient_)), table_(table(1000)) {
     calc::appendStandard(reference_, 0, calc::Measurement::hc);
-    for (std::size_t i = 0; i < ages_.size(); ++i) ages_.at(i) = 11.0 + static_cast<double>(i * 37 % 256) * 0.125;
+    for (std::size_t i = 0; i < ages_.size(); ++i)
+      ages_.at(i) = 11.0 + static_cast<double>(i * 37 % 256) * 0.125;
   }
 
   double nothing() { return 0.0; }
   double encode() { return static_cast<double>(model::archivedPatient(patient_).size()); }
-  double decode() { return static_cast<double>(model::unarchivedPatient(bytes_).patient->ncRecordsArray().size()); }
+  double decode() {
+    return static_cast<double>(model::unarchivedPatient(bytes_).patient->ncRecordsArray().size());
+  }
   /// Means and deviations at 256 ages.
   double lookUp() {
     double sum = 0.0;
@@ -86,10 +89,10 @@ class Work {
     reader.take(table_);
     reader.finish();
     reader.next();
-    rows::Calculation calculation(
-        reader.cells(), {.standards = {0, 1, 2, 3}},
-        std::vector<std::string>{"efw_3_g", "westerway_bpd_z", "westerway_hc_z", "westerway_ac_z", "westerway_fl_z"},
-        true);
+    rows::Calculation calculation(reader.cells(), {.standards = {0, 1, 2, 3}},
+                                  std::vector<std::string>{"efw_3_g", "westerway_bpd_z", "westerway_hc_z",
+                                                           "westerway_ac_z", "westerway_fl_z"},
+                                  true);
     std::string out;
     while (reader.next() == rows::CsvReader::Next::record) calculation.append(out, reader.cells());
     return static_cast<double>(out.size());
