@@ -3,7 +3,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <utility>
 
 #include "app/NCDocument.h"
@@ -21,11 +20,6 @@ namespace {
 constexpr std::size_t kMebibyte = std::size_t{1} << 20U;
 /// What a page may draw in one piece: a reader sees some hundred signs, and every device sets as many at once.
 constexpr std::size_t kMostBytesDrawn = 16'384;
-
-std::string zoneOfTheTests() {
-  const char* zone = std::getenv("TZ");
-  return zone ? zone : "UTC";
-}
 
 class ADocumentOfAnyWeight : public testing::TestWithParam<tests::HeavyDocument> {
  protected:
@@ -62,7 +56,6 @@ class ADocumentOfAnyWeight : public testing::TestWithParam<tests::HeavyDocument>
 };
 
 TEST_P(ADocumentOfAnyWeight, isWorkedWithAsQuicklyAsAnyOther) {
-  if (zoneOfTheTests() != "UTC") GTEST_SKIP() << "a document weighs the same in every zone";
   platform.defaults.registerDefault(foundation::defaults_key::showAll, "YES");
   const std::vector<std::byte> bytes =
       model::archivedPatient(*tests::heavyPatient(GetParam().weight, platform.calendar));
