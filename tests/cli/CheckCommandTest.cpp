@@ -33,7 +33,8 @@ TEST(CheckCommand, namesEachOddityInALineAndStillSucceeds) {
 TEST(CheckCommand, saysALengthAsItWasTyped) {
   const std::string centimetres = R"({"edd":"2027-04-10","examinations":[
     {"examDate":"2026-11-22","measurements":[{"bpd":9.1}]}]})";
-  EXPECT_THAT(run({"check", "-"}, document(centimetres)).out, testing::HasSubstr("BPD 9.1 mm is more than 4 SD below"));
+  EXPECT_THAT(run({"check", "-"}, document(centimetres)).out,
+              testing::HasSubstr("BPD 9.1 mm is more than 4 SD below"));
 }
 
 TEST(CheckCommand, printsJson) {

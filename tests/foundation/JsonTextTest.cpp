@@ -112,9 +112,7 @@ INSTANTIATE_TEST_SUITE_P(thatIsNoUtf8, AJsonText,
                          [](const auto& row) { return std::string(row.param.name); });
 
 TEST(ATextInJson, givesATerminalNoOrdersAndMirrorsNothing) {
-  const auto quoted = [](std::string_view text) {
-    return written([&](JsonText& json) { json.text(text); });
-  };
+  const auto quoted = [](std::string_view text) { return written([&](JsonText& json) { json.text(text); }); };
   EXPECT_EQ(quoted("a\x7F\u0080\u009B\u009Fz"), R"("a\u007f\u0080\u009b\u009fz")");
   EXPECT_EQ(quoted("\u061C\u200E\u200F\u2028\u2029\u202A\u202E\u2066\u2069"),
             R"("\u061c\u200e\u200f\u2028\u2029\u202a\u202e\u2066\u2069")");

@@ -37,8 +37,8 @@ is_like() {
 # try PAGE COMMAND SHOWN: runs one command, in this shell.
 try() {
   local status=0 said
-  # Without the application there is nothing that paints.
-  [[ "$2" != "nascor-cli export "* || -x "$build/bin/nascor" ]] || return 0
+  # Without the application there is nothing that paints pages.
+  [[ "$2" != "nascor-cli export "* || "$2" == *" --format "@(sr|fhir)* || -x "$build/bin/nascor" ]] || return 0
   checks=$((checks + 1))
   # Nor, without DCMTK, anything that reads and writes reports.
   [[ "$2" != "nascor-cli import "* && "$2" != *" --format sr"* ]] ||

@@ -35,7 +35,8 @@ class TheApplication : public testing::Test {
 TEST_F(TheApplication, tellsItsVersion) {
   const Answer answer = nascor({"--version"});
   EXPECT_EQ(answer.status, 0);
-  EXPECT_EQ(answer.output, "Nascor " NASCOR_VERSION "\nNot a medical device. Not validated for clinical use.\n");
+  EXPECT_EQ(answer.output,
+            "Nascor " NASCOR_VERSION "\nNot a medical device. Not validated for clinical use.\n");
 }
 
 TEST_F(TheApplication, helps) {
