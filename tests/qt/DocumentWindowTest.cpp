@@ -411,7 +411,7 @@ TEST_F(TheDocumentWindow, namesItsFieldsForScreenReaders) {
   EXPECT_EQ(spoken("acField", QAccessible::Description), "Abdominal circumference, 0 to 600 mm");
   EXPECT_EQ(spoken("flField", QAccessible::Description), "Femur length, 0 to 200 mm");
   EXPECT_EQ(spoken("birthDateField", QAccessible::Description),
-            "Estimated date of delivery, for example 3/24/27");
+            "Estimated date of delivery, for example 3/24/26");
   // The name of a choice is what is chosen; which choice it is says its label.
   const auto labels =
       QAccessible::queryAccessibleInterface(&widget<QWidget>("multiplePopUp"))->relations(QAccessible::Label);

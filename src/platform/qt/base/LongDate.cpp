@@ -42,4 +42,8 @@ QString longestDateText() {
   return longest;
 }
 
+QString exampleDateText(const foundation::ShortDateForm& form) {
+  return fromUtf8(foundation::shortDateText({2026, 3, 24}, form));
+}
+
 }  // namespace nascor::qt

@@ -10,5 +10,7 @@ namespace nascor::qt {
 QString longDateText(const QString& text, const foundation::ShortDateForm& form);
 /// The longest such text, to leave room for.
 QString longestDateText();
+/// A date in the form in which dates are typed, as an example: a day above 12, so that it tells the order, long past.
+QString exampleDateText(const foundation::ShortDateForm& form);
 
 }  // namespace nascor::qt

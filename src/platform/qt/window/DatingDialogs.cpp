@@ -58,7 +58,7 @@ void DatingDialog::bindField(FieldEdit& edit) {
 
 void DatingDialog::bindDate(FieldEdit& edit, QLabel& form, QLabel& longForm) {
   const foundation::ShortDateForm shortForm = services_.localizer.shortDateForm();
-  const QString example = fromUtf8(foundation::shortDateText({2027, 3, 24}, shortForm));
+  const QString example = exampleDateText(shortForm);
   form.setText(said("DatingDialogs", "such as %1").arg(example));
   describe(edit, edit.toolTip(), said("DatingDialogs", "for example %1").arg(example));
   longForm.setMinimumWidth(fontMetrics().horizontalAdvance(longestDateText()));

@@ -562,7 +562,7 @@ void DocumentWindow::describeFields() {
              said("MyDocument", "%1, %2 to %3 mm").arg(row.edit->toolTip(), least, greatest));
   }
   const foundation::ShortDateForm form = environment_.services.localizer.shortDateForm();
-  const QString example = fromUtf8(foundation::shortDateText({2027, 3, 24}, form));
+  const QString example = exampleDateText(form);
   for (FieldEdit* edit : {ui_->birthDateField, ui_->examDateField})
     describe(edit, nullptr, said("MyDocument", "%1, for example %2").arg(edit->toolTip(), example));
   const int room = fontMetrics().horizontalAdvance(longestDateText());
@@ -596,8 +596,7 @@ void DocumentWindow::showEditing() {
 
 void DocumentWindow::showLongDates() {
   const foundation::ShortDateForm form = environment_.services.localizer.shortDateForm();
-  const QString example =
-      said("MyDocument", "such as %1").arg(fromUtf8(foundation::shortDateText({2027, 3, 24}, form)));
+  const QString example = said("MyDocument", "such as %1").arg(exampleDateText(form));
   const framework::TextField* told = document_ ? document_->statusLine().field() : nullptr;
   const std::array<std::pair<const FieldEdit*, QLabel*>, 2> dates{
       {{ui_->birthDateField, ui_->birthDateLongForm}, {ui_->examDateField, ui_->examDateLongForm}}};
