@@ -167,6 +167,237 @@
     </message>
 </context>
 <context>
+    <name>Compare</name>
+    <message>
+        <source>BPD</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>HC</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>AC</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>FL</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>EFW</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The age is not known.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> has %ld to %ld weeks.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> fits weights by another formula alone: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> has no place for this value.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remark</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lengths</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>mm</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reference</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mean</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The mean of the reference at this age, in mm. A reference that has curves alone has none.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>SD</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>One standard deviation at this age, in mm.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Median</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Half of the population lies below it, in mm.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>z</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Standard deviations from the mean.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Centile</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How many of 100 lie below the value.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Age</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The age of which the value is the median.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Weights</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Formula</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>g</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Difference</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>From the weight by the formula in force, in g.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The centile in this population of weights.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>From one length alone.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ratios</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ratio</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fetuses</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fetus</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>By the formula in force, in g.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>In mm.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Less (%)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How much less this fetus weighs than the heaviest.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Growth</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Measure</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Per Week</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Since the last examination that has it: mm a week, or g a week.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Expected</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>By how much the mean of the growth standard grows.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Change of z</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>By the growth standard in force.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Compare</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Export CSV...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Print...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Export CSV</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tables (*.csv)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The table cannot be exported.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>CorvelDocument</name>
     <message>
         <source>Modify</source>
@@ -1009,6 +1240,10 @@
         <source>Please save what the link leads to as a file here, and open that.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>C&amp;ompare...</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>NCAppController</name>
@@ -1030,6 +1265,10 @@
     </message>
     <message>
         <source>Show All</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Further References</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -16,6 +16,7 @@
 #include "calc/Biometry.h"
 #include "calc/Plausibility.h"
 #include "charts/ChartDocument.h"
+#include "compare/Tables.h"
 #include "foundation/NotificationCenter.h"
 #include "framework/Controls.h"
 #include "framework/CorvelDocument.h"
@@ -204,6 +205,16 @@ class NCDocument final : public framework::CorvelDocument,
   void adjustDeliveryDate(Sender sender);
   /// Limits the stepper for the growth standard, then plans the delivery anew.
   void updateAdjustDeliveryStepperForNewStandard();
+
+  /// @}
+
+  /// @name The examination and the fetus on show beside their peers (NCDocumentComparison.cpp), from the records
+  /// @{
+
+  /// Tables for people; none while there is no examination.
+  std::vector<compare::Table> comparison() const;
+  /// Patient, fetus, examination and age, in one line.
+  std::string comparisonHeading() const;
 
   /// @}
 

@@ -9,6 +9,7 @@
 #include "calc/EditingBounds.h"
 #include "calc/FetalWeight.h"
 #include "calc/LookUp.h"
+#include "calc/PlaceText.h"
 #include "calc/Plausibility.h"
 #include "calc/Report.h"
 #include "foundation/Calendar.h"
@@ -44,23 +45,6 @@ namespace {
 
 void show(TextField& field, const std::string& text) {
   if (field.text() != text) field.setText(text);
-}
-
-std::string zText(double z, const foundation::Localizer& localizer) {
-  if (!std::isfinite(z)) return "-";
-  return std::string(z >= 0.0 ? "+" : "").append(fieldText(z, 2, localizer.decimalSign()));
-}
-
-std::string centileText(double z, const foundation::Localizer& localizer) {
-  if (!std::isfinite(z)) return "-";
-  const double centile = calc::centileOfZ(z);
-  constexpr double kLeast = 0.1;
-  constexpr double kGreatest = 99.9;
-  const double shown = std::clamp(centile, kLeast, kGreatest);
-  return std::string(centile < shown   ? "<"
-                     : centile > shown ? ">"
-                                       : "")
-      .append(fieldText(shown, 1, localizer.decimalSign()));
 }
 
 }  // namespace
@@ -136,8 +120,8 @@ void NCDocument::assess() {
     const double value = lengths.*calc::memberFor(measurement);
     const bool isPlaced = value > 0.0 && age != 0.0 && !table.empty();
     const double z = isPlaced ? calc::zScore(table, value, age) : std::nan("");
-    show(said.z, zText(z, localizer));
-    show(said.centile, centileText(z, localizer));
+    show(said.z, calc::zText(z, localizer));
+    show(said.centile, calc::centileText({.percent = calc::centileOfZ(z)}, localizer));
     if (isPlaced) ofAge = beyondTableText(table, age);
     std::string remark;
     // The first digits of a length are another length: it is judged when it is left.

@@ -424,6 +424,10 @@ std::span<const Reference, 8> references() {
   return kReferences;
 }
 
+const Reference* referenceOfStandard(std::int64_t standard) {
+  return growthStandard(standard) ? &references()[static_cast<std::size_t>(standard)] : nullptr;
+}
+
 const Reference* referenceNamed(std::string_view name) {
   const auto all = references();
   const auto found = std::ranges::find(all, name, &Reference::name);

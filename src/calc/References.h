@@ -114,6 +114,9 @@ struct Reference {
 /// The references, the four growth standards first, each in the place of its identifier.
 std::span<const Reference, 8> references();
 
+/// The growth standard of that identifier, as a reference; null for an unknown one.
+const Reference* referenceOfStandard(std::int64_t standard);
+
 /// The reference of that name, in small letters; null for an unknown one.
 const Reference* referenceNamed(std::string_view name);
 

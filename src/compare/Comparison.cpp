@@ -5,7 +5,6 @@
 
 #include "calc/Dating.h"
 #include "calc/FetalWeight.h"
-#include "calc/Standards.h"
 #include "foundation/RangeError.h"
 
 namespace nascor::compare {
@@ -89,13 +88,11 @@ std::optional<double> weeksBetween(const PatientRecord& patient, const NCRecord&
   return static_cast<double>(*days) / 7.0;
 }
 
-std::optional<double> zByDocument(const PatientRecord& patient, const NCRecord& examination,
-                                  Quantity quantity, double value) {
-  const bool isKnown = calc::growthStandard(patient.standard()) != nullptr;
-  const auto age = ageAt(patient, examination);
-  if (!isKnown || !age) return std::nullopt;
-  const calc::Reference& reference = calc::references()[static_cast<std::size_t>(patient.standard())];
-  return placed(reference, quantity, value, age).z;
+/// By the growth standard that the document names; empty for one that is not known.
+Placed placedByDocument(const PatientRecord& patient, const NCRecord& examination, Quantity quantity,
+                        double value) {
+  const calc::Reference* reference = calc::referenceOfStandard(patient.standard());
+  return reference ? placed(*reference, quantity, value, ageAt(patient, examination)) : Placed{};
 }
 
 std::optional<Growth> growthOf(Quantity quantity, const PatientRecord& patient, std::size_t place,
@@ -111,9 +108,11 @@ std::optional<Growth> growthOf(Quantity quantity, const PatientRecord& patient, 
     Growth growth{.quantity = quantity};
     const auto weeks = weeksBetween(patient, before, now);
     if (weeks && *weeks > 0.0) growth.perWeek = (*valueNow - *valueBefore) / *weeks;
-    const auto zBefore = zByDocument(patient, before, quantity, *valueBefore);
-    const auto zNow = zByDocument(patient, now, quantity, *valueNow);
-    if (zBefore && zNow) growth.zChange = *zNow - *zBefore;
+    const Placed then = placedByDocument(patient, before, quantity, *valueBefore);
+    const Placed today = placedByDocument(patient, now, quantity, *valueNow);
+    if (then.z && today.z) growth.zChange = *today.z - *then.z;
+    if (growth.perWeek && then.mean && today.mean)
+      growth.expectedPerWeek = (*today.mean - *then.mean) / *weeks;
     return growth;
   }
   return std::nullopt;

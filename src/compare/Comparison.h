@@ -51,9 +51,12 @@ struct Growth {
   calc::Quantity quantity{};
   std::optional<double>
       perWeek{};  ///< mm or g; missing when the examinations are not dated one after the other
-  /// The change of z by the growth standard that the document names, for a length within its weeks both times. No weight has
-  /// one: which population would count is not said.
+  /// @name By the growth standard that the document names, for a length within its weeks both times. No weight has them: which
+  /// population would count is not said.
+  /// @{
+  std::optional<double> expectedPerWeek{};  ///< mm by which the mean grows meanwhile
   std::optional<double> zChange{};
+  /// @}
 };
 
 struct Ratios {

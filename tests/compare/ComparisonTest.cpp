@@ -10,38 +10,19 @@
 #include "calc/Standards.h"
 #include "foundation/RangeError.h"
 #include "support/Bits.h"
+#include "support/Examined.h"
 
 namespace nascor::compare {
 namespace {
 
 using calc::Quantity;
-using foundation::Date;
 using testing::ElementsAre;
 using testing::IsEmpty;
+using tests::examined;
 using tests::isExactly;
-
-constexpr double kDay = 86400.0;
-constexpr Date kEDD{829008000.0};
 
 constexpr calc::Biometry kAt20{.bpd = 47.4, .hc = 174.0, .ac = 154.4, .fl = 32.1};
 constexpr calc::Biometry kAt24{.bpd = 60.4, .hc = 217.2, .ac = 194.2, .fl = 43.2};
-
-/// A patient who is examined at these ages, in weeks.
-struct Visit {
-  double weeks;
-  std::vector<calc::Biometry> fetuses;
-};
-model::PatientRecord examined(const std::vector<Visit>& visits) {
-  model::PatientRecord patient;
-  patient.setEDD(kEDD);
-  for (const Visit& visit : visits) {
-    auto examination = std::make_unique<model::NCRecord>();
-    examination->setExamDate(Date{kEDD.secondsSince2001 - (40.0 - visit.weeks) * 7.0 * kDay});
-    for (const calc::Biometry& lengths : visit.fetuses) examination->measurements().emplace_back(lengths);
-    patient.ncRecordsArray().push_back(std::move(examination));
-  }
-  return patient;
-}
 
 const Placed& by(const std::vector<Placed>& figures, std::string_view name) {
   for (const Placed& figure : figures) {

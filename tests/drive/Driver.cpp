@@ -113,6 +113,20 @@ void tellFailure(NCDocument& document, const std::string& sentence) {
   if (!document.fieldEditor().field()) refuse(sentence);
 }
 
+/// The rows of that table as texts; null for a table that is not there.
+Json comparisonJson(const NCDocument& document, const std::string& name) {
+  for (const compare::Table& table : document.comparison()) {
+    if (table.name != name) continue;
+    Json rows = Json::array();
+    for (const compare::Row& row : table.rows) {
+      Json& cells = rows.emplace_back(Json::array());
+      for (const compare::Cell& cell : row.cells) cells.push_back(cell.text);
+    }
+    return rows;
+  }
+  return nullptr;
+}
+
 using Operation = std::function<Json(NCDocument&, Arguments&)>;
 
 template <class Action>
@@ -194,6 +208,8 @@ const std::map<std::string, Operation, std::less<>>& operations() {
        act([](NCDocument& d, Arguments& a) { d.directUpdateDisplayAndSetDirty(a.truthOr(true)); })},
       {"switchToGraph", act([](NCDocument& d, Arguments& a) { d.switchToGraph(a.integer()); })},
       {"spokenPage", [](NCDocument& d, Arguments& a) { return Json(d.spokenPage(a.integer())); }},
+      {"comparison", [](NCDocument& d, Arguments& a) { return comparisonJson(d, a.text()); }},
+      {"comparisonHeading", [](NCDocument& d, Arguments&) { return Json(d.comparisonHeading()); }},
       {"isBlank", [](NCDocument& d, Arguments&) { return Json(d.isBlank()); }},
       {"lookUp", act([](NCDocument& d, Arguments& a) {
          const std::string name = a.text();

@@ -329,6 +329,7 @@ std::vector<Row> rows() {
       {"zoomInAction", "fits", "larger", pageSize, {}, "Ctrl++"},
       {"zoomOutAction", "larger", "fits", pageSize, enlarge, "Ctrl+-"},
       {"zoomFitAction", "larger", "fits", pageSize, enlarge, "Ctrl+0"},
+      {"compareAction", "none", "compareDialog", dialog, {}, "Ctrl+K"},
       {"guideAction",
        "nothing",
        "Nascor User Guide.pdf",
@@ -761,6 +762,10 @@ const std::map<std::string, std::string>& doneElsewhere() {
       {"chooseExportFolder", "Actions.setWhatIsExportedAndWhere"},
       {"exportSettings OK", "Actions.setWhatIsExportedAndWhere"},
       {"exportSettings Cancel", "Actions.setWhatIsExportedAndWhere"},
+      {"compareCopyButton", "CompareDialog.copiesTheRowsAsTheyAreSortedOrThoseThatAreSelected"},
+      {"compareExportButton", "CompareDialog.exportsATableAsCSV"},
+      {"comparePrintButton", "CompareDialog.printsAllTables"},
+      {"compareDialog Close", "CompareDialog.staysOpenBesideWorkAndHoldsNothingBack"},
       {"copyReferencesButton", "TheDocumentWindow.namesThePublicationsOfItsStandardsAndFormulas"},
       {"referencesDialog Close", "Actions.closeTheReferences"}};
   return tests;
@@ -796,7 +801,9 @@ class TheCensus : public Actions {
       const auto* label = qobject_cast<const QLabel*>(each);
       const auto* button = qobject_cast<const QAbstractButton*>(each);
       if (qobject_cast<const QTabBar*>(each)) found.insert("tabs");
-      if (name.starts_with("qt_") || name.starts_with("Scroll")) continue;  // parts of the toolkit's widgets
+      // Parts of Qt's widgets.
+      if (name.starts_with("qt_") || name.starts_with("Scroll") || each->inherits("QTableCornerButton"))
+        continue;
       if (button && qobject_cast<const QDialogButtonBox*>(each->parentWidget()) && name.empty()) {
         found.insert(each->window()->objectName().toStdString() + ' ' + plain(button->text()));
       } else if (button || (edit && !edit->isReadOnly()) || qobject_cast<const QPlainTextEdit*>(each) ||
@@ -828,6 +835,8 @@ TEST_F(TheCensus, knowsATestForEverythingThatCanBeDone) {
   openWithAllDialogs();
   action("referencesAction").trigger();
   widget<QDialog>("referencesDialog").close();
+  action("compareAction").trigger();
+  widget<QDialog>("compareDialog").close();
   emit widget<QMenu>("recentMenu").aboutToShow();
   emit widget<QMenu>("windowMenu").aboutToShow();
   std::set<std::string> found;

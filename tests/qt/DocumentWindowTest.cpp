@@ -522,6 +522,7 @@ TEST_F(TheDocumentWindow, namesThePublicationsOfItsStandardsAndFormulas) {
   EXPECT_THAT(copied, testing::HasSubstr("doi:10.1016/0002-9378(85)90298-4"));
   EXPECT_THAT(copied, testing::HasSubstr("Citation to be confirmed."));
   EXPECT_THAT(copied, testing::HasSubstr("no centiles"));
+  EXPECT_THAT(copied, testing::HasSubstr("WHO (2017)\nKiserud T"));
   QTest::keyClick(dialog, Qt::Key_Escape);
   EXPECT_FALSE(dialog->isVisible());
 }

@@ -209,6 +209,10 @@ QImage WindowPictures::picture(const QString& name) {
          return imageOf(Application::dialog(shown.open("singleton.nascor"), "adjustDeliveryAction",
                                             "adjustDeliveryPanel"));
        }},
+      {QStringLiteral("dialog-compare"),
+       [&] {
+         return imageOf(Application::dialog(shown.open("twins.nascor"), "compareAction", "compareDialog"));
+       }},
       {QStringLiteral("dialog-question"), [&] { return shown.question(); }},
       {QStringLiteral("dialog-export-settings"), [&] {
          return Application::modal(shown.open("singleton.nascor"), QStringLiteral("exportSettingsAction"));

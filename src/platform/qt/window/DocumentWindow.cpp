@@ -34,6 +34,7 @@
 #include "framework/LongText.h"
 #include "ui_MyDocument.h"
 #include "window/AdjustDeliveryDialog.h"
+#include "window/CompareDialog.h"
 #include "window/DatingDialogs.h"
 #include "window/EditMenu.h"
 #include "window/FieldBinding.h"
@@ -142,7 +143,8 @@ DocumentWindow::~DocumentWindow() { release(); }
 bool DocumentWindow::hasDialog() const {
   const auto dialogs = findChildren<QDialog*>();
   return std::ranges::any_of(dialogs, [this](const QDialog* dialog) {
-    return dialog->isVisible() && dialog != static_cast<const QDialog*>(references_);
+    return dialog->isVisible() && dialog != static_cast<const QDialog*>(references_) &&
+           dialog != static_cast<const QDialog*>(compare_);
   });
 }
 
@@ -403,6 +405,7 @@ void DocumentWindow::bindActions() {
        [](NCDocument& document) { document.doSetEDDfromMeasurements(nullptr); });
   bind(ui_->adjustDeliveryAction,
        [this](NCDocument&) { environment_.application.doAdjustDeliveryDate(&environment_.application); });
+  bind(ui_->compareAction, [this](NCDocument&) { showCompare(); });
   bind(ui_->showAllAction, [this](NCDocument&) {
     environment_.application.toggleShowAll(environment_.application.showAllMenuItem());
   });
@@ -680,6 +683,7 @@ void DocumentWindow::showStandards() {
 void DocumentWindow::updatePages() {
   if (!document_) return;
   for (PageView* view : pageViews_) view->update();
+  if (compare_) compare_->refresh();
   const std::int64_t shown = document_->tabView().indexOfSelectedPage();
   QStringList advice;
   for (const std::string& sentence : document_->adviceOnPage(shown)) advice << fromUtf8(sentence);
@@ -709,6 +713,27 @@ void DocumentWindow::revert() {
       alerts.tellDetails(toUtf8(said("MyDocument", "The document cannot be read.")),
                          foundation::sentenceAbout(*document.filePath(), *error), error->details);
   });
+}
+
+void DocumentWindow::showCompare() {
+  if (!compare_) {
+    compare_ = new CompareDialog(
+        {.services = environment_.services,
+         .alerts = environment_.alerts,
+         .comparison =
+             [this] {
+               if (!document_) return ShownComparison{};
+               return ShownComparison{.heading = fromUtf8(document_->comparisonHeading()),
+                                      .tables = document_->comparison()};
+             },
+         .paper = [this] { return document_ ? document_->printInfo() : framework::PrintInfo{}; },
+         .suggestedName =
+             [this] { return document_ ? fromUtf8(document_->suggestedFileName()) : QString(); }},
+        this);
+  }
+  compare_->show();
+  compare_->raise();
+  compare_->activateWindow();
 }
 
 void DocumentWindow::showAbout() {

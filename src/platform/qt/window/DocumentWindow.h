@@ -27,6 +27,7 @@ class MyDocument;
 
 namespace nascor::qt {
 
+class CompareDialog;
 class FieldBinding;
 class FieldEdit;
 class PageView;
@@ -116,6 +117,7 @@ class DocumentWindow final : public QMainWindow {
   void showStandards();
   void showLongDates();
   void updatePages();
+  void showCompare();
   void showAbout();
   void tellOfLinks(const QStringList& links);
   void revert();
@@ -133,6 +135,7 @@ class DocumentWindow final : public QMainWindow {
   QLabel* weightLabel_ = nullptr;
   std::vector<PanelDialog*> dialogs_;
   ReferencesDialog* references_ = nullptr;
+  CompareDialog* compare_ = nullptr;
   QString notedPath_;
   std::vector<foundation::NotificationCenter::Subscription> subscriptions_;
 };

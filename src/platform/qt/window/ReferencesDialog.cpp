@@ -8,10 +8,12 @@
 #include <QTextBrowser>
 #include <QVBoxLayout>
 #include <array>
+#include <cstddef>
 #include <vector>
 
 #include "base/Text.h"
 #include "calc/Publications.h"
+#include "calc/Standards.h"
 
 namespace nascor::qt {
 
@@ -39,6 +41,14 @@ QString paragraph(const Publication& publication, const foundation::Localizer& l
   return text + QStringLiteral("</p>");
 }
 
+/// Those beside the growth standards.
+std::vector<Publication> furtherReferences() {
+  std::vector<Publication> publications = calc::referencePublications();
+  publications.erase(publications.begin(),
+                     publications.begin() + static_cast<std::ptrdiff_t>(calc::growthStandards().size()));
+  return publications;
+}
+
 }  // namespace
 
 QString referencesText(const foundation::Localizer& localizer) {
@@ -52,7 +62,8 @@ QString referencesText(const foundation::Localizer& localizer) {
        {Family{translatable("NCAppController", "Standards"), calc::growthStandardPublications(), {}},
         Family{translatable("NCAppController", "Estimated Fetal Weight"), calc::weightFormulaPublications(),
                calc::weightBandRemark()},
-        Family{translatable("NCAppController", "Crown Rump Length"), calc::crlFormulaPublications(), {}}}) {
+        Family{translatable("NCAppController", "Crown Rump Length"), calc::crlFormulaPublications(), {}},
+        Family{translatable("NCAppController", "Further References"), furtherReferences(), {}}}) {
     text += QStringLiteral("<h2>%1</h2>")
                 .arg(fromUtf8(localizer.text("NCAppController", family.title)).toHtmlEscaped());
     if (!family.remark.empty()) {

@@ -1,0 +1,324 @@
+#include "compare/Tables.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <utility>
+
+#include "calc/Dating.h"
+#include "calc/FetalWeight.h"
+#include "calc/PlaceText.h"
+#include "compare/Comparison.h"
+#include "foundation/NumberText.h"
+#include "foundation/RangeError.h"
+#include "model/FetusLabels.h"
+#include "rows/RowFormat.h"
+
+namespace nascor::compare {
+namespace {
+
+using calc::Measurement;
+using calc::Quantity;
+using foundation::Localizer;
+
+constexpr int kLengthDecimals = 1;
+constexpr int kSDDecimals = 2;
+constexpr int kRatioDecimals = 3;
+
+/// Writes figures in the user's way.
+class Writer {
+ public:
+  explicit Writer(const Localizer& localizer) : localizer_(localizer) {}
+
+  std::string text(std::string_view table, std::string_view key) const { return localizer_.text(table, key); }
+
+  Cell number(std::optional<double> value, int decimals) const {
+    if (!value || !std::isfinite(*value)) return none();
+    return {.text = foundation::fieldText(*value, decimals, localizer_.decimalSign()), .number = value};
+  }
+  /// With its sign.
+  Cell change(std::optional<double> value, int decimals) const {
+    Cell cell = number(value, decimals);
+    if (cell.number && *cell.number >= 0.0) cell.text.insert(cell.text.begin(), '+');
+    return cell;
+  }
+  Cell z(std::optional<double> z) const {
+    if (!z) return none();
+    return {.text = calc::zText(*z, localizer_), .number = z};
+  }
+  Cell centile(const std::optional<calc::Centile>& centile) const {
+    if (!centile) return none();
+    return {.text = calc::centileText(*centile, localizer_), .number = centile->percent};
+  }
+  Cell age(std::optional<double> weeks) const {
+    if (!weeks) return none();
+    return {.text = calc::gestationText(*weeks, localizer_), .number = weeks};
+  }
+  std::string name(Quantity quantity) const {
+    // As the fields of the window have them.
+    static constexpr std::array<std::string_view, calc::kQuantities.size()> kNames{
+        foundation::translatable("Compare", "BPD"), foundation::translatable("Compare", "HC"),
+        foundation::translatable("Compare", "AC"), foundation::translatable("Compare", "FL"),
+        foundation::translatable("Compare", "EFW")};
+    return text("Compare", kNames.at(static_cast<std::size_t>(quantity)));
+  }
+
+  /// Why a place is missing, or stands for little.
+  std::string remark(const Placed& figure) const {
+    std::string all;
+    for (const Caution caution : figure.cautions) append(all, sentence(caution, *figure.reference));
+    return all;
+  }
+  static void append(std::string& all, const std::string& sentence) {
+    if (!all.empty() && !sentence.empty()) all += ' ';
+    all += sentence;
+  }
+
+ private:
+  static Cell none() { return {.text = "-"}; }
+
+  std::string sentence(Caution caution, const calc::Reference& reference) const {
+    switch (caution) {
+      case Caution::ageUnknown: return text("Compare", "The age is not known.");
+      case Caution::outsideWeeks:
+        return std::string(reference.label)
+            .append(foundation::format(text("Compare", " has %ld to %ld weeks."),
+                                       {reference.firstWeek, reference.lastWeek}));
+      case Caution::otherFormula:
+        return std::string(reference.label)
+            .append(text("Compare", " fits weights by another formula alone: "))
+            .append(calc::weightFormula(reference.onlyFormula.value_or(0))->longLabel)
+            .append(".");
+      case Caution::withoutPlace: break;
+    }
+    return std::string(reference.label).append(text("Compare", " has no place for this value."));
+  }
+
+  const Localizer& localizer_;
+};
+
+Cell label(std::string_view text) { return {.text = std::string(text)}; }
+
+/// Ends each row with its remark.
+void addRemarks(Table& table, const Writer& writer) {
+  table.columns.push_back({.title = writer.text("Compare", "Remark")});
+  for (Row& row : table.rows) row.cells.push_back(label(row.remark));
+}
+
+Table lengthsTable(const Comparison& comparison, std::int64_t standard, const Writer& writer) {
+  Table table{
+      .name = "lengths",
+      .title = writer.text("Compare", "Lengths"),
+      .columns = {{.title = writer.text("Compare", "Length")},
+                  {.title = writer.text("Compare", "mm"), .isNumber = true},
+                  {.title = writer.text("Compare", "Reference")},
+                  {.title = writer.text("Compare", "Mean"),
+                   .isNumber = true,
+                   .explanation = writer.text("Compare",
+                                              "The mean of the reference at this age, in mm. A "
+                                              "reference that has curves alone has none.")},
+                  {.title = writer.text("Compare", "SD"),
+                   .isNumber = true,
+                   .explanation = writer.text("Compare", "One standard deviation at this age, in mm.")},
+                  {.title = writer.text("Compare", "Median"),
+                   .isNumber = true,
+                   .explanation = writer.text("Compare", "Half of the population lies below it, in mm.")},
+                  {.title = writer.text("Compare", "z"),
+                   .isNumber = true,
+                   .explanation = writer.text("Compare", "Standard deviations from the mean.")},
+                  {.title = writer.text("Compare", "Centile"),
+                   .isNumber = true,
+                   .explanation = writer.text("Compare", "How many of 100 lie below the value.")},
+                  {.title = writer.text("Compare", "Age"),
+                   .isNumber = true,
+                   .explanation = writer.text("Compare", "The age of which the value is the median.")}},
+      .rows = {}};
+  for (const Length& length : comparison.lengths) {
+    for (const Placed& figure : length.references) {
+      table.rows.push_back(
+          {.cells = {label(writer.name(calc::quantityOf(length.measurement))),
+                     writer.number(length.value, kLengthDecimals), label(figure.reference->label),
+                     writer.number(figure.mean, kLengthDecimals), writer.number(figure.sd, kSDDecimals),
+                     writer.number(figure.median, kLengthDecimals), writer.z(figure.z),
+                     writer.centile(figure.centile), writer.age(figure.weeks)},
+           .remark = length.value ? writer.remark(figure) : std::string(),
+           .isChosen = figure.reference == calc::referenceOfStandard(standard)});
+    }
+  }
+  addRemarks(table, writer);
+  return table;
+}
+
+bool needsOneLength(const calc::WeightFormula& formula) {
+  return std::ranges::any_of(calc::kMeasurements, [&formula](Measurement measurement) {
+    calc::Biometry lengths;
+    lengths.*calc::memberFor(measurement) = 1.0;
+    return formula.weight(lengths) != 0.0;
+  });
+}
+
+Table weightsTable(const Comparison& comparison, std::int64_t chosen, const Writer& writer) {
+  Table table{
+      .name = "weights",
+      .title = writer.text("Compare", "Weights"),
+      .columns = {{.title = writer.text("Compare", "Formula")},
+                  {.title = writer.text("Compare", "g"), .isNumber = true},
+                  {.title = writer.text("Compare", "Difference"),
+                   .isNumber = true,
+                   .explanation = writer.text("Compare", "From the weight by the formula in force, in g.")}},
+      .rows = {}};
+  for (const calc::Reference& reference : calc::references()) {
+    if (!calc::tellsOf(reference, Quantity::efw)) continue;
+    table.columns.push_back(
+        {.title = std::string(reference.label),
+         .isNumber = true,
+         .explanation = writer.text("Compare", "The centile in this population of weights.")});
+  }
+  for (const Weight& weight : comparison.weights) {
+    const calc::WeightFormula& formula = *calc::weightFormula(weight.formula);
+    Row row{.cells = {label(formula.longLabel), writer.number(weight.grams, 0),
+                      writer.change(weight.difference, 0)},
+            .isChosen = weight.formula == chosen};
+    if (weight.grams && needsOneLength(formula))
+      row.remark = writer.text("Compare", "From one length alone.");
+    for (const Placed& figure : weight.references) {
+      row.cells.push_back(writer.centile(figure.centile));
+      if (weight.grams) Writer::append(row.remark, writer.remark(figure));
+    }
+    table.rows.push_back(std::move(row));
+  }
+  addRemarks(table, writer);
+  return table;
+}
+
+Table ratiosTable(const Ratios& ratios, const Writer& writer) {
+  Table table{.name = "ratios",
+              .title = writer.text("Compare", "Ratios"),
+              .columns = {{.title = writer.text("Compare", "Ratio")},
+                          {.title = writer.text("Compare", "Value"), .isNumber = true}},
+              .rows = {}};
+  for (const auto& [name, ratio] : {std::pair{"HC/AC", ratios.hcToAC}, std::pair{"FL/AC", ratios.flToAC},
+                                    std::pair{"FL/BPD", ratios.flToBPD}})
+    table.rows.push_back({.cells = {label(name), writer.number(ratio, kRatioDecimals)}});
+  return table;
+}
+
+/// Every fetus of the examination, with the share by which it weighs less than the heaviest.
+Table fetusesTable(const model::PatientRecord& patient, std::size_t examination, std::size_t fetus,
+                   const Localizer& localizer, const Writer& writer) {
+  Table table{.name = "fetuses", .title = writer.text("Compare", "Fetuses"), .columns = {}, .rows = {}};
+  table.columns.push_back({.title = writer.text("Compare", "Fetus")});
+  for (const Quantity quantity : calc::kQuantities) {
+    const bool isWeight = quantity == Quantity::efw;
+    table.columns.push_back({.title = writer.name(quantity),
+                             .isNumber = true,
+                             .explanation = isWeight
+                                                ? writer.text("Compare", "By the formula in force, in g.")
+                                                : writer.text("Compare", "In mm.")});
+  }
+  table.columns.push_back(
+      {.title = writer.text("Compare", "Less (%)"),
+       .isNumber = true,
+       .explanation = writer.text("Compare", "How much less this fetus weighs than the heaviest.")});
+  const auto labels = model::fetusLabels(patient.numberOfFetuses());
+  const std::size_t count = patient.ncRecordsArray().at(examination)->measurements().size();
+  std::vector<std::optional<double>> weights;
+  for (std::size_t each = 0; each < count; ++each) {
+    const Comparison one = comparisonOf(patient, examination, each);
+    Row row{.cells = {label(each < labels.size() ? localizer.text("NCDocument", labels[each])
+                                                 : std::to_string(each + 1))},
+            .isChosen = each == fetus};
+    for (const Length& length : one.lengths)
+      row.cells.push_back(writer.number(length.value, kLengthDecimals));
+    const auto inForce = std::ranges::find(one.weights, patient.fetalWeightStandard(), &Weight::formula);
+    weights.push_back(inForce == one.weights.end() ? std::nullopt : inForce->grams);
+    row.cells.push_back(writer.number(weights.back(), 0));
+    table.rows.push_back(std::move(row));
+  }
+  std::optional<double> heaviest;
+  std::size_t weighed = 0;
+  for (const auto& weight : weights) {
+    if (!weight) continue;
+    ++weighed;
+    heaviest = std::max(heaviest.value_or(0.0), *weight);
+  }
+  for (std::size_t each = 0; each < count; ++each) {
+    const bool isCompared = weighed > 1 && weights[each];
+    table.rows[each].cells.push_back(writer.number(
+        isCompared ? std::optional((*heaviest - *weights[each]) / *heaviest * 100.0) : std::nullopt, 1));
+  }
+  return table;
+}
+
+Table growthTable(const Comparison& comparison, const Writer& writer) {
+  Table table{.name = "growth",
+              .title = writer.text("Compare", "Growth"),
+              .columns = {{.title = writer.text("Compare", "Measure")},
+                          {.title = writer.text("Compare", "Per Week"),
+                           .isNumber = true,
+                           .explanation = writer.text(
+                               "Compare", "Since the last examination that has it: mm a week, or g a week.")},
+                          {.title = writer.text("Compare", "Expected"),
+                           .isNumber = true,
+                           .explanation =
+                               writer.text("Compare", "By how much the mean of the growth standard grows.")},
+                          {.title = writer.text("Compare", "Change of z"),
+                           .isNumber = true,
+                           .explanation = writer.text("Compare", "By the growth standard in force.")}},
+              .rows = {}};
+  for (const Growth& growth : comparison.growth) {
+    const int decimals = growth.quantity == Quantity::efw ? 0 : kLengthDecimals;
+    table.rows.push_back(
+        {.cells = {label(writer.name(growth.quantity)), writer.change(growth.perWeek, decimals),
+                   writer.change(growth.expectedPerWeek, decimals), writer.z(growth.zChange)}});
+  }
+  return table;
+}
+
+/// Appends the titles and the rows, cells with `between` after each but the last, and lines with `end`.
+template <class AppendTitle, class AppendCell>
+std::string lines(const Table& table, std::string_view between, std::string_view end,
+                  const AppendTitle& appendTitle, const AppendCell& appendCell) {
+  std::string text;
+  for (std::size_t i = 0; i < table.columns.size(); ++i) {
+    if (i > 0) text += between;
+    appendTitle(text, table.columns[i].title);
+  }
+  text += end;
+  for (const Row& row : table.rows) {
+    for (std::size_t i = 0; i < row.cells.size(); ++i) {
+      if (i > 0) text += between;
+      appendCell(text, row.cells[i], table.columns[i]);
+    }
+    text += end;
+  }
+  return text;
+}
+
+}  // namespace
+
+std::vector<Table> tablesOf(const model::PatientRecord& patient, std::size_t examination, std::size_t fetus,
+                            const Localizer& localizer) {
+  const Comparison comparison = comparisonOf(patient, examination, fetus);
+  const Writer writer(localizer);
+  return {lengthsTable(comparison, patient.standard(), writer),
+          weightsTable(comparison, patient.fetalWeightStandard(), writer),
+          ratiosTable(comparison.ratios, writer),
+          fetusesTable(patient, examination, fetus, localizer, writer), growthTable(comparison, writer)};
+}
+
+std::string tabbedText(const Table& table) {
+  const auto append = [](std::string& all, const std::string& text) { all += text; };
+  return lines(table, "\t", "\n", append,
+               [&append](std::string& all, const Cell& cell, const Column&) { append(all, cell.text); });
+}
+
+std::string csvText(const Table& table) {
+  return lines(table, ",", "\r\n", rows::appendCsvText,
+               [](std::string& all, const Cell& cell, const Column& column) {
+                 if (!column.isNumber) return rows::appendCsvText(all, cell.text);
+                 if (cell.number) all += foundation::shortestText(*cell.number);
+               });
+}
+
+}  // namespace nascor::compare

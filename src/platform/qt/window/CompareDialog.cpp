@@ -1,0 +1,280 @@
+#include "window/CompareDialog.h"
+
+#include <QAbstractTableModel>
+#include <QClipboard>
+#include <QCoreApplication>
+#include <QDialogButtonBox>
+#include <QFile>
+#include <QFileDialog>
+#include <QGuiApplication>
+#include <QHeaderView>
+#include <QLabel>
+#include <QMimeData>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QPushButton>
+#include <QShortcut>
+#include <QSortFilterProxyModel>
+#include <QTabWidget>
+#include <QTableView>
+#include <QTextDocument>
+#include <QVBoxLayout>
+#include <algorithm>
+#include <span>
+#include <utility>
+
+#include "base/Introduction.h"
+#include "base/Text.h"
+#include "painting/QtPrinter.h"
+
+namespace nascor::qt {
+
+using compare::Table;
+
+namespace {
+
+constexpr int kNumberRole = Qt::UserRole;
+
+/// Widens each column, where it must, so that nothing in it is cut. What the user has widened stays.
+void makeRoom(QTableView& view) {
+  const int gap = view.fontMetrics().averageCharWidth() * 2;
+  QHeaderView& header = *view.horizontalHeader();
+  for (int column = 0; column < header.count(); ++column) {
+    const int wanted = std::max(header.sectionSizeHint(column),
+                                static_cast<QAbstractItemView&>(view).sizeHintForColumn(column)) +
+                       gap;
+    if (header.sectionSize(column) < wanted) header.resizeSection(column, wanted);
+  }
+}
+
+}  // namespace
+
+/// One table, for Qt's views.
+class CompareDialog::Model final : public QAbstractTableModel {
+ public:
+  explicit Model(QObject* parent) : QAbstractTableModel(parent) {}
+
+  const Table& table() const { return table_; }
+
+  /// Keeps what is selected and sorted where the rows are as many as before.
+  void setTable(Table table) {
+    const bool isSameShape =
+        table.rows.size() == table_.rows.size() && table.columns.size() == table_.columns.size();
+    if (!isSameShape) beginResetModel();
+    table_ = std::move(table);
+    if (!isSameShape) {
+      endResetModel();
+    } else if (!table_.rows.empty()) {
+      emit dataChanged(index(0, 0), index(rowCount({}) - 1, columnCount({}) - 1));
+    }
+  }
+
+  int rowCount(const QModelIndex& parent) const override {
+    return parent.isValid() ? 0 : static_cast<int>(table_.rows.size());
+  }
+  int columnCount(const QModelIndex& parent) const override {
+    return parent.isValid() ? 0 : static_cast<int>(table_.columns.size());
+  }
+  QVariant data(const QModelIndex& index, int role) const override {
+    const compare::Row& row = table_.rows.at(static_cast<std::size_t>(index.row()));
+    const auto column = static_cast<std::size_t>(index.column());
+    const compare::Cell& cell = row.cells.at(column);
+    switch (role) {
+      case Qt::DisplayRole: return fromUtf8(cell.text);
+      case Qt::ToolTipRole:
+      case Qt::AccessibleDescriptionRole: return row.remark.empty() ? QVariant() : fromUtf8(row.remark);
+      case Qt::TextAlignmentRole:
+        return QVariant::fromValue(Qt::AlignVCenter |
+                                   (table_.columns.at(column).isNumber ? Qt::AlignRight : Qt::AlignLeft));
+      case Qt::FontRole: return row.isChosen ? bold() : QVariant();
+      case kNumberRole:
+        if (!table_.columns.at(column).isNumber) return fromUtf8(cell.text);
+        return cell.number ? QVariant(*cell.number) : QVariant();
+      default: return {};
+    }
+  }
+  QVariant headerData(int section, Qt::Orientation orientation, int role) const override {
+    if (orientation != Qt::Horizontal) return {};
+    const compare::Column& column = table_.columns.at(static_cast<std::size_t>(section));
+    switch (role) {
+      case Qt::DisplayRole: return fromUtf8(column.title);
+      case Qt::ToolTipRole: return fromUtf8(column.explanation);
+      case Qt::TextAlignmentRole:
+        return QVariant::fromValue(Qt::AlignVCenter | (column.isNumber ? Qt::AlignRight : Qt::AlignLeft));
+      default: return {};
+    }
+  }
+
+ private:
+  static QVariant bold() {
+    QFont font;
+    font.setBold(true);
+    return font;
+  }
+
+  Table table_;
+};
+
+CompareDialog::CompareDialog(CompareEnvironment environment, QWidget* parent)
+    : QDialog(parent), environment_(std::move(environment)), heading_(new QLabel), tabs_(new QTabWidget) {
+  setObjectName(QStringLiteral("compareDialog"));
+  setWindowTitle(said("Compare", "Compare"));
+  heading_->setObjectName(QStringLiteral("compareHeading"));
+  heading_->setTextFormat(Qt::PlainText);
+  heading_->setWordWrap(true);
+  tabs_->setObjectName(QStringLiteral("compareTabs"));
+  tabs_->setDocumentMode(true);
+
+  auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close);
+  const auto add = [this, buttons](const char* name, const QString& text, void (CompareDialog::*what)()) {
+    QPushButton* button = buttons->addButton(text, QDialogButtonBox::ActionRole);
+    button->setObjectName(QLatin1String(name));
+    button->setAutoDefault(false);
+    connect(button, &QPushButton::clicked, this, [this, what] { (this->*what)(); });
+  };
+  add("compareCopyButton", said("Compare", "&Copy"), &CompareDialog::copy);
+  add("compareExportButton", said("Compare", "&Export CSV..."), &CompareDialog::exportCSV);
+  add("comparePrintButton", said("Compare", "&Print..."), &CompareDialog::print);
+  buttons->button(QDialogButtonBox::Close)->setDefault(true);
+  connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+
+  auto* layout = new QVBoxLayout(this);
+  layout->addWidget(heading_);
+  layout->addWidget(tabs_);
+  layout->addWidget(buttons);
+  const QFontMetrics metrics = fontMetrics();
+  resize(metrics.averageCharWidth() * 130, metrics.lineSpacing() * 42);
+}
+
+void CompareDialog::addPage(const Table& table) {
+  auto* view = new QTableView;
+  auto* model = new Model(view);
+  auto* sorted = new QSortFilterProxyModel(view);
+  sorted->setSortRole(kNumberRole);
+  sorted->setSortCaseSensitivity(Qt::CaseInsensitive);
+  sorted->setSourceModel(model);
+  view->setModel(sorted);
+  view->setObjectName(QStringLiteral("compare-") + fromUtf8(std::string(table.name)));
+  view->setAccessibleName(fromUtf8(table.title));
+  view->setSelectionBehavior(QAbstractItemView::SelectRows);
+  view->setEditTriggers(QAbstractItemView::NoEditTriggers);
+  view->setAlternatingRowColors(true);
+  view->setShowGrid(false);
+  view->setWordWrap(false);
+  view->setTabKeyNavigation(false);
+  view->verticalHeader()->hide();
+  view->verticalHeader()->setDefaultSectionSize(fontMetrics().lineSpacing() * 5 / 4);
+  view->horizontalHeader()->setHighlightSections(false);
+  view->horizontalHeader()->setStretchLastSection(true);
+  view->horizontalHeader()->setDefaultSectionSize(fontMetrics().averageCharWidth() * 6);
+  // Unsorted until a header is clicked.
+  view->horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
+  view->horizontalHeader()->setSortIndicatorClearable(true);
+  view->setSortingEnabled(true);
+  // Of the view: the window behind has the same keys for its fields.
+  auto* keys = new QShortcut(QKeySequence::Copy, view);
+  keys->setContext(Qt::WidgetShortcut);
+  connect(keys, &QShortcut::activated, this, &CompareDialog::copy);
+  tabs_->addTab(view, fromUtf8(table.title));
+  pages_.push_back({.model = model, .view = view});
+}
+
+void CompareDialog::refresh() {
+  if (!isVisible()) return;
+  ShownComparison shown = environment_.comparison();
+  heading_->setText(shown.heading);
+  tabs_->setVisible(!shown.tables.empty());
+  for (std::size_t i = 0; i < shown.tables.size(); ++i) {
+    if (i == pages_.size()) addPage(shown.tables[i]);
+    pages_[i].model->setTable(std::move(shown.tables[i]));
+    makeRoom(*pages_[i].view);
+  }
+}
+
+void CompareDialog::showEvent(QShowEvent* event) {
+  QDialog::showEvent(event);
+  refresh();
+}
+
+Table CompareDialog::tableOnShow() const {
+  const Page& page = pages_.at(static_cast<std::size_t>(tabs_->currentIndex()));
+  const auto& sorted = static_cast<const QSortFilterProxyModel&>(*page.view->model());
+  const QItemSelectionModel& selection = *page.view->selectionModel();
+  Table table = page.model->table();
+  table.rows.clear();
+  for (int row = 0; row < sorted.rowCount(); ++row) {
+    if (selection.hasSelection() && !selection.isRowSelected(row)) continue;
+    const int source = sorted.mapToSource(sorted.index(row, 0)).row();
+    table.rows.push_back(page.model->table().rows.at(static_cast<std::size_t>(source)));
+  }
+  return table;
+}
+
+void CompareDialog::copy() {
+  if (pages_.empty()) return;
+  const QString text = fromUtf8(compare::tabbedText(tableOnShow()));
+  auto* table = new QMimeData;
+  table->setText(text);
+  table->setData(QStringLiteral("text/tab-separated-values"), text.toUtf8());
+  QGuiApplication::clipboard()->setMimeData(table);
+}
+
+void CompareDialog::exportCSV() {
+  if (pages_.empty()) return;
+  const Table table = tableOnShow();
+  QString name = environment_.suggestedName();
+  name += QStringLiteral(" - %1.csv").arg(fromUtf8(table.title));
+  QFileDialog dialog(this, said("Compare", "Export CSV"), QString(), said("Compare", "Tables (*.csv)"));
+  dialog.setAcceptMode(QFileDialog::AcceptSave);
+  dialog.setDefaultSuffix(QStringLiteral("csv"));
+  dialog.setDirectory(
+      QFile::decodeName(QByteArray::fromStdString(environment_.services.files.documentsFolder())));
+  dialog.selectFile(name);
+  if (dialog.exec() != QDialog::Accepted) return;
+  const std::string path = QFile::encodeName(dialog.selectedFiles().constFirst()).toStdString();
+  const std::string text = compare::csvText(table);
+  if (const auto error = environment_.services.files.replaceContents(
+          path, std::as_bytes(std::span(text.data(), text.size()))))
+    environment_.alerts.tell(toUtf8(said("Compare", "The table cannot be exported.")),
+                             foundation::sentenceAbout(path, *error));
+}
+
+void CompareDialog::print() {
+  if (pages_.empty()) return;
+  QPrinter printer(QPrinter::HighResolution);
+  printer.setPageLayout(layoutOf(environment_.paper()));
+  printer.setDocName(environment_.suggestedName());
+  QPrintDialog dialog(&printer, this);
+  if (dialog.exec() != QDialog::Accepted) return;
+  QTextDocument text;
+  text.setHtml(comparisonText(environment_.comparison()));
+  text.print(&printer);
+}
+
+QString comparisonText(const ShownComparison& comparison) {
+  QString text = QStringLiteral("<p><b>%1</b></p>").arg(comparison.heading.toHtmlEscaped());
+  for (const Table& table : comparison.tables) {
+    text += QStringLiteral("<h3>%1</h3><table cellpadding=\"2\" width=\"100%\"><tr>")
+                .arg(fromUtf8(table.title).toHtmlEscaped());
+    const auto addCell = [&text](const QString& tag, bool isNumber, const std::string& cell) {
+      text += QStringLiteral("<%1 align=\"%2\">%3</%1>")
+                  .arg(tag, isNumber ? QStringLiteral("right") : QStringLiteral("left"),
+                       fromUtf8(cell).toHtmlEscaped());
+    };
+    for (const compare::Column& column : table.columns)
+      addCell(QStringLiteral("th"), column.isNumber, column.title);
+    text += QStringLiteral("</tr>");
+    for (const compare::Row& row : table.rows) {
+      text += QStringLiteral("<tr>");
+      const QString tag = row.isChosen ? QStringLiteral("th") : QStringLiteral("td");
+      for (std::size_t i = 0; i < row.cells.size(); ++i)
+        addCell(tag, table.columns[i].isNumber, row.cells[i].text);
+      text += QStringLiteral("</tr>");
+    }
+    text += QStringLiteral("</table>");
+  }
+  text += QStringLiteral("<p>Nascor %1. %2</p>").arg(programVersion(), disclaimer().toHtmlEscaped());
+  return text;
+}
+
+}  // namespace nascor::qt

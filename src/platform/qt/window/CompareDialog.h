@@ -1,0 +1,67 @@
+#pragma once
+
+#include <QDialog>
+#include <functional>
+#include <vector>
+
+#include "compare/Tables.h"
+#include "foundation/Services.h"
+#include "framework/Alerts.h"
+#include "framework/Printer.h"
+
+class QLabel;
+class QTabWidget;
+class QTableView;
+
+namespace nascor::qt {
+
+/// What the dialog shows: what is compared, in words, and its tables.
+struct ShownComparison {
+  QString heading;
+  std::vector<compare::Table> tables;  ///< none while there is no examination
+};
+
+/// What the dialog asks of its window.
+struct CompareEnvironment {
+  foundation::Services services;
+  framework::Alerts& alerts;
+  std::function<ShownComparison()> comparison;  ///< of the examination and the fetus on show
+  std::function<framework::PrintInfo()> paper;  ///< that of the document
+  std::function<QString()> suggestedName;       ///< for a file, without its extension
+};
+
+/// Each number of the fetus on show beside its peers. It stays open beside the window and follows what that shows; its
+/// tables can be sorted, copied, printed and exported.
+class CompareDialog final : public QDialog {
+ public:
+  CompareDialog(CompareEnvironment environment, QWidget* parent);
+
+  /// Shows what is on show now. Costs nothing while the dialog is hidden.
+  void refresh();
+
+ protected:
+  void showEvent(QShowEvent* event) override;
+
+ private:
+  class Model;
+  struct Page {
+    Model* model;
+    QTableView* view;
+  };
+  void addPage(const compare::Table& table);
+  /// The table on show as it is sorted now; its selected rows alone where some are.
+  compare::Table tableOnShow() const;
+  void copy();
+  void exportCSV();
+  void print();
+
+  CompareEnvironment environment_;
+  QLabel* heading_;
+  QTabWidget* tabs_;
+  std::vector<Page> pages_;
+};
+
+/// The comparison as HTML, for paper.
+QString comparisonText(const ShownComparison& comparison);
+
+}  // namespace nascor::qt
