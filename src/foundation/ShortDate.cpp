@@ -6,6 +6,8 @@
 #include <string>
 #include <utility>
 
+#include "foundation/Utf8.h"
+
 namespace nascor::foundation {
 
 namespace {
@@ -40,11 +42,9 @@ char lowered(char character) {
   return character >= 'A' && character <= 'Z' ? static_cast<char>(character - 'A' + 'a') : character;
 }
 
-/// The number of bytes of the UTF-8 character that `text` begins with; 1 for a byte that begins none.
-std::size_t characterLength(std::string_view text) {
-  const auto lead = static_cast<unsigned char>(text.front());
-  const std::size_t length = lead < 0xC0 ? 1 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4;
-  return std::min(length, text.size());
+/// What `text`, which is not empty, begins with: a character, or a byte that begins none.
+std::string_view firstCharacter(std::string_view text) {
+  return text.substr(0, std::max<std::size_t>(characterLength(text), 1));
 }
 
 template <std::size_t Count>
@@ -54,14 +54,12 @@ bool isOneOf(std::string_view character, const std::array<std::string_view, Coun
 
 /// Without the marks that only steer the direction of writing, and with every kind of blank as a space.
 std::string plain(std::string_view text) {
-  constexpr std::array<std::string_view, 14> kDirectionMarks{"\u200E", "\u200F", "\u061C", "\u202A", "\u202B",
-                                                             "\u202C", "\u202D", "\u202E", "\u2066", "\u2067",
-                                                             "\u2068", "\u2069", "\u200B", "\uFEFF"};
+  constexpr std::array<std::string_view, 2> kOfNoWidth{"\u200B", "\uFEFF"};
   constexpr std::array<std::string_view, 6> kWideBlanks{"\u00A0", "\u2007", "\u2009",
                                                         "\u200A", "\u202F", "\u3000"};
   std::string result;
   while (!text.empty()) {
-    const std::string_view character = text.substr(0, characterLength(text));
+    const std::string_view character = firstCharacter(text);
     text.remove_prefix(character.size());
     if (isAscii(character.front())) {
       const bool isBlank =
@@ -69,7 +67,8 @@ std::string plain(std::string_view text) {
       result += isBlank ? ' ' : character.front();
     } else if (isOneOf(character, kWideBlanks)) {
       result += ' ';
-    } else if (!isOneOf(character, kDirectionMarks)) {
+    } else if (characterLength(character) == 0 ||
+               !(isDirectionMark(decoded(character)) || isOneOf(character, kOfNoWidth))) {
       result += character;
     }
   }
@@ -212,7 +211,7 @@ class Reader {
     const std::string_view start = rest;
     rest = withoutSpaces(rest);
     if (!rest.empty()) {
-      if (const std::string_view mark = rest.substr(0, characterLength(rest)); isMark(mark)) {
+      if (const std::string_view mark = firstCharacter(rest); isMark(mark)) {
         rest = withoutSpaces(rest.substr(mark.size()));
       }
     }

@@ -32,27 +32,35 @@ std::size_t characterLength(std::string_view text) {
   return 0;
 }
 
+std::size_t codePoints(std::string_view text) {
+  return static_cast<std::size_t>(
+      std::ranges::count_if(text, [](char byte) { return !continuesCodePoint(byte); }));
+}
+
+std::size_t lengthWithin(std::string_view text, std::size_t most) {
+  if (most >= text.size()) return text.size();
+  const std::size_t least = most - std::min<std::size_t>(most, 3);
+  while (most > least && continuesCodePoint(text[most])) --most;
+  return most;
+}
+
+char32_t decoded(std::string_view character) {
+  const auto lead = static_cast<unsigned char>(character.front());
+  if (character.size() == 1) return lead;
+  char32_t point = lead & (0x7FU >> character.size());
+  for (const char byte : character.substr(1))
+    point = point << 6U | (static_cast<unsigned char>(byte) & 0x3FU);
+  return point;
+}
+
 namespace {
 
 bool isWithin(char32_t point, char32_t first, char32_t last) { return point >= first && point <= last; }
 
-constexpr char32_t kReplacement = 0xFFFD;
+bool isControl(char32_t point) { return point < 0x20 || isWithin(point, 0x7F, 0x9F); }
 
-/// Takes the last code point off `text`, which is not empty.
-char32_t popCodePoint(std::string& text) {
-  char32_t point = 0;
-  for (unsigned shift = 0;; shift += 6) {
-    const auto byte = static_cast<unsigned char>(text.back());
-    text.pop_back();
-    if ((byte & 0xC0U) == 0x80U && !text.empty()) {
-      point |= static_cast<char32_t>(byte & 0x3FU) << shift;
-      continue;
-    }
-    // The lead byte keeps 7 bits alone, and 5, 4 or 3 before one, two or three others.
-    const unsigned lead = shift == 0 ? byte : byte & (0x3FU >> (shift / 6U));
-    return point | (static_cast<char32_t>(lead) << shift);
-  }
-}
+/// Also the two separators, of lines and of paragraphs, which end the line that they stand in.
+bool isSignOfDirection(char32_t point) { return isDirectionMark(point) || isWithin(point, 0x2028, 0x2029); }
 
 /// For each byte of `text` whether what a reader counts as one character begins there.
 std::string beginningsOfCharacters(std::string_view text) {
@@ -77,55 +85,43 @@ bool isValidUtf8(std::string_view bytes) {
   return true;
 }
 
-namespace {
-
-/// Marks, embeddings, overrides and isolates of direction, and the two separators of lines and paragraphs.
-bool isSignOfDirection(std::string_view character) {
-  if (character == "\xD8\x9C") return true;  // U+061C
-  if (character.size() != 3 || character[0] != '\xE2') return false;
-  const auto middle = static_cast<unsigned char>(character[1]);
-  const auto low = static_cast<unsigned char>(character[2]);
-  if (middle == 0x80) return low == 0x8E || low == 0x8F || (low >= 0xA8 && low <= 0xAE);  // U+200E to U+202E
-  return middle == 0x81 && low >= 0xA6 && low <= 0xA9;                                    // U+2066 to U+2069
+bool isDirectionMark(char32_t point) {
+  return point == 0x061C || isWithin(point, 0x200E, 0x200F) || isWithin(point, 0x202A, 0x202E) ||
+         isWithin(point, 0x2066, 0x2069);
 }
 
-}  // namespace
-
 char32_t codeOfUnseen(std::string_view character) {
-  std::string copy(character);
-  const char32_t point = copy.empty() ? kReplacement : popCodePoint(copy);
-  const bool isControl = point < 0x20 || isWithin(point, 0x7F, 0x9F);
-  return copy.empty() && (isControl || isSignOfDirection(character)) ? point : kReplacement;
+  constexpr char32_t kReplacement = 0xFFFD;
+  if (character.empty() || characterLength(character) != character.size()) return kReplacement;
+  const char32_t point = decoded(character);
+  return isControl(point) || isSignOfDirection(point) ? point : kReplacement;
 }
 
 std::string oneLine(std::string_view text) {
-  constexpr std::string_view kHexDigits = "0123456789abcdef";
   std::string line;
+  const auto addHexDigits = [&](char32_t point, unsigned digits) {
+    constexpr std::string_view kHexDigits = "0123456789abcdef";
+    while (digits > 0) line += kHexDigits[point >> (4U * --digits) & 15U];
+  };
   while (!text.empty()) {
     const std::size_t length = characterLength(text);
-    const auto byte = static_cast<unsigned char>(text.front());
-    // U+0080 to U+009F are control characters too; in UTF-8 they begin with C2.
-    const bool isC1 = length == 2 && byte == 0xC2 && static_cast<unsigned char>(text[1]) < 0xA0;
+    const std::string_view character = text.substr(0, std::max<std::size_t>(length, 1));
+    text.remove_prefix(character.size());
     if (length == 0) {
       line += "\xEF\xBF\xBD";
-    } else if (byte == '\n') {
+    } else if (const char32_t point = decoded(character); point == U'\n') {
       line += "\\n";
-    } else if (byte == '\t') {
+    } else if (point == U'\t') {
       line += "\\t";
-    } else if (byte < 0x20 || byte == 0x7F || isC1) {
-      const auto code = isC1 ? static_cast<unsigned char>(text[1]) : byte;
+    } else if (isControl(point)) {
       line += "\\x";
-      line += kHexDigits[code >> 4U];
-      line += kHexDigits[code & 15U];
-    } else if (isSignOfDirection(text.substr(0, length))) {
-      std::string sign(text.substr(0, length));
-      const char32_t point = popCodePoint(sign);
+      addHexDigits(point, 2);
+    } else if (isSignOfDirection(point)) {
       line += "\\u";
-      for (const unsigned shift : {12U, 8U, 4U, 0U}) line += kHexDigits[(point >> shift) & 15U];
+      addHexDigits(point, 4);
     } else {
-      line += text.substr(0, length);
+      line += character;
     }
-    text.remove_prefix(length == 0 ? 1 : length);
   }
   return line;
 }

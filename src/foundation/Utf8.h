@@ -13,6 +13,22 @@ bool isValidUtf8(std::string_view bytes);
 /// The bytes of the character at the start of `text`, which is not empty; 0 when it is malformed.
 std::size_t characterLength(std::string_view text);
 
+/// Whether `byte` goes on with a code point that an earlier byte began.
+constexpr bool continuesCodePoint(char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U; }
+
+/// The code points of `text`. A byte that is no UTF-8 counts as one, unless it looks as if it went on with one.
+std::size_t codePoints(std::string_view text);
+
+/// The bytes of the longest beginning of `text` that has at most `most` bytes and parts no code point. Of bytes that are no
+/// UTF-8 it leaves out up to three more.
+std::size_t lengthWithin(std::string_view text, std::size_t most);
+
+/// The code point that `character` encodes: well-formed, and nothing behind it.
+char32_t decoded(std::string_view character);
+
+/// Whether `point` is a mark, embedding, override or isolate that only steers the direction of writing.
+bool isDirectionMark(char32_t point);
+
 /// The code of `character`, one of UTF-8, when it is not to be seen as it is: a control character, or a sign that gives its
 /// neighbours another direction or ends their line. 0xFFFD for any other, and for a malformed one.
 char32_t codeOfUnseen(std::string_view character);

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cstddef>
 
+#include "foundation/Utf8.h"
+
 namespace nascor::framework {
 
 std::string fileNameText(std::string_view text) {
@@ -25,12 +27,8 @@ std::string portableFileNameText(std::string_view text) {
 
 std::string fileNameEndingIn(std::string_view name, std::string_view ending) {
   constexpr std::size_t kMostBytes = 255;
-  std::size_t length = std::min(name.size(), kMostBytes - std::min(kMostBytes, ending.size()));
-  if (length < name.size()) {
-    const auto continues = [](char each) { return (static_cast<unsigned char>(each) & 0xC0) == 0x80; };
-    while (length > 0 && continues(name[length])) --length;
-  }
-  return std::string(name.substr(0, length)).append(ending);
+  const std::size_t room = kMostBytes - std::min(kMostBytes, ending.size());
+  return std::string(name.substr(0, foundation::lengthWithin(name, room))).append(ending);
 }
 
 std::string fileName(std::string_view name, std::string_view extension) {

@@ -1,5 +1,7 @@
 #include "framework/FittingText.h"
 
+#include "foundation/Utf8.h"
+
 namespace nascor::framework {
 
 std::string fittingText(const std::string& text, std::size_t bytesOfEnd, const Canvas& canvas, double width) {
@@ -7,8 +9,7 @@ std::string fittingText(const std::string& text, std::size_t bytesOfEnd, const C
   const std::string start = text.substr(0, text.size() - bytesOfEnd);
   const std::string end = text.substr(start.size());
   const auto shortened = [&](std::size_t bytes) {
-    while (bytes > 0 && (static_cast<unsigned char>(start[bytes]) & 0xC0U) == 0x80U) --bytes;
-    return start.substr(0, bytes) + "\u2026" + end;
+    return start.substr(0, foundation::lengthWithin(start, bytes)) + "\u2026" + end;
   };
   // Half of what is in question at each step: a reference ID may have any length.
   std::size_t fits = 0;

@@ -7,13 +7,12 @@
 namespace nascor::framework {
 namespace {
 
+using foundation::continuesCodePoint;
 using foundation::kCutSign;
-
-bool continues(char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U; }
 
 /// What the code point that begins with `byte` takes in UTF-16; 0 for a byte inside one.
 std::size_t units(char byte) {
-  if (continues(byte)) return 0;
+  if (continuesCodePoint(byte)) return 0;
   return static_cast<unsigned char>(byte) >= 0xF0U ? 2 : 1;
 }
 
@@ -36,8 +35,7 @@ std::string shownInEdit(std::string_view text, std::size_t most) {
   const std::size_t room = bytesWithin(text, most - 1);
   // The code point behind is seen too, so that a letter is not parted from its accent.
   const std::string_view seen = text.substr(0, room + foundation::characterLength(text.substr(room)));
-  std::size_t codePoints = 0;
-  for (const char byte : text.substr(0, room)) codePoints += continues(byte) ? 0 : 1;
+  const std::size_t codePoints = foundation::codePoints(text.substr(0, room));
   return std::string(text.substr(0, foundation::lengthOfBeginning(seen, codePoints))).append(kCutSign);
 }
 
@@ -47,10 +45,10 @@ TypedText typedOver(std::string_view held, std::string_view typed, std::size_t m
     const std::size_t shorter = std::min(held.size(), typed.size());
     std::size_t start = 0;
     while (start < shorter && held[start] == typed[start]) ++start;
-    while (start > 0 && continues(typed[start])) --start;
+    while (start > 0 && continuesCodePoint(typed[start])) --start;
     std::size_t end = 0;
     while (end < shorter - start && held[held.size() - 1 - end] == typed[typed.size() - 1 - end]) ++end;
-    while (end > 0 && continues(typed[typed.size() - end])) --end;
+    while (end > 0 && continuesCodePoint(typed[typed.size() - end])) --end;
 
     const std::string_view kept = typed.substr(typed.size() - end);
     std::size_t room = most;

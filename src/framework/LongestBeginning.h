@@ -7,13 +7,6 @@
 
 namespace nascor::framework {
 
-/// Where the last code point of `text`, which is not empty, begins.
-inline std::size_t lastCodePoint(std::string_view text) {
-  std::size_t start = text.size() - 1;
-  while (start > 0 && (static_cast<unsigned char>(text[start]) & 0xC0U) == 0x80U) --start;
-  return start;
-}
-
 /// The bytes of a beginning of `text`, of whole characters, that is too wide, though not by far; all of `text` when none is.
 /// So what is much too long need not be measured again and again.
 template <class Fits>
@@ -29,7 +22,7 @@ std::size_t roughBeginning(std::string_view text, const Fits& fits) {
 template <class Fits>
 std::size_t fittingBeginning(std::string_view text, const Fits& fits) {
   std::size_t end = roughBeginning(text, fits);
-  while (end > 0 && !fits(text.substr(0, end))) end = lastCodePoint(text.substr(0, end));
+  while (end > 0 && !fits(text.substr(0, end))) end = foundation::lengthWithin(text, end - 1);
   return end;
 }
 

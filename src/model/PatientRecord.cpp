@@ -1,10 +1,10 @@
 #include "model/PatientRecord.h"
 
+#include "foundation/CharacterSets.h"
 #include "foundation/ConvertInteger.h"
 #include "foundation/LeadingInteger.h"
 #include "foundation/RangeError.h"
 #include "model/Archiver.h"
-#include "model/CharacterSets.h"
 #include "model/Unarchiver.h"
 
 namespace nascor::model {
@@ -84,8 +84,8 @@ PatientRecord PatientRecord::initWithCoder(Unarchiver& coder) {
 
 std::int64_t gravidaFromOldText(const std::optional<std::string>& text) {
   if (!text) return 1;
-  const std::string_view withoutLetters = trimmed(*text, isLetter);
-  const std::string_view cleaned = trimmed(withoutLetters, isPunctuation);
+  const std::string_view withoutLetters = foundation::trimmed(*text, foundation::isLetter);
+  const std::string_view cleaned = foundation::trimmed(withoutLetters, foundation::isPunctuation);
   return cleaned == *text ? foundation::leadingInteger(cleaned) : 1;
 }
 

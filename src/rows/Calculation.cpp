@@ -42,9 +42,7 @@ bool isTiny(std::string_view number) {
 std::string shown(const std::string& text) {
   constexpr std::size_t kMost = 40;
   if (text.size() <= kMost) return foundation::oneLine(text);
-  std::size_t end = kMost;
-  while (end > kMost - 3 && (static_cast<unsigned char>(text[end]) & 0xC0U) == 0x80U) --end;
-  return foundation::oneLine(std::string_view(text).substr(0, end)) + "...";
+  return foundation::oneLine(std::string_view(text).substr(0, foundation::lengthWithin(text, kMost))) + "...";
 }
 
 std::string inQuotes(const std::string& text) { return '"' + shown(text) + '"'; }

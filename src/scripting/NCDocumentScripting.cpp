@@ -4,6 +4,7 @@
 #include "foundation/IsoDate.h"
 #include "foundation/NumberText.h"
 #include "foundation/RangeError.h"
+#include "foundation/Utf8.h"
 
 namespace nascor::scripting {
 namespace {
@@ -32,8 +33,7 @@ std::string logText(const std::string& text) {
   constexpr std::size_t kLongest = 200;
   std::size_t characters = 0;
   for (std::size_t i = 0; i < text.size(); ++i) {
-    const bool isWithin = (static_cast<unsigned char>(text[i]) & 0xC0U) == 0x80U;
-    if (!isWithin && ++characters > kLongest) return text.substr(0, i) + "...";
+    if (!foundation::continuesCodePoint(text[i]) && ++characters > kLongest) return text.substr(0, i) + "...";
   }
   return text;
 }

@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
+#include <string>
+
 namespace nascor::foundation {
 namespace {
 
@@ -24,6 +27,52 @@ TEST(TheLastCharacter, isWhatAReaderCountsAsOne) {
   EXPECT_EQ(shortened("x\xF0\x9F\x91\xA9\xE2\x80\x8D\xF0\x9F\x91\xB6"), "x") << "two signs joined";
   EXPECT_EQ(shortened("x\xF0\x9F\x87\xA6\xF0\x9F\x87\xBA"), "x") << "a flag";
   EXPECT_EQ(shortened("\xCC\x81"), "") << "an accent by itself";
+}
+
+TEST(CodePoints, areCountedByTheirFirstBytes) {
+  EXPECT_EQ(codePoints(""), 0U);
+  EXPECT_EQ(codePoints("a\u00E9\u20AC\U0001F476"), 4U);
+  EXPECT_EQ(codePoints("e\u0301"), 2U) << "a letter and its accent";
+}
+
+TEST(CodePoints, areDecodedFromOneToFourBytes) {
+  EXPECT_EQ(decoded("a"), U'a');
+  EXPECT_EQ(decoded("\u00E9"), U'\u00E9');
+  EXPECT_EQ(decoded("\u20AC"), U'\u20AC');
+  EXPECT_EQ(decoded("\U0001F476"), U'\U0001F476');
+  EXPECT_EQ(decoded("\xF4\x8F\xBF\xBF"), char32_t{0x10FFFF});
+}
+
+TEST(ALengthInBytes, partsNoCodePoint) {
+  EXPECT_EQ(lengthWithin("", 0), 0U);
+  EXPECT_EQ(lengthWithin("abc", 0), 0U);
+  EXPECT_EQ(lengthWithin("abc", 2), 2U);
+  EXPECT_EQ(lengthWithin("abc", 4), 3U);
+  for (const std::size_t most : {1, 2, 3, 4}) EXPECT_EQ(lengthWithin("a\U0001F476b", most), 1U) << most;
+  EXPECT_EQ(lengthWithin("a\U0001F476b", 5), 5U);
+  EXPECT_EQ(lengthWithin("\u20AC", 2), 0U);
+  EXPECT_EQ(lengthWithin(std::string(10, '\x80'), 8), 5U) << "bytes that are no UTF-8";
+}
+
+TEST(ADirectionMark, isNeitherBlankNorLetter) {
+  for (const char32_t mark : U"\u061C\u200E\u200F\u202A\u202B\u202C\u202D\u202E\u2066\u2067\u2068\u2069") {
+    EXPECT_EQ(isDirectionMark(mark), mark != U'\0') << static_cast<std::uint32_t>(mark);
+  }
+  for (const char32_t other : U"\u061B\u061D\u200B\u200D\u2010\u2028\u2029\u202F\u2065\u206A\uFEFF") {
+    EXPECT_FALSE(isDirectionMark(other)) << static_cast<std::uint32_t>(other);
+  }
+}
+
+TEST(TheCodeOfTheUnseen, isOfOneWholeCharacterThatShowsNothingOfItsOwn) {
+  constexpr char32_t kSeen = 0xFFFD;
+  EXPECT_EQ(codeOfUnseen("\n"), char32_t{0x0A});
+  EXPECT_EQ(codeOfUnseen("\x7F"), char32_t{0x7F});
+  EXPECT_EQ(codeOfUnseen("\xC2\x9F"), char32_t{0x9F});
+  EXPECT_EQ(codeOfUnseen("\u2028"), char32_t{0x2028});
+  EXPECT_EQ(codeOfUnseen("\u202E"), char32_t{0x202E});
+  for (const std::string_view other : {"", "a", "\xC2\xA0", "\u2010", "\n\n", "\x80", "\xC0\x80"}) {
+    EXPECT_EQ(codeOfUnseen(other), kSeen) << other;
+  }
 }
 
 std::string beginning(std::string_view text, std::size_t most) {

@@ -10,6 +10,7 @@
 #include "cli_commands/Table.h"
 #include "foundation/IsoDate.h"
 #include "foundation/NumberText.h"
+#include "foundation/Utf8.h"
 #include "posix/PosixCalendar.h"
 #include "posix/SystemClock.h"
 
@@ -166,12 +167,10 @@ void runDue(const Arguments& arguments, Console& console) {
 }
 
 void runSearch(const Arguments& arguments, Console& console) {
-  constexpr std::ptrdiff_t kLeast = 3;
+  constexpr std::size_t kLeast = 3;
   const std::string path = databaseOf(arguments);
   const std::string& text = arguments.operands.front();
-  const auto isFirstByte = [](char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U; };
-  if (std::ranges::count_if(text, isFirstByte) < kLeast)
-    refuseValue("TEXT", "three characters or more", text);
+  if (foundation::codePoints(text) < kLeast) refuseValue("TEXT", "three characters or more", text);
   const std::int64_t most = wholeNumberOf(arguments, "limit", kUsualMost);
   withDatabase(path, console, [&] {
     Answers answers(arguments, console);

@@ -17,6 +17,7 @@
 #include "foundation/IsoDate.h"
 #include "foundation/JsonText.h"
 #include "foundation/NumberText.h"
+#include "foundation/Utf8.h"
 
 namespace nascor::cli {
 
@@ -108,9 +109,7 @@ std::string_view expectedBy(Kind kind) {
 /// In quotation marks, on one line, and not longer than a reader wants.
 std::string inQuotes(std::string_view text) {
   constexpr std::size_t kLongest = 40;
-  std::size_t length = std::min(text.size(), kLongest);
-  while (length < text.size() && length > 0 && (static_cast<unsigned char>(text[length]) & 0xC0U) == 0x80U)
-    --length;
+  const std::size_t length = foundation::lengthWithin(text, kLongest);
   std::string result;
   foundation::JsonText(result).text(text.substr(0, length));
   if (length < text.size()) result.insert(result.size() - 1, "...");
@@ -248,8 +247,8 @@ class Receiver final : public nlohmann::json_sax<nlohmann::json> {
     const std::string_view before = source.substr(0, bytesRead == 0 ? 0 : bytesRead - 1);
     const auto lines = std::ranges::count(before, '\n');
     const std::string_view line = before.substr(before.rfind('\n') + 1);  // npos + 1 is 0
-    const auto characters = std::ranges::count_if(line, [](char byte) { return !continuesCharacter(byte); });
-    return "at line " + std::to_string(lines + 1) + ", column " + std::to_string(characters + 1) + ": ";
+    return "at line " + std::to_string(lines + 1) + ", column " +
+           std::to_string(foundation::codePoints(line) + 1) + ": ";
   }
 
  private:
@@ -423,8 +422,6 @@ class Receiver final : public nlohmann::json_sax<nlohmann::json> {
     }
     return std::nullopt;
   }
-
-  static bool continuesCharacter(char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U; }
 
   /// The library's reason without its own account of the place, and without what it read last and what follows that:
   /// the text may be long, and may look like the rest of the reason.

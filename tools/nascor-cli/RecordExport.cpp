@@ -1,5 +1,6 @@
 #include "cli_commands/RecordExport.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <set>
 #include <system_error>
@@ -9,6 +10,7 @@
 #include "cli_commands/Reports.h"
 #include "exchange/FhirBundle.h"
 #include "exchange/OutgoingExamination.h"
+#include "foundation/Utf8.h"
 #include "posix/PosixCalendar.h"
 #include "posix/PosixFileStore.h"
 
@@ -54,14 +56,12 @@ class Target {
 /// Why the reference ID cannot stand in a report; empty when it can.
 std::string faultOf(const std::string& patientID) {
   constexpr std::size_t kLongest = 64;
-  std::size_t characters = 0;
-  for (const char byte : patientID) {
-    const auto code = static_cast<unsigned char>(byte);
-    if (code < 0x20 || byte == '\\')
-      return "the reference ID has a character that a DICOM report cannot hold";
-    if ((code & 0xC0U) != 0x80U) ++characters;
-  }
-  return characters > kLongest ? "the reference ID is longer than the 64 characters of a DICOM report" : "";
+  const auto isRefused = [](char byte) { return static_cast<unsigned char>(byte) < 0x20 || byte == '\\'; };
+  if (std::ranges::any_of(patientID, isRefused))
+    return "the reference ID has a character that a DICOM report cannot hold";
+  return foundation::codePoints(patientID) > kLongest
+             ? "the reference ID is longer than the 64 characters of a DICOM report"
+             : "";
 }
 
 void writeReports(const std::string& file, const std::string& name,

@@ -2,16 +2,11 @@
 
 #include <algorithm>
 
+#include "foundation/Utf8.h"
+
 namespace nascor::cli {
 
-namespace {
-
-std::size_t codePoints(const std::string& text) {
-  return static_cast<std::size_t>(std::ranges::count_if(
-      text, [](char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U; }));
-}
-
-}  // namespace
+using foundation::codePoints;
 
 std::string inCapitals(std::string_view text) {
   std::string capitals(text);

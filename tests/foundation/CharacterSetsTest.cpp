@@ -1,4 +1,4 @@
-#include "model/CharacterSets.h"
+#include "foundation/CharacterSets.h"
 
 #include <gtest/gtest.h>
 
@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <string_view>
 
-namespace nascor::model {
+namespace nascor::foundation {
 namespace {
 
 enum class Kind { letter, punctuation, other };
@@ -115,4 +115,4 @@ TEST(Trimming, takesTheCharactersOfASetFromBothEndsOnly) {
 }
 
 }  // namespace
-}  // namespace nascor::model
+}  // namespace nascor::foundation

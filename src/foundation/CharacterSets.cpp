@@ -1,11 +1,13 @@
-#include "model/CharacterSets.h"
+#include "foundation/CharacterSets.h"
 
 #include <algorithm>
 #include <array>
 #include <iterator>
 #include <span>
 
-namespace nascor::model {
+#include "foundation/Utf8.h"
+
+namespace nascor::foundation {
 namespace {
 
 struct CodePointRange {
@@ -190,27 +192,12 @@ bool contains(std::span<const CodePointRange> ranges, char32_t point) {
   return after != ranges.begin() && point <= std::prev(after)->last;
 }
 
-bool isContinuation(char byte) { return (static_cast<unsigned char>(byte) & 0xC0) == 0x80; }
-
-/// The code point of one encoded character.
-char32_t decoded(std::string_view character) {
-  const auto lead = static_cast<unsigned char>(character.front());
-  if (character.size() == 1) return lead;
-  char32_t point = lead & (0x7FU >> character.size());
-  for (const char byte : character.substr(1)) point = point << 6 | (static_cast<unsigned char>(byte) & 0x3FU);
-  return point;
+std::string_view firstCodePoint(std::string_view text) {
+  return text.substr(0, std::max<std::size_t>(characterLength(text), 1));
 }
 
-std::string_view firstCharacter(std::string_view text) {
-  std::size_t length = 1;
-  while (length < text.size() && isContinuation(text[length])) ++length;
-  return text.substr(0, length);
-}
-
-std::string_view lastCharacter(std::string_view text) {
-  std::size_t start = text.size() - 1;
-  while (start > 0 && isContinuation(text[start])) --start;
-  return text.substr(start);
+std::string_view lastCodePoint(std::string_view text) {
+  return text.substr(lengthWithin(text, text.size() - 1));
 }
 
 }  // namespace
@@ -220,13 +207,13 @@ bool isLetter(char32_t point) { return contains(kLetters, point); }
 bool isPunctuation(char32_t point) { return contains(kPunctuation, point); }
 
 std::string_view trimmed(std::string_view text, bool (*isTrimmed)(char32_t)) {
-  while (!text.empty() && isTrimmed(decoded(firstCharacter(text)))) {
-    text.remove_prefix(firstCharacter(text).size());
+  while (!text.empty() && isTrimmed(decoded(firstCodePoint(text)))) {
+    text.remove_prefix(firstCodePoint(text).size());
   }
-  while (!text.empty() && isTrimmed(decoded(lastCharacter(text)))) {
-    text.remove_suffix(lastCharacter(text).size());
+  while (!text.empty() && isTrimmed(decoded(lastCodePoint(text)))) {
+    text.remove_suffix(lastCodePoint(text).size());
   }
   return text;
 }
 
-}  // namespace nascor::model
+}  // namespace nascor::foundation

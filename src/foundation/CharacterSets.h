@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-namespace nascor::model {
+namespace nascor::foundation {
 
 /// Letters of all scripts, with the marks that combine with them (Unicode general categories L and M).
 bool isLetter(char32_t point);
@@ -13,4 +13,4 @@ bool isPunctuation(char32_t point);
 /// `text`, valid UTF-8, without the characters at both ends that `isTrimmed` accepts.
 std::string_view trimmed(std::string_view text, bool (*isTrimmed)(char32_t));
 
-}  // namespace nascor::model
+}  // namespace nascor::foundation
