@@ -33,11 +33,8 @@ inline constexpr std::int64_t kLeastGravida = 0;
 inline constexpr std::int64_t kFewestFetuses = 1;
 inline constexpr std::int64_t kMostFetuses = 5;
 
-/// The days from the EDD at which delivery can be planned: from the first day of the pregnancy to a week after the
-/// EDD, or to the EDD itself under the standard that ends there.
-constexpr EditingBounds plannedDeliveryDays(std::int64_t standard) {
-  constexpr std::int64_t kCFEF = 3;
-  return {.least = -280.0, .greatest = standard == kCFEF ? 0.0 : 7.0};
-}
+/// The days from the EDD at which delivery can be planned: from the first day of the pregnancy to the last day of the
+/// growth standard, or, for an unknown one, to a week after the EDD.
+EditingBounds plannedDeliveryDays(std::int64_t standard);
 
 }  // namespace nascor::calc

@@ -73,8 +73,8 @@ double estimatedFetalWeightShepard(const Biometry& measured) {
          1000.0;
 }
 
-std::span<const WeightFormula, 8> weightFormulas() {
-  static constexpr std::array<WeightFormula, 8> kFormulas{{
+std::span<const WeightFormula, kWeightFormulaCount> weightFormulas() {
+  static constexpr std::array<WeightFormula, kWeightFormulaCount> kFormulas{{
       {"Hadlock 1 (HC/AC/FL)", "Hadlock 1", "hadlock1", 0.074, estimatedFetalWeightHadlock1},
       {"Hadlock 2 (AC/FL)", "Hadlock 2", "hadlock2", 0.077, estimatedFetalWeightHadlock2},
       {"Hadlock 3 (BPD/AC/FL)", "Hadlock 3", "hadlock3", 0.073, estimatedFetalWeightHadlock3},

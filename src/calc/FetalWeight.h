@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <span>
 #include <string>
@@ -10,7 +11,7 @@
 
 namespace nascor::calc {
 
-// Estimated fetal weight: eight published regressions. Each takes millimetres and gives grams, and returns 0.0
+// Estimated fetal weight: published regressions. Each takes millimetres and gives grams, and returns 0.0
 // ("no weight") as soon as a length that it needs is exactly 0.0. Nothing else is checked: negative or huge values
 // are evaluated as they stand. Lengths that a formula does not use may be missing. The terms and the conversions to
 // centimetres stand in one fixed order, because the order decides the last bit.
@@ -36,10 +37,12 @@ struct WeightFormula {
   double (*weight)(const Biometry&);
 };
 
-/// The eight formulas; a formula's place is its identifier.
-std::span<const WeightFormula, 8> weightFormulas();
+inline constexpr std::size_t kWeightFormulaCount = 8;
 
-/// The formula of an identifier, null for one outside 0 to 7. Documents keep unknown identifiers unchanged.
+/// All formulas; a formula's place is its identifier.
+std::span<const WeightFormula, kWeightFormulaCount> weightFormulas();
+
+/// The formula of an identifier, null for an unknown one. Documents keep unknown identifiers unchanged.
 const WeightFormula* weightFormula(std::int64_t fetalWeightStandard);
 
 /// The weight in grams by the formula of that identifier; 0.0 for an unknown one.

@@ -3,10 +3,10 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <utility>
 
 #include "calc/Centile.h"
 #include "calc/LookUp.h"
-#include "calc/Standards.h"
 #include "foundation/Localizer.h"
 
 namespace nascor::calc {
@@ -381,12 +381,14 @@ std::optional<double> Population::valueAtCentile(double percent) const {
   return std::visit([percent](const auto& kind) { return valueOfCentile(kind, percent); }, kind_);
 }
 
-std::span<const Reference, 8> references() {
+namespace {
+
+template <std::size_t... Standards>
+std::array<Reference, kReferenceCount> allReferences(std::index_sequence<Standards...>) {
   constexpr std::string_view kNormal =
       translatable("References", "Lengths measured as the publication has it; normal about the mean");
-  static const std::array<Reference, 8> kReferences{
-      {standardReference<0>(kNormal), standardReference<1>(kNormal), standardReference<2>(kNormal),
-       standardReference<3>(kNormal),
+  return {
+      {standardReference<Standards>(kNormal)...,
        curveReference<intergrowth2014Median, 14, 40>(
            {.name = "intergrowth-2014",
             .label = "INTERGROWTH-21st (2014)",
@@ -421,6 +423,12 @@ std::span<const Reference, 8> references() {
                                     "No distribution: between the curves of eleven centiles linear in the "
                                     "value, beyond the 1st and the 99th unknown"),
             .population = whoPopulation})}};
+}
+
+}  // namespace
+
+std::span<const Reference, kReferenceCount> references() {
+  static const auto kReferences = allReferences(std::make_index_sequence<kGrowthStandardCount>());
   return kReferences;
 }
 

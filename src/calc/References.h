@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <span>
@@ -9,6 +10,7 @@
 #include <variant>
 
 #include "calc/Biometry.h"
+#include "calc/Standards.h"
 
 namespace nascor::calc {
 
@@ -111,8 +113,11 @@ struct Reference {
   std::optional<double> (*weekOfMedian)(Quantity quantity, double value) = nullptr;
 };
 
-/// The references, the four growth standards first, each in the place of its identifier.
-std::span<const Reference, 8> references();
+/// The growth standards, which come first, and four more.
+inline constexpr std::size_t kReferenceCount = kGrowthStandardCount + 4;
+
+/// The references, the growth standards first, each in the place of its identifier.
+std::span<const Reference, kReferenceCount> references();
 
 /// The growth standard of that identifier, as a reference; null for an unknown one.
 const Reference* referenceOfStandard(std::int64_t standard);
@@ -126,12 +131,12 @@ bool tellsOf(const Reference& reference, Quantity quantity);
 /// Whether an age in weeks lies within the weeks of `reference`; both ends do, NaN does not.
 bool reaches(const Reference& reference, double week);
 
-/// The population at that age; nothing outside the weeks of `reference`, which are never extrapolated, and for a quantity of
-/// which it does not tell.
+/// The population at that age; nothing outside the weeks of `reference`, which are never extrapolated, and for a quantity that
+/// it does not cover.
 std::optional<Population> populationAt(const Reference& reference, Quantity quantity, double week);
 
 /// The age, in weeks, of which `value` is the median, the youngest where there are two. Nothing for a value below that of
-/// the first week or above all medians, and for a quantity of which `reference` does not tell.
+/// the first week or above all medians, and for a quantity that `reference` does not cover.
 std::optional<double> weekOfMedian(const Reference& reference, Quantity quantity, double value);
 
 }  // namespace nascor::calc

@@ -61,7 +61,7 @@ MeanAndSD schluter(Measurement measurement, double w) {
 // and 40 weeks) and must stay as they are.
 
 constexpr int kFirstCFEFWeek = 16;
-constexpr std::array<std::array<MeanAndSD, 4>, 25> kCFEF{{
+constexpr std::array<std::array<MeanAndSD, 4>, 25> kCFEFWeeks{{
     //  BPD              HC                AC              FL
     {{{34.53, 2.275}, {120.86, 7.625}, {106.4, 7.6}, {19.95, 2.115}}},     // 16
     {{{38.12, 2.375}, {134.49, 7.95}, {118.0, 8.0}, {23.12, 2.205}}},      // 17
@@ -100,19 +100,19 @@ DatabaseRecord westerwayRow(Measurement measurement, int week) { return row(west
 DatabaseRecord hadlockRow(Measurement measurement, int week) { return row(hadlock, measurement, week); }
 DatabaseRecord schluterRow(Measurement measurement, int week) { return row(schluter, measurement, week); }
 DatabaseRecord cfefRow(Measurement measurement, int week) {
-  const auto& [mean, sd] =
-      kCFEF.at(static_cast<std::size_t>(week - kFirstCFEFWeek)).at(static_cast<std::size_t>(measurement));
+  const auto& [mean, sd] = kCFEFWeeks.at(static_cast<std::size_t>(week - kFirstCFEFWeek))
+                               .at(static_cast<std::size_t>(measurement));
   return DatabaseRecord::initWithData(week, mean, sd);
 }
 
 }  // namespace
 
-std::span<const GrowthStandard, 4> growthStandards() {
-  static constexpr std::array<GrowthStandard, 4> kStandards{{
+std::span<const GrowthStandard, kGrowthStandardCount> growthStandards() {
+  static constexpr std::array<GrowthStandard, kGrowthStandardCount> kStandards{{
       {"Westerway (ASUM 2001)", "westerway", 11, 41, westerwayRow},
       {"Hadlock (1984)", "hadlock", 12, 40, hadlockRow},
       {"Schluter (2004)", "schluter", 11, 41, schluterRow},
-      {"CFEF (Biométrie 2000)", "cfef", kFirstCFEFWeek, 40, cfefRow},
+      {"CFEF (Biométrie 2000)", "cfef", kFirstCFEFWeek, 40, cfefRow, 0.0},
   }};
   return kStandards;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <span>
 #include <string>
@@ -47,6 +48,8 @@ class DatabaseRecord {
 /// Rows by increasing menstrual age, one per whole week, no gaps. May be empty.
 using ReferenceTable = std::vector<DatabaseRecord>;
 
+inline constexpr double kUsualLastDeliveryDay = 7.0;
+
 /// A published growth standard: mean and standard deviation of each length by whole week.
 /// The citations are in docs/sources.md, under the label of each standard.
 struct GrowthStandard {
@@ -56,12 +59,19 @@ struct GrowthStandard {
   int lastWeek;
   /// The row of a week from `firstWeek` to `lastWeek`.
   DatabaseRecord (*row)(Measurement measurement, int week);
+  /// The last day, counted from the EDD, at which delivery can be planned under this standard.
+  double lastDeliveryDay = kUsualLastDeliveryDay;
 };
 
-/// The four standards; a standard's place is its identifier.
-std::span<const GrowthStandard, 4> growthStandards();
+/// The identifiers, as documents store them: places in `growthStandards()`.
+enum GrowthStandardIdentifier : std::int64_t { kASUM, kHadlock, kSchluter, kCFEF };
 
-/// The standard of an identifier, null for one outside 0 to 3. Documents keep unknown identifiers unchanged.
+inline constexpr std::size_t kGrowthStandardCount = 4;
+
+/// All standards; a standard's place is its identifier.
+std::span<const GrowthStandard, kGrowthStandardCount> growthStandards();
+
+/// The standard of an identifier, null for an unknown one. Documents keep unknown identifiers unchanged.
 const GrowthStandard* growthStandard(std::int64_t standard);
 
 /// Appends the rows of `standard` for `measurement`; appends nothing for an unknown identifier.

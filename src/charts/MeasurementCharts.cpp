@@ -9,12 +9,6 @@
 #include "foundation/NumberText.h"
 
 namespace nascor::charts {
-namespace {
-
-/// Identifiers of the growth standards, as the builders' names give them.
-enum StandardIdentifier : std::int64_t { kASUM = 0, kHadlock = 1, kSchluter = 2, kCFEF = 3 };
-
-}  // namespace
 
 void NoXaxisGraphView::setGraphRect(const framework::Rect& rect) {
   NascorGraphView::setGraphRect(
@@ -86,13 +80,9 @@ const model::MeasurementsRecord* TitledGraphView::measurementsForFetus(std::uint
                           : nullptr;
 }
 
-void MeasurementGraphView::initASUMStandards() { calc::appendStandard(table(), kASUM, measurement_); }
-
-void MeasurementGraphView::initHadlockStandards() { calc::appendStandard(table(), kHadlock, measurement_); }
-
-void MeasurementGraphView::initSchluterStandards() { calc::appendStandard(table(), kSchluter, measurement_); }
-
-void MeasurementGraphView::initCFEFStandards() { calc::appendStandard(table(), kCFEF, measurement_); }
+void MeasurementGraphView::appendStandard(std::int64_t standard) {
+  calc::appendStandard(table(), standard, measurement_);
+}
 
 double MeasurementGraphView::valueForFetus(std::uint64_t fetus, std::uint64_t exam) const {
   const model::MeasurementsRecord* measured = measurementsForFetus(fetus, exam);

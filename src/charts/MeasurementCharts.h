@@ -131,10 +131,7 @@ class MeasurementGraphView : public TitledGraphView {
                        const ChartFacts& facts)
       : TitledGraphView(services, facts), measurement_(measurement) {}
 
-  void initASUMStandards() override;
-  void initHadlockStandards() override;
-  void initSchluterStandards() override;
-  void initCFEFStandards() override;
+  void appendStandard(std::int64_t standard) override;
   double valueForFetus(std::uint64_t fetus, std::uint64_t exam) const override;
 
  private:

@@ -35,13 +35,7 @@ void NascorGraphView::resetStandards() {
       document ? document->standard()
                : foundation::integerForKey(services().defaults, foundation::defaults_key::standard);
   table().clear();
-  switch (standard) {
-    case 0: initASUMStandards(); break;
-    case 1: initHadlockStandards(); break;
-    case 2: initSchluterStandards(); break;
-    case 3: initCFEFStandards(); break;
-    default: break;
-  }
+  appendStandard(standard);
   setReferenceTitle(calc::growthStandardTitle(standard, services().localizer));
   services().notifications.post(NotificationName::updateStandardsForEFW, this);
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstdint>
+
 #include "calc/Standards.h"
 #include "charts/ChartDocument.h"
 #include "foundation/NotificationCenter.h"
@@ -25,12 +27,14 @@ class UpdatingGraphView : public framework::CorvelGraphView {
   /// Empties and rebuilds the table for the standard in force. Empty here.
   virtual void resetStandards() {}
 
-  /// @name Append the rows of one standard to the table. Empty here.
+  /// Appends the rows of the growth standard of that identifier to the table; none for an unknown one. Empty here.
+  virtual void appendStandard(std::int64_t /*standard*/) {}
+  /// @name The same by the name of each standard
   /// @{
-  virtual void initASUMStandards() {}
-  virtual void initHadlockStandards() {}
-  virtual void initSchluterStandards() {}
-  virtual void initCFEFStandards() {}
+  void initASUMStandards() { appendStandard(calc::kASUM); }
+  void initHadlockStandards() { appendStandard(calc::kHadlock); }
+  void initSchluterStandards() { appendStandard(calc::kSchluter); }
+  void initCFEFStandards() { appendStandard(calc::kCFEF); }
   /// @}
 
  protected:

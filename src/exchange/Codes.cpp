@@ -2,7 +2,11 @@
 
 #include <algorithm>
 
+#include "calc/FetalWeight.h"
+
 namespace nascor::exchange {
+
+static_assert(kWeightEquations.size() == calc::kWeightFormulaCount);
 
 namespace {
 

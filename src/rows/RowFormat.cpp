@@ -193,7 +193,7 @@ void RowFormat::appendText(std::string& out, std::string_view text) const {
 }
 
 void RowFormat::appendWarning(std::string& out, const Row& row) const {
-  std::array<StandardInUse, 5> standards;
+  std::array<StandardInUse, calc::kGrowthStandardCount> standards;
   std::size_t count = 0;
   std::string beyond;
   for (const std::int64_t identifier : standards_) {

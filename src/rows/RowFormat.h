@@ -85,11 +85,12 @@ class RowFormat {
 
   std::vector<Column> columns_;
   Settings settings_;
-  std::vector<std::string> prefixes_;                          // what stands before each cell
-  std::vector<Reference> references_;                          // those that the columns need
-  std::vector<std::size_t> referenceOf_;                       // by column
-  std::vector<std::int64_t> standards_;                        // of the columns, each once
-  std::array<std::array<calc::ReferenceTable, 4>, 4> tables_;  // by standard and measurement
+  std::vector<std::string> prefixes_;     // what stands before each cell
+  std::vector<Reference> references_;     // those that the columns need
+  std::vector<std::size_t> referenceOf_;  // by column
+  std::vector<std::int64_t> standards_;   // of the columns, each once
+  std::array<std::array<calc::ReferenceTable, 4>, calc::kGrowthStandardCount>
+      tables_;  // by standard and measurement
 };
 
 /// Appends a cell of CSV: in quotation marks where it holds a comma, a quotation mark or the end of a line.

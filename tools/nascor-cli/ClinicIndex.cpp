@@ -339,7 +339,8 @@ class ClinicIndex::Update {
   std::string folder_;
   const Complain& complain_;
   posix::PosixCalendar calendar_;
-  std::array<std::array<calc::ReferenceTable, 4>, 4> tables_;  // by standard and measurement
+  std::array<std::array<calc::ReferenceTable, 4>, calc::kGrowthStandardCount>
+      tables_;  // by standard and measurement
   Statement known_;
   bool hasKnown_ = false;
   Statement forgetTexts_;
