@@ -27,6 +27,7 @@ inline constexpr int kInt64Tag = -121;
 
 /// A head byte from here up to 127 is its own value. Label and string number n is written as n + this.
 inline constexpr int kFirstNumber = -110;
+constexpr bool isNumber(int head) { return head >= kFirstNumber; }
 
 /// The number of an object, a class or a C string: all three are counted together, from 0, in order of
 /// appearance.

@@ -1,8 +1,10 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <stdexcept>
 #include <string>
+#include <string_view>
 
 namespace nascor::archive {
 
@@ -23,5 +25,11 @@ class FormatError : public std::runtime_error {
  private:
   std::size_t offset_;
 };
+
+/// Throws the error "expected `wanted`, but `instead`".
+[[noreturn]] void refuse(std::size_t offset, std::string_view wanted, const std::string& instead);
+
+/// "1 byte", "2 bytes": for messages.
+std::string counted(std::uint64_t number, std::string_view thing);
 
 }  // namespace nascor::archive

@@ -11,6 +11,7 @@
 #include <unordered_map>
 #include <vector>
 
+#include "archive/ByteReader.h"
 #include "archive/Encoding.h"
 #include "archive/FormatError.h"
 #include "archive/TypeString.h"
@@ -73,12 +74,12 @@ class TypedStreamReader {
   TypedStreamReader(const TypedStreamReader&) = delete;
   TypedStreamReader& operator=(const TypedStreamReader&) = delete;
 
-  ByteOrder byteOrder() const { return byteOrder_; }
+  ByteOrder byteOrder() const { return bytes_.order(); }
   std::int64_t systemVersion() const { return systemVersion_; }
 
   /// Where reading stopped: the bytes before the next one.
-  std::size_t offset() const { return position_; }
-  std::size_t bytesLeft() const { return bytes_.size() - position_; }
+  std::size_t offset() const { return bytes_.position(); }
+  std::size_t bytesLeft() const { return bytes_.left(); }
 
   /// @name Groups
   /// @{
@@ -159,32 +160,19 @@ class TypedStreamReader {
   };
 
   // `wanted` is what the caller expected, in words ("an object"), for the message.
-  [[noreturn]] static void refuse(std::size_t offset, std::string_view wanted, const std::string& instead);
-  std::span<const std::byte> take(std::uint64_t length, std::string_view wanted);
-  int peekHead(std::string_view wanted) const;
-  std::uint64_t takeFixed(std::size_t width, std::string_view wanted);
-  std::int64_t takeNumber(std::string_view wanted);
-  std::size_t takeNumberBelow(std::size_t limit, std::string_view thing, std::string_view wanted);
-  std::optional<std::string_view> takeUnshared(std::string_view wanted);
+  void readHeader();
+  std::size_t takeGroupTypes(std::string_view wanted);
   std::optional<std::size_t> takeShared(std::string_view wanted);
   Label takeLabel(LabelKind kind, std::string_view wanted);
   ClassValue takeClass(std::string_view wanted);
-  void readHeader();
-
-  bool plainTypeFollows(char code) const;
-  int headAt(std::size_t position) const { return std::to_integer<std::int8_t>(bytes_[position]); }
-  template <class Bits>
-  Bits fixedAt(std::size_t position) const;
   ObjectValue objectThatIsDue(bool isOfItsGroup);
+  bool plainTypeFollows(char code) const;
 
-  std::size_t takeGroupTypes(std::string_view wanted);
   const TypeNode& dueOf(std::string_view codes, std::string_view wanted) const;
   void checkDepth() const;
   std::string describeLabel(Label label) const;
 
-  std::span<const std::byte> bytes_;
-  std::size_t position_ = 0;
-  ByteOrder byteOrder_ = ByteOrder::little;
+  ByteReader bytes_;
   std::int64_t systemVersion_ = 0;
   ValueWalk walk_;
   std::deque<SharedString> strings_;  // a deque, since the walk points into it while it grows

@@ -1,0 +1,74 @@
+#include "archive/ByteReader.h"
+
+#include <string>
+
+#include "archive/TypeString.h"
+
+namespace nascor::archive {
+namespace {
+
+/// A head that begins no number, in words.
+std::string describeTag(int head) {
+  switch (head) {
+    case kRealTag: return "a real";
+    case kNewTag: return "the mark of something new";
+    case kNilTag: return "nil";
+    case kEndTag: return "the end of an object";
+    default: return "the meaningless byte " + inQuotes(std::string(1, static_cast<char>(head)));
+  }
+}
+
+}  // namespace
+
+std::span<const std::byte> ByteReader::takeBytes(std::uint64_t length, std::string_view wanted) {
+  if (length > left()) {
+    refuse(position_, wanted,
+           left() == 0
+               ? "the file ends here"
+               : "only " + std::to_string(left()) + " of its " + counted(length, "byte") + " are left");
+  }
+  const auto taken = bytes_.subspan(position_, static_cast<std::size_t>(length));
+  position_ += taken.size();
+  return taken;
+}
+
+std::int64_t ByteReader::takeNumber(std::string_view wanted) {
+  const int tag = head(wanted);
+  const std::size_t begin = position_++;
+  switch (tag) {
+    case kInt16Tag: return static_cast<std::int16_t>(takeFixed<std::uint16_t>(wanted));
+    case kInt32Tag: return static_cast<std::int32_t>(takeFixed<std::uint32_t>(wanted));
+    case kInt64Tag: return static_cast<std::int64_t>(takeFixed<std::uint64_t>(wanted));
+    default: break;
+  }
+  if (!isNumber(tag)) refuse(begin, wanted, describeTag(tag) + " stands here");
+  return tag;
+}
+
+std::size_t ByteReader::takeNumberOf(std::string_view thing, std::size_t known, std::string_view wanted) {
+  const std::size_t begin = position_;
+  const std::int64_t stored = takeNumber(wanted);
+  // Unsigned, so that it wraps where a signed number would overflow.
+  const std::uint64_t number = static_cast<std::uint64_t>(stored) - static_cast<std::uint64_t>(kFirstNumber);
+  if (number >= known) {
+    refuse(begin, wanted,
+           std::string(thing) + " " +
+               (stored < 0 ? std::to_string(static_cast<std::int64_t>(number)) : std::to_string(number)) +
+               " is outside the " + std::to_string(known) + " given so far");
+  }
+  return static_cast<std::size_t>(number);
+}
+
+std::optional<std::string_view> ByteReader::takeText(std::string_view wanted) {
+  if (head(wanted) == kNilTag) {
+    ++position_;
+    return std::nullopt;
+  }
+  const std::size_t begin = position_;
+  const std::int64_t length = takeNumber(wanted);
+  if (length < 0) refuse(begin, wanted, "its length is " + std::to_string(length));
+  const auto text = takeBytes(static_cast<std::uint64_t>(length), wanted);
+  return std::string_view(reinterpret_cast<const char*>(text.data()), text.size());
+}
+
+}  // namespace nascor::archive

@@ -1,0 +1,83 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <string_view>
+
+#include "archive/Encoding.h"
+#include "archive/FormatError.h"
+
+namespace nascor::archive {
+
+/// The bytes of a typed stream from the first to the last: runs of bytes, numbers of two, four and eight bytes in the
+/// stream's order, and heads, the bytes that begin most values and say how they go on. Knows neither types nor objects.
+///
+/// In each function `wanted` is what the caller expects, in words ("an object"). Where that does not stand, or not all of
+/// it, FormatError says so. Nothing past the end is read. The bytes must outlive the reader and the texts that it gives.
+class ByteReader {
+ public:
+  explicit ByteReader(std::span<const std::byte> bytes) : bytes_(bytes) {}
+
+  ByteOrder order() const { return order_; }
+  /// Little before the first call.
+  void setOrder(ByteOrder order) { order_ = order; }
+
+  /// The bytes before the next one.
+  std::size_t position() const { return position_; }
+  std::size_t left() const { return bytes_.size() - position_; }
+
+  /// The next head, which stays the next.
+  int head(std::string_view wanted) const {
+    if (left() == 0) refuse(position_, wanted, "the file ends here");
+    return headAhead(0);
+  }
+  /// Whether the next byte is this head; then it is taken. False at the end of the file.
+  bool tookHead(int head) {
+    const bool isNext = left() > 0 && headAhead(0) == head;
+    position_ += isNext ? 1 : 0;
+    return isNext;
+  }
+
+  std::span<const std::byte> takeBytes(std::uint64_t length, std::string_view wanted);
+  /// The next bytes as a number of that many, in the stream's order.
+  template <class Bits>
+  Bits takeFixed(std::string_view wanted) {
+    takeBytes(sizeof(Bits), wanted);
+    return fixedBehind<Bits>();
+  }
+  /// A number in whichever form it stands: its head alone, or a tag and two, four or eight bytes.
+  std::int64_t takeNumber(std::string_view wanted);
+  /// The number, counted from 0, of one of the `known` things that stood earlier. `thing` names one: "label".
+  std::size_t takeNumberOf(std::string_view thing, std::size_t known, std::string_view wanted);
+  /// A length and that many bytes; empty for nil.
+  std::optional<std::string_view> takeText(std::string_view wanted);
+
+  // The same without a look at the end: the caller has made sure that as many bytes are left.
+
+  /// The head that stands `bytes` further on.
+  int headAhead(std::size_t bytes) const { return std::to_integer<std::int8_t>(bytes_[position_ + bytes]); }
+  void pass(std::size_t bytes) { position_ += bytes; }
+  std::string_view takeText(std::size_t length) {
+    pass(length);
+    return {reinterpret_cast<const char*>(bytes_.data()) + position_ - length, length};
+  }
+  /// The bytes passed last, as a number.
+  template <class Bits>
+  Bits fixedBehind() const {
+    Bits bits = 0;
+    for (std::size_t i = 0; i < sizeof bits; ++i) {
+      const std::size_t place = order_ == ByteOrder::big ? sizeof bits - 1 - i : i;
+      bits |= static_cast<Bits>(std::to_integer<Bits>(bytes_[position_ - sizeof bits + place]) << (8 * i));
+    }
+    return bits;
+  }
+
+ private:
+  std::span<const std::byte> bytes_;
+  std::size_t position_ = 0;
+  ByteOrder order_ = ByteOrder::little;
+};
+
+}  // namespace nascor::archive
