@@ -6,15 +6,15 @@
 #include <string>
 #include <string_view>
 
-#include "cli_commands/PatientJsonReader.h"
 #include "foundation/JsonText.h"
 #include "model/PatientFile.h"
 #include "model/PatientJson.h"
+#include "model/PatientJsonReader.h"
 #include "posix/PosixCalendar.h"
 
 namespace {
 
-using nascor::cli::patientFromJson;
+using nascor::model::patientFromJson;
 
 void require(bool holds) {
   if (!holds) std::abort();
@@ -44,7 +44,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const auto again = patientFromJson(json, kCalendar);
     require(again.warnings.empty());
     require(nascor::model::archivedPatient(*again.patient) == bytes);
-  } catch (const nascor::cli::JsonDocumentError& error) {
+  } catch (const nascor::model::JsonDocumentError& error) {
     const std::string_view sentence(error.what());
     require(sentence.starts_with("at ") && sentence.find('\n') == std::string_view::npos &&
             sentence.size() < 1000);

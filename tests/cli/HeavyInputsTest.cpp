@@ -6,7 +6,6 @@
 #include <string>
 
 #include "archive/FormatError.h"
-#include "cli_commands/PatientJsonReader.h"
 #include "foundation/IsoDate.h"
 #include "foundation/JsonText.h"
 #include "foundation/LeadingInteger.h"
@@ -15,6 +14,7 @@
 #include "foundation/ShortDate.h"
 #include "foundation/Utf8.h"
 #include "model/PatientFile.h"
+#include "model/PatientJsonReader.h"
 #include "posix/PosixCalendar.h"
 #include "support/HeavyDocuments.h"
 #include "support/Spent.h"
@@ -55,8 +55,9 @@ TEST(AMebibyteOfText, isReadOrRefusedAtOnceByWhateverReadsTexts) {
     expectQuick(name + " as an ISO date", [&] { static_cast<void>(dateFromIsoText(text, calendar)); });
     expectQuick(name + " as an old gravidity", [&] { static_cast<void>(model::gravidaFromOldText(text)); });
     expectQuick(name + " as a line", [&] { static_cast<void>(foundation::shownLine(text)); });
-    expectQuick(name + " as JSON",
-                [&] { EXPECT_THROW(static_cast<void>(patientFromJson(text, calendar)), JsonDocumentError); });
+    expectQuick(name + " as JSON", [&] {
+      EXPECT_THROW(static_cast<void>(model::patientFromJson(text, calendar)), model::JsonDocumentError);
+    });
     expectQuick(name + " as a file", [&] {
       EXPECT_THROW(static_cast<void>(model::unarchivedPatient(std::as_bytes(std::span(text)))),
                    archive::FormatError);
@@ -66,7 +67,7 @@ TEST(AMebibyteOfText, isReadOrRefusedAtOnceByWhateverReadsTexts) {
     std::string note = "{\"maternalIDString\":";
     foundation::JsonText(note).text(std::string_view(text).substr(0, kMebibyte / kLongestEscape));
     note += '}';
-    expectQuick(name + " within JSON", [&] { static_cast<void>(patientFromJson(note, calendar)); });
+    expectQuick(name + " within JSON", [&] { static_cast<void>(model::patientFromJson(note, calendar)); });
   }
 }
 

@@ -5,8 +5,8 @@
 #include "cli_commands/Command.h"
 #include "cli_commands/Documents.h"
 #include "cli_commands/Input.h"
-#include "cli_commands/PatientJsonReader.h"
 #include "model/PatientJson.h"
+#include "model/PatientJsonReader.h"
 #include "posix/PosixCalendar.h"
 #include "posix/PosixFileStore.h"
 
@@ -35,11 +35,11 @@ void runMake(const Arguments& arguments, Console& console) {
   const auto contents = contentsOf(path, console);
   if (!contents) return;
 
-  PatientFromJson document;
+  model::PatientFromJson document;
   try {
     const std::string_view text(reinterpret_cast<const char*>(contents->data()), contents->size());
-    document = patientFromJson(text, posix::PosixCalendar());
-  } catch (const JsonDocumentError& error) {
+    document = model::patientFromJson(text, posix::PosixCalendar());
+  } catch (const model::JsonDocumentError& error) {
     console.complain(nameOf(path), error.what());
     return;
   }

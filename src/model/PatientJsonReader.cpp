@@ -1,4 +1,4 @@
-#include "cli_commands/PatientJsonReader.h"
+#include "model/PatientJsonReader.h"
 
 #include <algorithm>
 #include <array>
@@ -19,14 +19,11 @@
 #include "foundation/NumberText.h"
 #include "foundation/Utf8.h"
 
-namespace nascor::cli {
+namespace nascor::model {
 
 namespace {
 
 using foundation::Date;
-using model::MeasurementsRecord;
-using model::NCRecord;
-using model::PatientRecord;
 
 /// What the reader stands in: the next value belongs to it.
 enum class Place { top, patient, examinations, examination, measurements, fetus };
@@ -85,12 +82,12 @@ constexpr std::array kFetusFields{
     Field{"fl", Key::fl, Kind::number},
 };
 
+/// Of an object.
 std::span<const Field> fieldsOf(Place place) {
   switch (place) {
     case Place::patient: return kPatientFields;
     case Place::examination: return kExaminationFields;
-    case Place::fetus: return kFetusFields;
-    default: return {};
+    default: return kFetusFields;
   }
 }
 
@@ -101,9 +98,8 @@ std::string_view expectedBy(Kind kind) {
     case Kind::dateText: return "an ISO date or null";
     case Kind::integer: return "a whole number";
     case Kind::number: return R"(a number, "nan", "inf" or "-inf")";
-    case Kind::list: return "a list";
+    default: return "a list";
   }
-  return "";
 }
 
 /// In quotation marks, on one line, and not longer than a reader wants.
@@ -244,7 +240,7 @@ class Receiver final : public nlohmann::json_sax<nlohmann::json> {
 
   /// `at line 3, column 14: `, from the number of bytes read so far; the last of them is the offending one.
   static std::string placeInText(std::string_view source, std::size_t bytesRead) {
-    const std::string_view before = source.substr(0, bytesRead == 0 ? 0 : bytesRead - 1);
+    const std::string_view before = source.substr(0, std::max<std::size_t>(bytesRead, 1) - 1);
     const auto lines = std::ranges::count(before, '\n');
     const std::string_view line = before.substr(before.rfind('\n') + 1);  // npos + 1 is 0
     return "at line " + std::to_string(lines + 1) + ", column " +
@@ -301,7 +297,8 @@ class Receiver final : public nlohmann::json_sax<nlohmann::json> {
 
   bool scalar(const Scalar& value) {
     const bool fits = field_ != nullptr && store(value);
-    return fits || (error_.empty() && unexpected(describe(value)));
+    if (!fits && error_.empty()) unexpected(describe(value));
+    return fits;
   }
 
   /// False when the value is not of the kind that the field holds.
@@ -315,9 +312,8 @@ class Receiver final : public nlohmann::json_sax<nlohmann::json> {
       }
       case Kind::integer: return storeInteger(value);
       case Kind::number: return storeNumber(value);
-      case Kind::list: break;
+      default: return false;
     }
-    return false;
   }
 
   bool storeText(const Scalar& value) {
@@ -428,8 +424,8 @@ class Receiver final : public nlohmann::json_sax<nlohmann::json> {
   static std::string inPlainWords(std::string_view reason) {
     reason = reason.substr(0, reason.find("; last read: "));
     if (reason.find("number overflow") != std::string_view::npos) return "this number is beyond 64 bits";
-    if (const auto dash = reason.find(" - "); dash != std::string_view::npos) reason.remove_prefix(dash + 3);
-    return std::string(reason);
+    constexpr std::string_view kDash = " - ";  // behind "syntax error while parsing value" and the like
+    return std::string(reason.substr(reason.find(kDash) + kDash.size()));
   }
 
   std::string_view source_;
@@ -463,4 +459,4 @@ PatientFromJson patientFromJson(std::string_view text, const foundation::Calenda
   return receiver.takeResult();
 }
 
-}  // namespace nascor::cli
+}  // namespace nascor::model

@@ -9,7 +9,7 @@
 #include "foundation/Calendar.h"
 #include "model/PatientRecord.h"
 
-namespace nascor::cli {
+namespace nascor::model {
 
 /// A text that is no document in JSON. `what()` is one sentence: the place (line and column where the JSON itself is
 /// broken, else a JSON pointer such as /examinations/2/measurements/0/bpd), what was expected and what stands there.
@@ -20,15 +20,15 @@ class JsonDocumentError : public std::runtime_error {
 };
 
 struct PatientFromJson {
-  std::unique_ptr<model::PatientRecord> patient;  ///< never null
+  std::unique_ptr<PatientRecord> patient;  ///< never null
   /// What a document's file cannot hold as it stands, a sentence each: whole numbers beyond 32 bits, numbers that are
   /// infinite in single precision.
   std::vector<std::string> warnings;
 };
 
-/// Reads what `json` prints (docs/json.md). A key may be missing; an unknown one, or one that stands twice, is an error.
+/// Reads what `writePatientJson` writes (docs/json.md). A key may be missing; an unknown one, or one that stands twice, is an error.
 /// The text must be UTF-8 and hold nothing but the document. Dates without a zone are local times of `calendar`.
 /// Throws JsonDocumentError.
 PatientFromJson patientFromJson(std::string_view text, const foundation::Calendar& calendar);
 
-}  // namespace nascor::cli
+}  // namespace nascor::model

@@ -1,4 +1,4 @@
-#include "cli_commands/PatientJsonReader.h"
+#include "model/PatientJsonReader.h"
 
 #include <gmock/gmock.h>
 
@@ -10,9 +10,9 @@
 namespace nascor::tests {
 namespace {
 
-using cli::JsonDocumentError;
-using cli::patientFromJson;
 using foundation::Date;
+using model::JsonDocumentError;
+using model::patientFromJson;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
@@ -285,6 +285,8 @@ INSTANTIATE_TEST_SUITE_P(
         RefusedCase{"isoAloneThatIsNoDate", R"({"examinations":[{"examDateISO":"soon"}]})",
                     "at /examinations/0/examDateISO: expected an ISO date or null, but the text \"soon\" "
                     "stands here"},
+        RefusedCase{"isoOfTheEddAloneThatIsNoDate", R"({"eddISO":"soon"})",
+                    "at /eddISO: expected an ISO date or null, but the text \"soon\" stands here"},
         RefusedCase{"isoThatIsANumber", R"({"edd":5,"eddISO":5})",
                     "at /eddISO: expected an ISO date or null, but 5 stands here"},
         RefusedCase{"longText", R"({"gravida":")" + std::string(100000, 'x') + "\"}",
