@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "calc/Biometry.h"
+#include "calc/References.h"
 #include "calc/Standards.h"
 #include "rows/Columns.h"
 
@@ -71,7 +72,8 @@ class RowFormat {
     double mean = 0.0;
     double sd = 0.0;
   };
-  static constexpr std::size_t kMostReferences = 24;
+  /// Those of the document's own standard, and each named.
+  static constexpr std::size_t kMostReferences = calc::kMeasurements.size() * (1 + calc::kReferenceCount);
 
   /// The place of the reference that is meant in a row; nothing for a document's own standard that is unknown.
   static std::optional<std::size_t> placeOf(std::int64_t standard, const Row& row);
