@@ -86,13 +86,8 @@ std::optional<std::string> CorvelDocument::exportPage(std::int64_t page, const s
       " - " + portableFileNameText(localizer.text(kWindowTable, tabView_.page(page).name()));
   const std::string extension = std::string(".").append(extensionOf(format));
   const std::string start = folder.ends_with('/') ? folder : folder + "/";
-  std::string path = start + fileNameEndingIn(name, pageName + extension);
-  for (int i = 2; services().files.exists(path); ++i) {
-    std::string ending = pageName;
-    ending.append(" (").append(std::to_string(i)).append(")").append(extension);
-    path = start;
-    path += fileNameEndingIn(name, ending);
-  }
+  const auto isTaken = [&](const std::string& fileName) { return services().files.exists(start + fileName); };
+  const std::string path = start + freeFileName(name, pageName, extension, isTaken);
 
   if (!environment_.pageWriter) {
     return path + ": " + localizer.text("CorvelDocument", "This program was built without painting.");

@@ -31,6 +31,17 @@ std::string fileNameEndingIn(std::string_view name, std::string_view ending) {
   return std::string(name.substr(0, foundation::lengthWithin(name, room))).append(ending);
 }
 
+std::string freeFileName(std::string_view name, std::string_view kept, std::string_view extension,
+                         const std::function<bool(const std::string&)>& isTaken) {
+  std::string free = fileNameEndingIn(name, std::string(kept).append(extension));
+  for (int i = 2; isTaken(free); ++i) {
+    std::string ending(kept);
+    ending.append(" (").append(std::to_string(i)).append(")").append(extension);
+    free = fileNameEndingIn(name, ending);
+  }
+  return free;
+}
+
 std::string fileName(std::string_view name, std::string_view extension) {
   return fileNameEndingIn(fileNameText(name), std::string(".").append(extension));
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -14,6 +15,11 @@ std::string portableFileNameText(std::string_view text);
 
 /// `name` and `ending`, as a file name of at most 255 bytes: a longer name loses whole characters at its end.
 std::string fileNameEndingIn(std::string_view name, std::string_view ending);
+
+/// `name`, `kept` and `extension` as `fileNameEndingIn` joins them, cutting `name` alone. Where that is taken, with the first
+/// of " (2)", " (3)", ... behind `kept` that is free.
+std::string freeFileName(std::string_view name, std::string_view kept, std::string_view extension,
+                         const std::function<bool(const std::string&)>& isTaken);
 
 /// A file name of `fileNameText(name)` and ".extension", of at most 255 bytes: a longer name loses whole characters at its
 /// end.

@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <set>
 #include <string>
+#include <string_view>
 
 namespace nascor::framework {
 namespace {
@@ -44,6 +46,20 @@ TEST(AFileName, isSafeOnEveryFileSystemWhereItIsToBe) {
 TEST(AFileName, keepsItsEndingWhole) {
   EXPECT_EQ(fileNameEndingIn("AB", " - x.pdf"), "AB - x.pdf");
   EXPECT_EQ(fileNameEndingIn(std::string(300, 'a'), " - x.pdf"), std::string(247, 'a') + " - x.pdf");
+}
+
+TEST(AFreeFileName, hasANumberOnlyWhereTheNameIsTaken) {
+  std::set<std::string> taken;
+  const auto free = [&](std::string_view name) {
+    return freeFileName(name, " - x", ".pdf", [&](const std::string& each) { return taken.contains(each); });
+  };
+  EXPECT_EQ(free("AB"), "AB - x.pdf");
+  taken = {"AB - x.pdf"};
+  EXPECT_EQ(free("AB"), "AB - x (2).pdf");
+  taken = {"AB - x.pdf", "AB - x (2).pdf", "AB - x (4).pdf"};
+  EXPECT_EQ(free("AB"), "AB - x (3).pdf");
+  taken = {std::string(247, 'a') + " - x.pdf"};
+  EXPECT_EQ(free(std::string(300, 'a')), std::string(243, 'a') + " - x (2).pdf") << "of 255 bytes";
 }
 
 }  // namespace

@@ -18,6 +18,7 @@
 #include "foundation/UserDefaults.h"
 #include "foundation/Utf8.h"
 #include "framework/DocumentController.h"
+#include "framework/FileName.h"
 #include "model/PatientFile.h"
 
 namespace nascor::qt {
@@ -222,7 +223,7 @@ class Export {
     }
   }
 
-  /// Under `name`, or where a document before has written that, the first of "name (2)", "name (3)", ... that is free.
+  /// Under `name`, or where a document before has written that, under the first name with a number that is free.
   void write(const QString& name, PageFormat format, const QByteArray& bytes) {
     if (wanted_.writeOneFile) {
       const auto reason = bytes.isEmpty() ? std::optional(said("PageFiles", "it could not be painted"))
@@ -231,10 +232,9 @@ class Export {
       return;
     }
     const std::string_view extension = framework::extensionOf(format);
-    const QString ending = QStringLiteral(".") + fromUtf8(extension);
-    QString fileName = name + ending;
-    for (int i = 2; taken_.contains(fileName); ++i)
-      fileName = QStringLiteral("%1 (%2)").arg(name, QString::number(i)) + ending;
+    const QString fileName = fromUtf8(
+        framework::freeFileName(toUtf8(name), {}, std::string(".").append(extension),
+                                [&](const std::string& each) { return taken_.contains(fromUtf8(each)); }));
     taken_.insert(fileName);
     const QString path = QDir(wanted_.folder).filePath(fileName);
     if (!wanted_.mayReplace && services_.files.exists(QFile::encodeName(path).toStdString())) {
