@@ -412,54 +412,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%ld January %ld</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%ld February %ld</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%ld March %ld</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%ld April %ld</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%ld May %ld</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%ld June %ld</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%ld July %ld</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%ld August %ld</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%ld September %ld</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%ld October %ld</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%ld November %ld</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%ld December %ld</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>%ld bytes</source>
         <translation type="unfinished"></translation>
     </message>

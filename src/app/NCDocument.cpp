@@ -9,7 +9,6 @@
 #include "foundation/Calendar.h"
 #include "foundation/ConvertInteger.h"
 #include "foundation/Localizer.h"
-#include "foundation/LongDate.h"
 #include "model/PatientFile.h"
 
 namespace nascor::app {
@@ -153,7 +152,7 @@ std::vector<std::string> NCDocument::factsOfFile(std::span<const std::byte> data
 
 std::string NCDocument::longDateText(const foundation::Date& date) const {
   const auto day = foundation::localDay(date, services().calendar);
-  return day ? foundation::longDateText(*day, services().localizer) : std::string();
+  return day ? services().localizer.longDateText(*day) : std::string();
 }
 
 std::int64_t NCDocument::lastExam() const { return std::max<std::int64_t>(numberOfExaminations() - 1, 0); }

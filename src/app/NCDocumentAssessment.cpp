@@ -16,7 +16,6 @@
 #include "foundation/Clock.h"
 #include "foundation/DateText.h"
 #include "foundation/Localizer.h"
-#include "foundation/LongDate.h"
 #include "foundation/NumberText.h"
 #include "foundation/ShortDate.h"
 
@@ -166,8 +165,7 @@ std::string NCDocument::examinationText() const {
   if (!exam) return {};
   const auto day = exam->examDate() ? foundation::localDay(*exam->examDate(), services().calendar)
                                     : std::optional<foundation::CivilDay>();
-  const std::string date =
-      day ? foundation::longDateText(*day, localizer) : localizer.text("NCDocument", "no date");
+  const std::string date = day ? localizer.longDateText(*day) : localizer.text("NCDocument", "no date");
   return foundation::format(localizer.text("NCDocument", "Examination %ld of %ld: "),
                             {currentExam() + 1, numberOfExaminations()}) +
          date;
@@ -189,7 +187,7 @@ std::string NCDocument::proposalText(const ProposedEDD& proposal) const {
     }
     return text;
   }
-  addLine(localizer.text("NCDocument", "EDD:") + " " + foundation::longDateText(*day, localizer));
+  addLine(localizer.text("NCDocument", "EDD:") + " " + localizer.longDateText(*day));
   const foundation::Date edd = foundation::startOfDay(*day, calendar);
   if (const auto today = foundation::localDay(services().clock.now(), calendar)) {
     const double age = calc::menstrualAge(foundation::startOfDay(*today, calendar), edd);

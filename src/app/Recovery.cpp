@@ -13,7 +13,6 @@
 #include "foundation/Calendar.h"
 #include "foundation/IsoDate.h"
 #include "foundation/Localizer.h"
-#include "foundation/LongDate.h"
 #include "foundation/Utf8.h"
 #include "model/PatientFile.h"
 
@@ -199,7 +198,7 @@ std::string Recovery::informationOf(const RecoveryFile& file, const PatientRecor
     } else {
       const auto& date = examinations.at(*difference.examination)->examDate();
       const auto day = date ? foundation::localDay(*date, services_.calendar) : std::nullopt;
-      add(day ? localizer.text("Recovery", "Examination of") + " " + foundation::longDateText(*day, localizer)
+      add(day ? localizer.text("Recovery", "Examination of") + " " + localizer.longDateText(*day)
               : localizer.text("Recovery", "An examination without a date"));
     }
   }
@@ -216,7 +215,7 @@ std::string Recovery::textOf(const foundation::Date& moment) const {
   constexpr std::size_t kTime = 11;  // behind 2027-04-10T
   constexpr std::size_t kHoursAndMinutes = 5;
   if (!day || iso.size() < kTime + kHoursAndMinutes) return "-";
-  return foundation::longDateText(*day, services_.localizer) + ", " + iso.substr(kTime, kHoursAndMinutes);
+  return services_.localizer.longDateText(*day) + ", " + iso.substr(kTime, kHoursAndMinutes);
 }
 
 }  // namespace nascor::app

@@ -1,5 +1,8 @@
 #include "foundation/Localizer.h"
 
+#include <array>
+#include <cstddef>
+
 namespace nascor::foundation {
 
 std::string format(std::string_view text, std::initializer_list<std::int64_t> numbers) {
@@ -19,6 +22,19 @@ std::string format(std::string_view text, std::initializer_list<std::int64_t> nu
 
 std::string EnglishLocalizer::text(std::string_view, std::string_view key) const { return std::string(key); }
 ShortDateForm EnglishLocalizer::shortDateForm() const { return {.pattern = "M/d/yy", .monthNames = {}}; }
+
+std::string EnglishLocalizer::longDateText(const CivilDay& day) const {
+  constexpr std::array<std::string_view, 12> kMonths{"January",   "February", "March",    "April",
+                                                     "May",       "June",     "July",     "August",
+                                                     "September", "October",  "November", "December"};
+  if (!isValid(day)) return {};
+  return std::to_string(day.day)
+      .append(" ")
+      .append(kMonths.at(static_cast<std::size_t>(day.month) - 1))
+      .append(" ")
+      .append(std::to_string(day.year));
+}
+
 char EnglishLocalizer::decimalSign() const { return '.'; }
 
 std::string EnglishLocalizer::upperCased(std::string_view text) const {

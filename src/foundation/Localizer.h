@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 
+#include "foundation/Calendar.h"
 #include "foundation/ShortDate.h"
 
 namespace nascor::foundation {
@@ -22,6 +23,9 @@ class Localizer {
   /// has the empty name.
   virtual std::string text(std::string_view table, std::string_view key) const = 0;
   virtual ShortDateForm shortDateForm() const = 0;
+  /// `day` with its month in words and all digits of its year, "4 March 2027": it reads as one day everywhere. Empty when
+  /// `day` is not valid.
+  virtual std::string longDateText(const CivilDay& day) const = 0;
   virtual char decimalSign() const = 0;
   /// `text` in capital letters, as the user's language and all of Unicode have them.
   virtual std::string upperCased(std::string_view text) const = 0;
@@ -36,6 +40,7 @@ class EnglishLocalizer final : public Localizer {
  public:
   std::string text(std::string_view table, std::string_view key) const override;
   ShortDateForm shortDateForm() const override;
+  std::string longDateText(const CivilDay& day) const override;
   char decimalSign() const override;
   /// The letters a to z; others are left.
   std::string upperCased(std::string_view text) const override;

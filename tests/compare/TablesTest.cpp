@@ -140,6 +140,7 @@ TEST(TheTablesOfAComparison, speakTheUsersLanguage) {
       return key == "Lengths" ? "Mesures" : std::string(key);
     }
     foundation::ShortDateForm shortDateForm() const override { return {}; }
+    std::string longDateText(const foundation::CivilDay&) const override { return {}; }
     char decimalSign() const override { return ','; }
     std::string upperCased(std::string_view text) const override { return std::string(text); }
   };

@@ -19,6 +19,9 @@ class StoryLocalizer final : public foundation::Localizer {
  public:
   std::string text(std::string_view, std::string_view key) const override { return std::string(key); }
   foundation::ShortDateForm shortDateForm() const override { return form_; }
+  std::string longDateText(const foundation::CivilDay& day) const override {
+    return foundation::EnglishLocalizer().longDateText(day);
+  }
   char decimalSign() const override { return decimalSign_; }
   std::string upperCased(std::string_view text) const override;
 

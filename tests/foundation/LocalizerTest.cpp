@@ -21,6 +21,7 @@ class TableLocalizer final : public Localizer {
     return found == translations.end() ? std::string(key) : found->second;
   }
   ShortDateForm shortDateForm() const override { return {}; }
+  std::string longDateText(const CivilDay&) const override { return {}; }
   char decimalSign() const override { return ','; }
   std::string upperCased(std::string_view text) const override { return std::string(text); }
 };
@@ -49,6 +50,19 @@ TEST(Format, writesEveryNumberThatThereIs) {
   EXPECT_EQ(format("%ld|%ld|%ld",
                    {std::numeric_limits<std::int64_t>::min(), 0, std::numeric_limits<std::int64_t>::max()}),
             "-9223372036854775808|0|9223372036854775807");
+}
+
+TEST(EnglishLocalizer, namesTheMonthAndAllDigitsOfTheYear) {
+  const EnglishLocalizer english;
+  EXPECT_EQ(english.longDateText({2027, 3, 4}), "4 March 2027");
+  EXPECT_EQ(english.longDateText({2026, 12, 31}), "31 December 2026");
+  EXPECT_EQ(english.longDateText({1926, 1, 1}), "1 January 1926");
+}
+
+TEST(EnglishLocalizer, writesNothingForADayThatIsNone) {
+  const EnglishLocalizer english;
+  EXPECT_EQ(english.longDateText({2027, 2, 29}), "");
+  EXPECT_EQ(english.longDateText({2027, 13, 1}), "");
 }
 
 TEST(EnglishLocalizer, speaksInKeys) {

@@ -27,9 +27,11 @@ class ADateInWords : public testing::TestWithParam<Form> {
 
 TEST_P(ADateInWords, isWrittenAsItsCountryDoes) {
   const qt::QtLocalizer localizer{QLocale()};
-  EXPECT_EQ(qt::longDateText(QString::fromUtf8(GetParam().typed), localizer.shortDateForm()).toStdString(),
+  EXPECT_EQ(qt::longDateText(QString::fromUtf8(GetParam().typed), localizer).toStdString(),
             GetParam().inWords);
-  EXPECT_EQ(qt::longDateText(QStringLiteral("nothing"), localizer.shortDateForm()), QString());
+  EXPECT_EQ(qt::longDateText(QStringLiteral("nothing"), localizer), QString());
+  EXPECT_EQ(localizer.longDateText({2027, 1, 14}), GetParam().inWords);
+  EXPECT_EQ(localizer.longDateText({2027, 2, 29}), "") << "no day";
 }
 
 INSTANTIATE_TEST_SUITE_P(locales, ADateInWords,

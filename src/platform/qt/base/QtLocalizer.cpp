@@ -1,6 +1,8 @@
 #include "base/QtLocalizer.h"
 
 #include <QCoreApplication>
+#include <QDate>
+#include <QRegularExpression>
 
 #include "base/Text.h"
 
@@ -23,9 +25,27 @@ foundation::ShortDateForm shortDateFormOf(const QLocale& locale) {
   return form;
 }
 
+/// How the user's country writes a day in words, without the day of the week; in English as everywhere in this program.
+QString longDateFormOf(const QLocale& locale) {
+  QString usual = QCoreApplication::translate("MyDocument", "d MMMM yyyy");
+  if (locale.language() == QLocale::English || locale.language() == QLocale::C) return usual;
+  static const QRegularExpression kWeekday(
+      QStringLiteral("[\\s,\\x{060C}\\x{3001}]*\\bdddd\\b[\\s,\\x{060C}\\x{3001}]*"));
+  QString form = locale.dateFormat(QLocale::LongFormat);
+  form.remove(kWeekday);
+  const bool isWhole =
+      form.contains(u'd') && form.contains(QStringLiteral("M")) && form.contains(QStringLiteral("yyyy"));
+  return isWhole ? form : usual;
+}
+
 }  // namespace
 
 QtLocalizer::QtLocalizer(const QLocale& locale) : locale_(locale), shortDateForm_(shortDateFormOf(locale)) {}
+
+std::string QtLocalizer::longDateText(const foundation::CivilDay& day) const {
+  return toUtf8(
+      locale_.toString(QDate(static_cast<int>(day.year), day.month, day.day), longDateFormOf(locale_)));
+}
 
 char QtLocalizer::decimalSign() const {
   const QString sign = locale_.decimalPoint();

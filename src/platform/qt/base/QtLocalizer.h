@@ -13,6 +13,7 @@ class QtLocalizer final : public foundation::Localizer {
 
   std::string text(std::string_view table, std::string_view key) const override;
   foundation::ShortDateForm shortDateForm() const override { return shortDateForm_; }
+  std::string longDateText(const foundation::CivilDay& day) const override;
   /// A point where the locale's own sign is no single byte.
   char decimalSign() const override;
   std::string upperCased(std::string_view text) const override;

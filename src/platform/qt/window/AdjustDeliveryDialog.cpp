@@ -23,7 +23,7 @@ AdjustDeliveryDialog::AdjustDeliveryDialog(app::NCDocument& document, const foun
       ui_(std::make_unique<Ui::AdjustDelivery>()) {
   ui_->setupUi(this);
   ui_->buttonBox->button(QDialogButtonBox::Close)->setAutoDefault(false);
-  const int room = fontMetrics().horizontalAdvance(longestDateText());
+  const int room = fontMetrics().horizontalAdvance(longestDateText(services.localizer));
   ui_->adjustEDDLongForm->setMinimumWidth(room);
   ui_->adjustDeliverOnLongForm->setMinimumWidth(room);
   for (QLineEdit* edit : {ui_->adjustEDDField, ui_->adjustDeliverOnField, ui_->adjustDeliverAtField}) {
@@ -64,9 +64,9 @@ void AdjustDeliveryDialog::refresh() {
   ui_->adjustDeliveryHint->setText(range);
   spin.setToolTip(said("AdjustDelivery", "Days from the EDD to the planned delivery, %1").arg(range));
   spin.setAccessibleDescription(spin.toolTip());
-  const foundation::ShortDateForm form = services_.localizer.shortDateForm();
-  ui_->adjustEDDLongForm->setText(longDateText(ui_->adjustEDDField->text(), form));
-  ui_->adjustDeliverOnLongForm->setText(longDateText(ui_->adjustDeliverOnField->text(), form));
+  const foundation::Localizer& localizer = services_.localizer;
+  ui_->adjustEDDLongForm->setText(longDateText(ui_->adjustEDDField->text(), localizer));
+  ui_->adjustDeliverOnLongForm->setText(longDateText(ui_->adjustDeliverOnField->text(), localizer));
 }
 
 void AdjustDeliveryDialog::focusFirst() {

@@ -57,14 +57,14 @@ void DatingDialog::bindField(FieldEdit& edit) {
 }
 
 void DatingDialog::bindDate(FieldEdit& edit, QLabel& form, QLabel& longForm) {
-  const foundation::ShortDateForm shortForm = services_.localizer.shortDateForm();
-  const QString example = exampleDateText(shortForm);
+  const foundation::Localizer& localizer = services_.localizer;
+  const QString example = exampleDateText(localizer);
   form.setText(said("DatingDialogs", "such as %1").arg(example));
   describe(edit, edit.toolTip(), said("DatingDialogs", "for example %1").arg(example));
-  longForm.setMinimumWidth(fontMetrics().horizontalAdvance(longestDateText()));
-  const auto showLongForm = [&edit, &longForm, shortForm] {
+  longForm.setMinimumWidth(fontMetrics().horizontalAdvance(longestDateText(localizer)));
+  const auto showLongForm = [&edit, &longForm, &localizer] {
     const QString text = edit.text().trimmed();
-    const QString inWords = longDateText(text, shortForm);
+    const QString inWords = longDateText(text, localizer);
     longForm.setText(!inWords.isEmpty() || text.isEmpty() ? inWords : said("DatingDialogs", "no date"));
   };
   connect(&edit, &QLineEdit::textChanged, this, showLongForm);
@@ -301,8 +301,7 @@ void EDDFromMeasurementsDialog::refresh() {
     row.gestation.setAccessibleDescription(description);
   }
   const NCDocument& shown = *document();
-  const QString inWords =
-      longDateText(fromUtf8(shown.examDateField().text()), services().localizer.shortDateForm());
+  const QString inWords = longDateText(fromUtf8(shown.examDateField().text()), services().localizer);
   const QString place = fromUtf8(foundation::format(services().localizer.text("MyDocument", "%ld of %ld"),
                                                     {shown.currentExam() + 1, shown.numberOfExaminations()}));
   const auto& popUp = shown.multiplePopUp();

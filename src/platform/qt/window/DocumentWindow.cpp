@@ -564,11 +564,11 @@ void DocumentWindow::describeFields() {
     describe(row.edit, row.label,
              said("MyDocument", "%1, %2 to %3 mm").arg(row.edit->toolTip(), least, greatest));
   }
-  const foundation::ShortDateForm form = environment_.services.localizer.shortDateForm();
-  const QString example = exampleDateText(form);
+  const foundation::Localizer& localizer = environment_.services.localizer;
+  const QString example = exampleDateText(localizer);
   for (FieldEdit* edit : {ui_->birthDateField, ui_->examDateField})
     describe(edit, nullptr, said("MyDocument", "%1, for example %2").arg(edit->toolTip(), example));
-  const int room = fontMetrics().horizontalAdvance(longestDateText());
+  const int room = fontMetrics().horizontalAdvance(longestDateText(localizer));
   ui_->birthDateLongForm->setMinimumWidth(room);
   ui_->examDateLongForm->setMinimumWidth(room);
   ui_->multiplePopUp->setAccessibleDescription(said("MyDocument", "The fetus on show"));
@@ -598,14 +598,14 @@ void DocumentWindow::showEditing() {
 }
 
 void DocumentWindow::showLongDates() {
-  const foundation::ShortDateForm form = environment_.services.localizer.shortDateForm();
-  const QString example = said("MyDocument", "such as %1").arg(exampleDateText(form));
+  const foundation::Localizer& localizer = environment_.services.localizer;
+  const QString example = said("MyDocument", "such as %1").arg(exampleDateText(localizer));
   const framework::TextField* told = document_ ? document_->statusLine().field() : nullptr;
   const std::array<std::pair<const FieldEdit*, QLabel*>, 2> dates{
       {{ui_->birthDateField, ui_->birthDateLongForm}, {ui_->examDateField, ui_->examDateLongForm}}};
   for (const auto& [edit, label] : dates) {
     const QString text = edit->text().trimmed();
-    const QString inWords = longDateText(text, form);
+    const QString inWords = longDateText(text, localizer);
     const bool wasErased = told != nullptr && fromUtf8(told->name()) == edit->objectName();
     label->setText(edit->isReadOnly()             ? QString()
                    : !inWords.isEmpty()           ? inWords

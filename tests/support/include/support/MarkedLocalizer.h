@@ -17,6 +17,9 @@ class MarkedLocalizer final : public foundation::Localizer {
   foundation::ShortDateForm shortDateForm() const override {
     return {.pattern = "d.M.yyyy", .monthNames = {}};
   }
+  std::string longDateText(const foundation::CivilDay& day) const override {
+    return "[" + foundation::EnglishLocalizer().longDateText(day) + "]";
+  }
   char decimalSign() const override { return ','; }
   std::string upperCased(std::string_view text) const override { return std::string(text); }
 };
