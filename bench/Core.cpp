@@ -86,7 +86,7 @@ class Work {
   /// A table of 1000 rows: one weight and four z-scores each.
   double calculate() {
     rows::CsvReader reader;
-    reader.take(table_);
+    reader.read(table_);
     reader.finish();
     reader.next();
     rows::Calculation calculation(reader.cells(), {.standards = {0, 1, 2, 3}},

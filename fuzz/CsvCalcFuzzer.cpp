@@ -26,7 +26,7 @@ std::string computed(std::span<const char> table, std::size_t step) {
       if (next == CsvReader::Next::more) {
         const auto piece = table.subspan(at, std::min(step, table.size() - at));
         at += piece.size();
-        piece.empty() ? reader.finish() : reader.take(piece);
+        piece.empty() ? reader.finish() : reader.read(piece);
       } else if (!calculation) {
         calculation.emplace(reader.cells(), Choice{.standards = allStandards()}, std::nullopt, false);
         calculation->appendHeader(out);

@@ -442,7 +442,7 @@ const Reference* referenceNamed(std::string_view name) {
   return found != all.end() ? &*found : nullptr;
 }
 
-bool tellsOf(const Reference& reference, Quantity quantity) {
+bool covers(const Reference& reference, Quantity quantity) {
   return std::ranges::find(reference.quantities, quantity) != reference.quantities.end();
 }
 
@@ -451,12 +451,12 @@ bool reaches(const Reference& reference, double week) {
 }
 
 std::optional<Population> populationAt(const Reference& reference, Quantity quantity, double week) {
-  if (!tellsOf(reference, quantity) || !reaches(reference, week)) return std::nullopt;
+  if (!covers(reference, quantity) || !reaches(reference, week)) return std::nullopt;
   return reference.population(quantity, week);
 }
 
 std::optional<double> weekOfMedian(const Reference& reference, Quantity quantity, double value) {
-  if (!tellsOf(reference, quantity)) return std::nullopt;
+  if (!covers(reference, quantity)) return std::nullopt;
   return reference.weekOfMedian(quantity, value);
 }
 

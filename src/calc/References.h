@@ -125,8 +125,8 @@ const Reference* referenceOfStandard(std::int64_t standard);
 /// The reference of that name, in small letters; null for an unknown one.
 const Reference* referenceNamed(std::string_view name);
 
-/// Whether `reference` tells of `quantity`.
-bool tellsOf(const Reference& reference, Quantity quantity);
+/// Whether `quantity` is one of those of `reference`.
+bool covers(const Reference& reference, Quantity quantity);
 
 /// Whether an age in weeks lies within the weeks of `reference`; both ends do, NaN does not.
 bool reaches(const Reference& reference, double week);

@@ -43,7 +43,7 @@ Length lengthOf(Measurement measurement, const calc::Biometry& lengths, std::opt
   Length length{.measurement = measurement, .value = ifAboveZero(lengths.*calc::memberFor(measurement))};
   const Quantity quantity = calc::quantityOf(measurement);
   for (const calc::Reference& reference : calc::references()) {
-    if (calc::tellsOf(reference, quantity))
+    if (calc::covers(reference, quantity))
       length.references.push_back(placed(reference, quantity, length.value, age));
   }
   return length;
@@ -54,7 +54,7 @@ Weight weightOf(std::int64_t formula, const calc::Biometry& lengths, std::option
   Weight weight{.formula = formula, .grams = ifAboveZero(calc::estimatedFetalWeight(lengths, formula))};
   if (weight.grams && chosen) weight.difference = *weight.grams - *chosen;
   for (const calc::Reference& reference : calc::references()) {
-    if (!calc::tellsOf(reference, Quantity::efw)) continue;
+    if (!calc::covers(reference, Quantity::efw)) continue;
     Placed& figure = weight.references.emplace_back(placed(reference, Quantity::efw, weight.grams, age));
     const bool isOther = reference.onlyFormula && *reference.onlyFormula != formula;
     if (isOther && weight.grams) figure.cautions.push_back(Caution::otherFormula);

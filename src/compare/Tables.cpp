@@ -168,7 +168,7 @@ Table weightsTable(const Comparison& comparison, std::int64_t chosen, const Writ
                    .explanation = writer.text("Compare", "From the weight by the formula in force, in g.")}},
       .rows = {}};
   for (const calc::Reference& reference : calc::references()) {
-    if (!calc::tellsOf(reference, Quantity::efw)) continue;
+    if (!calc::covers(reference, Quantity::efw)) continue;
     table.columns.push_back(
         {.title = std::string(reference.label),
          .isNumber = true,

@@ -185,7 +185,7 @@ class Bundle {
     if (!quantity.is_null()) {
       item.text = numberText(member(quantity, "value"));
       item.code = {textIn(quantity, "code"), textIn(quantity, "system") == kUcum ? "UCUM" : "", ""};
-      takeEquation(observation, item);
+      readEquation(observation, item);
     } else if (!integer.is_null()) {
       item.text = numberText(integer);
     } else if (!dateTime.empty()) {
@@ -195,7 +195,7 @@ class Bundle {
     return item;
   }
 
-  static void takeEquation(const Json& observation, ContentItem& item) {
+  static void readEquation(const Json& observation, ContentItem& item) {
     const Json& method = member(observation, "method");
     if (method.is_null()) return;
     ContentItem equation{.type = ValueType::code,

@@ -135,7 +135,7 @@ class Collector {
     Place top;
     identify(report.root, top, true);
     walk(report.root, top);
-    takeDates();
+    collectDates();
     for (Fetus& fetus : fetuses_) finish(fetus);
     compareNumberOfFetuses();
   }
@@ -351,7 +351,7 @@ class Collector {
     return text.size() > 8 && text.find('.') != 4 ? std::size_t{8} : text.size();
   }
 
-  void takeDates() {
+  void collectDates() {
     const bool byLMP = edds_.empty();
     const auto& days = byLMP ? eddsByLMP_ : edds_;
     if (days.empty()) return;

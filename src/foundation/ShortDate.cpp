@@ -242,7 +242,7 @@ class Reader {
         std::min(static_cast<std::size_t>(std::find_if_not(rest.begin(), rest.end(), isDigit) - rest.begin()),
                  rest.size());
     if (count == 0 || count > (field.unit == Unit::year ? 4 : 2)) return std::nullopt;
-    take(field.unit, rest.substr(0, count));
+    setPart(field.unit, rest.substr(0, count));
     return readSeparator(index, rest.substr(count));
   }
 
@@ -274,7 +274,7 @@ class Reader {
                       [](char a, char b) { return lowered(a) == lowered(b); });
   }
 
-  void take(Unit unit, std::string_view digits) {
+  void setPart(Unit unit, std::string_view digits) {
     int number = 0;
     for (const char digit : digits) number = number * 10 + (digit - '0');
     switch (unit) {

@@ -89,7 +89,7 @@ std::vector<std::int64_t> allBlocks() {
 bool hasBlock(const calc::Reference& reference) {
   const bool hasMeanAndSD =
       reference.form == calc::ReferenceForm::table || reference.form == calc::ReferenceForm::meanAndSD;
-  return hasMeanAndSD && calc::tellsOf(reference, calc::Quantity::bpd);
+  return hasMeanAndSD && calc::covers(reference, calc::Quantity::bpd);
 }
 
 std::vector<std::int64_t> allStandards() {

@@ -32,7 +32,7 @@ void appendCell(std::string& out, const CsvCell& cell) {
   cell.isQuoted ? static_cast<void>(out += cell.text) : appendCsvText(out, cell.text);
 }
 
-void CsvReader::take(std::span<const char> piece) {
+void CsvReader::read(std::span<const char> piece) {
   bytes_.erase(0, at_);
   at_ = 0;
   cells_.clear();

@@ -43,12 +43,12 @@ class CsvReader {
  public:
   enum class Next {
     record,  ///< `cells` has one
-    more,    ///< `take` or `finish` comes next
+    more,    ///< `read` or `finish` comes next
     end
   };
 
   /// The next piece. Cells that were read before are gone.
-  void take(std::span<const char> piece);
+  void read(std::span<const char> piece);
   /// There are no more pieces.
   void finish() { isFinished_ = true; }
 
@@ -56,7 +56,7 @@ class CsvReader {
   /// `kLongestRecord`.
   Next next();
 
-  /// The record; valid until `next` or `take`.
+  /// The record; valid until `next` or `read`.
   std::span<const CsvCell> cells() const { return cells_; }
   /// The physical line on which it begins, from 1.
   std::uint64_t line() const { return line_; }

@@ -14,7 +14,7 @@ std::string dayText(const std::optional<foundation::Date>& date, const foundatio
 }  // namespace
 
 void forEachRow(const model::PatientRecord& patient, const DocumentName& document,
-                const foundation::Calendar& calendar, const std::function<void(const Row&)>& take) {
+                const foundation::Calendar& calendar, const std::function<void(const Row&)>& use) {
   const std::string edd = dayText(patient.edd(), calendar);
   Row row{.fileName = document.name,
           .filePlace = document.place,
@@ -32,7 +32,7 @@ void forEachRow(const model::PatientRecord& patient, const DocumentName& documen
     row.fetus = 0;
     for (const model::MeasurementsRecord& measured : examination->measurements()) {
       row.lengths = measured.biometry();
-      take(row);
+      use(row);
       ++row.fetus;
     }
     ++row.examination;

@@ -17,10 +17,10 @@ struct DocumentName {
   std::uint64_t place = 0;  ///< among the documents of a run, from 0
 };
 
-/// Hands on a row for each record that an examination holds, as `appendPatientRows` appends it. Its texts last until `take`
+/// Hands on a row for each record that an examination holds, as `appendPatientRows` appends it. Its texts last until `use`
 /// returns.
 void forEachRow(const model::PatientRecord& patient, const DocumentName& document,
-                const foundation::Calendar& calendar, const std::function<void(const Row&)>& take);
+                const foundation::Calendar& calendar, const std::function<void(const Row&)>& use);
 
 /// Appends a row for each record that an examination holds, whatever number of fetuses the patient states, in the order of
 /// the file. Days are those of the calendar. A date that has no day (not finite, or outside the years 1 to 9999) counts as

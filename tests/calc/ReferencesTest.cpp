@@ -71,7 +71,7 @@ TEST(References, reachFromTheirFirstWeekToTheirLastAndNoFurther) {
     EXPECT_EQ(nameOf(reference.form), row.form);
     std::string quantities;
     for (const Quantity quantity : kQuantities) {
-      const bool tells = tellsOf(reference, quantity);
+      const bool tells = covers(reference, quantity);
       if (tells) quantities += (quantities.empty() ? "" : " ") + std::string(nameOf(quantity));
       for (const double week : {double(row.first), row.first + 0.5, double(row.last)})
         EXPECT_EQ(populationAt(reference, quantity, week).has_value(), tells) << row.name << week;
@@ -338,7 +338,7 @@ TEST(WeekOfMedian, isThatOfTheLookUpInAGrowthStandard) {
 TEST(WeekOfMedian, isMissingBeyondTheMediansOfTheWeeks) {
   for (const Reference& reference : references()) {
     for (const Quantity quantity : kQuantities) {
-      if (!tellsOf(reference, quantity)) {
+      if (!covers(reference, quantity)) {
         EXPECT_FALSE(weekOfMedian(reference, quantity, 100.0).has_value());
         continue;
       }

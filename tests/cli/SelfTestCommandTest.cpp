@@ -48,7 +48,7 @@ Told toldOf(const std::vector<selftest::Example>& examples) {
   testing::internal::CaptureStdout();
   testing::internal::CaptureStderr();
   cli::Console console;
-  cli::tellSelfTest(examples, false, console);
+  cli::printSelfTest(examples, false, console);
   console.flush();
   told.allWell = console.allWell();
   told.err = testing::internal::GetCapturedStderr();

@@ -18,7 +18,7 @@ Records recordsOf(std::string_view text, std::size_t step) {
       if (next == CsvReader::Next::more) {
         const auto piece = text.substr(at, step);
         at += piece.size();
-        piece.empty() ? reader.finish() : reader.take(piece);
+        piece.empty() ? reader.finish() : reader.read(piece);
         continue;
       }
       std::vector<std::string> record{std::to_string(reader.line())};
@@ -80,7 +80,7 @@ TEST(Csv, refusesARecordWithoutEnd) {
   EXPECT_THROW(
       {
         while (reader.next() == CsvReader::Next::more && taken < 64) {
-          reader.take(piece);
+          reader.read(piece);
           ++taken;
         }
       },

@@ -29,7 +29,7 @@ class Records {
       const auto piece = input_.next();
       if (const auto* error = std::get_if<std::string>(&piece)) throw rows::CsvError(0, *error);
       const auto bytes = std::get<0>(piece);
-      bytes.empty() ? reader_.finish() : reader_.take(bytes);
+      bytes.empty() ? reader_.finish() : reader_.read(bytes);
     }
   }
 

@@ -423,7 +423,7 @@ IndexQueries::IndexQueries(const std::string& database) : database_(database, Da
 
 void IndexQueries::due(const foundation::CivilDay& from, std::int64_t days,
                        const std::optional<double>& acBelow,
-                       const std::function<void(const IndexedDocument&)>& take) {
+                       const std::function<void(const IndexedDocument&)>& use) {
   const posix::PosixCalendar calendar;
   const std::int64_t first = foundation::daysSince2001(from);
   const auto last = foundation::civilDayFromDaysSince2001(first + days);
@@ -439,12 +439,12 @@ void IndexQueries::due(const foundation::CivilDay& from, std::int64_t days,
     if (const auto day = edd ? foundation::localDay(*edd, calendar) : std::nullopt) {
       document.days = foundation::daysSince2001(*day) - first;
     }
-    take(document);
+    use(document);
   }
 }
 
 void IndexQueries::search(const std::string& text, std::int64_t most,
-                          const std::function<void(const IndexedDocument&)>& take) {
+                          const std::function<void(const IndexedDocument&)>& use) {
   std::string quoted = "\"";
   for (const char byte : text) quoted.append(byte == '"' ? 2 : 1, byte);
   quoted += '"';
@@ -452,7 +452,7 @@ void IndexQueries::search(const std::string& text, std::int64_t most,
                                           " FROM documents WHERE id IN (SELECT rowid FROM texts WHERE texts "
                                           "MATCH ? ORDER BY rowid LIMIT ?) ORDER BY id");
   statement.bind(1, std::string_view(quoted)).bind(2, most);
-  while (statement.next()) take(documentOf(statement));
+  while (statement.next()) use(documentOf(statement));
 }
 
 }  // namespace nascor::cli

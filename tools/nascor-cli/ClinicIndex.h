@@ -73,12 +73,12 @@ class IndexQueries {
   /// The documents whose EDD is `from` or one of the `days` days behind it, by EDD; with `acBelow` those whose `acZ` lies
   /// below it.
   void due(const foundation::CivilDay& from, std::int64_t days, const std::optional<double>& acBelow,
-           const std::function<void(const IndexedDocument&)>& take);
+           const std::function<void(const IndexedDocument&)>& use);
 
   /// Documents whose reference ID or path holds `text`, of three characters or more, whatever the size of its letters; not more
   /// than `most`.
   void search(const std::string& text, std::int64_t most,
-              const std::function<void(const IndexedDocument&)>& take);
+              const std::function<void(const IndexedDocument&)>& use);
 
  private:
   sqlite::Database database_;

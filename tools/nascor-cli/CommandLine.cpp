@@ -159,7 +159,7 @@ std::string unknownArgument(const std::vector<std::string>& remaining, const Com
 }
 
 int wrongUsage(std::string_view sentence, const std::string& usageLine) {
-  Console::tell(std::string(kProgram) + ": " + oneLine(sentence) + "\n" + usageLine);
+  Console::writeError(std::string(kProgram) + ": " + oneLine(sentence) + "\n" + usageLine);
   return kWrongUsage;
 }
 
@@ -250,7 +250,7 @@ int runCommandLine(int argc, char** argv) {
   } catch (const std::exception& error) {
     sentence = error.what();
   }
-  Console::tell(std::string(kProgram) + ": " + oneLine(sentence) + "\n");
+  Console::writeError(std::string(kProgram) + ": " + oneLine(sentence) + "\n");
   return kBadInput;
 }
 

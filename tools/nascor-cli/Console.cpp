@@ -92,9 +92,9 @@ void Console::complain(std::string_view source, std::string_view sentence) {
 void Console::warn(std::string_view source, std::string_view sentence) {
   // In the order of events, where both go to the same place.
   flush();
-  tell(oneLine(source) + ": " + oneLine(sentence) + "\n");
+  writeError(oneLine(source) + ": " + oneLine(sentence) + "\n");
 }
 
-void Console::tell(std::string_view text) { writeAll(STDERR_FILENO, text); }
+void Console::writeError(std::string_view text) { writeAll(STDERR_FILENO, text); }
 
 }  // namespace nascor::cli

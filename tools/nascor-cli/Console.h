@@ -55,7 +55,7 @@ class Console {
   void warn(std::string_view source, std::string_view sentence);
 
   /// Text for standard error as it stands. Nothing can be done when that fails.
-  static void tell(std::string_view text);
+  static void writeError(std::string_view text);
 
   /// From now on Ctrl-C ends the program with status 130, and what is being written is written to its end: a reader gets
   /// whole lines, as long as `out` is sent on at the ends of lines only. A second Ctrl-C ends it at once.

@@ -17,15 +17,15 @@ namespace {
 
 constexpr std::string_view kStandardInput = "standard input";
 
-/// Hands on standard input piece by piece, until `take` wants no more. Why it cannot be read, if so.
+/// Hands on standard input piece by piece, until `use` wants no more. Why it cannot be read, if so.
 std::optional<std::string> readStandardInput(Console& console,
-                                             const std::function<bool(std::span<const char>)>& take) {
+                                             const std::function<bool(std::span<const char>)>& use) {
   InputStream input(console, "-");
   for (;;) {
     const auto piece = input.next();
     if (const auto* error = std::get_if<std::string>(&piece)) return *error;
     const auto bytes = std::get<0>(piece);
-    if (bytes.empty() || !take(bytes)) return std::nullopt;
+    if (bytes.empty() || !use(bytes)) return std::nullopt;
   }
 }
 
@@ -87,7 +87,7 @@ std::optional<std::vector<std::byte>> contentsOf(const std::string& path, Consol
   return std::nullopt;
 }
 
-void forEachNumberOfInput(Console& console, const std::function<void(std::optional<double>)>& take) {
+void forEachNumberOfInput(Console& console, const std::function<void(std::optional<double>)>& use) {
   // Longer than any number that is worth writing; what is longer is not kept.
   constexpr std::size_t kLongestLine = 4096;
   constexpr std::size_t kShown = 40;
@@ -102,7 +102,7 @@ void forEachNumberOfInput(Console& console, const std::function<void(std::option
                                            ": expected a decimal number, but \"" +
                                            std::string(text.substr(0, kShown)) + "\" stands here");
     }
-    take(number);
+    use(number);
     line.clear();
   };
 

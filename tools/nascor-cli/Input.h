@@ -43,6 +43,6 @@ std::optional<std::vector<std::byte>> contentsOf(const std::string& path, Consol
 
 /// Reads standard input to its end, one number a line, and hands each on as it comes. A line that is no number is a
 /// complaint and is handed on as nothing. Blanks around a number do not matter.
-void forEachNumberOfInput(Console& console, const std::function<void(std::optional<double>)>& take);
+void forEachNumberOfInput(Console& console, const std::function<void(std::optional<double>)>& use);
 
 }  // namespace nascor::cli

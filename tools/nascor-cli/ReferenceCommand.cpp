@@ -209,7 +209,7 @@ Number numberIn(const Arguments& arguments, std::string_view option, Given given
 Quantity quantityIn(const Reference& reference, const std::string& text) {
   const Measure measure = requiredMeasure(text);
   const Quantity quantity = measure.length ? calc::quantityOf(*measure.length) : Quantity::efw;
-  if (!calc::tellsOf(reference, quantity)) {
+  if (!calc::covers(reference, quantity)) {
     throw UsageError(std::string(reference.name) + " tells nothing of " +
                      std::string(calc::nameOf(quantity)) + "; it has " + quantityNames(reference));
   }

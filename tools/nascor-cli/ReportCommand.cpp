@@ -106,8 +106,8 @@ class Report {
 
   /// Hands on each fetus, from 0, with the places of its examinations: all of them for a fetus that the patient counts,
   /// up to the five that the program knows; for others, which only a file can hold, those that have a record of it.
-  template <class Take>
-  void forEachFetus(Take take) const {
+  template <class Use>
+  void forEachFetus(Use use) const {
     const auto& examinations = patient_.ncRecordsArray();
     const auto counted =
         static_cast<std::size_t>(std::clamp<std::int64_t>(patient_.numberOfFetuses(), 0, calc::kMostFetuses));
@@ -119,7 +119,7 @@ class Report {
                       [&](std::size_t place) { return examinations[place]->measurements().size() <= fetus; });
         if (places.empty()) return;
       }
-      take(fetus, places);
+      use(fetus, places);
     }
   }
 

@@ -153,13 +153,13 @@ class ProgressLine {
     done_ += static_cast<std::int64_t>(documents);
     progress_.set(done_, now());
     if (!progress_.isDue()) return;
-    Console::tell(progress_.line(english_));
+    Console::writeError(progress_.line(english_));
     isThere_ = true;
   }
 
   /// Before anything else is said.
   void wipe() {
-    if (std::exchange(isThere_, false)) Console::tell(foundation::Progress::kWiped);
+    if (std::exchange(isThere_, false)) Console::writeError(foundation::Progress::kWiped);
   }
 
  private:

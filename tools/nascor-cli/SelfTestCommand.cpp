@@ -12,12 +12,12 @@ namespace nascor::cli {
 namespace {
 
 void runSelfTest(const Arguments& arguments, Console& console) {
-  tellSelfTest(selftest::examples(), arguments.has("json"), console);
+  printSelfTest(selftest::examples(), arguments.has("json"), console);
 }
 
 }  // namespace
 
-void tellSelfTest(std::span<const selftest::Example> examples, bool asJson, Console& console) {
+void printSelfTest(std::span<const selftest::Example> examples, bool asJson, Console& console) {
   const auto results = selftest::replay(examples);
   for (const auto& [group, values, differences] : results) {
     if (asJson) {

@@ -7,7 +7,7 @@
 
 namespace nascor::cli {
 
-/// Works `examples` out again and tells of each group; a complaint when any of them differs.
-void tellSelfTest(std::span<const selftest::Example> examples, bool asJson, Console& console);
+/// Works `examples` out again and prints a line for each group; complains when any of them differs.
+void printSelfTest(std::span<const selftest::Example> examples, bool asJson, Console& console);
 
 }  // namespace nascor::cli

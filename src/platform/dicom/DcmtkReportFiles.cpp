@@ -290,7 +290,7 @@ class Reader {
     return name == "DATETIME" ? ValueType::date : ValueType::other;
   }
 
-  static void takeValue(DcmItem& from, Texts& texts, ContentItem& item) {
+  static void readValue(DcmItem& from, Texts& texts, ContentItem& item) {
     switch (item.type) {
       case ValueType::number:
         if (DcmItem* value = firstIn(from, kMeasuredValue)) {
@@ -323,7 +323,7 @@ class Reader {
                      .text = {},
                      .code = {},
                      .items = {}};
-    takeValue(from, texts, item);
+    readValue(from, texts, item);
     if (DcmSequenceOfItems* content = sequenceIn(from, kContent)) {
       item.items.reserve(content->card());
       for (DcmObject* child = content->nextInContainer(nullptr); child != nullptr;

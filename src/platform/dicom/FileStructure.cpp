@@ -106,13 +106,13 @@ class Walk {
       if (!readHeader({}, element)) return false;
       if (element.length == kUndefined) return refuse(kDamaged);
       if (!has(element.length)) return refuse(kCutOff);
-      if (element.tag == kTransferSyntax && !takeSyntax(text_.substr(at_, element.length))) return false;
+      if (element.tag == kTransferSyntax && !readSyntax(text_.substr(at_, element.length))) return false;
       at_ += element.length;
     }
     return syntaxIsKnown_ || refuse("is a DICOM file that does not say how it is encoded");
   }
 
-  bool takeSyntax(std::string_view uid) {
+  bool readSyntax(std::string_view uid) {
     while (!uid.empty() && (uid.back() == '\0' || uid.back() == ' ')) uid.remove_suffix(1);
     syntaxIsKnown_ = true;
     if (uid == "1.2.840.10008.1.2") {

@@ -15,7 +15,7 @@ volatile std::sig_atomic_t pipeEnd = -1;
 
 constexpr std::array kSignals{SIGTERM, SIGHUP};
 
-void tell(int signal) {
+void passOn(int signal) {
   const int error = errno;
   const auto number = static_cast<unsigned char>(signal);
   // A full pipe holds a signal already.
@@ -23,7 +23,7 @@ void tell(int signal) {
   errno = error;
 }
 
-void act(void (*handler)(int)) {
+void handleBy(void (*handler)(int)) {
   for (const int signal : kSignals) {
     struct sigaction before {};
     // A program that was started with one of them ignored, by nohup, goes on ignoring it.
@@ -43,12 +43,12 @@ EndingSignals::EndingSignals() {
     return;
   }
   pipeEnd = ends_[1];
-  act(tell);
+  handleBy(passOn);
 }
 
 EndingSignals::~EndingSignals() {
   if (ends_[0] < 0) return;
-  act(SIG_DFL);
+  handleBy(SIG_DFL);
   pipeEnd = -1;
   ::close(ends_[0]);
   ::close(ends_[1]);

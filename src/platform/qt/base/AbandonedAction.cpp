@@ -5,17 +5,17 @@
 
 namespace nascor::qt {
 
-void tellAbandoned(const std::string& what) {
+void logAbandoned(const std::string& what) {
   writeToStandardError("nascor: " + what + "; the action was abandoned\n");
 }
 
-void tellAbandoned(const std::exception& error) {
+void logAbandoned(const std::exception& error) {
   std::string what = error.what();  // a failed assertion names its place itself
   if (const auto* range = dynamic_cast<const foundation::RangeError*>(&error)) {
     what +=
         std::string(" (") + range->where().file_name() + ":" + std::to_string(range->where().line()) + ")";
   }
-  tellAbandoned(what);
+  logAbandoned(what);
 }
 
 }  // namespace nascor::qt

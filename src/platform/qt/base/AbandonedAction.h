@@ -5,8 +5,8 @@
 
 namespace nascor::qt {
 
-/// Tells on standard error that an action was abandoned, and where in the sources.
-void tellAbandoned(const std::exception& error);
-void tellAbandoned(const std::string& what);
+/// Writes to standard error that an action was abandoned, and where in the sources.
+void logAbandoned(const std::exception& error);
+void logAbandoned(const std::string& what);
 
 }  // namespace nascor::qt

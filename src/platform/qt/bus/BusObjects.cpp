@@ -162,13 +162,13 @@ QDBusMessage BusObjects::answer(const QDBusMessage& message) {
   } catch (const scripting::WrongKind& wrong) {
     return error(kInvalidArguments, fromUtf8(wrong.what()));
   } catch (const foundation::RangeError& range) {
-    tellAbandoned(range);
+    logAbandoned(range);
     return error(kRange, fromUtf8(range.what()));
   } catch (const foundation::AssertionFailure& failure) {
-    tellAbandoned(failure);
+    logAbandoned(failure);
     return error(kAssertion, fromUtf8(failure.what()));
   } catch (const std::exception& other) {
-    tellAbandoned(other);
+    logAbandoned(other);
     return error(kFailed, fromUtf8(other.what()));
   }
 }

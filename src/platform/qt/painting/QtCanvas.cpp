@@ -49,7 +49,7 @@ QtCanvas::QtCanvas(QPainter& painter, QSizeF size, bool isFlipped, TextLayouts& 
 
 void QtCanvas::setColor(const framework::Color& color) { color_ = qtColor(color); }
 
-void QtCanvas::take(Tool tool, double penWidth) {
+void QtCanvas::use(Tool tool, double penWidth) {
   if (tool == tool_ && color_ == toolColor_ && penWidth == penWidth_) return;
   tool_ = tool;
   toolColor_ = color_;
@@ -80,7 +80,7 @@ void QtCanvas::setSmooth(bool isSmooth) {
 
 void QtCanvas::fillPath(const framework::Path& path) {
   if (path.isEmpty()) return;
-  take(Tool::brush);
+  use(Tool::brush);
   setSmooth(true);
   QPainterPath several;
   several.setFillRule(Qt::WindingFill);
@@ -104,7 +104,7 @@ void QtCanvas::strokePath(const framework::Path& path) {
     line.reserve(static_cast<qsizetype>(subpath.size()));
     for (const Point point : subpath) line << placed(point);
     if (drawnSharp(line, path.lineWidth())) continue;
-    take(Tool::pen, path.lineWidth());
+    use(Tool::pen, path.lineWidth());
     setSmooth(true);
     painter_.drawPolyline(line);
   }
@@ -112,7 +112,7 @@ void QtCanvas::strokePath(const framework::Path& path) {
 
 void QtCanvas::fillOval(const framework::Rect& rect) {
   if (!isFinite(rect)) return;
-  take(Tool::brush);
+  use(Tool::brush);
   setSmooth(true);
   const QRectF oval = placed(rect);
   if (isSharp_ && color_.alpha() < 255) {
@@ -163,7 +163,7 @@ void QtCanvas::strokeRect(const framework::Rect& rect) {
     strokeSharpRect(edge);
     return;
   }
-  take(Tool::pen, 1.0);
+  use(Tool::pen, 1.0);
   setSmooth(true);
   painter_.drawRect(edge);
 }
@@ -176,7 +176,7 @@ void QtCanvas::mark(MarkSymbol symbol, Point centre) {
   if (!QRectF(at - QPointF(kReach, kReach), QSizeF(2.0 * kReach, 2.0 * kReach))
            .intersects(QRectF(QPointF(), size_)))
     return;
-  take(Tool::mark, kMarkLineWidth);
+  use(Tool::mark, kMarkLineWidth);
   setSmooth(true);
   switch (symbol) {
     case MarkSymbol::cross: {

@@ -34,7 +34,7 @@ class QtCanvas final : public framework::Canvas {
  private:
   /// What the painter is set to for shapes; told again only where that changes.
   enum class Tool { unknown, brush, pen, mark };
-  void take(Tool tool, double penWidth = 0.0);
+  void use(Tool tool, double penWidth = 0.0);
   void setSmooth(bool isSmooth);
   void drawText(const LaidOutText& text, QPointF at, const QColor& color);
 

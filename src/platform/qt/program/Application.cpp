@@ -48,9 +48,9 @@ bool Application::notify(QObject* receiver, QEvent* event) {
   try {
     return QApplication::notify(receiver, event);
   } catch (const std::exception& error) {
-    tellAbandoned(error);
+    logAbandoned(error);
   } catch (...) {
-    tellAbandoned("unknown exception");
+    logAbandoned("unknown exception");
   }
   return false;
 }

@@ -39,7 +39,7 @@ constexpr std::chrono::seconds kPatienceOfAService{10};
 
 enum ExitStatus { kAllWell = 0, kFailed = 1, kWrongUsage = 2, kNoDisplay = 3 };
 
-void say(std::FILE* stream, const QString& line) { std::fprintf(stream, "%s\n", qUtf8Printable(line)); }
+void printLine(std::FILE* stream, const QString& line) { std::fprintf(stream, "%s\n", qUtf8Printable(line)); }
 
 bool hasArgument(std::span<char*> arguments, std::initializer_list<std::string_view> wanted) {
   const auto end =
@@ -74,8 +74,8 @@ struct CommandLine {
 /// What the program answers without a window; nothing when it is to go on.
 std::optional<int> answerAtOnce(CommandLine& line, const QStringList& arguments) {
   if (!line.parser.parse(arguments)) {
-    say(stderr, line.parser.errorText());
-    say(stderr, QStringLiteral("usage: nascor [--write-pages FOLDER] [FILE...]"));
+    printLine(stderr, line.parser.errorText());
+    printLine(stderr, QStringLiteral("usage: nascor [--write-pages FOLDER] [FILE...]"));
     return kWrongUsage;
   }
   if (line.parser.isSet(line.help)) {
@@ -83,7 +83,7 @@ std::optional<int> answerAtOnce(CommandLine& line, const QStringList& arguments)
     return kAllWell;
   }
   if (line.parser.isSet(line.version)) {
-    say(stdout, QStringLiteral("Nascor %1\n%2").arg(programVersion(), disclaimer()));
+    printLine(stdout, QStringLiteral("Nascor %1\n%2").arg(programVersion(), disclaimer()));
     return kAllWell;
   }
   return std::nullopt;
@@ -108,8 +108,8 @@ void takeBeginningMessage(QtMsgType type, const QMessageLogContext&, const QStri
   if (message.startsWith(QLatin1String("QStandardPaths: XDG_RUNTIME_DIR not set"))) return;
   beginningMessages() << message.trimmed();
   if (type != QtFatalMsg) return;
-  say(stderr, QCoreApplication::translate("main", "nascor: no window can be shown: %1")
-                  .arg(beginningMessages().constFirst()));
+  printLine(stderr, QCoreApplication::translate("main", "nascor: no window can be shown: %1")
+                        .arg(beginningMessages().constFirst()));
   std::_Exit(kNoDisplay);
 }
 
@@ -144,14 +144,14 @@ int writePages(const CommandLine& line, const foundation::Services& services) {
   QString error;
   const auto wanted = line.pages.read(line.parser, error);
   if (!wanted) {
-    say(stderr, error);
+    printLine(stderr, error);
     return kWrongUsage;
   }
   const WrittenPages written = exportPages(*wanted, services);
   if (line.pages.arePathsWanted(line.parser)) {
-    for (const QString& path : written.paths) say(stdout, path);
+    for (const QString& path : written.paths) printLine(stdout, path);
   }
-  for (const QString& sentence : written.warnings + written.sentences) say(stderr, sentence);
+  for (const QString& sentence : written.warnings + written.sentences) printLine(stderr, sentence);
   return written.sentences.isEmpty() ? kAllWell : kFailed;
 }
 
@@ -232,14 +232,14 @@ int nascorMain(int argc, char** argv) {
   Application application(argc, argv);
   fonts.wait();
   qInstallMessageHandler(qtsHandler);
-  for (const QString& message : beginningMessages()) say(stderr, message);
+  for (const QString& message : beginningMessages()) printLine(stderr, message);
 
   installTranslation(QLocale::system().uiLanguages(),
                      QFile::decodeName(resourceFolder().c_str()) + QStringLiteral("/texts"));
   CommandLine line;
   if (const auto status = answerAtOnce(line, QCoreApplication::arguments())) return *status;
   if (const QString sentence = missingFontSentence(); !sentence.isEmpty()) {
-    say(stderr, sentence);
+    printLine(stderr, sentence);
     return kFailed;
   }
   using Pipes = nascor::posix::PosixFileStore::Pipes;
@@ -255,7 +255,7 @@ int main(int argc, char** argv) {
   try {
     return nascorMain(argc, argv);
   } catch (const std::exception& error) {
-    tellAbandoned(error);
+    logAbandoned(error);
     return kFailed;
   }
 }
