@@ -1,0 +1,90 @@
+// What the Compare window costs: a change of the examination with it and without it, by turns in one run, and its opening.
+//
+// usage: bench-compare DOCUMENT [TIMES]
+
+#include <QAction>
+#include <QApplication>
+#include <QDialog>
+#include <QDir>
+#include <QFile>
+#include <QLocale>
+#include <QTemporaryDir>
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <functional>
+#include <vector>
+
+#include "program/DocumentApplication.h"
+#include "program/Platform.h"
+
+namespace {
+
+using namespace nascor;
+
+double milliseconds(const std::function<void()>& what) {
+  using Clock = std::chrono::steady_clock;
+  const auto begin = Clock::now();
+  what();
+  // What is to be painted is painted here.
+  QCoreApplication::processEvents();
+  return std::chrono::duration<double, std::milli>(Clock::now() - begin).count();
+}
+
+double median(std::vector<double> times) {
+  std::ranges::sort(times);
+  return times.empty() ? 0.0 : times[times.size() / 2];
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  if (argc < 2) {
+    std::fputs("usage: bench-compare DOCUMENT [TIMES]\n", stderr);
+    return 2;
+  }
+  const int times = argc > 2 ? std::atoi(argv[2]) : 101;
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  const QApplication application(argc, argv);
+  QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
+  const QTemporaryDir home;
+  qputenv("XDG_CONFIG_HOME", QFile::encodeName(home.path()));
+  qputenv("XDG_STATE_HOME", QFile::encodeName(home.path()));
+  const QString copy = home.filePath(QStringLiteral("copy.nascor"));
+  QFile::copy(QFile::decodeName(argv[1]), copy);
+  qt::Platform platform{QLocale()};
+  qt::DocumentApplication documents(platform.services());
+  documents.openFiles({copy});
+  framework::ZuDocument* document = documents.documents().currentDocument();
+  qt::DocumentWindow* window = document ? documents.windowOf(*document) : nullptr;
+  if (!window || !document->filePath()) {
+    std::fputs("the document cannot be opened\n", stderr);
+    return 1;
+  }
+  QCoreApplication::processEvents();
+  const auto action = [window](const char* name) { return window->findChild<QAction*>(QLatin1String(name)); };
+  QAction& previous = *action("previousAction");
+  QAction& next = *action("nextAction");
+  QAction& compare = *action("compareAction");
+
+  const double first = milliseconds([&] { compare.trigger(); });
+  auto* dialog = window->findChild<QDialog*>(QStringLiteral("compareDialog"));
+  std::vector<double> opening;
+  std::vector<double> with;
+  std::vector<double> without;
+  for (int i = 0; i < times; ++i) {
+    QAction& change = i % 2 == 0 ? previous : next;
+    dialog->hide();
+    QCoreApplication::processEvents();
+    without.push_back(milliseconds([&] { change.trigger(); }));
+    opening.push_back(milliseconds([&] { compare.trigger(); }));
+    QAction& back = i % 2 == 0 ? next : previous;
+    with.push_back(milliseconds([&] { back.trigger(); }));
+  }
+  std::printf("opening, the first time\t%.2f ms\n", first);
+  std::printf("opening again\t%.2f ms\n", median(opening));
+  std::printf("another examination\t%.2f ms\n", median(without));
+  std::printf("another examination, compared\t%.2f ms\n", median(with));
+  return 0;
+}
