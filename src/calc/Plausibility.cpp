@@ -40,10 +40,13 @@ std::vector<Improbable> improbableLength(Measurement measurement, const Biometry
   std::vector<Improbable> found;
   if (age == 0.0) {
     if (value < shortestMean(measurement)) found.push_back(Improbable::shorterThanAnywhere);
-  } else if (!table.empty() && weekBeyondTable(table, age) == BeyondTable::no) {
+  } else if (!table.empty() && std::isfinite(age)) {
+    // Beyond the table its first or last week counts: who is younger than the first is not larger, nor who is older than the
+    // last smaller.
+    const BeyondTable beyond = weekBeyondTable(table, age);
     const double z = zScore(table, value, age);
-    if (z < -kFar) found.push_back(Improbable::farBelowStandard);
-    if (z > kFar) found.push_back(Improbable::farAboveStandard);
+    if (z < -kFar && beyond != BeyondTable::before) found.push_back(Improbable::farBelowStandard);
+    if (z > kFar && beyond != BeyondTable::after) found.push_back(Improbable::farAboveStandard);
   }
   if (measurement == Measurement::hc && lengths.bpd > 0.0 &&
       value < kLeastOfCircle * std::numbers::pi * lengths.bpd) {

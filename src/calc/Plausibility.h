@@ -25,7 +25,8 @@ enum class Improbable {
 std::optional<Improbable> improbableAge(double age);
 
 /// What is improbable about one of `lengths`, nothing for one that is 0.0. `table` is that of the length under the growth
-/// standard in force; within its weeks alone a length can be far from it. Outside the bounds nothing else is looked at.
+/// standard in force; before its first week a length can only be far above it, behind its last only far below. Outside the bounds nothing
+/// else is looked at.
 std::vector<Improbable> improbableLength(Measurement measurement, const Biometry& lengths, double age,
                                          const ReferenceTable& table);
 

@@ -47,9 +47,17 @@ TEST(ImprobableLength, liesMoreThan4StandardDeviationsFromTheMean) {
   EXPECT_THAT(about(Measurement::fl, {}), IsEmpty()) << "not measured";
 }
 
-TEST(ImprobableLength, isNotFarFromAWeekThatTheStandardDoesNotHave) {
-  for (const double age : {19.9, 30.1, -2.0, kNaN})
-    EXPECT_THAT(about(Measurement::bpd, {.bpd = 190.0}, age), IsEmpty()) << age;
+TEST(ImprobableLength, isMeasuredByTheNearestWeekThatTheStandardHas) {
+  for (const double age : {19.9, 7.0, -2.0}) {
+    EXPECT_THAT(about(Measurement::bpd, {.bpd = 190.0}, age), ElementsAre(Improbable::farAboveStandard))
+        << age;
+    EXPECT_THAT(about(Measurement::bpd, {.bpd = 5.0}, age), IsEmpty()) << age << ": it is younger";
+  }
+  for (const double age : {30.1, 50.0}) {
+    EXPECT_THAT(about(Measurement::bpd, {.bpd = 5.0}, age), ElementsAre(Improbable::farBelowStandard)) << age;
+    EXPECT_THAT(about(Measurement::bpd, {.bpd = 190.0}, age), IsEmpty()) << age << ": it is older";
+  }
+  EXPECT_THAT(about(Measurement::bpd, {.bpd = 190.0}, kNaN), IsEmpty());
   EXPECT_THAT(improbableLength(Measurement::bpd, {.bpd = 190.0}, 20.0, {}), IsEmpty());
 }
 
