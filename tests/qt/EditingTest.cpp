@@ -179,6 +179,52 @@ TEST_F(Editing, replacesANumberThatIsClickedIntoWhereTheProgramHasPutTheFocus) {
   EXPECT_FALSE(edit.hasSelectedText()) << "as does one into what is being typed";
 }
 
+TEST_F(Editing, replacesANumberThatIsClickedIntoAfterALookAtAnotherWindow) {
+  open(twins());
+  auto& edit = widget<QLineEdit>("hcField");
+  const auto clickInto = [&] {
+    QTest::mouseClick(&edit, Qt::LeftButton, {}, QPoint(edit.width() - 5, edit.height() / 2));
+    settle();
+  };
+  const auto lookElsewhere = [this] {
+    QWidget other;
+    other.show();
+    other.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
+    other.close();
+    front();
+  };
+  clickInto();
+  lookElsewhere();
+  clickInto();
+  EXPECT_EQ(edit.selectedText(), edit.text());
+  QTest::keyClicks(&edit, QStringLiteral("17"));
+  lookElsewhere();
+  clickInto();
+  EXPECT_FALSE(edit.hasSelectedText()) << "what was begun to type goes on";
+}
+
+TEST_F(Editing, selectsTheWholeNumberByADoubleClick) {
+  open(singleton());
+  auto& edit = widget<QLineEdit>("bpdField");
+  QTest::mouseClick(&edit, Qt::LeftButton, {}, QPoint(8, edit.height() / 2));
+  QTest::mouseDClick(&edit, Qt::LeftButton, {}, QPoint(8, edit.height() / 2));
+  settle();
+  EXPECT_THAT(edit.text().toStdString(), testing::HasSubstr("."));
+  EXPECT_EQ(edit.selectedText(), edit.text());
+}
+
+TEST_F(Editing, selectsNothingInAFieldThatDoesNotGetTheFocus) {
+  open(singleton());
+  type("hcField", "999");
+  auto& edit = widget<QLineEdit>("bpdField");
+  QTest::mouseClick(&edit, Qt::LeftButton, {}, QPoint(edit.width() - 5, edit.height() / 2));
+  settle();
+  EXPECT_EQ(focus(), "hcField");
+  EXPECT_FALSE(edit.hasSelectedText());
+  press(Qt::Key_Escape);
+}
+
 TEST_F(Editing, placesTheCaretInAReferenceIDThatIsClickedInto) {
   open(singleton());
   auto& edit = widget<QLineEdit>("referenceIDField");
