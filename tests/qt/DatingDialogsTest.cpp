@@ -83,6 +83,35 @@ class TheDialogs : public WindowTest {
   QPointer<qt::DocumentWindow> window;
 };
 
+TEST_F(TheDialogs, beginAnewWhenTheyAreOpenedAgain) {
+  open(patient({{{2026, 10, 24}, {30.0}}}));
+  window = &front();
+  const auto openLMP = [this] {
+    action("eddFromLMPAction").trigger();
+    settle();
+    if (QApplication::activeModalWidget()) key(Qt::Key_Return);  // Modify
+    ASSERT_TRUE(isActive(dialog("lmpWindow")));
+  };
+  openLMP();
+  auto& cycle = in<QLineEdit>("lmpWindowCycleField");
+  const auto clickInto = [&cycle] {
+    QTest::mouseClick(&cycle, Qt::LeftButton, {}, QPoint(cycle.width() - 5, cycle.height() / 2));
+    settle();
+  };
+  clickInto();
+  keys("30");
+  auto* buttons = dialog("lmpWindow").findChild<QDialogButtonBox*>();
+  QPushButton& cancel = *buttons->button(QDialogButtonBox::Cancel);
+  cancel.setFocus();
+  EXPECT_TRUE(buttons->button(QDialogButtonBox::Ok)->isDefault());
+  QTest::mouseClick(&cancel, Qt::LeftButton);
+  settle();
+  openLMP();
+  EXPECT_TRUE(buttons->button(QDialogButtonBox::Ok)->isDefault()) << "Return presses OK";
+  clickInto();
+  EXPECT_EQ(cycle.selectedText(), cycle.text());
+}
+
 TEST_F(TheDialogs, areInTheMenuOfThePatient) {
   openWindow(undated());
   for (const auto& [item, panel] :

@@ -1,7 +1,9 @@
 #include "window/PanelDialog.h"
 
+#include <QDialogButtonBox>
 #include <QEvent>
 #include <QLayout>
+#include <QPushButton>
 #include <algorithm>
 #include <utility>
 
@@ -19,6 +21,10 @@ void PanelDialog::bindPanel() {
     if (fromUtf8(panel->name()) == objectName()) panel_ = panel;
   }
   foundation::required(panel_);
+  // With the focus it would become the button that Return presses, this time and the next.
+  for (QDialogButtonBox* box : findChildren<QDialogButtonBox*>()) {
+    if (QPushButton* cancel = box->button(QDialogButtonBox::Cancel)) cancel->setAutoDefault(false);
+  }
 }
 
 void PanelDialog::center() {
