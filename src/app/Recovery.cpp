@@ -4,6 +4,7 @@
 #include <array>
 #include <memory>
 #include <optional>
+#include <span>
 #include <stdexcept>
 #include <string_view>
 #include <utility>
@@ -20,6 +21,7 @@ namespace nascor::app {
 namespace {
 
 using foundation::RecoveryFile;
+using foundation::RecoveryOrigin;
 using foundation::translatable;
 using framework::ZuDocument;
 using model::PatientDifference;
@@ -53,6 +55,13 @@ constexpr std::array kLabels{
     Label{"crlStandard", translatable("Recovery", "Formula for the crown-rump length")},
     Label{"gravida", translatable("Recovery", "Gravidity")}};
 
+/// The length and 64 bits (FNV-1a), which tell two states of a file apart.
+std::string digestOf(std::span<const std::byte> bytes) {
+  std::uint64_t hash = 0xcbf29ce484222325U;
+  for (const std::byte byte : bytes) hash = (hash ^ std::to_integer<std::uint64_t>(byte)) * 0x100000001b3U;
+  return std::to_string(bytes.size()) + " " + std::to_string(hash);
+}
+
 std::string_view labelOf(std::string_view key) {
   const auto found = std::ranges::find(kLabels, key, &Label::key);
   return found == kLabels.end() ? key : found->text;
@@ -78,11 +87,11 @@ bool Recovery::hasWork() const {
 
 bool Recovery::keep(ZuDocument& document) {
   std::vector<std::byte> contents = document.contentsAsTyped();
-  std::string path = document.filePath().value_or("");
+  RecoveryOrigin origin = originOf(document);
   Kept& kept = kept_[&document];
-  if (kept.isWritten && kept.contents == contents && kept.path == path) return true;
+  if (kept.isWritten && kept.contents == contents && kept.origin == origin) return true;
   if (kept.number == 0) kept.number = ++lastNumber_;
-  const auto error = store_.keep(kept.number, path, contents);
+  const auto error = store_.keep(kept.number, origin, contents);
   kept.isWritten = !error;
   if (error) {
     document.remark(
@@ -91,7 +100,7 @@ bool Recovery::keep(ZuDocument& document) {
     return false;
   }
   kept.contents = std::move(contents);
-  kept.path = std::move(path);
+  kept.origin = std::move(origin);
   return true;
 }
 
@@ -106,6 +115,21 @@ std::size_t Recovery::offer() {
   std::size_t opened = 0;
   for (const RecoveryFile& file : store_.takeAbandoned()) opened += offer(file) ? 1 : 0;
   return opened;
+}
+
+RecoveryOrigin Recovery::originOf(const ZuDocument& document) const {
+  if (!document.filePath()) return {};
+  // The next program may run in another folder.
+  RecoveryOrigin origin{.document = services_.files.resolvedPath(*document.filePath())};
+  if (document.fileContents()) origin.basis = digestOf(*document.fileContents());
+  return origin;
+}
+
+bool Recovery::isFileNewer(const RecoveryFile& file) const {
+  if (file.origin.document.empty() || file.origin.basis.empty()) return false;
+  const auto contents = services_.files.contents(file.origin.document);
+  const auto* bytes = std::get_if<std::vector<std::byte>>(&contents);
+  return bytes && digestOf(*bytes) != file.origin.basis;
 }
 
 bool Recovery::offer(const RecoveryFile& file) {
@@ -124,11 +148,11 @@ bool Recovery::offer(const RecoveryFile& file) {
   }
 
   const PatientRecord none;
-  const std::unique_ptr<PatientRecord> saved = savedPatient(file.document);
+  const std::unique_ptr<PatientRecord> saved = savedPatient(file.origin.document);
   const auto differences = patient
                                ? model::patientDifferences(saved ? *saved : none, *patient, kMostDifferences)
                                : std::vector<PatientDifference>();
-  if (differences.empty() || (file.document.empty() && !holdsAnything(*patient))) {
+  if (differences.empty() || (file.origin.document.empty() && !holdsAnything(*patient))) {
     store_.remove(file);
     return false;
   }
@@ -143,7 +167,7 @@ bool Recovery::offer(const RecoveryFile& file) {
   enum : std::size_t { kRecover = 0, kDiscard = 1 };
   if (answer == kDiscard) store_.remove(file);
   if (answer != kRecover) return false;
-  ZuDocument& document = documents_.recoverDocument(*bytes, file.document);
+  ZuDocument& document = documents_.recoverDocument(*bytes, file.origin.document, isFileNewer(file));
   // Not before it is kept again: it may be the only copy.
   if (keep(document)) store_.remove(file);
   return true;
@@ -179,11 +203,17 @@ std::string Recovery::informationOf(const RecoveryFile& file, const PatientRecor
   std::string information = localizer.text("Recovery", "Patient:");
   information.append(" ").append(identifier.empty() ? "-" : identifier);
   information.append("\n").append(localizer.text("Recovery", "Document:")).append(" ");
-  information += file.document.empty() ? localizer.text("Recovery", "never saved") : file.document;
+  information +=
+      file.origin.document.empty() ? localizer.text("Recovery", "never saved") : file.origin.document;
   information.append("\n")
       .append(localizer.text("Recovery", "Last kept:"))
       .append(" ")
       .append(textOf(file.saved));
+
+  if (isFileNewer(file)) {
+    information.append("\n\n").append(localizer.text(
+        "Recovery", "The document was saved again since. What was saved then is not in these changes."));
+  }
 
   std::vector<std::string> lines;
   const auto add = [&](std::string line) {

@@ -42,7 +42,7 @@ class Recovery {
   struct Kept {
     std::uint64_t number = 0;  ///< from 1
     std::vector<std::byte> contents;
-    std::string path;        ///< of the document's own file; empty for none
+    foundation::RecoveryOrigin origin;
     bool isWritten = false;  ///< whether the store took these contents
   };
 
@@ -53,6 +53,9 @@ class Recovery {
   std::string informationOf(const foundation::RecoveryFile& file, const model::PatientRecord& patient,
                             const std::vector<model::PatientDifference>& differences) const;
   std::string textOf(const foundation::Date& moment) const;
+  foundation::RecoveryOrigin originOf(const framework::ZuDocument& document) const;
+  /// Whether the document's file holds something else than what the changes were made to.
+  bool isFileNewer(const foundation::RecoveryFile& file) const;
   /// The patient in the document at `path`; null where there is none that can be read.
   std::unique_ptr<model::PatientRecord> savedPatient(const std::string& path) const;
 

@@ -12,11 +12,20 @@
 
 namespace nascor::foundation {
 
+/// What changes were made to.
+struct RecoveryOrigin {
+  std::string
+      document{};       ///< the absolute path of the document's own file; empty for one that was never saved
+  std::string basis{};  ///< a digest of what that file held; empty where it is not known
+
+  friend bool operator==(const RecoveryOrigin&, const RecoveryOrigin&) = default;
+};
+
 /// A document with changes that were not saved, as it was kept against the end of the program.
 struct RecoveryFile {
   std::string path;
-  std::string document{};  ///< the path of the document's own file; empty for one that was never saved
-  Date saved{};            ///< when it was kept last
+  RecoveryOrigin origin{};
+  Date saved{};  ///< when it was kept last
 };
 
 /// Where documents with unsaved changes are kept against the end of the program. Each is a file by itself, which holds the
@@ -25,9 +34,9 @@ class RecoveryStore {
  public:
   virtual ~RecoveryStore() = default;
 
-  /// Keeps `bytes` of the document that this program calls `number`, whose own file is at `document` (empty for none), in
-  /// place of what was kept of it before. On failure that stays, and the error says why.
-  virtual std::optional<FileError> keep(std::uint64_t number, const std::string& document,
+  /// Keeps `bytes` of the document that this program calls `number` in place of what was kept of it before. On failure that
+  /// stays, and the error says why.
+  virtual std::optional<FileError> keep(std::uint64_t number, const RecoveryOrigin& origin,
                                         std::span<const std::byte> bytes) = 0;
   /// Removes what was kept of that document, if anything.
   virtual void forget(std::uint64_t number) = 0;

@@ -155,10 +155,10 @@ bool DocumentController::replaceDocument(ZuDocument& document, const std::string
   return true;
 }
 
-ZuDocument& DocumentController::recoverDocument(std::span<const std::byte> contents,
-                                                const std::string& path) {
+ZuDocument& DocumentController::recoverDocument(std::span<const std::byte> contents, const std::string& path,
+                                                bool isFileNewer) {
   auto document = factory_();
-  document->takeRecovered(contents, path);
+  document->takeRecovered(contents, path, isFileNewer);
   ZuDocument& added = add(std::move(document));
   added.windowControllerDidLoadNib();
   added.updateChangeCount(ZuDocument::ChangeType::changeDone);

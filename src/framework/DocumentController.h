@@ -57,7 +57,7 @@ class DocumentController {
 
   /// A document of contents that were kept against the end of the program (ZuDocument::takeRecovered), in front and edited.
   /// Throws std::runtime_error for contents that are none.
-  ZuDocument& recoverDocument(std::span<const std::byte> contents, const std::string& path);
+  ZuDocument& recoverDocument(std::span<const std::byte> contents, const std::string& path, bool isFileNewer);
 
   /// The document in front; null for none.
   ZuDocument* currentDocument() const;

@@ -59,11 +59,15 @@ std::optional<FileError> ZuDocument::readFromFile(const std::string& path) {
   return std::nullopt;
 }
 
-void ZuDocument::takeRecovered(std::span<const std::byte> data, const std::string& path) {
+void ZuDocument::takeRecovered(std::span<const std::byte> data, const std::string& path, bool isFileNewer) {
   loadDataRepresentation(data, "");
   docIsBlank_ = false;
   setFilePath(path.empty() ? std::nullopt : std::optional(path));
   if (!filePath_) return;
+  if (isFileNewer) {
+    fileContents_.emplace();  // which no document is
+    return;
+  }
   auto contents = services_.files.contents(path);
   if (auto* bytes = std::get_if<std::vector<std::byte>>(&contents)) fileContents_ = std::move(*bytes);
 }

@@ -69,8 +69,11 @@ class ZuDocument {
   /// then the document is untitled and blank, and never overwrites it. On failure nothing changes.
   std::optional<foundation::FileError> readFromFile(const std::string& path);
   /// Takes contents that were kept against the end of the program, whose own file is at `path`; empty for none. What that
-  /// file holds now counts as read. Throws as `loadDataRepresentation` does.
-  void takeRecovered(std::span<const std::byte> data, const std::string& path);
+  /// file holds now counts as read, unless `isFileNewer`: then it was changed by others. Throws as `loadDataRepresentation`
+  /// does.
+  void takeRecovered(std::span<const std::byte> data, const std::string& path, bool isFileNewer);
+  /// What the document's file held when this document read or wrote it last; nothing before.
+  const std::optional<std::vector<std::byte>>& fileContents() const { return fileContents_; }
   /// Whether the document's file holds something else than when this document read or wrote it last. A file that is gone
   /// does not: saving loses nothing of it.
   bool isFileChangedByOthers() const;

@@ -69,7 +69,8 @@ class TheRecovery : public testing::Test {
   }
   void leave(std::vector<std::byte> bytes, const std::string& document) {
     platform.files.files["/recovery/left.nascor"] = std::move(bytes);
-    store.abandoned = {{.path = "/recovery/left.nascor", .document = document, .saved = {817041600.0}}};
+    store.abandoned = {
+        {.path = "/recovery/left.nascor", .origin = {.document = document}, .saved = {817041600.0}}};
   }
   bool isLeft() { return platform.files.files.contains("/recovery/left.nascor"); }
 
@@ -220,6 +221,35 @@ TEST_F(TheRecovery, opensWhatIsToBeRecoveredAsEdited) {
   EXPECT_TRUE(platform.documents.saveDocument(current()));
   EXPECT_THAT(platform.alerts.asked, IsEmpty()) << "the file is the one that was compared";
   EXPECT_EQ(platform.files.files.at(kFile), bytesOf(edited));
+}
+
+TEST_F(TheRecovery, remembersTheWholePathOfAFileAndWhatItHeld) {
+  platform.files.resolved["t.nascor"] = "/documents/t.nascor";
+  platform.files.files["t.nascor"] = bytesOf(patient());
+  foundation::FileError error;
+  auto& document = dynamic_cast<NCDocument&>(*platform.documents.openDocument("t.nascor", error));
+  type(document, document.flField(), "33.5");
+  recovery.keepChanges();
+  EXPECT_EQ(store.documents.at(1), "/documents/t.nascor");
+  EXPECT_NE(store.bases.at(1), "");
+}
+
+TEST_F(TheRecovery, asksBeforeItReplacesWhatWasSavedSince) {
+  NCDocument& edited = open();
+  type(edited, edited.flField(), "33.5");
+  recovery.keepChanges();
+  const std::vector<std::byte> left = platform.files.files.at(MemoryRecoveryStore::pathOf(1));
+  // The program ended; then the file was saved again.
+  model::PatientRecord later = patient();
+  later.setGravida(3);
+  platform.files.files[kFile] = bytesOf(later);
+  leave(left, kFile);
+  store.abandoned.front().origin.basis = store.bases.at(1);
+  Recovery next(platform.services(), platform.documents, platform.alerts, store);
+  platform.alerts.choice = "Recover";
+  EXPECT_EQ(next.offer(), 1U);
+  EXPECT_THAT(platform.alerts.choiceInformation.back(), HasSubstr("saved again since"));
+  EXPECT_TRUE(current().isFileChangedByOthers());
 }
 
 TEST_F(TheRecovery, leavesAFileThatItCannotKeepAnew) {

@@ -67,7 +67,7 @@ TEST_F(ARecoveryFolder, isItsOwnersAloneWhateverTheUmask) {
     fs::remove_all(scratch_ / "state");
     const mode_t before = ::umask(mask);
     RecoveryFolder kept(path());
-    const auto error = kept.keep(1, "/documents/a.nascor", bytesOf("one"));
+    const auto error = kept.keep(1, {"/documents/a.nascor"}, bytesOf("one"));
     ::umask(before);
     ASSERT_FALSE(error) << error->reason;
     EXPECT_EQ(modeOf(path()), mode_t{0700});
@@ -81,7 +81,7 @@ TEST_F(ARecoveryFolder, thatIsOpenToOthersIsClosedToThem) {
   fs::create_directories(path());
   ::chmod(path().c_str(), 0777);
   RecoveryFolder kept(path());
-  ASSERT_FALSE(kept.keep(1, "", bytesOf("one")));
+  ASSERT_FALSE(kept.keep(1, {""}, bytesOf("one")));
   EXPECT_EQ(modeOf(path()), mode_t{0700});
 }
 
@@ -89,26 +89,27 @@ TEST_F(ARecoveryFolder, saysWhyNothingCanBeKept) {
   fs::create_directories(scratch_ / "state");
   std::ofstream(scratch_ / "state" / "nascor") << "a file";
   RecoveryFolder kept(path());
-  const auto error = kept.keep(1, "", bytesOf("one"));
+  const auto error = kept.keep(1, {""}, bytesOf("one"));
   ASSERT_TRUE(error);
   EXPECT_EQ(error->reason, "Not a directory");
 }
 
 TEST_F(ARecoveryFolder, keepsTheLastOfEachDocument) {
   RecoveryFolder kept(path());
-  ASSERT_FALSE(kept.keep(1, "/documents/a.nascor", bytesOf("one")));
-  ASSERT_FALSE(kept.keep(1, "/documents/a.nascor", bytesOf("two")));
-  ASSERT_FALSE(kept.keep(2, "", bytesOf("other")));
+  ASSERT_FALSE(kept.keep(1, {"/documents/a.nascor"}, bytesOf("one")));
+  ASSERT_FALSE(kept.keep(1, {"/documents/a.nascor"}, bytesOf("two")));
+  ASSERT_FALSE(kept.keep(2, {""}, bytesOf("other")));
   const auto files = kept.files();
   ASSERT_EQ(files.size(), 2U);
   EXPECT_THAT(textsOf(files), testing::UnorderedElementsAre("two", "other"));
-  for (const auto& file : files) EXPECT_EQ(file.document, textOf(file) == "two" ? "/documents/a.nascor" : "");
+  for (const auto& file : files)
+    EXPECT_EQ(file.origin.document, textOf(file) == "two" ? "/documents/a.nascor" : "");
 }
 
 TEST_F(ARecoveryFolder, isEmptyAfterACleanEnd) {
   {
     RecoveryFolder kept(path());
-    ASSERT_FALSE(kept.keep(1, "/documents/a.nascor", bytesOf("one")));
+    ASSERT_FALSE(kept.keep(1, {"/documents/a.nascor"}, bytesOf("one")));
     kept.forget(1);
     kept.forget(2);  // was never kept
     EXPECT_THAT(kept.files(), IsEmpty());
@@ -118,7 +119,7 @@ TEST_F(ARecoveryFolder, isEmptyAfterACleanEnd) {
 
 TEST_F(ARecoveryFolder, neverHandsOutWhatARunningProgramKeeps) {
   RecoveryFolder running(path());
-  ASSERT_FALSE(running.keep(1, "", bytesOf("one")));
+  ASSERT_FALSE(running.keep(1, {""}, bytesOf("one")));
   EXPECT_THAT(folder().takeAbandoned(), IsEmpty());
   EXPECT_THAT(running.takeAbandoned(), IsEmpty()) << "nor its own";
   EXPECT_THAT(textsOf(folder().files()), ElementsAre("one")) << "what lies there can be seen";
@@ -128,7 +129,7 @@ TEST_F(ARecoveryFolder, handsOutWhatAKilledProgramKept) {
   const pid_t child = ::fork();
   if (child == 0) {
     RecoveryFolder kept(path());
-    const bool isKept = !kept.keep(7, "/documents/a.nascor", bytesOf("one"));
+    const bool isKept = !kept.keep(7, {"/documents/a.nascor", "3 45"}, bytesOf("one"));
     ::raise(isKept ? SIGKILL : SIGABRT);
   }
   int status = 0;
@@ -138,7 +139,8 @@ TEST_F(ARecoveryFolder, handsOutWhatAKilledProgramKept) {
   RecoveryFolder next(path());
   const auto taken = next.takeAbandoned();
   ASSERT_THAT(textsOf(taken), ElementsAre("one"));
-  EXPECT_EQ(taken.front().document, "/documents/a.nascor");
+  EXPECT_EQ(taken.front().origin.document, "/documents/a.nascor");
+  EXPECT_EQ(taken.front().origin.basis, "3 45");
   EXPECT_THAT(folder().takeAbandoned(), IsEmpty()) << "another program that starts meanwhile gets nothing";
   next.remove(taken.front());
   EXPECT_THAT(names(), IsEmpty());
@@ -147,7 +149,7 @@ TEST_F(ARecoveryFolder, handsOutWhatAKilledProgramKept) {
 TEST_F(ARecoveryFolder, handsOutAgainWhatWasLeftAlone) {
   {
     RecoveryFolder kept(path());
-    ASSERT_FALSE(kept.keep(1, "", bytesOf("one")));
+    ASSERT_FALSE(kept.keep(1, {""}, bytesOf("one")));
   }
   EXPECT_THAT(textsOf(folder().takeAbandoned()), ElementsAre("one"));
   EXPECT_THAT(textsOf(folder().takeAbandoned()), ElementsAre("one"));
@@ -164,10 +166,10 @@ TEST_F(ARecoveryFolder, handsOutFilesWithoutALockToo) {
 TEST_F(ARecoveryFolder, goesOnWhereAnEarlierProgramHadTheSameNumber) {
   {
     RecoveryFolder earlier(path());
-    ASSERT_FALSE(earlier.keep(1, "", bytesOf("earlier")));
+    ASSERT_FALSE(earlier.keep(1, {""}, bytesOf("earlier")));
   }
   RecoveryFolder kept(path());
-  ASSERT_FALSE(kept.keep(1, "", bytesOf("later")));
+  ASSERT_FALSE(kept.keep(1, {""}, bytesOf("later")));
   EXPECT_THAT(textsOf(kept.files()), testing::UnorderedElementsAre("earlier", "later"));
 }
 

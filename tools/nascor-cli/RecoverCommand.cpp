@@ -40,14 +40,15 @@ void list(Console& console) {
     foundation::JsonText json(console.out());
     json.beginObject();
     writeText(json, "recovery", file.path);
-    writeText(json, "document", file.document.empty() ? std::nullopt : std::optional(file.document));
+    writeText(json, "document",
+              file.origin.document.empty() ? std::nullopt : std::optional(file.origin.document));
     writeText(json, "patient", patient.maternalIDString());
     json.key("saved").number(file.saved.secondsSince2001);
     json.key("fetuses").integer(patient.numberOfFetuses());
     json.key("examinations").integer(static_cast<std::int64_t>(patient.ncRecordsArray().size()));
     json.key("differs").beginArray();
     for (const auto& difference :
-         model::patientDifferences(savedPatient(file.document), patient, kMostDifferences)) {
+         model::patientDifferences(savedPatient(file.origin.document), patient, kMostDifferences)) {
       json.text(difference.key);
     }
     json.endArray().endObject();

@@ -22,6 +22,7 @@ namespace {
 
 using foundation::FileError;
 using foundation::RecoveryFile;
+using foundation::RecoveryOrigin;
 
 constexpr const char* kLock = ".lock";
 constexpr const char* kData = ".nascor";
@@ -91,6 +92,19 @@ int lockedFile(const std::string& path, int flags) {
   return -1;
 }
 
+/// Path and digest, with a NUL between them, which no path has; the path alone where there is no digest.
+std::string textOf(const RecoveryOrigin& origin) {
+  std::string text = origin.document;
+  if (!origin.basis.empty()) text.append(1, '\0').append(origin.basis);
+  return text;
+}
+
+RecoveryOrigin originIn(std::span<const std::byte> bytes) {
+  const std::string text(reinterpret_cast<const char*>(bytes.data()), bytes.size());
+  const std::size_t end = text.find('\0');
+  return {.document = text.substr(0, end), .basis = end == std::string::npos ? "" : text.substr(end + 1)};
+}
+
 std::vector<std::string> namesIn(const std::string& folder) {
   std::vector<std::string> names;
   std::error_code error;
@@ -139,18 +153,19 @@ std::optional<FileError> RecoveryFolder::prepare() {
   return systemError(EEXIST);
 }
 
-std::optional<FileError> RecoveryFolder::keep(std::uint64_t number, const std::string& document,
+std::optional<FileError> RecoveryFolder::keep(std::uint64_t number, const RecoveryOrigin& origin,
                                               std::span<const std::byte> bytes) {
   if (auto error = prepare()) return error;
   const std::string stem = name_ + "-" + std::to_string(number);
-  if (const auto known = origins_.find(number); known == origins_.end() || known->second != document) {
+  if (const auto known = origins_.find(number); known == origins_.end() || known->second != origin) {
     const std::string path = pathOf(stem, kOrigin);
-    if (document.empty()) {
+    const std::string text = textOf(origin);
+    if (origin.document.empty()) {
       ::unlink(path.c_str());
-    } else if (auto error = store_.replaceContents(path, std::as_bytes(std::span(document)))) {
+    } else if (auto error = store_.replaceContents(path, std::as_bytes(std::span(text)))) {
       return error;
     }
-    origins_.insert_or_assign(number, document);
+    origins_.insert_or_assign(number, origin);
   }
   return store_.replaceContents(pathOf(stem, kData), bytes);
 }
@@ -227,11 +242,9 @@ std::vector<RecoveryFile> RecoveryFolder::files() const {
     const std::string stem(stemOf(entry.name, kData));
     if (programOf(stem).empty()) continue;
     const auto origin = store_.contents(pathOf(stem, kOrigin));
-    const auto* path = std::get_if<std::vector<std::byte>>(&origin);
-    found.push_back({.path = entry.path,
-                     .document = path ? std::string(reinterpret_cast<const char*>(path->data()), path->size())
-                                      : std::string(),
-                     .saved = entry.modified});
+    const auto* bytes = std::get_if<std::vector<std::byte>>(&origin);
+    found.push_back(
+        {.path = entry.path, .origin = bytes ? originIn(*bytes) : RecoveryOrigin(), .saved = entry.modified});
   }
   std::ranges::sort(found, [](const RecoveryFile& one, const RecoveryFile& other) {
     return one.saved.secondsSince2001 != other.saved.secondsSince2001

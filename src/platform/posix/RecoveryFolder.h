@@ -33,7 +33,7 @@ class RecoveryFolder final : public foundation::RecoveryStore {
   /// The folder in the user's state folder: `$XDG_STATE_HOME/nascor/recovery`, else `~/.local/state/nascor/recovery`.
   static std::string usualPath();
 
-  std::optional<foundation::FileError> keep(std::uint64_t number, const std::string& document,
+  std::optional<foundation::FileError> keep(std::uint64_t number, const foundation::RecoveryOrigin& origin,
                                             std::span<const std::byte> bytes) override;
   void forget(std::uint64_t number) override;
   std::vector<foundation::RecoveryFile> takeAbandoned() override;
@@ -55,7 +55,7 @@ class RecoveryFolder final : public foundation::RecoveryStore {
   PosixFileStore store_;
   std::string name_;                  ///< this program's; empty before it keeps anything
   std::map<std::string, int> locks_;  ///< descriptors of the locks that this program holds, by name
-  std::map<std::uint64_t, std::string> origins_;  ///< as written, by number
+  std::map<std::uint64_t, foundation::RecoveryOrigin> origins_;  ///< as written, by number
 };
 
 }  // namespace nascor::posix

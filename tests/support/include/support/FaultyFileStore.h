@@ -56,7 +56,11 @@ class FaultyFileStore final : public foundation::FileStore {
            std::ranges::any_of(files, [&](const auto& file) { return file.first.starts_with(path + "/"); });
   }
   std::string documentsFolder() const override { return "/documents"; }
-  std::string resolvedPath(const std::string& path) const override { return path; }
+  std::string resolvedPath(const std::string& path) const override {
+    const auto found = resolved.find(path);
+    return found == resolved.end() ? path : found->second;
+  }
+  std::map<std::string, std::string, std::less<>> resolved;  ///< the absolute paths of others
   std::map<std::string, foundation::Date, std::less<>> modificationDates;
 
   int writes() const { return writes_; }  ///< how often `replaceContents` was called

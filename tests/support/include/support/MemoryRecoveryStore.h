@@ -19,10 +19,11 @@ class MemoryRecoveryStore final : public foundation::RecoveryStore {
     return "/recovery/" + std::to_string(number) + ".nascor";
   }
 
-  std::optional<foundation::FileError> keep(std::uint64_t number, const std::string& document,
+  std::optional<foundation::FileError> keep(std::uint64_t number, const foundation::RecoveryOrigin& origin,
                                             std::span<const std::byte> bytes) override {
     ++timesKept;
-    documents[number] = document;
+    documents[number] = origin.document;
+    bases[number] = origin.basis;
     return files_.replaceContents(pathOf(number), bytes);
   }
   void forget(std::uint64_t number) override { files_.files.erase(pathOf(number)); }
@@ -31,6 +32,7 @@ class MemoryRecoveryStore final : public foundation::RecoveryStore {
 
   std::vector<foundation::RecoveryFile> abandoned;
   std::map<std::uint64_t, std::string> documents;  ///< the paths of the documents that were kept
+  std::map<std::uint64_t, std::string> bases;
   int timesKept = 0;
 
  private:
