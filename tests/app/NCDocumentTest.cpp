@@ -378,6 +378,7 @@ TEST_F(ADocument, storesAndShowsNothingWithoutAFormForDates) {
     foundation::ShortDateForm shortDateForm() const override {
       return {.pattern = pattern, .monthNames = {}};
     }
+    std::string longDateText(const foundation::CivilDay&) const override { return {}; }
     char decimalSign() const override { return '.'; }
     std::string upperCased(std::string_view text) const override { return std::string(text); }
   } localizer;

@@ -228,6 +228,7 @@ TEST_F(TheReport, withoutAFormForDatesIsAbandoned) {
   struct NoDates final : foundation::Localizer {
     std::string text(std::string_view, std::string_view key) const override { return std::string(key); }
     foundation::ShortDateForm shortDateForm() const override { return {.pattern = "", .monthNames = {}}; }
+    std::string longDateText(const foundation::CivilDay&) const override { return {}; }
     char decimalSign() const override { return '.'; }
     std::string upperCased(std::string_view text) const override { return std::string(text); }
   };
