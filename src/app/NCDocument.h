@@ -364,7 +364,7 @@ class NCDocument final : public framework::CorvelDocument,
   /// The planned gestation that the file holds, which the window may show as a whole day or as the latest that is
   /// permitted. Written again as long as nothing else is planned.
   std::optional<double> gestationInFile_;
-  foundation::NotificationCenter::Subscription showAllSubscription_;
+  foundation::Subscription showAllSubscription_;
 
   framework::IntegerField gravidaField_;
   framework::NumberField bpdField_;

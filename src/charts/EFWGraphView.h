@@ -26,7 +26,7 @@ class EFWGraphView final : public TitledGraphView {
  private:
   /// The measurement charts of the document whose announcement is still to come.
   std::vector<const NascorGraphView*> updatingGraphArray_;
-  foundation::NotificationCenter::Subscription subscription_;
+  foundation::Subscription subscription_;
 };
 
 }  // namespace nascor::charts

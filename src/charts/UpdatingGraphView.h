@@ -46,7 +46,7 @@ class UpdatingGraphView : public framework::CorvelGraphView {
  private:
   ChartDocument* owningDocument_ = nullptr;
   calc::ReferenceTable standardData_;
-  foundation::NotificationCenter::Subscription standardsSubscription_;
+  foundation::Subscription standardsSubscription_;
 };
 
 }  // namespace nascor::charts

@@ -4,21 +4,14 @@
 
 namespace nascor::foundation {
 
-NotificationCenter::Subscription NotificationCenter::subscribe(NotificationName name, Handler handler) {
-  auto observer = std::make_shared<Observer>(Observer{name, std::move(handler)});
-  std::erase_if(observers_, [](const auto& known) { return known.expired(); });
-  observers_.push_back(observer);
-  return Subscription(std::move(observer));
+Subscription NotificationCenter::subscribe(NotificationName name, Handler handler) {
+  return posted_.subscribe([name, handler = std::move(handler)](const Notification& notification) {
+    if (notification.name == name) handler(notification);
+  });
 }
 
-void NotificationCenter::post(NotificationName name, const NotificationSender* sender) {
-  const auto present = observers_;
-  for (const auto& known : present) {
-    // The handler stays alive while it runs, even when it ends its own subscription.
-    if (const auto observer = known.lock(); observer && observer->name == name) {
-      observer->handler(Notification{name, sender});
-    }
-  }
+void NotificationCenter::post(NotificationName name, const NotificationSender* sender) const {
+  posted_(Notification{name, sender});
 }
 
 }  // namespace nascor::foundation

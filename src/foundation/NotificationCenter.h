@@ -1,9 +1,9 @@
 #pragma once
 
 #include <functional>
-#include <memory>
 #include <string_view>
-#include <vector>
+
+#include "foundation/Signal.h"
 
 namespace nascor::foundation {
 
@@ -41,37 +41,17 @@ struct Notification {
 
 /// Delivers notifications at once: when `post` returns, every observer has acted. Observers hear any sender.
 class NotificationCenter {
-  struct Observer;
-
  public:
   using Handler = std::function<void(const Notification&)>;
-
-  /// Ends the subscription when it is destroyed or reset. May outlive the centre.
-  class Subscription {
-   public:
-    Subscription() = default;
-    Subscription(Subscription&&) = default;
-    Subscription& operator=(Subscription&&) = default;
-    void reset() { observer_.reset(); }
-
-   private:
-    friend class NotificationCenter;
-    explicit Subscription(std::shared_ptr<Observer> observer) : observer_(std::move(observer)) {}
-    std::shared_ptr<Observer> observer_;
-  };
 
   [[nodiscard]] Subscription subscribe(NotificationName name, Handler handler);
 
   /// Calls the handlers in the order of their subscriptions. Handlers may subscribe, unsubscribe and post:
   /// one that was removed meanwhile is not called any more, one that was added hears the next post.
-  void post(NotificationName name, const NotificationSender* sender);
+  void post(NotificationName name, const NotificationSender* sender) const;
 
  private:
-  struct Observer {
-    NotificationName name;
-    Handler handler;
-  };
-  std::vector<std::weak_ptr<Observer>> observers_;
+  Signal<const Notification&> posted_;
 };
 
 }  // namespace nascor::foundation

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <functional>
 #include <memory>
 #include <utility>
@@ -39,6 +40,10 @@ class Signal {
     std::erase_if(listeners_, [](const auto& known) { return known.expired(); });
     listeners_.push_back(held);
     return Subscription(std::move(held));
+  }
+
+  bool hasListeners() const {
+    return std::ranges::any_of(listeners_, [](const auto& known) { return !known.expired(); });
   }
 
   /// Calls the listeners at once, in the order of their subscriptions. They may subscribe, unsubscribe, call this signal

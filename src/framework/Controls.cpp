@@ -9,7 +9,7 @@ namespace nascor::framework {
 void Stepper::setValue(double value) {
   value_ = std::min(std::max(value, minimum_), maximum_);
   if (value != value) value_ = value;
-  if (onChange) onChange();
+  onChange();
 }
 
 void Stepper::setMinimum(double minimum) {
@@ -24,12 +24,12 @@ void Stepper::setMaximum(double maximum) {
 
 void Panel::makeKeyAndOrderFront() {
   isShown_ = true;
-  if (onChange) onChange();
+  onChange();
 }
 
 void Panel::close() {
   isShown_ = false;
-  if (onChange) onChange();
+  onChange();
 }
 
 Page& TabView::page(std::int64_t index) const { return *foundation::checkedAt(pages_, index); }
@@ -37,12 +37,7 @@ Page& TabView::page(std::int64_t index) const { return *foundation::checkedAt(pa
 void TabView::selectPage(std::int64_t index) {
   foundation::checkedAt(pages_, index);
   selected_ = index;
-  if (onSelect) onSelect();
-}
-
-void TabView::setNeedsDisplay() {
-  ++timesDisplayAsked_;
-  if (onNeedsDisplay) onNeedsDisplay();
+  onSelect();
 }
 
 }  // namespace nascor::framework

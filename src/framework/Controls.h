@@ -1,19 +1,19 @@
 #pragma once
 
 #include <cstdint>
-#include <functional>
 #include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
 
+#include "foundation/Signal.h"
 #include "framework/Geometry.h"
 #include "framework/LongText.h"
 #include "framework/Page.h"
 
 namespace nascor::framework {
 
-// The state of the simpler controls of a window. The document reads and writes them, views bind to `onChange`.
+// The state of the simpler controls of a window. The document reads and writes them, views listen to `onChange`.
 
 /// A text of several lines, typed straight into.
 class TextView {
@@ -31,7 +31,7 @@ class TextView {
     TypedText taken = typedOver(text_, typed, kMostInNote);
     isFull_ = taken.isFull;
     show(std::move(taken.text), true);
-    if (onEdit) onEdit();
+    onEdit();
   }
   /// Whether not all that was typed last found room.
   bool isFull() const { return isFull_; }
@@ -43,18 +43,18 @@ class TextView {
   /// Whether the text is longer than a note shows (framework/LongText.h).
   bool isShownInPart() const { return isShownInPart_; }
   void setEditable(bool editable) {
-    if (std::exchange(isEditable_, editable) != editable && onChange) onChange();
+    if (std::exchange(isEditable_, editable) != editable) onChange();
   }
 
-  std::function<void()> onChange;  ///< set by the view
-  std::function<void()> onEdit;    ///< set by the document
+  foundation::Signal<> onChange;  ///< another text is shown, or what may be typed here has changed
+  foundation::Signal<> onEdit;    ///< the user has typed; sent after `onChange`
 
  private:
   void show(std::string text, bool wasEdited) {
     text_ = std::move(text);
     wasEdited_ = wasEdited;
     isShownInPart_ = isTooLong(text_, kMostInNote);
-    if (onChange) onChange();
+    onChange();
   }
   std::string name_;
   std::string text_;
@@ -72,16 +72,16 @@ class CheckBox {
   bool isOn() const { return isOn_; }
   void setOn(bool on) {
     isOn_ = on;
-    if (onChange) onChange();
+    onChange();
   }
-  std::function<void()> onChange;
+  foundation::Signal<> onChange;
 
  private:
   std::string name_;
   bool isOn_;
 };
 
-/// A number that is moved in steps between two limits. No change of its own tells anybody but its view.
+/// A number that is moved in steps between two limits.
 class Stepper {
  public:
   Stepper(double minimum, double maximum, double increment)
@@ -96,7 +96,7 @@ class Stepper {
   void setMinimum(double minimum);
   void setMaximum(double maximum);
 
-  std::function<void()> onChange;
+  foundation::Signal<> onChange;
 
  private:
   double minimum_;
@@ -112,15 +112,13 @@ class Panel {
 
   const std::string& name() const { return name_; }
   bool isShown() const { return isShown_; }
-  void center() const {
-    if (onCenter) onCenter();
-  }
+  void center() const { onCenter(); }
   /// Shows it in front of the others, ready for typing.
   void makeKeyAndOrderFront();
   void close();
 
-  std::function<void()> onCenter;
-  std::function<void()> onChange;  ///< sent whenever it is shown, brought to the front or closed
+  foundation::Signal<> onCenter;
+  foundation::Signal<> onChange;  ///< sent whenever it is shown, brought to the front or closed
 
  private:
   std::string name_;
@@ -140,17 +138,14 @@ class TabView {
   void selectPage(std::int64_t index);
 
   /// Asks for the page on show to be drawn anew.
-  void setNeedsDisplay();
-  /// How often that was asked.
-  std::int64_t timesDisplayAsked() const { return timesDisplayAsked_; }
+  void setNeedsDisplay() const { onNeedsDisplay(); }
 
-  std::function<void()> onSelect;
-  std::function<void()> onNeedsDisplay;
+  foundation::Signal<> onSelect;
+  foundation::Signal<> onNeedsDisplay;
 
  private:
   std::vector<Page*> pages_;
   std::int64_t selected_ = 0;
-  std::int64_t timesDisplayAsked_ = 0;
 };
 
 /// One item of the main menu.

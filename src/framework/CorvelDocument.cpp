@@ -20,8 +20,9 @@ CorvelDocument::CorvelDocument(const DocumentEnvironment& environment)
       examDateField_("examDateField", this),
       ageField_("ageField"),
       notesField_("notesField") {
-  notesField_.onEdit = [this] { updateChangeCount(ChangeType::changeDone); };
-  fieldEditor_.onEdit = [this] { editedTextChanged(); };
+  subscriptions_.push_back(
+      notesField_.onEdit.subscribe([this] { updateChangeCount(ChangeType::changeDone); }));
+  subscriptions_.push_back(fieldEditor_.onChange.subscribe([this] { editedTextChanged(); }));
 }
 
 bool CorvelDocument::commitEditing() {
@@ -99,9 +100,7 @@ void CorvelDocument::directUpdateDisplayAndSetDirty(bool dirty) {
   if (dirty) updateChangeCount(ChangeType::changeDone);
 }
 
-void CorvelDocument::updateDisplay() {
-  if (onDisplayChanged) onDisplayChanged();
-}
+void CorvelDocument::updateDisplay() { onDisplayChanged(); }
 
 bool CorvelDocument::controlTextShouldBeginEditing(TextField&) { return true; }
 

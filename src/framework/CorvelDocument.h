@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "foundation/NotificationCenter.h"
+#include "foundation/Signal.h"
 #include "framework/Alerts.h"
 #include "framework/Controls.h"
 #include "framework/FieldEditor.h"
@@ -96,8 +97,8 @@ class CorvelDocument : public ZuDocument, public virtual GraphDocument, protecte
   /// Nothing when it was written or the user cancelled, else why not.
   std::optional<std::string> doExport(const foundation::NotificationSender* sender);
 
-  /// Sent with the path of each page that was exported; may be empty.
-  std::function<void(const std::string& path)> onExported;
+  /// Sent with the path of each page that was exported.
+  foundation::Signal<const std::string&> onExported;
 
   /// Told once at the end of printing, whether all of it went out.
   using DidPrint = std::function<void(bool)>;
@@ -142,8 +143,8 @@ class CorvelDocument : public ZuDocument, public virtual GraphDocument, protecte
 
   /// @}
 
-  /// Sent after everything on show may have changed; set by the window layer.
-  std::function<void()> onDisplayChanged;
+  /// Sent after everything on show may have changed.
+  foundation::Signal<> onDisplayChanged;
 
  protected:
   const DocumentEnvironment& environment() const { return environment_; }
@@ -205,6 +206,7 @@ class CorvelDocument : public ZuDocument, public virtual GraphDocument, protecte
   bool isOnPaper_ = false;
   bool isMarkedByEdit_ = false;  ///< whether the change count holds a change for the field in edit
   PrintInfo printInfo_;
+  std::vector<foundation::Subscription> subscriptions_;
 };
 
 }  // namespace nascor::framework

@@ -97,7 +97,7 @@ std::optional<std::string> CorvelDocument::exportPage(std::int64_t page, const s
       {.page = tabView_.page(page), .foot = footIfWanted(page, 1, 1), .facts = factsOfPage(page)}, format,
       path);
   if (error) return path + ": " + error->reason;
-  if (onExported) onExported(path);
+  onExported(path);
   return std::nullopt;
 }
 

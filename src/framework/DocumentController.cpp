@@ -173,7 +173,7 @@ void DocumentController::setCurrentDocument(ZuDocument& document) {
   const auto place = std::ranges::find(documents_, &document, &std::unique_ptr<ZuDocument>::get);
   if (place == documents_.end()) return;
   std::rotate(place, place + 1, documents_.end());
-  if (onDocumentInFront) onDocumentInFront(document);
+  onDocumentInFront(document);
 }
 
 std::vector<ZuDocument*> DocumentController::documents() const {
@@ -184,7 +184,7 @@ std::vector<ZuDocument*> DocumentController::documents() const {
 
 ZuDocument& DocumentController::add(std::unique_ptr<ZuDocument> document) {
   ZuDocument& added = *documents_.emplace_back(std::move(document));
-  if (onDocumentAdded) onDocumentAdded(added);
+  onDocumentAdded(added);
   return added;
 }
 
@@ -194,8 +194,8 @@ void DocumentController::remove(ZuDocument& document) {
   document.windowWillClose();
   closed_.push_back(std::move(*place));
   documents_.erase(place);
-  if (onDocumentRemoved) onDocumentRemoved(document);
-  if (ZuDocument* front = currentDocument(); front && onDocumentInFront) onDocumentInFront(*front);
+  onDocumentRemoved(document);
+  if (ZuDocument* front = currentDocument()) onDocumentInFront(*front);
 }
 
 bool DocumentController::isOpen(const ZuDocument& document) const {

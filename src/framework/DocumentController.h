@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "foundation/Services.h"
+#include "foundation/Signal.h"
 #include "framework/Alerts.h"
 #include "framework/FilePanels.h"
 #include "framework/ZuDocument.h"
@@ -70,11 +71,11 @@ class DocumentController {
   void releaseClosedDocuments() { closed_.clear(); }
 
   /// Sent when a document has got its place among the open ones, before its window is loaded: the window layer makes its
-  /// window. May be empty, as may the other two.
-  std::function<void(ZuDocument&)> onDocumentAdded;
-  std::function<void(ZuDocument&)> onDocumentInFront;
+  /// window.
+  foundation::Signal<ZuDocument&> onDocumentAdded;
+  foundation::Signal<ZuDocument&> onDocumentInFront;
   /// Sent when a document is no longer among the open ones.
-  std::function<void(ZuDocument&)> onDocumentRemoved;
+  foundation::Signal<ZuDocument&> onDocumentRemoved;
 
  private:
   ZuDocument& add(std::unique_ptr<ZuDocument> document);

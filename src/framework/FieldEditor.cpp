@@ -16,7 +16,7 @@ bool FieldEditor::begin(TextField& field) {
   isRefusing_ = false;
   isFull_ = false;
   if (delegate) delegate->controlTextDidBeginEditing(field);
-  changed();
+  onChange();
   return true;
 }
 
@@ -26,7 +26,7 @@ void FieldEditor::replace(std::string_view typed) {
   text_ = std::move(taken.text);
   isFull_ = taken.isFull;
   isRefusing_ = false;
-  changed();
+  onChange();
 }
 
 bool FieldEditor::end() {
@@ -36,7 +36,7 @@ bool FieldEditor::end() {
   isRefusing_ =
       !field.accepts(text_) || (delegate != nullptr && !delegate->controlTextShouldEndEditing(field, text_));
   if (isRefusing_) {
-    changed();
+    onChange();
     return false;
   }
   field_ = nullptr;
@@ -49,7 +49,7 @@ bool FieldEditor::end() {
     ~Ended() { flag = false; }
   } const ended{isEnding_};
   if (delegate) delegate->controlTextDidEndEditing(field);
-  changed();
+  onChange();
   return true;
 }
 
@@ -60,7 +60,7 @@ void FieldEditor::revert() {
   isRefusing_ = false;
   isFull_ = false;
   if (TextFieldDelegate* delegate = field.delegate()) delegate->controlTextDidDropEditing(field);
-  changed();
+  onChange();
 }
 
 }  // namespace nascor::framework

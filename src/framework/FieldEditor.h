@@ -1,9 +1,9 @@
 #pragma once
 
-#include <functional>
 #include <string>
 #include <string_view>
 
+#include "foundation/Signal.h"
 #include "framework/TextField.h"
 
 namespace nascor::framework {
@@ -49,14 +49,10 @@ class FieldEditor {
   /// Whether the field in edit has refused its text and not been changed since.
   bool isRefusing() const { return isRefusing_; }
 
-  std::function<void()> onChange;  ///< set by the view; may be empty
-  std::function<void()> onEdit;    ///< set by the document, which is told before the view; may be empty
+  /// Another field, another text or none is in edit, or the field refuses its text. The document listens first.
+  foundation::Signal<> onChange;
 
  private:
-  void changed() const {
-    if (onEdit) onEdit();
-    if (onChange) onChange();
-  }
   TextField* field_ = nullptr;
   std::string text_;
   bool isRefusing_ = false;

@@ -22,6 +22,7 @@ std::string fittingTitle(const std::string& title, const Canvas& canvas, double 
 
 void Page::addView(ZuPrimitiveGraphView& view, Placement placement) {
   views_.push_back({.view = &view, .placement = std::move(placement), .frame = {}});
+  subscriptions_.push_back(view.onNeedsDisplay.subscribe([this] { onNeedsDisplay(); }));
 }
 
 void Page::addCaption(std::string text, NamedColor color, Placement placement) {

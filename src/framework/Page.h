@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "foundation/Signal.h"
 #include "framework/Color.h"
 #include "framework/Geometry.h"
 #include "framework/Surface.h"
@@ -50,6 +51,9 @@ class Page {
   /// The marks of all views, in the views' order, with their places on the page as it was last laid out.
   std::vector<ReadOut> readOuts() const;
 
+  /// Sent when one of its views is to be drawn anew.
+  foundation::Signal<> onNeedsDisplay;
+
  private:
   struct PlacedView {
     ZuPrimitiveGraphView* view;
@@ -72,6 +76,7 @@ class Page {
   double width_ = kWidth;
   std::vector<Caption> captions_;
   std::vector<PlacedView> views_;
+  std::vector<foundation::Subscription> subscriptions_;
 };
 
 }  // namespace nascor::framework

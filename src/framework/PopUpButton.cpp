@@ -9,12 +9,12 @@ namespace nascor::framework {
 void PopUpButton::removeAllItems() {
   wanted_ = std::max<std::int64_t>(indexOfSelectedItem(), 0);
   items_.clear();
-  changed();
+  onChange();
 }
 
 void PopUpButton::addItem(Item item) {
   items_.push_back(std::move(item));
-  changed();
+  onChange();
 }
 
 const std::string& PopUpButton::itemTitleAtIndex(std::int64_t index) const {
@@ -30,7 +30,7 @@ std::string PopUpButton::titleOfSelectedItem() const {
 void PopUpButton::selectItemAtIndex(std::int64_t index) {
   foundation::checkedAt(items_, index);
   wanted_ = index;
-  changed();
+  onChange();
 }
 
 }  // namespace nascor::framework

@@ -1,15 +1,15 @@
 #pragma once
 
 #include <cstdint>
-#include <functional>
 #include <string>
 #include <vector>
 
+#include "foundation/Signal.h"
 #include "framework/Geometry.h"
 
 namespace nascor::framework {
 
-/// The state of a pop-up button: what is offered and what is chosen. A view binds to `onChange`.
+/// The state of a pop-up button: what is offered and what is chosen. A view listens to `onChange`.
 class PopUpButton {
  public:
   struct Item {
@@ -38,17 +38,12 @@ class PopUpButton {
   const Rect& frame() const { return frame_; }
   void setFrame(const Rect& frame) { frame_ = frame; }
   /// Plays an animation of the platform at a point of the window: 10 is a puff of smoke.
-  void showAnimationEffect(int effect, Point at) const {
-    if (onAnimationEffect) onAnimationEffect(effect, at);
-  }
+  void showAnimationEffect(int effect, Point at) const { onAnimationEffect(effect, at); }
 
-  std::function<void(int effect, Point at)> onAnimationEffect;  ///< set by the view; may be empty
-  std::function<void()> onChange;  ///< set by the view that shows this button; may be empty
+  foundation::Signal<int, Point> onAnimationEffect;  ///< the effect and its place, as above
+  foundation::Signal<> onChange;                     ///< items or choice have changed
 
  private:
-  void changed() const {
-    if (onChange) onChange();
-  }
   std::vector<Item> items_;
   std::int64_t wanted_ = 0;
   Rect frame_;

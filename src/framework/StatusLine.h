@@ -1,8 +1,9 @@
 #pragma once
 
-#include <functional>
 #include <string>
 #include <utility>
+
+#include "foundation/Signal.h"
 
 namespace nascor::framework {
 
@@ -20,13 +21,13 @@ class StatusLine {
   void say(std::string message, const TextField* field = nullptr) {
     message_ = std::move(message);
     field_ = field;
-    if (onChange) onChange();
+    onChange();
   }
   void clear() {
     if (!message_.empty()) say({});
   }
 
-  std::function<void()> onChange;  ///< set by the view; may be empty
+  foundation::Signal<> onChange;  ///< there is another message, or none
 
  private:
   std::string message_;

@@ -15,16 +15,16 @@ void TextField::takeEditedText(const std::string& text) { show(text, true); }
 
 void TextField::setRed(bool red) {
   isRed_ = red;
-  if (onChange) onChange();
+  onChange();
 }
 
 void TextField::setStale() {
   isStale_ = true;
-  if (onChange) onChange();
+  onChange();
 }
 
 void TextField::setEditable(bool editable) {
-  if (std::exchange(isEditable_, editable) != editable && onChange) onChange();
+  if (std::exchange(isEditable_, editable) != editable) onChange();
 }
 
 void TextField::show(std::string text, bool wasEdited) {
@@ -32,7 +32,7 @@ void TextField::show(std::string text, bool wasEdited) {
   wasEdited_ = wasEdited;
   isStale_ = false;
   isShownInPart_ = isTooLong(text_, kMostInField);
-  if (onChange) onChange();
+  onChange();
 }
 
 void NumberField::setDoubleValue(double value) {

@@ -1,18 +1,18 @@
 #pragma once
 
 #include <cstdint>
-#include <functional>
 #include <string>
 #include <string_view>
 #include <utility>
 
 #include "foundation/Localizer.h"
+#include "foundation/Signal.h"
 
 namespace nascor::framework {
 
 class TextFieldDelegate;
 
-/// The state of one text field. The document reads and writes it, and a view binds to `onChange`. What a user types
+/// The state of one text field. The document reads and writes it, and views listen to `onChange`. What a user types
 /// comes through the window's FieldEditor alone, so a text that is refused never reaches the field.
 class TextField {
  public:
@@ -55,12 +55,10 @@ class TextField {
   void setStale();
 
   /// Asks the view to select the text, so that typing replaces it.
-  void selectText() const {
-    if (onSelectText) onSelectText();
-  }
+  void selectText() const { onSelectText(); }
 
-  std::function<void()> onChange;      ///< set by the view that shows this field; may be empty
-  std::function<void()> onSelectText;  ///< likewise
+  foundation::Signal<> onChange;      ///< text, colour or what may be typed here may have changed
+  foundation::Signal<> onSelectText;  ///< the text is to be selected
 
  protected:
   void show(std::string text, bool wasEdited);

@@ -13,7 +13,7 @@ using foundation::FileError;
 void ZuDocument::setFilePath(std::optional<std::string> path) {
   filePath_ = std::move(path);
   fileContents_.reset();
-  stateChanged();
+  onStateChanged();
 }
 
 std::string ZuDocument::displayName() const {
@@ -100,7 +100,7 @@ void ZuDocument::updateChangeCount(ChangeType change) {
       changesWereCleared();
       break;
   }
-  stateChanged();
+  onStateChanged();
 }
 
 }  // namespace nascor::framework

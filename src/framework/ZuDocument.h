@@ -2,7 +2,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <functional>
 #include <optional>
 #include <span>
 #include <string>
@@ -11,6 +10,7 @@
 
 #include "foundation/FileStore.h"
 #include "foundation/Services.h"
+#include "foundation/Signal.h"
 
 namespace nascor::framework {
 
@@ -97,8 +97,8 @@ class ZuDocument {
   /// Tells the user `sentence` in the document's window, without a question.
   virtual void remark(const std::string& /*sentence*/) {}
 
-  /// Sent when name or edited state may have changed; set by the window layer.
-  std::function<void()> onStateChanged;
+  /// Sent when name or edited state may have changed.
+  foundation::Signal<> onStateChanged;
 
   /// @}
 
@@ -110,9 +110,6 @@ class ZuDocument {
   virtual void changesWereCleared() {}
 
  private:
-  void stateChanged() const {
-    if (onStateChanged) onStateChanged();
-  }
   foundation::Services services_;
   std::optional<std::string> filePath_;
   std::optional<std::vector<std::byte>> fileContents_;  ///< as last read or written; nothing before

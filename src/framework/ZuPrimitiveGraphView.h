@@ -6,6 +6,7 @@
 
 #include "foundation/NotificationCenter.h"
 #include "foundation/Services.h"
+#include "foundation/Signal.h"
 #include "framework/Canvas.h"
 #include "framework/Geometry.h"
 
@@ -95,10 +96,9 @@ class ZuPrimitiveGraphView : public foundation::NotificationSender {
 
   /// @}
 
-  /// Asks for a redraw, which is counted. The window that shows the view draws it anew at all news of its document, those
-  /// at which a view asks among them.
-  void setNeedsDisplay() { ++timesDisplayAsked_; }
-  std::uint64_t timesDisplayAsked() const { return timesDisplayAsked_; }
+  /// Asks those who show the view to draw it anew.
+  void setNeedsDisplay() const { onNeedsDisplay(); }
+  foundation::Signal<> onNeedsDisplay;
 
  protected:
   /// What `display` draws. The base draws axes, reference title and graph.
@@ -143,7 +143,6 @@ class ZuPrimitiveGraphView : public foundation::NotificationSender {
   std::string yTitle_;
   std::string referenceTitle_;
   Canvas* canvas_ = nullptr;
-  std::uint64_t timesDisplayAsked_ = 0;
 };
 
 }  // namespace nascor::framework

@@ -6,6 +6,7 @@
 #include "calc/FetalWeight.h"
 #include "foundation/Assertion.h"
 #include "foundation/UserDefaults.h"
+#include "support/Calls.h"
 #include "support/MarkedLocalizer.h"
 #include "support/TestApplication.h"
 
@@ -95,12 +96,13 @@ TEST_F(TheApplication, marksThePagesOfEveryOpenWindowWhenShowAllChanges) {
   NCDocument& two = newDocument();
   NCDocument& closed = newDocument();
   platform.documents.closeDocument(closed);
-  const auto before = std::pair(one.tabView().timesDisplayAsked(), two.tabView().timesDisplayAsked());
-  const auto closedBefore = closed.tabView().timesDisplayAsked();
+  const tests::Calls drawnInOne(one.tabView().onNeedsDisplay);
+  const tests::Calls drawnInTwo(two.tabView().onNeedsDisplay);
+  const tests::Calls drawnInClosed(closed.tabView().onNeedsDisplay);
   controller.toggleShowAll(controller.showAllMenuItem());
-  EXPECT_EQ(one.tabView().timesDisplayAsked(), before.first + 1);
-  EXPECT_EQ(two.tabView().timesDisplayAsked(), before.second + 1);
-  EXPECT_EQ(closed.tabView().timesDisplayAsked(), closedBefore);
+  EXPECT_EQ(drawnInOne.count(), 1);
+  EXPECT_EQ(drawnInTwo.count(), 1);
+  EXPECT_EQ(drawnInClosed.count(), 0);
 }
 
 TEST_F(TheApplication, ticksAndEnablesTheStandardsOfTheDocumentInFront) {

@@ -42,10 +42,10 @@ class TheDatingDialogs : public testing::Test {
   TheDatingDialogs() {
     document.windowControllerDidLoadNib();
     for (framework::Panel* panel : document.panels()) {
-      panel->onCenter = [this, panel] { events.push_back(panel->name() + " centred"); };
-      panel->onChange = [this, panel] {
-        events.push_back(panel->name() + (panel->isShown() ? " in front" : " closed"));
-      };
+      subscriptions.push_back(
+          panel->onCenter.subscribe([this, panel] { events.push_back(panel->name() + " centred"); }));
+      subscriptions.push_back(panel->onChange.subscribe(
+          [this, panel] { events.push_back(panel->name() + (panel->isShown() ? " in front" : " closed")); }));
     }
   }
   std::vector<std::string> eventsSince(const std::function<void()>& action) {
@@ -78,6 +78,7 @@ class TheDatingDialogs : public testing::Test {
   tests::TestApplication platform;
   NotingAlerts alerts{events};
   NCDocument document{{.services = platform.services(), .alerts = alerts, .controller = platform.documents}};
+  std::vector<foundation::Subscription> subscriptions;
 };
 
 TEST_F(TheDatingDialogs, openInTheMiddleWhileTheirDateIsEmpty) {
@@ -130,19 +131,19 @@ TEST_F(TheDatingDialogs, comeToTheFrontAgainOrCloseWithTheAnswer) {
 TEST_F(TheDatingDialogs, enterCloseStoreAndPlanInThisOrder) {
   document.doSetEDDfromLMP(nullptr);
   enter("lmpWindowLMP", "7/1/26");
-  field("birthDateField").onChange = [this] {
+  subscriptions.push_back(field("birthDateField").onChange.subscribe([this] {
     EXPECT_FALSE(document.patientRecord()->edd().has_value());
     events.emplace_back("entered");
-  };
-  document.tabView().onNeedsDisplay = [this] {
+  }));
+  subscriptions.push_back(document.tabView().onNeedsDisplay.subscribe([this] {
     EXPECT_TRUE(document.patientRecord()->edd().has_value());
     EXPECT_FALSE(document.isDocumentEdited());
     events.emplace_back("drawn");
-  };
-  field("adjustEDDField").onChange = [this] {
+  }));
+  subscriptions.push_back(field("adjustEDDField").onChange.subscribe([this] {
     EXPECT_TRUE(document.isDocumentEdited());
     events.emplace_back("planned");
-  };
+  }));
   EXPECT_THAT(eventsSince([this] { document.okSetEDDfromLMP(nullptr); }),
               ElementsAre("entered", "lmpWindow closed", "drawn", "planned"));
 }

@@ -164,13 +164,12 @@ class TheFetuses : public TheExaminations {};
 TEST_F(TheFetuses, areAddedInOrderOfSteps) {
   const auto opened = document({100, 50}, 2);
   std::vector<std::string> steps;
-  opened->onStateChanged = [&] {
+  const auto edits = opened->onStateChanged.subscribe([&] {
     steps.push_back("edited with " + std::to_string(opened->patientRecord()->numberOfFetuses()) +
                     " fetuses and " + std::to_string(opened->multiplePopUp().numberOfItems()) + " items");
-  };
-  opened->bpdField().onSelectText = [&] {
-    steps.push_back("fetus " + std::to_string(opened->currentFetus()));
-  };
+  });
+  const auto selections = opened->bpdField().onSelectText.subscribe(
+      [&] { steps.push_back("fetus " + std::to_string(opened->currentFetus())); });
   opened->addFetus(nullptr);
   EXPECT_THAT(steps, ElementsAre("edited with 3 fetuses and 2 items", "fetus 2"));
 }
@@ -180,12 +179,13 @@ TEST_F(TheFetuses, areRemovedInOrderOfSteps) {
   opened->multiplePopUp().setFrame({.x = 120, .y = 40, .width = 90, .height = 24});
   std::vector<std::string> steps;
   const auto fetuses = [&] { return std::to_string(opened->patientRecord()->numberOfFetuses()); };
-  opened->onStateChanged = [&] { steps.push_back("edited with " + fetuses()); };
-  opened->multiplePopUp().onAnimationEffect = [&](int effect, framework::Point at) {
-    EXPECT_EQ(opened->multiplePopUp().numberOfItems(), 1);
-    steps.push_back("effect " + std::to_string(effect) + " at " + std::to_string(static_cast<int>(at.x)) +
-                    " " + std::to_string(static_cast<int>(at.y)));
-  };
+  const auto edits = opened->onStateChanged.subscribe([&] { steps.push_back("edited with " + fetuses()); });
+  const auto effects =
+      opened->multiplePopUp().onAnimationEffect.subscribe([&](int effect, framework::Point at) {
+        EXPECT_EQ(opened->multiplePopUp().numberOfItems(), 1);
+        steps.push_back("effect " + std::to_string(effect) + " at " + std::to_string(static_cast<int>(at.x)) +
+                        " " + std::to_string(static_cast<int>(at.y)));
+      });
   opened->deleteFetusAlertDidEnd(framework::AlertReturn::alternate);
   EXPECT_THAT(steps, testing::IsEmpty());
   opened->deleteFetusAlertDidEnd(framework::AlertReturn::defaultButton);

@@ -12,6 +12,7 @@
 #include "foundation/Assertion.h"
 #include "foundation/UserDefaults.h"
 #include "model/PatientFile.h"
+#include "support/Calls.h"
 #include "support/RecordingCanvas.h"
 #include "support/TestApplication.h"
 
@@ -146,15 +147,14 @@ TEST_F(ADocument, opensOnItsNewestExaminationAndItsFirstFetus) {
 
 TEST_F(ADocument, movesThroughItsExaminationsAndStopsAtTheEnds) {
   const auto opened = document(kEDD, {140, 100, 60});
-  int refreshed = 0;
-  opened->onDisplayChanged = [&] { ++refreshed; };
+  const tests::Calls refreshed(opened->onDisplayChanged);
   opened->nextExamination();
   EXPECT_EQ(opened->currentExam(), 2);
-  EXPECT_EQ(refreshed, 0);
+  EXPECT_EQ(refreshed.count(), 0);
   opened->previousExamination();
   EXPECT_EQ(opened->currentExam(), 1);
   EXPECT_EQ(opened->ageField().text(), "25w 5d");  // 180 days
-  EXPECT_EQ(refreshed, 1);
+  EXPECT_EQ(refreshed.count(), 1);
   opened->previousExamination();
   opened->previousExamination();
   EXPECT_EQ(opened->currentExam(), 0);

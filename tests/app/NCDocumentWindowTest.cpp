@@ -8,6 +8,7 @@
 #include "app/NCDocument.h"
 #include "foundation/UserDefaults.h"
 #include "model/PatientFile.h"
+#include "support/Calls.h"
 #include "support/MarkedLocalizer.h"
 #include "support/RecordingCanvas.h"
 #include "support/TestApplication.h"
@@ -71,12 +72,16 @@ class TheWindow : public testing::Test {
     return document.fieldEditor().end();
   }
   /// From now on, the names of the fields in the order in which they are filled.
-  static void recordFilling(NCDocument& document, std::vector<std::string>& filled) {
-    for (framework::TextField* each : document.textFields()) {
-      each->onChange = [each, &filled] { filled.push_back(each->name()); };
-    }
-    document.notesField().onChange = [&filled] { filled.emplace_back("notesField"); };
-    document.tabView().onNeedsDisplay = [&filled] { filled.emplace_back("tabView"); };
+  static std::vector<foundation::Subscription> recordFilling(NCDocument& document,
+                                                             std::vector<std::string>& filled) {
+    std::vector<foundation::Subscription> records;
+    for (framework::TextField* each : document.textFields())
+      records.push_back(each->onChange.subscribe([each, &filled] { filled.push_back(each->name()); }));
+    records.push_back(
+        document.notesField().onChange.subscribe([&filled] { filled.emplace_back("notesField"); }));
+    records.push_back(
+        document.tabView().onNeedsDisplay.subscribe([&filled] { filled.emplace_back("tabView"); }));
+    return records;
   }
 
   tests::TestApplication platform;
@@ -85,7 +90,7 @@ class TheWindow : public testing::Test {
 TEST_F(TheWindow, isFilledInOrder) {
   const auto document = opened(twins());
   std::vector<std::string> filled;
-  recordFilling(*document, filled);
+  const auto records = recordFilling(*document, filled);
   document->synchronizeFromData();
   EXPECT_THAT(filled, ElementsAre("referenceIDField", "gravidaField", "birthDateField", "adjustEDDField",
                                   "adjustDeliverOnField", "adjustDeliverAtField", "examDateField", "hcField",
@@ -97,10 +102,10 @@ TEST_F(TheWindow, isFilledInOrder) {
 TEST_F(TheWindow, isLoadedInOrder) {
   const auto document = loaded(twins());
   std::vector<std::string> steps;
-  recordFilling(*document, steps);
-  document->multiplePopUp().onChange = [&] {
+  const auto records = recordFilling(*document, steps);
+  const auto fills = document->multiplePopUp().onChange.subscribe([&] {
     if (steps.empty() || steps.back() != "pop-up") steps.emplace_back("pop-up");
-  };
+  });
   const auto subscription = platform.notifications.subscribe(
       NotificationName::updateStandards, [&](const foundation::Notification& notification) {
         EXPECT_EQ(notification.sender, document.get());
@@ -130,7 +135,7 @@ TEST_F(TheWindow, titlesItsSummaryBeforeItKnowsThePatient) {
   const auto document = loaded(twins());
   std::vector<std::string> titles;
   framework::TextField& header = field(*document, "headerSummaryField");
-  header.onChange = [&] { titles.push_back(header.text()); };
+  const auto records = header.onChange.subscribe([&] { titles.push_back(header.text()); });
   document->windowControllerDidLoadNib();
   EXPECT_THAT(titles, ElementsAre("", "AB-123 (G2) 1 of 2"));
 }
@@ -238,12 +243,12 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST_F(TheWindow, takesADialogsFieldWithoutFurtherAdo) {
   NCDocument& document = dynamic_cast<NCDocument&>(platform.documents.newDocument());
-  const auto displays = document.tabView().timesDisplayAsked();
+  const tests::Calls drawn(document.tabView().onNeedsDisplay);
   EXPECT_TRUE(edit(document, field(document, "crlWindowCRL"), "45.26"));
   EXPECT_EQ(field(document, "crlWindowCRL").text(), "45.3");
   EXPECT_FALSE(document.isDocumentEdited());
   EXPECT_TRUE(document.lookUpRequired()) << "as a new document has it";
-  EXPECT_EQ(document.tabView().timesDisplayAsked(), displays);
+  EXPECT_EQ(drawn.count(), 0);
 }
 
 TEST_F(TheWindow, writesNoByteAnewWhenEveryFieldIsVisited) {
@@ -296,9 +301,9 @@ TEST_F(TheWindow, isStoredInFullOrNotAtAll) {
 TEST_F(TheWindow, hearsNothingMoreOnceItCloses) {
   const auto document = opened(twins());
   document->windowWillClose();
-  const auto displays = document->tabView().timesDisplayAsked();
+  const tests::Calls drawn(document->tabView().onNeedsDisplay);
   platform.notifications.post(NotificationName::updateShowAll, nullptr);
-  EXPECT_EQ(document->tabView().timesDisplayAsked(), displays);
+  EXPECT_EQ(drawn.count(), 0);
 }
 
 TEST_F(TheWindow, storesAPreferenceAfterEverybodyHasHeardOfTheChoice) {
@@ -370,12 +375,11 @@ TEST_F(TheWindow, drawsTheRecordsAsTheyStandAtEachDrawing) {
 
 TEST_F(TheWindow, selectsTheBPDForTypingWhenAFetusIsChosen) {
   const auto document = opened(twins());
-  int selected = 0;
-  document->bpdField().onSelectText = [&] { ++selected; };
+  const tests::Calls selected(document->bpdField().onSelectText);
   document->chooseFetus(document->multiplePopUp());
-  EXPECT_EQ(selected, 1);
+  EXPECT_EQ(selected.count(), 1);
   document->addFetus(nullptr);
-  EXPECT_EQ(selected, 2);
+  EXPECT_EQ(selected.count(), 2);
 }
 
 }  // namespace

@@ -25,9 +25,8 @@ class TheRecovery : public testing::Test {
     platform.defaults.registerDefault(foundation::defaults_key::showAll, "YES");
     platform.defaults.registerDefault(foundation::defaults_key::dataFileExtension, "nascor");
     platform.documents.setFactory([this] { return std::make_unique<NCDocument>(platform.environment()); });
-    platform.documents.onDocumentRemoved = [this](framework::ZuDocument& document) {
-      recovery.forget(document);
-    };
+    removals = platform.documents.onDocumentRemoved.subscribe(
+        [this](framework::ZuDocument& document) { recovery.forget(document); });
     platform.files.files[kFile] = bytesOf(patient());
   }
 
@@ -77,6 +76,7 @@ class TheRecovery : public testing::Test {
   tests::TestApplication platform;
   MemoryRecoveryStore store{platform.files};
   Recovery recovery{platform.services(), platform.documents, platform.alerts, store};
+  foundation::Subscription removals;
 };
 
 TEST_F(TheRecovery, keepsNothingOfADocumentThatWasNotEdited) {

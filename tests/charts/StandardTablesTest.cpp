@@ -6,6 +6,7 @@
 #include "calc/Standards.h"
 #include "charts/MeasurementCharts.h"
 #include "foundation/UserDefaults.h"
+#include "support/Calls.h"
 #include "support/ChartTest.h"
 
 namespace nascor::charts {
@@ -126,12 +127,12 @@ TEST_F(AChartsTable, isFilledBeforeTheTitleIsSet) {
 TEST_F(AChartsTable, isRebuiltWhenAStandardIsChosenAndAsksForARedraw) {
   const auto chart = make<BPDGraphView>();
   const auto* rows = &chart->standardData();
-  const auto asked = chart->timesDisplayAsked();
+  const tests::Calls asked(chart->onNeedsDisplay);
   document.growthStandard = 3;
   platform.notifications.post(NotificationName::updateStandards, nullptr);
   EXPECT_EQ(chart->standardData().size(), 25U);
   EXPECT_EQ(&chart->standardData(), rows) << "the table is emptied and refilled, never replaced";
-  EXPECT_EQ(chart->timesDisplayAsked(), asked + 1);
+  EXPECT_EQ(asked.count(), 1);
 }
 
 TEST_F(AChartsTable, isAnnouncedOnlyWhenRowsAndTitleAreInPlace) {

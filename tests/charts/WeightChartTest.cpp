@@ -4,6 +4,7 @@
 #include "charts/EFWGraphView.h"
 #include "charts/SummaryCharts.h"
 #include "support/Bits.h"
+#include "support/Calls.h"
 #include "support/ChartTest.h"
 
 namespace nascor::charts {
@@ -66,24 +67,25 @@ TEST_F(TheWeightTable, isEmptyUntilAllFourChartsHaveAnnounced) {
 TEST_F(TheWeightTable, isRebuiltExactlyOnceForEachChoice) {
   choose(3);
   EXPECT_EQ(charts.efw->standardData().size(), 25U);
-  const auto asked = charts.efw->timesDisplayAsked();
+  const tests::Calls asked(charts.efw->onNeedsDisplay);
   choose(0);
   EXPECT_EQ(charts.efw->standardData().size(), 31U);
-  EXPECT_EQ(charts.efw->timesDisplayAsked(), asked + 1);
+  EXPECT_EQ(asked.count(), 1);
 }
 
 TEST_F(TheWeightTable, isRebuiltExactlyOnceWithTenDocumentsOpen) {
   std::vector<std::unique_ptr<Charts>> others;
   for (int i = 0; i < 9; ++i) others.push_back(std::make_unique<Charts>(platform.services()));
   choose(0);
-  std::vector<std::uint64_t> asked;
-  for (const auto& other : others) asked.push_back(other->efw->timesDisplayAsked());
-  const auto askedHere = charts.efw->timesDisplayAsked();
+  std::vector<std::unique_ptr<tests::Calls>> asked;
+  for (const auto& other : others)
+    asked.push_back(std::make_unique<tests::Calls>(other->efw->onNeedsDisplay));
+  const tests::Calls askedHere(charts.efw->onNeedsDisplay);
   choose(1);
-  EXPECT_EQ(charts.efw->timesDisplayAsked(), askedHere + 1);
+  EXPECT_EQ(askedHere.count(), 1);
   EXPECT_EQ(charts.efw->standardData().size(), 29U);
   for (std::size_t i = 0; i < others.size(); ++i) {
-    EXPECT_EQ(others[i]->efw->timesDisplayAsked(), asked[i] + 1) << i;
+    EXPECT_EQ(asked[i]->count(), 1) << i;
     EXPECT_EQ(others[i]->efw->standardData().size(), 31U) << i;
   }
 }
@@ -94,11 +96,11 @@ TEST_F(TheWeightTable, isNotTouchedByAnotherDocumentsChart) {
   charts.bpd->resetStandards();
   charts.hc->resetStandards();
   charts.ac->resetStandards();
-  const auto asked = charts.efw->timesDisplayAsked();
+  const tests::Calls asked(charts.efw->onNeedsDisplay);
   other.fl->resetStandards();
-  EXPECT_EQ(charts.efw->timesDisplayAsked(), asked);
+  EXPECT_EQ(asked.count(), 0);
   charts.fl->resetStandards();
-  EXPECT_EQ(charts.efw->timesDisplayAsked(), asked + 1);
+  EXPECT_EQ(asked.count(), 1);
 }
 
 TEST_F(TheWeightTable, holdsTheWeightsOfTheMeansWithTheFormulasError) {
@@ -138,12 +140,12 @@ TEST_F(TheWeightTable, takesAMissingChartAsNotMeasured) {
 
 TEST_F(TheWeightTable, isNotRebuiltByAChoiceItself) {
   choose(0);
-  const auto asked = charts.efw->timesDisplayAsked();
+  const tests::Calls asked(charts.efw->onNeedsDisplay);
   charts.document.bpdGraph = charts.document.hcGraph = charts.document.acGraph = nullptr;
   charts.document.flGraph = nullptr;
   choose(1);
   choose(1);
-  EXPECT_LE(charts.efw->timesDisplayAsked(), asked + 1);
+  EXPECT_LE(asked.count(), 1);
   EXPECT_EQ(charts.efw->referenceTitle(), "Nascor Standard: Westerway (ASUM 2001)")
       << "the weight chart does not hear of the choice";
 }

@@ -313,20 +313,22 @@ Driver::Driver()
                                                                                 .panels = &panels_,
                                                                                 .pageWriter = &pageWriter_,
                                                                                 .printer = &printer_});
-    document->multiplePopUp().onAnimationEffect = [this](int effect, framework::Point at) {
-      effects_.push_back({effect, at.x, at.y});
-    };
+    subscriptions_.push_back(
+        document->multiplePopUp().onAnimationEffect.subscribe([this](int effect, framework::Point at) {
+          effects_.push_back({effect, at.x, at.y});
+        }));
     for (framework::TextField* field : document->textFields())
-      field->onSelectText = [this, field] { selected_ = field->name(); };
+      subscriptions_.push_back(field->onSelectText.subscribe([this, field] { selected_ = field->name(); }));
+    std::int64_t& displays = displays_[document.get()] = 0;
+    subscriptions_.push_back(document->tabView().onNeedsDisplay.subscribe([&displays] { ++displays; }));
     return document;
   });
-  documents_.onDocumentAdded = [this](framework::ZuDocument& added) {
-    numbers_.emplace(&added, nextNumber_++);
-  };
-  documents_.onDocumentRemoved = [this](framework::ZuDocument& removed) {
+  subscriptions_.push_back(documents_.onDocumentAdded.subscribe(
+      [this](framework::ZuDocument& added) { numbers_.emplace(&added, nextNumber_++); }));
+  subscriptions_.push_back(documents_.onDocumentRemoved.subscribe([this](framework::ZuDocument& removed) {
     numbers_.erase(&removed);
     if (recovery_) recovery_->forget(removed);
-  };
+  }));
   startRecovery();
   application_.awakeFromNib();
   pageWriter_.onSheet =
@@ -350,7 +352,7 @@ void Driver::recordPosts() {
   for (const NotificationName name :
        {NotificationName::updateStandards, NotificationName::updateStandardsForEFW,
         NotificationName::updateShowAll}) {
-    postSubscriptions_.push_back(
+    subscriptions_.push_back(
         notifications_.subscribe(name, [this](const foundation::Notification& notification) {
           posted_.push_back(
               {std::string(notification.name.text()),
@@ -832,7 +834,7 @@ Json Driver::documentState(NCDocument& shown) {
             {"maximum", stepper.maximum()},
             {"increment", stepper.increment()}}},
           {"marked", marked},
-          {"displays", shown.tabView().timesDisplayAsked()},
+          {"displays", displays_.at(&shown)},
           {"document", patient.empty() ? Json() : Json::parse(patient)}};
 }
 

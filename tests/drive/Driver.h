@@ -128,12 +128,13 @@ class Driver {
   std::optional<posix::RecoveryFolder> recoveryFolder_;
   std::optional<app::Recovery> recovery_;
 
-  std::vector<foundation::NotificationCenter::Subscription> postSubscriptions_;
+  std::vector<foundation::Subscription> subscriptions_;
   Json posted_ = Json::array();
   Json paper_ = Json::array();
   Json effects_ = Json::array();
   std::string selected_;
   std::map<const framework::ZuDocument*, std::int64_t> numbers_;
+  std::map<const framework::ZuDocument*, std::int64_t> displays_;  ///< how often each was to be drawn anew
   std::int64_t nextNumber_ = 0;
 };
 

@@ -86,7 +86,7 @@ TEST_F(NotificationCenterTest, endsTheOldSubscriptionThatANewOneReplaces) {
 
 TEST_F(NotificationCenterTest, keepsASubscriptionThatMoves) {
   auto subscription = center_.subscribe(kStandards, hears("it"));
-  std::vector<NotificationCenter::Subscription> kept;
+  std::vector<Subscription> kept;
   kept.push_back(std::move(subscription));
   subscription.reset();
   post(kStandards);
@@ -94,7 +94,7 @@ TEST_F(NotificationCenterTest, keepsASubscriptionThatMoves) {
 }
 
 TEST_F(NotificationCenterTest, letsAnObserverEndItsOwnSubscriptionWhileItIsCalled) {
-  NotificationCenter::Subscription own;
+  Subscription own;
   // What the handler holds must stay alive until it returns.
   const auto held = std::make_shared<std::string>("held");
   own = center_.subscribe(kStandards, [this, &own, held](const Notification&) {
@@ -109,7 +109,7 @@ TEST_F(NotificationCenterTest, letsAnObserverEndItsOwnSubscriptionWhileItIsCalle
 }
 
 TEST_F(NotificationCenterTest, doesNotCallAnObserverThatAnEarlierOneRemoved) {
-  NotificationCenter::Subscription second;
+  Subscription second;
   const auto first = center_.subscribe(kStandards, [&](const Notification&) {
     heard_.emplace_back("first");
     second.reset();
@@ -121,7 +121,7 @@ TEST_F(NotificationCenterTest, doesNotCallAnObserverThatAnEarlierOneRemoved) {
 }
 
 TEST_F(NotificationCenterTest, callsAnObserverThatWasAddedMeanwhileFromTheNextPostOn) {
-  std::vector<NotificationCenter::Subscription> added;
+  std::vector<Subscription> added;
   const auto first = center_.subscribe(kStandards, [&](const Notification&) {
     heard_.emplace_back("first");
     // Many, so that the centre's own list has to grow while it is being read.
@@ -149,7 +149,7 @@ TEST_F(NotificationCenterTest, deliversAPostWithinAPostAtOnce) {
 }
 
 TEST_F(NotificationCenterTest, remembersInAnOuterPostWhatAnInnerOneRemoved) {
-  NotificationCenter::Subscription last;
+  Subscription last;
   int depth = 0;
   const auto first = center_.subscribe(kStandards, [&](const Notification&) {
     if (++depth == 1) post(kStandards);
@@ -174,7 +174,7 @@ TEST_F(NotificationCenterTest, canBeUsedAfterAnObserverThrew) {
 }
 
 TEST(Subscription, mayOutliveTheCenter) {
-  NotificationCenter::Subscription subscription;
+  Subscription subscription;
   {
     NotificationCenter center;
     subscription = center.subscribe(kStandards, [](const Notification&) {});

@@ -36,6 +36,16 @@ TEST_F(SignalTest, withoutListenersDoesNothing) {
   EXPECT_THAT(heard_, IsEmpty());
 }
 
+TEST_F(SignalTest, knowsWhetherItHasListeners) {
+  EXPECT_FALSE(signal_.hasListeners());
+  auto first = signal_.subscribe(hears("first"));
+  auto second = signal_.subscribe(hears("second"));
+  first.reset();
+  EXPECT_TRUE(signal_.hasListeners());
+  second.reset();
+  EXPECT_FALSE(signal_.hasListeners());
+}
+
 TEST_F(SignalTest, callsItsListenersInTheOrderOfTheirSubscriptions) {
   const auto first = signal_.subscribe(hears("first"));
   const auto second = signal_.subscribe(hears("second"));
@@ -70,8 +80,7 @@ TEST_F(SignalTest, isSilentAfterTheEndOfASubscription) {
 
 TEST_F(SignalTest, callsNoListenerWhoseHolderIsGone) {
   struct Holder {
-    Holder(const Signal<>::Listener& listener, Signal<>& heard)
-        : subscription(heard.subscribe(listener)) {}
+    Holder(const Signal<>::Listener& listener, Signal<>& heard) : subscription(heard.subscribe(listener)) {}
     Subscription subscription;
   };
   const auto stays = signal_.subscribe(hears("stays"));

@@ -6,14 +6,14 @@
 #include <limits>
 
 #include "foundation/RangeError.h"
+#include "support/Calls.h"
 
 namespace nascor::framework {
 namespace {
 
 TEST(AStepper, holdsItsValueWithinItsLimits) {
   Stepper stepper(-280, 7, 1);
-  int changes = 0;
-  stepper.onChange = [&] { ++changes; };
+  const tests::Calls changes(stepper.onChange);
   EXPECT_EQ(stepper.value(), 0);
   EXPECT_EQ(stepper.increment(), 1);
   stepper.setValue(3.5);
@@ -22,7 +22,7 @@ TEST(AStepper, holdsItsValueWithinItsLimits) {
   EXPECT_EQ(stepper.value(), 7);
   stepper.setValue(-281);
   EXPECT_EQ(stepper.value(), -280);
-  EXPECT_EQ(changes, 3);
+  EXPECT_EQ(changes.count(), 3);
 }
 
 TEST(AStepper, movesItsValueWithItsLimits) {
@@ -48,17 +48,15 @@ TEST(AStepper, keepsWhatIsNoNumber) {
 
 TEST(ATextView, tellsItsDocumentOfTypingOnly) {
   TextView note("notesField");
-  int edits = 0;
-  int changes = 0;
-  note.onEdit = [&] { ++edits; };
-  note.onChange = [&] { ++changes; };
+  const tests::Calls edits(note.onEdit);
+  const tests::Calls changes(note.onChange);
   note.setText("shown");
-  EXPECT_EQ(edits, 0);
+  EXPECT_EQ(edits.count(), 0);
   EXPECT_FALSE(note.wasEdited());
   note.takeEditedText("typed");
   EXPECT_EQ(note.text(), "typed");
-  EXPECT_EQ(edits, 1);
-  EXPECT_EQ(changes, 2);
+  EXPECT_EQ(edits.count(), 1);
+  EXPECT_EQ(changes.count(), 2);
   EXPECT_TRUE(note.wasEdited());
   note.forgetEdits();
   EXPECT_FALSE(note.wasEdited());
@@ -69,30 +67,27 @@ TEST(ATextView, tellsItsDocumentOfTypingOnly) {
 
 TEST(APanel, isShownInFrontAndClosed) {
   Panel panel("crlWindow");
-  int changes = 0;
-  int centered = 0;
   panel.center();
-  panel.onChange = [&] { ++changes; };
-  panel.onCenter = [&] { ++centered; };
+  const tests::Calls changes(panel.onChange);
+  const tests::Calls centered(panel.onCenter);
   EXPECT_FALSE(panel.isShown());
   panel.center();
   panel.makeKeyAndOrderFront();
   EXPECT_TRUE(panel.isShown());
   panel.makeKeyAndOrderFront();
-  EXPECT_EQ(changes, 2) << "brought to the front again";
+  EXPECT_EQ(changes.count(), 2) << "brought to the front again";
   panel.close();
   EXPECT_FALSE(panel.isShown());
-  EXPECT_EQ(centered, 1);
+  EXPECT_EQ(centered.count(), 1);
 }
 
 TEST(ACheckBox, isOnOrOff) {
   CheckBox box("measurementsWindowBPDCheck", true);
-  int changes = 0;
-  box.onChange = [&] { ++changes; };
+  const tests::Calls changes(box.onChange);
   EXPECT_TRUE(box.isOn());
   box.setOn(false);
   EXPECT_FALSE(box.isOn());
-  EXPECT_EQ(changes, 1);
+  EXPECT_EQ(changes.count(), 1);
 }
 
 TEST(ATabView, showsOneOfItsPages) {
@@ -101,8 +96,7 @@ TEST(ATabView, showsOneOfItsPages) {
   TabView tabs;
   tabs.addPage(first);
   tabs.addPage(second);
-  int selections = 0;
-  tabs.onSelect = [&] { ++selections; };
+  const tests::Calls selections(tabs.onSelect);
   EXPECT_EQ(tabs.numberOfPages(), 2);
   EXPECT_EQ(tabs.indexOfSelectedPage(), 0);
   tabs.selectPage(1);
@@ -112,17 +106,15 @@ TEST(ATabView, showsOneOfItsPages) {
     EXPECT_THROW(tabs.page(wrong), foundation::RangeError);
   }
   EXPECT_EQ(tabs.indexOfSelectedPage(), 1);
-  EXPECT_EQ(selections, 1);
+  EXPECT_EQ(selections.count(), 1);
 }
 
-TEST(ATabView, countsHowOftenItWasToBeDrawnAnew) {
+TEST(ATabView, asksToBeDrawnAnew) {
   TabView tabs;
-  int asked = 0;
   tabs.setNeedsDisplay();
-  tabs.onNeedsDisplay = [&] { ++asked; };
+  const tests::Calls asked(tabs.onNeedsDisplay);
   tabs.setNeedsDisplay();
-  EXPECT_EQ(asked, 1);
-  EXPECT_EQ(tabs.timesDisplayAsked(), 2);
+  EXPECT_EQ(asked.count(), 1);
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "DocumentsUnderTest.h"
+#include "support/Calls.h"
 #include "support/MarkedLocalizer.h"
 
 namespace nascor::framework {
@@ -88,14 +89,13 @@ TEST_F(APatientsDocument, keepsItsLastExamination) {
 }
 
 TEST_F(APatientsDocument, storesTheFieldsDrawsAndMarksItself) {
-  int displayed = 0;
-  document.onDisplayChanged = [&] { ++displayed; };
+  const tests::Calls displayed(document.onDisplayChanged);
   document.directUpdateDisplayAndSetDirty(false);
   EXPECT_THAT(document.takeCalls(), ElementsAre("to data", "display"));
   EXPECT_FALSE(document.isDocumentEdited());
   document.directUpdateDisplayAndSetDirty(true);
   EXPECT_TRUE(document.isDocumentEdited());
-  EXPECT_EQ(displayed, 2);
+  EXPECT_EQ(displayed.count(), 2);
 }
 
 TEST_F(APatientsDocument, isEditedFromTheFirstChangeOfAField) {

@@ -25,9 +25,9 @@ TEST_F(TheDocuments, areNoneAtTheStart) {
 
 TEST_F(TheDocuments, beginBlankAndInFront) {
   std::vector<std::string> told;
-  documents.onDocumentAdded = [&](ZuDocument& added) {
+  const auto additions = documents.onDocumentAdded.subscribe([&](ZuDocument& added) {
     told.push_back(dynamic_cast<TextDocument&>(added).calls.empty() ? "added before its window" : "too late");
-  };
+  });
   TextDocument& document = application.newDocument();
   EXPECT_THAT(told, ElementsAre("added before its window"));
   EXPECT_THAT(document.calls, ElementsAre("window loaded"));
@@ -214,7 +214,8 @@ TEST_F(TheDocuments, arePutInFrontInTheOrderOfTheirUse) {
   TextDocument& two = application.newDocument();
   TextDocument& three = application.newDocument();
   std::vector<ZuDocument*> inFront;
-  documents.onDocumentInFront = [&](ZuDocument& front) { inFront.push_back(&front); };
+  const auto fronts =
+      documents.onDocumentInFront.subscribe([&](ZuDocument& front) { inFront.push_back(&front); });
   documents.setCurrentDocument(one);
   EXPECT_THAT(documents.documents(), ElementsAre(&two, &three, &one));
   documents.closeDocument(one);
@@ -246,7 +247,8 @@ TEST_F(TheDocuments, areAskedAboutOneByOneWhenTheSessionEndsAndStayOpen) {
   one.updateChangeCount(ZuDocument::ChangeType::changeDone);
   three.fieldEditor().begin(three.birthDateField());
   std::vector<ZuDocument*> inFront;
-  documents.onDocumentInFront = [&](ZuDocument& front) { inFront.push_back(&front); };
+  const auto fronts =
+      documents.onDocumentInFront.subscribe([&](ZuDocument& front) { inFront.push_back(&front); });
   application.alerts.choice = "Save";
   EXPECT_TRUE(documents.saveEditedDocuments());
   EXPECT_EQ(application.alerts.choices.size(), 2U);
@@ -303,7 +305,8 @@ TEST_F(TheDocuments, takeTheirPlaceFromOneAnother) {
   application.put("/documents/bad", "bad");
   TextDocument& blank = application.newDocument();
   std::vector<ZuDocument*> removed;
-  documents.onDocumentRemoved = [&](ZuDocument& document) { removed.push_back(&document); };
+  const auto removals =
+      documents.onDocumentRemoved.subscribe([&](ZuDocument& document) { removed.push_back(&document); });
   EXPECT_FALSE(documents.replaceDocument(blank, "/documents/bad"));
   EXPECT_THAT(application.alerts.told,
               ElementsAre("The document cannot be opened. bad is not a Nascor document."));

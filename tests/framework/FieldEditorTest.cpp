@@ -7,6 +7,8 @@
 #include <string>
 #include <vector>
 
+#include "support/Calls.h"
+
 namespace nascor::framework {
 namespace {
 
@@ -74,16 +76,15 @@ TEST_F(AFieldEditor, leavesAFieldAloneThatMayNotBeChanged) {
 }
 
 TEST_F(AFieldEditor, opensNoFieldThatHoldsNothing) {
-  int shown = 0;
-  one.onChange = [&] { ++shown; };
+  const tests::Calls shown(one.onChange);
   one.setEditable(false);
   one.setEditable(false);
-  EXPECT_EQ(shown, 1);
+  EXPECT_EQ(shown.count(), 1);
   EXPECT_FALSE(editor.begin(one));
   EXPECT_EQ(editor.field(), nullptr);
   EXPECT_THAT(delegate.calls, IsEmpty());
   one.setEditable(true);
-  EXPECT_EQ(shown, 2);
+  EXPECT_EQ(shown.count(), 2);
   EXPECT_TRUE(editor.begin(one));
 }
 
@@ -176,8 +177,7 @@ TEST_F(AFieldEditor, worksOnAfterAnExceptionOfItsDelegate) {
 }
 
 TEST_F(AFieldEditor, tellsItsViewOfEveryChange) {
-  int changes = 0;
-  editor.onChange = [&] { ++changes; };
+  const tests::Calls changes(editor.onChange);
   editor.begin(one);       // 1
   editor.replace("bad");   // 2
   editor.end();            // 3: outlined
@@ -185,7 +185,7 @@ TEST_F(AFieldEditor, tellsItsViewOfEveryChange) {
   editor.end();            // 5
   editor.end();
   editor.revert();
-  EXPECT_EQ(changes, 5);
+  EXPECT_EQ(changes.count(), 5);
 }
 
 }  // namespace

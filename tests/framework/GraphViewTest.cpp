@@ -5,7 +5,9 @@
 
 #include "framework/CorvelGraphView.h"
 #include "framework/MakeView.h"
+#include "framework/Page.h"
 #include "framework/ZuPrimitiveGraphView.h"
+#include "support/Calls.h"
 #include "support/RecordingCanvas.h"
 #include "support/TestServices.h"
 
@@ -139,11 +141,13 @@ TEST_F(AGraphView, drawsNoTicksForAnIntervalThatIsNoneOrFarTooSmall) {
   EXPECT_EQ(canvas.of(Kind::strokePath).size(), 2U);  // the two axes
 }
 
-TEST_F(AGraphView, remembersThatItWasAskedToBeRedrawn) {
+TEST_F(AGraphView, asksTheOwnersOfItsPageToDrawItAnew) {
   const auto view = make<ZuPrimitiveGraphView>(platform.services(), {0, 0, 100, 50});
-  const auto before = view->timesDisplayAsked();
+  Page page("a");
+  page.addView(*view, [](double width, double height) { return Rect{0, 0, width, height}; });
+  const tests::Calls asked(page.onNeedsDisplay);
   view->setNeedsDisplay();
-  EXPECT_EQ(view->timesDisplayAsked(), before + 1);
+  EXPECT_EQ(asked.count(), 1);
 }
 
 struct ClickedDocument final : GraphDocument {

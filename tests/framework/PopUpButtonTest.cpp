@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "foundation/RangeError.h"
+#include "support/Calls.h"
 
 namespace nascor::framework {
 namespace {
@@ -66,11 +67,10 @@ TEST(APopUpButton, refusesIndicesOutsideItsItems) {
 
 TEST(APopUpButton, tellsItsViewOfEveryChange) {
   PopUpButton button;
-  int changes = 0;
-  button.onChange = [&] { ++changes; };
+  const tests::Calls changes(button.onChange);
   fill(button, {"a", "b"});
   button.selectItemAtIndex(1);
-  EXPECT_EQ(changes, 4);
+  EXPECT_EQ(changes.count(), 4);
 }
 
 }  // namespace

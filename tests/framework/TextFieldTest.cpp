@@ -4,6 +4,7 @@
 
 #include <limits>
 
+#include "support/Calls.h"
 #include "support/MarkedLocalizer.h"
 
 namespace nascor::framework {
@@ -13,8 +14,7 @@ const foundation::EnglishLocalizer kEnglish;
 
 TEST(ATextField, holdsWhatTheProgramShowsAndWhatTheUserTypes) {
   TextField field("referenceIDField");
-  int changes = 0;
-  field.onChange = [&] { ++changes; };
+  const tests::Calls changes(field.onChange);
   EXPECT_EQ(field.name(), "referenceIDField");
   EXPECT_EQ(field.text(), "");
   field.setText("shown");
@@ -25,7 +25,7 @@ TEST(ATextField, holdsWhatTheProgramShowsAndWhatTheUserTypes) {
   EXPECT_TRUE(field.wasEdited());
   field.setText("shown again");
   EXPECT_FALSE(field.wasEdited());
-  EXPECT_EQ(changes, 3);
+  EXPECT_EQ(changes.count(), 3);
 }
 
 TEST(ATextField, forgetsOnRequestThatTheUserTyped) {
@@ -40,23 +40,21 @@ TEST(ATextField, acceptsAnyText) { EXPECT_TRUE(TextField("a").accepts("\n%ld \xf
 
 TEST(ATextField, turnsRedAndBack) {
   TextField field("a");
-  int changes = 0;
-  field.onChange = [&] { ++changes; };
+  const tests::Calls changes(field.onChange);
   EXPECT_FALSE(field.isRed());
   field.setRed(true);
   EXPECT_TRUE(field.isRed());
   field.setRed(false);
   EXPECT_FALSE(field.isRed());
-  EXPECT_EQ(changes, 2);
+  EXPECT_EQ(changes.count(), 2);
 }
 
 TEST(ATextField, asksItsViewToSelectTheText) {
   TextField field("a");
   field.selectText();
-  int asked = 0;
-  field.onSelectText = [&] { ++asked; };
+  const tests::Calls asked(field.onSelectText);
   field.selectText();
-  EXPECT_EQ(asked, 1);
+  EXPECT_EQ(asked.count(), 1);
 }
 
 TEST(ANumberField, showsANumberRoundedAndKeepsItWhole) {

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "DocumentsUnderTest.h"
+#include "support/Calls.h"
 
 namespace nascor::framework {
 namespace {
@@ -28,13 +29,12 @@ TEST_F(ADocumentWithAFile, isNeitherEditedNorBlankAfterSaving) {
   document.model = "one";
   document.setDocIsBlank(true);
   document.updateChangeCount(ZuDocument::ChangeType::changeDone);
-  int told = 0;
-  document.onStateChanged = [&] { ++told; };
+  const tests::Calls told(document.onStateChanged);
   EXPECT_EQ(document.writeToFile("/documents/a"), std::nullopt);
   EXPECT_FALSE(document.isDocumentEdited());
   EXPECT_FALSE(document.isBlank());
   EXPECT_EQ(application.textOf("/documents/a"), "one");
-  EXPECT_GE(told, 1);
+  EXPECT_GE(told.count(), 1);
 }
 
 TEST_F(ADocumentWithAFile, isUnchangedAndTheOldFileWholeWhenAWriteFails) {

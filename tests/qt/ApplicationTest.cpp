@@ -70,14 +70,14 @@ TEST(TheApplicationItself, isKnownToTheDesktopByItsEntry) {
 TEST(TheApplicationItself, asksWhoeverEndsItWhenTheSessionWantsItGone) {
   auto& application = *dynamic_cast<qt::Application*>(QCoreApplication::instance());
   int requests = 0;
-  application.onQuitRequest = [&] { ++requests; };
+  auto leaves = application.onQuitRequest.subscribe([&] { ++requests; });
   QWidget window;
   window.show();
   QEvent quit(QEvent::Quit);
   QCoreApplication::sendEvent(&application, &quit);
   EXPECT_EQ(requests, 1);
   EXPECT_TRUE(window.isVisible()) << "no window is closed behind the documents' back";
-  application.onQuitRequest = nullptr;
+  leaves.reset();
 }
 
 }  // namespace

@@ -274,7 +274,7 @@ TEST_F(TheApplicationOfDocuments, keepsTenRecentFilesTheLatestFirst) {
 TEST_F(TheApplicationOfDocuments, closesAnUneditedDocumentWithoutAQuestion) {
   open(singleton());
   int ends = 0;
-  application.onLastDocumentClosed = [&] { ++ends; };
+  const auto closes = application.onLastDocumentClosed.subscribe([&] { ++ends; });
   press(Qt::Key_W, Qt::ControlModifier);
   EXPECT_THAT(titles(), IsEmpty());
   EXPECT_EQ(ends, 1);
@@ -507,7 +507,7 @@ TEST_F(TheEndOfTheSession, savesTheEditedDocumentsOneByOneAndClosesNone) {
   EXPECT_NE(bytesOf("c.nascor"), c);
 
   int ends = 0;
-  application.onLastDocumentClosed = [&] { ++ends; };
+  const auto closes = application.onLastDocumentClosed.subscribe([&] { ++ends; });
   application.leaveSession();
   EXPECT_EQ(ends, 1);
   EXPECT_EQ(asked.size(), 2U) << "nothing is asked twice";

@@ -341,7 +341,7 @@ TEST(TheViewer, showsTheHtmlWhereThereIsNoPdf) {
   Viewer viewer;
   QStringList told;
   qt::QtViewer shower;
-  shower.tell = [&](const QString& sentence) { told << sentence; };
+  const auto tells = shower.onFailure.subscribe([&](const QString& sentence) { told << sentence; });
   const QString pdf = folder.filePath("a b.c.pdf");
   const std::string url = QUrl::fromLocalFile(pdf).toString(QUrl::FullyEncoded).toStdString();
   EXPECT_FALSE(shower.open(url));

@@ -67,7 +67,7 @@ bool ApplicationService::handleMessage(const QDBusMessage& message, const QDBusC
   const QDBusMessage reply = objects_.answer(message);
   calls_.pop_back();
   answer(call, reply);
-  if (onMessage) onMessage();
+  onMessage();
   return true;
 }
 

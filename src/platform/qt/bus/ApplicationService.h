@@ -2,11 +2,11 @@
 
 #include <QDBusVirtualObject>
 #include <QStringList>
-#include <functional>
 #include <vector>
 
 #include "bus/BusObjects.h"
 #include "foundation/Log.h"
+#include "foundation/Signal.h"
 
 namespace nascor::qt {
 
@@ -31,8 +31,8 @@ class ApplicationService final : public QDBusVirtualObject {
   /// A question stands on the screen. Answers the callers that wait for what follows it, since the user may take long.
   void questionIsAsked();
 
-  /// Sent after each message, whatever it asked; may be empty.
-  std::function<void()> onMessage;
+  /// Sent after each message, whatever it asked.
+  foundation::Signal<> onMessage;
 
   QString introspect(const QString& path) const override;
   bool handleMessage(const QDBusMessage& message, const QDBusConnection& connection) override;

@@ -11,6 +11,7 @@
 #include "app/NCDocument.h"
 #include "bus/DocumentNumbers.h"
 #include "foundation/Services.h"
+#include "foundation/Signal.h"
 #include "framework/DocumentController.h"
 
 namespace nascor::qt {
@@ -28,13 +29,13 @@ class BusObjects {
   BusObjects(const BusObjects&) = delete;
   BusObjects& operator=(const BusObjects&) = delete;
 
-  /// The reply, or the error. What the calls of the desktop ask for (the three functions below) comes after it, from the
+  /// The reply, or the error. What the calls of the desktop ask for (the three signals below) comes after it, from the
   /// event loop, because it may ask the user.
   QDBusMessage answer(const QDBusMessage& message);
 
-  std::function<void()> onNew;
-  std::function<void(const QStringList& paths)> onOpen;
-  std::function<void()> onActivate;
+  foundation::Signal<> onNew;
+  foundation::Signal<const QStringList&> onOpen;
+  foundation::Signal<> onActivate;
 
  private:
   struct Target;

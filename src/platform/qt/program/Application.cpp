@@ -56,7 +56,7 @@ bool Application::notify(QObject* receiver, QEvent* event) {
 }
 
 bool Application::event(QEvent* event) {
-  if (event->type() != QEvent::Quit || !onQuitRequest) return QApplication::event(event);
+  if (event->type() != QEvent::Quit || !onQuitRequest.hasListeners()) return QApplication::event(event);
   onQuitRequest();
   return true;
 }

@@ -3,7 +3,8 @@
 #include <QApplication>
 #include <QString>
 #include <QStringList>
-#include <functional>
+
+#include "foundation/Signal.h"
 
 namespace nascor::qt {
 
@@ -23,8 +24,8 @@ class Application final : public QApplication {
   Application(int& argc, char** argv);
   bool notify(QObject* receiver, QEvent* event) override;
 
-  /// The session wants the program gone. Without it all windows are closed one by one until one stays.
-  std::function<void()> onQuitRequest;
+  /// The session wants the program gone. Without a listener all windows are closed one by one until one stays.
+  foundation::Signal<> onQuitRequest;
 
  protected:
   bool event(QEvent* event) override;

@@ -38,15 +38,13 @@ DocumentApplication::DocumentApplication(const foundation::Services& services, c
     }
     return nullptr;
   };
-  alerts_.onQuestion = [this] {
-    if (onQuestion) onQuestion();
-  };
+  subscriptions_.push_back(alerts_.onQuestion.subscribe([this] { onQuestion(); }));
   panels_.frontWindow = [this] { return frontWindow(); };
   printer_.frontWindow = [this] { return frontWindow(); };
-  viewer_.tell = [this](const QString& sentence) {
+  subscriptions_.push_back(viewer_.onFailure.subscribe([this](const QString& sentence) {
     alerts_.tell(toUtf8(QCoreApplication::translate("Viewer", "The user guide cannot be shown.")),
                  toUtf8(sentence));
-  };
+  }));
   documents_.setFactory([this] {
     auto document =
         std::make_unique<app::NCDocument>(framework::DocumentEnvironment{.services = services_,
@@ -58,18 +56,21 @@ DocumentApplication::DocumentApplication(const foundation::Services& services, c
     document->setPrintInfo(usualPaper(services_.defaults));
     return document;
   });
-  documents_.onDocumentAdded = [this](ZuDocument& document) { addWindow(document); };
-  documents_.onDocumentInFront = [this](ZuDocument& document) { bringToFront(document); };
-  documents_.onDocumentRemoved = [this](ZuDocument& document) { removeWindow(document); };
+  subscriptions_.push_back(
+      documents_.onDocumentAdded.subscribe([this](ZuDocument& document) { addWindow(document); }));
+  subscriptions_.push_back(
+      documents_.onDocumentInFront.subscribe([this](const ZuDocument& document) { bringToFront(document); }));
+  subscriptions_.push_back(
+      documents_.onDocumentRemoved.subscribe([this](ZuDocument& document) { removeWindow(document); }));
   // Between two actions: in the middle of one a document may be gone that is still at work.
-  actions_.onIdle = [this] {
+  subscriptions_.push_back(actions_.onIdle.subscribe([this] {
     QMetaObject::invokeMethod(
         &context_,
         [this] {
           if (!actions_.isRunning()) documents_.releaseClosedDocuments();
         },
         Qt::QueuedConnection);
-  };
+  }));
   controller_.awakeFromNib();
   if (recoveryStore) recovery_.emplace(services_, documents_, alerts_, *recoveryStore);
   keeping_.setInterval(kKeepingInterval);
@@ -80,9 +81,7 @@ DocumentApplication::DocumentApplication(const foundation::Services& services, c
 }
 
 DocumentApplication::~DocumentApplication() {
-  documents_.onDocumentAdded = nullptr;
-  documents_.onDocumentInFront = nullptr;
-  documents_.onDocumentRemoved = nullptr;
+  subscriptions_.clear();
   for (const auto& [document, window] : windows_) {
     window->release();
     delete window;
@@ -197,7 +196,7 @@ void DocumentApplication::keepChangesSoon() {
 void DocumentApplication::leaveSession() {
   if (!isSessionEndAgreed_) {
     quit();
-  } else if (onLastDocumentClosed) {
+  } else {
     onLastDocumentClosed();
   }
 }
@@ -224,8 +223,8 @@ void DocumentApplication::addWindow(ZuDocument& document) {
            },
        .bringToFront =
            [this](ZuDocument& chosen) { actions_.perform([&] { documents_.setCurrentDocument(chosen); }); },
-       .quit = [this] { quit(); },
-       .documentMayBeEdited = [this] { keepChangesSoon(); }});
+       .quit = [this] { quit(); }});
+  edits_.emplace(&document, document.onStateChanged.subscribe([this] { keepChangesSoon(); }));
   std::vector<const DocumentWindow*> others;
   for (const auto& [open, other] : windows_) {
     // A file that is opened takes the place of a document that nothing was done in.
@@ -240,12 +239,13 @@ void DocumentApplication::addWindow(ZuDocument& document) {
 
 void DocumentApplication::removeWindow(ZuDocument& document) {
   numbers_.remove(document);
+  edits_.erase(&document);
   if (recovery_) recovery_->forget(document);
   const auto found = windows_.find(&document);
   if (found == windows_.end()) return;
   found->second->release();
   windows_.erase(found);
-  if (windows_.empty() && onLastDocumentClosed) onLastDocumentClosed();
+  if (windows_.empty()) onLastDocumentClosed();
 }
 
 void DocumentApplication::bringToFront(const ZuDocument& document) const {

@@ -12,6 +12,7 @@
 #include "bus/DocumentNumbers.h"
 #include "foundation/RecoveryStore.h"
 #include "foundation/Services.h"
+#include "foundation/Signal.h"
 #include "framework/DocumentController.h"
 #include "painting/PageFiles.h"
 #include "painting/QtPrinter.h"
@@ -64,9 +65,8 @@ class DocumentApplication {
   /// The session wants the program gone: everything was asked when its end was announced; otherwise like `quit`.
   void leaveSession();
 
-  std::function<void()> onLastDocumentClosed;  ///< sent when there is nothing left to do; may be empty
-
-  std::function<void()> onQuestion;  ///< sent before the user is asked something; may be empty
+  foundation::Signal<> onLastDocumentClosed;  ///< sent when there is nothing left to do
+  foundation::Signal<> onQuestion;            ///< sent before the user is asked something
 
   /// The numbers by which scripts know the open documents.
   const DocumentNumbers& numbers() const { return numbers_; }
@@ -92,10 +92,12 @@ class DocumentApplication {
   RecentFiles recentFiles_;
   DocumentNumbers numbers_;
   std::map<const framework::ZuDocument*, DocumentWindow*> windows_;
+  std::map<const framework::ZuDocument*, foundation::Subscription> edits_;  ///< to what may be edits of each
   bool isSessionEndAgreed_ = false;
   std::optional<app::Recovery> recovery_;
   QTimer keeping_;   ///< runs while something is edited
   QObject context_;  ///< what is queued ends with it
+  std::vector<foundation::Subscription> subscriptions_;
 };
 
 }  // namespace nascor::qt

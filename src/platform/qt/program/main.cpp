@@ -176,18 +176,22 @@ class Patience {
   QTimer timer_;
 };
 
-void followSession(Application& application, DocumentApplication& documents) {
+using Subscriptions = std::vector<foundation::Subscription>;
+
+Subscriptions followSession(Application& application, DocumentApplication& documents) {
   Application::setQuitOnLastWindowClosed(false);  // a window that another document takes over is not the end
   QObject::connect(
       &application, &QGuiApplication::commitDataRequest, &application, [&](QSessionManager& session) {
         documents.endSession([&] { return session.allowsInteraction(); }, [&] { session.cancel(); });
         session.release();
       });
-  application.onQuitRequest = [&] { documents.leaveSession(); };
-  documents.onLastDocumentClosed = [] {
+  Subscriptions subscriptions;
+  subscriptions.push_back(application.onQuitRequest.subscribe([&] { documents.leaveSession(); }));
+  subscriptions.push_back(documents.onLastDocumentClosed.subscribe([] {
     QMetaObject::invokeMethod(
         qApp, [] { Application::exit(kAllWell); }, Qt::QueuedConnection);
-  };
+  }));
+  return subscriptions;
 }
 
 int showDocuments(Application& application, const CommandLine& line, const foundation::Services& services) {
@@ -201,19 +205,20 @@ int showDocuments(Application& application, const CommandLine& line, const found
     endingSignals.obey();
   });
   BusObjects objects(services, documents.documents(), documents.numbers());
-  objects.onOpen = [&](const QStringList& paths) { documents.openFiles(paths); };
-  objects.onNew = [&] { documents.newDocument(); };
-  objects.onActivate = [&] { documents.activate(); };
+  const auto opens = objects.onOpen.subscribe([&](const QStringList& paths) { documents.openFiles(paths); });
+  const auto makes = objects.onNew.subscribe([&] { documents.newDocument(); });
+  const auto activates = objects.onActivate.subscribe([&] { documents.activate(); });
   ApplicationService service(objects, services.log);
-  documents.onQuestion = [&] { service.questionIsAsked(); };
+  const auto asks = documents.onQuestion.subscribe([&] { service.questionIsAsked(); });
   const ApplicationService::Start start = service.start(files);
   if (start == ApplicationService::Start::handedOver) return kAllWell;
 
   Application::setWindowIcon(applicationIcon());
-  followSession(application, documents);
+  const Subscriptions session = followSession(application, documents);
   Patience patience(documents);
+  foundation::Subscription waits;
   if (line.parser.isSet(line.service) && start == ApplicationService::Start::first) {
-    service.onMessage = [&] { patience.begin(); };
+    waits = service.onMessage.subscribe([&] { patience.begin(); });
     patience.begin();
   } else if (const bool isRecovered = documents.offerRecovery(); files.isEmpty()) {
     if (!isRecovered) documents.newDocument();

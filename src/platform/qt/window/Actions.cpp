@@ -19,7 +19,7 @@ bool Actions::perform(const Action& action) {
     waiting_.pop_front();
     return perform(next);
   }
-  if (onIdle) onIdle();
+  onIdle();
   return true;
 }
 

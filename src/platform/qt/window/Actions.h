@@ -3,6 +3,8 @@
 #include <deque>
 #include <functional>
 
+#include "foundation/Signal.h"
+
 namespace nascor::qt {
 
 /// Lets one action of the user run at a time. A question to the user runs the event loop, and what happens there must not
@@ -17,7 +19,7 @@ class Actions {
   void performInTurn(Action action);
   bool isRunning() const { return isRunning_; }
 
-  std::function<void()> onIdle;  ///< sent after each action, when none is running any more
+  foundation::Signal<> onIdle;  ///< sent after each action, when none is running any more
 
  private:
   bool isRunning_ = false;

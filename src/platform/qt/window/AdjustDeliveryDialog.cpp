@@ -27,10 +27,10 @@ AdjustDeliveryDialog::AdjustDeliveryDialog(app::NCDocument& document, const foun
   ui_->adjustEDDLongForm->setMinimumWidth(room);
   ui_->adjustDeliverOnLongForm->setMinimumWidth(room);
   for (QLineEdit* edit : {ui_->adjustEDDField, ui_->adjustDeliverOnField, ui_->adjustDeliverAtField}) {
-    bindReadOnly(*edit, fieldFor(*edit));
+    keep(bindReadOnly(*edit, fieldFor(*edit)));
     connect(edit, &QLineEdit::textChanged, this, [this] { refresh(); });
   }
-  document.adjustDeliveryStepper().onChange = [this] { refresh(); };
+  keep(document.adjustDeliveryStepper().onChange.subscribe([this] { refresh(); }));
   connect(ui_->adjustDeliveryStepper, &QSpinBox::valueChanged, this, [this](int days) {
     this->perform([days](app::NCDocument& planned) {
       planned.adjustDeliveryStepper().setValue(days);
@@ -44,12 +44,6 @@ AdjustDeliveryDialog::AdjustDeliveryDialog(app::NCDocument& document, const foun
 }
 
 AdjustDeliveryDialog::~AdjustDeliveryDialog() = default;
-
-void AdjustDeliveryDialog::releaseControls() {
-  for (const QLineEdit* edit : {ui_->adjustEDDField, ui_->adjustDeliverOnField, ui_->adjustDeliverAtField})
-    fieldFor(*edit).onChange = nullptr;
-  document()->adjustDeliveryStepper().onChange = nullptr;
-}
 
 void AdjustDeliveryDialog::refresh() {
   if (!document()) return;

@@ -21,7 +21,6 @@ class AdjustDeliveryDialog final : public PanelDialog {
  private:
   void refresh() override;
   void focusFirst() override;
-  void releaseControls() override;
 
   foundation::Services services_;
   std::unique_ptr<Ui::AdjustDelivery> ui_;

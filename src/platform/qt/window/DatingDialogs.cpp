@@ -51,8 +51,6 @@ DatingDialog::DatingDialog(NCDocument& document, const foundation::Services& ser
 void DatingDialog::bindField(FieldEdit& edit) {
   bindings_.push_back(new FieldBinding(edit, fieldFor(edit), document()->fieldEditor(), actions_));
   new SelectOnClick(edit);
-  // Escape closes the dialog, which gives the old text back as well.
-  edit.onEscape = nullptr;
   connect(&edit, &QLineEdit::textChanged, this, [this] { forgetObstacles(); });
 }
 
@@ -74,13 +72,7 @@ void DatingDialog::bindDate(FieldEdit& edit, QLabel& form, QLabel& longForm) {
 
 void DatingDialog::bindText(QLabel& label, framework::TextField& text, int lines) {
   label.setMinimumHeight(lines * label.fontMetrics().lineSpacing());
-  bindLabel(label, text);
-  texts_.push_back(&text);
-}
-
-void DatingDialog::releaseControls() {
-  for (framework::TextField* text : texts_) text->onChange = nullptr;
-  for (FieldBinding* binding : bindings_) binding->release();
+  keep(bindLabel(label, text));
 }
 
 void DatingDialog::accept() {
@@ -131,11 +123,8 @@ EDDFromCRLDialog::EDDFromCRLDialog(NCDocument& document, const foundation::Servi
   bindText(*ui_->crlWindowExamination, document.assessment().crlExamination);
   bindText(*ui_->crlWindowProposal, document.assessment().crlProposal, kProposalLines);
   framework::TextField& formula = fieldFor(*ui_->crlStandardReference);
-  bindReadOnly(*ui_->crlStandardReference, formula);
-  formula.onChange = [this, show = formula.onChange] {
-    show();
-    refresh();
-  };
+  keep(bindReadOnly(*ui_->crlStandardReference, formula));
+  keep(formula.onChange.subscribe([this] { refresh(); }));
   bindPanel();
   refresh();
 }
@@ -166,11 +155,6 @@ void EDDFromCRLDialog::focusFirst() {
   FieldEdit* first = ui_->crlWindowDate->text().isEmpty() ? ui_->crlWindowDate : ui_->crlWindowCRL;
   first->setFocus();
   first->selectAll();
-}
-
-void EDDFromCRLDialog::releaseControls() {
-  DatingDialog::releaseControls();
-  fieldFor(*ui_->crlStandardReference).onChange = nullptr;
 }
 
 void EDDFromCRLDialog::setEDD(NCDocument& document) { document.okSetEDDfromCRL(nullptr); }
@@ -242,11 +226,11 @@ EDDFromMeasurementsDialog::EDDFromMeasurementsDialog(NCDocument& document,
   letWindowThrough(*ui_->measurementsWindowExamination);
   const auto boxes = document.checkBoxes();
   for (const Row& row : rows()) {
-    bindReadOnly(row.gestation, fieldFor(row.gestation));
+    keep(bindReadOnly(row.gestation, fieldFor(row.gestation)));
     giveRoom(row.gestation, QStringLiteral("-40w -6d"));
     for (framework::CheckBox* box : boxes) {
       if (fromUtf8(box->name()) != row.check.objectName()) continue;
-      box->onChange = [this] { refresh(); };
+      keep(box->onChange.subscribe([this] { refresh(); }));
       connect(&row.check, &QCheckBox::clicked, this, [this, box](bool on) {
         this->perform([box, on](NCDocument& checked) {
           box->setOn(on);
@@ -259,12 +243,9 @@ EDDFromMeasurementsDialog::EDDFromMeasurementsDialog(NCDocument& document,
   bindText(*ui_->measurementsWindowProposal, document.assessment().measurementsProposal, kProposalLines);
   // The average is shown last, when all the others are as they are to be.
   framework::TextField& average = fieldFor(*ui_->measurementsWindowAvGestation);
-  bindReadOnly(*ui_->measurementsWindowAvGestation, average);
+  keep(bindReadOnly(*ui_->measurementsWindowAvGestation, average));
   giveRoom(*ui_->measurementsWindowAvGestation, QStringLiteral("-40w -6d"));
-  average.onChange = [this, show = average.onChange] {
-    show();
-    refresh();
-  };
+  keep(average.onChange.subscribe([this] { refresh(); }));
   bindPanel();
   refresh();
 }
@@ -316,13 +297,6 @@ void EDDFromMeasurementsDialog::refresh() {
 }
 
 void EDDFromMeasurementsDialog::focusFirst() { ui_->measurementsWindowBPDCheck->setFocus(); }
-
-void EDDFromMeasurementsDialog::releaseControls() {
-  DatingDialog::releaseControls();
-  for (const Row& row : rows()) fieldFor(row.gestation).onChange = nullptr;
-  fieldFor(*ui_->measurementsWindowAvGestation).onChange = nullptr;
-  for (framework::CheckBox* box : document()->checkBoxes()) box->onChange = nullptr;
-}
 
 void EDDFromMeasurementsDialog::setEDD(NCDocument& document) { document.okSetEDDfromMeasurements(nullptr); }
 

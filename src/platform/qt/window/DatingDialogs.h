@@ -39,7 +39,6 @@ class DatingDialog : public PanelDialog {
   void bindText(QLabel& label, framework::TextField& text, int lines = 1);
   /// Outlines nothing any more.
   void forgetObstacles();
-  void releaseControls() override;
 
   virtual void setEDD(app::NCDocument& document) = 0;
   virtual app::NCDocument::ProposedEDD proposal(const app::NCDocument& document) const = 0;
@@ -52,7 +51,6 @@ class DatingDialog : public PanelDialog {
   foundation::Services services_;
   Actions& actions_;
   std::vector<FieldBinding*> bindings_;
-  std::vector<framework::TextField*> texts_;
 };
 
 /// From a crown-rump length at a scan.
@@ -65,7 +63,6 @@ class EDDFromCRLDialog final : public DatingDialog {
  private:
   void refresh() override;
   void focusFirst() override;
-  void releaseControls() override;
   void setEDD(app::NCDocument& document) override;
   app::NCDocument::ProposedEDD proposal(const app::NCDocument& document) const override;
 
@@ -101,7 +98,6 @@ class EDDFromMeasurementsDialog final : public DatingDialog {
   std::vector<Row> rows() const;
   void refresh() override;
   void focusFirst() override;
-  void releaseControls() override;
   void setEDD(app::NCDocument& document) override;
   app::NCDocument::ProposedEDD proposal(const app::NCDocument& document) const override;
   FieldEdit* editFor(const framework::TextField& obstacle) const override;

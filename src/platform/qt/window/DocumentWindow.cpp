@@ -120,10 +120,10 @@ DocumentWindow::DocumentWindow(NCDocument& document, WindowEnvironment environme
       notifications.subscribe(foundation::NotificationName::updateShowAll, [this](const auto&) {
         ui_->showAllAction->setChecked(environment_.application.showAllMenuItem().state != 0);
       }));
-  document.onDisplayChanged = [this] { showExaminations(); };
-  document.onStateChanged = [this] { showState(); };
-  document.fieldEditor().onChange = [this] { showEditing(); };
-  document.statusLine().onChange = [this] { showEditing(); };
+  subscriptions_.push_back(document.onDisplayChanged.subscribe([this] { showExaminations(); }));
+  subscriptions_.push_back(document.onStateChanged.subscribe([this] { showState(); }));
+  subscriptions_.push_back(document.fieldEditor().onChange.subscribe([this] { showEditing(); }));
+  subscriptions_.push_back(document.statusLine().onChange.subscribe([this] { showEditing(); }));
 
   // The panel scrolls up and down where the screen is low, never sideways.
   ui_->patientPanel->ensurePolished();
@@ -155,27 +155,12 @@ void DocumentWindow::keepGeometry() const {
 void DocumentWindow::release() {
   if (!document_) return;
   keepGeometry();
+  subscriptions_.clear();
   for (FieldBinding* binding : bindings_) binding->release();
   dropSheets(*this);
   for (PanelDialog* dialog : dialogs_) dialog->release();
-  for (framework::Panel* panel : document_->panels()) {
-    panel->onCenter = nullptr;
-    panel->onChange = nullptr;
-  }
-  document_->ageField().onChange = nullptr;
-  for (framework::TextField* text : document_->assessment().texts()) text->onChange = nullptr;
-  document_->notesField().onChange = nullptr;
-  document_->multiplePopUp().onChange = nullptr;
-  document_->multiplePopUp().onAnimationEffect = nullptr;
-  document_->tabView().onSelect = nullptr;
-  document_->tabView().onNeedsDisplay = nullptr;
-  document_->fieldEditor().onChange = nullptr;
-  document_->statusLine().onChange = nullptr;
-  document_->onDisplayChanged = nullptr;
-  document_->onStateChanged = nullptr;
-  document_ = nullptr;
-  subscriptions_.clear();
   for (PageView* view : pageViews_) view->release();
+  document_ = nullptr;
   hide();
   deleteLater();
 }
@@ -226,13 +211,13 @@ void DocumentWindow::bindFields() {
   for (const auto& [edit, field] : fields) {
     if (edit != ui_->referenceIDField) new SelectOnClick(*edit);
   }
-  bindReadOnly(*ui_->ageField, document_->ageField());
+  subscriptions_.push_back(bindReadOnly(*ui_->ageField, document_->ageField()));
   for (const FieldEdit* edit : {ui_->birthDateField, ui_->examDateField})
     connect(edit, &QLineEdit::textChanged, this, [this] { showLongDates(); });
 
   framework::TextView& note = document_->notesField();
   NoteEdit* noteEdit = ui_->notesField;
-  note.onChange = [noteEdit, &note] {
+  subscriptions_.push_back(note.onChange.subscribe([noteEdit, &note] {
     const QString text = fromUtf8(framework::shownInEdit(note.text(), framework::kMostInNote));
     noteEdit->setReadOnly(!note.isEditable());
     noteEdit->setShownInPart(note.isShownInPart());
@@ -241,9 +226,9 @@ void DocumentWindow::bindFields() {
     if (noteEdit->toPlainText() == text) return;
     const QSignalBlocker quiet(noteEdit);
     noteEdit->setPlainText(text);
-  };
+  }));
   // Not at once: an action that moved the focus has its own order of storing and showing.
-  noteEdit->onLeave = [this] {
+  subscriptions_.push_back(noteEdit->onLeave.subscribe([this] {
     QMetaObject::invokeMethod(
         this,
         [this] {
@@ -252,7 +237,7 @@ void DocumentWindow::bindFields() {
           });
         },
         Qt::QueuedConnection);
-  };
+  }));
   connect(noteEdit, &QPlainTextEdit::textChanged, this, [this] {
     if (document_) document_->notesField().takeEditedText(toUtf8(ui_->notesField->toPlainText()));
   });
@@ -263,7 +248,7 @@ void DocumentWindow::bindAssessment() {
   for (framework::TextField* text : assessment.texts()) {
     // Those of the dialogs are bound by the dialogs.
     auto* label = findChild<QLabel*>(fromUtf8(text->name()));
-    if (label) bindLabel(*label, *text);
+    if (label) subscriptions_.push_back(bindLabel(*label, *text));
   }
   // Room for the longest, so that nothing moves while the user types. A label rounds its width up by itself.
   const auto room = [this](QLabel* label, const QString& longest) {
@@ -282,8 +267,8 @@ void DocumentWindow::bindAssessment() {
   }
   const auto show = [this] { showRemarks(); };
   for (const calc::Measurement measurement : calc::kMeasurements)
-    assessment.length(measurement).remark.onChange = show;
-  assessment.ageRemark.onChange = show;
+    subscriptions_.push_back(assessment.length(measurement).remark.onChange.subscribe(show));
+  subscriptions_.push_back(assessment.ageRemark.onChange.subscribe(show));
   showRemarks();
 }
 
@@ -326,10 +311,10 @@ QString DocumentWindow::remarkOn(const FieldEdit& edit) const {
 }
 
 void DocumentWindow::bindPopUp() {
-  document_->multiplePopUp().onChange = [this] { showFetuses(); };
-  document_->multiplePopUp().onAnimationEffect = [this](int, framework::Point at) {
-    showPuff(*this, QPointF(at.x, at.y).toPoint());
-  };
+  framework::PopUpButton& popUp = document_->multiplePopUp();
+  subscriptions_.push_back(popUp.onChange.subscribe([this] { showFetuses(); }));
+  subscriptions_.push_back(popUp.onAnimationEffect.subscribe(
+      [this](int, framework::Point at) { showPuff(*this, QPointF(at.x, at.y).toPoint()); }));
   const auto choose = [this](int index) {
     perform([index](NCDocument& document) {
       document.multiplePopUp().selectItemAtIndex(index);
@@ -359,9 +344,9 @@ void DocumentWindow::bindPages() {
   for (std::int64_t i = 0; i < tabs.numberOfPages(); ++i) {
     framework::Page& page = tabs.page(i);
     auto* view = new PageView(page, clicks_);
-    view->onClick = [this, &page](framework::Point point, int count) {
+    subscriptions_.push_back(view->onClick.subscribe([this, &page](framework::Point point, int count) {
       perform([&page, point, count](NCDocument&) { page.click(point, count); });
-    };
+    }));
     const QString name = said("MyDocument", page.name().c_str());
     view->setObjectName(fromUtf8(page.name()) + QStringLiteral("Page"));
     view->setAccessibleName(name);
@@ -380,8 +365,8 @@ void DocumentWindow::bindPages() {
     ui_->tabView->setCurrentIndex(static_cast<int>(document_->tabView().indexOfSelectedPage()));
     updatePages();
   };
-  tabs.onSelect = showSelected;
-  tabs.onNeedsDisplay = [this] { updatePages(); };
+  subscriptions_.push_back(tabs.onSelect.subscribe(showSelected));
+  subscriptions_.push_back(tabs.onNeedsDisplay.subscribe([this] { updatePages(); }));
   connect(ui_->tabView, &QTabWidget::currentChanged, this, [this, showSelected](int index) {
     if (!document_ || index == document_->tabView().indexOfSelectedPage()) return;
     perform([index](NCDocument& document) { document.switchToGraph(index); });
@@ -465,10 +450,10 @@ void DocumentWindow::bindActions() {
 
 void DocumentWindow::bindDialogs() {
   for (framework::Panel* panel : document_->panels()) {
-    panel->onCenter = [this, panel] { dialogOf(*panel).center(); };
-    panel->onChange = [this, panel] {
+    subscriptions_.push_back(panel->onCenter.subscribe([this, panel] { dialogOf(*panel).center(); }));
+    subscriptions_.push_back(panel->onChange.subscribe([this, panel] {
       if (panel->isShown() || windowOfPanel(*panel)) dialogOf(*panel).followPanel();
-    };
+    }));
   }
 }
 
@@ -645,7 +630,6 @@ void DocumentWindow::showState() {
   if (!document_) return;
   setWindowTitle(fromUtf8(foundation::oneLine(document_->displayName())) + QStringLiteral("[*]"));
   setWindowModified(document_->isDocumentEdited());
-  environment_.documentMayBeEdited();
   ui_->revertAction->setEnabled(document_->filePath().has_value());
   const QString path = document_->filePath()
                            ? QFile::decodeName(QByteArray::fromStdString(*document_->filePath()))

@@ -12,8 +12,8 @@
 #include "app/NCAppController.h"
 #include "app/NCDocument.h"
 #include "base/RecentFiles.h"
-#include "foundation/NotificationCenter.h"
 #include "foundation/Services.h"
+#include "foundation/Signal.h"
 #include "framework/DocumentController.h"
 #include "painting/QtPrinter.h"
 #include "window/Actions.h"
@@ -49,7 +49,6 @@ struct WindowEnvironment {
   std::function<std::vector<framework::ZuDocument*>()> openDocuments;  ///< in the order of opening
   std::function<void(framework::ZuDocument&)> bringToFront;
   std::function<void()> quit;
-  std::function<void()> documentMayBeEdited;  ///< sent when a document has been edited, saved or read
 };
 
 /// How large a window opens for the first time, which was designed for a small screen.
@@ -137,7 +136,7 @@ class DocumentWindow final : public QMainWindow {
   ReferencesDialog* references_ = nullptr;
   CompareDialog* compare_ = nullptr;
   QString notedPath_;
-  std::vector<foundation::NotificationCenter::Subscription> subscriptions_;
+  std::vector<foundation::Subscription> subscriptions_;  ///< to what shows itself in the window
 };
 
 }  // namespace nascor::qt

@@ -57,26 +57,24 @@ QWidget* nextField(QWidget& edit) {
 FieldBinding::FieldBinding(FieldEdit& edit, framework::TextField& field, framework::FieldEditor& editor,
                            Actions& actions)
     : QObject(&edit), edit_(edit), field_(&field), editor_(editor), actions_(actions) {
-  field.onChange = [this] { refresh(); };
-  field.onSelectText = [this] {
+  subscriptions_.push_back(field.onChange.subscribe([this] { refresh(); }));
+  subscriptions_.push_back(field.onSelectText.subscribe([this] {
     edit_.setFocus();
     edit_.selectAll();
-  };
+  }));
   connect(&edit, &QLineEdit::textEdited, this, [this](const QString& text) { typed(text); });
   connect(&edit, &QLineEdit::returnPressed, this, [this] { goOn(); });
   // Not at once: the next widget is to have the focus before the user is asked anything.
-  edit.onLeave = [this] {
+  subscriptions_.push_back(edit.onLeave.subscribe([this] {
     QMetaObject::invokeMethod(
         this, [this] { leave(); }, Qt::QueuedConnection);
-  };
+  }));
   edit.onEscape = [this] { return escape(); };
   refresh();
 }
 
 void FieldBinding::release() {
-  if (!field_) return;
-  field_->onChange = nullptr;
-  field_->onSelectText = nullptr;
+  subscriptions_.clear();
   field_ = nullptr;
 }
 
@@ -168,7 +166,8 @@ void FieldBinding::goOn() {
 }
 
 bool FieldBinding::escape() {
-  if (!isInEdit()) return false;
+  // Escape closes a dialog, which gives the old text back as well.
+  if (!isInEdit() || qobject_cast<QDialog*>(edit_.window())) return false;
   editor_.revert();
   refresh();
   edit_.selectAll();
@@ -181,18 +180,20 @@ void letWindowThrough(QLineEdit& edit) {
   edit.setPalette(palette);
 }
 
-void bindLabel(QLabel& label, framework::TextField& field) {
-  field.onChange = [&label, &field] { label.setText(fromUtf8(field.text())); };
-  field.onChange();
+foundation::Subscription bindLabel(QLabel& label, framework::TextField& field) {
+  const auto showField = [&label, &field] { label.setText(fromUtf8(field.text())); };
+  showField();
+  return field.onChange.subscribe(showField);
 }
 
-void bindReadOnly(QLineEdit& edit, framework::TextField& field) {
+foundation::Subscription bindReadOnly(QLineEdit& edit, framework::TextField& field) {
   letWindowThrough(edit);
-  field.onChange = [&edit, &field] {
+  const auto showField = [&edit, &field] {
     show(edit, field.text());
     showColor(edit, field);
   };
-  field.onChange();
+  showField();
+  return field.onChange.subscribe(showField);
 }
 
 }  // namespace nascor::qt

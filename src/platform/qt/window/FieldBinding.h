@@ -5,7 +5,9 @@
 #include <QObject>
 #include <QPlainTextEdit>
 #include <QPointer>
+#include <vector>
 
+#include "foundation/Signal.h"
 #include "framework/Controls.h"
 #include "framework/FieldEditor.h"
 #include "framework/PopUpButton.h"
@@ -48,15 +50,16 @@ class FieldBinding final : public QObject {
   Actions& actions_;
   bool isBeginning_ = false;
   bool wasStale_ = false;
+  std::vector<foundation::Subscription> subscriptions_;
 };
 
 /// Shows the window behind a line that takes no typing.
 void letWindowThrough(QLineEdit& edit);
 
-/// A label that shows a field.
-void bindLabel(QLabel& label, framework::TextField& field);
+/// A label that shows a field, which both outlive the subscription.
+[[nodiscard]] foundation::Subscription bindLabel(QLabel& label, framework::TextField& field);
 
-/// A line that shows a field and takes no typing.
-void bindReadOnly(QLineEdit& edit, framework::TextField& field);
+/// A line that shows a field and takes no typing; both outlive the subscription.
+[[nodiscard]] foundation::Subscription bindReadOnly(QLineEdit& edit, framework::TextField& field);
 
 }  // namespace nascor::qt

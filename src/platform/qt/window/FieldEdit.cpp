@@ -81,7 +81,7 @@ void FieldEdit::focusOutEvent(QFocusEvent* event) {
     case Qt::MenuBarFocusReason: return;
     default: break;
   }
-  if (onLeave) onLeave();
+  onLeave();
 }
 
 bool FieldEdit::event(QEvent* event) {

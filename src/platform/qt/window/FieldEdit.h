@@ -3,6 +3,8 @@
 #include <QLineEdit>
 #include <functional>
 
+#include "foundation/Signal.h"
+
 namespace nascor::qt {
 
 /// A line to type in that can be outlined while it refuses what was typed. Lines that are pasted into it become one. What
@@ -22,8 +24,8 @@ class FieldEdit final : public QLineEdit {
   /// Room for a date at least.
   QSize minimumSizeHint() const override;
 
-  std::function<void()>
-      onLeave;  ///< the focus went to another widget of the window, not to a menu or another window
+  /// The focus went to another widget of the window, not to a menu or another window.
+  foundation::Signal<> onLeave;
   std::function<bool()> onEscape;  ///< the user pressed Escape; true when that did something
 
  protected:

@@ -3,7 +3,8 @@
 #include <QEvent>
 #include <QPainter>
 #include <QPlainTextEdit>
-#include <functional>
+
+#include "foundation/Signal.h"
 
 namespace nascor::qt {
 
@@ -16,7 +17,7 @@ class NoteEdit final : public QPlainTextEdit {
   /// Says, in place of the usual tool tip and whenever something is typed, that only a part of the text is shown.
   void setShownInPart(bool isShownInPart);
 
-  std::function<void()> onLeave;  ///< the focus went elsewhere, to another window too
+  foundation::Signal<> onLeave;  ///< the focus went elsewhere, to another window too
 
  protected:
   bool event(QEvent* event) override {
@@ -36,7 +37,7 @@ class NoteEdit final : public QPlainTextEdit {
   void focusOutEvent(QFocusEvent* event) override {
     QPlainTextEdit::focusOutEvent(event);
     update();
-    if (onLeave) onLeave();
+    onLeave();
   }
   bool canInsertFromMimeData(const QMimeData* source) const override;
   void insertFromMimeData(const QMimeData* source) override;

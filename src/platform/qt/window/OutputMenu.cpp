@@ -142,11 +142,10 @@ void OutputMenu::printPreview(NCDocument& document) {
 }
 
 void OutputMenu::exportPage(NCDocument& document) {
-  document.onExported = [this](const std::string& path) {
+  const auto exported = document.onExported.subscribe([this](const std::string& path) {
     window_.statusBar()->showMessage(said("OutputMenu", "Exported to %1").arg(pathText(path)), kMessageTime);
-  };
+  });
   document.doExport(&environment_.sender);
-  document.onExported = nullptr;
 }
 
 void OutputMenu::exportAll(NCDocument& document) {
@@ -158,10 +157,10 @@ void OutputMenu::exportAll(NCDocument& document) {
   progress.setAutoClose(false);
   int written = 0;
   std::string last;
-  document.onExported = [&](const std::string& path) {
+  const auto exported = document.onExported.subscribe([&](const std::string& path) {
     ++written;
     last = path;
-  };
+  });
   const auto now = [] {
     return std::chrono::duration<double>(std::chrono::steady_clock::now().time_since_epoch()).count();
   };
@@ -177,7 +176,6 @@ void OutputMenu::exportAll(NCDocument& document) {
     QCoreApplication::processEvents();
     return !progress.wasCanceled();
   });
-  document.onExported = nullptr;
   progress.close();
   if (written > 0) {
     const QString folder = pathText(last.substr(0, last.rfind('/') + 1));

@@ -26,11 +26,19 @@ constexpr double kMargin = 8.0;
 }  // namespace
 
 PageView::PageView(Page& page, ClickCounter& clicks, QWidget* parent)
-    : QWidget(parent), page_(&page), clicks_(clicks) {
+    : QWidget(parent),
+      page_(&page),
+      redraws_(page.onNeedsDisplay.subscribe([this] { update(); })),
+      clicks_(clicks) {
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
   setAttribute(Qt::WA_OpaquePaintEvent);  // what lies below need not be painted
   // A click belongs to the page: it leaves the focus where the user types.
   setFocusPolicy(Qt::TabFocus);
+}
+
+void PageView::release() {
+  redraws_.reset();
+  page_ = nullptr;
 }
 
 QRectF PageView::fittingPaper() const {
@@ -268,7 +276,7 @@ void PageView::mousePressEvent(QMouseEvent* event) {
     return;
   }
   const int count = clicks_.count(*event);
-  if (page_ && onClick) onClick(onPage(event->position()), count);
+  if (page_) onClick(onPage(event->position()), count);
 }
 
 void PageView::wheelEvent(QWheelEvent* event) {

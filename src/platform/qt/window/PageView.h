@@ -2,9 +2,9 @@
 
 #include <QWidget>
 #include <cstddef>
-#include <functional>
 #include <optional>
 
+#include "foundation/Signal.h"
 #include "framework/Page.h"
 #include "painting/TextLayouts.h"
 #include "window/ClickCounter.h"
@@ -23,7 +23,7 @@ class PageView final : public QWidget {
   PageView(framework::Page& page, ClickCounter& clicks, QWidget* parent = nullptr);
 
   /// Shows blank paper from now on.
-  void release() { page_ = nullptr; }
+  void release();
 
   /// Shows the page at that many pixels to its unit, and scrolls where that is larger than the widget; without a scale as
   /// large as fits. What was in the middle stays there.
@@ -45,7 +45,7 @@ class PageView final : public QWidget {
   void setDescription(const QString& description);
 
   /// A press of the left button, in page coordinates, and its place in a row of presses.
-  std::function<void(framework::Point, int count)> onClick;
+  foundation::Signal<framework::Point, int> onClick;
 
  protected:
   bool event(QEvent* event) override;
@@ -76,6 +76,7 @@ class PageView final : public QWidget {
   void placeAdvice();
 
   framework::Page* page_;
+  foundation::Subscription redraws_;
   ClickCounter& clicks_;
   TextLayouts texts_;
   QString description_;

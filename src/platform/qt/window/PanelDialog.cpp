@@ -43,7 +43,7 @@ bool PanelDialog::event(QEvent* event) {
 
 void PanelDialog::release() {
   if (!document_) return;
-  releaseControls();
+  subscriptions_.clear();
   panel_ = nullptr;
   document_ = nullptr;
   hide();

@@ -2,8 +2,10 @@
 
 #include <QDialog>
 #include <functional>
+#include <vector>
 
 #include "app/NCDocument.h"
+#include "foundation/Signal.h"
 
 class QLabel;
 class QLineEdit;
@@ -25,7 +27,7 @@ class PanelDialog : public QDialog {
   void followPanel();
   /// Stands in the middle of the document's window.
   void center();
-  /// Ends the binding: the document goes.
+  /// Lets go of the document, which is about to go.
   void release();
   void done(int result) override;
 
@@ -37,6 +39,8 @@ class PanelDialog : public QDialog {
   /// Null once the document is gone.
   app::NCDocument* document() const { return document_; }
   void perform(const std::function<void(app::NCDocument&)>& action) { perform_(action); }
+  /// Keeps `subscription`, to something of the document, until that goes.
+  void keep(foundation::Subscription subscription) { subscriptions_.push_back(std::move(subscription)); }
   /// Whether the document has it open.
   bool isPanelShown() const { return panel_ != nullptr && panel_->isShown(); }
   /// The document's field of that widget's name.
@@ -49,14 +53,13 @@ class PanelDialog : public QDialog {
   virtual void refresh() = 0;
   /// Puts the focus where work begins.
   virtual void focusFirst() = 0;
-  /// Leaves all controls of the document to themselves.
-  virtual void releaseControls() = 0;
 
  private:
   app::NCDocument* document_;
   QString title_;
   Perform perform_;
   framework::Panel* panel_ = nullptr;
+  std::vector<foundation::Subscription> subscriptions_;
 };
 
 }  // namespace nascor::qt

@@ -67,7 +67,7 @@ AlertReturn answerOf(const QMessageBox& box) {
 }  // namespace
 
 void QtAlerts::exec(QMessageBox& box) const {
-  if (onQuestion) onQuestion();
+  onQuestion();
   box.exec();
 }
 

@@ -4,6 +4,7 @@
 #include <QWidget>
 #include <functional>
 
+#include "foundation/Signal.h"
 #include "framework/Alerts.h"
 #include "window/Actions.h"
 
@@ -27,8 +28,8 @@ class QtAlerts final : public framework::Alerts {
   std::function<QWidget*()> frontWindow;
   /// The window of a panel; set likewise. May return null.
   std::function<QWidget*(const framework::Panel&)> windowOfPanel;
-  /// Sent before a question that whatever asked it waits for; may be empty.
-  std::function<void()> onQuestion;
+  /// Sent before a question that whatever asked it waits for.
+  foundation::Signal<> onQuestion;
 
  private:
   QWidget* parent() const { return frontWindow ? frontWindow() : nullptr; }

@@ -26,7 +26,7 @@ bool QtViewer::open(const std::string& url) {
   const QUrl target = asBuilt(QUrl(fromUtf8(url), QUrl::StrictMode));
   const QString name = target.isLocalFile() ? target.toLocalFile() : target.toString();
   const auto fail = [&](const QString& sentence) {
-    if (tell) tell(sentence.arg(name));
+    onFailure(sentence.arg(name));
     return false;
   };
   if (target.isLocalFile() && !QFile::exists(name)) return fail(said("Viewer", "%1 is not installed."));

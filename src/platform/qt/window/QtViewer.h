@@ -1,9 +1,9 @@
 #pragma once
 
 #include <QString>
-#include <functional>
 #include <string>
 
+#include "foundation/Signal.h"
 #include "framework/Viewer.h"
 
 namespace nascor::qt {
@@ -14,7 +14,7 @@ class QtViewer final : public framework::Viewer {
  public:
   bool open(const std::string& url) override;
 
-  std::function<void(const QString& sentence)> tell;  ///< gets why nothing is shown; may be empty
+  foundation::Signal<const QString&> onFailure;  ///< nothing is shown; the sentence says why
 };
 
 /// The folder of the application's resources: that of the build, or the one of the installed program, there or not.
