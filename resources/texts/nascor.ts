@@ -499,6 +499,22 @@
         <source>%1 is not a Nascor document.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Do you want to go back to the document as it was last saved?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All changes since then will be lost.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Revert</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The document cannot be read.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>DatingDialogs</name>
@@ -1074,26 +1090,6 @@
     </message>
     <message>
         <source>no date</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Do you want to go back to the document as it was last saved?</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>All changes since then will be lost.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Revert</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The document cannot be read.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>

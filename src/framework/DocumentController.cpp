@@ -92,6 +92,24 @@ bool DocumentController::userReplacesChanges(const std::string& path) {
               .isCancelledByReturn = true}) == AlertReturn::defaultButton;
 }
 
+bool DocumentController::revertDocument(ZuDocument& document) {
+  const std::optional<std::string> path = document.filePath();
+  if (!path) return false;
+  const auto& localizer = services_.localizer;
+  const AlertReturn answer = alerts_.runModal(
+      {.message =
+           localizer.text("CorvelDocument", "Do you want to go back to the document as it was last saved?"),
+       .information = localizer.text("CorvelDocument", "All changes since then will be lost."),
+       .defaultButton = localizer.text("CorvelDocument", "Revert"),
+       .alternateButton = localizer.text("ZuVersion", "Cancel")});
+  if (answer != AlertReturn::defaultButton || !isOpen(document)) return false;
+  const auto error = document.revertToSaved();
+  if (!error) return true;
+  alerts_.tellDetails(localizer.text("CorvelDocument", "The document cannot be read."),
+                      foundation::sentenceAbout(*path, *error), error->details);
+  return false;
+}
+
 bool DocumentController::mayGo(ZuDocument& document) {
   // What a field accepts is saved or discarded with the rest; what it refuses goes with the window.
   const bool isCommitted = document.commitEditing();

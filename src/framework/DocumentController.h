@@ -42,6 +42,9 @@ class DocumentController {
   /// written: it is open in another window, or the system refuses (which the user is told).
   bool saveDocument(ZuDocument& document);
   bool saveDocumentAs(ZuDocument& document);
+  /// Asks whether to go back to what the document's file holds, then reads it again; all edits are lost. False when the
+  /// document has no file, the user cancels, or the file cannot be read, which the user is told.
+  bool revertDocument(ZuDocument& document);
   /// Asks whether to save when the document was edited, then closes it. False when the user cancels or saving fails. A
   /// text that its field refuses is dropped with the window; a cancelled close keeps it in edit.
   bool closeDocument(ZuDocument& document);

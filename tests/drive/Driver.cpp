@@ -491,8 +491,12 @@ Json Driver::visit(const Json& field) {
 }
 
 Json Driver::revert(const Json& field) {
-  const std::string name = textArgument(field, "the name of a field");
   NCDocument& reverted = document();
+  if (field == Json(true)) {
+    if (auto refusal = heldBack(reverted)) return *refusal;
+    return {{"reverted", documents_.revertDocument(reverted)}};
+  }
+  const std::string name = textArgument(field, "the name of a field, or true for the whole document");
   // What is typed into the note is there at once.
   if (name == reverted.notesField().name()) return Json::object();
   const framework::TextField& named = fieldNamed(reverted, name);

@@ -283,6 +283,39 @@ TEST_F(TheDocuments, endNoSessionThatTheUserCancelsOrThatTheyCannotBeSavedFor) {
   EXPECT_TRUE(one.isDocumentEdited());
 }
 
+TEST_F(TheDocuments, goBackToTheirFilesWhenTheUserAgrees) {
+  application.put("/documents/a", "saved");
+  TextDocument& document = *application.open("/documents/a");
+  document.model = "edited";
+  document.updateChangeCount(ZuDocument::ChangeType::changeDone);
+  EXPECT_FALSE(documents.revertDocument(document)) << "cancelled";
+  EXPECT_EQ(document.model, "edited");
+  EXPECT_TRUE(document.isDocumentEdited());
+  application.alerts.answers = {"Revert"};
+  EXPECT_TRUE(documents.revertDocument(document));
+  EXPECT_EQ(document.model, "saved");
+  EXPECT_FALSE(document.isDocumentEdited());
+  EXPECT_EQ(application.alerts.asked.size(), 2U);
+}
+
+TEST_F(TheDocuments, stayAsTheyAreWhenTheirFilesCannotBeReadAgain) {
+  application.put("/documents/a", "saved");
+  TextDocument& document = *application.open("/documents/a");
+  document.model = "edited";
+  application.put("/documents/a", "bad");
+  application.alerts.answers = {"Revert"};
+  EXPECT_FALSE(documents.revertDocument(document));
+  EXPECT_EQ(document.model, "edited");
+  EXPECT_THAT(application.alerts.told,
+              ElementsAre("The document cannot be read. bad is not a Nascor document."));
+  EXPECT_THAT(application.alerts.toldDetails, ElementsAre("/documents/a: this is no document"));
+}
+
+TEST_F(TheDocuments, withoutAFileHaveNothingToGoBackTo) {
+  EXPECT_FALSE(documents.revertDocument(application.newDocument()));
+  EXPECT_THAT(application.alerts.asked, IsEmpty());
+}
+
 TEST_F(TheDocuments, makeWayOnlyWhenTheyAreUntouched) {
   application.put("/documents/a", "text");
   TextDocument& untouched = application.newDocument();

@@ -502,7 +502,9 @@ void DocumentWindow::bindFileActions() {
   connect(ui_->saveAsAction, &QAction::triggered, this, [this] {
     perform([this](NCDocument& document) { environment_.documents.saveDocumentAs(document); });
   });
-  connect(ui_->revertAction, &QAction::triggered, this, [this] { revert(); });
+  connect(ui_->revertAction, &QAction::triggered, this, [this] {
+    perform([this](NCDocument& document) { environment_.documents.revertDocument(document); });
+  });
   connect(ui_->closeAction, &QAction::triggered, this, [this] { close(); });
   connect(ui_->quitAction, &QAction::triggered, this, [this] { environment_.quit(); });
 }
@@ -679,24 +681,6 @@ void DocumentWindow::updatePages() {
                                  .arg(fromUtf8(document_->shownTitle(true)), ui_->examinationLabel->text(),
                                       fromUtf8(document_->ageField().text()),
                                       fromUtf8(document_->spokenPage(shown))));
-}
-
-void DocumentWindow::revert() {
-  perform([this](NCDocument& document) {
-    if (!document.filePath()) return;
-    QtAlerts alerts(environment_.actions);
-    alerts.frontWindow = [this] { return this; };
-    const auto answer = alerts.runModal(
-        {.message =
-             toUtf8(said("MyDocument", "Do you want to go back to the document as it was last saved?")),
-         .information = toUtf8(said("MyDocument", "All changes since then will be lost.")),
-         .defaultButton = toUtf8(said("MyDocument", "Revert")),
-         .alternateButton = toUtf8(said("MyDocument", "Cancel"))});
-    if (answer != framework::AlertReturn::defaultButton || !document_) return;
-    if (const auto error = document.revertToSaved())
-      alerts.tellDetails(toUtf8(said("MyDocument", "The document cannot be read.")),
-                         foundation::sentenceAbout(*document.filePath(), *error), error->details);
-  });
 }
 
 void DocumentWindow::showCompare() {

@@ -119,7 +119,6 @@ class DocumentWindow final : public QMainWindow {
   void showCompare();
   void showAbout();
   void tellOfLinks(const QStringList& links);
-  void revert();
   void restoreWindowGeometry();
 
   WindowEnvironment environment_;
