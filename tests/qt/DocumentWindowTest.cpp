@@ -11,6 +11,7 @@
 #include "Pixels.h"
 #include "WindowTest.h"
 #include "window/PageView.h"
+#include "window/WindowPlace.h"
 
 namespace nascor::tests {
 namespace {

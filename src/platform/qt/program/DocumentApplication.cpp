@@ -9,6 +9,7 @@
 #include "base/Text.h"
 #include "foundation/Localizer.h"
 #include "window/OutputMenu.h"
+#include "window/WindowPlace.h"
 
 namespace nascor::qt {
 
@@ -225,12 +226,12 @@ void DocumentApplication::addWindow(ZuDocument& document) {
            [this](ZuDocument& chosen) { actions_.perform([&] { documents_.setCurrentDocument(chosen); }); },
        .quit = [this] { quit(); }});
   edits_.emplace(&document, document.onStateChanged.subscribe([this] { keepChangesSoon(); }));
-  std::vector<const DocumentWindow*> others;
+  std::vector<const QWidget*> others;
   for (const auto& [open, other] : windows_) {
     // A file that is opened takes the place of a document that nothing was done in.
     if (!document.filePath() || !open->isUntouched()) others.push_back(other);
   }
-  window->moveAside(others);
+  moveAside(*window, others);
   windows_.emplace(&document, window);
   window->show();
   window->raise();

@@ -1,63 +1,47 @@
 #include "window/DocumentWindow.h"
 
-#include <QActionGroup>
 #include <QClipboard>
 #include <QCloseEvent>
-#include <QComboBox>
-#include <QCoreApplication>
 #include <QDialog>
 #include <QDragEnterEvent>
 #include <QFile>
 #include <QGuiApplication>
 #include <QLabel>
-#include <QMessageBox>
 #include <QMimeData>
-#include <QPointer>
-#include <QScreen>
 #include <QScrollBar>
-#include <QSignalBlocker>
-#include <QStyle>
 #include <algorithm>
-#include <array>
 
-#include "base/Introduction.h"
 #include "base/LocalPath.h"
-#include "base/LongDate.h"
 #include "base/Mnemonics.h"
 #include "base/Text.h"
-#include "calc/EditingBounds.h"
 #include "calc/FetalWeight.h"
 #include "calc/Standards.h"
 #include "foundation/Localizer.h"
-#include "foundation/UserDefaults.h"
 #include "foundation/Utf8.h"
-#include "framework/LongText.h"
 #include "ui_MyDocument.h"
+#include "window/AboutBox.h"
 #include "window/AdjustDeliveryDialog.h"
 #include "window/CompareDialog.h"
 #include "window/DatingDialogs.h"
 #include "window/EditMenu.h"
-#include "window/FieldBinding.h"
+#include "window/FetusChoice.h"
 #include "window/OutputMenu.h"
-#include "window/PageView.h"
+#include "window/PageTabs.h"
 #include "window/PageZoom.h"
-#include "window/Puff.h"
+#include "window/PatientPanel.h"
 #include "window/QtAlerts.h"
 #include "window/RecentMenu.h"
 #include "window/ReferencesDialog.h"
-#include "window/SelectOnClick.h"
 #include "window/StandardsMenus.h"
 #include "window/StrayInput.h"
 #include "window/WindowMenu.h"
+#include "window/WindowPlace.h"
 
 namespace nascor::qt {
 
 using app::NCDocument;
 
 namespace {
-
-/// The context under which the texts of the window's form are translated.
-constexpr std::string_view kGeometryKey = "Window Geometry";
 
 /// What was dropped.
 struct Dropped {
@@ -79,37 +63,37 @@ Dropped dropped(const QMimeData* data) {
 
 }  // namespace
 
-QSize usualWindowSize(QSize designed, QSize screen) {
-  const QSize frame(16, 48);  // what a window manager may add
-  // The page grows with the window, to where its texts are as large as one likes to read them.
-  constexpr double kShare = 0.9;
-  const QSize wanted = (screen * kShare).boundedTo({1760, 1100}).expandedTo(designed);
-  return wanted.boundedTo(screen - frame);
-}
-
 DocumentWindow::DocumentWindow(NCDocument& document, WindowEnvironment environment)
     : environment_(std::move(environment)),
       document_(&document),
       ui_(std::make_unique<Ui::MyDocument>()),
-      statusLabel_(new QLabel),
       growthLabel_(new QLabel),
       weightLabel_(new QLabel) {
   ui_->setupUi(this);
-  statusLabel_->setObjectName(QStringLiteral("statusLabel"));
+  auto* statusLabel = new QLabel;
+  statusLabel->setObjectName(QStringLiteral("statusLabel"));
   // A long message is cut off: the window does not grow for it.
-  statusLabel_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-  ui_->statusBar->addWidget(statusLabel_, 1);
+  statusLabel->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+  ui_->statusBar->addWidget(statusLabel, 1);
   growthLabel_->setObjectName(QStringLiteral("growthStandardLabel"));
   growthLabel_->setContentsMargins(12, 0, 12, 0);
   ui_->statusBar->addPermanentWidget(growthLabel_);
   weightLabel_->setObjectName(QStringLiteral("fetalWeightLabel"));
   ui_->statusBar->addPermanentWidget(weightLabel_);
 
-  bindPages();
-  describeFields();
-  bindFields();
-  bindAssessment();
-  bindPopUp();
+  const Perform perform = [this](const DocumentAction& action) { this->perform(action); };
+  pages_ = new PageTabs(*this, document,
+                        {.tabs = *ui_->tabView,
+                         .menu = *ui_->viewMenu,
+                         .examination = *ui_->examinationLabel,
+                         .perform = perform});
+  panel_ = new PatientPanel(*this, *ui_, *statusLabel, document, environment_.services, environment_.actions);
+  fetuses_ = new FetusChoice(*this, document,
+                             {.box = *ui_->multiplePopUp,
+                              .menu = *ui_->patientMenu,
+                              .add = *ui_->addFetusAction,
+                              .remove = *ui_->deleteFetusAction,
+                              .perform = perform});
   bindActions();
   bindDialogs();
 
@@ -122,18 +106,15 @@ DocumentWindow::DocumentWindow(NCDocument& document, WindowEnvironment environme
       }));
   subscriptions_.push_back(document.onDisplayChanged.subscribe([this] { showExaminations(); }));
   subscriptions_.push_back(document.onStateChanged.subscribe([this] { showState(); }));
-  subscriptions_.push_back(document.fieldEditor().onChange.subscribe([this] { showEditing(); }));
-  subscriptions_.push_back(document.statusLine().onChange.subscribe([this] { showEditing(); }));
 
   // The panel scrolls up and down where the screen is low, never sideways.
   ui_->patientPanel->ensurePolished();
   ui_->panelScroll->setMinimumWidth(ui_->patientPanel->minimumSizeHint().width() +
                                     ui_->panelScroll->verticalScrollBar()->sizeHint().width());
-  restoreWindowGeometry();
+  restorePlace(*this, environment_.services.defaults);
   showState();
   showExaminations();
   showStandards();
-  showLongDates();
   // A known patient is looked at first: a key that was meant for another window turns a page at most.
   (document.filePath() ? static_cast<QWidget*>(ui_->tabView) : ui_->referenceIDField)->setFocus();
 }
@@ -148,18 +129,17 @@ bool DocumentWindow::hasDialog() const {
   });
 }
 
-void DocumentWindow::keepGeometry() const {
-  environment_.services.defaults.setValue(kGeometryKey, saveGeometry().toBase64().toStdString());
-}
+void DocumentWindow::keepGeometry() const { keepPlace(*this, environment_.services.defaults); }
 
 void DocumentWindow::release() {
   if (!document_) return;
   keepGeometry();
   subscriptions_.clear();
-  for (FieldBinding* binding : bindings_) binding->release();
+  panel_->release();
+  fetuses_->release();
   dropSheets(*this);
   for (PanelDialog* dialog : dialogs_) dialog->release();
-  for (PageView* view : pageViews_) view->release();
+  pages_->release();
   document_ = nullptr;
   hide();
   deleteLater();
@@ -171,206 +151,11 @@ void DocumentWindow::perform(const DocumentAction& action) {
     if (environment_.documents.currentDocument() != document_)
       environment_.documents.setCurrentDocument(*document_);
     if (!document_->commitEditing()) {
-      focusFieldInEdit();
+      panel_->focusFieldInEdit();
     } else if (document_) {  // still there: leaving a field may have put another document into its place
-      placePopUp();
+      fetuses_->place();
       action(*document_);
     }
-  });
-}
-
-void DocumentWindow::focusFieldInEdit() {
-  for (FieldBinding* binding : bindings_) {
-    if (binding->field() != document_->fieldEditor().field()) continue;
-    FieldEdit& edit = binding->edit();
-    // The click or the key that began the action may yet move the focus.
-    QMetaObject::invokeMethod(
-        &edit,
-        [&edit] {
-          edit.window()->activateWindow();
-          edit.setFocus();
-        },
-        Qt::QueuedConnection);
-  }
-}
-
-void DocumentWindow::bindFields() {
-  framework::FieldEditor& editor = document_->fieldEditor();
-  const std::array<std::pair<FieldEdit*, framework::TextField*>, 8> fields{
-      {{ui_->referenceIDField, &document_->referenceIDField()},
-       {ui_->gravidaField, &document_->gravidaField()},
-       {ui_->birthDateField, &document_->birthDateField()},
-       {ui_->examDateField, &document_->examDateField()},
-       {ui_->bpdField, &document_->bpdField()},
-       {ui_->hcField, &document_->hcField()},
-       {ui_->acField, &document_->acField()},
-       {ui_->flField, &document_->flField()}}};
-  for (const auto& [edit, field] : fields)
-    bindings_.push_back(new FieldBinding(*edit, *field, editor, environment_.actions));
-  // A reference ID is corrected more often than replaced: a click places the caret there.
-  for (const auto& [edit, field] : fields) {
-    if (edit != ui_->referenceIDField) new SelectOnClick(*edit);
-  }
-  subscriptions_.push_back(bindReadOnly(*ui_->ageField, document_->ageField()));
-  for (const FieldEdit* edit : {ui_->birthDateField, ui_->examDateField})
-    connect(edit, &QLineEdit::textChanged, this, [this] { showLongDates(); });
-
-  framework::TextView& note = document_->notesField();
-  NoteEdit* noteEdit = ui_->notesField;
-  subscriptions_.push_back(note.onChange.subscribe([noteEdit, &note] {
-    const QString text = fromUtf8(framework::shownInEdit(note.text(), framework::kMostInNote));
-    noteEdit->setReadOnly(!note.isEditable());
-    noteEdit->setShownInPart(note.isShownInPart());
-    noteEdit->setPlaceholderText(
-        note.isEditable() ? QString() : said("MyDocument", "There is no examination to note this at."));
-    if (noteEdit->toPlainText() == text) return;
-    const QSignalBlocker quiet(noteEdit);
-    noteEdit->setPlainText(text);
-  }));
-  // Not at once: an action that moved the focus has its own order of storing and showing.
-  subscriptions_.push_back(noteEdit->onLeave.subscribe([this] {
-    QMetaObject::invokeMethod(
-        this,
-        [this] {
-          environment_.actions.performInTurn([self = QPointer<DocumentWindow>(this)] {
-            if (self && self->document_) self->document_->noteWasLeft();
-          });
-        },
-        Qt::QueuedConnection);
-  }));
-  connect(noteEdit, &QPlainTextEdit::textChanged, this, [this] {
-    if (document_) document_->notesField().takeEditedText(toUtf8(ui_->notesField->toPlainText()));
-  });
-}
-
-void DocumentWindow::bindAssessment() {
-  app::Assessment& assessment = document_->assessment();
-  for (framework::TextField* text : assessment.texts()) {
-    // Those of the dialogs are bound by the dialogs.
-    auto* label = findChild<QLabel*>(fromUtf8(text->name()));
-    if (label) subscriptions_.push_back(bindLabel(*label, *text));
-  }
-  // Room for the longest, so that nothing moves while the user types. A label rounds its width up by itself.
-  const auto room = [this](QLabel* label, const QString& longest) {
-    const QLabel widest(longest, this);
-    label->setMinimumWidth(widest.sizeHint().width());
-  };
-  for (QLabel* label : {ui_->bpdZ, ui_->hcZ, ui_->acZ, ui_->flZ}) room(label, QStringLiteral("+99.99"));
-  for (QLabel* label : {ui_->bpdCentile, ui_->hcCentile, ui_->acCentile, ui_->flCentile})
-    room(label, QStringLiteral(">99.9"));
-  for (QLabel* sign : {ui_->bpdSign, ui_->hcSign, ui_->acSign, ui_->flSign, ui_->ageSign}) {
-    QFont bold = sign->font();
-    bold.setBold(true);
-    sign->setFont(bold);
-    // An empty label wants a little room too.
-    sign->setMinimumWidth(std::max(QFontMetrics(bold).horizontalAdvance(u'!'), sign->sizeHint().width()));
-  }
-  const auto show = [this] { showRemarks(); };
-  for (const calc::Measurement measurement : calc::kMeasurements)
-    subscriptions_.push_back(assessment.length(measurement).remark.onChange.subscribe(show));
-  subscriptions_.push_back(assessment.ageRemark.onChange.subscribe(show));
-  showRemarks();
-}
-
-void DocumentWindow::showRemarks() {
-  if (!document_) return;
-  struct Row {
-    const framework::TextField& remark;
-    QLabel* sign;
-    const QLabel* label;
-  };
-  app::Assessment& assessment = document_->assessment();
-  QStringList sentences;
-  for (const Row& row : {Row{assessment.ageRemark, ui_->ageSign, ui_->ageLabel},
-                         Row{assessment.length(calc::Measurement::bpd).remark, ui_->bpdSign, ui_->bpdLabel},
-                         Row{assessment.length(calc::Measurement::hc).remark, ui_->hcSign, ui_->hcLabel},
-                         Row{assessment.length(calc::Measurement::ac).remark, ui_->acSign, ui_->acLabel},
-                         Row{assessment.length(calc::Measurement::fl).remark, ui_->flSign, ui_->flLabel}}) {
-    const QString remark = fromUtf8(row.remark.text());
-    row.sign->setText(remark.isEmpty() ? QString() : QStringLiteral("!"));
-    row.sign->setToolTip(remark);
-    if (remark.isEmpty()) continue;
-    sentences << said("MyDocument", "! %1: %2").arg(row.label->text().remove(u'&'), remark);
-  }
-  ui_->remarks->setText(sentences.join(u'\n'));
-  ui_->remarks->setVisible(!sentences.isEmpty());
-  const QString age = fromUtf8(assessment.ageRemark.text());
-  ui_->ageField->setAccessibleDescription(age.isEmpty() ? ui_->ageField->toolTip()
-                                                        : age + u' ' + ui_->ageField->toolTip());
-  showEditing();
-}
-
-QString DocumentWindow::remarkOn(const FieldEdit& edit) const {
-  app::Assessment& assessment = document_->assessment();
-  for (const auto& [length, measurement] :
-       {std::pair{ui_->bpdField, calc::Measurement::bpd}, std::pair{ui_->hcField, calc::Measurement::hc},
-        std::pair{ui_->acField, calc::Measurement::ac}, std::pair{ui_->flField, calc::Measurement::fl}}) {
-    if (length == &edit) return fromUtf8(assessment.length(measurement).remark.text());
-  }
-  return {};
-}
-
-void DocumentWindow::bindPopUp() {
-  framework::PopUpButton& popUp = document_->multiplePopUp();
-  subscriptions_.push_back(popUp.onChange.subscribe([this] { showFetuses(); }));
-  subscriptions_.push_back(popUp.onAnimationEffect.subscribe(
-      [this](int, framework::Point at) { showPuff(*this, QPointF(at.x, at.y).toPoint()); }));
-  const auto choose = [this](int index) {
-    perform([index](NCDocument& document) {
-      document.multiplePopUp().selectItemAtIndex(index);
-      document.chooseFetus(document.multiplePopUp());
-    });
-    showFetuses();
-  };
-  auto* group = new QActionGroup(this);
-  // Only what the user chooses: the box also changes while it is filled.
-  connect(ui_->multiplePopUp, &QComboBox::activated, this, choose);
-  for (std::size_t i = 0; i < fetusActions_.size(); ++i) {
-    auto* action = new QAction(this);
-    action->setObjectName(QStringLiteral("fetusAction%1").arg(i + 1));
-    action->setCheckable(true);
-    group->addAction(action);
-    connect(action, &QAction::triggered, this, [choose, i] { choose(static_cast<int>(i)); });
-    ui_->patientMenu->addAction(action);
-    fetusActions_[i] = action;
-  }
-  showFetuses();
-}
-
-void DocumentWindow::bindPages() {
-  framework::TabView& tabs = document_->tabView();
-  QString taken;
-  for (const QAction* item : ui_->viewMenu->actions()) taken += mnemonicOf(item->text());
-  for (std::int64_t i = 0; i < tabs.numberOfPages(); ++i) {
-    framework::Page& page = tabs.page(i);
-    auto* view = new PageView(page, clicks_);
-    subscriptions_.push_back(view->onClick.subscribe([this, &page](framework::Point point, int count) {
-      perform([&page, point, count](NCDocument&) { page.click(point, count); });
-    }));
-    const QString name = said("MyDocument", page.name().c_str());
-    view->setObjectName(fromUtf8(page.name()) + QStringLiteral("Page"));
-    view->setAccessibleName(name);
-    ui_->tabView->addTab(view, name);
-    pageViews_.push_back(view);
-    auto* action = new QAction(withMnemonic(name, taken), this);
-    taken += mnemonicOf(action->text());
-    action->setObjectName(fromUtf8(page.name()) + QStringLiteral("Action"));
-    action->setShortcut(QKeySequence(QStringLiteral("Alt+%1").arg(i + 1)));
-    connect(action, &QAction::triggered, this,
-            [this, i] { ui_->tabView->setCurrentIndex(static_cast<int>(i)); });
-    ui_->viewMenu->addAction(action);
-  }
-  const auto showSelected = [this] {
-    const QSignalBlocker quiet(ui_->tabView);
-    ui_->tabView->setCurrentIndex(static_cast<int>(document_->tabView().indexOfSelectedPage()));
-    updatePages();
-  };
-  subscriptions_.push_back(tabs.onSelect.subscribe(showSelected));
-  subscriptions_.push_back(tabs.onNeedsDisplay.subscribe([this] { updatePages(); }));
-  connect(ui_->tabView, &QTabWidget::currentChanged, this, [this, showSelected](int index) {
-    if (!document_ || index == document_->tabView().indexOfSelectedPage()) return;
-    perform([index](NCDocument& document) { document.switchToGraph(index); });
-    if (document_) showSelected();
   });
 }
 
@@ -434,8 +219,8 @@ void DocumentWindow::bindActions() {
   new PageZoom({.in = *ui_->zoomInAction,
                 .out = *ui_->zoomOutAction,
                 .fit = *ui_->zoomFitAction,
-                .views = pageViews_,
-                .pageOnShow = [this] { return dynamic_cast<PageView*>(ui_->tabView->currentWidget()); }},
+                .views = pages_->views(),
+                .pageOnShow = [this] { return pages_->pageOnShow(); }},
                *this);
   connect(ui_->referencesAction, &QAction::triggered, this, [this] {
     if (!references_) references_ = new ReferencesDialog(environment_.services.localizer, this);
@@ -445,7 +230,7 @@ void DocumentWindow::bindActions() {
   });
   connect(ui_->guideAction, &QAction::triggered, this,
           [this] { environment_.actions.perform([this] { environment_.application.doHelp(); }); });
-  connect(ui_->aboutAction, &QAction::triggered, this, [this] { showAbout(); });
+  connect(ui_->aboutAction, &QAction::triggered, this, [this] { showAbout(*this); });
 }
 
 void DocumentWindow::bindDialogs() {
@@ -464,11 +249,11 @@ PanelDialog& DocumentWindow::dialogOf(const framework::Panel& panel) {
 }
 
 PanelDialog* DocumentWindow::makeDialog(const framework::Panel& panel) {
-  const PanelDialog::Perform perform = [this](const DocumentAction& action) { this->perform(action); };
+  const Perform perform = [this](const DocumentAction& action) { this->perform(action); };
   const foundation::Services& services = environment_.services;
   Actions& actions = environment_.actions;
   const auto withFields = [this](DatingDialog* dialog) {
-    bindings_.insert(bindings_.end(), dialog->bindings().begin(), dialog->bindings().end());
+    panel_->add(dialog->bindings());
     return dialog;
   };
   if (panel.name() == "crlWindow")
@@ -528,106 +313,6 @@ void DocumentWindow::bindEditActions() {
   });
 }
 
-void DocumentWindow::describeFields() {
-  const auto describe = [](QWidget* edit, QWidget* label, const QString& text) {
-    edit->setToolTip(text);
-    edit->setAccessibleDescription(text);
-    if (label) label->setToolTip(text);
-  };
-  struct Row {
-    calc::Measurement measurement;
-    FieldEdit* edit;
-    QLabel* label;
-    QLabel* hint;
-  };
-  for (const Row& row : {Row{calc::Measurement::bpd, ui_->bpdField, ui_->bpdLabel, ui_->bpdHint},
-                         Row{calc::Measurement::hc, ui_->hcField, ui_->hcLabel, ui_->hcHint},
-                         Row{calc::Measurement::ac, ui_->acField, ui_->acLabel, ui_->acHint},
-                         Row{calc::Measurement::fl, ui_->flField, ui_->flLabel, ui_->flHint}}) {
-    const calc::EditingBounds bounds = calc::editingBounds(row.measurement);
-    const QString least = QString::number(static_cast<int>(bounds.least));
-    const QString greatest = QString::number(static_cast<int>(bounds.greatest));
-    row.hint->setText(said("MyDocument", "mm (%1\u2013%2)").arg(least, greatest));
-    describe(row.edit, row.label,
-             said("MyDocument", "%1, %2 to %3 mm").arg(row.edit->toolTip(), least, greatest));
-  }
-  const foundation::Localizer& localizer = environment_.services.localizer;
-  const QString example = exampleDateText(localizer);
-  for (FieldEdit* edit : {ui_->birthDateField, ui_->examDateField})
-    describe(edit, nullptr, said("MyDocument", "%1, for example %2").arg(edit->toolTip(), example));
-  const int room = fontMetrics().horizontalAdvance(longestDateText(localizer));
-  ui_->birthDateLongForm->setMinimumWidth(room);
-  ui_->examDateLongForm->setMinimumWidth(room);
-  ui_->multiplePopUp->setAccessibleDescription(said("MyDocument", "The fetus on show"));
-}
-
-void DocumentWindow::showEditing() {
-  const QString message =
-      document_ ? fromUtf8(foundation::oneLine(document_->statusLine().message())) : QString();
-  QString permitted;
-  for (FieldBinding* binding : bindings_) {
-    binding->refresh();
-    if (binding->edit().isRefusing()) permitted = binding->edit().toolTip();
-    QString description = binding->description();
-    if (document_ && !message.isEmpty() && document_->statusLine().field() == binding->field())
-      description = message + QStringLiteral(". ") + description;
-    const QString remark = document_ ? remarkOn(binding->edit()) : QString();
-    if (!remark.isEmpty()) description = remark + u' ' + description;
-    binding->edit().setAccessibleDescription(binding->edit().isRefusing()
-                                                 ? said("MyDocument", "Not permitted. %1").arg(description)
-                                                 : description);
-  }
-  statusLabel_->setText(permitted.isEmpty() ? message : said("MyDocument", "Permitted: %1").arg(permitted));
-  statusLabel_->setToolTip(statusLabel_->text());
-  // What a field permits is short and must be read whole.
-  statusLabel_->setMinimumWidth(permitted.isEmpty() ? 0 : statusLabel_->sizeHint().width());
-  showLongDates();
-}
-
-void DocumentWindow::showLongDates() {
-  const foundation::Localizer& localizer = environment_.services.localizer;
-  const QString example = said("MyDocument", "such as %1").arg(exampleDateText(localizer));
-  const framework::TextField* told = document_ ? document_->statusLine().field() : nullptr;
-  const std::array<std::pair<const FieldEdit*, QLabel*>, 2> dates{
-      {{ui_->birthDateField, ui_->birthDateLongForm}, {ui_->examDateField, ui_->examDateLongForm}}};
-  for (const auto& [edit, label] : dates) {
-    const QString text = edit->text().trimmed();
-    const QString inWords = longDateText(text, localizer);
-    const bool wasErased = told != nullptr && fromUtf8(told->name()) == edit->objectName();
-    label->setText(edit->isReadOnly()             ? QString()
-                   : !inWords.isEmpty()           ? inWords
-                   : text.isEmpty() && !wasErased ? example
-                                                  : said("MyDocument", "no date"));
-  }
-}
-
-void DocumentWindow::showFetuses() {
-  if (!document_) return;
-  const framework::PopUpButton& popUp = document_->multiplePopUp();
-  QComboBox& box = *ui_->multiplePopUp;
-  const QSignalBlocker quiet(&box);
-  box.clear();
-  for (const auto& item : popUp.items()) box.addItem(fromUtf8(item.title));
-  const auto selected = static_cast<int>(popUp.indexOfSelectedItem());
-  box.setCurrentIndex(selected);
-  for (std::size_t i = 0; i < fetusActions_.size(); ++i) {
-    QAction& action = *fetusActions_.at(i);
-    const bool isThere = i < popUp.items().size();
-    action.setVisible(isThere);
-    action.setEnabled(isThere);
-    if (!isThere) continue;
-    const auto& item = popUp.items().at(i);
-    // The last sign tells them apart.
-    action.setText(QStringLiteral("&%1  %2").arg(QString::number(i + 1), fromUtf8(item.title)));
-    action.setShortcut(item.keyEquivalent.empty()
-                           ? QKeySequence()
-                           : QKeySequence(QStringLiteral("Ctrl+") + fromUtf8(item.keyEquivalent)));
-    action.setChecked(static_cast<int>(i) == selected);
-  }
-  ui_->addFetusAction->setEnabled(popUp.numberOfItems() < calc::kMostFetuses);
-  ui_->deleteFetusAction->setEnabled(popUp.numberOfItems() > calc::kFewestFetuses);
-}
-
 void DocumentWindow::showState() {
   if (!document_) return;
   setWindowTitle(fromUtf8(foundation::oneLine(document_->displayName())) + QStringLiteral("[*]"));
@@ -651,8 +336,8 @@ void DocumentWindow::showExaminations() {
   ui_->nextAction->setEnabled(exam + 1 < count);
   ui_->deleteExaminationAction->setEnabled(count > 1);
   ui_->adjustDeliveryAction->setEnabled(document_->canAdjustDelivery());
-  showLongDates();
-  updatePages();
+  panel_->showLongDates();
+  pages_->update();
 }
 
 void DocumentWindow::showStandards() {
@@ -663,24 +348,7 @@ void DocumentWindow::showStandards() {
   const calc::WeightFormula* formula = calc::weightFormula(document_->fetalWeightStandard());
   ui_->weightFormula->setText(formula ? said("MyDocument", "by %1").arg(fromUtf8(formula->shortLabel))
                                       : QString());
-  updatePages();
-}
-
-void DocumentWindow::updatePages() {
-  if (!document_) return;
-  for (PageView* view : pageViews_) view->update();
-  if (compare_) compare_->refresh();
-  const std::int64_t shown = document_->tabView().indexOfSelectedPage();
-  QStringList advice;
-  for (const std::string& sentence : document_->adviceOnPage(shown)) advice << fromUtf8(sentence);
-  pageViews_.at(static_cast<std::size_t>(shown))->setAdvice(advice.join(u'\n'));
-  pageViews_.at(static_cast<std::size_t>(shown))
-      ->setDescription(shown == app::PatientPages::kReportPage
-                           ? fromUtf8(document_->report().shownText())
-                           : said("MyDocument", "Growth chart of %1. Examination %2, %3. %4")
-                                 .arg(fromUtf8(document_->shownTitle(true)), ui_->examinationLabel->text(),
-                                      fromUtf8(document_->ageField().text()),
-                                      fromUtf8(document_->spokenPage(shown))));
+  pages_->update();
 }
 
 void DocumentWindow::showCompare() {
@@ -698,55 +366,11 @@ void DocumentWindow::showCompare() {
          .suggestedName =
              [this] { return document_ ? fromUtf8(document_->suggestedFileName()) : QString(); }},
         this);
+    subscriptions_.push_back(pages_->onUpdate.subscribe([this] { compare_->refresh(); }));
   }
   compare_->show();
   compare_->raise();
   compare_->activateWindow();
-}
-
-void DocumentWindow::showAbout() {
-  QMessageBox box(this);
-  box.setWindowTitle(said("MyDocument", "About Nascor"));
-  box.setTextFormat(Qt::PlainText);
-  box.setText(said("MyDocument", "Nascor %1").arg(programVersion()));
-  box.setInformativeText(
-      QStringLiteral("%1\n\n%2\n\n%3")
-          .arg(
-              disclaimer(), said("MyDocument", "Copyright (c) 2026 The Nascor developers. MIT License."),
-              said("MyDocument",
-                   "Linked with Qt %1 (GNU LGPL 3), the D-Bus library (AFL 2.1 or GNU GPL 2) and the GNU C++ "
-                   "library (GNU GPL 3 with the GCC Runtime Library Exception).")
-                  .arg(QLatin1String(qVersion()))));
-  box.exec();
-}
-
-void DocumentWindow::restoreWindowGeometry() {
-  const auto kept = environment_.services.defaults.value(kGeometryKey);
-  if (kept && restoreGeometry(QByteArray::fromBase64(QByteArray::fromStdString(*kept)))) {
-    // It may be from a larger screen, or one of another scale.
-    if (const QScreen* here = screen()) resize(size().boundedTo(here->availableVirtualSize()));
-    return;
-  }
-  if (const QScreen* here = screen()) {
-    resize(usualWindowSize(size(), here->availableSize()));
-    move(here->availableGeometry().center() - QRect(QPoint(), size()).center());
-  }
-}
-
-void DocumentWindow::moveAside(const std::vector<const DocumentWindow*>& others) {
-  if (isMaximized() || isFullScreen() || !screen()) return;
-  const QRect available = screen()->availableGeometry();
-  const int step = style()->pixelMetric(QStyle::PM_TitleBarHeight) + 8;
-  const auto covers = [this](const DocumentWindow* other) {
-    return other->isVisible() && (other->pos() - pos()).manhattanLength() < 8;
-  };
-  const QRect start(available.topLeft(), available.size() / 2);
-  // Each step leaves one of the others behind; after the middle of the screen it begins at the upper left corner.
-  for (std::size_t i = 0; i <= others.size() && std::ranges::any_of(others, covers); ++i) {
-    const QPoint next = pos() + QPoint(step, step);
-    move(start.contains(next) ? next : start.topLeft());
-    resize(size().boundedTo(QRect(pos(), available.bottomRight()).size()).expandedTo(minimumSizeHint()));
-  }
 }
 
 void DocumentWindow::changeEvent(QEvent* event) {
@@ -792,14 +416,6 @@ void DocumentWindow::tellOfLinks(const QStringList& links) {
         toUtf8(links.join(u'\n') + QStringLiteral("\n\n") +
                said("MyDocument", "Please save what the link leads to as a file here, and open that.")));
   });
-}
-
-void DocumentWindow::placePopUp() {
-  const QPoint at = ui_->multiplePopUp->mapTo(this, QPoint());
-  document_->multiplePopUp().setFrame({.x = static_cast<double>(at.x()),
-                                       .y = static_cast<double>(at.y()),
-                                       .width = static_cast<double>(ui_->multiplePopUp->width()),
-                                       .height = static_cast<double>(ui_->multiplePopUp->height())});
 }
 
 }  // namespace nascor::qt

@@ -93,7 +93,7 @@ OutputMenu::OutputMenu(QMainWindow& window, QMenu& menu, QAction* before, Output
 }
 
 void OutputMenu::add(QMenu& menu, QAction* before, const char* name, const char* text,
-                     const QKeySequence& keys, const std::function<void(NCDocument&)>& action) {
+                     const QKeySequence& keys, const DocumentAction& action) {
   QString taken;
   for (const QAction* other : menu.actions()) taken += mnemonicOf(other->text());
   auto* item = new QAction(withMnemonic(said("OutputMenu", text), taken), &window_);

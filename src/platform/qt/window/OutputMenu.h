@@ -2,7 +2,6 @@
 
 #include <QMainWindow>
 #include <QMenu>
-#include <functional>
 
 #include "app/NCDocument.h"
 #include "foundation/Services.h"
@@ -10,6 +9,7 @@
 #include "framework/FilePanels.h"
 #include "framework/Printer.h"
 #include "painting/QtPrinter.h"
+#include "window/Perform.h"
 
 namespace nascor::qt {
 
@@ -20,8 +20,7 @@ struct OutputEnvironment {
   framework::FilePanels& panels;
   QtPrinter& printer;
   const foundation::NotificationSender& sender;  ///< who asks for an export
-  /// Does an action of the user to the document.
-  std::function<void(const std::function<void(app::NCDocument&)>&)> perform;
+  Perform perform;
 };
 
 /// The items of a window's File menu that put pages on paper and into files.
@@ -35,7 +34,7 @@ class OutputMenu final : public QObject {
 
  private:
   void add(QMenu& menu, QAction* before, const char* name, const char* text, const QKeySequence& keys,
-           const std::function<void(app::NCDocument&)>& action);
+           const DocumentAction& action);
   void pageSetup(app::NCDocument& document);
   /// The paper of the document, and of those that are opened later.
   void setPaper(app::NCDocument& document, const QPageLayout& layout);

@@ -1,11 +1,11 @@
 #pragma once
 
 #include <QDialog>
-#include <functional>
 #include <vector>
 
 #include "app/NCDocument.h"
 #include "foundation/Signal.h"
+#include "window/Perform.h"
 
 class QLabel;
 class QLineEdit;
@@ -16,9 +16,6 @@ namespace nascor::qt {
 /// whatever key or button, cancels it.
 class PanelDialog : public QDialog {
  public:
-  /// Does something with the document between two other actions, or does not.
-  using Perform = std::function<void(const std::function<void(app::NCDocument&)>&)>;
-
   ~PanelDialog() override = default;
 
   /// What it shows; null once the document is gone.
@@ -38,7 +35,7 @@ class PanelDialog : public QDialog {
   void bindPanel();
   /// Null once the document is gone.
   app::NCDocument* document() const { return document_; }
-  void perform(const std::function<void(app::NCDocument&)>& action) { perform_(action); }
+  void perform(const DocumentAction& action) { perform_(action); }
   /// Keeps `subscription`, to something of the document, until that goes.
   void keep(foundation::Subscription subscription) { subscriptions_.push_back(std::move(subscription)); }
   /// Whether the document has it open.
