@@ -1829,6 +1829,10 @@
         <source>What differs from the saved document:</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>The document was saved again since. What was saved then is not in these changes.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>References</name>

@@ -307,7 +307,7 @@ TEST_F(TheDocuments, stayAsTheyAreWhenTheirFilesCannotBeReadAgain) {
   EXPECT_FALSE(documents.revertDocument(document));
   EXPECT_EQ(document.model, "edited");
   EXPECT_THAT(application.alerts.told,
-              ElementsAre("The document cannot be read. bad is not a Nascor document."));
+              ElementsAre("The document cannot be read. a is not a Nascor document."));
   EXPECT_THAT(application.alerts.toldDetails, ElementsAre("/documents/a: this is no document"));
 }
 
