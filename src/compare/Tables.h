@@ -16,7 +16,7 @@ namespace nascor::compare {
 
 struct Column {
   std::string title;
-  bool isNumber = false;    ///< stands at the right and is sorted by its numbers
+  bool isNumber = false;      ///< stands at the right and is sorted by its numbers
   std::string explanation{};  ///< a sentence; may be empty
 };
 

@@ -5,7 +5,7 @@
 
 work="$(mktemp -d)"
 trap 'rm -rf "$work"' EXIT
-export TZ=UTC QT_QPA_PLATFORM=offscreen XDG_CONFIG_HOME="$work/config" XDG_RUNTIME_DIR="$work"
+export TZ=UTC QT_QPA_PLATFORM=offscreen XDG_CONFIG_HOME="$work/config" XDG_STATE_HOME="$work/state" XDG_RUNTIME_DIR="$work"
 export PATH="$build/bin:$PATH"
 
 # The files that the pages speak of.

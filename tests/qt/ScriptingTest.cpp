@@ -46,6 +46,7 @@ class AScript : public testing::Test {
     QDir(home.path()).mkpath(QStringLiteral("Documents"));
     environment.insert("HOME", home.path());
     environment.insert("XDG_CONFIG_HOME", home.path());
+    environment.insert("XDG_STATE_HOME", home.path());
     environment.insert("XDG_RUNTIME_DIR", home.path());
     nascor.setProcessEnvironment(environment);
     QObject::connect(&nascor, &QProcess::readyReadStandardError,
@@ -510,6 +511,7 @@ TEST(TheApplication, runsWithoutABusAndSaysOnceThatScriptsCannotDriveIt) {
   environment.remove("DBUS_SESSION_BUS_ADDRESS");
   environment.insert("XDG_RUNTIME_DIR", home.path());
   environment.insert("XDG_CONFIG_HOME", home.path());
+  environment.insert("XDG_STATE_HOME", home.path());
   QProcess nascor;
   nascor.setProcessEnvironment(environment);
   nascor.start(QStringLiteral(NASCOR_PROGRAM), {});
@@ -536,6 +538,7 @@ int main(int argc, char** argv) {
   qunsetenv("DBUS_SESSION_BUS_ADDRESS");
   const QTemporaryDir userHome;
   qputenv("XDG_CONFIG_HOME", userHome.path().toUtf8());
+  qputenv("XDG_STATE_HOME", userHome.path().toUtf8());
   qputenv("XDG_RUNTIME_DIR", userHome.path().toUtf8());
   const QCoreApplication application(argc, argv);
   return RUN_ALL_TESTS();

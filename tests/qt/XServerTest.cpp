@@ -413,6 +413,8 @@ int main(int argc, char** argv) {
   testing::InitGoogleMock(&argc, argv);
   const QTemporaryDir home;
   qputenv("XDG_CONFIG_HOME", home.path().toUtf8());
+  // What a program that a test has killed left there would be offered to the next one.
+  qputenv("XDG_STATE_HOME", home.path().toUtf8());
   qputenv("XDG_RUNTIME_DIR", home.path().toUtf8());
   // Neither the tests' application nor the user's own is to find the other.
   qunsetenv("DBUS_SESSION_BUS_ADDRESS");
