@@ -129,7 +129,7 @@ bool Recovery::isFileNewer(const RecoveryFile& file) const {
   if (file.origin.document.empty() || file.origin.basis.empty()) return false;
   const auto contents = services_.files.contents(file.origin.document);
   const auto* bytes = std::get_if<std::vector<std::byte>>(&contents);
-  return bytes && digestOf(*bytes) != file.origin.basis;
+  return bytes != nullptr && digestOf(*bytes) != file.origin.basis;
 }
 
 bool Recovery::offer(const RecoveryFile& file) {

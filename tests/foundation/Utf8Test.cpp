@@ -48,7 +48,7 @@ TEST(ALengthInBytes, partsNoCodePoint) {
   EXPECT_EQ(lengthWithin("abc", 0), 0U);
   EXPECT_EQ(lengthWithin("abc", 2), 2U);
   EXPECT_EQ(lengthWithin("abc", 4), 3U);
-  for (const std::size_t most : {1, 2, 3, 4}) EXPECT_EQ(lengthWithin("a\U0001F476b", most), 1U) << most;
+  for (const std::size_t most : {1U, 2U, 3U, 4U}) EXPECT_EQ(lengthWithin("a\U0001F476b", most), 1U) << most;
   EXPECT_EQ(lengthWithin("a\U0001F476b", 5), 5U);
   EXPECT_EQ(lengthWithin("\u20AC", 2), 0U);
   EXPECT_EQ(lengthWithin(std::string(10, '\x80'), 8), 5U) << "bytes that are no UTF-8";

@@ -176,7 +176,7 @@ void CompareDialog::addPage(const Table& table) {
   keys->setContext(Qt::WidgetShortcut);
   connect(keys, &QShortcut::activated, this, &CompareDialog::copy);
   tabs_->addTab(view, fromUtf8(table.title));
-  pages_.push_back({.model = model, .view = view});
+  pages_.push_back({.model = model, .sorted = sorted, .view = view});
 }
 
 void CompareDialog::refresh() {
@@ -198,7 +198,7 @@ void CompareDialog::showEvent(QShowEvent* event) {
 
 Table CompareDialog::tableOnShow() const {
   const Page& page = pages_.at(static_cast<std::size_t>(tabs_->currentIndex()));
-  const auto& sorted = static_cast<const QSortFilterProxyModel&>(*page.view->model());
+  const QSortFilterProxyModel& sorted = *page.sorted;
   const QItemSelectionModel& selection = *page.view->selectionModel();
   Table table = page.model->table();
   table.rows.clear();

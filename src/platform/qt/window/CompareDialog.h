@@ -10,6 +10,7 @@
 #include "framework/Printer.h"
 
 class QLabel;
+class QSortFilterProxyModel;
 class QTabWidget;
 class QTableView;
 
@@ -46,6 +47,7 @@ class CompareDialog final : public QDialog {
   class Model;
   struct Page {
     Model* model;
+    QSortFilterProxyModel* sorted;
     QTableView* view;
   };
   void addPage(const compare::Table& table);

@@ -13,11 +13,11 @@ namespace nascor::qt {
 /// always selects all, where Qt would select the digits on one side of the decimal point.
 class SelectOnClick final : public QObject {
  public:
-  explicit SelectOnClick(QLineEdit& edit) : QObject(&edit), edit_(edit) {
+  explicit SelectOnClick(QLineEdit& edit)
+      : QObject(&edit), edit_(edit), box_(qobject_cast<QAbstractSpinBox*>(edit.parentWidget())) {
     edit.installEventFilter(this);
     // The line of a spin box leaves focus and keys to its box.
-    box_ = qobject_cast<QAbstractSpinBox*>(edit.parentWidget());
-    if (box_) box_->installEventFilter(this);
+    if (box_ != nullptr) box_->installEventFilter(this);
   }
 
   bool eventFilter(QObject* watched, QEvent* event) override {
@@ -86,14 +86,14 @@ class SelectOnClick final : public QObject {
     QMetaObject::invokeMethod(
         &edit_,
         [this, isWanted] {
-          const bool hasFocus = edit_.hasFocus() || (box_ && box_->hasFocus());
+          const bool hasFocus = edit_.hasFocus() || (box_ != nullptr && box_->hasFocus());
           if (hasFocus && isWanted(edit_)) edit_.selectAll();
         },
         Qt::QueuedConnection);
   }
 
   QLineEdit& edit_;
-  QAbstractSpinBox* box_ = nullptr;
+  QAbstractSpinBox* box_;
   bool isUntouched_ = true;  ///< since the user left the line
   bool isTyped_ = false;
   bool isFirstClick_ = false;  ///< the click that is going on
