@@ -6,7 +6,8 @@ namespace nascor::calc {
 
 EditingBounds plannedDeliveryDays(std::int64_t standard) {
   const GrowthStandard* chosen = growthStandard(standard);
-  return {.least = -280.0, .greatest = chosen != nullptr ? chosen->lastDeliveryDay : kUsualLastDeliveryDay};
+  const double last = chosen != nullptr ? chosen->lastDeliveryDay : kUsualLastDeliveryDay;
+  return {.least = -280.0, .greatest = last};
 }
 
 }  // namespace nascor::calc

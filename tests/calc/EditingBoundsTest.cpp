@@ -50,10 +50,5 @@ TEST(EditingBounds, countOneToFiveFetusesAndNoNegativeGravidity) {
   EXPECT_EQ(kLeastGravida, 0);
 }
 
-TEST(ThePlannedDelivery, ofAnUnknownStandardGoesAWeekBeyondTheEdd) {
-  for (const std::int64_t unknown : {std::int64_t{-1}, std::int64_t{4}})
-    EXPECT_EQ(plannedDeliveryDays(unknown).greatest, 7.0) << unknown;
-}
-
 }  // namespace
 }  // namespace nascor::calc
