@@ -67,14 +67,33 @@ std::optional<double> quotient(double dividend, double divisor) {
   return dividend / divisor;
 }
 
-std::optional<double> discordanceAt(const PatientRecord& patient, const NCRecord& examination) {
-  std::vector<double> weights;
+std::vector<Fetus> fetusesOf(const PatientRecord& patient, const NCRecord& examination) {
+  std::vector<Fetus> fetuses;
+  std::size_t weighed = 0;
+  double heaviest = 0.0;
   for (const model::MeasurementsRecord& measured : examination.measurements()) {
-    if (const auto grams = valueOf(patient, measured.biometry(), Quantity::efw)) weights.push_back(*grams);
+    const calc::Biometry lengths = measured.biometry();
+    Fetus& fetus = fetuses.emplace_back();
+    for (const Quantity quantity : calc::kQuantities)
+      fetus.values.at(static_cast<std::size_t>(quantity)) = valueOf(patient, lengths, quantity);
+    if (const auto& weight = fetus.values.back()) {
+      ++weighed;
+      heaviest = std::max(heaviest, *weight);
+    }
   }
-  if (weights.size() < 2) return std::nullopt;
-  const auto [lightest, heaviest] = std::ranges::minmax(weights);
-  return (heaviest - lightest) / heaviest * 100.0;
+  if (weighed < 2) return fetuses;
+  for (Fetus& fetus : fetuses) {
+    if (const auto& weight = fetus.values.back()) fetus.less = (heaviest - *weight) / heaviest * 100.0;
+  }
+  return fetuses;
+}
+
+std::optional<double> discordanceAt(const PatientRecord& patient, const NCRecord& examination) {
+  std::optional<double> greatest;
+  for (const Fetus& fetus : fetusesOf(patient, examination)) {
+    if (fetus.less) greatest = std::max(greatest.value_or(0.0), *fetus.less);
+  }
+  return greatest;
 }
 
 /// Weeks from one examination to a later one: the difference of their ages, or of their days where these are not known.
@@ -92,7 +111,7 @@ std::optional<double> weeksBetween(const PatientRecord& patient, const NCRecord&
 Placed placedByDocument(const PatientRecord& patient, const NCRecord& examination, Quantity quantity,
                         double value) {
   const calc::Reference* reference = calc::referenceOfStandard(patient.standard());
-  return reference ? placed(*reference, quantity, value, ageAt(patient, examination)) : Placed{};
+  return reference != nullptr ? placed(*reference, quantity, value, ageAt(patient, examination)) : Placed{};
 }
 
 std::optional<Growth> growthOf(Quantity quantity, const PatientRecord& patient, std::size_t place,
@@ -142,6 +161,10 @@ Placed placed(const calc::Reference& reference, Quantity quantity, std::optional
   figure.centile = population->centile(*value);
   if (!figure.centile) figure.cautions.push_back(Caution::withoutPlace);
   return figure;
+}
+
+std::vector<Fetus> fetusesAt(const PatientRecord& patient, std::size_t examination) {
+  return fetusesOf(patient, *foundation::checkedAt(patient.ncRecordsArray(), examination));
 }
 
 Comparison comparisonOf(const PatientRecord& patient, std::size_t examination, std::size_t fetus) {

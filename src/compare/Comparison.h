@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -76,6 +77,17 @@ struct Comparison {
   std::optional<double> discordance{};
   std::vector<Growth> growth{};  ///< of what was there before; BPD, HC, AC, FL, then the weight
 };
+
+/// One of the fetuses of an examination, beside the others.
+struct Fetus {
+  std::array<std::optional<double>, calc::kQuantities.size()>
+      values{};  ///< mm, and g by the document's formula
+  std::optional<double>
+      less{};  ///< percent by which it weighs less than the heaviest; missing for fewer than two weights
+};
+
+/// Those of the examination at place `examination`, which must be there. Takes time in proportion to their number.
+std::vector<Fetus> fetusesAt(const model::PatientRecord& patient, std::size_t examination);
 
 /// A value, if there is one, beside one reference at an age in weeks, if it is known.
 Placed placed(const calc::Reference& reference, calc::Quantity quantity, std::optional<double> value,

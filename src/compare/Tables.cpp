@@ -10,7 +10,6 @@
 #include "calc/PlaceText.h"
 #include "compare/Comparison.h"
 #include "foundation/NumberText.h"
-#include "foundation/RangeError.h"
 #include "model/FetusLabels.h"
 #include "rows/RowFormat.h"
 
@@ -221,31 +220,18 @@ Table fetusesTable(const model::PatientRecord& patient, std::size_t examination,
        .isNumber = true,
        .explanation = writer.text("Compare", "How much less this fetus weighs than the heaviest.")});
   const auto labels = model::fetusLabels(patient.numberOfFetuses());
-  const std::size_t count = patient.ncRecordsArray().at(examination)->measurements().size();
-  std::vector<std::optional<double>> weights;
-  for (std::size_t each = 0; each < count; ++each) {
-    const Comparison one = comparisonOf(patient, examination, each);
-    Row row{.cells = {label(each < labels.size() ? localizer.text("NCDocument", labels[each])
-                                                 : std::to_string(each + 1))},
-            .isChosen = each == fetus};
-    for (const Length& length : one.lengths)
-      row.cells.push_back(writer.number(length.value, kLengthDecimals));
-    const auto inForce = std::ranges::find(one.weights, patient.fetalWeightStandard(), &Weight::formula);
-    weights.push_back(inForce == one.weights.end() ? std::nullopt : inForce->grams);
-    row.cells.push_back(writer.number(weights.back(), 0));
+  std::size_t place = 0;
+  for (const Fetus& each : fetusesAt(patient, examination)) {
+    Row row{.cells = {label(place < labels.size() ? localizer.text("NCDocument", labels[place])
+                                                  : std::to_string(place + 1))},
+            .isChosen = place == fetus};
+    for (const Quantity quantity : calc::kQuantities) {
+      row.cells.push_back(writer.number(each.values.at(static_cast<std::size_t>(quantity)),
+                                        quantity == Quantity::efw ? 0 : kLengthDecimals));
+    }
+    row.cells.push_back(writer.number(each.less, 1));
     table.rows.push_back(std::move(row));
-  }
-  std::optional<double> heaviest;
-  std::size_t weighed = 0;
-  for (const auto& weight : weights) {
-    if (!weight) continue;
-    ++weighed;
-    heaviest = std::max(heaviest.value_or(0.0), *weight);
-  }
-  for (std::size_t each = 0; each < count; ++each) {
-    const bool isCompared = weighed > 1 && weights[each];
-    table.rows[each].cells.push_back(writer.number(
-        isCompared ? std::optional((*heaviest - *weights[each]) / *heaviest * 100.0) : std::nullopt, 1));
+    ++place;
   }
   return table;
 }

@@ -4,6 +4,7 @@
 
 #include "foundation/RangeError.h"
 #include "support/Examined.h"
+#include "support/Spent.h"
 
 namespace nascor::compare {
 namespace {
@@ -112,6 +113,13 @@ TEST(TheTablesOfAComparison, setTwinsSideBySide) {
   EXPECT_EQ(fetuses.rows.at(1).cells.at(6).text, "48.5");
   EXPECT_EQ(fetuses.rows.at(0).cells.at(6).text, "0.0");
   EXPECT_EQ(table("fetuses", examined({{24.0, {kAt24}}})).rows.front().cells.at(6).text, "-");
+}
+
+TEST(TheTablesOfAComparison, takeNoLongerForTenThousandFetuses) {
+  const model::PatientRecord patient = examined({{24.0, std::vector(10'000, kAt24)}});
+  const tests::Spent spent;
+  EXPECT_EQ(table("fetuses", patient).rows.size(), 10'000U);
+  EXPECT_LT(spent.seconds(), tests::kMostSeconds);
 }
 
 TEST(TheTablesOfAComparison, tellGrowthBesideWhatIsExpected) {
