@@ -1558,6 +1558,18 @@
         <source>Obstetric ultrasound biometry</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>An empty number of days counts as 0.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Usually a cycle has 24 to 38 days, its luteal phase 11 to 17.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Type whole days.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>OutputMenu</name>

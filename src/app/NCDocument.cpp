@@ -95,7 +95,7 @@ void NCDocument::storeTyped(model::PatientRecord& patient, model::NCRecord* exam
   const std::string identifier = typedText(referenceIDField());
   // A file may lack a text, which is shown as an empty one.
   if (identifier != patient.maternalIDString().value_or("")) patient.setMaternalIDString(identifier);
-  if (takesTypedText(gravidaField_)) patient.setGravida(typedInteger(gravidaField_));
+  if (takesTypedText(gravidaField_)) patient.setGravida(typedInteger(gravidaField_).value_or(0));
   // What is no date yet, or none any more, leaves the date that is known.
   const auto typedDate = [this](const framework::TextField& field) {
     const bool isTyped = field.wasEdited() || fieldEditor().field() == &field;

@@ -283,6 +283,7 @@ class NCDocument final : public framework::CorvelDocument,
   enum class Reading { held, typed };
   ProposedEDD eddFromCRL(Reading reading) const;
   ProposedEDD eddFromLMP(Reading reading) const;
+  std::string lmpProposalText() const;
   /// Says everything in `assessment` anew.
   void assess();
   void assessDialogs();
@@ -294,9 +295,12 @@ class NCDocument final : public framework::CorvelDocument,
   void storeTyped(model::PatientRecord& patient, model::NCRecord* exam);
   /// NaN while the text is no number.
   double typedNumber(const framework::NumberField& field) const;
-  std::int64_t typedInteger(const framework::IntegerField& field) const;
+  /// Nothing while the text is no whole number.
+  std::optional<std::int64_t> typedInteger(const framework::IntegerField& field) const;
   std::optional<foundation::Date> dateFromTypedText(const framework::TextField& field) const;
   calc::Biometry typedLengths();
+  /// Those with NaN for what a field would refuse.
+  calc::Biometry acceptableLengths();
   std::string improbableText(calc::Improbable what, calc::Measurement measurement) const;
   /// Empty for an age within the weeks of `table`.
   std::string beyondTableText(const calc::ReferenceTable& table, double age) const;

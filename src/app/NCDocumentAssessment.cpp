@@ -57,9 +57,9 @@ double NCDocument::typedNumber(const framework::NumberField& field) const {
   return foundation::numberFromFieldText(fieldEditor().text()).value_or(std::nan(""));
 }
 
-std::int64_t NCDocument::typedInteger(const framework::IntegerField& field) const {
+std::optional<std::int64_t> NCDocument::typedInteger(const framework::IntegerField& field) const {
   if (fieldEditor().field() != &field) return field.integerValue();
-  return foundation::integerFromFieldText(fieldEditor().text()).value_or(0);
+  return foundation::integerFromFieldText(fieldEditor().text());
 }
 
 calc::Biometry NCDocument::typedLengths() {
@@ -69,6 +69,14 @@ calc::Biometry NCDocument::typedLengths() {
     // The numbers of a fetus that was removed belong to none.
     const bool isStale = field.isStale() && fieldEditor().field() != &field;
     lengths.*calc::memberFor(measurement) = isStale ? 0.0 : typedNumber(field);
+  }
+  return lengths;
+}
+
+calc::Biometry NCDocument::acceptableLengths() {
+  calc::Biometry lengths = typedLengths();
+  for (const Measurement measurement : calc::kMeasurements) {
+    if (!takesTypedText(fieldFor(measurement))) lengths.*calc::memberFor(measurement) = std::nan("");
   }
   return lengths;
 }
@@ -112,11 +120,12 @@ void NCDocument::assess() {
   const foundation::Localizer& localizer = services().localizer;
   const double age = menstrualAgeForRecord(static_cast<std::uint64_t>(currentExam()));
   const calc::Biometry lengths = typedLengths();
+  const calc::Biometry acceptable = acceptableLengths();
   std::string ofAge;
   for (const Measurement measurement : calc::kMeasurements) {
     Assessment::Length& said = assessment_.length(measurement);
     const calc::ReferenceTable& table = graphFor(measurement).standardData();
-    const double value = lengths.*calc::memberFor(measurement);
+    const double value = acceptable.*calc::memberFor(measurement);
     const bool isPlaced = value > 0.0 && age != 0.0 && !table.empty();
     const double z = isPlaced ? calc::zScore(table, value, age) : std::nan("");
     show(said.z, calc::zText(z, localizer));
@@ -125,7 +134,8 @@ void NCDocument::assess() {
     std::string remark;
     // The first digits of a length are another length: it is judged when it is left.
     const bool isBeingTyped =
-        fieldEditor().field() == &fieldFor(measurement) && (!fieldEditor().isRefusing() || std::isnan(value));
+        fieldEditor().field() == &fieldFor(measurement) &&
+        (!fieldEditor().isRefusing() || std::isnan(lengths.*calc::memberFor(measurement)));
     if (!isBeingTyped) {
       for (const Improbable what : calc::improbableLength(measurement, lengths, age, table))
         remark.append(remark.empty() ? "" : " ").append(improbableText(what, measurement));
@@ -138,7 +148,8 @@ void NCDocument::assess() {
     ofAge = std::move(first);
   }
   show(assessment_.ageRemark, ofAge);
-  const std::string weight = calc::reportedWeight(calc::estimatedFetalWeight(lengths, fetalWeightStandard()));
+  const std::string weight =
+      calc::reportedWeight(calc::estimatedFetalWeight(acceptable, fetalWeightStandard()));
   show(assessment_.weight, weight == "-" ? weight : weight + " " + localizer.text("NCDocument", "g"));
   assessDialogs();
 }
@@ -148,7 +159,7 @@ void NCDocument::assessDialogs() {
     show(assessment_.crlProposal, proposalText(eddFromCRL(Reading::typed)));
     show(assessment_.crlExamination, examinationText());
   }
-  if (lmpWindow_.isShown()) show(assessment_.lmpProposal, proposalText(eddFromLMP(Reading::typed)));
+  if (lmpWindow_.isShown()) show(assessment_.lmpProposal, lmpProposalText());
   if (!measurementsWindow_.isShown()) return;
   show(assessment_.measurementsProposal, proposalText(eddFromMeasurements()));
   for (const Measurement measurement : calc::kMeasurements) {
@@ -157,6 +168,20 @@ void NCDocument::assessDialogs() {
     show(assessment_.length(measurement).datingRemark,
          beyond == BeyondTable::no ? "" : services().localizer.text("NCDocument", "beyond the table"));
   }
+}
+
+std::string NCDocument::lmpProposalText() const {
+  const ProposedEDD proposal = eddFromLMP(Reading::typed);
+  std::string text = proposalText(proposal);
+  const auto cycle = typedInteger(lmpWindowCycleField_);
+  const auto luteal = typedInteger(lmpWindowLutealField_);
+  if (proposal.text.empty() || !cycle || !luteal || calc::isUsualCycle(*cycle, *luteal)) return text;
+  const foundation::Localizer& localizer = services().localizer;
+  const bool isEmpty = typedText(lmpWindowCycleField_).empty() || typedText(lmpWindowLutealField_).empty();
+  const std::string remark =
+      isEmpty ? localizer.text("NCDocument", "An empty number of days counts as 0.")
+              : localizer.text("NCDocument", "Usually a cycle has 24 to 38 days, its luteal phase 11 to 17.");
+  return text + "\n" + remark;
 }
 
 std::string NCDocument::examinationText() const {
@@ -238,6 +263,9 @@ std::string NCDocument::obstacleText(const TextField& obstacle) const {
     };
     return localizer.text("NCDocument", "The formula dates these lengths, in mm:") + " " +
            number(formula->least) + "\u2013" + number(formula->greatest);
+  }
+  for (const framework::IntegerField* days : {&lmpWindowCycleField_, &lmpWindowLutealField_}) {
+    if (&obstacle == days && !typedInteger(*days)) return localizer.text("NCDocument", "Type whole days.");
   }
   if (&obstacle == &lmpWindowCycleField_ || &obstacle == &lmpWindowLutealField_)
     return localizer.text("NCDocument", "There is no such cycle.");

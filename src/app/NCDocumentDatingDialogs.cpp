@@ -64,11 +64,16 @@ NCDocument::ProposedEDD NCDocument::eddFromLMP(Reading reading) const {
   const bool isTyped = reading == Reading::typed;
   const auto lmp = isTyped ? dateFromTypedText(lmpWindowLMP_) : dateFromText(lmpWindowLMP_);
   if (!lmp) return {.text = {}, .obstacles = {&lmpWindowLMP_}};
+  ProposedEDD refused;
   const auto days = [&](const framework::IntegerField& field) {
-    return isTyped ? typedInteger(field) : field.integerValue();
+    const auto typed = isTyped ? typedInteger(field) : field.integerValue();
+    if (!typed) refused.obstacles.push_back(&field);
+    return typed.value_or(0);
   };
-  const auto edd =
-      calc::eddFromLMP(*lmp, days(lmpWindowCycleField_), days(lmpWindowLutealField_), services().calendar);
+  const std::int64_t cycle = days(lmpWindowCycleField_);
+  const std::int64_t luteal = days(lmpWindowLutealField_);
+  if (!refused.obstacles.empty()) return refused;
+  const auto edd = calc::eddFromLMP(*lmp, cycle, luteal, services().calendar);
   return proposed(edd, {&lmpWindowCycleField_, &lmpWindowLutealField_});
 }
 

@@ -253,8 +253,8 @@ bool NCDocument::mayModify(const std::string& message, const std::string& inform
   return environment().alerts.runModal({.message = message,
                                         .information = information,
                                         .defaultButton = localizer.text("CorvelDocument", "Modify"),
-                                        .alternateButton = localizer.text("ZuVersion", "Cancel")}) ==
-         framework::AlertReturn::defaultButton;
+                                        .alternateButton = localizer.text("ZuVersion", "Cancel"),
+                                        .interruptsTyping = true}) == framework::AlertReturn::defaultButton;
 }
 
 std::string NCDocument::shortDateText(const std::optional<Date>& date) const {

@@ -22,6 +22,10 @@ double shortestMean(Measurement measurement) {
 
 }  // namespace
 
+bool isUsualCycle(std::int64_t cycle, std::int64_t luteal) {
+  return cycle >= 24 && cycle <= 38 && luteal >= 11 && luteal <= 17;
+}
+
 std::optional<Improbable> improbableAge(double age) {
   constexpr double kLongPastTerm = 45.0;  // weeks
   if (age < 0.0) return Improbable::beforeLastPeriod;

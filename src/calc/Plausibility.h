@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <vector>
 
@@ -20,6 +21,10 @@ enum class Improbable {
   farAboveStandard,     ///< the same above it
   headTooSmall,         ///< an HC below nine tenths of pi times the BPD, which no head can have
 };
+
+/// Whether cycle and luteal phase, in days, are of the usual length: 24 to 38 (Munro et al., Int J Gynecol Obstet 2018;143:393-408)
+/// and 11 to 17 (ASRM, Fertil Steril 2021;115:1416-1423).
+bool isUsualCycle(std::int64_t cycle, std::int64_t luteal);
 
 /// What is improbable about an age in weeks; nothing for 0.0, unknown, and for one that is not a number.
 std::optional<Improbable> improbableAge(double age);

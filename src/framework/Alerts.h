@@ -17,6 +17,7 @@ struct Alert {
   /// Whether the Return key cancels: what the default button does cannot be taken back.
   bool isCancelledByReturn = false;
   const Panel* window = nullptr;  ///< the panel that is asked on; null for the document's own window
+  bool interruptsTyping = false;  ///< asked because the user began to type in a field
   std::string addition = {};      ///< what else a person reads beneath the information; may be empty
 };
 

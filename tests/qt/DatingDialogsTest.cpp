@@ -175,6 +175,40 @@ TEST_F(TheDialogs, datesFromACrownRumpLengthByKeysAlone) {
   EXPECT_EQ(text("birthDateField"), "3/8/27");
 }
 
+TEST_F(TheDialogs, showWhatALengthInEditChangesBeforeTheyTakeIt) {
+  openWindow(undated());
+  action("eddFromMeasurementsAction").trigger();
+  settle();
+  const std::string shown = labelled("measurementsWindowProposal");
+  toWindow();
+  type("bpdField", "60");
+  QPushButton& ok =
+      *dialog("measurementsWindow").findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok);
+  QTest::mouseClick(&ok, Qt::LeftButton);
+  settle();
+  EXPECT_TRUE(dialog("measurementsWindow").isVisible());
+  EXPECT_FALSE(document().patientRecord()->edd());
+  const std::string shownNow = labelled("measurementsWindowProposal");
+  EXPECT_NE(shownNow, shown);
+  QTest::mouseClick(&ok, Qt::LeftButton);
+  settle();
+  EXPECT_FALSE(dialog("measurementsWindow").isVisible());
+  EXPECT_TRUE(document().patientRecord()->edd());
+}
+
+TEST_F(TheDialogs, leaveTheDateThatTheyChangedSelected) {
+  openWindow(undated());
+  widget<QLineEdit>("birthDateField").setFocus();
+  action("eddFromLMPAction").trigger();
+  settle();
+  keys("5/1/26");
+  key(Qt::Key_Return);
+  ASSERT_TRUE(document().patientRecord()->edd());
+  toWindow();
+  EXPECT_EQ(focus(), "birthDateField");
+  EXPECT_EQ(widget<QLineEdit>("birthDateField").selectedText(), QStringLiteral("2/5/27"));
+}
+
 TEST_F(TheDialogs, datesFromTheMeasurementsByKeysAlone) {
   openWindow(undated());
   key(Qt::Key_M, Qt::ControlModifier | Qt::ShiftModifier);

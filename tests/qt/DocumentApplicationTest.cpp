@@ -232,6 +232,17 @@ TEST_F(TheApplicationOfDocuments, remembersWhatWasOpenedAndForgetsItWhenAsked) {
   EXPECT_THAT(application.recentFiles().paths(), IsEmpty());
 }
 
+TEST_F(TheApplicationOfDocuments, shortensLongNamesOfRecentFiles) {
+  const QString name = QString(150, u'W') + QStringLiteral(".nascor");
+  open(singleton(), name);
+  QMenu& menu = widget<QMenu>("recentMenu");
+  emit menu.aboutToShow();
+  EXPECT_LT(menu.sizeHint().width(), menu.fontMetrics().horizontalAdvance(name) / 2);
+  EXPECT_TRUE(menu.actions()[0]->text().endsWith(QStringLiteral("W.nascor")));
+  menu.actions()[0]->trigger();
+  EXPECT_THAT(titles(), ElementsAre(name.toStdString() + "[*]"));
+}
+
 TEST_F(TheApplicationOfDocuments, keepsNoRecentFilesWhenTheUserDoesNotWantThem) {
   open(singleton(), QStringLiteral("a.nascor"));
   emit widget<QMenu>("recentMenu").aboutToShow();

@@ -4,11 +4,13 @@
 #include <QDropEvent>
 #include <QInputMethodEvent>
 #include <QMimeData>
+#include <QScrollArea>
 #include <QTabWidget>
 #include <QToolTip>
 #include <QWheelEvent>
 
 #include "WindowTest.h"
+#include "window/TypedAhead.h"
 
 namespace nascor::tests {
 namespace {
@@ -258,10 +260,42 @@ TEST_F(Editing, greysWhatIsLeftOfARemovedFetus) {
   EXPECT_EQ(edit.palette().color(QPalette::Text), edit.palette().color(QPalette::Disabled, QPalette::Text));
   EXPECT_NE(edit.palette().color(QPalette::Text), usual);
   EXPECT_THAT(edit.accessibleDescription().toStdString(), HasSubstr("Belongs to no fetus"));
-  widget<QLineEdit>("hcField").setFocus();
+  type("bpdField", "7");
+  EXPECT_EQ(edit.palette().color(QPalette::Text), usual) << "typed for the fetus that is left";
+  press(Qt::Key_Escape);
+  EXPECT_NE(edit.palette().color(QPalette::Text), usual);
   enter("hcField", "200");
   EXPECT_EQ(edit.palette().color(QPalette::Text), usual);
   EXPECT_THAT(edit.accessibleDescription().toStdString(), testing::Not(HasSubstr("Belongs to no fetus")));
+}
+
+TEST_F(Editing, isInSightHoweverTheFieldIsReached) {
+  qt::DocumentWindow& window = open(singleton());
+  window.resize(window.minimumSizeHint());
+  settle();
+  const auto& panel = widget<QScrollArea>("panelScroll");
+  const auto isInSight = [&panel](const QWidget& edit) {
+    const QRect place(edit.mapTo(panel.viewport(), QPoint()), edit.size());
+    return panel.viewport()->rect().contains(place);
+  };
+  widget<QLineEdit>("referenceIDField").setFocus(Qt::ShortcutFocusReason);
+  ASSERT_TRUE(isInSight(widget<QLineEdit>("referenceIDField")));
+  ASSERT_FALSE(isInSight(widget<QLineEdit>("flField"))) << "the window is not small";
+  widget<QLineEdit>("flField").setFocus(Qt::ShortcutFocusReason);
+  EXPECT_TRUE(isInSight(widget<QLineEdit>("flField")));
+}
+
+TEST_F(Editing, staysWhereItIsWhenTheWheelTurnsOverTheChoiceOfFetus) {
+  open(twins());
+  widget<QLineEdit>("flField").setFocus();
+  auto& box = widget<QComboBox>("multiplePopUp");
+  const QPointF at = box.rect().center();
+  QWheelEvent wheel(at, box.mapToGlobal(at), {}, {0, -120}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase,
+                    false);
+  QCoreApplication::sendEvent(&box, &wheel);
+  EXPECT_FALSE(box.focusPolicy() & Qt::WheelFocus & ~Qt::StrongFocus);
+  EXPECT_EQ(focus(), "flField");
+  EXPECT_EQ(document().currentFetus(), 0);
 }
 
 // A digit typed before or behind what was just put into the field would make a number that nobody meant.
@@ -455,6 +489,42 @@ TEST_F(Editing, leavesTheEDDWhenTheUserCancels) {
   EXPECT_EQ(asked[0].information, "Are you sure you want to modify the established EDD?");
   EXPECT_EQ(field("birthDateField"), "4/10/27");
   EXPECT_FALSE(front().isWindowModified());
+}
+
+TEST_F(Editing, ofAnEDDThatStandsGoesOnBehindTheQuestion) {
+  open(singleton());
+  QLineEdit& edit = widget<QLineEdit>("birthDateField");
+  edit.setFocus();
+  edit.selectAll();
+  answersQuestions(false);
+  bool wasAnswered = false;
+  QTimer::singleShot(0, [&] {
+    const QPointer<QMessageBox> box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    ASSERT_TRUE(box);
+    // The user has not looked up yet: the whole date and its Return come in one go.
+    QTest::keyClicks(box->defaultButton(), QStringLiteral("/1/27"));
+    QTest::keyClick(box->defaultButton(), Qt::Key_Return);
+    ASSERT_TRUE(box && box->isVisible()) << "the Return of the date answers the question";
+    wasAnswered = true;
+    QTest::mouseClick(box->defaultButton(), Qt::LeftButton);
+  });
+  QTest::keyClick(&edit, Qt::Key_5);
+  settle();
+  EXPECT_TRUE(wasAnswered);
+  EXPECT_EQ(edit.text(), QStringLiteral("5/1/27"));
+  press(Qt::Key_Tab);
+  EXPECT_EQ(foundation::localDay(document().patientRecord()->edd().value(), platform.calendar),
+            (foundation::CivilDay{2027, 5, 1}));
+  answersQuestions(true);
+}
+
+TEST_F(Editing, goesOnAfterAPauseByAnAnswer) {
+  QMessageBox box;
+  QPushButton* agree = box.addButton(QStringLiteral("&Modify"), QMessageBox::AcceptRole);
+  qt::TypedAhead ahead(box, std::chrono::milliseconds(0));
+  box.show();
+  QTest::keyClick(agree, Qt::Key_Return);
+  EXPECT_FALSE(box.isVisible());
 }
 
 struct Way {

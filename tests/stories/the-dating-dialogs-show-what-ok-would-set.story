@@ -24,6 +24,20 @@ Nothing is set before OK, and a longer cycle is a later day:
 {"type":["lmpWindowCycleField","-300"]}
 {"beside":true}
 =~ {"beside":{"lmpWindowProposal":"There is no such cycle."}}
+What the field would refuse dates nothing, and what is outside the usual is said. Nothing typed are 0 days, which is four weeks less:
+
+{"type":["lmpWindowCycleField","28.5"]}
+{"beside":true}
+=~ {"beside":{"lmpWindowProposal":"Type whole days."}}
+{"type":["lmpWindowCycleField",""]}
+{"beside":true}
+=~ {"beside":{"lmpWindowProposal":"EDD: 8 January 2027\nAge today: 33w 1d\nAn empty number of days counts as 0."}}
+{"type":["lmpWindowCycleField","39"]}
+{"beside":true}
+=~ {"beside":{"lmpWindowProposal":"EDD: 16 February 2027\nAge today: 27w 4d\nUsually a cycle has 24 to 38 days, its luteal phase 11 to 17."}}
+{"type":["lmpWindowCycleField","38"]}
+{"beside":true}
+=~ {"beside":{"lmpWindowProposal":"EDD: 15 February 2027\nAge today: 27w 5d"}}
 {"revert":"lmpWindowCycleField"}
 {"do":["okSetEDDfromLMP"]}
 {"state":true}

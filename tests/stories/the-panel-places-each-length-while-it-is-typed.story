@@ -20,6 +20,11 @@ digits are there:
 {"type":["hcField","165"]}
 {"beside":true}
 =~ {"beside":{"hcZ":"-1.00","hcCentile":"15.8","hcRemark":"","weightText":"-"}}
+A number that the field will refuse counts for nothing:
+
+{"type":["hcField","16500"]}
+{"beside":true}
+=~ {"beside":{"hcZ":"-","hcCentile":"-","hcRemark":"","weightText":"-"}}
 {"type":["hcField","165x"]}
 {"beside":true}
 =~ {"beside":{"hcZ":"-","hcCentile":"-","hcRemark":""}}
@@ -35,6 +40,9 @@ The weight comes as soon as its formula has its lengths: 10^(1.326 - 0.0000326 x
 {"type":["flField","30"]}
 {"beside":true}
 =~ {"beside":{"acZ":"+0.00","acCentile":"50.1","flZ":"-1.46","flCentile":"7.2","weightText":"318 g"}}
+{"type":["flField","300"]}
+{"beside":true}
+=~ {"beside":{"flZ":"-","flCentile":"-","weightText":"-"}}
 
 Another formula is another weight at once, 10^(1.304 + 0.005281 x 154.4 + 0.01938 x 30 - 0.00004 x 154.4 x 30) g; under another standard the FL of
 20 weeks is 32.23 mm with a deviation of 2.4 mm.

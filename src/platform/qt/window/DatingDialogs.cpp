@@ -27,7 +27,7 @@ using app::NCDocument;
 namespace {
 
 /// The EDD, the age today, the difference, and what would become of the examinations.
-constexpr int kProposalLines = 4;
+constexpr int kProposalLines = 5;
 
 /// Makes `edit`, which only shows, wide enough for `text` on the narrowest screen too.
 void giveRoom(QLineEdit& edit, const QString& text) {
@@ -75,10 +75,18 @@ void DatingDialog::bindText(QLabel& label, framework::TextField& text, int lines
   keep(bindLabel(label, text));
 }
 
+void DatingDialog::bindProposal(QLabel& label, framework::TextField& text) {
+  bindText(label, text, kProposalLines);
+  proposalShown_ = &text;
+}
+
 void DatingDialog::accept() {
+  const std::string shown = proposalShown_ ? proposalShown_->text() : "";
   // Not for a field that refuses its text: that one is outlined by itself.
-  perform([this](NCDocument& document) {
-    setEDD(document);
+  perform([this, shown](NCDocument& document) {
+    // A length that was in edit in the window counts only now: what comes of it is shown first.
+    const bool isAsShown = !proposalShown_ || proposalShown_->text() == shown;
+    if (isAsShown) setEDD(document);
     if (isPanelShown()) outline(proposal(document).obstacles);
   });
 }
@@ -121,7 +129,7 @@ EDDFromCRLDialog::EDDFromCRLDialog(NCDocument& document, const foundation::Servi
   bindDate(*ui_->crlWindowDate, *ui_->crlWindowDateForm, *ui_->crlWindowDateLongForm);
   bindField(*ui_->crlWindowCRL);
   bindText(*ui_->crlWindowExamination, document.assessment().crlExamination);
-  bindText(*ui_->crlWindowProposal, document.assessment().crlProposal, kProposalLines);
+  bindProposal(*ui_->crlWindowProposal, document.assessment().crlProposal);
   framework::TextField& formula = fieldFor(*ui_->crlStandardReference);
   keep(bindReadOnly(*ui_->crlStandardReference, formula));
   keep(formula.onChange.subscribe([this] { refresh(); }));
@@ -171,7 +179,7 @@ EDDFromLMPDialog::EDDFromLMPDialog(NCDocument& document, const foundation::Servi
   bindDate(*ui_->lmpWindowLMP, *ui_->lmpWindowLMPForm, *ui_->lmpWindowLMPLongForm);
   bindField(*ui_->lmpWindowCycleField);
   bindField(*ui_->lmpWindowLutealField);
-  bindText(*ui_->lmpWindowProposal, document.assessment().lmpProposal, kProposalLines);
+  bindProposal(*ui_->lmpWindowProposal, document.assessment().lmpProposal);
   bindPanel();
 }
 
@@ -240,7 +248,7 @@ EDDFromMeasurementsDialog::EDDFromMeasurementsDialog(NCDocument& document,
       });
     }
   }
-  bindText(*ui_->measurementsWindowProposal, document.assessment().measurementsProposal, kProposalLines);
+  bindProposal(*ui_->measurementsWindowProposal, document.assessment().measurementsProposal);
   // The average is shown last, when all the others are as they are to be.
   framework::TextField& average = fieldFor(*ui_->measurementsWindowAvGestation);
   keep(bindReadOnly(*ui_->measurementsWindowAvGestation, average));

@@ -37,6 +37,8 @@ class DatingDialog : public PanelDialog {
   void bindDate(FieldEdit& edit, QLabel& form, QLabel& longForm);
   /// Shows `text`, which the document says beside its fields, in `label`, with room for `lines` of it.
   void bindText(QLabel& label, framework::TextField& text, int lines = 1);
+  /// The same for what OK would set. When the text changes as OK ends an edit in the window, OK only shows it.
+  void bindProposal(QLabel& label, framework::TextField& text);
   /// Outlines nothing any more.
   void forgetObstacles();
 
@@ -50,6 +52,7 @@ class DatingDialog : public PanelDialog {
 
   foundation::Services services_;
   Actions& actions_;
+  const framework::TextField* proposalShown_ = nullptr;
   std::vector<FieldBinding*> bindings_;
 };
 

@@ -19,7 +19,8 @@ void show(QLineEdit& edit, const std::string& whole) {
   if (before == text) return;
   const int cursor = edit.cursorPosition();
   edit.setText(text);
-  if (!edit.hasFocus()) {
+  // Also while a dialog has the keys, which come back to this field.
+  if (edit.window()->focusWidget() != &edit) {
     edit.setCursorPosition(0);
   } else if (before.compare(text, Qt::CaseInsensitive) == 0) {
     edit.setCursorPosition(cursor);
@@ -29,15 +30,17 @@ void show(QLineEdit& edit, const std::string& whole) {
   }
 }
 
-void showColor(QLineEdit& edit, const framework::TextField& field) {
+void showColor(QLineEdit& edit, const framework::TextField& field, bool isStale) {
   enum Look { kUsual, kRed, kStale };
   constexpr const char* kLook = "look";
-  const int look = field.isStale() ? kStale : field.isRed() ? kRed : kUsual;
+  const int look = isStale ? kStale : field.isRed() ? kRed : kUsual;
   if (edit.property(kLook).toInt() == look) return;
   edit.setProperty(kLook, look);
   QPalette palette = edit.palette();
+  // Not from the field's own palette, which holds in every group what was set here before.
+  const QColor grey = QApplication::palette(&edit).color(QPalette::Disabled, QPalette::Text);
   palette.setColor(QPalette::Text, look == kRed     ? refusalColor(palette)
-                                   : look == kStale ? palette.color(QPalette::Disabled, QPalette::Text)
+                                   : look == kStale ? grey
                                                     : palette.color(QPalette::WindowText));
   edit.setPalette(palette);
 }
@@ -83,9 +86,8 @@ void FieldBinding::refresh() {
   show(edit_, isInEdit() ? editor_.text() : field_->text());
   edit_.setRefusing(isInEdit() && editor_.isRefusing());
   showEditable();
-  showColor(edit_, *field_);
-  if (std::exchange(wasStale_, field_->isStale()) != field_->isStale())
-    edit_.setAccessibleDescription(description());
+  showColor(edit_, *field_, isStale());
+  if (std::exchange(wasStale_, isStale()) != isStale()) edit_.setAccessibleDescription(description());
 }
 
 void FieldBinding::showEditable() {
@@ -102,7 +104,7 @@ void FieldBinding::showEditable() {
 }
 
 QString FieldBinding::description() const {
-  if (field_ && field_->isStale()) {
+  if (field_ && isStale()) {
     return QCoreApplication::translate("FieldBinding", "Belongs to no fetus: the fetus was removed. %1")
         .arg(edit_.toolTip());
   }
@@ -141,6 +143,9 @@ void FieldBinding::typed(const QString& text) {
     edit_.selectAll();
   }
 }
+
+// What the user types is stored for the fetus that is left.
+bool FieldBinding::isStale() const { return field_->isStale() && !isInEdit(); }
 
 void FieldBinding::leave() {
   if (!isInEdit()) return;
@@ -190,7 +195,7 @@ foundation::Subscription bindReadOnly(QLineEdit& edit, framework::TextField& fie
   letWindowThrough(edit);
   const auto showField = [&edit, &field] {
     show(edit, field.text());
-    showColor(edit, field);
+    showColor(edit, field, field.isStale());
   };
   showField();
   return field.onChange.subscribe(showField);

@@ -43,6 +43,7 @@ class FieldBinding final : public QObject {
   void goOn();
   bool escape();
   bool isInEdit() const { return field_ != nullptr && editor_.field() == field_; }
+  bool isStale() const;
 
   FieldEdit& edit_;
   framework::TextField* field_;

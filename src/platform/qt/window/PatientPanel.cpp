@@ -1,7 +1,9 @@
 #include "window/PatientPanel.h"
 
+#include <QApplication>
 #include <QLabel>
 #include <QPointer>
+#include <QScrollArea>
 #include <QSignalBlocker>
 #include <algorithm>
 #include <array>
@@ -32,6 +34,10 @@ PatientPanel::PatientPanel(QWidget& window, Ui::MyDocument& ui, QLabel& status, 
   bindFields();
   bindNote();
   bindAssessment();
+  // Qt scrolls for the Tab key alone, not for a letter, Return, or the program.
+  connect(qApp, &QApplication::focusChanged, this, [this](const QWidget*, QWidget* now) {
+    if (now && ui_.patientPanel->isAncestorOf(now)) ui_.panelScroll->ensureWidgetVisible(now);
+  });
   subscriptions_.push_back(document.fieldEditor().onChange.subscribe([this] { showEditing(); }));
   subscriptions_.push_back(document.statusLine().onChange.subscribe([this] { showEditing(); }));
 }

@@ -8,6 +8,7 @@
 #include "base/Mnemonics.h"
 #include "base/Text.h"
 #include "foundation/Utf8.h"
+#include "window/TypedAhead.h"
 
 namespace nascor::qt {
 
@@ -74,8 +75,15 @@ void QtAlerts::exec(QMessageBox& box) const {
 AlertReturn QtAlerts::runModal(const Alert& alert) {
   QMessageBox box(parent());
   setUp(box, alert);
+  if (!alert.interruptsTyping) {
+    exec(box);
+    return answerOf(box);
+  }
+  TypedAhead ahead(box);
   exec(box);
-  return answerOf(box);
+  const AlertReturn answer = answerOf(box);
+  if (answer == AlertReturn::defaultButton) ahead.handOver();
+  return answer;
 }
 
 void QtAlerts::beginSheet(const Alert& alert, std::function<void(AlertReturn)> didEnd) {

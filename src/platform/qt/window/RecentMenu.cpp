@@ -18,10 +18,13 @@ void RecentMenu::fill() {
   menu_.clear();
   const QStringList paths = files_.paths();
   const QStringList labels = fileLabels(paths);
+  constexpr int kMostSigns = 60;
+  const int sign = menu_.fontMetrics().averageCharWidth();
   for (qsizetype i = 0; i < paths.size(); ++i) {
     const QString& path = paths[i];
+    const QString label = menu_.fontMetrics().elidedText(labels[i], Qt::ElideMiddle, kMostSigns * sign);
     QAction* action =
-        menu_.addAction(QStringLiteral("&%1  %2").arg(QString::number((i + 1) % 10), menuText(labels[i])));
+        menu_.addAction(QStringLiteral("&%1  %2").arg(QString::number((i + 1) % 10), menuText(label)));
     action->setToolTip(fromUtf8(foundation::oneLine(toUtf8(path))));
     action->setData(path);
     connect(action, &QAction::triggered, this, [this, path] { open_({path}); });
