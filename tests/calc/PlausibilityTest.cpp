@@ -21,6 +21,15 @@ TEST(Lengths, areMeasuredWhereAnyIs) {
     EXPECT_TRUE(isAnyMeasured(lengths));
 }
 
+TEST(AUsualCycle, has24To38DaysAndALutealPhaseOf11To17) {
+  EXPECT_TRUE(isUsualCycle(24, 11));
+  EXPECT_TRUE(isUsualCycle(38, 17));
+  EXPECT_FALSE(isUsualCycle(23, 14));
+  EXPECT_FALSE(isUsualCycle(39, 14));
+  EXPECT_FALSE(isUsualCycle(28, 10));
+  EXPECT_FALSE(isUsualCycle(28, 18));
+}
+
 TEST(ImprobableAge, isOneBelow0OrAbove45Weeks) {
   EXPECT_EQ(improbableAge(-1.0 / 7.0), Improbable::beforeLastPeriod);
   EXPECT_EQ(improbableAge(0.0), std::nullopt) << "unknown";
