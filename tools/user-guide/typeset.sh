@@ -6,6 +6,8 @@ if (($# < 5)) || [[ "$1" != pandoc && "$1" != lowdown ]]; then
   echo "usage: typeset.sh pandoc|lowdown TITLE VERSION FOLDER CHAPTER.md..." >&2
   exit 2
 fi
+# Without a locale pandoc opens no file whose path has letters beyond ASCII.
+export LC_ALL=C.UTF-8
 tool="$1" title="$2" version="$3" folder="$4"
 shift 4
 template="$(dirname "${BASH_SOURCE[0]}")/document.html"
