@@ -1570,6 +1570,78 @@
         <source>Type whole days.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Add Examination</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Delete Examination</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add Fetus</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove Fetus</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>EDD</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Growth Standard</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Weight Formula</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Crown-Rump Formula</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reference ID</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gravidity</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Examination Date</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lengths</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>BPD</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>HC</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>AC</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>FL</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Planned Delivery</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>OutputMenu</name>

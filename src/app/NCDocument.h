@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "app/Assessment.h"
+#include "app/PatientHistory.h"
 #include "app/PatientPages.h"
 #include "calc/Biometry.h"
 #include "calc/Plausibility.h"
@@ -218,6 +219,23 @@ class NCDocument final : public framework::CorvelDocument,
 
   /// @}
 
+  /// @name Undo of what changes the patient, one action of the user or of a script at a time (NCDocumentHistory.cpp)
+  ///
+  /// What is in edit is stored first; with a refused text nothing happens. Examination and fetus on show return too. The
+  /// document is unedited again where it is as it was saved. Reading a file begins anew.
+  /// @{
+
+  /// What would be taken back, or done again, as a menu names it; nothing for none.
+  std::optional<std::string> undoName() const;
+  std::optional<std::string> redoName() const;
+  void undo();
+  void redo();
+  /// A script has stored something in the patient, and everything shows it.
+  void scriptHasStored();
+  foundation::Signal<> onHistoryChanged;  ///< what can be undone or redone may have changed
+
+  /// @}
+
   // Selector: preferredFileName:
   /// The patient's title: reference ID as typed with "/" as "-", gravidity, and, when asked for and there are several,
   /// which fetus is on show. Empty without a reference ID.
@@ -311,6 +329,18 @@ class NCDocument final : public framework::CorvelDocument,
   const charts::NascorGraphView& graphFor(calc::Measurement measurement) const;
   framework::TextField* firstEmptyField() override;
 
+  void actionEnded() override;
+  void changesWereCleared() override;
+  PatientState state() const;
+  void beginHistory();
+  void goTo(const PatientHistory::Shown& shown);
+  /// Makes `value` the choice for new patients.
+  void prefer(std::string_view key, std::int64_t value);
+  /// Shows the patient, whose examination and fetus are chosen, in all that shows her.
+  void showPatient();
+  /// Gives the stepper `days` from the EDD, and room for them.
+  void setPlannedDays(double days);
+
   bool controlTextShouldBeginEditing(framework::TextField& field) override;
   bool controlTextShouldEndEditing(framework::TextField& field, std::string_view text) override;
   void controlTextDidEndEditing(framework::TextField& field) override;
@@ -369,6 +399,8 @@ class NCDocument final : public framework::CorvelDocument,
   /// permitted. Written again as long as nothing else is planned.
   std::optional<double> gestationInFile_;
   foundation::Subscription showAllSubscription_;
+  PatientHistory history_;
+  std::optional<Preference> preference_;  ///< of the action that is going on
 
   framework::IntegerField gravidaField_;
   framework::NumberField bpdField_;

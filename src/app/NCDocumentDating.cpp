@@ -1,5 +1,7 @@
 // Menstrual age, crown-rump length, planned delivery.
 
+#include <optional>
+
 #include "app/NCDocument.h"
 #include "calc/Dating.h"
 #include "calc/EditingBounds.h"
@@ -41,7 +43,11 @@ void NCDocument::doAdjustDeliveryDate(Sender) {
 
 void NCDocument::adjustDeliveryDate(Sender sender) {
   if (!patientRecord_) return;
-  if (sender != this) gestationInFile_.reset();
+  std::optional<OneStep> step;
+  if (sender != this) {
+    step.emplace(*this);
+    gestationInFile_.reset();
+  }
   const double days = adjustDeliveryStepper_.value();
   patientRecord_->setExtrapolatedGestation(calc::plannedGestation(days));
   if (!patientRecord_->edd()) return;

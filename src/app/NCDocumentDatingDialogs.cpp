@@ -145,6 +145,7 @@ NCDocument::ProposedEDD NCDocument::proposed(const std::optional<foundation::Dat
 
 void NCDocument::enterEDD(const ProposedEDD& proposal, Panel& window) {
   if (!patientRecord_ || proposal.text.empty()) return;
+  const OneStep step(*this);
   birthDateField().takeEditedText(proposal.text);
   cancelDialog(window);
   directUpdateDisplayAndSetDirty(true);

@@ -67,6 +67,7 @@ void NCDocument::chooseFetus(const framework::PopUpButton& popUp) {
 
 void NCDocument::addFetus(Sender) {
   if (!patientRecord_ || patientRecord_->numberOfFetuses() >= calc::kMostFetuses) return;
+  const OneStep step(*this);
   patientRecord_->addFetus();
   updateChangeCount(ChangeType::changeDone);
   updateMultiplePopUp();
@@ -109,6 +110,7 @@ std::string NCDocument::whatGoesWithFetus() const {
 
 void NCDocument::deleteFetusAlertDidEnd(framework::AlertReturn returnCode) {
   if (returnCode != framework::AlertReturn::defaultButton || !patientRecord_) return;
+  const OneStep step(*this);
   updateChangeCount(ChangeType::changeDone);
   patientRecord_->deleteFetus(currentFetus_);
   // The fields go on showing the removed fetus, and no pop-up item is chosen anew. Mark their numbers as no fetus's.

@@ -19,30 +19,39 @@ std::int64_t NCDocument::fetalWeightStandard() const {
 
 void NCDocument::doSetStandard(std::int64_t standard) {
   if (!patientRecord_) return;
+  const OneStep step(*this);
   patientRecord_->setStandard(standard);
   gestationInFile_.reset();  // the plan is as late as the new standard permits, and stays so
   updateAdjustDeliveryStepperForNewStandard();
   services().notifications.post(NotificationName::updateStandards, this);
-  services().defaults.setValue(defaults_key::standard, std::to_string(patientRecord_->standard()));
+  prefer(defaults_key::standard, patientRecord_->standard());
   refreshEDDfromMeasurements();
   assess();
 }
 
 void NCDocument::doSetEFWStandard(std::int64_t standard) {
   if (!patientRecord_) return;
+  const OneStep step(*this);
   patientRecord_->setFetalWeightStandard(standard);
   services().notifications.post(NotificationName::updateStandards, this);
-  services().defaults.setValue(defaults_key::estimatedFetalWeightStandard,
-                               std::to_string(patientRecord_->fetalWeightStandard()));
+  prefer(defaults_key::estimatedFetalWeightStandard, patientRecord_->fetalWeightStandard());
   assess();
 }
 
 void NCDocument::doSetCRLStandard(std::int64_t standard) {
   if (!patientRecord_) return;
+  const OneStep step(*this);
   patientRecord_->setCRLStandard(standard);
   crlStandardReference_.setText(calc::crlStandardTitle(standard, services().localizer));
-  services().defaults.setValue(defaults_key::crlStandard, std::to_string(standard));
+  prefer(defaults_key::crlStandard, standard);
   assessDialogs();
+}
+
+void NCDocument::prefer(std::string_view key, std::int64_t value) {
+  foundation::UserDefaults& defaults = services().defaults;
+  std::string after = std::to_string(value);
+  preference_ = {.key = std::string(key), .before = defaults.value(key), .after = after};
+  defaults.setValue(key, std::move(after));
 }
 
 void NCDocument::updateShowAll() { tabView().setNeedsDisplay(); }

@@ -35,20 +35,29 @@ void NCDocument::windowControllerDidLoadNib() {
                                          [this](const foundation::Notification&) { updateShowAll(); });
 
   gestationInFile_ = patientRecord_->extrapolatedGestation();
-  const double days = calc::plannedDays(*gestationInFile_, standard());
-  adjustDeliveryStepper_.setMinimum(std::min(adjustDeliveryStepper_.minimum(), std::floor(days)));
-  adjustDeliveryStepper_.setMaximum(calc::plannedDeliveryDays(standard()).greatest);
-  adjustDeliveryStepper_.setValue(days);
+  setPlannedDays(calc::plannedDays(*gestationInFile_, standard()));
 
   setCurrentExam(lastExam());
   setCurrentFetus(0);
   // A document that is read again has a fetus selected already.
   if (multiplePopUp_.numberOfItems() > 0) multiplePopUp_.selectItemAtIndex(0);
   updateMultiplePopUp();
+  showPatient();
+  doSetCRLStandard(patientRecord_->crlStandard());
+  beginHistory();
+}
+
+void NCDocument::setPlannedDays(double days) {
+  adjustDeliveryStepper_.setMinimum(std::min(adjustDeliveryStepper_.minimum(), std::floor(days)));
+  adjustDeliveryStepper_.setMaximum(calc::plannedDeliveryDays(standard()).greatest);
+  adjustDeliveryStepper_.setValue(days);
+}
+
+void NCDocument::showPatient() {
+  const OneStep step(*this);
   synchronizeFromData();
   services().notifications.post(foundation::NotificationName::updateStandards, this);
   updateAdjustDeliveryStepperForNewStandard();
-  doSetCRLStandard(patientRecord_->crlStandard());
   refreshEDDfromMeasurements();
   // The charts have had the document's own standard only since it was posted.
   assess();
@@ -81,6 +90,7 @@ void NCDocument::synchronizeFromData() {
   showWhatTakesTyping();
   updateDisplay();
   refreshEDDfromMeasurements();
+  if (!isInStep()) history_.moveTo({.examination = currentExam(), .fetus = currentFetus_});
 }
 
 void NCDocument::showWhatTakesTyping() {
@@ -178,6 +188,7 @@ bool NCDocument::controlTextShouldEndEditing(TextField& field, std::string_view 
 }
 
 void NCDocument::controlTextDidEndEditing(TextField& field) {
+  const OneStep step(*this);
   setLookUpRequired(&field == &gravidaField_ && isBlank());
   if (&field == &examDateField()) examDateWasTyped_ = true;
   if (&field == &referenceIDField() && isBlank()) {

@@ -34,7 +34,9 @@ bool CorvelDocument::commitEditing() {
 
 void CorvelDocument::noteWasLeft() {
   // The note has no field editor: what was typed waits in its view for the next synchronisation.
-  if (notesField_.wasEdited()) synchronizeToData();
+  if (!notesField_.wasEdited()) return;
+  const OneStep step(*this);
+  synchronizeToData();
 }
 
 void CorvelDocument::nextExamination() { showExamination(currentExam_ + 1); }
@@ -49,6 +51,7 @@ void CorvelDocument::showExamination(std::int64_t exam) {
 }
 
 void CorvelDocument::addExaminationAction() {
+  const OneStep step(*this);
   // The old examination's fields must reach it before the new one is the current one.
   synchronizeToData();
   addExamination();
@@ -77,6 +80,7 @@ void CorvelDocument::deleteExaminationAction() {
 }
 
 void CorvelDocument::removeExamination() {
+  const OneStep step(*this);
   // No synchronisation in between: the fields show an examination that is gone.
   deleteCurrentExamination();
   currentExam_ = std::min(currentExam_, numberOfExaminations() - 1);
@@ -95,6 +99,7 @@ void CorvelDocument::lookUp(const std::string& name, bool ask) {
 }
 
 void CorvelDocument::directUpdateDisplayAndSetDirty(bool dirty) {
+  const OneStep step(*this);
   synchronizeToData();
   updateDisplay();
   if (dirty) updateChangeCount(ChangeType::changeDone);

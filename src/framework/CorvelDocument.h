@@ -127,6 +127,20 @@ class CorvelDocument : public ZuDocument, public virtual GraphDocument, protecte
   /// The fields go to the model, everything is shown anew, and the document is edited.
   void directUpdateDisplayAndSetDirty(bool dirty);
 
+  /// All that happens while the outermost of these lives is one action of the user.
+  class OneStep {
+   public:
+    explicit OneStep(CorvelDocument& document) : document_(document) { ++document_.actions_; }
+    ~OneStep() {
+      if (--document_.actions_ == 0) document_.actionEnded();
+    }
+    OneStep(const OneStep&) = delete;
+    OneStep& operator=(const OneStep&) = delete;
+
+   private:
+    CorvelDocument& document_;
+  };
+
   /// @name What the subclass provides
   /// @{
 
@@ -155,6 +169,10 @@ class CorvelDocument : public ZuDocument, public virtual GraphDocument, protecte
   void changeWasDone() override { statusLine_.clear(); }
   void changesWereCleared() override { isMarkedByEdit_ = false; }
 
+  /// An action that may have changed the model has ended.
+  virtual void actionEnded() {}
+  /// Whether an action is going on.
+  bool isInStep() const { return actions_ > 0; }
   /// Another field, another text or none is in edit.
   virtual void editedTextChanged() {}
   /// Where typing goes on after something new was added: the first field of the examination on show that holds nothing yet;
@@ -204,6 +222,7 @@ class CorvelDocument : public ZuDocument, public virtual GraphDocument, protecte
   std::int64_t currentExam_ = 0;
   bool lookUpRequired_ = false;
   bool isOnPaper_ = false;
+  int actions_ = 0;              ///< those that are going on, one within the other
   bool isMarkedByEdit_ = false;  ///< whether the change count holds a change for the field in edit
   PrintInfo printInfo_;
   std::vector<foundation::Subscription> subscriptions_;

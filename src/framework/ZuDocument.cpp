@@ -62,6 +62,7 @@ std::optional<FileError> ZuDocument::readFromFile(const std::string& path) {
 void ZuDocument::takeRecovered(std::span<const std::byte> data, const std::string& path, bool isFileNewer) {
   loadDataRepresentation(data, "");
   docIsBlank_ = false;
+  isRecovered_ = true;
   setFilePath(path.empty() ? std::nullopt : std::optional(path));
   if (!filePath_) return;
   if (isFileNewer) {
@@ -97,6 +98,7 @@ void ZuDocument::updateChangeCount(ChangeType change) {
     case ChangeType::changeUndone: --changeCount_; break;
     case ChangeType::changeCleared:
       changeCount_ = 0;
+      isRecovered_ = false;
       changesWereCleared();
       break;
   }

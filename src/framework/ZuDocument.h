@@ -72,6 +72,8 @@ class ZuDocument {
   /// file holds now counts as read, unless `isFileNewer`: then it was changed by others. Throws as `loadDataRepresentation`
   /// does.
   void takeRecovered(std::span<const std::byte> data, const std::string& path, bool isFileNewer);
+  /// Whether the contents are those of `takeRecovered`, which no file holds yet.
+  bool isRecovered() const { return isRecovered_; }
   /// What the document's file held when this document read or wrote it last; nothing before.
   const std::optional<std::vector<std::byte>>& fileContents() const { return fileContents_; }
   /// Whether the document's file holds something else than when this document read or wrote it last. A file that is gone
@@ -115,6 +117,7 @@ class ZuDocument {
   std::optional<std::vector<std::byte>> fileContents_;  ///< as last read or written; nothing before
   std::int64_t changeCount_ = 0;
   bool docIsBlank_ = false;
+  bool isRecovered_ = false;
 };
 
 }  // namespace nascor::framework

@@ -49,6 +49,19 @@ void PatientRecord::deleteFetus(std::int64_t fetus) {
   for (const auto& examination : ncRecordsArray_) examination->deleteMeasurementsRecord(fetus);
 }
 
+PatientRecord PatientRecord::withoutExaminations() const {
+  PatientRecord record;
+  record.maternalIDString_ = maternalIDString_;
+  record.edd_ = edd_;
+  record.standard_ = standard_;
+  record.fetalWeightStandard_ = fetalWeightStandard_;
+  record.numberOfFetuses_ = numberOfFetuses_;
+  record.extrapolatedGestation_ = extrapolatedGestation_;
+  record.crlStandard_ = crlStandard_;
+  record.gravida_ = gravida_;
+  return record;
+}
+
 void PatientRecord::encodeWithCoder(Archiver& coder) const {
   coder.encodeString(maternalIDString_);
   coder.encodeString("Deprecated");  // the place of the gravidity in files before version 7

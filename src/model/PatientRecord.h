@@ -64,6 +64,8 @@ class PatientRecord {
   std::int64_t gravida() const { return gravida_; }
   void setGravida(std::int64_t gravida) { gravida_ = gravida; }
 
+  /// A copy of everything else.
+  PatientRecord withoutExaminations() const;
   /// Appends an examination dated now with `fetuses` records (one when fewer than two). Does not sort.
   void addNCRecordWithNumberOfFetuses(std::int64_t fetuses, const foundation::Clock& clock);
   /// Removes an examination; the caller keeps the last one. Throws RangeError.

@@ -160,6 +160,7 @@ void NCDocumentScripting::setLength(std::string_view name, Length store, const S
 void NCDocumentScripting::refreshAndMarkEdited() {
   document_.synchronizeFromData();
   document_.updateChangeCount(app::NCDocument::ChangeType::changeDone);
+  document_.scriptHasStored();
 }
 
 }  // namespace nascor::scripting

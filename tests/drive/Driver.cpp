@@ -127,6 +127,8 @@ Json comparisonJson(const NCDocument& document, const std::string& name) {
   return nullptr;
 }
 
+Json optionalJson(const std::optional<std::string>& text) { return text ? Json(*text) : Json(); }
+
 using Operation = std::function<Json(NCDocument&, Arguments&)>;
 
 template <class Action>
@@ -229,6 +231,10 @@ const std::map<std::string, Operation, std::less<>>& operations() {
        })},
       {"deleteFetus", act([](NCDocument& d, Arguments&) { d.deleteFetus(&d); })},
       {"updateMultiplePopUp", act([](NCDocument& d, Arguments&) { d.updateMultiplePopUp(); })},
+      {"undo", act([](NCDocument& d, Arguments&) { d.undo(); })},
+      {"redo", act([](NCDocument& d, Arguments&) { d.redo(); })},
+      {"undoName", [](NCDocument& d, Arguments&) { return optionalJson(d.undoName()); }},
+      {"redoName", [](NCDocument& d, Arguments&) { return optionalJson(d.redoName()); }},
       {"updateShowAll", act([](NCDocument& d, Arguments&) { d.updateShowAll(); })},
       {"addExaminationAction", act([](NCDocument& d, Arguments&) { d.addExaminationAction(); })},
       {"deleteExaminationAction", act([](NCDocument& d, Arguments&) { d.deleteExaminationAction(); })},

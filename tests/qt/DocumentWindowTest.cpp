@@ -364,6 +364,42 @@ TEST_F(TheDocumentWindow, undoesAndCopiesByItsMenu) {
   press(Qt::Key_Escape);
 }
 
+TEST_F(TheDocumentWindow, undoesWhatWasDoneToThePatient) {
+  open(twins());
+  answers = {"Remove"};
+  click("deleteFetusButton");
+  ASSERT_TRUE(QTest::qWaitFor([&] { return document().patientRecord()->numberOfFetuses() == 1; }));
+  EXPECT_EQ(action("undoAction").text(), QStringLiteral("&Undo Remove Fetus"));
+  EXPECT_EQ(action("redoAction").text(), QStringLiteral("&Redo"));
+  action("undoAction").trigger();
+  EXPECT_EQ(document().patientRecord()->numberOfFetuses(), 2);
+  EXPECT_EQ(widget<QComboBox>("multiplePopUp").count(), 2);
+  EXPECT_FALSE(front().isWindowModified());
+  EXPECT_EQ(action("undoAction").text(), QStringLiteral("&Undo"));
+  EXPECT_EQ(action("redoAction").text(), QStringLiteral("&Redo Remove Fetus"));
+  press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+  EXPECT_EQ(document().patientRecord()->numberOfFetuses(), 1);
+}
+
+// While a text is in edit the keys are its own; once it is left they are the patient's, wherever the focus is.
+TEST_F(TheDocumentWindow, undoesTypingFirst) {
+  open(singleton());
+  enter("bpdField", "50");
+  for (const char* name : {"bpdField", "notesField"}) {
+    SCOPED_TRACE(name);
+    type(name, "7");
+    press(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(document().bpdField().doubleValue(), 50.0) << "the typing was undone, and no more";
+    widget<QTabWidget>("tabView").setFocus();
+    settle();
+    widget<QWidget>(name).setFocus();
+    press(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(field("bpdField"), "82.0");
+    press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(field("bpdField"), "50.0");
+  }
+}
+
 TEST_F(TheDocumentWindow, isReachedWholeByTheTabKey) {
   open(twins());
   click("addExaminationButton");  // between the two, so that nothing is disabled

@@ -295,13 +295,19 @@ void DocumentWindow::bindFileActions() {
 }
 
 void DocumentWindow::bindEditActions() {
-  new EditMenu(*this, *ui_->editMenu,
-               {.undo = *ui_->undoAction,
-                .redo = *ui_->redoAction,
-                .cut = *ui_->cutAction,
-                .copy = *ui_->copyAction,
-                .paste = *ui_->pasteAction,
-                .selectAll = *ui_->selectAllAction});
+  const auto nameOf = [this](auto name) { return document_ ? (document_->*name)() : std::nullopt; };
+  auto* menu = new EditMenu(*this, *ui_->editMenu,
+                            {.undo = *ui_->undoAction,
+                             .redo = *ui_->redoAction,
+                             .cut = *ui_->cutAction,
+                             .copy = *ui_->copyAction,
+                             .paste = *ui_->pasteAction,
+                             .selectAll = *ui_->selectAllAction},
+                            {.name = [nameOf] { return nameOf(&NCDocument::undoName); },
+                             .go = [this] { perform([](NCDocument& document) { document.undo(); }); }},
+                            {.name = [nameOf] { return nameOf(&NCDocument::redoName); },
+                             .go = [this] { perform([](NCDocument& document) { document.redo(); }); }});
+  subscriptions_.push_back(document_->onHistoryChanged.subscribe([menu] { menu->showSteps(); }));
   connect(ui_->copyReportAction, &QAction::triggered, this, [this] {
     perform([](NCDocument& document) {
       auto* table = new QMimeData;

@@ -5,6 +5,10 @@
 #include <QLineEdit>
 #include <QMimeData>
 #include <QPlainTextEdit>
+#include <utility>
+
+#include "base/Text.h"
+#include "window/NoteEdit.h"
 
 namespace nascor::qt {
 namespace {
@@ -22,6 +26,13 @@ struct Possible {
 bool clipboardHasText() {
   const QMimeData* data = QGuiApplication::clipboard()->mimeData();
   return data != nullptr && data->hasText() && !data->text().isEmpty();
+}
+
+/// Whether the user is typing in `focus`, which then undoes by itself.
+bool isInEdit(const QWidget* focus) {
+  const auto* line = qobject_cast<const QLineEdit*>(focus);
+  const auto* note = dynamic_cast<const NoteEdit*>(focus);
+  return (line != nullptr && line->isModified()) || (note != nullptr && note->isInEdit());
 }
 
 Possible possibleIn(const QWidget* focus) {
@@ -56,14 +67,24 @@ void editText(QWidget* focus, LineAction line, NoteAction note) {
 
 }  // namespace
 
-EditMenu::EditMenu(QWidget& window, QMenu& menu, Items items)
-    : QObject(&window), window_(window), items_(items) {
+EditMenu::EditMenu(QWidget& window, QMenu& menu, Items items, Step undo, Step redo)
+    : QObject(&window), window_(window), items_(items), undo_(std::move(undo)), redo_(std::move(redo)) {
   const auto bind = [this](QAction& item, auto line, auto note) {
     connect(&item, &QAction::triggered, this,
             [this, line, note] { editText(window_.focusWidget(), line, note); });
   };
-  bind(items_.undo, &QLineEdit::undo, &QPlainTextEdit::undo);
-  bind(items_.redo, &QLineEdit::redo, &QPlainTextEdit::redo);
+  const auto bindStep = [this](QAction& item, const Step& step, auto line, auto note) {
+    connect(&item, &QAction::triggered, this, [this, &step, line, note] {
+      QWidget* focus = window_.focusWidget();
+      if (isInEdit(focus)) {
+        editText(focus, line, note);
+      } else {
+        step.go();
+      }
+    });
+  };
+  bindStep(items_.undo, undo_, &QLineEdit::undo, &QPlainTextEdit::undo);
+  bindStep(items_.redo, redo_, &QLineEdit::redo, &QPlainTextEdit::redo);
   bind(items_.cut, &QLineEdit::cut, &QPlainTextEdit::cut);
   bind(items_.copy, &QLineEdit::copy, &QPlainTextEdit::copy);
   bind(items_.paste, &QLineEdit::paste, &QPlainTextEdit::paste);
@@ -77,10 +98,21 @@ EditMenu::EditMenu(QWidget& window, QMenu& menu, Items items)
   });
 }
 
+void EditMenu::showSteps() {
+  const auto show = [this](QAction& item, const QString& word, const Step& step) {
+    const auto name = isInEdit(window_.focusWidget()) ? std::nullopt : step.name();
+    item.setText(name ? word + u' ' + fromUtf8(*name) : word);
+  };
+  show(items_.undo, said("MyDocument", "&Undo"), undo_);
+  show(items_.redo, said("MyDocument", "&Redo"), redo_);
+}
+
 void EditMenu::validate() {
-  const Possible possible = possibleIn(window_.focusWidget());
-  items_.undo.setEnabled(possible.undo);
-  items_.redo.setEnabled(possible.redo);
+  showSteps();
+  const QWidget* focus = window_.focusWidget();
+  const Possible possible = possibleIn(focus);
+  items_.undo.setEnabled(isInEdit(focus) ? possible.undo : undo_.name().has_value());
+  items_.redo.setEnabled(isInEdit(focus) ? possible.redo : redo_.name().has_value());
   items_.cut.setEnabled(possible.cut);
   items_.copy.setEnabled(possible.copy);
   items_.paste.setEnabled(possible.paste);

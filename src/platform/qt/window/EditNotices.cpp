@@ -1,5 +1,6 @@
 #include "window/EditNotices.h"
 
+#include <QKeySequence>
 #include <QToolTip>
 
 #include "base/Text.h"
@@ -16,6 +17,10 @@ void sayAt(QWidget& edit, const QString& sentence) {
 bool putsText(const QKeyEvent& event) {
   return !event.text().isEmpty() && event.text().front().isPrint() &&
          !(event.modifiers() & (Qt::ControlModifier | Qt::MetaModifier));
+}
+
+bool isUndoOrRedo(const QKeyEvent& event) {
+  return event.matches(QKeySequence::Undo) || event.matches(QKeySequence::Redo);
 }
 
 void sayThatItIsFull(QWidget& edit) { sayAt(edit, said("FieldBinding", "No more text fits here.")); }

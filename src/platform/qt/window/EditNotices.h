@@ -9,6 +9,8 @@ namespace nascor::qt {
 /// Whether `event` is a key that puts a character into an edit. The Return key is none.
 bool putsText(const QKeyEvent& event);
 
+bool isUndoOrRedo(const QKeyEvent& event);
+
 /// Says at `edit` that no more fits into it.
 void sayThatItIsFull(QWidget& edit);
 

@@ -85,6 +85,7 @@ void FieldBinding::refresh() {
   if (!field_ || isBeginning_) return;
   show(edit_, isInEdit() ? editor_.text() : field_->text());
   edit_.setRefusing(isInEdit() && editor_.isRefusing());
+  edit_.setModified(isInEdit());
   showEditable();
   showColor(edit_, *field_, isStale());
   if (std::exchange(wasStale_, isStale()) != isStale()) edit_.setAccessibleDescription(description());

@@ -89,6 +89,11 @@ bool FieldEdit::event(QEvent* event) {
   const auto* key = dynamic_cast<const QKeyEvent*>(event);
   if (event->type() == QEvent::ShortcutOverride && key != nullptr && key->key() == Qt::Key_Escape)
     event->accept();
+  // Undo and Redo are the field's own only while the user types in it.
+  if (event->type() == QEvent::ShortcutOverride && key != nullptr && isUndoOrRedo(*key) && !isModified()) {
+    event->ignore();
+    return true;
+  }
   if (event->type() == QEvent::ToolTip && isShownInPart_) {
     sayThatItShowsAPart(*this);
     return true;

@@ -1,10 +1,12 @@
 #pragma once
 
 #include <QEvent>
+#include <QKeyEvent>
 #include <QPainter>
 #include <QPlainTextEdit>
 
 #include "foundation/Signal.h"
+#include "window/EditNotices.h"
 
 namespace nascor::qt {
 
@@ -17,10 +19,19 @@ class NoteEdit final : public QPlainTextEdit {
   /// Says, in place of the usual tool tip and whenever something is typed, that only a part of the text is shown.
   void setShownInPart(bool isShownInPart);
 
+  /// Whether the user types in it, and Undo and Redo are its own.
+  bool isInEdit() const { return isInEdit_; }
+  void setInEdit(bool isInEdit) { isInEdit_ = isInEdit; }
+
   foundation::Signal<> onLeave;  ///< the focus went elsewhere, to another window too
 
  protected:
   bool event(QEvent* event) override {
+    const auto* key = dynamic_cast<const QKeyEvent*>(event);
+    if (event->type() == QEvent::ShortcutOverride && key != nullptr && isUndoOrRedo(*key) && !isInEdit_) {
+      event->ignore();
+      return true;
+    }
     const bool isDone = QPlainTextEdit::event(event);
     // Many styles draw the frame of a text of several lines alike with and without the focus.
     if (event->type() == QEvent::Paint && hasFocus()) {
@@ -49,6 +60,7 @@ class NoteEdit final : public QPlainTextEdit {
   qsizetype room() const;
 
   bool isShownInPart_ = false;
+  bool isInEdit_ = false;
   QString usualToolTip_;
 };
 

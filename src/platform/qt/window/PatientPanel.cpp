@@ -86,6 +86,7 @@ void PatientPanel::bindNote() {
     if (noteEdit->toPlainText() == text) return;
     const QSignalBlocker quiet(noteEdit);
     noteEdit->setPlainText(text);
+    noteEdit->setInEdit(false);
   }));
   // Not at once: an action that moved the focus has its own order of storing and showing.
   subscriptions_.push_back(noteEdit->onLeave.subscribe([this] {
@@ -93,13 +94,17 @@ void PatientPanel::bindNote() {
         this,
         [this] {
           actions_.performInTurn([self = QPointer<PatientPanel>(this)] {
-            if (self && self->document_) self->document_->noteWasLeft();
+            if (!self || !self->document_) return;
+            self->document_->noteWasLeft();
+            self->ui_.notesField->setInEdit(false);
           });
         },
         Qt::QueuedConnection);
   }));
   connect(noteEdit, &QPlainTextEdit::textChanged, this, [this] {
-    if (document_) document_->notesField().takeEditedText(toUtf8(ui_.notesField->toPlainText()));
+    if (!document_) return;
+    ui_.notesField->setInEdit(true);
+    document_->notesField().takeEditedText(toUtf8(ui_.notesField->toPlainText()));
   });
 }
 

@@ -34,15 +34,13 @@ bool TypedAhead::eventFilter(QObject* watched, QEvent* event) {
 }
 
 bool TypedAhead::keeps(const QKeyEvent& key) {
-  const std::chrono::milliseconds elapsed(sinceLastKey_.elapsed());
-  if (elapsed >= pause_) return false;
+  if (std::chrono::milliseconds(sinceLastKey_.elapsed()) >= pause_) return false;
   constexpr Qt::KeyboardModifiers kOfText = Qt::ShiftModifier | Qt::KeypadModifier;
   const bool isText =
       (key.modifiers() & ~kOfText) == Qt::NoModifier && !key.text().isEmpty() && key.text().front().isPrint();
   const bool isReturn = key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
-  // Nothing was typed on, and there was time to look: Return answers the question.
-  constexpr std::chrono::milliseconds kLook(250);
-  if (isReturn && text_.isEmpty() && elapsed >= kLook) return false;
+  // Nothing was typed on: it answers the question.
+  if (isReturn && text_.isEmpty()) return false;
   if (!isText && !isReturn) return false;
   if (isText) text_ += key.text();
   sinceLastKey_.start();
