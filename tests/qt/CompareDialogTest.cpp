@@ -190,6 +190,20 @@ TEST_F(CompareDialog, printsAllTables) {
     EXPECT_THAT(text, HasSubstr(part));
 }
 
+TEST_F(CompareDialog, isReadableWhereThePaletteHasNoColourForEveryOtherRow) {
+  QTableView& view = table("compare-lengths");
+  QPalette dark = view.palette();
+  dark.setColor(QPalette::Base, QColor(27, 30, 32));
+  dark.setColor(QPalette::Text, Qt::white);
+  dark.setColor(QPalette::AlternateBase, Qt::white);
+  view.setPalette(dark);
+  action("previousAction").trigger();
+  settle();
+  const QColor row = view.palette().color(QPalette::AlternateBase);
+  EXPECT_NE(row, view.palette().color(QPalette::Base));
+  EXPECT_LT(row.lightness(), 64) << row.name().toStdString();
+}
+
 TEST_F(CompareDialog, hasRoomForEveryFigure) {
   for (const QTableView* view : dialog().findChildren<QTableView*>()) {
     for (int column = 0; column + 1 < view->model()->columnCount(); ++column)

@@ -12,6 +12,7 @@
 #include <QMimeData>
 #include <QPrintDialog>
 #include <QPrinter>
+#include <QProxyStyle>
 #include <QPushButton>
 #include <QShortcut>
 #include <QSortFilterProxyModel>
@@ -37,14 +38,33 @@ constexpr int kNumberRole = Qt::UserRole;
 
 /// Widens each column, where it must, so that nothing in it is cut. What the user has widened stays.
 void makeRoom(QTableView& view) {
-  const int gap = view.fontMetrics().averageCharWidth() * 2;
   QHeaderView& header = *view.horizontalHeader();
   for (int column = 0; column < header.count(); ++column) {
     const int wanted = std::max(header.sectionSizeHint(column),
-                                static_cast<QAbstractItemView&>(view).sizeHintForColumn(column)) +
-                       gap;
+                                static_cast<QAbstractItemView&>(view).sizeHintForColumn(column));
     if (header.sectionSize(column) < wanted) header.resizeSection(column, wanted);
   }
+}
+
+/// Keeps numbers at the right of a column apart from texts at the left of the next.
+class RoomyCells final : public QProxyStyle {
+ public:
+  int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override {
+    const int usual = QProxyStyle::pixelMetric(metric, option, widget);
+    return metric == PM_FocusFrameHMargin || metric == PM_HeaderMargin ? usual + 4 : usual;
+  }
+};
+
+/// Every other row stands out a little, also on palettes that have no colour for it or that of another one.
+void tellRowsApart(QTableView& view) {
+  QPalette palette = view.palette();
+  const QColor base = palette.color(QPalette::Base);
+  const QColor text = palette.color(QPalette::Text);
+  const auto mixed = [](int one, int other) { return (15 * one + other) / 16; };
+  palette.setColor(QPalette::AlternateBase,
+                   QColor(mixed(base.red(), text.red()), mixed(base.green(), text.green()),
+                          mixed(base.blue(), text.blue())));
+  view.setPalette(palette);
 }
 
 }  // namespace
@@ -143,7 +163,7 @@ CompareDialog::CompareDialog(CompareEnvironment environment, QWidget* parent)
   layout->addWidget(tabs_);
   layout->addWidget(buttons);
   const QFontMetrics metrics = fontMetrics();
-  resize(metrics.averageCharWidth() * 130, metrics.lineSpacing() * 42);
+  resize(metrics.averageCharWidth() * 140, metrics.lineSpacing() * 42);
 }
 
 void CompareDialog::addPage(const Table& table) {
@@ -160,6 +180,10 @@ void CompareDialog::addPage(const Table& table) {
   view->setEditTriggers(QAbstractItemView::NoEditTriggers);
   view->setAlternatingRowColors(true);
   view->setShowGrid(false);
+  auto* roomy = new RoomyCells;
+  roomy->setParent(view);
+  view->setStyle(roomy);
+  view->horizontalHeader()->setStyle(roomy);
   view->setWordWrap(false);
   view->setTabKeyNavigation(false);
   view->verticalHeader()->hide();
@@ -187,6 +211,7 @@ void CompareDialog::refresh() {
   for (std::size_t i = 0; i < shown.tables.size(); ++i) {
     if (i == pages_.size()) addPage(shown.tables[i]);
     pages_[i].model->setTable(std::move(shown.tables[i]));
+    tellRowsApart(*pages_[i].view);
     makeRoom(*pages_[i].view);
   }
 }
