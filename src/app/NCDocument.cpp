@@ -1,5 +1,6 @@
 #include "app/NCDocument.h"
 
+#include <algorithm>
 #include <limits>
 #include <stdexcept>
 #include <utility>
@@ -19,46 +20,29 @@ NCDocument::NCDocument(const framework::DocumentEnvironment& environment)
       hcField_("hcField", 1, services().localizer, this),
       acField_("acField", 1, services().localizer, this),
       flField_("flField", 1, services().localizer, this),
-      crlWindowCRL_("crlWindowCRL", 1, services().localizer),
-      adjustDeliveryStepper_(-280.0, 7.0, 1.0),
       pages_(services(), *this) {
-  textFields_ = {&referenceIDField(),
-                 &gravidaField_,
-                 &birthDateField(),
-                 &examDateField(),
-                 &ageField(),
-                 &bpdField_,
-                 &hcField_,
-                 &acField_,
-                 &flField_,
-                 &headerSummaryField_,
-                 &headerBPDField_,
-                 &headerHCField_,
-                 &headerACField_,
-                 &headerFLField_,
-                 &headerEFWField_,
-                 &crlWindowDate_,
-                 &crlWindowCRL_,
-                 &crlStandardReference_,
-                 &lmpWindowLMP_,
-                 &lmpWindowCycleField_,
-                 &lmpWindowLutealField_,
-                 &measurementsWindowBPDGestation_,
-                 &measurementsWindowHCGestation_,
-                 &measurementsWindowACGestation_,
-                 &measurementsWindowFLGestation_,
-                 &measurementsWindowAvGestation_,
-                 &adjustEDDField_,
-                 &adjustDeliverOnField_,
-                 &adjustDeliverAtField_};
-  // The usual cycle, to be typed over.
-  lmpWindowCycleField_.setIntegerValue(28);
-  lmpWindowLutealField_.setIntegerValue(14);
+  textFields_ = {&referenceIDField(), &gravidaField_, &birthDateField(), &examDateField(), &ageField(),
+                 &bpdField_,          &hcField_,      &acField_,         &flField_};
+  for (framework::TextField& header : headers_) textFields_.push_back(&header);
+  for (DatingPanel* each : datingPanels_) {
+    panels_.push_back(&each->panel());
+    textFields_.insert(textFields_.end(), each->fields().begin(), each->fields().end());
+  }
 
   for (framework::Page& page : pages_.pages()) tabView().addPage(page);
 }
 
 NCDocument::~NCDocument() = default;
+
+framework::TextField* NCDocument::fieldNamed(std::string_view name) const {
+  const auto found = std::ranges::find(textFields_, name, &framework::TextField::name);
+  return found != textFields_.end() ? *found : nullptr;
+}
+
+framework::Panel* NCDocument::panelNamed(std::string_view name) const {
+  const auto found = std::ranges::find(panels_, name, &framework::Panel::name);
+  return found != panels_.end() ? *found : nullptr;
+}
 
 std::vector<std::byte> NCDocument::dataRepresentationOfType(std::string_view) const {
   if (!patientRecord_) return {};
@@ -92,14 +76,15 @@ bool NCDocument::takesTypedText(framework::TextField& field) {
 }
 
 void NCDocument::storeTyped(model::PatientRecord& patient, model::NCRecord* exam) {
-  const std::string identifier = typedText(referenceIDField());
+  const std::string identifier = reader_.text(referenceIDField(), Reading::typed);
   // A file may lack a text, which is shown as an empty one.
   if (identifier != patient.maternalIDString().value_or("")) patient.setMaternalIDString(identifier);
-  if (takesTypedText(gravidaField_)) patient.setGravida(typedInteger(gravidaField_).value_or(0));
+  if (takesTypedText(gravidaField_))
+    patient.setGravida(reader_.integer(gravidaField_, Reading::typed).value_or(0));
   // What is no date yet, or none any more, leaves the date that is known.
   const auto typedDate = [this](const framework::TextField& field) {
     const bool isTyped = field.wasEdited() || fieldEditor().field() == &field;
-    return isTyped ? dateFromTypedText(field) : std::nullopt;
+    return isTyped ? reader_.date(field, Reading::typed) : std::nullopt;
   };
   if (const auto edd = typedDate(birthDateField())) patient.setEDD(edd);
   if (!exam) return;
@@ -111,7 +96,8 @@ void NCDocument::storeTyped(model::PatientRecord& patient, model::NCRecord* exam
   for (const calc::Measurement measurement : calc::kMeasurements) {
     framework::NumberField& field = fieldFor(measurement);
     const bool isStale = field.isStale() && fieldEditor().field() != &field;
-    if (!isStale && takesTypedText(field)) lengths.*calc::memberFor(measurement) = typedNumber(field);
+    if (!isStale && takesTypedText(field))
+      lengths.*calc::memberFor(measurement) = reader_.number(field, Reading::typed);
   }
   *measured = model::MeasurementsRecord(lengths);
 }
@@ -193,16 +179,20 @@ model::MeasurementsRecord* NCDocument::currentMeasurements() {
 }
 
 double NCDocument::extrapolatedBPDForCurrentFetus() {
-  return projected(&model::MeasurementsRecord::bpd, &model::MeasurementsRecord::setBPD, *pages_.bpdGraph());
+  return projected(&model::MeasurementsRecord::bpd, &model::MeasurementsRecord::setBPD,
+                   pages_.graph(calc::Measurement::bpd));
 }
 double NCDocument::extrapolatedHCForCurrentFetus() {
-  return projected(&model::MeasurementsRecord::hc, &model::MeasurementsRecord::setHC, *pages_.hcGraph());
+  return projected(&model::MeasurementsRecord::hc, &model::MeasurementsRecord::setHC,
+                   pages_.graph(calc::Measurement::hc));
 }
 double NCDocument::extrapolatedACForCurrentFetus() {
-  return projected(&model::MeasurementsRecord::ac, &model::MeasurementsRecord::setAC, *pages_.acGraph());
+  return projected(&model::MeasurementsRecord::ac, &model::MeasurementsRecord::setAC,
+                   pages_.graph(calc::Measurement::ac));
 }
 double NCDocument::extrapolatedFLForCurrentFetus() {
-  return projected(&model::MeasurementsRecord::fl, &model::MeasurementsRecord::setFL, *pages_.flGraph());
+  return projected(&model::MeasurementsRecord::fl, &model::MeasurementsRecord::setFL,
+                   pages_.graph(calc::Measurement::fl));
 }
 
 double NCDocument::projected(double (model::MeasurementsRecord::*value)() const,

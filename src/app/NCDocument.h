@@ -12,10 +12,11 @@
 #include <vector>
 
 #include "app/Assessment.h"
+#include "app/DatingPanels.h"
+#include "app/FieldReader.h"
 #include "app/PatientHistory.h"
 #include "app/PatientPages.h"
 #include "calc/Biometry.h"
-#include "calc/Plausibility.h"
 #include "charts/ChartDocument.h"
 #include "compare/Tables.h"
 #include "foundation/NotificationCenter.h"
@@ -89,13 +90,20 @@ class NCDocument final : public framework::CorvelDocument,
   framework::PopUpButton& multiplePopUp() { return multiplePopUp_; }
   const framework::PopUpButton& multiplePopUp() const override { return multiplePopUp_; }
 
-  /// Every text field of the window and its dialogs that bears a name, the note apart.
+  /// Every text field of the window and its panels that bears a name, the note apart.
   std::span<framework::TextField* const> textFields() const { return textFields_; }
-  std::span<framework::CheckBox* const> checkBoxes() const { return checkBoxes_; }
   std::span<framework::Panel* const> panels() const { return panels_; }
+  /// Null for a name that no field of `textFields` bears.
+  framework::TextField* fieldNamed(std::string_view name) const;
+  /// Null for a name that no panel bears.
+  framework::Panel* panelNamed(std::string_view name) const;
   /// What stands beside the fields.
   Assessment& assessment() { return assessment_; }
-  framework::Stepper& adjustDeliveryStepper() { return adjustDeliveryStepper_; }
+  CRLPanel& crlPanel() { return crlPanel_; }
+  LastPeriodPanel& lastPeriodPanel() { return lastPeriodPanel_; }
+  MeasurementsPanel& measurementsPanel() { return measurementsPanel_; }
+  DeliveryPanel& deliveryPanel() { return deliveryPanel_; }
+  framework::Stepper& adjustDeliveryStepper() { return deliveryPanel_.stepper; }
 
   void synchronizeFromData() override;
   void synchronizeToData() override;
@@ -148,41 +156,33 @@ class NCDocument final : public framework::CorvelDocument,
   void updateShowAll();
 
   /// @}
-  /// @name Dating dialogs (NCDocumentDatingDialogs.cpp)
+  /// @name Dating panels (DatingPanels.h)
   ///
   /// Each opens in front of the window and stays open beside it. Its OK enters the EDD into the window's field, closes the
-  /// dialog, stores and draws everything and plans the delivery anew; where no EDD comes of it, nothing happens.
+  /// panel, stores and draws everything and plans the delivery anew; where no EDD comes of it, nothing happens.
   /// @{
-
-  /// What a dialog would enter as the EDD.
-  struct ProposedEDD {
-    std::string text;                                    ///< empty when there is none
-    std::vector<const framework::TextField*> obstacles;  ///< then, what stands in its way
-  };
 
   // Selector: doSetEDDfromCRL:
   void doSetEDDfromCRL(Sender sender);
   // Selector: okSetEDDfromCRL:
   void okSetEDDfromCRL(Sender sender);
-  ProposedEDD eddFromCRL() const;
+  ProposedEDD eddFromCRL(Reading reading = Reading::held) const;
 
   // Selector: doSetEDDfromLMP:
   void doSetEDDfromLMP(Sender sender);
   // Selector: okSetEDDfromLMP:
   void okSetEDDfromLMP(Sender sender);
-  ProposedEDD eddFromLMP() const;
+  ProposedEDD eddFromLMP(Reading reading = Reading::held) const;
 
   // Selector: doSetEDDfromMeasurements:
   void doSetEDDfromMeasurements(Sender sender);
   // Selector: updateEDDfromMeasurements:
-  /// Dates the lengths that the window shows, each by the mean of its chart, and averages those whose box is checked. What
-  /// lies more than two standard deviations from the mean at the average turns red, checked or not.
+  /// Dates the lengths that the window shows.
   void updateEDDfromMeasurements(Sender sender);
   // Selector: okSetEDDfromMeasurements:
   void okSetEDDfromMeasurements(Sender sender);
   ProposedEDD eddFromMeasurements() const;
-  /// The average, in weeks, as `updateEDDfromMeasurements` last found it; 0.0 with no box checked.
-  double avGestation() const { return avGestation_; }
+  double avGestation() const { return measurementsPanel_.averageGestation(); }
 
   // Selector: checkOverwriteEDD:
   /// Asks, on `window`, whether an established EDD is to be modified; without one nothing happens.
@@ -287,46 +287,31 @@ class NCDocument final : public framework::CorvelDocument,
   /// @name Charts
   /// @{
 
-  charts::NascorGraphView* BPDGraph() const override { return pages_.bpdGraph(); }
-  charts::NascorGraphView* HCGraph() const override { return pages_.hcGraph(); }
-  charts::NascorGraphView* ACGraph() const override { return pages_.acGraph(); }
-  charts::NascorGraphView* FLGraph() const override { return pages_.flGraph(); }
+  charts::NascorGraphView* BPDGraph() const override { return &pages_.graph(calc::Measurement::bpd); }
+  charts::NascorGraphView* HCGraph() const override { return &pages_.graph(calc::Measurement::hc); }
+  charts::NascorGraphView* ACGraph() const override { return &pages_.graph(calc::Measurement::ac); }
+  charts::NascorGraphView* FLGraph() const override { return &pages_.graph(calc::Measurement::fl); }
   charts::NascorGraphView& EFWGraph() const { return pages_.efwGraph(); }
   charts::NascorDataView& report() const { return pages_.report(); }
 
   /// @}
 
  private:
-  /// Where a number or date is taken from: what a field holds, or what the user types in it just now.
-  enum class Reading { held, typed };
-  ProposedEDD eddFromCRL(Reading reading) const;
-  ProposedEDD eddFromLMP(Reading reading) const;
   std::string lmpProposalText() const;
   /// Says everything in `assessment` anew.
   void assess();
   void assessDialogs();
   void editedTextChanged() override { assess(); }
-  std::string typedText(const framework::TextField& field) const;
   /// Whether `field` would take what the user types in it just now; true for a field that is not in edit.
   bool takesTypedText(framework::TextField& field);
   /// Puts what the fields show, and what the user types, into the patient and the examination on show.
   void storeTyped(model::PatientRecord& patient, model::NCRecord* exam);
-  /// NaN while the text is no number.
-  double typedNumber(const framework::NumberField& field) const;
-  /// Nothing while the text is no whole number.
-  std::optional<std::int64_t> typedInteger(const framework::IntegerField& field) const;
-  std::optional<foundation::Date> dateFromTypedText(const framework::TextField& field) const;
   calc::Biometry typedLengths();
   /// Those with NaN for what a field would refuse.
   calc::Biometry acceptableLengths();
-  std::string improbableText(calc::Improbable what, calc::Measurement measurement) const;
-  /// Empty for an age within the weeks of `table`.
-  std::string beyondTableText(const calc::ReferenceTable& table, double age) const;
   std::string examinationText() const;
   std::string proposalText(const ProposedEDD& proposal) const;
-  std::string differenceText(std::int64_t days) const;
   std::string obstacleText(const framework::TextField& obstacle) const;
-  const charts::NascorGraphView& graphFor(calc::Measurement measurement) const;
   framework::TextField* firstEmptyField() override;
 
   void actionEnded() override;
@@ -338,8 +323,6 @@ class NCDocument final : public framework::CorvelDocument,
   void prefer(std::string_view key, std::int64_t value);
   /// Shows the patient, whose examination and fetus are chosen, in all that shows her.
   void showPatient();
-  /// Gives the stepper `days` from the EDD, and room for them.
-  void setPlannedDays(double days);
 
   bool controlTextShouldBeginEditing(framework::TextField& field) override;
   bool controlTextShouldEndEditing(framework::TextField& field, std::string_view text) override;
@@ -365,17 +348,12 @@ class NCDocument final : public framework::CorvelDocument,
   /// Makes fields without a record read-only: a file may lack the examination, or the record of a fetus.
   void showWhatTakesTyping();
   model::MeasurementsRecord* currentMeasurements();
-  std::string shortDateText(const std::optional<foundation::Date>& date) const;
   /// The day with its month in words.
   std::string longDateText(const foundation::Date& date) const;
-  std::optional<foundation::Date> dateFromText(const framework::TextField& field) const;
-  /// `date` as what is entered; nothing, because of `obstacles`, when it has no text that reads back to the same day.
-  ProposedEDD proposed(const std::optional<foundation::Date>& date,
-                       std::vector<const framework::TextField*> obstacles) const;
   /// Whether the user has typed something into a date field of the window that is no date, and so erases it.
   bool erasesDate(const framework::TextField& field) const;
   void enterEDD(const ProposedEDD& proposal, framework::Panel& window);
-  /// The dialog of the measurements shows what the window shows, as long as it is open.
+  /// The panel of the measurements shows what the window shows, as long as it is open.
   void refreshEDDfromMeasurements();
   /// Gives the dates that the user or a dialog has set to the records, and with them all dates of the document their days,
   /// so that no age is between a day and a moment. Dates that were not set keep the moment of their file.
@@ -388,7 +366,6 @@ class NCDocument final : public framework::CorvelDocument,
   std::unique_ptr<model::PatientRecord> patientRecord_;
   model::MeasurementsRecord extrapolatedMeasurementsRecord_;
   std::int64_t currentFetus_ = 0;
-  double avGestation_ = 0.0;
   /// Read back as the day it already was, or another: the records do not tell that it was typed.
   bool examDateWasTyped_ = false;
   /// The examination of a new patient is dated so, and is brought to its day when the fields are first taken.
@@ -408,47 +385,21 @@ class NCDocument final : public framework::CorvelDocument,
   framework::NumberField acField_;
   framework::NumberField flField_;
   framework::PopUpButton multiplePopUp_;
-  framework::TextField headerSummaryField_{"headerSummaryField"};
-  framework::TextField headerBPDField_{"headerBPDField"};
-  framework::TextField headerHCField_{"headerHCField"};
-  framework::TextField headerACField_{"headerACField"};
-  framework::TextField headerFLField_{"headerFLField"};
-  framework::TextField headerEFWField_{"headerEFWField"};
-
   /// The title lines of the pages, in their order; the report, the last page, has none.
-  const std::array<framework::TextField*, 6> headers_{&headerSummaryField_, &headerBPDField_,
-                                                      &headerHCField_,      &headerACField_,
-                                                      &headerFLField_,      &headerEFWField_};
-
-  framework::Panel crlWindow_{"crlWindow"};
-  framework::TextField crlWindowDate_{"crlWindowDate"};
-  framework::NumberField crlWindowCRL_;
-  framework::TextField crlStandardReference_{"crlStandardReference"};
-  framework::Panel lmpWindow_{"lmpWindow"};
-  framework::TextField lmpWindowLMP_{"lmpWindowLMP"};
-  framework::IntegerField lmpWindowCycleField_{"lmpWindowCycleField"};
-  framework::IntegerField lmpWindowLutealField_{"lmpWindowLutealField"};
-  framework::Panel measurementsWindow_{"measurementsWindow"};
-  framework::CheckBox measurementsWindowBPDCheck_{"measurementsWindowBPDCheck", true};
-  framework::TextField measurementsWindowBPDGestation_{"measurementsWindowBPDGestation"};
-  framework::CheckBox measurementsWindowHCCheck_{"measurementsWindowHCCheck", true};
-  framework::TextField measurementsWindowHCGestation_{"measurementsWindowHCGestation"};
-  framework::CheckBox measurementsWindowACCheck_{"measurementsWindowACCheck", true};
-  framework::TextField measurementsWindowACGestation_{"measurementsWindowACGestation"};
-  framework::CheckBox measurementsWindowFLCheck_{"measurementsWindowFLCheck", true};
-  framework::TextField measurementsWindowFLGestation_{"measurementsWindowFLGestation"};
-  framework::TextField measurementsWindowAvGestation_{"measurementsWindowAvGestation"};
-  framework::Panel adjustDeliveryPanel_{"adjustDeliveryPanel"};
-  framework::Stepper adjustDeliveryStepper_;
-  framework::TextField adjustEDDField_{"adjustEDDField"};
-  framework::TextField adjustDeliverOnField_{"adjustDeliverOnField"};
-  framework::TextField adjustDeliverAtField_{"adjustDeliverAtField"};
+  std::array<framework::TextField, 6> headers_{
+      framework::TextField("headerSummaryField"), framework::TextField("headerBPDField"),
+      framework::TextField("headerHCField"),      framework::TextField("headerACField"),
+      framework::TextField("headerFLField"),      framework::TextField("headerEFWField")};
+  const FieldReader reader_{services(), fieldEditor()};
+  CRLPanel crlPanel_{reader_};
+  LastPeriodPanel lastPeriodPanel_{reader_};
+  MeasurementsPanel measurementsPanel_{reader_};
+  DeliveryPanel deliveryPanel_{reader_};
+  const std::array<DatingPanel*, 4> datingPanels_{&crlPanel_, &lastPeriodPanel_, &measurementsPanel_,
+                                                  &deliveryPanel_};
   Assessment assessment_;
   std::vector<framework::TextField*> textFields_;
-  std::array<framework::CheckBox*, 4> checkBoxes_{&measurementsWindowBPDCheck_, &measurementsWindowHCCheck_,
-                                                  &measurementsWindowACCheck_, &measurementsWindowFLCheck_};
-  std::array<framework::Panel*, 4> panels_{&crlWindow_, &lmpWindow_, &measurementsWindow_,
-                                           &adjustDeliveryPanel_};
+  std::vector<framework::Panel*> panels_;
 
   PatientPages pages_;
 };

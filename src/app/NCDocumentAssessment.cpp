@@ -46,43 +46,7 @@ void show(TextField& field, const std::string& text) {
   if (field.text() != text) field.setText(text);
 }
 
-}  // namespace
-
-std::string NCDocument::typedText(const TextField& field) const {
-  return fieldEditor().field() == &field ? fieldEditor().text() : field.text();
-}
-
-double NCDocument::typedNumber(const framework::NumberField& field) const {
-  if (fieldEditor().field() != &field) return field.doubleValue();
-  return foundation::numberFromFieldText(fieldEditor().text()).value_or(std::nan(""));
-}
-
-std::optional<std::int64_t> NCDocument::typedInteger(const framework::IntegerField& field) const {
-  if (fieldEditor().field() != &field) return field.integerValue();
-  return foundation::integerFromFieldText(fieldEditor().text());
-}
-
-calc::Biometry NCDocument::typedLengths() {
-  calc::Biometry lengths;
-  for (const Measurement measurement : calc::kMeasurements) {
-    const framework::NumberField& field = fieldFor(measurement);
-    // The numbers of a fetus that was removed belong to none.
-    const bool isStale = field.isStale() && fieldEditor().field() != &field;
-    lengths.*calc::memberFor(measurement) = isStale ? 0.0 : typedNumber(field);
-  }
-  return lengths;
-}
-
-calc::Biometry NCDocument::acceptableLengths() {
-  calc::Biometry lengths = typedLengths();
-  for (const Measurement measurement : calc::kMeasurements) {
-    if (!takesTypedText(fieldFor(measurement))) lengths.*calc::memberFor(measurement) = std::nan("");
-  }
-  return lengths;
-}
-
-std::string NCDocument::improbableText(Improbable what, Measurement measurement) const {
-  const foundation::Localizer& localizer = services().localizer;
+std::string improbableText(Improbable what, Measurement measurement, const foundation::Localizer& localizer) {
   switch (what) {
     case Improbable::beforeLastPeriod:
       return localizer.text("NCDocument", "The examination is before the last period.");
@@ -104,16 +68,48 @@ std::string NCDocument::improbableText(Improbable what, Measurement measurement)
   return localizer.text("NCDocument", "Too small for the BPD.");
 }
 
-std::string NCDocument::beyondTableText(const calc::ReferenceTable& table, double age) const {
+/// Empty for an age within the weeks of `table`.
+std::string beyondTableText(const calc::ReferenceTable& table, double age,
+                            const foundation::Localizer& localizer) {
   const BeyondTable beyond = calc::weekBeyondTable(table, age);
   if (beyond == BeyondTable::no) return {};
-  const foundation::Localizer& localizer = services().localizer;
   const bool isBefore = beyond == BeyondTable::before;
   const auto& row = isBefore ? table.front() : table.back();
   return foundation::format(
       isBefore ? localizer.text("NCDocument", "The growth standard begins at %ld weeks, which count.")
                : localizer.text("NCDocument", "The growth standard ends at %ld weeks, which count."),
       {static_cast<std::int64_t>(row.observation())});
+}
+
+std::string differenceText(std::int64_t days, const foundation::Localizer& localizer) {
+  if (days == 0) return localizer.text("NCDocument", "The same day as the EDD that stands.");
+  if (days == 1) return localizer.text("NCDocument", "One day later than the EDD that stands.");
+  if (days == -1) return localizer.text("NCDocument", "One day earlier than the EDD that stands.");
+  return foundation::format(days > 0
+                                ? localizer.text("NCDocument", "%ld days later than the EDD that stands.")
+                                : localizer.text("NCDocument", "%ld days earlier than the EDD that stands."),
+                            {std::abs(days)});
+}
+
+}  // namespace
+
+calc::Biometry NCDocument::typedLengths() {
+  calc::Biometry lengths;
+  for (const Measurement measurement : calc::kMeasurements) {
+    const framework::NumberField& field = fieldFor(measurement);
+    // The numbers of a fetus that was removed belong to none.
+    const bool isStale = field.isStale() && fieldEditor().field() != &field;
+    lengths.*calc::memberFor(measurement) = isStale ? 0.0 : reader_.number(field, Reading::typed);
+  }
+  return lengths;
+}
+
+calc::Biometry NCDocument::acceptableLengths() {
+  calc::Biometry lengths = typedLengths();
+  for (const Measurement measurement : calc::kMeasurements) {
+    if (!takesTypedText(fieldFor(measurement))) lengths.*calc::memberFor(measurement) = std::nan("");
+  }
+  return lengths;
 }
 
 void NCDocument::assess() {
@@ -124,13 +120,13 @@ void NCDocument::assess() {
   std::string ofAge;
   for (const Measurement measurement : calc::kMeasurements) {
     Assessment::Length& said = assessment_.length(measurement);
-    const calc::ReferenceTable& table = graphFor(measurement).standardData();
+    const calc::ReferenceTable& table = pages_.graph(measurement).standardData();
     const double value = acceptable.*calc::memberFor(measurement);
     const bool isPlaced = value > 0.0 && age != 0.0 && !table.empty();
     const double z = isPlaced ? calc::zScore(table, value, age) : std::nan("");
     show(said.z, calc::zText(z, localizer));
     show(said.centile, calc::centileText({.percent = calc::centileOfZ(z)}, localizer));
-    if (isPlaced) ofAge = beyondTableText(table, age);
+    if (isPlaced) ofAge = beyondTableText(table, age, localizer);
     std::string remark;
     // The first digits of a length are another length: it is judged when it is left.
     const bool isBeingTyped =
@@ -138,12 +134,12 @@ void NCDocument::assess() {
         (!fieldEditor().isRefusing() || std::isnan(lengths.*calc::memberFor(measurement)));
     if (!isBeingTyped) {
       for (const Improbable what : calc::improbableLength(measurement, lengths, age, table))
-        remark.append(remark.empty() ? "" : " ").append(improbableText(what, measurement));
+        remark.append(remark.empty() ? "" : " ").append(improbableText(what, measurement, localizer));
     }
     show(said.remark, remark);
   }
   if (const auto what = calc::improbableAge(age)) {
-    std::string first = improbableText(*what, Measurement::bpd);
+    std::string first = improbableText(*what, Measurement::bpd, localizer);
     if (!ofAge.empty()) first.append(" ").append(ofAge);
     ofAge = std::move(first);
   }
@@ -155,16 +151,16 @@ void NCDocument::assess() {
 }
 
 void NCDocument::assessDialogs() {
-  if (crlWindow_.isShown()) {
+  if (crlPanel_.panel().isShown()) {
     show(assessment_.crlProposal, proposalText(eddFromCRL(Reading::typed)));
     show(assessment_.crlExamination, examinationText());
   }
-  if (lmpWindow_.isShown()) show(assessment_.lmpProposal, lmpProposalText());
-  if (!measurementsWindow_.isShown()) return;
+  if (lastPeriodPanel_.panel().isShown()) show(assessment_.lmpProposal, lmpProposalText());
+  if (!measurementsPanel_.panel().isShown()) return;
   show(assessment_.measurementsProposal, proposalText(eddFromMeasurements()));
   for (const Measurement measurement : calc::kMeasurements) {
     const auto beyond =
-        calc::valueBeyondTable(graphFor(measurement).standardData(), fieldFor(measurement).doubleValue());
+        calc::valueBeyondTable(pages_.graph(measurement).standardData(), fieldFor(measurement).doubleValue());
     show(assessment_.length(measurement).datingRemark,
          beyond == BeyondTable::no ? "" : services().localizer.text("NCDocument", "beyond the table"));
   }
@@ -173,11 +169,12 @@ void NCDocument::assessDialogs() {
 std::string NCDocument::lmpProposalText() const {
   const ProposedEDD proposal = eddFromLMP(Reading::typed);
   std::string text = proposalText(proposal);
-  const auto cycle = typedInteger(lmpWindowCycleField_);
-  const auto luteal = typedInteger(lmpWindowLutealField_);
+  const auto cycle = reader_.integer(lastPeriodPanel_.cycle, Reading::typed);
+  const auto luteal = reader_.integer(lastPeriodPanel_.luteal, Reading::typed);
   if (proposal.text.empty() || !cycle || !luteal || calc::isUsualCycle(*cycle, *luteal)) return text;
   const foundation::Localizer& localizer = services().localizer;
-  const bool isEmpty = typedText(lmpWindowCycleField_).empty() || typedText(lmpWindowLutealField_).empty();
+  const bool isEmpty = reader_.text(lastPeriodPanel_.cycle, Reading::typed).empty() ||
+                       reader_.text(lastPeriodPanel_.luteal, Reading::typed).empty();
   const std::string remark =
       isEmpty ? localizer.text("NCDocument", "An empty number of days counts as 0.")
               : localizer.text("NCDocument", "Usually a cycle has 24 to 38 days, its luteal phase 11 to 17.");
@@ -222,7 +219,7 @@ std::string NCDocument::proposalText(const ProposedEDD& proposal) const {
                         ? foundation::localDay(*patientRecord_->edd(), calendar)
                         : std::optional<foundation::CivilDay>();
   if (held) {
-    addLine(differenceText(foundation::daysSince2001(*day) - foundation::daysSince2001(*held)));
+    addLine(differenceText(foundation::daysSince2001(*day) - foundation::daysSince2001(*held), localizer));
   }
   if (!patientRecord_) return text;
   for (const auto& record : patientRecord_->ncRecordsArray()) {
@@ -236,26 +233,15 @@ std::string NCDocument::proposalText(const ProposedEDD& proposal) const {
   return text;
 }
 
-std::string NCDocument::differenceText(std::int64_t days) const {
-  const foundation::Localizer& localizer = services().localizer;
-  if (days == 0) return localizer.text("NCDocument", "The same day as the EDD that stands.");
-  if (days == 1) return localizer.text("NCDocument", "One day later than the EDD that stands.");
-  if (days == -1) return localizer.text("NCDocument", "One day earlier than the EDD that stands.");
-  return foundation::format(days > 0
-                                ? localizer.text("NCDocument", "%ld days later than the EDD that stands.")
-                                : localizer.text("NCDocument", "%ld days earlier than the EDD that stands."),
-                            {std::abs(days)});
-}
-
 std::string NCDocument::obstacleText(const TextField& obstacle) const {
   const foundation::Localizer& localizer = services().localizer;
-  if (&obstacle == &crlStandardReference_) return localizer.text("NCDocument", "No formula is chosen.");
+  if (&obstacle == &crlPanel_.standardReference) return localizer.text("NCDocument", "No formula is chosen.");
   if (&obstacle == &examDateField()) return localizer.text("NCDocument", "The examination has no date.");
-  const std::string typed = typedText(obstacle);
-  if (&obstacle == &crlWindowCRL_) {
+  const std::string typed = reader_.text(obstacle, Reading::typed);
+  if (&obstacle == &crlPanel_.length) {
     const calc::CRLFormula* formula =
         calc::crlFormula(patientRecord_ ? patientRecord_->crlStandard() : std::int64_t{-1});
-    if (!formula || typedNumber(crlWindowCRL_) == 0.0)
+    if (!formula || reader_.number(crlPanel_.length, Reading::typed) == 0.0)
       return localizer.text("NCDocument", "Type the crown-rump length.");
     const auto number = [&](double value) {
       const int decimals = value == std::floor(value) ? 0 : 1;
@@ -264,31 +250,16 @@ std::string NCDocument::obstacleText(const TextField& obstacle) const {
     return localizer.text("NCDocument", "The formula dates these lengths, in mm:") + " " +
            number(formula->least) + "\u2013" + number(formula->greatest);
   }
-  for (const framework::IntegerField* days : {&lmpWindowCycleField_, &lmpWindowLutealField_}) {
-    if (&obstacle == days && !typedInteger(*days)) return localizer.text("NCDocument", "Type whole days.");
+  for (const framework::IntegerField* days : {&lastPeriodPanel_.cycle, &lastPeriodPanel_.luteal}) {
+    if (&obstacle == days && !reader_.integer(*days, Reading::typed))
+      return localizer.text("NCDocument", "Type whole days.");
   }
-  if (&obstacle == &lmpWindowCycleField_ || &obstacle == &lmpWindowLutealField_)
+  if (&obstacle == &lastPeriodPanel_.cycle || &obstacle == &lastPeriodPanel_.luteal)
     return localizer.text("NCDocument", "There is no such cycle.");
   if (typed.empty()) return localizer.text("NCDocument", "Type the date.");
-  if (!dateFromTypedText(obstacle)) return localizer.text("NCDocument", "This is no date:") + " " + typed;
+  if (!reader_.date(obstacle, Reading::typed))
+    return localizer.text("NCDocument", "This is no date:") + " " + typed;
   return localizer.text("NCDocument", "The EDD would lie outside the calendar.");
-}
-
-std::optional<foundation::Date> NCDocument::dateFromTypedText(const TextField& field) const {
-  const auto day =
-      foundation::civilDayFromShortText(typedText(field), foundation::dateForm(services().localizer));
-  if (!day) return std::nullopt;
-  return foundation::startOfDay(*day, services().calendar);
-}
-
-const charts::NascorGraphView& NCDocument::graphFor(Measurement measurement) const {
-  switch (measurement) {
-    case Measurement::bpd: return *BPDGraph();
-    case Measurement::hc: return *HCGraph();
-    case Measurement::ac: return *ACGraph();
-    case Measurement::fl: break;
-  }
-  return *FLGraph();
 }
 
 std::string NCDocument::spokenPage(std::int64_t page) const {

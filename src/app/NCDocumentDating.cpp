@@ -4,7 +4,6 @@
 
 #include "app/NCDocument.h"
 #include "calc/Dating.h"
-#include "calc/EditingBounds.h"
 
 namespace nascor::app {
 
@@ -36,10 +35,7 @@ double NCDocument::menstrualAgeFromCRLWesterway(double crl) const {
 
 bool NCDocument::canAdjustDelivery() const { return patientRecord_ && patientRecord_->edd(); }
 
-void NCDocument::doAdjustDeliveryDate(Sender) {
-  adjustDeliveryPanel_.center();
-  adjustDeliveryPanel_.makeKeyAndOrderFront();
-}
+void NCDocument::doAdjustDeliveryDate(Sender) { deliveryPanel_.open(); }
 
 void NCDocument::adjustDeliveryDate(Sender sender) {
   if (!patientRecord_) return;
@@ -48,18 +44,14 @@ void NCDocument::adjustDeliveryDate(Sender sender) {
     step.emplace(*this);
     gestationInFile_.reset();
   }
-  const double days = adjustDeliveryStepper_.value();
-  patientRecord_->setExtrapolatedGestation(calc::plannedGestation(days));
+  patientRecord_->setExtrapolatedGestation(deliveryPanel_.plannedGestation());
   if (!patientRecord_->edd()) return;
-  adjustEDDField_.setText(shortDateText(patientRecord_->edd()));
-  adjustDeliverOnField_.setText(
-      shortDateText(calc::plannedDeliveryDate(*patientRecord_->edd(), days, services().calendar)));
-  adjustDeliverAtField_.setText(menstrualAgeStringForGestation(patientRecord_->extrapolatedGestation()));
+  deliveryPanel_.show(*patientRecord_->edd());
   if (sender != this) directUpdateDisplayAndSetDirty(true);
 }
 
 void NCDocument::updateAdjustDeliveryStepperForNewStandard() {
-  adjustDeliveryStepper_.setMaximum(calc::plannedDeliveryDays(standard()).greatest);
+  deliveryPanel_.limitFor(standard());
   adjustDeliveryDate(this);
 }
 

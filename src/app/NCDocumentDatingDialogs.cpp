@@ -1,146 +1,63 @@
 // The three dialogs that set the EDD, and the question before an established one is modified.
 
 #include <algorithm>
-#include <cmath>
-#include <utility>
 
 #include "app/NCDocument.h"
-#include "calc/Dating.h"
-#include "foundation/Calendar.h"
-#include "foundation/Clock.h"
-#include "foundation/DateText.h"
 #include "foundation/Localizer.h"
-#include "foundation/ShortDate.h"
 
 namespace nascor::app {
 
 using framework::Panel;
-using framework::TextField;
 
 void NCDocument::doSetEDDfromCRL(Sender) {
-  if (crlWindowDate_.text().empty()) {
-    crlWindowDate_.setText(shortDateText(services().clock.now()));
-    crlWindow_.center();
-  }
-  crlWindow_.makeKeyAndOrderFront();
+  crlPanel_.open();
   assessDialogs();
-  checkOverwriteEDD(crlWindow_);
+  checkOverwriteEDD(crlPanel_.panel());
 }
 
-void NCDocument::okSetEDDfromCRL(Sender) { enterEDD(eddFromCRL(), crlWindow_); }
+void NCDocument::okSetEDDfromCRL(Sender) { enterEDD(eddFromCRL(), crlPanel_.panel()); }
 
-NCDocument::ProposedEDD NCDocument::eddFromCRL() const { return eddFromCRL(Reading::held); }
-
-NCDocument::ProposedEDD NCDocument::eddFromCRL(Reading reading) const {
-  if (!patientRecord_) return {};
-  ProposedEDD refused;
-  const bool isTyped = reading == Reading::typed;
-  const auto scan = isTyped ? dateFromTypedText(crlWindowDate_) : dateFromText(crlWindowDate_);
-  if (!scan) refused.obstacles.push_back(&crlWindowDate_);
-  const std::int64_t standard = patientRecord_->crlStandard();
-  const double length = isTyped ? typedNumber(crlWindowCRL_) : crlWindowCRL_.doubleValue();
-  const double age = calc::menstrualAgeFromCRL(length, standard);
-  if (!calc::crlFormula(standard)) {
-    refused.obstacles.push_back(&crlStandardReference_);
-  } else if (age == 0.0) {
-    refused.obstacles.push_back(&crlWindowCRL_);
-  }
-  if (!refused.obstacles.empty()) return refused;
-  return proposed(calc::eddFromAgeAtScan(*scan, age, services().calendar), {&crlWindowDate_});
+ProposedEDD NCDocument::eddFromCRL(Reading reading) const {
+  return patientRecord_ ? crlPanel_.proposedEDD(patientRecord_->crlStandard(), reading) : ProposedEDD{};
 }
 
 void NCDocument::doSetEDDfromLMP(Sender) {
-  if (lmpWindowLMP_.text().empty()) lmpWindow_.center();
-  lmpWindow_.makeKeyAndOrderFront();
+  lastPeriodPanel_.open();
   assessDialogs();
-  checkOverwriteEDD(lmpWindow_);
+  checkOverwriteEDD(lastPeriodPanel_.panel());
 }
 
-void NCDocument::okSetEDDfromLMP(Sender) { enterEDD(eddFromLMP(), lmpWindow_); }
+void NCDocument::okSetEDDfromLMP(Sender) { enterEDD(eddFromLMP(), lastPeriodPanel_.panel()); }
 
-NCDocument::ProposedEDD NCDocument::eddFromLMP() const { return eddFromLMP(Reading::held); }
-
-NCDocument::ProposedEDD NCDocument::eddFromLMP(Reading reading) const {
-  const bool isTyped = reading == Reading::typed;
-  const auto lmp = isTyped ? dateFromTypedText(lmpWindowLMP_) : dateFromText(lmpWindowLMP_);
-  if (!lmp) return {.text = {}, .obstacles = {&lmpWindowLMP_}};
-  ProposedEDD refused;
-  const auto days = [&](const framework::IntegerField& field) {
-    const auto typed = isTyped ? typedInteger(field) : field.integerValue();
-    if (!typed) refused.obstacles.push_back(&field);
-    return typed.value_or(0);
-  };
-  const std::int64_t cycle = days(lmpWindowCycleField_);
-  const std::int64_t luteal = days(lmpWindowLutealField_);
-  if (!refused.obstacles.empty()) return refused;
-  const auto edd = calc::eddFromLMP(*lmp, cycle, luteal, services().calendar);
-  return proposed(edd, {&lmpWindowCycleField_, &lmpWindowLutealField_});
-}
+ProposedEDD NCDocument::eddFromLMP(Reading reading) const { return lastPeriodPanel_.proposedEDD(reading); }
 
 void NCDocument::doSetEDDfromMeasurements(Sender) {
   updateEDDfromMeasurements(this);
-  measurementsWindow_.center();
-  measurementsWindow_.makeKeyAndOrderFront();
+  measurementsPanel_.open();
   assessDialogs();
-  checkOverwriteEDD(measurementsWindow_);
+  checkOverwriteEDD(measurementsPanel_.panel());
 }
 
 void NCDocument::updateEDDfromMeasurements(Sender) {
-  struct Row {
-    const framework::NumberField& length;
-    const charts::NascorGraphView& graph;
-    const framework::CheckBox& check;
-    TextField& text;
-    double gestation = 0.0;
-  };
-  std::array<Row, 4> rows{
-      {{bpdField_, *BPDGraph(), measurementsWindowBPDCheck_, measurementsWindowBPDGestation_},
-       {hcField_, *HCGraph(), measurementsWindowHCCheck_, measurementsWindowHCGestation_},
-       {acField_, *ACGraph(), measurementsWindowACCheck_, measurementsWindowACGestation_},
-       {flField_, *FLGraph(), measurementsWindowFLCheck_, measurementsWindowFLGestation_}}};
-  avGestation_ = 0.0;
-  int checked = 0;
-  for (Row& row : rows) {
-    row.gestation = row.graph.gestationForMeasurement(row.length.doubleValue());
-    if (!row.check.isOn()) continue;
-    avGestation_ += row.gestation;
-    ++checked;
-  }
-  if (checked > 1) avGestation_ /= checked;
-  for (const Row& row : rows) {
-    // At an average of 0 mean and deviation are 0 as well: whatever was measured is far from them.
-    const double distance = std::abs(row.length.doubleValue() - row.graph.meanForGestation(avGestation_));
-    row.text.setRed(distance > 2.0 * row.graph.sdForGestation(avGestation_));
-    row.text.setText(menstrualAgeStringForGestation(row.gestation));
-  }
+  calc::Biometry lengths;
+  for (const calc::Measurement measurement : calc::kMeasurements)
+    lengths.*calc::memberFor(measurement) = fieldFor(measurement).doubleValue();
+  measurementsPanel_.dateLengths(lengths, pages_);
   assessDialogs();
-  measurementsWindowAvGestation_.setText(menstrualAgeStringForGestation(avGestation_));
+  measurementsPanel_.showAverage();
 }
 
 void NCDocument::refreshEDDfromMeasurements() {
-  if (measurementsWindow_.isShown()) updateEDDfromMeasurements(this);
+  if (measurementsPanel_.panel().isShown()) updateEDDfromMeasurements(this);
 }
 
-void NCDocument::okSetEDDfromMeasurements(Sender) { enterEDD(eddFromMeasurements(), measurementsWindow_); }
+void NCDocument::okSetEDDfromMeasurements(Sender) {
+  enterEDD(eddFromMeasurements(), measurementsPanel_.panel());
+}
 
-NCDocument::ProposedEDD NCDocument::eddFromMeasurements() const {
+ProposedEDD NCDocument::eddFromMeasurements() const {
   const model::NCRecord* exam = examination(currentExam());
-  if (!exam || !exam->examDate()) return {.text = {}, .obstacles = {&examDateField()}};
-  // An average of 0, with nothing checked, is dated like any other.
-  return proposed(calc::eddFromMeasurements(*exam->examDate(), avGestation_, services().calendar),
-                  {&examDateField()});
-}
-
-NCDocument::ProposedEDD NCDocument::proposed(const std::optional<foundation::Date>& date,
-                                             std::vector<const TextField*> obstacles) const {
-  const foundation::ShortDateForm form = foundation::dateForm(services().localizer);
-  std::string text = shortDateText(date);
-  // The records take the date from this text.
-  if (text.empty() ||
-      foundation::civilDayFromShortText(text, form) != foundation::localDay(*date, services().calendar)) {
-    return {.text = {}, .obstacles = std::move(obstacles)};
-  }
-  return {.text = std::move(text), .obstacles = {}};
+  return measurementsPanel_.proposedEDD(exam != nullptr ? exam->examDate() : std::nullopt, examDateField());
 }
 
 void NCDocument::enterEDD(const ProposedEDD& proposal, Panel& window) {
@@ -176,14 +93,9 @@ void NCDocument::checkOverwriteEDDAlertDidEnd(framework::AlertReturn returnCode,
 
 void NCDocument::cancelDialog(Panel& window) {
   // Drops refused texts: a field that is not shown must not hold back every action.
-  const std::array<std::pair<const Panel*, const TextField*>, 5> fields{
-      {{&crlWindow_, &crlWindowDate_},
-       {&crlWindow_, &crlWindowCRL_},
-       {&lmpWindow_, &lmpWindowLMP_},
-       {&lmpWindow_, &lmpWindowCycleField_},
-       {&lmpWindow_, &lmpWindowLutealField_}}};
-  for (const auto& [panel, field] : fields) {
-    if (panel == &window && fieldEditor().field() == field) fieldEditor().revert();
+  for (const DatingPanel* each : datingPanels_) {
+    const bool isInEdit = std::ranges::find(each->fields(), fieldEditor().field()) != each->fields().end();
+    if (&each->panel() == &window && isInEdit) fieldEditor().revert();
   }
   window.close();
 }

@@ -69,7 +69,7 @@ void NCDocument::redo() {
 
 PatientState NCDocument::state() const {
   PatientState state;
-  state.plannedDays = adjustDeliveryStepper_.value();
+  state.plannedDays = deliveryPanel_.stepper.value();
   state.gestationInFile = gestationInFile_;
   state.madeNow = madeNow_;
   state.isExamDateTyped = examDateWasTyped_;
@@ -113,13 +113,14 @@ void NCDocument::goTo(const PatientHistory::Shown& shown) {
   examDateWasTyped_ = state.isExamDateTyped;
   setDocIsBlank(state.isBlank);
   setLookUpRequired(state.isLookUpRequired);
-  setPlannedDays(state.plannedDays);
+  deliveryPanel_.setPlannedDays(state.plannedDays, standard());
   setCurrentExam(std::clamp<std::int64_t>(shown.place.examination, 0, lastExam()));
   setCurrentFetus(shown.place.fetus);
   updateMultiplePopUp();
   if (multiplePopUp_.numberOfItems() > 0) multiplePopUp_.selectItemAtIndex(currentFetus_);
   showPatient();
-  crlStandardReference_.setText(calc::crlStandardTitle(patientRecord_->crlStandard(), services().localizer));
+  crlPanel_.standardReference.setText(
+      calc::crlStandardTitle(patientRecord_->crlStandard(), services().localizer));
   updateChangeCount(history_.isSaved() ? ChangeType::changeCleared : ChangeType::changeDone);
   onHistoryChanged();
 }

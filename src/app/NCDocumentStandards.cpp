@@ -42,7 +42,7 @@ void NCDocument::doSetCRLStandard(std::int64_t standard) {
   if (!patientRecord_) return;
   const OneStep step(*this);
   patientRecord_->setCRLStandard(standard);
-  crlStandardReference_.setText(calc::crlStandardTitle(standard, services().localizer));
+  crlPanel_.standardReference.setText(calc::crlStandardTitle(standard, services().localizer));
   prefer(defaults_key::crlStandard, standard);
   assessDialogs();
 }

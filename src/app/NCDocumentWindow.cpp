@@ -35,7 +35,7 @@ void NCDocument::windowControllerDidLoadNib() {
                                          [this](const foundation::Notification&) { updateShowAll(); });
 
   gestationInFile_ = patientRecord_->extrapolatedGestation();
-  setPlannedDays(calc::plannedDays(*gestationInFile_, standard()));
+  deliveryPanel_.setPlannedDays(calc::plannedDays(*gestationInFile_, standard()), standard());
 
   setCurrentExam(lastExam());
   setCurrentFetus(0);
@@ -45,12 +45,6 @@ void NCDocument::windowControllerDidLoadNib() {
   showPatient();
   doSetCRLStandard(patientRecord_->crlStandard());
   beginHistory();
-}
-
-void NCDocument::setPlannedDays(double days) {
-  adjustDeliveryStepper_.setMinimum(std::min(adjustDeliveryStepper_.minimum(), std::floor(days)));
-  adjustDeliveryStepper_.setMaximum(calc::plannedDeliveryDays(standard()).greatest);
-  adjustDeliveryStepper_.setValue(days);
 }
 
 void NCDocument::showPatient() {
@@ -72,11 +66,11 @@ void NCDocument::synchronizeFromData() {
   fieldEditor().revert();
   referenceIDField().setText(patientRecord_->maternalIDString().value_or(""));
   gravidaField_.setIntegerValue(patientRecord_->gravida());
-  birthDateField().setText(shortDateText(patientRecord_->edd()));
+  birthDateField().setText(reader_.shortDateText(patientRecord_->edd()));
   adjustDeliveryDate(this);
 
   const model::NCRecord* exam = currentExamination();
-  examDateField().setText(exam ? shortDateText(exam->examDate()) : "");
+  examDateField().setText(exam ? reader_.shortDateText(exam->examDate()) : "");
   const model::MeasurementsRecord* measured = currentMeasurements();
   for (const Measurement measurement :
        {Measurement::hc, Measurement::bpd, Measurement::ac, Measurement::fl}) {
@@ -127,8 +121,8 @@ void NCDocument::takeDates() {
   model::NCRecord* exam = currentExamination();
   const bool setsEDD = birthDateField().wasEdited();
   const bool setsExamDate = exam != nullptr && examDateField().wasEdited();
-  if (setsEDD) patientRecord_->setEDD(dateFromText(birthDateField()));
-  if (setsExamDate) exam->setExamDate(dateFromText(examDateField()));
+  if (setsEDD) patientRecord_->setEDD(reader_.date(birthDateField(), Reading::held));
+  if (setsExamDate) exam->setExamDate(reader_.date(examDateField(), Reading::held));
   birthDateField().forgetEdits();
   examDateField().forgetEdits();
 
@@ -158,7 +152,7 @@ void NCDocument::updateDisplay() {
 }
 
 void NCDocument::setHeader(std::size_t page, const std::string& title, const std::string& shown) {
-  headers_.at(page)->setText(title);
+  headers_.at(page).setText(title);
   pages_.pages().at(page).setTitle(shown);
 }
 
@@ -214,7 +208,7 @@ void NCDocument::controlTextDidEndEditing(TextField& field) {
 
 bool NCDocument::erasesDate(const TextField& field) const {
   if (&field != &birthDateField() && &field != &examDateField()) return false;
-  return field.text().find_first_not_of(" \t") != std::string::npos && !dateFromText(field);
+  return field.text().find_first_not_of(" \t") != std::string::npos && !reader_.date(field, Reading::held);
 }
 
 std::string NCDocument::preferredFileName(bool withFetus) const {
@@ -266,18 +260,6 @@ bool NCDocument::mayModify(const std::string& message, const std::string& inform
                                         .defaultButton = localizer.text("CorvelDocument", "Modify"),
                                         .alternateButton = localizer.text("ZuVersion", "Cancel"),
                                         .interruptsTyping = true}) == framework::AlertReturn::defaultButton;
-}
-
-std::string NCDocument::shortDateText(const std::optional<Date>& date) const {
-  foundation::dateForm(services().localizer);
-  return foundation::shortDateText(date, services().calendar, services().localizer);
-}
-
-std::optional<Date> NCDocument::dateFromText(const TextField& field) const {
-  const auto day =
-      foundation::civilDayFromShortText(field.text(), foundation::dateForm(services().localizer));
-  if (!day) return std::nullopt;
-  return foundation::startOfDay(*day, services().calendar);
 }
 
 bool NCDocument::currentExaminationHoldsData() const {

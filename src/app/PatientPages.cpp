@@ -116,10 +116,10 @@ void PatientPages::addTrends() {
 }
 
 void PatientPages::addCharts() {
-  bpdGraph_ = &addChartPage<charts::BPDGraphView, charts::NoYaxisGraphView>(1);
-  hcGraph_ = &addChartPage<charts::HeadCircumferenceGraphView, charts::NoYaxisGraphView>(2);
-  acGraph_ = &addChartPage<charts::AbdoCircumferenceGraphView, charts::NoYaxisGraphView>(3);
-  flGraph_ = &addChartPage<charts::FemurLengthGraphView, charts::NoYaxisGraphView>(4);
+  graphs_ = {&addChartPage<charts::BPDGraphView, charts::NoYaxisGraphView>(1),
+             &addChartPage<charts::HeadCircumferenceGraphView, charts::NoYaxisGraphView>(2),
+             &addChartPage<charts::AbdoCircumferenceGraphView, charts::NoYaxisGraphView>(3),
+             &addChartPage<charts::FemurLengthGraphView, charts::NoYaxisGraphView>(4)};
   efwGraph_ = &addChartPage<charts::EFWGraphView, charts::NoYaxisEFWGraphView>(kWeightPage);
   report_ = &add<charts::NascorDataView>();
   pages_.at(kReportPage).addView(*report_, wholePage);

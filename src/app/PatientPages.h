@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <vector>
 
+#include "calc/Biometry.h"
 #include "charts/ChartDocument.h"
 #include "charts/NascorDataView.h"
 #include "charts/NascorGraphView.h"
@@ -26,10 +27,9 @@ class PatientPages {
   std::array<framework::Page, kNumberOfPages>& pages() { return pages_; }
   const std::array<framework::Page, kNumberOfPages>& pages() const { return pages_; }
 
-  charts::NascorGraphView* bpdGraph() const { return bpdGraph_; }
-  charts::NascorGraphView* hcGraph() const { return hcGraph_; }
-  charts::NascorGraphView* acGraph() const { return acGraph_; }
-  charts::NascorGraphView* flGraph() const { return flGraph_; }
+  charts::NascorGraphView& graph(calc::Measurement length) const {
+    return *graphs_.at(static_cast<std::size_t>(length));
+  }
   charts::NascorGraphView& efwGraph() const { return *efwGraph_; }
   charts::NascorDataView& report() const { return *report_; }
 
@@ -47,10 +47,7 @@ class PatientPages {
   foundation::Services services_;
   charts::ChartDocument& document_;
   std::vector<framework::ViewOwner<charts::UpdatingGraphView>> views_;
-  charts::NascorGraphView* bpdGraph_ = nullptr;
-  charts::NascorGraphView* hcGraph_ = nullptr;
-  charts::NascorGraphView* acGraph_ = nullptr;
-  charts::NascorGraphView* flGraph_ = nullptr;
+  std::array<charts::NascorGraphView*, calc::kMeasurements.size()> graphs_{};
   charts::NascorGraphView* efwGraph_ = nullptr;
   charts::NascorDataView* report_ = nullptr;
   std::array<framework::Page, kNumberOfPages> pages_{

@@ -54,9 +54,7 @@ class TheDatingDialogs : public testing::Test {
     return events;
   }
   framework::TextField& field(std::string_view name) {
-    for (framework::TextField* each : document.textFields()) {
-      if (each->name() == name) return *each;
-    }
+    if (framework::TextField* named = document.fieldNamed(name)) return *named;
     throw std::out_of_range(std::string(name));
   }
   void enter(std::string_view name, const std::string& text) {

@@ -61,9 +61,7 @@ class TheWindow : public testing::Test {
     return document;
   }
   static framework::TextField& field(NCDocument& document, std::string_view name) {
-    for (framework::TextField* each : document.textFields()) {
-      if (each->name() == name) return *each;
-    }
+    if (framework::TextField* named = document.fieldNamed(name)) return *named;
     throw std::out_of_range(std::string(name));
   }
   static bool edit(NCDocument& document, framework::TextField& field, const std::string& text) {

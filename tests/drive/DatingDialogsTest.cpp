@@ -35,8 +35,7 @@ TEST_P(InEveryZone, theEDDIs280DaysAfterTheLastPeriod) {
   app::NCDocument document{
       {.services = services, .alerts = platform.alerts, .controller = platform.documents}};
   document.windowControllerDidLoadNib();
-  framework::TextField& lmp =
-      **std::ranges::find(document.textFields(), "lmpWindowLMP", &framework::TextField::name);
+  framework::TextField& lmp = document.lastPeriodPanel().lastPeriod;
 
   using namespace std::chrono_literals;
   const std::chrono::sys_days last = 2030y / 12 / 31;

@@ -69,18 +69,23 @@ void setZone(const std::string& name) {
   ::tzset();
 }
 
-framework::TextField& fieldNamed(NCDocument& document, const std::string& name) {
-  for (framework::TextField* field : document.textFields()) {
-    if (field->name() == name) return *field;
-  }
-  refuse("there is no field \"" + name + "\"");
+framework::TextField& fieldNamed(const NCDocument& document, const std::string& name) {
+  framework::TextField* field = document.fieldNamed(name);
+  if (field == nullptr) refuse("there is no field \"" + name + "\"");
+  return *field;
 }
 
-framework::Panel& panelNamed(NCDocument& document, const std::string& name) {
-  for (framework::Panel* panel : document.panels()) {
-    if (panel->name() == name) return *panel;
-  }
-  refuse("there is no window \"" + name + "\"");
+framework::Panel& panelNamed(const NCDocument& document, const std::string& name) {
+  framework::Panel* panel = document.panelNamed(name);
+  if (panel == nullptr) refuse("there is no window \"" + name + "\"");
+  return *panel;
+}
+
+std::vector<framework::CheckBox*> checkBoxes(NCDocument& document) {
+  std::vector<framework::CheckBox*> boxes;
+  for (const calc::Measurement measurement : calc::kMeasurements)
+    boxes.push_back(&document.measurementsPanel().row(measurement).check);
+  return boxes;
 }
 
 Json lengths(const model::MeasurementsRecord* record) {
@@ -595,8 +600,9 @@ Json Driver::check(const Json& boxAndState) {
   const std::string name = textArgument(boxAndState[0], "the name of a check box");
   const bool isOn = boolArgument(boxAndState[1], "true or false");
   NCDocument& changed = document();
-  const auto box = std::ranges::find(changed.checkBoxes(), name, &framework::CheckBox::name);
-  if (box == changed.checkBoxes().end()) refuse("there is no check box \"" + name + "\"");
+  const auto boxes = checkBoxes(changed);
+  const auto box = std::ranges::find(boxes, name, &framework::CheckBox::name);
+  if (box == boxes.end()) refuse("there is no check box \"" + name + "\"");
   if (auto refusal = heldBack(changed)) return *refusal;
   (*box)->setOn(isOn);
   changed.updateEDDfromMeasurements(nullptr);
@@ -818,7 +824,7 @@ Json Driver::documentState(NCDocument& shown) {
   Json windows = Json::object();
   for (const framework::Panel* panel : shown.panels()) windows[panel->name()] = panel->isShown();
   Json checks = Json::object();
-  for (const framework::CheckBox* box : shown.checkBoxes()) checks[box->name()] = box->isOn();
+  for (const framework::CheckBox* box : checkBoxes(shown)) checks[box->name()] = box->isOn();
   const framework::Stepper& stepper = shown.adjustDeliveryStepper();
 
   std::string patient;

@@ -167,7 +167,7 @@ void EDDFromCRLDialog::focusFirst() {
 
 void EDDFromCRLDialog::setEDD(NCDocument& document) { document.okSetEDDfromCRL(nullptr); }
 
-NCDocument::ProposedEDD EDDFromCRLDialog::proposal(const NCDocument& document) const {
+app::ProposedEDD EDDFromCRLDialog::proposal(const NCDocument& document) const {
   return document.eddFromCRL();
 }
 
@@ -194,12 +194,13 @@ void EDDFromLMPDialog::focusFirst() {
 
 void EDDFromLMPDialog::setEDD(NCDocument& document) { document.okSetEDDfromLMP(nullptr); }
 
-NCDocument::ProposedEDD EDDFromLMPDialog::proposal(const NCDocument& document) const {
+app::ProposedEDD EDDFromLMPDialog::proposal(const NCDocument& document) const {
   return document.eddFromLMP();
 }
 
 /// One measurement of the dialog.
 struct EDDFromMeasurementsDialog::Row {
+  framework::CheckBox& box;
   QCheckBox& check;
   QLabel& value;
   QLineEdit& gestation;
@@ -211,17 +212,20 @@ struct EDDFromMeasurementsDialog::Row {
 std::vector<EDDFromMeasurementsDialog::Row> EDDFromMeasurementsDialog::rows() const {
   const Ui::EDDFromMeasurements& ui = *ui_;
   NCDocument& shown = *document();
-  return {{*ui.measurementsWindowBPDCheck, *ui.measurementsWindowBPDValue, *ui.measurementsWindowBPDGestation,
-           *ui.measurementsWindowBPDSign, shown.bpdField(),
+  const auto boxOf = [&](calc::Measurement length) -> framework::CheckBox& {
+    return shown.measurementsPanel().row(length).check;
+  };
+  return {{boxOf(calc::Measurement::bpd), *ui.measurementsWindowBPDCheck, *ui.measurementsWindowBPDValue,
+           *ui.measurementsWindowBPDGestation, *ui.measurementsWindowBPDSign, shown.bpdField(),
            shown.assessment().length(calc::Measurement::bpd).datingRemark},
-          {*ui.measurementsWindowHCCheck, *ui.measurementsWindowHCValue, *ui.measurementsWindowHCGestation,
-           *ui.measurementsWindowHCSign, shown.hcField(),
+          {boxOf(calc::Measurement::hc), *ui.measurementsWindowHCCheck, *ui.measurementsWindowHCValue,
+           *ui.measurementsWindowHCGestation, *ui.measurementsWindowHCSign, shown.hcField(),
            shown.assessment().length(calc::Measurement::hc).datingRemark},
-          {*ui.measurementsWindowACCheck, *ui.measurementsWindowACValue, *ui.measurementsWindowACGestation,
-           *ui.measurementsWindowACSign, shown.acField(),
+          {boxOf(calc::Measurement::ac), *ui.measurementsWindowACCheck, *ui.measurementsWindowACValue,
+           *ui.measurementsWindowACGestation, *ui.measurementsWindowACSign, shown.acField(),
            shown.assessment().length(calc::Measurement::ac).datingRemark},
-          {*ui.measurementsWindowFLCheck, *ui.measurementsWindowFLValue, *ui.measurementsWindowFLGestation,
-           *ui.measurementsWindowFLSign, shown.flField(),
+          {boxOf(calc::Measurement::fl), *ui.measurementsWindowFLCheck, *ui.measurementsWindowFLValue,
+           *ui.measurementsWindowFLGestation, *ui.measurementsWindowFLSign, shown.flField(),
            shown.assessment().length(calc::Measurement::fl).datingRemark}};
 }
 
@@ -232,21 +236,18 @@ EDDFromMeasurementsDialog::EDDFromMeasurementsDialog(NCDocument& document,
       ui_(std::make_unique<Ui::EDDFromMeasurements>()) {
   ui_->setupUi(this);
   letWindowThrough(*ui_->measurementsWindowExamination);
-  const auto boxes = document.checkBoxes();
   for (const Row& row : rows()) {
     keep(bindReadOnly(row.gestation, fieldFor(row.gestation)));
     giveRoom(row.gestation, QStringLiteral("-40w -6d"));
-    for (framework::CheckBox* box : boxes) {
-      if (fromUtf8(box->name()) != row.check.objectName()) continue;
-      keep(box->onChange.subscribe([this] { refresh(); }));
-      connect(&row.check, &QCheckBox::clicked, this, [this, box](bool on) {
-        this->perform([box, on](NCDocument& checked) {
-          box->setOn(on);
-          checked.updateEDDfromMeasurements(nullptr);
-        });
-        refresh();
+    framework::CheckBox& box = row.box;
+    keep(box.onChange.subscribe([this] { refresh(); }));
+    connect(&row.check, &QCheckBox::clicked, this, [this, &box](bool on) {
+      this->perform([&box, on](NCDocument& checked) {
+        box.setOn(on);
+        checked.updateEDDfromMeasurements(nullptr);
       });
-    }
+      refresh();
+    });
   }
   bindProposal(*ui_->measurementsWindowProposal, document.assessment().measurementsProposal);
   // The average is shown last, when all the others are as they are to be.
@@ -263,11 +264,9 @@ EDDFromMeasurementsDialog::~EDDFromMeasurementsDialog() = default;
 void EDDFromMeasurementsDialog::refresh() {
   if (!document()) return;
   forgetObstacles();
-  const auto boxes = document()->checkBoxes();
-  std::size_t i = 0;
   for (const Row& row : rows()) {
     const QSignalBlocker quiet(&row.check);
-    row.check.setChecked(boxes[i++]->isOn());
+    row.check.setChecked(row.box.isOn());
     giveRoom(row.gestation, row.gestation.text());
     row.value.setText(said("DatingDialogs", "%1 mm").arg(fromUtf8(row.length.text())));
     // Never by colour alone.
@@ -308,7 +307,7 @@ void EDDFromMeasurementsDialog::focusFirst() { ui_->measurementsWindowBPDCheck->
 
 void EDDFromMeasurementsDialog::setEDD(NCDocument& document) { document.okSetEDDfromMeasurements(nullptr); }
 
-NCDocument::ProposedEDD EDDFromMeasurementsDialog::proposal(const NCDocument& document) const {
+app::ProposedEDD EDDFromMeasurementsDialog::proposal(const NCDocument& document) const {
   return document.eddFromMeasurements();
 }
 

@@ -43,7 +43,7 @@ class DatingDialog : public PanelDialog {
   void forgetObstacles();
 
   virtual void setEDD(app::NCDocument& document) = 0;
-  virtual app::NCDocument::ProposedEDD proposal(const app::NCDocument& document) const = 0;
+  virtual app::ProposedEDD proposal(const app::NCDocument& document) const = 0;
   /// Where `obstacle`, a field of the document, is shown.
   virtual FieldEdit* editFor(const framework::TextField& obstacle) const;
 
@@ -67,7 +67,7 @@ class EDDFromCRLDialog final : public DatingDialog {
   void refresh() override;
   void focusFirst() override;
   void setEDD(app::NCDocument& document) override;
-  app::NCDocument::ProposedEDD proposal(const app::NCDocument& document) const override;
+  app::ProposedEDD proposal(const app::NCDocument& document) const override;
 
   std::unique_ptr<Ui::EDDFromCRL> ui_;
 };
@@ -83,7 +83,7 @@ class EDDFromLMPDialog final : public DatingDialog {
   void refresh() override;
   void focusFirst() override;
   void setEDD(app::NCDocument& document) override;
-  app::NCDocument::ProposedEDD proposal(const app::NCDocument& document) const override;
+  app::ProposedEDD proposal(const app::NCDocument& document) const override;
 
   std::unique_ptr<Ui::EDDFromLMP> ui_;
 };
@@ -102,7 +102,7 @@ class EDDFromMeasurementsDialog final : public DatingDialog {
   void refresh() override;
   void focusFirst() override;
   void setEDD(app::NCDocument& document) override;
-  app::NCDocument::ProposedEDD proposal(const app::NCDocument& document) const override;
+  app::ProposedEDD proposal(const app::NCDocument& document) const override;
   FieldEdit* editFor(const framework::TextField& obstacle) const override;
 
   std::unique_ptr<Ui::EDDFromMeasurements> ui_;

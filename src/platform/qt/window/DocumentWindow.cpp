@@ -256,11 +256,11 @@ PanelDialog* DocumentWindow::makeDialog(const framework::Panel& panel) {
     panel_->add(dialog->bindings());
     return dialog;
   };
-  if (panel.name() == "crlWindow")
+  if (&panel == &document_->crlPanel().panel())
     return withFields(new EDDFromCRLDialog(*document_, services, actions, perform, this));
-  if (panel.name() == "lmpWindow")
+  if (&panel == &document_->lastPeriodPanel().panel())
     return withFields(new EDDFromLMPDialog(*document_, services, actions, perform, this));
-  if (panel.name() == "measurementsWindow")
+  if (&panel == &document_->measurementsPanel().panel())
     return withFields(new EDDFromMeasurementsDialog(*document_, services, actions, perform, this));
   return new AdjustDeliveryDialog(*document_, services, perform, this);
 }

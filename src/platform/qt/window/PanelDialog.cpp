@@ -4,7 +4,6 @@
 #include <QEvent>
 #include <QLayout>
 #include <QPushButton>
-#include <algorithm>
 #include <utility>
 
 #include "base/Text.h"
@@ -17,10 +16,7 @@ PanelDialog::PanelDialog(app::NCDocument& document, Perform perform, QWidget* pa
 
 void PanelDialog::bindPanel() {
   title_ = windowTitle();
-  for (framework::Panel* panel : document_->panels()) {
-    if (fromUtf8(panel->name()) == objectName()) panel_ = panel;
-  }
-  foundation::required(panel_);
+  panel_ = foundation::required(document_->panelNamed(toUtf8(objectName())));
   // With the focus it would become the button that Return presses, this time and the next.
   for (QDialogButtonBox* box : findChildren<QDialogButtonBox*>()) {
     if (QPushButton* cancel = box->button(QDialogButtonBox::Cancel)) cancel->setAutoDefault(false);
@@ -55,9 +51,7 @@ void PanelDialog::done(int result) {
 }
 
 framework::TextField& PanelDialog::fieldFor(const QWidget& widget) const {
-  const auto fields = document_->textFields();
-  const auto found = std::ranges::find(fields, toUtf8(widget.objectName()), &framework::TextField::name);
-  return *foundation::required(found != fields.end() ? *found : nullptr);
+  return *foundation::required(document_->fieldNamed(toUtf8(widget.objectName())));
 }
 
 void PanelDialog::followPanel() {
