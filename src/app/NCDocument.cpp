@@ -23,7 +23,9 @@ NCDocument::NCDocument(const framework::DocumentEnvironment& environment)
       pages_(services(), *this) {
   textFields_ = {&referenceIDField(), &gravidaField_, &birthDateField(), &examDateField(), &ageField(),
                  &bpdField_,          &hcField_,      &acField_,         &flField_};
-  for (framework::TextField& header : headers_) textFields_.push_back(&header);
+  for (const model::PatientPageFacts& each : model::kPatientPages) {
+    if (!each.titleField.empty()) textFields_.push_back(&headers_.emplace_back(std::string(each.titleField)));
+  }
   for (DatingPanel* each : datingPanels_) {
     panels_.push_back(&each->panel());
     textFields_.insert(textFields_.end(), each->fields().begin(), each->fields().end());

@@ -3,6 +3,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <deque>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -339,8 +340,8 @@ class NCDocument final : public framework::CorvelDocument,
   framework::NumberField& fieldFor(calc::Measurement measurement);
   /// The measurement that `field` shows; nothing for another field.
   std::optional<calc::Measurement> measurementOf(const framework::TextField& field);
-  /// Shows `title`, as `shown`, over that page.
-  void setHeader(std::size_t page, const std::string& title, const std::string& shown);
+  /// Shows `title`, as `shown`, over a page that has a title line.
+  void setHeader(model::PatientPage page, const std::string& title, const std::string& shown);
   std::string gravidaAndFetus(bool withFetus) const;
   bool mayModify(const std::string& message, const std::string& information);
   const model::NCRecord* examination(std::int64_t exam) const;
@@ -385,11 +386,8 @@ class NCDocument final : public framework::CorvelDocument,
   framework::NumberField acField_;
   framework::NumberField flField_;
   framework::PopUpButton multiplePopUp_;
-  /// The title lines of the pages, in their order; the report, the last page, has none.
-  std::array<framework::TextField, 6> headers_{
-      framework::TextField("headerSummaryField"), framework::TextField("headerBPDField"),
-      framework::TextField("headerHCField"),      framework::TextField("headerACField"),
-      framework::TextField("headerFLField"),      framework::TextField("headerEFWField")};
+  /// The title lines of the pages that have one, in their order.
+  std::deque<framework::TextField> headers_;
   const FieldReader reader_{services(), fieldEditor()};
   CRLPanel crlPanel_{reader_};
   LastPeriodPanel lastPeriodPanel_{reader_};

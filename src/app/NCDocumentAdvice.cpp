@@ -1,7 +1,6 @@
 // What the window says over a page that lacks something.
 
 #include <algorithm>
-#include <array>
 
 #include "app/NCDocument.h"
 #include "calc/FetalWeight.h"
@@ -11,18 +10,9 @@
 namespace nascor::app {
 
 using charts::NascorGraphView;
-using foundation::translatable;
+using model::PatientPage;
 
 namespace {
-
-constexpr std::array<std::string_view, PatientPages::kNumberOfPages> kWithoutLengths{
-    translatable("NCDocument", "No lengths, so no marks. Type BPD, HC, AC or FL beside the page."),
-    translatable("NCDocument", "No BPD, so no marks. Type it beside the page."),
-    translatable("NCDocument", "No HC, so no marks. Type it beside the page."),
-    translatable("NCDocument", "No AC, so no marks. Type it beside the page."),
-    translatable("NCDocument", "No FL, so no marks. Type it beside the page."),
-    translatable("NCDocument", "No weight, so no marks. Type the lengths that the formula needs."),
-    translatable("NCDocument", "No lengths. Type BPD, HC, AC or FL beside the page.")};
 
 /// Whether an examination has a value that the chart would plot.
 bool hasValues(const NascorGraphView& chart, std::uint64_t examinations) {
@@ -44,29 +34,18 @@ bool isReported(const NCDocument& document) {
   return false;
 }
 
-/// Whether the page has a value to show.
-bool isMeasured(const NCDocument& document, std::int64_t page) {
-  if (page == PatientPages::kReportPage) return isReported(document);
-  const std::uint64_t examinations = document.patientRecord()->ncRecordsArray().size();
-  const auto isPlotted = [&](const NascorGraphView* chart) { return hasValues(*chart, examinations); };
-  if (page == PatientPages::kWeightPage) return isPlotted(&document.EFWGraph());
-  const std::array<const NascorGraphView*, 4> lengths{document.BPDGraph(), document.HCGraph(),
-                                                      document.ACGraph(), document.FLGraph()};
-  return page == 0 ? std::ranges::any_of(lengths, isPlotted)
-                   : isPlotted(lengths.at(static_cast<std::size_t>(page) - 1));
-}
-
 }  // namespace
 
-std::vector<std::string> NCDocument::adviceOnPage(std::int64_t page) const {
-  if (!patientRecord_ || page < 0 || page >= tabView().numberOfPages()) return {};
+std::vector<std::string> NCDocument::adviceOnPage(std::int64_t index) const {
+  const auto page = model::patientPageAt(index);
+  if (!patientRecord_ || !page) return {};
   const foundation::Localizer& localizer = services().localizer;
   const auto& examinations = patientRecord_->ncRecordsArray();
   if (examinations.empty())
     return {localizer.text("NCDocument", "No examination. Patient > Add Examination")};
 
-  const bool isReport = page == PatientPages::kReportPage;
-  const bool isWeight = page == PatientPages::kWeightPage;
+  const bool isReport = page == PatientPage::report;
+  const bool isWeight = page == PatientPage::weight;
   std::vector<std::string> advice;
   if (!calc::growthStandard(standard())) {
     advice.push_back(
@@ -90,8 +69,12 @@ std::vector<std::string> NCDocument::adviceOnPage(std::int64_t page) const {
                          : localizer.text("NCDocument", "No date, so no marks. Type it beside the page."));
   }
 
-  if (!isMeasured(*this, page) && (!isWeight || hasFormula))
-    advice.push_back(localizer.text("NCDocument", kWithoutLengths.at(static_cast<std::size_t>(page))));
+  const auto isPlotted = [&](const NascorGraphView* chart) { return hasValues(*chart, examinations.size()); };
+  const auto isMeasured = [&] {
+    return isReport ? isReported(*this) : std::ranges::any_of(pages_.graphsOn(*page), isPlotted);
+  };
+  if ((!isWeight || hasFormula) && !isMeasured())
+    advice.push_back(localizer.text("NCDocument", model::factsOf(*page).withoutValues));
   return advice;
 }
 

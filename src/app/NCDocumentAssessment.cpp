@@ -262,23 +262,17 @@ std::string NCDocument::obstacleText(const TextField& obstacle) const {
   return localizer.text("NCDocument", "The EDD would lie outside the calendar.");
 }
 
-std::string NCDocument::spokenPage(std::int64_t page) const {
-  const std::array<std::vector<const charts::NascorGraphView*>, PatientPages::kReportPage> graphs{
-      {{BPDGraph(), HCGraph(), ACGraph(), FLGraph()},
-       {BPDGraph()},
-       {HCGraph()},
-       {ACGraph()},
-       {FLGraph()},
-       {&EFWGraph()}}};
+std::string NCDocument::spokenPage(std::int64_t index) const {
+  const auto page = model::patientPageAt(index);
   std::string text;
-  if (page >= 0 && page < PatientPages::kReportPage) {
-    for (const charts::NascorGraphView* graph : graphs.at(static_cast<std::size_t>(page))) {
+  if (page) {
+    for (const charts::NascorGraphView* graph : pages_.graphsOn(*page)) {
       const std::string value = graph->spokenValue(currentExam());
       if (!value.empty()) text += value + " ";
     }
   }
   text += calc::growthStandardTitle(standard(), services().localizer);
-  if (page == PatientPages::kWeightPage)
+  if (page == model::PatientPage::weight)
     text += ". " + calc::fetalWeightTitle(fetalWeightStandard(), services().localizer);
   return text;
 }

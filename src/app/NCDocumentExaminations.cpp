@@ -136,7 +136,7 @@ void NCDocument::updateMultiplePopUp() {
   }
   if (currentFetus_ > count - 1) currentFetus_ = std::max<std::int64_t>(count - 1, 0);
   tabView().setNeedsDisplay();
-  setHeader(0, preferredFileName(true), shownTitle(true));
+  setHeader(model::PatientPage::trends, preferredFileName(true), shownTitle(true));
 }
 
 }  // namespace nascor::app

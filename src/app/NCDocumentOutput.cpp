@@ -11,12 +11,6 @@
 
 namespace nascor::app {
 
-namespace {
-
-constexpr std::int64_t kWeightPage = 5;
-
-}  // namespace
-
 std::vector<std::string> NCDocument::autoExport(const ExportProgress& goesOn) {
   std::vector<std::string> sentences;
   if (!commitsEditing()) {
@@ -25,17 +19,17 @@ std::vector<std::string> NCDocument::autoExport(const ExportProgress& goesOn) {
   } else if (patientRecord_) {
     // A damaged file may count more fetuses than can be chosen.
     const std::int64_t fetuses = std::min(patientRecord_->numberOfFetuses(), multiplePopUp_.numberOfItems());
-    const std::array<std::int64_t, 2> pages{0, tabView().numberOfPages() - 1};
+    const std::array pages{model::kPatientPages.front().page, model::kPatientPages.back().page};
     const std::int64_t total = std::max<std::int64_t>(fetuses, 0) * static_cast<std::int64_t>(pages.size());
     std::int64_t done = 0;
     for (std::int64_t fetus = 0; fetus < fetuses; ++fetus) {
-      for (const std::int64_t page : pages) {
+      for (const model::PatientPage page : pages) {
         if (goesOn && !goesOn(done, total)) return sentences;
         if (page == pages.front()) {
           multiplePopUp_.selectItemAtIndex(fetus);
           chooseFetus(multiplePopUp_);
         }
-        tabView().selectPage(page);
+        tabView().selectPage(model::indexOf(page));
         if (auto sentence = doExport(nullptr)) sentences.push_back(std::move(*sentence));
         ++done;
       }
@@ -47,9 +41,8 @@ std::vector<std::string> NCDocument::autoExport(const ExportProgress& goesOn) {
 void NCDocument::printDocumentWithSettings(const framework::PrintSettings& settings, bool showPrintPanel,
                                            const DidPrint& didPrint) {
   // One request, two prints: the page on show, and the weight page whichever is on show.
-  std::vector<std::int64_t> pages{tabView().indexOfSelectedPage()};
-  if (kWeightPage < tabView().numberOfPages()) pages.push_back(kWeightPage);
-  printPages(pages, settings, showPrintPanel, didPrint);
+  printPages({tabView().indexOfSelectedPage(), model::indexOf(model::PatientPage::weight)}, settings,
+             showPrintPanel, didPrint);
 }
 
 framework::PageFoot NCDocument::footOfPage(std::int64_t index, std::int64_t number,
@@ -72,7 +65,7 @@ framework::PageFoot NCDocument::footOfPage(std::int64_t index, std::int64_t numb
 
   std::string leftOut;
   const std::int64_t examinationCount = numberOfExaminations();
-  if (index == tabView().numberOfPages() - 1) {
+  if (index == model::indexOf(model::PatientPage::report)) {
     tabView().page(index).layout(framework::Page::kWidth, framework::Page::kHeight);
     const std::int64_t shown = report().examinationsShown();
     if (shown < examinationCount) {

@@ -145,15 +145,17 @@ void NCDocument::updateDisplay() {
   CorvelDocument::updateDisplay();
   const std::string title = preferredFileName(true);
   const std::string shown = shownTitle(true);
-  for (std::size_t page = 0; page < headers_.size(); ++page) setHeader(page, title, shown);
+  for (const model::PatientPageFacts& each : model::kPatientPages) setHeader(each.page, title, shown);
   ageField().setText(menstrualAgeStringForRecord(static_cast<std::uint64_t>(currentExam())));
   assess();
   tabView().setNeedsDisplay();
 }
 
-void NCDocument::setHeader(std::size_t page, const std::string& title, const std::string& shown) {
-  headers_.at(page).setText(title);
-  pages_.pages().at(page).setTitle(shown);
+void NCDocument::setHeader(model::PatientPage page, const std::string& title, const std::string& shown) {
+  TextField* field = fieldNamed(model::factsOf(page).titleField);
+  if (field == nullptr) return;
+  field->setText(title);
+  pages_.pages().at(model::placeOf(page)).setTitle(shown);
 }
 
 void NCDocument::switchToGraph(std::int64_t tabIndex) { tabView().selectPage(tabIndex); }

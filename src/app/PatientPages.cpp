@@ -7,7 +7,9 @@
 namespace nascor::app {
 namespace {
 
+using calc::Measurement;
 using framework::Rect;
+using model::PatientPage;
 
 constexpr double kMargin = 10.0;
 constexpr double kTitleHeight = 30.0;
@@ -87,20 +89,21 @@ View& PatientPages::add() {
 template <class Summary>
 void PatientPages::addSummary(std::size_t row, std::size_t column) {
   auto& chart = add<Summary>();
-  pages_.front().addCaption(chart.yTitle(), chart.facts().points, captionOver(row, column));
-  pages_.front().addView(chart, summary(row, column));
+  page(PatientPage::trends).addCaption(chart.yTitle(), chart.facts().points, captionOver(row, column));
+  page(PatientPage::trends).addView(chart, summary(row, column));
 }
 
 template <class Chart, class Strip>
-Chart& PatientPages::addChartPage(std::size_t page) {
+Chart* PatientPages::addChartPage(PatientPage which) {
   auto& chart = add<Chart>();
-  pages_.at(page).addView(chart, chartPlacement);
-  pages_.at(page).addView(add<Strip>(), stripPlacement);
-  return chart;
+  page(which).addView(chart, chartPlacement);
+  page(which).addView(add<Strip>(), stripPlacement);
+  return &chart;
 }
 
 PatientPages::PatientPages(const foundation::Services& services, charts::ChartDocument& document)
     : services_(services), document_(document) {
+  for (const model::PatientPageFacts& each : model::kPatientPages) pages_.emplace_back(each.name);
   addTrends();
   addCharts();
 }
@@ -111,18 +114,26 @@ void PatientPages::addTrends() {
   addSummary<charts::AbdoCircumferenceSummaryGraphView>(1, 0);
   addSummary<charts::FemurLengthSummaryGraphView>(1, 1);
   for (const std::size_t column : {0U, 1U}) {
-    pages_.front().addView(add<charts::NoYaxisGraphView>(), trendsStrip(column));
+    page(PatientPage::trends).addView(add<charts::NoYaxisGraphView>(), trendsStrip(column));
   }
 }
 
 void PatientPages::addCharts() {
-  graphs_ = {&addChartPage<charts::BPDGraphView, charts::NoYaxisGraphView>(1),
-             &addChartPage<charts::HeadCircumferenceGraphView, charts::NoYaxisGraphView>(2),
-             &addChartPage<charts::AbdoCircumferenceGraphView, charts::NoYaxisGraphView>(3),
-             &addChartPage<charts::FemurLengthGraphView, charts::NoYaxisGraphView>(4)};
-  efwGraph_ = &addChartPage<charts::EFWGraphView, charts::NoYaxisEFWGraphView>(kWeightPage);
+  using charts::NoYaxisGraphView;
+  graphs_ = {addChartPage<charts::BPDGraphView, NoYaxisGraphView>(PatientPage::bpd),
+             addChartPage<charts::HeadCircumferenceGraphView, NoYaxisGraphView>(PatientPage::hc),
+             addChartPage<charts::AbdoCircumferenceGraphView, NoYaxisGraphView>(PatientPage::ac),
+             addChartPage<charts::FemurLengthGraphView, NoYaxisGraphView>(PatientPage::fl)};
+  efwGraph_ = addChartPage<charts::EFWGraphView, charts::NoYaxisEFWGraphView>(PatientPage::weight);
   report_ = &add<charts::NascorDataView>();
-  pages_.at(kReportPage).addView(*report_, wholePage);
+  page(PatientPage::report).addView(*report_, wholePage);
+}
+
+std::vector<const charts::NascorGraphView*> PatientPages::graphsOn(PatientPage page) const {
+  if (const auto length = model::factsOf(page).length) return {&graph(*length)};
+  if (page == PatientPage::trends) return {graphs_.begin(), graphs_.end()};
+  if (page == PatientPage::weight) return {efwGraph_};
+  return {};
 }
 
 }  // namespace nascor::app

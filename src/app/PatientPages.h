@@ -1,7 +1,7 @@
 #pragma once
 
 #include <array>
-#include <cstdint>
+#include <deque>
 #include <vector>
 
 #include "calc/Biometry.h"
@@ -11,27 +11,26 @@
 #include "foundation/Services.h"
 #include "framework/MakeView.h"
 #include "framework/Page.h"
+#include "model/PatientPage.h"
 
 namespace nascor::app {
 
-/// The pages of a document and the views on them: trends, a page for each measurement, weight, report.
+/// The pages of a document, those of `model::kPatientPages`, and the views on them.
 class PatientPages {
  public:
   /// The views belong to `document`, which outlives them.
   PatientPages(const foundation::Services& services, charts::ChartDocument& document);
 
-  static constexpr std::size_t kNumberOfPages = 7;
-  static constexpr std::int64_t kWeightPage = 5;
-  static constexpr std::int64_t kReportPage = 6;
-
-  std::array<framework::Page, kNumberOfPages>& pages() { return pages_; }
-  const std::array<framework::Page, kNumberOfPages>& pages() const { return pages_; }
+  std::deque<framework::Page>& pages() { return pages_; }
+  const std::deque<framework::Page>& pages() const { return pages_; }
 
   charts::NascorGraphView& graph(calc::Measurement length) const {
     return *graphs_.at(static_cast<std::size_t>(length));
   }
   charts::NascorGraphView& efwGraph() const { return *efwGraph_; }
   charts::NascorDataView& report() const { return *report_; }
+  /// The charts whose marks that page shows; none for the report.
+  std::vector<const charts::NascorGraphView*> graphsOn(model::PatientPage page) const;
 
  private:
   template <class View>
@@ -39,8 +38,9 @@ class PatientPages {
   template <class Summary>
   void addSummary(std::size_t row, std::size_t column);
   template <class Chart, class Strip>
-  Chart& addChartPage(std::size_t page);
+  Chart* addChartPage(model::PatientPage page);
 
+  framework::Page& page(model::PatientPage page) { return pages_.at(model::placeOf(page)); }
   void addTrends();
   void addCharts();
 
@@ -50,14 +50,7 @@ class PatientPages {
   std::array<charts::NascorGraphView*, calc::kMeasurements.size()> graphs_{};
   charts::NascorGraphView* efwGraph_ = nullptr;
   charts::NascorDataView* report_ = nullptr;
-  std::array<framework::Page, kNumberOfPages> pages_{
-      framework::Page(foundation::translatable("MyDocument", "Trends")),
-      framework::Page(foundation::translatable("MyDocument", "BPD")),
-      framework::Page(foundation::translatable("MyDocument", "HC")),
-      framework::Page(foundation::translatable("MyDocument", "AC")),
-      framework::Page(foundation::translatable("MyDocument", "FL")),
-      framework::Page(foundation::translatable("MyDocument", "Weight")),
-      framework::Page(foundation::translatable("MyDocument", "Report"))};
+  std::deque<framework::Page> pages_;
 };
 
 }  // namespace nascor::app

@@ -12,6 +12,7 @@
 #include "foundation/Localizer.h"
 #include "foundation/NumberText.h"
 #include "foundation/UserDefaults.h"
+#include "model/PatientPage.h"
 
 namespace nascor::charts {
 
@@ -247,8 +248,7 @@ void NascorGraphView::mouseDown(const framework::MouseEvent& event) {
 }
 
 void NascorGraphView::switchToSingleGraphFromTrends() {
-  constexpr std::int64_t kTrends = 0;
-  if (owningDocument()) owningDocument()->switchToGraph(kTrends);
+  if (owningDocument()) owningDocument()->switchToGraph(model::indexOf(model::PatientPage::trends));
 }
 
 std::string NascorGraphView::toolTipAt(Point point) const {

@@ -1,12 +1,13 @@
 #pragma once
 
 #include "charts/MeasurementCharts.h"
+#include "model/PatientPage.h"
 
 namespace nascor::charts {
 
 /// A chart as the trends page shows it: without vertical axis and frame. A double click in its band opens the chart's own
 /// page.
-template <class Chart, std::int64_t kOwnPage>
+template <class Chart, model::PatientPage kOwnPage>
 class SummaryOf : public Chart {
  public:
   using Chart::Chart;
@@ -14,12 +15,12 @@ class SummaryOf : public Chart {
  protected:
   void drawYAxis() override {}
   void switchToSingleGraphFromTrends() override {
-    if (this->owningDocument()) this->owningDocument()->switchToGraph(kOwnPage);
+    if (this->owningDocument()) this->owningDocument()->switchToGraph(model::indexOf(kOwnPage));
   }
 };
 
 /// The one that keeps the legend, so that the page shows it once.
-class BPDSummaryGraphView final : public SummaryOf<BPDGraphView, 1> {
+class BPDSummaryGraphView final : public SummaryOf<BPDGraphView, model::PatientPage::bpd> {
  public:
   using SummaryOf::SummaryOf;
   std::string_view className() const override { return "BPDSummaryGraphView"; }
@@ -29,7 +30,8 @@ class BPDSummaryGraphView final : public SummaryOf<BPDGraphView, 1> {
   }
 };
 
-class HeadCircumferenceSummaryGraphView final : public SummaryOf<HeadCircumferenceGraphView, 2> {
+class HeadCircumferenceSummaryGraphView final
+    : public SummaryOf<HeadCircumferenceGraphView, model::PatientPage::hc> {
  public:
   using SummaryOf::SummaryOf;
   std::string_view className() const override { return "HeadCircumferenceSummaryGraphView"; }
@@ -38,7 +40,8 @@ class HeadCircumferenceSummaryGraphView final : public SummaryOf<HeadCircumferen
   void drawLegend() override {}
 };
 
-class AbdoCircumferenceSummaryGraphView final : public SummaryOf<AbdoCircumferenceGraphView, 3> {
+class AbdoCircumferenceSummaryGraphView final
+    : public SummaryOf<AbdoCircumferenceGraphView, model::PatientPage::ac> {
  public:
   using SummaryOf::SummaryOf;
   std::string_view className() const override { return "AbdoCircumferenceSummaryGraphView"; }
@@ -47,7 +50,7 @@ class AbdoCircumferenceSummaryGraphView final : public SummaryOf<AbdoCircumferen
   void drawLegend() override {}
 };
 
-class FemurLengthSummaryGraphView final : public SummaryOf<FemurLengthGraphView, 4> {
+class FemurLengthSummaryGraphView final : public SummaryOf<FemurLengthGraphView, model::PatientPage::fl> {
  public:
   using SummaryOf::SummaryOf;
   std::string_view className() const override { return "FemurLengthSummaryGraphView"; }

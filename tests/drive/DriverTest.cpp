@@ -8,6 +8,8 @@
 #include <filesystem>
 #include <string>
 
+#include "model/PatientPage.h"
+
 namespace nascor::drive {
 namespace {
 
@@ -29,8 +31,9 @@ TEST_F(ADriver, drawsTheTitlesOfAStripWithinItsViewAtAnySize) {
   say(R"({"new":true})");
   for (const int width : {1600, 800, 799, 640, 440, 300}) {
     for (const int height : {1100, 560, 300, 200}) {
-      for (int page = 0; page <= 5; ++page) {
-        const Json line{{"draw", {page, width, height}}};
+      for (const model::PatientPageFacts& each : model::kPatientPages) {
+        if (each.page == model::PatientPage::report) continue;
+        const Json line{{"draw", {model::indexOf(each.page), width, height}}};
         Json view;
         int titles = 0;
         const Json drawn = say(line.dump())["draw"];
@@ -49,7 +52,7 @@ TEST_F(ADriver, drawsTheTitlesOfAStripWithinItsViewAtAnySize) {
           EXPECT_GE(entry[4], 0) << where;
           EXPECT_LE(entry[4].get<double>() + kTextHeight, view[2][3].get<double>()) << where;
         }
-        EXPECT_EQ(titles, page == 0 ? 2 : 1) << line;
+        EXPECT_EQ(titles, each.page == model::PatientPage::trends ? 2 : 1) << line;
       }
     }
   }

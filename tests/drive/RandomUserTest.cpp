@@ -10,9 +10,13 @@
 #include <vector>
 
 #include "drive/Driver.h"
+#include "model/PatientPage.h"
 
 namespace nascor::drive {
 namespace {
+
+using model::PatientPage;
+using model::placeOf;
 
 constexpr int kActions = 5000;
 constexpr std::size_t kMostExaminations = 6;
@@ -463,11 +467,11 @@ class RandomUser {
 
   /// Most clicks are near the mean of the BPD, where the band is; the others anywhere.
   void clickOnAPage() {
-    std::size_t page = pick(7);
+    std::size_t page = pick(model::kPatientPages.size());
     auto x = static_cast<double>(pick(800));
     auto y = static_cast<double>(pick(560));
     if (chance(0.8)) {
-      page = 1;
+      page = placeOf(PatientPage::bpd);
       const double week = 14.0 + static_cast<double>(pick(26));
       x = 60.0 + (week - 8.0) / 34.0 * 720.0;
       y = 495.0 - (-31.546 + 4.69 * week - 0.0371 * week * week) / 120.0 * 460.0;
@@ -480,12 +484,13 @@ class RandomUser {
     if (!isDated || presses != 1) {
       EXPECT_EQ(now["currentExam"], before_["currentExam"]) << where();
     }
-    if (presses == 2 && page == 0) {
-      EXPECT_LE(now["tab"], 4) << where();
-    } else if (presses != 2 || page == 6) {
+    constexpr std::size_t kTrends = placeOf(PatientPage::trends);
+    if (presses == 2 && page == kTrends) {
+      EXPECT_LE(now["tab"], placeOf(PatientPage::fl)) << where();
+    } else if (presses != 2 || page == placeOf(PatientPage::report)) {
       EXPECT_EQ(now["tab"], page) << where();
     } else {
-      EXPECT_TRUE(now["tab"] == page || now["tab"] == 0) << where();
+      EXPECT_TRUE(now["tab"] == page || now["tab"] == kTrends) << where();
     }
     expectExaminations(now, expectedExaminations(), Order::same, Note::isStored);
     count("page clicked");
@@ -545,7 +550,7 @@ class RandomUser {
   }
 
   void turnThePage() {
-    const std::size_t page = pick(7);
+    const std::size_t page = pick(model::kPatientPages.size());
     say({{"tab", page}});
     const Json now = state();
     EXPECT_EQ(now["tab"], page) << where();

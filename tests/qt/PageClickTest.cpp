@@ -146,7 +146,7 @@ TEST_F(TheMouseOnAPage, copiesTheReportAsATable) {
   EXPECT_THAT(copied->text().toStdString(),
               testing::HasSubstr("\n9/26/26\t12w 0d\t20.0\t0.0\t0.0\t0.0\t-\n"));
   EXPECT_EQ(copied->data(QStringLiteral("text/tab-separated-values")), copied->text().toUtf8());
-  widget<QTabWidget>("tabView").setCurrentIndex(app::PatientPages::kReportPage);
+  widget<QTabWidget>("tabView").setCurrentIndex(static_cast<int>(model::indexOf(model::PatientPage::report)));
   EXPECT_THAT(widget<QWidget>("ReportPage").accessibleDescription().toStdString(),
               testing::HasSubstr("9/26/26\t12w 0d\t20.0"));
 }

@@ -22,6 +22,7 @@ namespace {
 
 using framework::NamedColor;
 using framework::PageFormat;
+using model::PatientPage;
 using testing::ContainsRegex;
 using testing::ElementsAre;
 using testing::HasSubstr;
@@ -51,7 +52,7 @@ class WritingPages : public testing::Test {
   qt::PageExport wanted{.folder = {},
                         .files = {},
                         .formats = {PageFormat::png, PageFormat::pdf},
-                        .pages = {1},
+                        .pages = {PatientPage::bpd},
                         .fetus = std::nullopt,
                         .hasFoot = false};
 
@@ -118,7 +119,7 @@ TEST_F(WritingPages, makesThePdfOneSheetOfAPointToTheUnit) {
 TEST_F(WritingPages, saysInEveryFileWhoseItIsWhoMadeItAndWhatItIsAbout) {
   model::PatientRecord record = singleton();
   record.setMaternalIDString("\u00c5 <B> & (C)");
-  wanted.pages = {6};
+  wanted.pages = {PatientPage::report};
   wanted.formats = {PageFormat::pdf, PageFormat::png, PageFormat::svg};
   write({file("a.nascor", documentBytes(record))});
   const std::string title = "\u00c5 <B> & (C) (G2)";
@@ -215,7 +216,7 @@ TEST_F(WritingPages, writesAllPagesOfADocumentIntoOnePdf) {
 }
 
 TEST_F(WritingPages, choosesPagesAndFetus) {
-  wanted.pages = {0, -1};
+  wanted.pages = {PatientPage::trends, PatientPage::report};
   wanted.fetus = 1;
   wanted.formats = {PageFormat::svg};
   const auto written = write({file("a.nascor", documentBytes(twins()))});
@@ -229,7 +230,7 @@ TEST_F(WritingPages, choosesPagesAndFetus) {
 
 TEST_F(WritingPages, identifiesEachPageUnderneath) {
   wanted.hasFoot = true;
-  wanted.pages = {1, 2};
+  wanted.pages = {PatientPage::bpd, PatientPage::hc};
   write({file("a.nascor", documentBytes(twins()))});
   const std::string text = textOf(out("a.pdf"));
   for (const char* expected :
@@ -319,27 +320,6 @@ TEST_F(WritingPages, writesDrawingsOfValidXmlWithNamedFonts) {
   EXPECT_TRUE(texts.contains(QStringLiteral("<A&B>\\x01\"' (G2)"))) << texts.join(u'|').toStdString();
   EXPECT_TRUE(texts.contains(QStringLiteral("Menstrual Age (Weeks)")));
 }
-
-struct PagesCase {
-  const char* name;
-  const char* text;
-  std::optional<std::vector<std::int64_t>> pages;
-};
-class PagesOfAText : public testing::TestWithParam<PagesCase> {};
-TEST_P(PagesOfAText, areRead) {
-  EXPECT_EQ(qt::pagesFromText(QLatin1String(GetParam().text)), GetParam().pages);
-}
-INSTANTIATE_TEST_SUITE_P(
-    texts, PagesOfAText,
-    testing::Values(PagesCase{"all", "all", std::vector<std::int64_t>{}},
-                    PagesCase{"ends", "first,last", std::vector<std::int64_t>{0, -1}},
-                    PagesCase{"numbers", "6,0", std::vector<std::int64_t>{6, 0}},
-                    PagesCase{"names", "weight,bpd,report", std::vector<std::int64_t>{5, 1, 6}},
-                    PagesCase{"tooGreat", "7", std::nullopt}, PagesCase{"negative", "-1", std::nullopt},
-                    PagesCase{"empty", "", std::nullopt}, PagesCase{"gap", "1,,2", std::nullopt},
-                    PagesCase{"capitals", "BPD,Weight", std::vector<std::int64_t>{1, 5}},
-                    PagesCase{"unknown", "chart", std::nullopt}),
-    [](const auto& row) { return std::string(row.param.name); });
 
 struct NameCase {
   const char* name;

@@ -11,31 +11,22 @@
 #include "cli_commands/Command.h"
 #include "cli_commands/Names.h"
 #include "cli_commands/RecordExport.h"
+#include "model/PatientPage.h"
 
 namespace nascor::cli {
 
 namespace {
 
 constexpr std::array<std::string_view, 3> kFormats{"pdf", "png", "svg"};
-constexpr std::array<std::string_view, 9> kPageNames{"first", "last", "trends", "bpd",   "hc",
-                                                     "ac",    "fl",   "weight", "report"};
 
-bool isPage(std::string_view text) {
-  const bool isNumber = text.size() == 1 && text[0] >= '0' && text[0] <= '6';
-  return isNumber || std::ranges::find(kPageNames, text) != kPageNames.end();
-}
+std::string lastPageNumber() { return std::to_string(model::kPatientPages.size() - 1); }
 
-void checkPages(std::string_view pages) {
-  if (inSmallLetters(pages) == "all") return;
-  for (std::size_t start = 0; start <= pages.size();) {
-    const std::size_t end = std::min(pages.find(',', start), pages.size());
-    const std::string_view page = pages.substr(start, end - start);
-    if (!isPage(inSmallLetters(page))) {  // the window calls them BPD and HC
-      throw UsageError("--pages: expected all, first, last, a number from 0 to 6 or a name, but \"" +
-                       std::string(page) + "\" stands here");
-    }
-    start = end + 1;
-  }
+/// Lengths in capitals, as the window calls them.
+std::string namesOfPages() {
+  std::string names;
+  for (const model::PatientPageFacts& each : model::kPatientPages)
+    names.append(names.empty() ? "" : ", ").append(each.length ? each.name : each.word);
+  return names;
 }
 
 void checkFetus(std::string_view fetus) {
@@ -57,7 +48,10 @@ void exportPages(const std::string& format, const Arguments& arguments, Console&
     throw UsageError("--format: expected pdf, png, svg, sr or fhir");
   if (arguments.has("ndjson")) throw UsageError("--ndjson is for --format fhir");
   const std::string pages = arguments.option("pages").value_or("all");
-  checkPages(pages);
+  if (const auto refused = model::chosenPages(pages).refused) {
+    throw UsageError("--pages: expected all, first, last, a number from 0 to " + lastPageNumber() +
+                     " or a name, but \"" + *refused + "\" stands here");
+  }
   const std::string fetus = inSmallLetters(arguments.option("fetus").value_or("all"));
   checkFetus(fetus);
 
@@ -105,6 +99,7 @@ void runExport(const Arguments& arguments, Console& console) {
 Command exportCommand() {
   static constexpr std::array<OperandSpec, 1> kOperands{
       {{"FILE...", "a document; - is standard input", true}}};
+  static_assert(model::kPatientPages.size() == 7, "the help of --pages says 0 to 6");
   static constexpr std::array<OptionSpec, 7> kOptions{{
       {"out", "DIR",
        "the folder for the files, which is made when it is missing; - is standard output, for one file"},
@@ -122,7 +117,8 @@ Command exportCommand() {
           "[--no-foot] [--ndjson]",
       .summary = "Writes the pages of each document, or its numbers for other programs.",
       .details =
-          "Names of pages: trends, BPD, HC, AC, FL, weight, report (0 to 6), in letters of any size.\n"
+          "Names of pages: " + namesOfPages() + " (0 to " + lastPageNumber() +
+          "), in letters of any size.\n"
           "As PDF all pages of a document are one file; else each is a file of its own.\n"
           "Files of the same names are replaced, but with --no-clobber.\n"
           "sr: a DICOM structured report (Comprehensive SR) for each examination, \"NAME 1.dcm\", ...\n"

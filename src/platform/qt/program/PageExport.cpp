@@ -27,8 +27,6 @@ using framework::PageFormat;
 
 namespace {
 
-constexpr std::int64_t kLastPage = -1;
-
 /// Answers every question by its default: an export has no user to ask.
 class NoAlerts final : public framework::Alerts {
  public:
@@ -157,19 +155,13 @@ class Export {
   }
 
   std::vector<Place> placesOf(const app::NCDocument& document) const {
-    const std::int64_t count = document.tabView().numberOfPages();
-    std::vector<std::int64_t> pages = wanted_.pages;
-    if (pages.empty()) {
-      for (std::int64_t page = 0; page < count; ++page) pages.push_back(page);
-    }
+    const auto pages = wanted_.pages.empty() ? model::chosenPages("all").pages : wanted_.pages;
     // A damaged file counts more fetuses than can be chosen; its first is there all the same.
     const std::int64_t fetuses = std::max<std::int64_t>(document.multiplePopUp().numberOfItems(), 1);
     std::vector<Place> places;
     for (std::int64_t fetus = 0; fetus < fetuses; ++fetus) {
       if (wanted_.fetus && *wanted_.fetus != fetus) continue;
-      for (const std::int64_t page : pages) {
-        if (page < count) places.push_back({fetus, page == kLastPage ? count - 1 : page});
-      }
+      for (const model::PatientPage page : pages) places.push_back({fetus, model::indexOf(page)});
     }
     return places;
   }
@@ -260,30 +252,6 @@ class Export {
 };
 
 }  // namespace
-
-std::optional<std::vector<std::int64_t>> pagesFromText(const QString& text) {
-  static constexpr std::array<const char*, 7> kNames{"trends", "bpd", "hc", "ac", "fl", "weight", "report"};
-  std::vector<std::int64_t> pages;
-  if (text.toLower() == QLatin1String("all")) return pages;
-  for (const QString& part : text.toLower().split(u',')) {
-    const auto name =
-        std::ranges::find_if(kNames, [&](const char* each) { return part == QLatin1String(each); });
-    bool isNumber = false;
-    const int number = part.toInt(&isNumber);
-    if (name != kNames.end()) {
-      pages.push_back(name - kNames.begin());
-    } else if (part == QLatin1String("first")) {
-      pages.push_back(0);
-    } else if (part == QLatin1String("last")) {
-      pages.push_back(kLastPage);
-    } else if (isNumber && number >= 0 && number < static_cast<int>(kNames.size())) {
-      pages.push_back(number);
-    } else {
-      return std::nullopt;
-    }
-  }
-  return pages;
-}
 
 QString fileNameFrom(const QString& stem) {
   constexpr qsizetype kLongestStem = 200;

@@ -9,6 +9,7 @@
 
 #include "foundation/Services.h"
 #include "framework/PageWriter.h"
+#include "model/PatientPage.h"
 #include "painting/PageFiles.h"
 
 namespace nascor::qt {
@@ -18,8 +19,8 @@ struct PageExport {
   QString folder;
   QStringList files;  ///< documents
   std::vector<framework::PageFormat> formats{framework::PageFormat::pdf};
-  /// Pages in the order of the window, the first is 0; all of them when there is none. The last may be given as -1.
-  std::vector<std::int64_t> pages{};
+  /// In the order of the files; all of them when there is none.
+  std::vector<model::PatientPage> pages{};
   /// One fetus, the first is 0; nothing for all.
   std::optional<std::int64_t> fetus{};
   bool hasFoot = true;
@@ -42,10 +43,6 @@ struct WrittenPages {
 /// file, else each page in a file of its own. Files of the same names are replaced, but documents of the same name do
 /// not replace each other's pages. A failure ends neither the document's other files nor the other documents.
 WrittenPages exportPages(const PageExport& wanted, const foundation::Services& services);
-
-/// The pages of a text such as "all", "first,last" or "0,weight,report": numbers from 0 or names. Nothing for a text
-/// that is none.
-std::optional<std::vector<std::int64_t>> pagesFromText(const QString& text);
 
 /// `stem` as the beginning of a file name: without signs that end a name or lead out of its folder, short enough for
 /// an ending of 50 bytes; "Untitled" for an empty one.

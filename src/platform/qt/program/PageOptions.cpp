@@ -68,9 +68,9 @@ std::optional<PageExport> PageOptions::read(const QCommandLineParser& parser, QS
     wanted.formats = {*format};
   }
   if (parser.isSet(pages_)) {
-    const auto pages = pagesFromText(parser.value(pages_));
-    if (!pages) return refused(pages_);
-    wanted.pages = *pages;
+    const model::ChosenPages chosen = model::chosenPages(toUtf8(parser.value(pages_)));
+    if (chosen.refused) return refused(pages_);
+    wanted.pages = chosen.pages;
   }
   if (parser.isSet(fetus_) && parser.value(fetus_) != QLatin1String("all")) {
     const int number = parser.value(fetus_).toInt();

@@ -71,7 +71,7 @@ void PageTabs::update() {
   for (const std::string& sentence : document_->adviceOnPage(shown)) advice << fromUtf8(sentence);
   views_.at(static_cast<std::size_t>(shown))->setAdvice(advice.join(u'\n'));
   views_.at(static_cast<std::size_t>(shown))
-      ->setDescription(shown == app::PatientPages::kReportPage
+      ->setDescription(shown == model::indexOf(model::PatientPage::report)
                            ? fromUtf8(document_->report().shownText())
                            : said("MyDocument", "Growth chart of %1. Examination %2, %3. %4")
                                  .arg(fromUtf8(document_->shownTitle(true)), parts_.examination.text(),
