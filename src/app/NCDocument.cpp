@@ -6,11 +6,11 @@
 #include <utility>
 
 #include "calc/Dating.h"
-#include "calc/Projection.h"
 #include "foundation/Calendar.h"
 #include "foundation/ConvertInteger.h"
 #include "foundation/Localizer.h"
 #include "model/PatientFile.h"
+#include "model/PatientReport.h"
 
 namespace nascor::app {
 NCDocument::NCDocument(const framework::DocumentEnvironment& environment)
@@ -203,9 +203,9 @@ double NCDocument::projected(double (model::MeasurementsRecord::*value)() const,
   (extrapolatedMeasurementsRecord_.*store)(0.0);
   if (!patientRecord_) return 0.0;
   const model::MeasurementsRecord* last = lastMeasurementsRecordForCurrentFetus();
-  const double age = menstrualAgeForRecord(static_cast<std::uint64_t>(numberOfExaminations() - 1));
-  const double result = calc::projectedValue(graph.standardData(), last ? (last->*value)() : 0.0, age,
-                                             patientRecord_->extrapolatedGestation());
+  const model::PatientReport report(*patientRecord_, patientRecord_->extrapolatedGestation());
+  const double result =
+      report.projectedLength(last != nullptr ? (last->*value)() : 0.0, graph.standardData());
   (extrapolatedMeasurementsRecord_.*store)(result);
   return result;
 }

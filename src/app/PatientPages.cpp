@@ -7,7 +7,6 @@
 namespace nascor::app {
 namespace {
 
-using calc::Measurement;
 using framework::Rect;
 using model::PatientPage;
 

@@ -5,12 +5,10 @@
 #include <span>
 
 #include "calc/FetalWeight.h"
-#include "calc/Projection.h"
 #include "calc/Report.h"
 #include "foundation/Assertion.h"
 #include "foundation/DateText.h"
 #include "foundation/Localizer.h"
-#include "foundation/NumberText.h"
 #include "foundation/UserDefaults.h"
 #include "foundation/Utf8.h"
 #include "framework/LongestBeginning.h"
@@ -19,6 +17,7 @@ namespace nascor::charts {
 namespace {
 
 using framework::NamedColor;
+using model::PatientReport;
 
 constexpr double kLine = 24.0;
 constexpr double kColumn = 86.0;
@@ -45,82 +44,54 @@ void NascorDataView::resetStandards() {
   setReferenceTitle(calc::fetalWeightTitle(formula, services().localizer));
 }
 
-bool NascorDataView::projectionIsShown() const {
+std::optional<PatientReport> NascorDataView::report() const {
+  if (!owningDocument() || !owningDocument()->patientRecord()) return std::nullopt;
   const model::PatientRecord& patient = *owningDocument()->patientRecord();
-  // Without an examination the index runs past every one, and the age is that of none.
-  const double age = owningDocument()->menstrualAgeForRecord(patient.ncRecordsArray().size() - 1);
-  return calc::projectionIsShown(age, patient.extrapolatedGestation());
+  return PatientReport(patient, patient.extrapolatedGestation());
 }
 
-std::int64_t NascorDataView::firstExaminationShown(double height) const {
-  const auto& examinations = owningDocument()->patientRecord()->ncRecordsArray();
+std::int64_t NascorDataView::firstExaminationShown(const PatientReport& report, double height) const {
   return static_cast<std::int64_t>(
-      calc::firstExaminationShown(examinations.size(), height, projectionIsShown()));
+      calc::firstExaminationShown(report.examinations(), height, report.projectionIsShown()));
 }
 
 std::int64_t NascorDataView::examinationsShown() const {
-  if (!owningDocument() || !owningDocument()->patientRecord()) return 0;
-  return static_cast<std::int64_t>(owningDocument()->patientRecord()->ncRecordsArray().size()) -
-         firstExaminationShown(bounds().height);
+  const auto shown = report();
+  if (!shown) return 0;
+  return static_cast<std::int64_t>(shown->examinations()) - firstExaminationShown(*shown, bounds().height);
 }
 
-std::vector<std::string> NascorDataView::leftHeader(const std::string& identifier) const {
-  const model::PatientRecord& patient = *owningDocument()->patientRecord();
-  return {localized("", "Identifier:\t").append(identifier),
-          localized("", "Gravida:\t").append(std::to_string(patient.gravida())),
+PatientReport::Head NascorDataView::headOf(const PatientReport& report) const {
+  return report.head(
+      report.examination(owningDocument()->currentExam()),
+      [this](const auto& date) { return dateText(date); }, services().localizer);
+}
+
+std::vector<std::string> NascorDataView::leftHeader(const PatientReport::Head& head,
+                                                    const std::string& identifier) const {
+  return {localized("", "Identifier:\t").append(identifier), localized("", "Gravida:\t").append(head.gravida),
           localized("", "Fetus:\t").append(owningDocument()->multiplePopUp().titleOfSelectedItem())};
 }
 
-std::vector<std::string> NascorDataView::rightHeader() const {
-  const ChartDocument& document = *owningDocument();
-  const model::PatientRecord& patient = *document.patientRecord();
-  const auto& examinations = patient.ncRecordsArray();
-  const std::int64_t exam = document.currentExam();
-  const bool exists = exam >= 0 && std::cmp_less(exam, examinations.size());
-  return {localized("", "Date:\t")
-              .append(exists ? dateText(examinations[static_cast<std::size_t>(exam)]->examDate()) : ""),
-          localized("", "EDD:\t").append(patient.edd() ? dateText(patient.edd()) : "-"),
-          localized("", "Menstrual Age:\t")
-              .append(document.menstrualAgeStringForRecord(static_cast<std::uint64_t>(exam))),
-          patient.edd() && projectionIsShown()
-              ? calc::daysToGoLine(patient.extrapolatedGestation(), services().localizer)
-              : ""};
+std::vector<std::string> NascorDataView::rightHeader(const PatientReport::Head& head) const {
+  return {localized("", "Date:\t").append(head.examDate), localized("", "EDD:\t").append(head.edd),
+          localized("", "Menstrual Age:\t").append(head.age), head.daysToGo};
 }
 
-NascorDataView::Cells NascorDataView::titles() const {
-  return {localized("", "Exam Date"), localized("", "Menstrual Age"), localized("", "BPD (mm)"),
-          localized("", "HC (mm)"),   localized("", "AC (mm)"),       localized("", "FL (mm)"),
-          localized("", "EFW (g)")};
+NascorDataView::Cells NascorDataView::examinationCells(const PatientReport& report, std::int64_t exam) const {
+  const PatientReport::Row row =
+      report.row(*report.examination(exam), owningDocument()->measurementsForCurrentFetus(exam));
+  return PatientReport::cells(row, dateText(row.examDate), services().localizer);
 }
 
-NascorDataView::Cells NascorDataView::examinationCells(std::int64_t exam) const {
-  const ChartDocument& document = *owningDocument();
-  const model::MeasurementsRecord* measured = document.measurementsForCurrentFetus(exam);
-  const model::MeasurementsRecord lengths = measured ? *measured : model::MeasurementsRecord();
-  const auto& record = document.patientRecord()->ncRecordsArray()[static_cast<std::size_t>(exam)];
-  return {dateText(record->examDate()),
-          document.menstrualAgeStringForRecord(static_cast<std::uint64_t>(exam)),
-          foundation::fixedText(lengths.bpd(), 1),
-          foundation::fixedText(lengths.hc(), 1),
-          foundation::fixedText(lengths.ac(), 1),
-          foundation::fixedText(lengths.fl(), 1),
-          calc::reportedWeight(lengths.estimatedFetalWeight(document.fetalWeightStandard()))};
-}
-
-NascorDataView::Cells NascorDataView::projectedCells() const {
+NascorDataView::Cells NascorDataView::projectedCells(const PatientReport& report) const {
   ChartDocument& document = *owningDocument();
-  Cells cells{
-      localized("", "Projected"),
-      document.menstrualAgeStringForGestation(document.patientRecord()->extrapolatedGestation()),
-  };
-  // Each leaves its value in the record that the weight is then computed from.
-  cells[2] = foundation::fixedText(document.extrapolatedBPDForCurrentFetus(), 1);
-  cells[3] = foundation::fixedText(document.extrapolatedHCForCurrentFetus(), 1);
-  cells[4] = foundation::fixedText(document.extrapolatedACForCurrentFetus(), 1);
-  cells[5] = foundation::fixedText(document.extrapolatedFLForCurrentFetus(), 1);
-  cells[6] = foundation::fixedText(
-      document.extrapolatedMeasurements().estimatedFetalWeight(document.fetalWeightStandard()), 0);
-  return cells;
+  // Each also leaves its value in the document's record of projected lengths.
+  const PatientReport::Row row = report.projectedRow({.bpd = document.extrapolatedBPDForCurrentFetus(),
+                                                      .hc = document.extrapolatedHCForCurrentFetus(),
+                                                      .ac = document.extrapolatedACForCurrentFetus(),
+                                                      .fl = document.extrapolatedFLForCurrentFetus()});
+  return PatientReport::cells(row, PatientReport::projectedTitle(services().localizer), services().localizer);
 }
 
 std::string NascorDataView::dateText(const std::optional<foundation::Date>& date) const {
@@ -150,8 +121,9 @@ void NascorDataView::drawRow(const Cells& cells, double y, NamedColor color) {
 
 void NascorDataView::drawRect(const framework::Rect& rect) {
   drawReferenceTitle();
-  if (!owningDocument() || !owningDocument()->patientRecord()) return;
-  const auto count = static_cast<std::int64_t>(owningDocument()->patientRecord()->ncRecordsArray().size());
+  const auto shown = report();
+  if (!shown) return;
+  const auto count = static_cast<std::int64_t>(shown->examinations());
 
   const auto drawHeader = [&](std::span<const std::string> lines, double x) {
     double y = kFirstHeaderLine;
@@ -160,28 +132,28 @@ void NascorDataView::drawRect(const framework::Rect& rect) {
       y += kLine;
     }
   };
-  const auto& identifier = owningDocument()->patientRecord()->maternalIDString();
-  std::vector<std::string> left = leftHeader(foundation::shownLine(identifier.value_or("")));
+  const PatientReport::Head head = headOf(*shown);
+  std::vector<std::string> left = leftHeader(head, foundation::shownLine(head.identifier));
   left.front() = shortened(std::move(left.front()));
   drawHeader(left, kLeftHeader);
   // Dates cannot be written without a form for them.
   foundation::required(!services().localizer.shortDateForm().pattern.empty());
-  drawHeader(rightHeader(), kRightHeader);
+  drawHeader(rightHeader(head), kRightHeader);
 
-  drawRow(titles(), kTitles, NamedColor::black);
+  drawRow(PatientReport::titles(services().localizer), kTitles, NamedColor::black);
   // One empty line under the titles.
   double y = kTitles + kLine;
-  const std::int64_t first = firstExaminationShown(rect.height);
+  const std::int64_t first = firstExaminationShown(*shown, rect.height);
   // A page too low for a single row lists every examination, beyond its lower edge.
   const std::int64_t afterLastDrawn = std::min(count, first + kMostRowsDrawn);
   for (std::int64_t exam = first; exam < afterLastDrawn; ++exam) {
     y += kLine;
-    drawRow(examinationCells(exam), y, NamedColor::black);
+    drawRow(examinationCells(*shown, exam), y, NamedColor::black);
   }
   y += kLine * static_cast<double>(count - afterLastDrawn);
-  if (projectionIsShown()) {
+  if (shown->projectionIsShown()) {
     y += kLine;
-    drawRow(projectedCells(), y, NamedColor::darkGray);
+    drawRow(projectedCells(*shown), y, NamedColor::darkGray);
   }
 
   canvas().setColor(NamedColor::gray);
@@ -201,7 +173,8 @@ std::string NascorDataView::shownText() const {
 std::string NascorDataView::text(std::int64_t mostExaminations,
                                  std::string (*lineOf)(std::string_view)) const {
   std::string text;
-  if (!owningDocument() || !owningDocument()->patientRecord()) return text;
+  const auto shown = report();
+  if (!shown) return text;
   const auto addLine = [&](const std::string& line) {
     if (!line.empty()) text.append(line).append("\n");
   };
@@ -209,16 +182,16 @@ std::string NascorDataView::text(std::int64_t mostExaminations,
     for (std::size_t i = 0; i < cells.size(); ++i) text.append(i == 0 ? "" : "\t").append(cells.at(i));
     text += '\n';
   };
-  const auto& identifier = owningDocument()->patientRecord()->maternalIDString();
-  for (const std::string& line : leftHeader(lineOf(identifier.value_or("")))) addLine(line);
-  for (const std::string& line : rightHeader()) addLine(line);
+  const PatientReport::Head head = headOf(*shown);
+  for (const std::string& line : leftHeader(head, lineOf(head.identifier))) addLine(line);
+  for (const std::string& line : rightHeader(head)) addLine(line);
   text += '\n';
-  addRow(titles());
-  const auto count = static_cast<std::int64_t>(owningDocument()->patientRecord()->ncRecordsArray().size());
+  addRow(PatientReport::titles(services().localizer));
+  const auto count = static_cast<std::int64_t>(shown->examinations());
   const std::int64_t first = count - std::min(count, mostExaminations);
   if (first > 0) addLine(std::string(foundation::kCutSign));
-  for (std::int64_t exam = first; exam < count; ++exam) addRow(examinationCells(exam));
-  if (projectionIsShown()) addRow(projectedCells());
+  for (std::int64_t exam = first; exam < count; ++exam) addRow(examinationCells(*shown, exam));
+  if (shown->projectionIsShown()) addRow(projectedCells(*shown));
   text += '\n';
   addLine(referenceTitle());
   return text;

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <array>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -8,11 +7,12 @@
 #include <vector>
 
 #include "charts/UpdatingGraphView.h"
+#include "model/PatientReport.h"
 
 namespace nascor::charts {
 
-/// The tabular report of one fetus: who, when and how far on; a row for each examination; and, late in pregnancy, a row
-/// projected to the planned delivery. Everything is read from the document at each redraw.
+/// The tabular report of the fetus on show (`model::PatientReport`), drawn. Everything is read from the document at each
+/// redraw.
 ///
 /// y grows downward. Older examinations that do not fit are left out from the top; the view is drawn whole.
 class NascorDataView final : public UpdatingGraphView {
@@ -38,17 +38,18 @@ class NascorDataView final : public UpdatingGraphView {
   framework::Rect offeredGraphRect() const override { return {}; }
 
  private:
-  static constexpr std::size_t kColumns = 7;
-  using Cells = std::array<std::string, kColumns>;
+  using Cells = model::PatientReport::Cells;
 
-  bool projectionIsShown() const;
-  std::int64_t firstExaminationShown(double height) const;
+  /// Nothing without a patient.
+  std::optional<model::PatientReport> report() const;
+  model::PatientReport::Head headOf(const model::PatientReport& report) const;
+  std::int64_t firstExaminationShown(const model::PatientReport& report, double height) const;
   std::string text(std::int64_t mostExaminations, std::string (*lineOf)(std::string_view)) const;
-  std::vector<std::string> leftHeader(const std::string& identifier) const;
-  std::vector<std::string> rightHeader() const;
-  Cells titles() const;
-  Cells examinationCells(std::int64_t exam) const;
-  Cells projectedCells() const;
+  std::vector<std::string> leftHeader(const model::PatientReport::Head& head,
+                                      const std::string& identifier) const;
+  std::vector<std::string> rightHeader(const model::PatientReport::Head& head) const;
+  Cells examinationCells(const model::PatientReport& report, std::int64_t exam) const;
+  Cells projectedCells(const model::PatientReport& report) const;
   std::string dateText(const std::optional<foundation::Date>& date) const;
   std::string shortened(std::string identifierLine) const;
   void drawRow(const Cells& cells, double y, framework::NamedColor color);

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cmath>
 #include <limits>
 
 #include "charts/NascorDataView.h"
@@ -33,10 +34,14 @@ class TheReport : public ChartTest {
   }
   void addExaminations(int count, double lastAge = 20.0) {
     for (int i = 0; i < count; ++i) {
-      document.addExamination(lastAge - (count - 1 - i), {{.bpd = 40.0 + i, .hc = 0, .ac = 0, .fl = 0}});
-      document.patient.ncRecordsArray().back()->setExamDate(kToday);
+      document.addExamination(0.0, {{.bpd = 40.0 + i, .hc = 0, .ac = 0, .fl = 0}});
+      document.patient.ncRecordsArray().back()->setExamDate(dateAt(lastAge - (count - 1 - i)));
     }
     document.exam = count - 1;
+  }
+  /// The last whole day up to that age.
+  static foundation::Date dateAt(double weeks) {
+    return {kToday.secondsSince2001 + std::floor((weeks - 20.0) * 7.0) * kDay};
   }
   void draw(double height = 560, double width = 800) {
     canvas.clear();
@@ -95,7 +100,7 @@ TEST_F(TheReport, saysWhoAndWhenAboveTheTable) {
   EXPECT_EQ(textAt(40, 58), "Fetus:\tFetus 0");
   EXPECT_EQ(textAt(320, 10), "Date:\t11/21/26");
   EXPECT_EQ(textAt(320, 34), "EDD:\t4/10/27");
-  EXPECT_EQ(textAt(320, 58), "Menstrual Age:\tage 0");
+  EXPECT_EQ(textAt(320, 58), "Menstrual Age:\t20w 0d");
   EXPECT_EQ(textAt(320, 82), "");
   EXPECT_EQ(canvas.text("Gravida:\t2")->style.tabStop, 100.0);
   document.patient.setEDD(std::nullopt);
@@ -138,8 +143,8 @@ TEST_F(TheReport, listsEachExaminationOfTheFetusOnShow) {
   for (int i = 0; i < 7; ++i) second.push_back(textAt(10 + 86 * i, 212));
   // C's rounding: 47.25 is exact and a tie, which goes to the even 47.2; as doubles 154.35 and 32.15 lie just below the half.
   // The published formula gives 342.4 g.
-  EXPECT_THAT(first, ElementsAre("11/21/26", "age 0", "47.2", "174.0", "154.3", "32.1", "342"));
-  EXPECT_THAT(second, ElementsAre("", "age 1", "0.0", "0.0", "0.0", "0.0", "-"));
+  EXPECT_THAT(first, ElementsAre("11/21/26", "20w 0d", "47.2", "174.0", "154.3", "32.1", "342"));
+  EXPECT_THAT(second, ElementsAre("", "-", "0.0", "0.0", "0.0", "0.0", "-"));
   EXPECT_EQ(textAt(10, 236), "nothing");
 }
 
@@ -172,7 +177,7 @@ TEST_F(TheReport, projectsLateInPregnancy) {
   EXPECT_THAT(column(182), ElementsAre("BPD (mm)", "44.0", "95.0"));
   std::vector<std::string> projected;
   for (int i = 0; i < 6; ++i) projected.push_back(textAt(10 + 86 * i, 212));
-  EXPECT_THAT(projected, ElementsAre("Projected", "40 weeks", "95.0", "340.1", "355.6", "75.0"));
+  EXPECT_THAT(projected, ElementsAre("Projected", "40w 0d", "95.0", "340.1", "355.6", "75.0"));
   for (int i = 0; i < 7; ++i) {
     const Point place{10.0 + 86.0 * i, 212};
     for (const auto& entry : canvas.of(Kind::text)) {
@@ -199,7 +204,6 @@ TEST_F(TheReport, listsEveryExaminationWhereTheProjectionLeavesNoRow) {
 
 TEST_F(TheReport, projectsNeitherTooEarlyNorTooLate) {
   const auto isProjected = [&](double lastAge, double planned) {
-    document.ages.clear();
     document.patient.ncRecordsArray().clear();
     document.patient.setExtrapolatedGestation(planned);
     addExaminations(2, lastAge);
@@ -217,7 +221,7 @@ TEST_F(TheReport, projectsNeitherTooEarlyNorTooLate) {
 
 TEST_F(TheReport, hasNoThresholdForTheProjectedWeight) {
   addExaminations(1, 30.0);
-  document.weightFormula = 4;
+  document.patient.setFetalWeightStandard(4);
   document.projected = model::MeasurementsRecord({.bpd = 0, .hc = 0, .ac = 1, .fl = 0});
   draw();
   EXPECT_NE(textAt(526, 212), "-");
@@ -268,16 +272,16 @@ TEST_F(TheReport, takesAClickWithoutDoingAnything) {
 TEST_F(TheReport, isATableOfTextToo) {
   addExaminations(2, 30.0);
   draw(189);
-  EXPECT_THAT(report->tabSeparatedText(),
-              testing::StartsWith(
-                  "Identifier:\tAB-123\nGravida:\t2\nFetus:\tFetus 0\nDate:\t11/21/26\nEDD:\t4/10/27\n"
-                  "Menstrual Age:\tage 1\nDays to Go:\t0\n\n"));
+  EXPECT_THAT(
+      report->tabSeparatedText(),
+      testing::StartsWith("Identifier:\tAB-123\nGravida:\t2\nFetus:\tFetus 0\nDate:\t1/30/27\nEDD:\t4/10/27\n"
+                          "Menstrual Age:\t30w 0d\nDays to Go:\t0\n\n"));
   EXPECT_THAT(
       report->tabSeparatedText(),
       testing::HasSubstr("\n\nExam Date\tMenstrual Age\tBPD (mm)\tHC (mm)\tAC (mm)\tFL (mm)\tEFW (g)\n"
-                         "11/21/26\tage 0\t40.0\t0.0\t0.0\t0.0\t-\n"
-                         "11/21/26\tage 1\t41.0\t0.0\t0.0\t0.0\t-\n"
-                         "Projected\t40 weeks\t95.0\t340.1\t355.6\t75.0\t"));
+                         "1/23/27\t29w 0d\t40.0\t0.0\t0.0\t0.0\t-\n"
+                         "1/30/27\t30w 0d\t41.0\t0.0\t0.0\t0.0\t-\n"
+                         "Projected\t40w 0d\t95.0\t340.1\t355.6\t75.0\t"));
 }
 
 TEST_F(TheReport, shortensALongIdentifierAtOnce) {

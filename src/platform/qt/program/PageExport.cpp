@@ -6,7 +6,6 @@
 #include <QFileInfo>
 #include <QSet>
 #include <algorithm>
-#include <array>
 #include <memory>
 #include <stdexcept>
 #include <variant>
