@@ -515,6 +515,82 @@
         <source>The document cannot be read.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>User:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Machine:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Since:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Process:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It is open elsewhere.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Opened to be read, it can be saved under another name alone. A copy is a new document.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open Read-Only</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open a Copy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing tells from here whether that machine still works on it. Open it anyway only if you know that it does not.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open Anyway</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This document is open elsewhere. How do you want to open it?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The document was written, but the system does not vouch that it outlasts a power cut. Please save it again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file of this document is gone. Do you want to write it again?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Another program or another user has removed, moved or renamed it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file of this document cannot be read. Do you want to replace it?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Another program has changed the file of this document.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Another program has changed the file of this document. Revert reads it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file of this document is gone.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file of this document cannot be read:</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>DatingDialogs</name>
@@ -576,6 +652,13 @@
     </message>
     <message>
         <source>%1, %2, %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>DocumentWindow</name>
+    <message>
+        <source>%1 (read-only)</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

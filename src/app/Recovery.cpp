@@ -12,7 +12,7 @@
 
 #include "calc/Biometry.h"
 #include "foundation/Calendar.h"
-#include "foundation/IsoDate.h"
+#include "foundation/HolderText.h"
 #include "foundation/Localizer.h"
 #include "foundation/Utf8.h"
 #include "model/PatientFile.h"
@@ -208,7 +208,7 @@ std::string Recovery::informationOf(const RecoveryFile& file, const PatientRecor
   information.append("\n")
       .append(localizer.text("Recovery", "Last kept:"))
       .append(" ")
-      .append(textOf(file.saved));
+      .append(foundation::momentText(file.saved, services_.calendar, localizer));
 
   if (isFileNewer(file)) {
     information.append("\n\n").append(localizer.text(
@@ -237,15 +237,6 @@ std::string Recovery::informationOf(const RecoveryFile& file, const PatientRecor
     information.append("\n").append(lines[i]);
   if (lines.size() > kMostLines) information += "\n\u2026";
   return information;
-}
-
-std::string Recovery::textOf(const foundation::Date& moment) const {
-  const auto day = foundation::localDay(moment, services_.calendar);
-  const std::string iso = foundation::isoDateTimeText(moment, services_.calendar);
-  constexpr std::size_t kTime = 11;  // behind 2027-04-10T
-  constexpr std::size_t kHoursAndMinutes = 5;
-  if (!day || iso.size() < kTime + kHoursAndMinutes) return "-";
-  return services_.localizer.longDateText(*day) + ", " + iso.substr(kTime, kHoursAndMinutes);
 }
 
 }  // namespace nascor::app

@@ -52,7 +52,6 @@ class Recovery {
   void tellDamaged(const foundation::RecoveryFile& file, const std::string& reason);
   std::string informationOf(const foundation::RecoveryFile& file, const model::PatientRecord& patient,
                             const std::vector<model::PatientDifference>& differences) const;
-  std::string textOf(const foundation::Date& moment) const;
   foundation::RecoveryOrigin originOf(const framework::ZuDocument& document) const;
   /// Whether the document's file holds something else than what the changes were made to.
   bool isFileNewer(const foundation::RecoveryFile& file) const;

@@ -29,20 +29,27 @@ class DocumentController {
   // Selector: newDocument:
   /// A new untitled document, in front.
   ZuDocument& newDocument();
+  /// What is done with a document that another program has open.
+  enum class IfHeld { asks, refuses };
+
   /// The document of the file at `path`, in front: the one that is open already, or a new one. A file that says that it
-  /// holds nothing opens as an untitled blank document, so that saving never overwrites it. Null, and the reason in
-  /// `error` (which names the file), when the file cannot be read.
-  ZuDocument* openDocument(const std::string& path, foundation::FileError& error);
+  /// holds nothing opens as an untitled blank document, so that saving never overwrites it. Where another program has it
+  /// open, the user is asked whether to open it to be read, or as a copy. Null, and the reason in `error` (which names the
+  /// file), when the file cannot be read or is not to be opened, which is of the kind isDeclined.
+  ZuDocument* openDocument(const std::string& path, foundation::FileError& error,
+                           IfHeld ifHeld = IfHeld::asks);
   /// Opens the files that the user chooses and says which of them cannot be read.
   void openDocuments();
 
-  /// Saves to the document's file, or where the user says when it has none. Asks first when another program has changed that
-  /// file since the document read or wrote it, and tells when the file cannot hold all of the document. False when a field
-  /// refuses its text, the user cancels, the document was replaced by one that the user looked up, or the file cannot be
-  /// written: it is open in another window, or the system refuses (which the user is told).
+  /// Saves to the document's file, or where the user says when it has none. Asks first when that file was changed, removed or
+  /// made unreadable since the document read or wrote it, up to the moment when it is replaced; tells when the file cannot
+  /// hold all of the document. False when a field refuses its text, the user cancels, the document was replaced by one that
+  /// the user looked up, or the file cannot be written, which the user is told: it is open in another window or in another
+  /// program, or the system refuses, or does not vouch for what it wrote.
   bool saveDocument(ZuDocument& document);
   bool saveDocumentAs(ZuDocument& document);
-  /// Asks whether to go back to what the document's file holds, then reads it again; all edits are lost. False when the
+  /// Asks whether to go back to what the document's file holds, then reads it again; all edits are lost. Without edits
+  /// nothing is asked where the file was changed. False when the
   /// document has no file, the user cancels, or the file cannot be read, which the user is told.
   bool revertDocument(ZuDocument& document);
   /// Asks whether to save when the document was edited, then closes it. False when the user cancels or saving fails. A
@@ -66,6 +73,12 @@ class DocumentController {
   /// The document in front; null for none.
   ZuDocument* currentDocument() const;
   void setCurrentDocument(ZuDocument& document);
+  /// Says in the document's window when its file was changed, removed or made unreadable by another program. Sent when the
+  /// user comes back to it.
+  void lookAtFile(ZuDocument& document) const;
+  /// Lets other programs write the documents: this one ends at once.
+  void releaseLocks();
+
   /// The open documents, the one in front last.
   std::vector<ZuDocument*> documents() const;
 
@@ -85,8 +98,16 @@ class DocumentController {
   void remove(ZuDocument& document);
   void tellUnopened(const foundation::FileError& error);
   bool write(ZuDocument& document, const std::string& path);
-  /// Asks whether to replace what another program has written into the file.
-  bool userReplacesChanges(const std::string& path);
+  bool tellUnsaved(const std::string& path, const std::string& reason);
+  /// Takes the lock of the file at `path`; false where another program has it, which the user is told.
+  bool claimToWrite(const std::string& path, std::unique_ptr<foundation::FileLock>& lock);
+  /// Asks whether to write where the file is no longer what the document knows.
+  bool userReplaces(const std::string& path, const ZuDocument::FileLook& look);
+  /// What the user does with a document that another program has open.
+  enum class Opening { normally, readOnly, asCopy, anyway, notAtAll };
+  Opening askHowToOpen(const std::string& path, const foundation::FileHolder& holder);
+  /// Takes the lock where it is free now.
+  void tryToHold(ZuDocument& document);
   /// Whether nothing of the document would be lost that the user wants to keep.
   bool mayGo(ZuDocument& document);
   bool isOpen(const ZuDocument& document) const;

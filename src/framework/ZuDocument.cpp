@@ -26,14 +26,21 @@ std::string ZuDocument::nameForUser() const {
   return suggested.empty() ? displayName() : suggested;
 }
 
-std::optional<FileError> ZuDocument::writeToFile(const std::string& path) {
+std::optional<FileError> ZuDocument::writeToFile(const std::string& path,
+                                                 const foundation::FileContents* expected) {
   std::vector<std::byte> bytes = dataRepresentationOfType("");
-  if (auto error = services_.files.replaceContents(path, bytes)) return error;
+  auto error = expected ? services_.files.replaceExpected(path, bytes, *expected)
+                        : services_.files.replaceContents(path, bytes);
+  if (error && error->kind != FileError::Kind::isWritten) return error;
   filePath_ = path;
   fileContents_ = std::move(bytes);
   docIsBlank_ = false;
-  updateChangeCount(ChangeType::changeCleared);
-  return std::nullopt;
+  if (error) {
+    onStateChanged();
+  } else {
+    updateChangeCount(ChangeType::changeCleared);
+  }
+  return error;
 }
 
 std::optional<FileError> ZuDocument::readFromFile(const std::string& path) {
@@ -73,12 +80,35 @@ void ZuDocument::takeRecovered(std::span<const std::byte> data, const std::strin
   if (auto* bytes = std::get_if<std::vector<std::byte>>(&contents)) fileContents_ = std::move(*bytes);
 }
 
-bool ZuDocument::isFileChangedByOthers() const {
-  if (!filePath_ || !fileContents_) return false;
-  const auto contents = services_.files.contents(*filePath_);
-  // The bytes, and not the date: a clock may be wrong, and a file that was merely touched has lost nothing.
-  if (const auto* bytes = std::get_if<std::vector<std::byte>>(&contents)) return *bytes != *fileContents_;
-  return services_.files.exists(*filePath_);
+ZuDocument::FileLook ZuDocument::lookAtFile(const std::string& path) const {
+  auto contents = services_.files.contents(path);
+  if (auto* bytes = std::get_if<std::vector<std::byte>>(&contents)) return {.contents = std::move(*bytes)};
+  if (!services_.files.exists(path)) return {.state = FileState::isGone};
+  return {.state = FileState::isUnreadable, .reason = std::get<FileError>(contents).reason};
+}
+
+ZuDocument::FileLook ZuDocument::lookAtFile() const {
+  if (!filePath_) return {};
+  FileLook look = lookAtFile(*filePath_);
+  if (!fileContents_) {
+    if (look.state == FileState::isGone) look.state = FileState::asKnown;
+  } else if (look.contents && look.contents != fileContents_) {
+    // The bytes, and not the date: a clock may be wrong, and a file that was merely touched has lost nothing.
+    look.state = FileState::isChanged;
+  }
+  return look;
+}
+
+void ZuDocument::setLock(std::unique_ptr<foundation::FileLock> lock) {
+  lock_ = std::move(lock);
+  isReadOnly_ = false;
+  onStateChanged();
+}
+
+void ZuDocument::setReadOnly() {
+  lock_.reset();
+  isReadOnly_ = true;
+  onStateChanged();
 }
 
 std::optional<FileError> ZuDocument::revertToSaved() {

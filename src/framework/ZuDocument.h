@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <span>
 #include <string>
@@ -62,9 +63,11 @@ class ZuDocument {
   /// What the user knows the document by: the name of its file, else what it would be saved as.
   std::string nameForUser() const;
 
-  /// Writes the model as it stands to `path`, whole or not at all. On success that is the document's file from now on, it
-  /// is not edited any more, and not blank. On failure nothing changes.
-  std::optional<foundation::FileError> writeToFile(const std::string& path);
+  /// Writes the model as it stands to `path`, whole or not at all; with `expected`, only where that is what lies there at the
+  /// last moment. On success that is the document's file from now on, it is not edited any more, and not blank. On failure
+  /// nothing changes, but for an error of the kind isWritten: then it is the document's file, and the document stays edited.
+  std::optional<foundation::FileError> writeToFile(const std::string& path,
+                                                   const foundation::FileContents* expected = nullptr);
   /// Takes what the file at `path` holds. That is the document's file from now on, unless it says that it holds nothing:
   /// then the document is untitled and blank, and never overwrites it. On failure nothing changes.
   std::optional<foundation::FileError> readFromFile(const std::string& path);
@@ -76,12 +79,27 @@ class ZuDocument {
   bool isRecovered() const { return isRecovered_; }
   /// What the document's file held when this document read or wrote it last; nothing before.
   const std::optional<std::vector<std::byte>>& fileContents() const { return fileContents_; }
-  /// Whether the document's file holds something else than when this document read or wrote it last. A file that is gone
-  /// does not: saving loses nothing of it.
-  bool isFileChangedByOthers() const;
+  /// How a file stands to what this document read or wrote there last.
+  enum class FileState { asKnown, isChanged, isGone, isUnreadable };
+  struct FileLook {
+    FileState state = FileState::asKnown;
+    foundation::FileContents contents{};  ///< what it holds now
+    std::string reason{};                 ///< why it cannot be read
+  };
+  /// Looks at the document's own file. One of which this document knows nothing is as known, whatever it holds.
+  FileLook lookAtFile() const;
+  /// Looks at any file: there, gone or unreadable.
+  FileLook lookAtFile(const std::string& path) const;
   /// Reads the document's file again; all edits are lost. A file that now says that it holds nothing leaves an untitled
   /// blank document. On failure nothing changes.
   std::optional<foundation::FileError> revertToSaved();
+
+  /// The right to write the document's file: null where no lock can be made, or another program has it.
+  void setLock(std::unique_ptr<foundation::FileLock> lock);
+  bool holdsLock() const { return lock_ && lock_->isHeld(); }
+  /// Whether another program had the document's file when it was opened here, so that it is saved under another name.
+  bool isReadOnly() const { return isReadOnly_; }
+  void setReadOnly();
 
   /// @}
   /// @name State
@@ -118,6 +136,8 @@ class ZuDocument {
   std::int64_t changeCount_ = 0;
   bool docIsBlank_ = false;
   bool isRecovered_ = false;
+  bool isReadOnly_ = false;
+  std::unique_ptr<foundation::FileLock> lock_;
 };
 
 }  // namespace nascor::framework

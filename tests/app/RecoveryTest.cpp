@@ -249,7 +249,7 @@ TEST_F(TheRecovery, asksBeforeItReplacesWhatWasSavedSince) {
   platform.alerts.choice = "Recover";
   EXPECT_EQ(next.offer(), 1U);
   EXPECT_THAT(platform.alerts.choiceInformation.back(), HasSubstr("saved again since"));
-  EXPECT_TRUE(current().isFileChangedByOthers());
+  EXPECT_EQ(current().lookAtFile().state, framework::ZuDocument::FileState::isChanged);
 }
 
 TEST_F(TheRecovery, leavesAFileThatItCannotKeepAnew) {

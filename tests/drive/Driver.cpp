@@ -423,7 +423,12 @@ Json Driver::newDocument() { return {{"number", numbers_.at(&documents_.newDocum
 
 Json Driver::openDocument(const Json& path) {
   foundation::FileError error;
-  const framework::ZuDocument* opened = documents_.openDocument(textArgument(path, "a path"), error);
+  const std::string wanted = textArgument(path, "a path");
+  // The next answer is for this question, should it be asked.
+  const std::size_t asked = alerts_.choices.size();
+  alerts_.choice = alerts_.answers.empty() ? "Cancel" : alerts_.answers.front();
+  const framework::ZuDocument* opened = documents_.openDocument(wanted, error);
+  if (alerts_.choices.size() > asked && !alerts_.answers.empty()) alerts_.answers.pop_front();
   if (!opened) refuse(error.details.empty() ? error.reason : error.details);
   return {{"number", numbers_.at(opened)}};
 }
@@ -433,6 +438,7 @@ Json Driver::use(const Json& number) {
   for (framework::ZuDocument* open : documents_.documents()) {
     if (numbers_.at(open) != wanted) continue;
     documents_.setCurrentDocument(*open);
+    documents_.lookAtFile(*open);
     return Json::object();
   }
   refuse("there is no document " + std::to_string(wanted));

@@ -13,6 +13,8 @@ namespace nascor::drive {
 ///     remove PATH      the file is gone
 ///     pipe PATH        a pipe that nobody writes into
 ///     folder PATH      a folder
+///     lock PATH USER HOST  another machine has it open
+///     stale lock PATH  a program of this machine had it open and was killed
 ///
 /// Why it could not be done, or nothing.
 std::optional<std::string> doOutside(const std::vector<std::string>& words);

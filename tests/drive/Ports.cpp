@@ -42,6 +42,16 @@ bool StoryLocalizer::choose(std::string_view locale) {
 std::optional<foundation::FileError> StoryFileStore::replaceContents(const std::string& path,
                                                                      std::span<const std::byte> bytes) {
   if (auto error = files_.replaceContents(path, bytes)) return error;
+  return date(path);
+}
+
+std::optional<foundation::FileError> StoryFileStore::replaceExpected(
+    const std::string& path, std::span<const std::byte> bytes, const foundation::FileContents& expected) {
+  if (auto error = files_.replaceExpected(path, bytes, expected)) return error;
+  return date(path);
+}
+
+std::optional<foundation::FileError> StoryFileStore::date(const std::string& path) {
   constexpr double kUnixTimeOf2001 = 978307200.0;
   constexpr double kMillisecond = 0.001;
   const double written = clock_.now().secondsSince2001 + kUnixTimeOf2001 + kMillisecond * ++writes_;

@@ -46,6 +46,12 @@ class StoryFileStore final : public foundation::FileStore {
   }
   std::optional<foundation::FileError> replaceContents(const std::string& path,
                                                        std::span<const std::byte> bytes) override;
+  std::optional<foundation::FileError> replaceExpected(const std::string& path,
+                                                       std::span<const std::byte> bytes,
+                                                       const foundation::FileContents& expected) override;
+  foundation::FileClaim claim(const std::string& path, Claim wish) override {
+    return files_.claim(path, wish);
+  }
   std::vector<foundation::FileEntry> entries(const std::string& folder) const override {
     return files_.entries(folder);
   }
@@ -54,6 +60,8 @@ class StoryFileStore final : public foundation::FileStore {
   std::string resolvedPath(const std::string& path) const override { return files_.resolvedPath(path); }
 
  private:
+  std::optional<foundation::FileError> date(const std::string& path);
+
   posix::PosixFileStore files_;
   const foundation::Clock& clock_;
   int writes_ = 0;

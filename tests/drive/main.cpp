@@ -4,10 +4,12 @@
 
 #include "drive/Driver.h"
 #include "drive/Story.h"
+#include "posix/FileSizeSignal.h"
 
 /// Without arguments: reads lines from standard input and answers each. With the names of stories: plays them and says
 /// where an answer is not the one that the story expects.
 int main(int argc, char** argv) {
+  nascor::posix::ignoreFileSizeSignal();
   constexpr std::string_view kUsage =
       "usage: nascor-drive [STORY...]\n"
       "\n"

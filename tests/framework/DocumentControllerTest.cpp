@@ -140,6 +140,182 @@ TEST_F(TheDocuments, areNotSavedOverOneThatIsOpen) {
   EXPECT_EQ(document.filePath(), std::nullopt);
 }
 
+// Documents that another program has open, or has changed.
+
+class ADocumentThatIsHeld : public TheDocuments {
+ protected:
+  ADocumentThatIsHeld() {
+    application.put("/documents/a", "text");
+    application.files.holders["/documents/a"] = {
+        .user = "anna", .host = "ward-3", .process = 4711, .since = {817034400.0}};
+  }
+  void edit(TextDocument& document, const std::string& text) {
+    document.model = text;
+    document.updateChangeCount(ZuDocument::ChangeType::changeDone);
+  }
+};
+
+TEST_F(ADocumentThatIsHeld, isNotOpenedUnasked) {
+  EXPECT_EQ(application.open("/documents/a"), nullptr);
+  EXPECT_EQ(application.error.kind, foundation::FileError::Kind::isDeclined);
+  EXPECT_THAT(application.alerts.choices,
+              ElementsAre("This document is open elsewhere. How do you want to open it?"));
+  EXPECT_THAT(
+      application.alerts.choiceInformation,
+      ElementsAre(testing::StartsWith("/documents/a\n\nUser: anna\nMachine: ward-3\nSince: 22 November "
+                                      "2026, 20:00\nProcess: 4711\n\n")));
+  EXPECT_THAT(documents.documents(), IsEmpty());
+  EXPECT_THAT(application.alerts.told, IsEmpty()) << "the user knows";
+}
+
+TEST_F(ADocumentThatIsHeld, isRefusedToAProgramWithoutAQuestion) {
+  foundation::FileError error;
+  EXPECT_EQ(documents.openDocument("/documents/a", error, DocumentController::IfHeld::refuses), nullptr);
+  EXPECT_EQ(
+      error.reason,
+      "/documents/a: It is open elsewhere. User: anna; Machine: ward-3; Since: 22 November 2026, 20:00; "
+      "Process: 4711");
+  EXPECT_THAT(application.alerts.choices, IsEmpty());
+}
+
+TEST_F(ADocumentThatIsHeld, opensToBeReadAndIsNotSavedUntilItIsFree) {
+  application.alerts.choice = "Open Read-Only";
+  TextDocument& document = *application.open("/documents/a");
+  EXPECT_TRUE(document.isReadOnly());
+  edit(document, "mine");
+  EXPECT_FALSE(documents.saveDocument(document));
+  EXPECT_THAT(
+      application.alerts.told,
+      ElementsAre(testing::StartsWith(
+          "The document was not saved. /documents/a: It is open elsewhere. User: anna; Machine: ward-3")));
+  EXPECT_EQ(application.textOf("/documents/a"), "text");
+  EXPECT_TRUE(document.isDocumentEdited());
+
+  application.files.holders.clear();
+  EXPECT_TRUE(documents.saveDocument(document));
+  EXPECT_FALSE(document.isReadOnly());
+  EXPECT_EQ(application.textOf("/documents/a"), "mine");
+}
+
+TEST_F(ADocumentThatIsHeld, opensAsACopyThatIsNowhereYet) {
+  application.alerts.choice = "Open a Copy";
+  const TextDocument& document = *application.open("/documents/a");
+  EXPECT_EQ(document.model, "text");
+  EXPECT_EQ(document.filePath(), std::nullopt);
+  EXPECT_TRUE(document.isDocumentEdited());
+  EXPECT_FALSE(document.isReadOnly());
+}
+
+TEST_F(ADocumentThatIsHeld, isTakenOnlyWhereItsHolderMayBeGone) {
+  application.alerts.choice = "Open Anyway";
+  EXPECT_EQ(application.open("/documents/a"), nullptr) << "which is no answer to what was asked";
+  application.files.holders["/documents/a"].mayBeGone = true;
+  TextDocument& document = *application.open("/documents/a");
+  EXPECT_FALSE(document.isReadOnly());
+  edit(document, "mine");
+  EXPECT_TRUE(documents.saveDocument(document));
+}
+
+TEST_F(ADocumentThatIsHeld, isNotReplacedByAnother) {
+  TextDocument& other = application.newDocument();
+  edit(other, "other");
+  application.panels.fileToSave = "/documents/a";
+  EXPECT_FALSE(documents.saveDocumentAs(other));
+  EXPECT_EQ(application.textOf("/documents/a"), "text");
+  EXPECT_EQ(other.filePath(), std::nullopt);
+}
+
+TEST_F(TheDocuments, holdTheirFilesUntilTheyAreClosed) {
+  application.put("/documents/a", "text");
+  TextDocument& document = *application.open("/documents/a");
+  EXPECT_THAT(application.files.locks, testing::Contains(testing::Key("/documents/a")));
+  application.panels.fileToSave = "/documents/b";
+  EXPECT_TRUE(documents.saveDocumentAs(document));
+  EXPECT_THAT(application.files.locks, ElementsAre(testing::Key("/documents/b")));
+  EXPECT_TRUE(documents.closeDocument(document));
+  EXPECT_THAT(application.files.locks, IsEmpty()) << "before the document itself is gone";
+}
+
+TEST_F(TheDocuments, holdNoFileThatCannotBeOpened) {
+  application.put("/documents/bad", "bad");
+  application.put("/documents/nil", "nil");
+  EXPECT_EQ(application.open("/documents/bad"), nullptr);
+  EXPECT_NE(application.open("/documents/nil"), nullptr);
+  EXPECT_THAT(application.files.locks, IsEmpty());
+}
+
+TEST_F(TheDocuments, letGoOfTheirFilesAtOnce) {
+  application.put("/documents/a", "text");
+  EXPECT_NE(application.open("/documents/a"), nullptr);
+  documents.releaseLocks();
+  EXPECT_THAT(application.files.locks, IsEmpty());
+}
+
+TEST_F(TheDocuments, areOpenedAndSavedWhereNoLocksCanBeMade) {
+  application.files.takesLocks = false;
+  application.put("/documents/a", "text");
+  TextDocument& document = *application.open("/documents/a");
+  EXPECT_FALSE(document.isReadOnly());
+  document.model = "mine";
+  EXPECT_TRUE(documents.saveDocument(document));
+}
+
+TEST_F(TheDocuments, askOfAChangeInTheLastMoment) {
+  application.put("/documents/a", "text");
+  TextDocument& document = *application.open("/documents/a");
+  document.model = "mine";
+  document.updateChangeCount(ZuDocument::ChangeType::changeDone);
+  application.files.beforeReplacing = [&] { application.put("/documents/a", "a colleague's"); };
+  EXPECT_FALSE(documents.saveDocument(document));
+  ASSERT_EQ(application.alerts.asked.size(), 1U);
+  EXPECT_THAT(application.alerts.asked[0].message,
+              testing::StartsWith("Another program has changed the file"));
+  EXPECT_EQ(application.textOf("/documents/a"), "a colleague's");
+  EXPECT_TRUE(document.isDocumentEdited());
+
+  application.files.beforeReplacing = [&] { application.put("/documents/a", "another one's"); };
+  application.alerts.answers = {"Save Anyway", "Save Anyway"};
+  EXPECT_TRUE(documents.saveDocument(document)) << "asked twice: what is there is another one's by now";
+  EXPECT_EQ(application.alerts.asked.size(), 3U);
+  EXPECT_EQ(application.textOf("/documents/a"), "mine");
+}
+
+TEST_F(TheDocuments, replaceNothingThatAppearsWhereNothingWas) {
+  TextDocument& document = application.newDocument();
+  document.model = "mine";
+  application.panels.fileToSave = "/documents/a";
+  application.files.beforeReplacing = [&] { application.put("/documents/a", "a colleague's"); };
+  EXPECT_FALSE(documents.saveDocumentAs(document));
+  EXPECT_EQ(application.textOf("/documents/a"), "a colleague's");
+}
+
+TEST_F(TheDocuments, callAnUnreadableFileUnreadable) {
+  application.put("/documents/a", "text");
+  TextDocument& document = *application.open("/documents/a");
+  application.files.failReadAt = application.files.reads();
+  EXPECT_FALSE(documents.saveDocument(document));
+  ASSERT_EQ(application.alerts.asked.size(), 1U);
+  EXPECT_EQ(application.alerts.asked[0].message,
+            "The file of this document cannot be read. Do you want to replace it?");
+  EXPECT_THAT(application.alerts.asked[0].information, testing::HasSubstr("Input/output error"));
+  EXPECT_TRUE(application.alerts.asked[0].isCancelledByReturn);
+}
+
+TEST_F(TheDocuments, tellWhenTheSystemDoesNotVouchForTheFile) {
+  application.put("/documents/a", "text");
+  TextDocument& document = *application.open("/documents/a");
+  document.model = "mine";
+  document.updateChangeCount(ZuDocument::ChangeType::changeDone);
+  application.files.failFlushAt = application.files.writes();
+  EXPECT_FALSE(documents.saveDocument(document));
+  EXPECT_THAT(application.alerts.told,
+              ElementsAre(testing::HasSubstr("outlasts a power cut. Please save it again. "
+                                             "/documents/a: Input/output error")));
+  EXPECT_TRUE(document.isDocumentEdited());
+  EXPECT_TRUE(documents.saveDocument(document)) << "without a question about what it has written itself";
+  EXPECT_THAT(application.alerts.asked, IsEmpty());
+}
+
 TEST_F(TheDocuments, closeWithoutAQuestionWhenTheyWereNotEdited) {
   TextDocument& document = application.newDocument();
   application.alerts.choice = "Cancel";

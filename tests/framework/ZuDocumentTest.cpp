@@ -106,23 +106,39 @@ TEST_F(ADocumentWithAFile, staysAsItIsWhenItsFileCannotBeReadAgain) {
   EXPECT_TRUE(unsaved.revertToSaved());
 }
 
-TEST_F(ADocumentWithAFile, knowsWhetherSomebodyElseHasChangedIt) {
+TEST_F(ADocumentWithAFile, knowsWhatBecameOfIt) {
+  using State = ZuDocument::FileState;
   application.put("/documents/a", "saved");
   TextDocument& document = *application.open("/documents/a");
-  EXPECT_FALSE(document.isFileChangedByOthers());
+  EXPECT_EQ(document.lookAtFile().state, State::asKnown);
   application.put("/documents/a", "other");
-  EXPECT_TRUE(document.isFileChangedByOthers()) << "of the same length";
+  EXPECT_EQ(document.lookAtFile().state, State::isChanged) << "of the same length";
   EXPECT_EQ(document.revertToSaved(), std::nullopt);
-  EXPECT_FALSE(document.isFileChangedByOthers());
+  EXPECT_EQ(document.lookAtFile().state, State::asKnown);
   document.model = "mine";
   EXPECT_EQ(document.writeToFile("/documents/a"), std::nullopt);
-  EXPECT_FALSE(document.isFileChangedByOthers());
+  EXPECT_EQ(document.lookAtFile().state, State::asKnown);
   application.files.failReadAt = application.files.reads();
-  EXPECT_TRUE(document.isFileChangedByOthers()) << "nobody can tell what is there";
+  const ZuDocument::FileLook look = document.lookAtFile();
+  EXPECT_EQ(look.state, State::isUnreadable);
+  EXPECT_EQ(look.reason, "Input/output error");
   application.files.files.erase("/documents/a");
-  EXPECT_FALSE(document.isFileChangedByOthers());
+  EXPECT_EQ(document.lookAtFile().state, State::isGone);
   TextDocument unsaved(application.environment());
-  EXPECT_FALSE(unsaved.isFileChangedByOthers());
+  EXPECT_EQ(unsaved.lookAtFile().state, State::asKnown);
+}
+
+TEST_F(ADocumentWithAFile, staysEditedWhenItsFileMayNotOutlastAPowerCut) {
+  application.put("/documents/a", "saved");
+  TextDocument& document = *application.open("/documents/a");
+  document.model = "mine";
+  document.updateChangeCount(ZuDocument::ChangeType::changeDone);
+  application.files.failFlushAt = application.files.writes();
+  const auto error = document.writeToFile("/documents/a");
+  ASSERT_TRUE(error);
+  EXPECT_EQ(error->kind, foundation::FileError::Kind::isWritten);
+  EXPECT_TRUE(document.isDocumentEdited());
+  EXPECT_EQ(document.lookAtFile().state, ZuDocument::FileState::asKnown) << "it has written that itself";
 }
 
 TEST_F(ADocumentWithAFile, letsGoOfAFileThatHoldsNothingAnyMore) {

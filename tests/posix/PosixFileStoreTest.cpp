@@ -6,6 +6,7 @@
 #include <sched.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <sys/xattr.h>
 #include <unistd.h>
 
@@ -20,6 +21,8 @@
 #include <string>
 #include <thread>
 #include <vector>
+
+#include "posix/NewFile.h"
 
 namespace nascor::posix {
 namespace {
@@ -406,6 +409,54 @@ TEST_F(PosixFileStoreTest, leavesAWriteProtectedFileAloneThoughTheFolderWouldAll
   }
   EXPECT_EQ(text("file"), "old");
   EXPECT_THAT(names(), testing::ElementsAre("file"));
+}
+
+// Expecting: of several programs that have read the same, one may replace it.
+
+TEST_F(PosixFileStoreTest, replacesWhatIsExpectedAlone) {
+  put("file", "old", 0640);
+  const auto attempt = [&](const foundation::FileContents& expected) {
+    return store_.replaceExpected(path("file"), bytesOf("new"), expected);
+  };
+  for (const foundation::FileContents& other :
+       {foundation::FileContents(bytesOf("other")), foundation::FileContents(bytesOf("")),
+        foundation::FileContents()}) {
+    const auto error = attempt(other);
+    ASSERT_TRUE(error);
+    EXPECT_EQ(error->kind, foundation::FileError::Kind::isChanged);
+    EXPECT_EQ(text("file"), "old");
+  }
+  EXPECT_EQ(attempt(bytesOf("old")), std::nullopt);
+  EXPECT_EQ(text("file"), "new");
+  EXPECT_EQ(mode("file"), 0640U);
+
+  fs::remove(path("file"));
+  EXPECT_EQ(attempt(bytesOf("new"))->kind, foundation::FileError::Kind::isChanged) << "it is gone";
+  EXPECT_EQ(attempt(std::nullopt), std::nullopt);
+  EXPECT_EQ(text("file"), "new");
+  EXPECT_THAT(names(), testing::ElementsAre("file"));
+}
+
+TEST_F(PosixFileStoreTest, removesWhatKilledProgramsHaveLeftAndNothingElse) {
+  fs::create_directory(path("folder"));
+  const std::string folder = path("folder/");
+  const pid_t child = ::fork();
+  if (child == 0) {
+    // Killed between getting a name and taking the other's place.
+    const NewFile left(folder, true);
+    ::raise(SIGKILL);
+  }
+  int status = 0;
+  ::waitpid(child, &status, 0);
+  const NewFile living(folder, true);
+  put("folder/.nascor-notes", "mine");
+  ASSERT_EQ(std::distance(fs::directory_iterator(folder), {}), 3);
+
+  ASSERT_EQ(whyNotReplaced(folder + "file"), "");
+
+  EXPECT_EQ(std::distance(fs::directory_iterator(folder), {}), 3)
+      << "the file, the notes, and what is being written";
+  EXPECT_TRUE(fs::exists(folder + ".nascor-notes"));
 }
 
 // Owners: only root can make files of others.

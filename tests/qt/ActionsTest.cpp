@@ -24,6 +24,7 @@
 #include "WindowTest.h"
 #include "foundation/IsoDate.h"
 #include "framework/PageWriter.h"
+#include "posix/DocumentLock.h"
 #include "support/ReadOnlyFields.h"
 #include "window/PageView.h"
 
@@ -562,6 +563,32 @@ TEST_F(Actions, saveOverAFileThatAnotherProgramHasChangedOnlyWhenToldTo) {
   EXPECT_FALSE(front().isWindowModified());
 }
 
+TEST_F(Actions, openADocumentThatIsOpenElsewhereAsTheUserSays) {
+  const QString path = file(QStringLiteral("AB-123.nascor"), documentBytes(singleton()));
+  const std::string name = QFile::encodeName(path).toStdString();
+  posix::LockRecord record = posix::ownLockRecord();
+  record.host = record.boot = record.machine = "ward-3";
+  writeFile(QFile::decodeName(posix::lockPathOf(name).c_str()),
+            QByteArray::fromStdString(posix::textOf(record)));
+  const auto titleAfter = [&](const char* button) {
+    answers = {button};
+    application.openFiles({path});
+    settle();
+    return application.documents().currentDocument() ? front().windowTitle().toStdString() : "";
+  };
+  EXPECT_EQ(titleAfter("Cancel"), "");
+  EXPECT_THAT(asked.back().buttons,
+              testing::UnorderedElementsAre("Open Read-Only", "Open a Copy", "Open Anyway", "Cancel"));
+  EXPECT_THAT(asked.back().information, testing::HasSubstr("Machine: ward-3"));
+  EXPECT_EQ(titleAfter("Open Read-Only"), "AB-123.nascor[*] (read-only)");
+  front().close();
+  EXPECT_EQ(titleAfter("Open a Copy"), "Untitled[*]");
+  answers = {"Discard"};
+  front().close();
+  settle();
+  EXPECT_EQ(titleAfter("Open Anyway"), "AB-123.nascor[*]");
+}
+
 TEST_F(Actions, askAboutAFetusAndKeepIt) {
   openInTheMiddle();
   answers = {"Cancel"};
@@ -743,6 +770,8 @@ const std::map<std::string, std::string>& doneElsewhere() {
       {"Modify EDD", "EveryWayToType.asksOnceAndRestoresTheTextOnCancel"},
       {"Cancel EDD", "Editing.leavesTheEDDWhenTheUserCancels"},
       {"Save Anyway or Cancel", "Actions.saveOverAFileThatAnotherProgramHasChangedOnlyWhenToldTo"},
+      {"Open Read-Only, Open a Copy or Cancel", "Actions.openADocumentThatIsOpenElsewhereAsTheUserSays"},
+      {"Open Anyway", "Actions.openADocumentThatIsOpenElsewhereAsTheUserSays"},
       {"Remove fetus", "TheDocumentWindow.addsAFetusAndRemovesOneAfterAQuestion"},
       {"Cancel fetus", "Actions.askAboutAFetusAndKeepIt"},
       {"Remove or Cancel examination", "TheDocumentWindow.addsAndDeletesAnExamination"},

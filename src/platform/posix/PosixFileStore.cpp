@@ -5,6 +5,7 @@
 #include <cerrno>
 #include <climits>
 #include <cstdlib>
+#include <ctime>
 #include <filesystem>
 #include <new>
 #include <stdexcept>
@@ -13,9 +14,14 @@
 #include <utility>
 
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <sys/xattr.h>
 #include <unistd.h>
+
+#include "posix/Descriptor.h"
+#include "posix/DocumentLock.h"
+#include "posix/NewFile.h"
 
 namespace nascor::posix {
 
@@ -25,68 +31,12 @@ using foundation::FileError;
 
 constexpr const char* kAccessList = "system.posix_acl_access";
 
-FileError systemError(int number = errno) { return FileError{std::generic_category().message(number)}; }
 FileError notAFile(mode_t mode) {
   return S_ISDIR(mode) ? systemError(EISDIR) : FileError{"Not a regular file"};
 }
 
 /// The operating system would take such a path for another, shorter one.
 bool hasZeroByte(const std::string& path) { return path.find('\0') != std::string::npos; }
-
-/// Repeats a call of the operating system that a signal interrupted.
-template <class Call>
-auto uninterrupted(Call call) {
-  auto result = call();
-  while (result == -1 && errno == EINTR) result = call();
-  return result;
-}
-
-class Descriptor {
- public:
-  explicit Descriptor(int number) : number_(number) {}
-  Descriptor(const Descriptor&) = delete;
-  Descriptor& operator=(const Descriptor&) = delete;
-  ~Descriptor() {
-    if (number_ >= 0) ::close(number_);
-  }
-
-  bool isOpen() const { return number_ >= 0; }
-  int number() const { return number_; }
-
-  /// False, with `errno` set, when the system reports a late failure to write.
-  bool close() { return ::close(std::exchange(number_, -1)) == 0 || errno == EINTR; }
-
- private:
-  int number_;
-};
-
-/// A new file in the folder of the one that it shall replace, gone again unless it was renamed.
-class TemporaryFile {
- public:
-  explicit TemporaryFile(const std::string& folder)
-      : path_(folder + ".nascor-XXXXXX"),
-        descriptor_(::mkostemp(path_.data(), O_CLOEXEC)),
-        isThere_(descriptor_.isOpen()) {}
-  TemporaryFile(const TemporaryFile&) = delete;
-  TemporaryFile& operator=(const TemporaryFile&) = delete;
-  ~TemporaryFile() {
-    if (isThere_) ::unlink(path_.c_str());
-  }
-
-  Descriptor& descriptor() { return descriptor_; }
-  int number() const { return descriptor_.number(); }
-
-  bool rename(const std::string& target) {
-    if (::rename(path_.c_str(), target.c_str()) != 0) return false;
-    isThere_ = false;
-    return true;
-  }
-
- private:
-  std::string path_;
-  Descriptor descriptor_;
-  bool isThere_ = false;
-};
 
 /// `path` up to its last slash; empty for a name alone, which lies in the working folder.
 std::string folderOf(const std::string& path) { return path.substr(0, path.rfind('/') + 1); }
@@ -131,6 +81,20 @@ bool takeOverAccessList(int file, const std::string& oldPath) {
   return hasNone;
 }
 
+/// Sets the permissions of a file that was made for its owner alone. A file system that has none, such as FAT, gives all its
+/// files the same: what it gives is what was wanted, or more than the file was made with.
+bool setMode(int file, mode_t mode) {
+  if (uninterrupted([&] { return ::fchmod(file, mode); }) == 0) return true;
+  const int error = errno;
+  struct stat fresh {};
+  if ((error == EPERM || error == ENOTSUP || error == ENOSYS) && ::fstat(file, &fresh) == 0) {
+    const mode_t given = fresh.st_mode & 0777;
+    if (given == mode || (given & ~static_cast<mode_t>(S_IRUSR | S_IWUSR)) != 0) return true;
+  }
+  errno = error;
+  return false;
+}
+
 /// Gives `file` the owner, group and permissions of the file that it shall replace.
 bool takeOverPermissions(int file, const std::string& oldPath, const struct stat& old) {
   struct stat fresh {};
@@ -144,15 +108,47 @@ bool takeOverPermissions(int file, const std::string& oldPath, const struct stat
   mode_t mode = old.st_mode & 0777;
   // Without its access list, the group's bits of the mode are not what they were.
   if (!takeOverAccessList(file, oldPath) || !keepsGroup) mode = (mode & 0707) | ((mode & 0007) << 3);
-  return ::fchmod(file, mode) == 0;
+  return setMode(file, mode);
 }
 
-/// Makes the renaming last. Its failure changes nothing: old file or new, it is whole.
-void flushFolder(const std::string& folder) {
-  const Descriptor descriptor(
-      ::open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-  if (descriptor.isOpen()) uninterrupted([&] { return ::fsync(descriptor.number()); });
+/// The folder of a file that is to be replaced, held against other programs that do the same as far as its file system knows
+/// locks, so that none comes between a look at the old file and its end.
+class HeldFolder {
+ public:
+  HeldFolder(const std::string& folder, bool isHeld)
+      : descriptor_(uninterrupted([&] {
+          return ::open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+        })) {
+    // A program that stands still must not stop this one: what it holds for longer is not waited for.
+    constexpr int kMostTries = 2000;
+    constexpr timespec kMillisecond{.tv_sec = 0, .tv_nsec = 1'000'000};
+    for (int i = 0; isHeld && descriptor_.isOpen() && i < kMostTries; ++i) {
+      if (::flock(descriptor_.number(), LOCK_EX | LOCK_NB) == 0 || (errno != EWOULDBLOCK && errno != EINTR))
+        break;
+      ::nanosleep(&kMillisecond, nullptr);
+    }
+  }
+
+  /// Makes a new name last; `file` is the one that got it. False, with `errno` set, when the system does not vouch for it.
+  bool flush(int file) const {
+    if (descriptor_.isOpen() && uninterrupted([&] { return ::fsync(descriptor_.number()); }) == 0)
+      return true;
+    // A folder that may not be read, or is no file to this file system.
+    const bool cannot = !descriptor_.isOpen() || errno == EINVAL || errno == EBADF || errno == ENOTSUP;
+    return cannot && uninterrupted([&] { return ::syncfs(file); }) == 0;
+  }
+
+ private:
+  Descriptor descriptor_;
+};
+
+/// Whether the file was written to its end. Some file systems say only when it is closed that they could not.
+bool isClosedWell(int file) {
+  Descriptor second(uninterrupted([&] { return ::fcntl(file, F_DUPFD_CLOEXEC, 0); }));
+  return second.isOpen() && second.close();
 }
+
+FileError isChanged() { return {.reason = "It was changed meanwhile", .kind = FileError::Kind::isChanged}; }
 
 }  // namespace
 
@@ -198,6 +194,17 @@ std::variant<std::vector<std::byte>, FileError> PosixFileStore::contents(const s
 
 std::optional<FileError> PosixFileStore::replaceContents(const std::string& path,
                                                          std::span<const std::byte> bytes) {
+  return replace(path, bytes, nullptr);
+}
+
+std::optional<FileError> PosixFileStore::replaceExpected(const std::string& path,
+                                                         std::span<const std::byte> bytes,
+                                                         const foundation::FileContents& expected) {
+  return replace(path, bytes, &expected);
+}
+
+std::optional<FileError> PosixFileStore::replace(const std::string& path, std::span<const std::byte> bytes,
+                                                 const foundation::FileContents* expected) {
   if (path.empty()) return systemError(ENOENT);
   if (hasZeroByte(path)) return systemError(EINVAL);
   const auto resolved = linkTarget(path);
@@ -205,23 +212,66 @@ std::optional<FileError> PosixFileStore::replaceContents(const std::string& path
   const auto& target = std::get<std::string>(resolved);
   // Such a path can only mean a folder, even where there is none.
   if (target.ends_with('/')) return systemError(EISDIR);
+  if (swept_.insert(folderOf(target)).second) removeLeftovers(folderOf(target));
 
+  // Once more where a file came or went meanwhile, or the new one needs a name from the beginning.
+  constexpr int kMostTries = 10;
+  bool hasName = false;
+  for (int i = 0; i < kMostTries; ++i) {
+    const Attempt attempt = tryToReplace(target, bytes, expected, hasName);
+    if (!attempt.isToBeRepeated) return attempt.error;
+    hasName = hasName || attempt.needsName;
+  }
+  return systemError(EAGAIN);
+}
+
+PosixFileStore::Attempt PosixFileStore::tryToReplace(const std::string& target,
+                                                     std::span<const std::byte> bytes,
+                                                     const foundation::FileContents* expected,
+                                                     bool hasName) const {
+  const auto failed = [](int number = errno) { return Attempt{.error = systemError(number)}; };
   struct stat old {};
   const bool replaces = ::stat(target.c_str(), &old) == 0;
-  if (!replaces && errno != ENOENT) return systemError();
-  if (replaces && !S_ISREG(old.st_mode)) return notAFile(old.st_mode);
-  if (replaces && ::faccessat(AT_FDCWD, target.c_str(), W_OK, AT_EACCESS) != 0) return systemError();
+  if (!replaces && errno != ENOENT) return failed();
+  if (replaces && !S_ISREG(old.st_mode)) return {.error = notAFile(old.st_mode)};
+  if (replaces && ::faccessat(AT_FDCWD, target.c_str(), W_OK, AT_EACCESS) != 0) return failed();
+  if (expected != nullptr && expected->has_value() != replaces) return {.error = isChanged()};
 
   const std::string folder = folderOf(target);
-  TemporaryFile fresh(folder);
-  if (!fresh.descriptor().isOpen()) return systemError();
+  NewFile fresh(folder, hasName);
+  if (!fresh.isOpen()) return failed();
   const bool mayBeRead = replaces ? takeOverPermissions(fresh.number(), target, old)
-                                  : ::fchmod(fresh.number(), S_IRUSR | S_IWUSR) == 0;
-  if (!mayBeRead || !writeAll(fresh.number(), bytes)) return systemError();
-  if (uninterrupted([&] { return ::fsync(fresh.number()); }) != 0) return systemError();
-  if (!fresh.descriptor().close() || !fresh.rename(target)) return systemError();
-  flushFolder(folder);
-  return std::nullopt;
+                                  : setMode(fresh.number(), S_IRUSR | S_IWUSR);
+  if (!mayBeRead || !writeAll(fresh.number(), bytes)) return failed();
+  if (uninterrupted([&] { return ::fsync(fresh.number()); }) != 0) return failed();
+  if (!isClosedWell(fresh.number())) return failed();
+
+  const HeldFolder held(folder, expected != nullptr);
+  if (replaces && expected != nullptr) {
+    const auto now = contents(target);
+    if (const auto* error = std::get_if<FileError>(&now))
+      return {.error = exists(target) ? *error : isChanged()};
+    if (std::get<0>(now) != **expected) return {.error = isChanged()};
+  }
+  bool canHaveName = true;
+  const bool isDone = replaces ? fresh.replace(target, canHaveName) : fresh.becomeNew(target);
+  if (!isDone) {
+    const int error = errno;
+    if (!replaces && error == EEXIST)
+      return expected != nullptr ? Attempt{.error = isChanged()} : Attempt{.isToBeRepeated = true};
+    const bool needsName = !fresh.hasName() && !hasName && (!replaces || !canHaveName);
+    if (needsName) return {.isToBeRepeated = true, .needsName = true};
+    return failed(error);
+  }
+  if (held.flush(fresh.number())) return {};
+  FileError error = systemError();
+  error.kind = FileError::Kind::isWritten;
+  return {.error = error};
+}
+
+foundation::FileClaim PosixFileStore::claim(const std::string& path, Claim wish) {
+  if (path.empty() || hasZeroByte(path)) return {};
+  return claimDocument(resolvedPath(path), wish);
 }
 
 std::vector<foundation::FileEntry> PosixFileStore::entries(const std::string& folder) const {

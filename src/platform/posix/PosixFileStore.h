@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <optional>
+#include <set>
 #include <span>
 #include <string>
 #include <utility>
@@ -33,14 +34,36 @@ class PosixFileStore final : public foundation::FileStore {
   std::optional<foundation::FileError> replaceContents(const std::string& path,
                                                        std::span<const std::byte> bytes) override;
 
+  /// Between the look at the file and its end stands a lock of its folder, where the file system knows locks between
+  /// programs, so that no other program of this machine that does the same comes between.
+  std::optional<foundation::FileError> replaceExpected(const std::string& path,
+                                                       std::span<const std::byte> bytes,
+                                                       const foundation::FileContents& expected) override;
+
+  /// A file beside the document, made by a call that succeeds for one program alone, on shares of several machines too.
+  foundation::FileClaim claim(const std::string& path, Claim wish) override;
+
   std::vector<foundation::FileEntry> entries(const std::string& folder) const override;
   bool exists(const std::string& path) const override;
   std::string documentsFolder() const override;
   std::string resolvedPath(const std::string& path) const override;
 
  private:
+  struct Attempt {
+    std::optional<foundation::FileError> error{};
+    bool isToBeRepeated = false;
+    bool needsName = false;  ///< the new file needs a name from the beginning
+  };
+
+  std::optional<foundation::FileError> replace(const std::string& path, std::span<const std::byte> bytes,
+                                               const foundation::FileContents* expected);
+  /// `target` is no link.
+  Attempt tryToReplace(const std::string& target, std::span<const std::byte> bytes,
+                       const foundation::FileContents* expected, bool hasName) const;
+
   std::string documentsFolder_;
   Pipes pipes_;
+  std::set<std::string> swept_;  ///< the folders in which leftovers were looked for
 };
 
 }  // namespace nascor::posix

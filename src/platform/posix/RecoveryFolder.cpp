@@ -17,6 +17,8 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "posix/Descriptor.h"
+
 namespace nascor::posix {
 namespace {
 
@@ -29,8 +31,6 @@ constexpr const char* kData = ".nascor";
 constexpr const char* kOrigin = ".origin";
 constexpr mode_t kOwnersFolder = S_IRWXU;
 constexpr mode_t kOwnersFile = S_IRUSR | S_IWUSR;
-
-FileError systemError(int number = errno) { return FileError{std::generic_category().message(number)}; }
 
 std::string homeFolder() {
   if (const char* home = std::getenv("HOME"); home && *home == '/') return home;

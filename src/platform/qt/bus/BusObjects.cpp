@@ -240,8 +240,8 @@ QVariantList BusObjects::open(const Target&, const QVariantList& arguments) {
   const QString path = arguments[0].toString();
   if (!QDir::isAbsolutePath(path)) refuse(kInvalidArguments, QStringLiteral("expected an absolute path"));
   foundation::FileError error;
-  const framework::ZuDocument* document =
-      documents_.openDocument(QFile::encodeName(path).toStdString(), error);
+  const framework::ZuDocument* document = documents_.openDocument(
+      QFile::encodeName(path).toStdString(), error, framework::DocumentController::IfHeld::refuses);
   if (!document) {
     // In one line, where a window has a button for the details.
     const std::string details = error.details.empty() ? "" : " (" + error.details + ")";

@@ -131,6 +131,7 @@ void DocumentApplication::openNow(const QStringList& paths) {
         documents_.closeUntouchedDocument(*before);
       continue;
     }
+    if (error.kind == foundation::FileError::Kind::isDeclined) continue;
     recentFiles_.forget(path);
     sentences << fromUtf8(error.reason);
     if (!error.details.empty()) details += error.details + "\n";

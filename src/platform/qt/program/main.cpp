@@ -21,6 +21,7 @@
 #include "bus/BusObjects.h"
 #include "posix/CoreDumps.h"
 #include "posix/EndingSignals.h"
+#include "posix/FileSizeSignal.h"
 #include "posix/RecoveryFolder.h"
 #include "program/Application.h"
 #include "program/ApplicationIcon.h"
@@ -202,6 +203,7 @@ int showDocuments(Application& application, const CommandLine& line, const found
   const QSocketNotifier ending(endingSignals.descriptor(), QSocketNotifier::Read);
   QObject::connect(&ending, &QSocketNotifier::activated, &application, [&] {
     documents.keepChanges();
+    documents.documents().releaseLocks();
     endingSignals.obey();
   });
   BusObjects objects(services, documents.documents(), documents.numbers());
@@ -257,6 +259,7 @@ int nascorMain(int argc, char** argv) {
 
 int main(int argc, char** argv) {
   posix::switchOffCoreDumps();
+  posix::ignoreFileSizeSignal();
   try {
     return nascorMain(argc, argv);
   } catch (const std::exception& error) {

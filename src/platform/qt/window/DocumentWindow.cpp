@@ -321,7 +321,8 @@ void DocumentWindow::bindEditActions() {
 
 void DocumentWindow::showState() {
   if (!document_) return;
-  setWindowTitle(fromUtf8(foundation::oneLine(document_->displayName())) + QStringLiteral("[*]"));
+  const QString name = fromUtf8(foundation::oneLine(document_->displayName())) + QStringLiteral("[*]");
+  setWindowTitle(document_->isReadOnly() ? said("DocumentWindow", "%1 (read-only)").arg(name) : name);
   setWindowModified(document_->isDocumentEdited());
   ui_->revertAction->setEnabled(document_->filePath().has_value());
   const QString path = document_->filePath()
@@ -382,8 +383,10 @@ void DocumentWindow::showCompare() {
 void DocumentWindow::changeEvent(QEvent* event) {
   QMainWindow::changeEvent(event);
   if (event->type() != QEvent::ActivationChange || !isActiveWindow() || !document_) return;
-  if (environment_.actions.isRunning() || environment_.documents.currentDocument() == document_) return;
-  environment_.documents.setCurrentDocument(*document_);
+  if (environment_.actions.isRunning()) return;
+  environment_.documents.lookAtFile(*document_);
+  if (environment_.documents.currentDocument() != document_)
+    environment_.documents.setCurrentDocument(*document_);
 }
 
 void DocumentWindow::closeEvent(QCloseEvent* event) {

@@ -1,0 +1,9 @@
+#pragma once
+
+namespace nascor::posix {
+
+/// From now on a file that grows beyond the size that the system permits fails to be written, like one on a full disk, and does
+/// not end the program.
+void ignoreFileSizeSignal();
+
+}  // namespace nascor::posix
