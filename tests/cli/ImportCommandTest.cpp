@@ -10,6 +10,7 @@
 #include <nlohmann/json.hpp>
 
 #include "Process.h"
+#include "posix/PosixFileStore.h"
 
 namespace nascor::tests {
 namespace {
@@ -217,6 +218,23 @@ TEST(Storing, refusesAnotherPatient) {
     EXPECT_EQ(contentsOfFile(path), before) << name;
   }
   EXPECT_EQ(run({"import", machineReport("other-patient"), "--into", path, "--patient", "AB-123"}).status, 0);
+  EXPECT_NE(contentsOfFile(path), before);
+}
+
+TEST(Storing, takesNoDocumentThatAnotherProgramHasOpen) {
+  const ScratchFolder folder;
+  const std::string path =
+      folder.write("patient.nascor", document(R"({"maternalIDString":"AB-123","gravida":1})"));
+  const std::string before = contentsOfFile(path);
+  posix::PosixFileStore store;
+  foundation::FileClaim claim = store.claim(path, foundation::FileStore::Claim::ifFree);
+  ASSERT_TRUE(claim.lock);
+  const Outcome outcome = run({"import", machineReport("plain"), "--into", path});
+  EXPECT_EQ(outcome.status, 1);
+  EXPECT_THAT(outcome.err, HasSubstr("It is open elsewhere. User: "));
+  EXPECT_EQ(contentsOfFile(path), before);
+  claim.lock.reset();
+  EXPECT_EQ(run({"import", machineReport("plain"), "--into", path}).status, 0);
   EXPECT_NE(contentsOfFile(path), before);
 }
 

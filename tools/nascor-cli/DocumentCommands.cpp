@@ -3,12 +3,12 @@
 #include "archive/FormatError.h"
 #include "archive/TreeDump.h"
 #include "cli_commands/Command.h"
+#include "cli_commands/DocumentFile.h"
 #include "cli_commands/Documents.h"
 #include "cli_commands/Input.h"
 #include "model/PatientJson.h"
 #include "model/PatientJsonReader.h"
 #include "posix/PosixCalendar.h"
-#include "posix/PosixFileStore.h"
 
 namespace nascor::cli {
 
@@ -48,9 +48,10 @@ void runMake(const Arguments& arguments, Console& console) {
   const auto bytes = model::archivedPatient(*document.patient);
   if (target == "-") {
     console.writeBytes(bytes);
-  } else if (const auto error = posix::PosixFileStore().replaceContents(target, bytes)) {
-    console.complain(target, error->reason);
+    return;
   }
+  DocumentFile file(target, console);
+  if (file.isOurs()) file.write(bytes);
 }
 
 void runDump(const Arguments& arguments, Console& console) {

@@ -5,6 +5,7 @@
 
 #include "calc/EditingBounds.h"
 #include "cli_commands/Command.h"
+#include "cli_commands/DocumentFile.h"
 #include "cli_commands/Documents.h"
 #include "cli_commands/Input.h"
 #include "cli_commands/Reports.h"
@@ -14,7 +15,6 @@
 #include "foundation/JsonText.h"
 #include "model/PatientFile.h"
 #include "posix/PosixCalendar.h"
-#include "posix/PosixFileStore.h"
 
 namespace nascor::cli {
 
@@ -78,9 +78,23 @@ std::vector<Found> findAndPrint(const std::vector<std::string>& files, Console& 
   return all;
 }
 
-/// What findings are stored in: the document of --into, or a new one.
-std::optional<model::UnarchivedPatient> documentFor(const Arguments& arguments, Console& console) {
-  if (const auto into = arguments.option("into")) return documentIn(*into, console);
+/// What findings are stored in, and what its file holds.
+struct Stored {
+  model::UnarchivedPatient document;
+  foundation::FileContents contents{};
+};
+
+/// The document of --into, or a new one.
+std::optional<Stored> documentFor(const Arguments& arguments, Console& console) {
+  if (const auto into = arguments.option("into")) {
+    const auto contents = contentsOf(*into, console);
+    if (!contents) return std::nullopt;
+    auto document = documentFrom(*contents);
+    if (auto* read = std::get_if<model::UnarchivedPatient>(&document))
+      return Stored{.document = std::move(*read), .contents = *contents};
+    console.complain(nameOf(*into), std::get<std::string>(document));
+    return std::nullopt;
+  }
   const std::string out = arguments.option("out").value_or("");
   std::error_code ignored;
   if (std::filesystem::symlink_status(out, ignored).type() != std::filesystem::file_type::not_found) {
@@ -92,7 +106,7 @@ std::optional<model::UnarchivedPatient> documentFor(const Arguments& arguments, 
   document.patient->setNumberOfFetuses(1);
   constexpr double kWeeks = 40.0;
   document.patient->setExtrapolatedGestation(kWeeks);
-  return document;
+  return Stored{.document = std::move(document)};
 }
 
 /// All of them, or nothing is written.
@@ -100,29 +114,30 @@ void store(const std::vector<Found>& all, const Arguments& arguments, Console& c
   const exchange::Confirmation confirmation = confirmationIn(arguments);
   const posix::PosixCalendar calendar;
   const bool isNewDocument = !arguments.has("into");
-  auto document = documentFor(arguments, console);
-  if (!document || all.empty()) return;
+  const std::string target = arguments.option(isNewDocument ? "out" : "into").value_or("");
+  // Before it is read, or what another program writes meanwhile would be lost.
+  DocumentFile document(target, console);
+  if (!document.isOurs()) return;
+  auto stored = documentFor(arguments, console);
+  if (!stored || all.empty()) return;
+  model::PatientRecord& patient = *stored->document.patient;
 
   bool isNew = isNewDocument;
   bool isRefused = false;
   std::vector<std::pair<std::string, std::string>> warnings;
   for (const Found& found : all) {
-    const auto stored =
-        exchange::storeFindings(found.findings, confirmation, isNew, calendar, *document->patient);
-    if (const auto* why = std::get_if<std::string>(&stored)) {
+    const auto taken = exchange::storeFindings(found.findings, confirmation, isNew, calendar, patient);
+    if (const auto* why = std::get_if<std::string>(&taken)) {
       console.complain(nameOf(found.file), *why);
       isRefused = true;
       continue;
     }
     isNew = false;
-    for (const std::string& warning : std::get<0>(stored)) warnings.emplace_back(nameOf(found.file), warning);
+    for (const std::string& warning : std::get<0>(taken)) warnings.emplace_back(nameOf(found.file), warning);
   }
   if (isRefused) return;
   for (const auto& [file, warning] : warnings) console.warn(file, warning);
-  const std::string target = arguments.option(isNewDocument ? "out" : "into").value_or("");
-  if (const auto error =
-          posix::PosixFileStore().replaceContents(target, model::archivedPatient(*document->patient)))
-    console.complain(target, error->reason);
+  document.writeExpected(model::archivedPatient(patient), stored->contents);
 }
 
 void runImport(const Arguments& arguments, Console& console) {

@@ -40,10 +40,9 @@ class Target {
     std::filesystem::create_directories(folder_, error);
     if (error) return console_->complain(folder_, error.message());
     const std::string path = (std::filesystem::path(folder_) / name).string();
-    if (keepsOld_ && posix::PosixFileStore().exists(path))
+    if (keepsOld_ && store_.exists(path))
       return console_->warn(path, "it is there already, and stays as it is");
-    if (const auto problem = posix::PosixFileStore().replaceContents(path, bytes))
-      console_->complain(path, problem->reason);
+    if (const auto problem = store_.replaceContents(path, bytes)) console_->complain(path, problem->reason);
   }
 
  private:
@@ -51,6 +50,7 @@ class Target {
   bool keepsOld_;
   Console* console_;
   std::set<std::string> names_;
+  posix::PosixFileStore store_;
 };
 
 /// Why the reference ID cannot stand in a report; empty when it can.

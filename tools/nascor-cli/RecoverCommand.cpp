@@ -2,6 +2,7 @@
 #include <variant>
 
 #include "cli_commands/Command.h"
+#include "cli_commands/DocumentFile.h"
 #include "cli_commands/Documents.h"
 #include "cli_commands/Input.h"
 #include "foundation/JsonText.h"
@@ -70,9 +71,10 @@ void runRecover(const Arguments& arguments, Console& console) {
   const auto document = documentFrom(*contents);
   if (const auto* sentence = std::get_if<std::string>(&document)) {
     console.complain(nameOf(path), *sentence);
-  } else if (const auto error = posix::PosixFileStore().replaceContents(*target, *contents)) {
-    console.complain(*target, error->reason);
+    return;
   }
+  DocumentFile file(*target, console);
+  if (file.isOurs()) file.write(*contents);
 }
 
 }  // namespace
