@@ -73,14 +73,17 @@ TEST_F(ThePreferences, areReadByTheirOwnerAloneWhateverTheUmask) {
     EXPECT_EQ(modeOf(path()), mode_t{0600});
     QtUserDefaults().setValue(standard, "2");
     EXPECT_EQ(modeOf(path()), mode_t{0600}) << "written again";
+    EXPECT_EQ(modeOf(QFileInfo(path()).path()), mode_t{0700});
   }
 }
 
 TEST_F(ThePreferences, thatAnOlderProgramLeftOpenAreClosed) {
   QtUserDefaults().setValue(standard, "3");
   ASSERT_EQ(::chmod(QFile::encodeName(path()).constData(), 0666), 0);
+  ASSERT_EQ(::chmod(QFile::encodeName(QFileInfo(path()).path()).constData(), 0755), 0);
   EXPECT_EQ(QtUserDefaults().value(standard), "3");
   EXPECT_EQ(modeOf(path()), mode_t{0600});
+  EXPECT_EQ(modeOf(QFileInfo(path()).path()), mode_t{0700});
 }
 
 TEST_F(ThePreferences, keepNamesWithBlanksAndTextsWithSigns) {

@@ -12,6 +12,14 @@ namespace nascor::qt {
 
 namespace {
 
+/// QDir makes folders as the umask permits.
+void makePrivate(const QString& folder) {
+  constexpr QFile::Permissions kOwnersAlone = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner;
+  constexpr QFile::Permissions kOfThisUser = QFile::ReadUser | QFile::WriteUser | QFile::ExeUser;
+  if ((QFileInfo(folder).permissions() & ~(kOwnersAlone | kOfThisUser)) != 0)
+    QFile::setPermissions(folder, kOwnersAlone);
+}
+
 /// The names of documents stand among the preferences, and reference IDs in the names: the file is its owner's alone,
 /// whatever the umask. QSettings keeps the permissions of a file that is there.
 void keepPrivate(const QString& path) {
@@ -19,6 +27,7 @@ void keepPrivate(const QString& path) {
   const QFileInfo file(path);
   if (!file.exists()) {
     QDir().mkpath(file.path());
+    makePrivate(file.path());
     const int made = ::open(QFile::encodeName(path).constData(), O_CREAT | O_EXCL | O_WRONLY | O_CLOEXEC,
                             S_IRUSR | S_IWUSR);
     if (made >= 0) ::close(made);
@@ -34,7 +43,9 @@ QtUserDefaults::QtUserDefaults()
                 QStringLiteral("nascor")) {
   // Ignores the preferences of the whole machine: they are not this user's.
   settings_.setFallbacksEnabled(false);
-  if (QFileInfo::exists(settings_.fileName())) keepPrivate(settings_.fileName());
+  if (!QFileInfo::exists(settings_.fileName())) return;
+  makePrivate(QFileInfo(settings_.fileName()).path());
+  keepPrivate(settings_.fileName());
 }
 
 std::optional<std::string> QtUserDefaults::value(std::string_view key) const {
