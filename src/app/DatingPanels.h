@@ -26,6 +26,9 @@ struct ProposedEDD {
 /// A panel and its fields.
 class DatingPanel {
  public:
+  DatingPanel(const DatingPanel&) = delete;
+  DatingPanel& operator=(const DatingPanel&) = delete;
+
   framework::Panel& panel() { return panel_; }
   const framework::Panel& panel() const { return panel_; }
   /// In the order in which the document lists them.
@@ -34,8 +37,6 @@ class DatingPanel {
  protected:
   DatingPanel(std::string name, const FieldReader& reader) : panel_(std::move(name)), reader_(reader) {}
   ~DatingPanel() = default;
-  DatingPanel(const DatingPanel&) = delete;
-  DatingPanel& operator=(const DatingPanel&) = delete;
 
   void setFields(std::vector<framework::TextField*> fields) { fields_ = std::move(fields); }
   const FieldReader& reader() const { return reader_; }

@@ -111,10 +111,10 @@ class NCDocument final : public framework::CorvelDocument,
   void updateDisplay() override;
   /// What the marks of the examination on show say on that chart page, for those who do not see it: measure, value, z-score,
   /// and the standard. The standard alone where there is none.
-  std::string spokenPage(std::int64_t page) const;
+  std::string spokenPage(std::int64_t index) const;
   /// What a page cannot show for want of something, and where it is entered: a sentence each, none where nothing is missing.
   /// For the window alone; paper, files and drawings never show it.
-  std::vector<std::string> adviceOnPage(std::int64_t page) const;
+  std::vector<std::string> adviceOnPage(std::int64_t index) const;
   // Selector: switchToGraph:
   /// Shows that page. Throws RangeError.
   void switchToGraph(std::int64_t tabIndex) override;

@@ -80,7 +80,9 @@ PatientState NCDocument::state() const {
 }
 
 void NCDocument::beginHistory() {
-  history_.begin(state(), {.examination = currentExam(), .fetus = currentFetus_}, !isRecovered());
+  // What was recovered, and a copy of another document, is in no file of its own.
+  const bool isSaved = !isRecovered() && (filePath() || isBlank());
+  history_.begin(state(), {.examination = currentExam(), .fetus = currentFetus_}, isSaved);
   onHistoryChanged();
 }
 

@@ -38,7 +38,7 @@ class PatientPages {
   template <class Summary>
   void addSummary(std::size_t row, std::size_t column);
   template <class Chart, class Strip>
-  Chart* addChartPage(model::PatientPage page);
+  Chart* addChartPage(model::PatientPage which);
 
   framework::Page& page(model::PatientPage page) { return pages_.at(model::placeOf(page)); }
   void addTrends();

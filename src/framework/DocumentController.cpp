@@ -82,6 +82,7 @@ DocumentController::Opening DocumentController::askHowToOpen(const std::string& 
   }
   ways.emplace_back(Opening::notAtAll, services_.localizer.text("ZuVersion", "Cancel"));
   std::vector<std::string> buttons;
+  buttons.reserve(ways.size());
   for (const auto& [way, button] : ways) buttons.push_back(button);
   const std::size_t answer = alerts_.chooseOne(
       localizer.text("CorvelDocument", "This document is open elsewhere. How do you want to open it?"),

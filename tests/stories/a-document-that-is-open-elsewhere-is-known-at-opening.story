@@ -35,6 +35,10 @@ A copy has no file yet, and counts as edited.
 => {"number":2}
 {"state":true}
 =~ {"edited":true,"fields":{"bpdField":"45.5","hcField":"0.0"}}
+{"edit":["hcField","160"]}
+{"do":["undo"]}
+{"state":true}
+=~ {"edited":true,"fields":{"hcField":"0.0"}}
 {"save":"AB-123.nascor"}
 =~ {"error":"...It is open elsewhere. User: anna..."}
 {"close":"discard"}

@@ -143,7 +143,7 @@ void removeLeftovers(const std::string& folder) {
     if (std::string_view(entry->d_name).starts_with(ours)) found.push_back(folder + entry->d_name);
   }
   ::closedir(directory);
-  constexpr time_t kLongestWrite = 24 * 3600;
+  constexpr time_t kLongestWrite = time_t{24} * 3600;
   for (const std::string& path : found) {
     const Descriptor file(::open(path.c_str(), O_RDWR | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY));
     struct stat status {};

@@ -150,6 +150,24 @@ bool isClosedWell(int file) {
 
 FileError isChanged() { return {.reason = "It was changed meanwhile", .kind = FileError::Kind::isChanged}; }
 
+/// What stands in the way of writing to `target`, which has the status `old` if there is such a file.
+std::optional<FileError> obstacleTo(const std::string& target, const struct stat* old,
+                                    const foundation::FileContents* expected) {
+  if (old != nullptr && !S_ISREG(old->st_mode)) return notAFile(old->st_mode);
+  if (old != nullptr && ::faccessat(AT_FDCWD, target.c_str(), W_OK, AT_EACCESS) != 0) return systemError();
+  if (expected != nullptr && expected->has_value() != (old != nullptr)) return isChanged();
+  return std::nullopt;
+}
+
+/// Whether `fresh` holds `bytes` on the disk, and may be read by those who may read `target`; errno tells why not.
+bool isWrittenWhole(const NewFile& fresh, std::span<const std::byte> bytes, const std::string& target,
+                    const struct stat* old) {
+  const bool mayBeRead = old != nullptr ? takeOverPermissions(fresh.number(), target, *old)
+                                        : setMode(fresh.number(), S_IRUSR | S_IWUSR);
+  return mayBeRead && writeAll(fresh.number(), bytes) &&
+         uninterrupted([&] { return ::fsync(fresh.number()); }) == 0 && isClosedWell(fresh.number());
+}
+
 }  // namespace
 
 std::variant<std::vector<std::byte>, FileError> PosixFileStore::contents(const std::string& path) const {
@@ -225,6 +243,13 @@ std::optional<FileError> PosixFileStore::replace(const std::string& path, std::s
   return systemError(EAGAIN);
 }
 
+std::optional<FileError> PosixFileStore::changeOf(const std::string& target,
+                                                  const foundation::FileContents& expected) const {
+  const auto now = contents(target);
+  if (const auto* error = std::get_if<FileError>(&now)) return exists(target) ? *error : isChanged();
+  return std::get<0>(now) == *expected ? std::nullopt : std::optional(isChanged());
+}
+
 PosixFileStore::Attempt PosixFileStore::tryToReplace(const std::string& target,
                                                      std::span<const std::byte> bytes,
                                                      const foundation::FileContents* expected,
@@ -233,25 +258,17 @@ PosixFileStore::Attempt PosixFileStore::tryToReplace(const std::string& target,
   struct stat old {};
   const bool replaces = ::stat(target.c_str(), &old) == 0;
   if (!replaces && errno != ENOENT) return failed();
-  if (replaces && !S_ISREG(old.st_mode)) return {.error = notAFile(old.st_mode)};
-  if (replaces && ::faccessat(AT_FDCWD, target.c_str(), W_OK, AT_EACCESS) != 0) return failed();
-  if (expected != nullptr && expected->has_value() != replaces) return {.error = isChanged()};
+  const struct stat* status = replaces ? &old : nullptr;
+  if (auto obstacle = obstacleTo(target, status, expected)) return {.error = std::move(obstacle)};
 
   const std::string folder = folderOf(target);
   NewFile fresh(folder, hasName);
   if (!fresh.isOpen()) return failed();
-  const bool mayBeRead = replaces ? takeOverPermissions(fresh.number(), target, old)
-                                  : setMode(fresh.number(), S_IRUSR | S_IWUSR);
-  if (!mayBeRead || !writeAll(fresh.number(), bytes)) return failed();
-  if (uninterrupted([&] { return ::fsync(fresh.number()); }) != 0) return failed();
-  if (!isClosedWell(fresh.number())) return failed();
+  if (!isWrittenWhole(fresh, bytes, target, status)) return failed();
 
   const HeldFolder held(folder, expected != nullptr);
   if (replaces && expected != nullptr) {
-    const auto now = contents(target);
-    if (const auto* error = std::get_if<FileError>(&now))
-      return {.error = exists(target) ? *error : isChanged()};
-    if (std::get<0>(now) != **expected) return {.error = isChanged()};
+    if (auto change = changeOf(target, *expected)) return {.error = std::move(change)};
   }
   bool canHaveName = true;
   const bool isDone = replaces ? fresh.replace(target, canHaveName) : fresh.becomeNew(target);

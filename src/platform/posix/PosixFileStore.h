@@ -57,6 +57,9 @@ class PosixFileStore final : public foundation::FileStore {
 
   std::optional<foundation::FileError> replace(const std::string& path, std::span<const std::byte> bytes,
                                                const foundation::FileContents* expected);
+  /// How `target` differs from what is expected of it; nothing when it does not.
+  std::optional<foundation::FileError> changeOf(const std::string& target,
+                                                const foundation::FileContents& expected) const;
   /// `target` is no link.
   Attempt tryToReplace(const std::string& target, std::span<const std::byte> bytes,
                        const foundation::FileContents* expected, bool hasName) const;

@@ -81,11 +81,11 @@ void DatingDialog::bindProposal(QLabel& label, framework::TextField& text) {
 }
 
 void DatingDialog::accept() {
-  const std::string shown = proposalShown_ ? proposalShown_->text() : "";
+  const std::string shown = proposalShown_ != nullptr ? proposalShown_->text() : "";
   // Not for a field that refuses its text: that one is outlined by itself.
   perform([this, shown](NCDocument& document) {
     // A length that was in edit in the window counts only now: what comes of it is shown first.
-    const bool isAsShown = !proposalShown_ || proposalShown_->text() == shown;
+    const bool isAsShown = proposalShown_ == nullptr || proposalShown_->text() == shown;
     if (isAsShown) setEDD(document);
     if (isPanelShown()) outline(proposal(document).obstacles);
   });
