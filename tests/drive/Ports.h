@@ -49,8 +49,11 @@ class StoryFileStore final : public foundation::FileStore {
   std::optional<foundation::FileError> replaceExpected(const std::string& path,
                                                        std::span<const std::byte> bytes,
                                                        const foundation::FileContents& expected) override;
+  /// From now on takes no lock of a document outside the folder of documents: others open it at the same time.
+  void leaveOthersUnlocked() { leavesOthersUnlocked_ = true; }
   foundation::FileClaim claim(const std::string& path, Claim wish) override {
-    return files_.claim(path, wish);
+    const bool isOther = path.starts_with('/') && !path.starts_with(documentsFolder());
+    return leavesOthersUnlocked_ && isOther ? foundation::FileClaim{} : files_.claim(path, wish);
   }
   std::vector<foundation::FileEntry> entries(const std::string& folder) const override {
     return files_.entries(folder);
@@ -65,6 +68,7 @@ class StoryFileStore final : public foundation::FileStore {
   posix::PosixFileStore files_;
   const foundation::Clock& clock_;
   int writes_ = 0;
+  bool leavesOthersUnlocked_ = false;
 };
 
 /// One locale of the driver, as the toolkit has it.

@@ -75,6 +75,7 @@ bool playStory(const std::string& path, std::ostream& out) {
   const std::string dataFolder =
       (std::filesystem::absolute(path).parent_path().parent_path() / "data").string();
   Driver driver;
+  driver.sharesSamples();
   bool isWell = true;
   int number = 0;
   int answeredAt = 0;
