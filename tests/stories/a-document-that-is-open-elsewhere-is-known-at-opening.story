@@ -43,7 +43,7 @@ A copy has no file yet, and counts as edited.
 =~ {"error":"...It is open elsewhere. User: anna..."}
 {"close":"discard"}
 
-Anna's machine was switched off without a word: whoever knows that opens the document all the same, and has it from then on.
+Anna's machine was switched off. A user who knows that opens the document all the same, and holds it from then on.
 
 {"answer":["Open Anyway"]}
 {"open":"AB-123.nascor"}
