@@ -2089,6 +2089,209 @@
     </message>
 </context>
 <context>
+    <name>Summary</name>
+    <message>
+        <source> (g)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> (mm)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fetus %ld of %ld</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>today</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>in %ld days</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%ld days ago</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%ld days after the EDD</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%ld days before the EDD</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reference ID</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fetus</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gravidity</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>EDD</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Last examination</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Planned delivery</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Growth standard</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Weight formula</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Discordance of weights</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Examiner</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>g</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>mm</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Examination</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Age</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The growth standard is not known.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A weight is given above 100 g.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Measurements</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lengths: z and centile by </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Weight: by the formula </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>, z and centile by </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>z</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>centile</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Weights</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Centiles by each reference for weights; difference from the formula in force.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Growth</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>/week</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>expected</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lines: centiles 3, 10, 50, 90 and 97; lengths by </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>, weight by </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Weeks of menstrual age below.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The note is longer; the document has all of it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>en</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fetal biometry summary</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Course</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Notes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sources</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Page %ld of %ld</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>tomorrow</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>yesterday</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>one day after the EDD</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>one day before the EDD</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Since the last examination before that has the measure: change a week, what the growth standard expects, and change of z.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>Viewer</name>
     <message>
         <source>The user guide cannot be shown.</source>

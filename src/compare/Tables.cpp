@@ -1,13 +1,10 @@
 #include "compare/Tables.h"
 
 #include <algorithm>
-#include <array>
-#include <cmath>
 #include <utility>
 
-#include "calc/Dating.h"
 #include "calc/FetalWeight.h"
-#include "calc/PlaceText.h"
+#include "compare/CellWriter.h"
 #include "compare/Comparison.h"
 #include "foundation/NumberText.h"
 #include "model/FetusLabels.h"
@@ -20,91 +17,18 @@ using calc::Measurement;
 using calc::Quantity;
 using foundation::Localizer;
 
-constexpr int kLengthDecimals = 1;
 constexpr int kSDDecimals = 2;
 constexpr int kRatioDecimals = 3;
-
-/// Writes figures in the user's way.
-class Writer {
- public:
-  explicit Writer(const Localizer& localizer) : localizer_(localizer) {}
-
-  std::string text(std::string_view table, std::string_view key) const { return localizer_.text(table, key); }
-
-  Cell number(std::optional<double> value, int decimals) const {
-    if (!value || !std::isfinite(*value)) return none();
-    return {.text = foundation::fieldText(*value, decimals, localizer_.decimalSign()), .number = value};
-  }
-  /// With its sign.
-  Cell change(std::optional<double> value, int decimals) const {
-    Cell cell = number(value, decimals);
-    if (cell.number && *cell.number >= 0.0) cell.text.insert(cell.text.begin(), '+');
-    return cell;
-  }
-  Cell z(std::optional<double> z) const {
-    if (!z) return none();
-    return {.text = calc::zText(*z, localizer_), .number = z};
-  }
-  Cell centile(const std::optional<calc::Centile>& centile) const {
-    if (!centile) return none();
-    return {.text = calc::centileText(*centile, localizer_), .number = centile->percent};
-  }
-  Cell age(std::optional<double> weeks) const {
-    if (!weeks) return none();
-    return {.text = calc::gestationText(*weeks, localizer_), .number = weeks};
-  }
-  std::string name(Quantity quantity) const {
-    // As the fields of the window have them.
-    static constexpr std::array<std::string_view, calc::kQuantities.size()> kNames{
-        foundation::translatable("Compare", "BPD"), foundation::translatable("Compare", "HC"),
-        foundation::translatable("Compare", "AC"), foundation::translatable("Compare", "FL"),
-        foundation::translatable("Compare", "EFW")};
-    return text("Compare", kNames.at(static_cast<std::size_t>(quantity)));
-  }
-
-  /// Why a place is missing, or stands for little.
-  std::string remark(const Placed& figure) const {
-    std::string all;
-    for (const Caution caution : figure.cautions) append(all, sentence(caution, *figure.reference));
-    return all;
-  }
-  static void append(std::string& all, const std::string& sentence) {
-    if (!all.empty() && !sentence.empty()) all += ' ';
-    all += sentence;
-  }
-
- private:
-  static Cell none() { return {.text = "-"}; }
-
-  std::string sentence(Caution caution, const calc::Reference& reference) const {
-    switch (caution) {
-      case Caution::ageUnknown: return text("Compare", "The age is not known.");
-      case Caution::outsideWeeks:
-        return std::string(reference.label)
-            .append(foundation::format(text("Compare", " has %ld to %ld weeks."),
-                                       {reference.firstWeek, reference.lastWeek}));
-      case Caution::otherFormula:
-        return std::string(reference.label)
-            .append(text("Compare", " fits weights by another formula alone: "))
-            .append(calc::weightFormula(reference.onlyFormula.value_or(0))->longLabel)
-            .append(".");
-      case Caution::withoutPlace: break;
-    }
-    return std::string(reference.label).append(text("Compare", " has no place for this value."));
-  }
-
-  const Localizer& localizer_;
-};
 
 Cell label(std::string_view text) { return {.text = std::string(text)}; }
 
 /// Ends each row with its remark.
-void addRemarks(Table& table, const Writer& writer) {
+void addRemarks(Table& table, const CellWriter& writer) {
   table.columns.push_back({.title = writer.text("Compare", "Remark")});
   for (Row& row : table.rows) row.cells.push_back(label(row.remark));
 }
 
-Table lengthsTable(const Comparison& comparison, std::int64_t standard, const Writer& writer) {
+Table lengthsTable(const Comparison& comparison, std::int64_t standard, const CellWriter& writer) {
   Table table{
       .name = "lengths",
       .title = writer.text("Compare", "Lengths"),
@@ -156,7 +80,7 @@ bool needsOneLength(const calc::WeightFormula& formula) {
   });
 }
 
-Table weightsTable(const Comparison& comparison, std::int64_t chosen, const Writer& writer) {
+Table weightsTable(const Comparison& comparison, std::int64_t chosen, const CellWriter& writer) {
   Table table{
       .name = "weights",
       .title = writer.text("Compare", "Weights"),
@@ -182,7 +106,7 @@ Table weightsTable(const Comparison& comparison, std::int64_t chosen, const Writ
       row.remark = writer.text("Compare", "From one length alone.");
     for (const Placed& figure : weight.references) {
       row.cells.push_back(writer.centile(figure.centile));
-      if (weight.grams) Writer::append(row.remark, writer.remark(figure));
+      if (weight.grams) CellWriter::append(row.remark, writer.remark(figure));
     }
     table.rows.push_back(std::move(row));
   }
@@ -190,7 +114,7 @@ Table weightsTable(const Comparison& comparison, std::int64_t chosen, const Writ
   return table;
 }
 
-Table ratiosTable(const Ratios& ratios, const Writer& writer) {
+Table ratiosTable(const Ratios& ratios, const CellWriter& writer) {
   Table table{.name = "ratios",
               .title = writer.text("Compare", "Ratios"),
               .columns = {{.title = writer.text("Compare", "Ratio")},
@@ -204,7 +128,7 @@ Table ratiosTable(const Ratios& ratios, const Writer& writer) {
 
 /// Every fetus of the examination, with the share by which it weighs less than the heaviest.
 Table fetusesTable(const model::PatientRecord& patient, std::size_t examination, std::size_t fetus,
-                   const Localizer& localizer, const Writer& writer) {
+                   const Localizer& localizer, const CellWriter& writer) {
   Table table{.name = "fetuses", .title = writer.text("Compare", "Fetuses"), .columns = {}, .rows = {}};
   table.columns.push_back({.title = writer.text("Compare", "Fetus")});
   for (const Quantity quantity : calc::kQuantities) {
@@ -226,8 +150,8 @@ Table fetusesTable(const model::PatientRecord& patient, std::size_t examination,
                                                   : std::to_string(place + 1))},
             .isChosen = place == fetus};
     for (const Quantity quantity : calc::kQuantities) {
-      row.cells.push_back(writer.number(each.values.at(static_cast<std::size_t>(quantity)),
-                                        quantity == Quantity::efw ? 0 : kLengthDecimals));
+      row.cells.push_back(
+          writer.number(each.values.at(static_cast<std::size_t>(quantity)), decimalsOf(quantity)));
     }
     row.cells.push_back(writer.number(each.less, 1));
     table.rows.push_back(std::move(row));
@@ -236,7 +160,7 @@ Table fetusesTable(const model::PatientRecord& patient, std::size_t examination,
   return table;
 }
 
-Table growthTable(const Comparison& comparison, const Writer& writer) {
+Table growthTable(const Comparison& comparison, const CellWriter& writer) {
   Table table{.name = "growth",
               .title = writer.text("Compare", "Growth"),
               .columns = {{.title = writer.text("Compare", "Measure")},
@@ -253,7 +177,7 @@ Table growthTable(const Comparison& comparison, const Writer& writer) {
                            .explanation = writer.text("Compare", "By the growth standard in force.")}},
               .rows = {}};
   for (const Growth& growth : comparison.growth) {
-    const int decimals = growth.quantity == Quantity::efw ? 0 : kLengthDecimals;
+    const int decimals = decimalsOf(growth.quantity);
     table.rows.push_back(
         {.cells = {label(writer.name(growth.quantity)), writer.change(growth.perWeek, decimals),
                    writer.change(growth.expectedPerWeek, decimals), writer.z(growth.zChange)}});
@@ -286,7 +210,7 @@ std::string lines(const Table& table, std::string_view between, std::string_view
 std::vector<Table> tablesOf(const model::PatientRecord& patient, std::size_t examination, std::size_t fetus,
                             const Localizer& localizer) {
   const Comparison comparison = comparisonOf(patient, examination, fetus);
-  const Writer writer(localizer);
+  const CellWriter writer(localizer);
   return {lengthsTable(comparison, patient.standard(), writer),
           weightsTable(comparison, patient.fetalWeightStandard(), writer),
           ratiosTable(comparison.ratios, writer),

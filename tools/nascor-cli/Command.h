@@ -80,6 +80,7 @@ Command referenceCommand();
 Command compareCommand();
 Command selfTestCommand();
 Command exportCommand();
+Command summaryCommand();
 Command importCommand();
 
 }  // namespace nascor::cli

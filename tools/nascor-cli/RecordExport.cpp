@@ -1,57 +1,22 @@
 #include "cli_commands/RecordExport.h"
 
 #include <algorithm>
-#include <filesystem>
-#include <set>
-#include <system_error>
+#include <span>
 
 #include "cli_commands/Documents.h"
 #include "cli_commands/Input.h"
 #include "cli_commands/Reports.h"
+#include "cli_commands/Target.h"
 #include "exchange/FhirBundle.h"
 #include "exchange/OutgoingExamination.h"
 #include "foundation/Utf8.h"
 #include "posix/PosixCalendar.h"
-#include "posix/PosixFileStore.h"
 
 namespace nascor::cli {
 
 namespace {
 
 using exchange::OutgoingExamination;
-
-/// A folder that files are written to.
-class Target {
- public:
-  Target(std::string folder, bool keepsOld, Console& console)
-      : folder_(std::move(folder)), keepsOld_(keepsOld), console_(&console) {}
-
-  /// The name of a document's files: two documents of one name do not replace each other's.
-  std::string nameFor(const std::string& path) {
-    const std::string stem = path == "-" ? "Untitled" : std::filesystem::path(path).stem().string();
-    std::string name = stem;
-    for (int number = 2; !names_.insert(name).second; ++number)
-      name = stem + " (" + std::to_string(number) + ")";
-    return name;
-  }
-
-  void write(const std::string& name, std::span<const std::byte> bytes) {
-    std::error_code error;
-    std::filesystem::create_directories(folder_, error);
-    if (error) return console_->complain(folder_, error.message());
-    const std::string path = (std::filesystem::path(folder_) / name).string();
-    if (keepsOld_ && store_.exists(path))
-      return console_->warn(path, "it is there already, and stays as it is");
-    if (const auto problem = store_.replaceContents(path, bytes)) console_->complain(path, problem->reason);
-  }
-
- private:
-  std::string folder_;
-  bool keepsOld_;
-  Console* console_;
-  std::set<std::string> names_;
-  posix::PosixFileStore store_;
-};
 
 /// Why the reference ID cannot stand in a report; empty when it can.
 std::string faultOf(const std::string& patientID) {

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <string>
+#include <variant>
+
+#include "summary/Typesetter.h"
+
+namespace nascor::typesetting {
+
+/// The typesetter, whose module is loaded by the first call; it lives as long as the program. Or why there is none, in a
+/// sentence.
+std::variant<summary::Typesetter*, std::string> typesetter();
+
+}  // namespace nascor::typesetting

@@ -1,0 +1,26 @@
+#include "cli_commands/Target.h"
+
+#include <filesystem>
+#include <system_error>
+
+namespace nascor::cli {
+
+std::string Target::nameFor(const std::string& path) {
+  const std::string stem = path == "-" ? "Untitled" : std::filesystem::path(path).stem().string();
+  std::string name = stem;
+  for (int number = 2; !names_.insert(name).second; ++number)
+    name = stem + " (" + std::to_string(number) + ")";
+  return name;
+}
+
+void Target::write(const std::string& name, std::span<const std::byte> bytes) {
+  std::error_code error;
+  std::filesystem::create_directories(folder_, error);
+  if (error) return console_->complain(folder_, error.message());
+  const std::string path = (std::filesystem::path(folder_) / name).string();
+  if (keepsOld_ && store_.exists(path))
+    return console_->warn(path, "it is there already, and stays as it is");
+  if (const auto problem = store_.replaceContents(path, bytes)) console_->complain(path, problem->reason);
+}
+
+}  // namespace nascor::cli
