@@ -155,6 +155,17 @@ TEST_F(Summary, onPaperHasTheSameBytesAtTheSameMoment) {
   EXPECT_EQ(one, summarise({kTwins, "--out", "-"}).out);
 }
 
+TEST_F(Summary, onPaperAddsNoHyphenToAReferenceId) {
+  const std::string identifier(120, 'X');
+  const std::string file = folder.write(
+      "long.nascor",
+      document(R"({"numberOfFetuses":1,"maternalIDString":")" + identifier + R"(","examinations":[]})"));
+  ASSERT_EQ(summarise({file, "--out", out}).status, 0);
+  const std::string text = told("pdftotext -raw '" + out + "/long - Summary.pdf' -");
+  EXPECT_THAT(text, HasSubstr("XXXXXX"));
+  EXPECT_THAT(text, Not(HasSubstr("X-")));
+}
+
 /// Every figure of the HTML stands on the paper too.
 TEST_F(Summary, onPaperHasTheFiguresOfTheHtml) {
   ASSERT_EQ(summarise({kTwins, "--out", out}).status, 0);

@@ -35,6 +35,8 @@ Text::Text(const Fonts& fonts, std::string_view text, const Style& style, double
   // Digits of one width; and each letter for itself, so that what is copied and searched are letters.
   PangoAttrList* features = pango_attr_list_new();
   pango_attr_list_insert(features, pango_attr_font_features_new("tnum=1, liga=0, clig=0"));
+  // Nor a hyphen that no text has: a long reference ID would be another.
+  pango_attr_list_insert(features, pango_attr_insert_hyphens_new(FALSE));
   pango_layout_set_attributes(layout_.get(), features);
   pango_attr_list_unref(features);
   pango_layout_set_single_paragraph_mode(layout_.get(), TRUE);
