@@ -2091,6 +2091,10 @@
 <context>
     <name>Summary</name>
     <message>
+        <source>Summary</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source> (g)</source>
         <translation type="unfinished"></translation>
     </message>
@@ -2288,6 +2292,65 @@
     </message>
     <message>
         <source>Since the last examination before that has the measure: change a week, what the growth standard expects, and change of z.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>SummaryMenu</name>
+    <message>
+        <source>Export Summary...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Print Summary...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Summary Details...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Export Summary</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>PDF (*.pdf)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>HTML (*.html)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The summary was not exported.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Exported to %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The summary was not printed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no printer. Please choose a file to print into in the print panel.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The printer %1 does not answer. Please look after it or choose another.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Summary Details</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Letterhead:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Examiner:</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

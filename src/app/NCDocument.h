@@ -26,6 +26,7 @@
 #include "framework/PopUpButton.h"
 #include "framework/TextField.h"
 #include "model/PatientRecord.h"
+#include "summary/Typesetter.h"
 
 namespace nascor::app {
 
@@ -217,6 +218,22 @@ class NCDocument final : public framework::CorvelDocument,
   std::vector<compare::Table> comparison() const;
   /// Patient, fetus, examination and age, in one line.
   std::string comparisonHeading() const;
+
+  /// @}
+
+  /// @name The summary of all fetuses for the records (NCDocumentSummary.cpp), from the records
+  /// @{
+
+  /// With the letterhead and the examiner of the user's preferences; nothing without a patient.
+  std::optional<summary::Summary> patientSummary() const;
+  /// Upright, of the size that was set up.
+  summary::Paper summaryPaper() const;
+  /// What a file of it is called; `extension` begins with a dot, or is empty.
+  std::string summaryFileName(std::string_view extension) const;
+  /// Writes it into the file at `path`: HTML where that ends with ".html" or ".htm", else PDF. The text in edit reaches the
+  /// records first. Nothing when it was written, else why not.
+  std::optional<std::string> exportSummary(const std::string& path,
+                                           const summary::FindTypesetter& typesetter);
 
   /// @}
 

@@ -132,6 +132,36 @@ Json comparisonJson(const NCDocument& document, const std::string& name) {
   return nullptr;
 }
 
+/// Rows and notes of that table of the fetus on show in the summary; null for a table that is not there.
+Json summaryJson(const NCDocument& document, const std::string& name) {
+  const auto summary = document.patientSummary();
+  if (!summary) return nullptr;
+  const auto& fetus = summary->fetuses.at(static_cast<std::size_t>(document.currentFetus()));
+  for (const summary::Table* table : {&fetus.measurements, &fetus.weights, &fetus.growth}) {
+    if (table->name != name) continue;
+    Json rows = Json::array();
+    for (const summary::Row& row : table->rows) {
+      Json& cells = rows.emplace_back(Json::array());
+      for (const summary::Cell& cell : row.cells) cells.push_back(cell.text);
+    }
+    return {{"rows", rows}, {"notes", table->notes}};
+  }
+  return nullptr;
+}
+
+Json summaryFactsJson(const NCDocument& document) {
+  const auto summary = document.patientSummary();
+  if (!summary) return nullptr;
+  Json facts = Json::object();
+  for (const summary::Fact& fact :
+       summary->fetuses.at(static_cast<std::size_t>(document.currentFetus())).facts)
+    facts[fact.label] = fact.value;
+  return facts;
+}
+
+/// Stories have no paper.
+std::variant<summary::Typesetter*, std::string> noTypesetter() { return "nothing is put on paper here"; }
+
 Json optionalJson(const std::optional<std::string>& text) { return text ? Json(*text) : Json(); }
 
 using Operation = std::function<Json(NCDocument&, Arguments&)>;
@@ -253,6 +283,12 @@ const std::map<std::string, Operation, std::less<>>& operations() {
          const auto sentences = d.autoExport();
          if (!sentences.empty()) tellFailure(d, sentences.front());
        })},
+      {"exportSummary", act([](NCDocument& d, Arguments& a) {
+         if (const auto sentence = d.exportSummary(a.text(), noTypesetter)) tellFailure(d, *sentence);
+       })},
+      {"summary", [](NCDocument& d, Arguments& a) { return summaryJson(d, a.text()); }},
+      {"summaryFacts", [](NCDocument& d, Arguments&) { return summaryFactsJson(d); }},
+      {"summaryFileName", [](NCDocument& d, Arguments& a) { return Json(d.summaryFileName(a.text())); }},
       {"printDocumentWithSettings",
        act([](NCDocument& d, Arguments& a) { d.printDocumentWithSettings({}, a.truth(), {}); })},
       // Standards

@@ -25,6 +25,7 @@
 #include "foundation/IsoDate.h"
 #include "framework/PageWriter.h"
 #include "posix/DocumentLock.h"
+#include "summary/Summary.h"
 #include "support/ReadOnlyFields.h"
 #include "window/PageView.h"
 
@@ -277,6 +278,26 @@ std::vector<Row> rows() {
          });
        },
        "Ctrl+P"},
+      {"exportSummaryAction", "", "summary.html", exported,
+       [](Actions& window) { window.nameFile(window.out.filePath(QStringLiteral("summary.html"))); }},
+      {"printSummaryAction", "", "summary.pdf", exported,
+       [](Actions& window) {
+         window.whenOpen<QPrintDialog>([&window](QPrintDialog& print) {
+           print.findChild<QLineEdit*>(QStringLiteral("filename"))
+               ->setText(window.out.filePath(QStringLiteral("summary.pdf")));
+           Actions::clickButton(print, QDialogButtonBox::Ok);
+         });
+       }},
+      {"summaryDetailsAction", "", "Dr. Eve",
+       [](Actions& window) { return window.preference(summary::kExaminerKey); },
+       [](Actions& window) {
+         window.whenOpen<QDialog>([](QDialog& details) {
+           auto* examiner = details.findChild<QLineEdit*>(QStringLiteral("summaryExaminer"));
+           QTest::keyClick(&details, Actions::letterOf(*examiner), Qt::AltModifier);
+           QTest::keyClicks(details.focusWidget(), QStringLiteral("Dr. Eve"));
+           Actions::clickButton(details, QDialogButtonBox::Ok);
+         });
+       }},
       {"closeAction", "1", "0", documents, {}, "Ctrl+W"},
       {"quitAction", "1", "0", documents, {}, "Ctrl+Q"},
       {"undoAction", "7", "40.0", bpdField, typeALength, "Ctrl+Z"},
@@ -714,6 +735,23 @@ TEST_F(Actions, setWhatIsExportedAndWhere) {
   }
 }
 
+TEST_F(Actions, typeWhatStandsOnSummaries) {
+  openInTheMiddle();
+  for (const bool isAgreed : {false, true}) {
+    whenOpen<QDialog>([&](QDialog& details) {
+      auto* letterhead = details.findChild<QPlainTextEdit*>(QStringLiteral("summaryLetterhead"));
+      QTest::keyClick(&details, letterOf(*letterhead), Qt::AltModifier);
+      QTest::keyClicks(details.focusWidget(), QStringLiteral("Ward 3"));
+      QTest::keyClick(details.focusWidget(), Qt::Key_Return);
+      QTest::keyClicks(details.focusWidget(), QStringLiteral("Hill Street"));
+      clickButton(details, isAgreed ? QDialogButtonBox::Ok : QDialogButtonBox::Cancel);
+    });
+    action("summaryDetailsAction").trigger();
+    EXPECT_EQ(preference(summary::kLetterheadKey), isAgreed ? "Ward 3\nHill Street" : "");
+  }
+  EXPECT_THAT(document().patientSummary()->letterhead, testing::ElementsAre("Ward 3", "Hill Street"));
+}
+
 TEST_F(Actions, closeTheReferences) {
   openInTheMiddle();
   action("referencesAction").trigger();
@@ -791,6 +829,12 @@ const std::map<std::string, std::string>& doneElsewhere() {
       {"chooseExportFolder", "Actions.setWhatIsExportedAndWhere"},
       {"exportSettings OK", "Actions.setWhatIsExportedAndWhere"},
       {"exportSettings Cancel", "Actions.setWhatIsExportedAndWhere"},
+      {"summaryExaminer", "EachItem.isDone"},
+      {"letter of summaryExaminer", "EachItem.isDone"},
+      {"summaryLetterhead", "Actions.typeWhatStandsOnSummaries"},
+      {"letter of summaryLetterhead", "Actions.typeWhatStandsOnSummaries"},
+      {"summaryDetails OK", "Actions.typeWhatStandsOnSummaries"},
+      {"summaryDetails Cancel", "Actions.typeWhatStandsOnSummaries"},
       {"compareCopyButton", "CompareDialog.copiesTheRowsAsTheyAreSortedOrThoseThatAreSelected"},
       {"compareExportButton", "CompareDialog.exportsATableAsCSV"},
       {"comparePrintButton", "CompareDialog.printsAllTables"},
@@ -871,11 +915,13 @@ TEST_F(TheCensus, knowsATestForEverythingThatCanBeDone) {
   std::set<std::string> found;
   for (const QAction* each : widget<QMenuBar>("menuBar").actions()) addItems(*each->menu(), found);
   addWidgets(front(), found);
-  whenOpen<QDialog>([&](QDialog& settings) {
-    addWidgets(settings, found);
-    settings.reject();
-  });
-  action("exportSettingsAction").trigger();
+  for (const char* item : {"exportSettingsAction", "summaryDetailsAction"}) {
+    whenOpen<QDialog>([&](QDialog& settings) {
+      addWidgets(settings, found);
+      settings.reject();
+    });
+    action(item).trigger();
+  }
   const std::set<std::string> known = tested();
   for (const std::string& each : found) EXPECT_TRUE(known.contains(each)) << each << " is done in no test";
   // Names of widgets have no blanks; the others are what no walk finds.

@@ -8,6 +8,7 @@
 
 #include "base/Text.h"
 #include "foundation/Localizer.h"
+#include "typesetting/Typesetting.h"
 #include "window/OutputMenu.h"
 #include "window/WindowPlace.h"
 
@@ -225,7 +226,8 @@ void DocumentApplication::addWindow(ZuDocument& document) {
            },
        .bringToFront =
            [this](ZuDocument& chosen) { actions_.perform([&] { documents_.setCurrentDocument(chosen); }); },
-       .quit = [this] { quit(); }});
+       .quit = [this] { quit(); },
+       .typesetter = typesetting::typesetter});
   edits_.emplace(&document, document.onStateChanged.subscribe([this] { keepChangesSoon(); }));
   std::vector<const QWidget*> others;
   for (const auto& [open, other] : windows_) {

@@ -34,6 +34,7 @@
 #include "window/ReferencesDialog.h"
 #include "window/StandardsMenus.h"
 #include "window/StrayInput.h"
+#include "window/SummaryMenu.h"
 #include "window/WindowMenu.h"
 #include "window/WindowPlace.h"
 
@@ -210,6 +211,12 @@ void DocumentWindow::bindActions() {
                   .printer = environment_.printer,
                   .sender = environment_.application,
                   .perform = [this](const DocumentAction& action) { perform(action); }});
+  new SummaryMenu(*this, *ui_->fileMenu, ui_->closeAction,
+                  {.services = environment_.services,
+                   .alerts = environment_.alerts,
+                   .printer = environment_.printer,
+                   .typesetter = environment_.typesetter,
+                   .perform = [this](const DocumentAction& action) { perform(action); }});
   bindEditActions();
   new StandardsMenus(*ui_->menuBar, {ui_->standardsMenu, ui_->fetalWeightMenu, ui_->crownRumpLengthMenu},
                      mnemonicsOf(*ui_->menuBar, *ui_->patientPanel), environment_.application,

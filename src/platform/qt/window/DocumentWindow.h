@@ -14,6 +14,7 @@
 #include "foundation/Signal.h"
 #include "framework/DocumentController.h"
 #include "painting/QtPrinter.h"
+#include "summary/Typesetter.h"
 #include "window/Actions.h"
 #include "window/Perform.h"
 
@@ -47,6 +48,7 @@ struct WindowEnvironment {
   std::function<std::vector<framework::ZuDocument*>()> openDocuments;  ///< in the order of opening
   std::function<void(framework::ZuDocument&)> bringToFront;
   std::function<void()> quit;
+  summary::FindTypesetter typesetter;
 };
 
 /// The window of one patient: the fields on the left, the pages on the right. Whatever the user does there goes to the
