@@ -2,11 +2,13 @@
 
 #include <QDir>
 #include <QFileDialog>
+#include <QImage>
 #include <QPrintDialog>
 #include <QStatusBar>
 
 #include "Run.h"
 #include "WindowTest.h"
+#include "typesetting/Typesetting.h"
 
 namespace nascor::tests {
 namespace {
@@ -88,6 +90,29 @@ TEST_F(TheSummaryItems, printTheSamePagesIntoAFile) {
   thenPrintInto(pdf);
   action("printSummaryAction").trigger();
   EXPECT_THAT(factsOf(pdf), AllOf(ContainsRegex("Tagged: +yes"), ContainsRegex("Page size: +612 x 792 pts")));
+}
+
+TEST_F(TheSummaryItems, giveAPrinterPicturesOfTheSamePages) {
+  open(twins());
+  const summary::Summary summary = document().patientSummary().value();
+  summary::Typesetter& typesetter = *std::get<summary::Typesetter*>(typesetting::typesetter());
+  constexpr double kDots = 36.0;
+  const auto pages = std::get<std::vector<summary::Picture>>(
+      typesetter.pictures(summary, {.width = 612.0, .height = 792.0}, kDots));
+  EXPECT_EQ(pages.size(), 2U);  // one for each twin
+  for (const summary::Picture& page : pages) {
+    EXPECT_EQ(page.width, 306);
+    EXPECT_EQ(page.height, 396);
+    const QImage image(reinterpret_cast<const uchar*>(page.bytes.data()), page.width, page.height,
+                       page.bytesPerRow, QImage::Format_RGB32);
+    EXPECT_EQ(image.pixelColor(0, 0), QColor(Qt::white));
+    int darkest = 255;
+    for (int x = 0; x < image.width(); ++x) {
+      for (int y = 0; y < image.height(); ++y)
+        darkest = std::min(darkest, image.pixelColor(x, y).lightness());
+    }
+    EXPECT_LT(darkest, 128);
+  }
 }
 
 TEST_F(TheSummaryItems, waitForAFieldThatRefuses) {
