@@ -158,6 +158,21 @@ class NCDocument final : public framework::CorvelDocument,
   void updateShowAll();
 
   /// @}
+  /// @name What is drawn over the charts of this window, on screen and in exports, never in print (NCDocumentOverlay.cpp)
+  ///
+  /// Is no part of the patient: nothing of it is stored in a file or undone.
+  /// @{
+
+  /// Nothing while the pages are printed.
+  charts::Overlay overlay() const override;
+  /// Shows that, and makes it the choice for windows to come.
+  void setOverlay(const charts::Overlay& overlay);
+  /// Shows what was chosen last.
+  void takePreferredOverlay();
+  /// What `spokenPage` says of it on that page; empty where nothing is drawn.
+  std::string spokenOverlay(model::PatientPage page) const;
+
+  /// @}
   /// @name Dating panels (DatingPanels.h)
   ///
   /// Each opens in front of the window and stays open beside it. Its OK enters the EDD into the window's field, closes the
@@ -395,6 +410,7 @@ class NCDocument final : public framework::CorvelDocument,
   std::optional<double> gestationInFile_;
   foundation::Subscription showAllSubscription_;
   PatientHistory history_;
+  charts::Overlay overlay_;
   std::optional<Preference> preference_;  ///< of the action that is going on
 
   framework::IntegerField gravidaField_;

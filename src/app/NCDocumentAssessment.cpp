@@ -274,7 +274,8 @@ std::string NCDocument::spokenPage(std::int64_t index) const {
   text += calc::growthStandardTitle(standard(), services().localizer);
   if (page == model::PatientPage::weight)
     text += ". " + calc::fetalWeightTitle(fetalWeightStandard(), services().localizer);
-  return text;
+  const std::string over = page ? spokenOverlay(*page) : std::string();
+  return over.empty() ? text : text + ". " + over;
 }
 
 TextField* NCDocument::firstEmptyField() {

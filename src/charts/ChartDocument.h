@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <string>
 
+#include "charts/Overlay.h"
 #include "framework/GraphDocument.h"
 #include "framework/PopUpButton.h"
 #include "model/PatientRecord.h"
@@ -31,6 +32,8 @@ class ChartDocument : public virtual framework::GraphDocument {
   virtual const model::MeasurementsRecord* measurementsForCurrentFetus(std::int64_t exam) const = 0;
   /// The identifier of the weight formula in force.
   virtual std::int64_t fetalWeightStandard() const = 0;
+  /// What is to be drawn over the charts at this time.
+  virtual Overlay overlay() const = 0;
   // Selector: menstrualAgeStringForRecord:
   virtual std::string menstrualAgeStringForRecord(std::uint64_t exam) const = 0;
   // Selector: menstrualAgeStringForGestation:

@@ -16,6 +16,7 @@ class EFWGraphView final : public TitledGraphView {
   void dealloc() override;
 
   double valueForFetus(std::uint64_t fetus, std::uint64_t exam) const override;
+  std::optional<calc::Quantity> quantity() const override { return calc::Quantity::efw; }
 
   // Selector: initEFWStandards:
   /// Strikes the chart that announces itself from those awaited; the last one lets the rows be rebuilt.

@@ -133,6 +133,7 @@ class MeasurementGraphView : public TitledGraphView {
 
   void appendStandard(std::int64_t standard) override;
   double valueForFetus(std::uint64_t fetus, std::uint64_t exam) const override;
+  std::optional<calc::Quantity> quantity() const override { return calc::quantityOf(measurement_); }
 
  private:
   calc::Measurement measurement_;

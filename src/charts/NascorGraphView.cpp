@@ -1,12 +1,14 @@
 #include "charts/NascorGraphView.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <optional>
 #include <utility>
 #include <vector>
 
 #include "calc/Centile.h"
+#include "calc/FetalWeight.h"
 #include "calc/LookUp.h"
 #include "foundation/DateText.h"
 #include "foundation/Localizer.h"
@@ -59,6 +61,7 @@ void NascorGraphView::drawGraph() {
   UpdatingGraphView::drawGraph();
   drawLegend();
   plotStandards();
+  drawOverlay();
   plotDataPoints();
 }
 
@@ -163,6 +166,83 @@ class CoveredMarks {
 };
 
 }  // namespace
+
+void NascorGraphView::drawOverlay() {
+  const auto shown = quantity();
+  if (!owningDocument() || !shown) return;
+  const Overlay overlay = owningDocument()->overlay();
+  if (overlay.centiles != nullptr) drawCentiles(*overlay.centiles, *shown);
+  if (overlay.joinsMarks) joinMarks();
+}
+
+void NascorGraphView::drawCentiles(const calc::Reference& reference, calc::Quantity quantity) {
+  if (std::exchange(centileLinesOf_, &reference) != &reference)
+    centileLines_ = centileLines(reference, quantity);
+  std::vector<CentileLine> lines = centileLines_;
+  for (CentileLine& line : lines) {
+    for (Point& point : line.points) point = pointForXY(point.x, point.y);
+  }
+  canvas().setColor(NamedColor::black);
+  drawCentileLines(canvas(), lines);
+  drawCentilesLegend();
+}
+
+void NascorGraphView::drawCentilesLegend() {
+  // Above the legend of the fetuses, where no curve comes.
+  constexpr double kFromTop = 10.0;
+  constexpr double kFromLeft = 8.0;
+  constexpr double kSample = 24.0;
+  const double y = graphRect().y + graphRect().height - kFromTop;
+  double x = graphRect().x + kFromLeft;
+  if (!centileLines_.empty()) {
+    const std::array sample{Point{.x = x, .y = y}, Point{.x = x + kSample, .y = y}};
+    canvas().strokePath(dashed(sample, dashesOf(50.0)));
+    x += kSample + kFromLeft;
+  }
+  canvas().text(centilesText(), {.x = x, .y = y - framework::kTextHeight / 2.0}, {});
+}
+
+std::string NascorGraphView::centilesText() const {
+  const auto shown = quantity();
+  const calc::Reference* reference = owningDocument() ? owningDocument()->overlay().centiles : nullptr;
+  if (reference == nullptr || !shown) return {};
+  std::string label(reference->label);
+  if (!calc::covers(*reference, *shown))
+    return label.append(localized("", " has no centiles of this measure"));
+  std::string text = localized("", "Centiles: ") + label;
+  const bool isOtherFormula = shown == calc::Quantity::efw && reference->onlyFormula &&
+                              *reference->onlyFormula != owningDocument()->fetalWeightStandard();
+  if (isOtherFormula) {
+    text += localized("", ", which fits weights by another formula alone: ");
+    text += calc::weightFormula(*reference->onlyFormula)->longLabel;
+  }
+  return text;
+}
+
+void NascorGraphView::joinMarks() {
+  constexpr double kThin = 0.75;
+  std::vector<PlottedValue> marks;
+  const auto stroke = [&] {
+    if (marks.size() < 2) return;
+    std::ranges::stable_sort(marks, {}, &PlottedValue::x);
+    Path path;
+    path.setLineWidth(kThin);
+    for (std::size_t i = 0; i < marks.size(); ++i) {
+      const Point point = pointForXY(marks[i].x, marks[i].y);
+      i == 0 ? path.moveTo(point) : path.lineTo(point);
+    }
+    marks.front().isSelected ? setPointsColour() : setMeanColour();
+    canvas().strokePath(path);
+  };
+  forEachPlottedValue([&](const PlottedValue& plotted) {
+    if (!marks.empty() && marks.front().fetus != plotted.fetus) {
+      stroke();
+      marks.clear();
+    }
+    marks.push_back(plotted);
+  });
+  stroke();
+}
 
 void NascorGraphView::plotDataPoints() {
   constexpr double kDisc = 20.0;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -27,6 +28,8 @@ class NascorGraphView : public UpdatingGraphView {
   // Selector: valueForFetus:exam:
   /// What is plotted; not plotted unless above 0.0.
   virtual double valueForFetus(std::uint64_t fetus, std::uint64_t exam) const;
+  /// What the values are of; nothing where none is plotted.
+  virtual std::optional<calc::Quantity> quantity() const { return std::nullopt; }
 
   /// @name Look-ups in this chart's table (calc/LookUp.h)
   /// @{
@@ -45,6 +48,9 @@ class NascorGraphView : public UpdatingGraphView {
   std::vector<framework::ReadOut> readOuts() const override;
   /// What the mark of that examination and the fetus on show says: measure, value, z-score; empty where there is none.
   std::string spokenValue(std::int64_t exam) const;
+  /// What the legend says of the centile lines over the chart: whose they are, or why there are none; empty while none are
+  /// wanted.
+  std::string centilesText() const;
 
   /// The outline of the band as it was last drawn; empty before that.
   const framework::Path& sdPath() const { return sdPath_; }
@@ -86,8 +92,15 @@ class NascorGraphView : public UpdatingGraphView {
   std::string describe(const PlottedValue& plotted) const;
   /// Value and z-score, and whether another week of the table stands in.
   std::string valueAndPlace(const PlottedValue& plotted) const;
+  void drawOverlay();
+  void drawCentiles(const calc::Reference& reference, calc::Quantity quantity);
+  void drawCentilesLegend();
+  void joinMarks();
 
   framework::Path sdPath_;
+  /// The lines that were drawn last, and whose they are: working them out takes longer than drawing them.
+  std::vector<CentileLine> centileLines_;
+  const calc::Reference* centileLinesOf_ = nullptr;
 };
 
 }  // namespace nascor::charts

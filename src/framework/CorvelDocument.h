@@ -173,6 +173,8 @@ class CorvelDocument : public ZuDocument, public virtual GraphDocument, protecte
   virtual void actionEnded() {}
   /// Whether an action is going on.
   bool isInStep() const { return actions_ > 0; }
+  /// Whether pages go to the printer just now.
+  bool isPrinting() const { return isPrinting_; }
   /// Another field, another text or none is in edit.
   virtual void editedTextChanged() {}
   /// Where typing goes on after something new was added: the first field of the examination on show that holds nothing yet;
@@ -222,6 +224,7 @@ class CorvelDocument : public ZuDocument, public virtual GraphDocument, protecte
   std::int64_t currentExam_ = 0;
   bool lookUpRequired_ = false;
   bool isOnPaper_ = false;
+  bool isPrinting_ = false;
   int actions_ = 0;              ///< those that are going on, one within the other
   bool isMarkedByEdit_ = false;  ///< whether the change count holds a change for the field in edit
   PrintInfo printInfo_;

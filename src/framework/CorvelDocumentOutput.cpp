@@ -1,6 +1,7 @@
 // Pages of a document into files and to the printer.
 
 #include <algorithm>
+#include <utility>
 #include <variant>
 
 #include "foundation/Localizer.h"
@@ -38,6 +39,19 @@ class OnPaper {
  private:
   CorvelDocument& document_;
   bool wasOnPaper_;
+};
+
+/// A flag is set while this lives.
+class Going {
+ public:
+  explicit Going(bool& flag) : flag_(flag), was_(std::exchange(flag, true)) {}
+  Going(const Going&) = delete;
+  Going& operator=(const Going&) = delete;
+  ~Going() { flag_ = was_; }
+
+ private:
+  bool& flag_;
+  bool was_;
 };
 
 }  // namespace
@@ -111,6 +125,7 @@ void CorvelDocument::printPages(const std::vector<std::int64_t>& pages, const Pr
   bool isPrinted = false;
   if (commitsEditing() && environment_.printer) {
     const OnPaper onPaper(*this);
+    const Going printing(isPrinting_);
     PrintSettings named = settings;
     named.name = portableFileNameText(exportName());
     const auto job = environment_.printer->beginJob(printInfo_, named);

@@ -95,6 +95,32 @@ Json marksOf(framework::Page& page) {
   return marks;
 }
 
+Json overlayOf(framework::Page& page) {
+  page.layout(framework::Page::kWidth, framework::Page::kHeight);
+  tests::RecordingSurface surface;
+  page.paint(surface);
+  Json all = Json::array();
+  for (const auto& view : surface.views) {
+    int centileLines = 0;
+    Json others = Json::array();
+    for (const Entry& entry : view.canvas.entries()) {
+      const auto lines = entry.path.subpaths();
+      const bool isStroked = entry.kind == Entry::Kind::strokePath && !lines.empty();
+      if (isStroked && lines.size() > 1) {
+        // The legend's sample is level.
+        if (lines.front().front().y != lines.back().back().y) ++centileLines;
+      } else if (isStroked && entry.path.lineWidth() < 1.0) {
+        others.push_back({"line", colorOf(entry.color), points(lines.front())});
+      } else if (entry.kind == Entry::Kind::text && entry.text.find("entiles") != std::string::npos) {
+        others.push_back({"text", entry.text});
+      }
+    }
+    if (centileLines > 0) all.push_back({"centile lines", centileLines});
+    for (Json& other : others) all.push_back(std::move(other));
+  }
+  return all;
+}
+
 void layOutAndPaint(framework::Page& page) {
   page.layout(framework::Page::kWidth, framework::Page::kHeight);
   tests::RecordingSurface surface;

@@ -14,6 +14,10 @@ nlohmann::ordered_json drawingOf(framework::Page& page, double width, double hei
 /// The marks of lengths and the discs behind them alone, in the order in which they are drawn.
 nlohmann::ordered_json marksOf(framework::Page& page);
 
+/// What is drawn over the charts alone, chart by chart: how many centile lines, the points of each line from mark to mark,
+/// and what the legend says of the centiles.
+nlohmann::ordered_json overlayOf(framework::Page& page);
+
 /// Shows the page on nothing, so that its views know where they lie.
 void layOutAndPaint(framework::Page& page);
 

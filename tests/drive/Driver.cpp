@@ -9,6 +9,7 @@
 #include <set>
 #include <stdexcept>
 
+#include "calc/References.h"
 #include "drive/Drawing.h"
 #include "drive/Outside.h"
 #include "drive/Script.h"
@@ -297,6 +298,13 @@ const std::map<std::string, Operation, std::less<>>& operations() {
       {"doSetStandard", act([](NCDocument& d, Arguments& a) { d.doSetStandard(a.integer()); })},
       {"doSetEFWStandard", act([](NCDocument& d, Arguments& a) { d.doSetEFWStandard(a.integer()); })},
       {"doSetCRLStandard", act([](NCDocument& d, Arguments& a) { d.doSetCRLStandard(a.integer()); })},
+      // What is drawn over the charts: the name of a reference, or none; whether marks are joined
+      {"setOverlay", act([](NCDocument& d, Arguments& a) {
+         const std::string name = a.text();
+         const calc::Reference* reference = calc::referenceNamed(name);
+         if (reference == nullptr && !name.empty()) refuse("there is no reference \"" + name + "\"");
+         d.setOverlay({.centiles = reference, .joinsMarks = a.truth()});
+       })},
   };
   return table;
 }
@@ -366,6 +374,7 @@ Driver::Driver()
         }));
     for (framework::TextField* field : document->textFields())
       subscriptions_.push_back(field->onSelectText.subscribe([this, field] { selected_ = field->name(); }));
+    document->takePreferredOverlay();
     std::int64_t& displays = displays_[document.get()] = 0;
     subscriptions_.push_back(document->tabView().onNeedsDisplay.subscribe([&displays] { ++displays; }));
     return document;
@@ -378,8 +387,10 @@ Driver::Driver()
   }));
   startRecovery();
   application_.awakeFromNib();
-  pageWriter_.onSheet =
-      printer_.onSheet = [this](const framework::Sheet& sheet) { paper_.push_back(marksOf(sheet.page)); };
+  pageWriter_.onSheet = printer_.onSheet = [this](const framework::Sheet& sheet) {
+    paper_.push_back(marksOf(sheet.page));
+    overPaper_.push_back(overlayOf(sheet.page));
+  };
 }
 
 Driver::~Driver() {
@@ -443,7 +454,8 @@ Json Driver::perform(const std::string& key, const Json& argument) {
       {"focus", &Driver::focus},         {"stale", &Driver::stale},
       {"additions", &Driver::additions}, {"advice", &Driver::advice},
       {"keep", &Driver::keep},           {"crash", &Driver::crash},
-      {"recover", &Driver::recover},
+      {"recover", &Driver::recover},     {"over", &Driver::over},
+      {"overPaper", &Driver::overPaper},
   };
   if (key == "new" || key == "state") {
     if (argument != Json(true)) refuse("expected true");
@@ -710,6 +722,15 @@ Json Driver::advice(const Json& page) {
 Json Driver::paper(const Json& word) {
   if (word != Json(true)) refuse("expected true");
   return {{"paper", std::exchange(paper_, Json::array())}};
+}
+
+Json Driver::over(const Json& page) {
+  return {{"over", overlayOf(document().tabView().page(integerArgument(page, "the index of a page")))}};
+}
+
+Json Driver::overPaper(const Json& word) {
+  if (word != Json(true)) refuse("expected true");
+  return {{"overPaper", std::exchange(overPaper_, Json::array())}};
 }
 
 void Driver::startRecovery() {

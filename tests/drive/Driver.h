@@ -70,6 +70,10 @@ class Driver {
   Json advice(const Json& page);
   /// The marks and discs on the pages that were exported or printed since this was last asked.
   Json paper(const Json& word);
+  /// What is drawn over the charts of a page.
+  Json over(const Json& page);
+  /// The same of the pages that were exported or printed since this was last asked.
+  Json overPaper(const Json& word);
   /// What the user was told since this was last asked: each message with its information.
   Json told(const Json& word);
   /// What the status line of the current document tells.
@@ -133,6 +137,7 @@ class Driver {
   std::vector<foundation::Subscription> subscriptions_;
   Json posted_ = Json::array();
   Json paper_ = Json::array();
+  Json overPaper_ = Json::array();
   Json effects_ = Json::array();
   std::string selected_;
   std::map<const framework::ZuDocument*, std::int64_t> numbers_;

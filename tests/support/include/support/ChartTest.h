@@ -31,6 +31,7 @@ struct FakeChartDocument final : ChartDocument {
   NascorGraphView* acGraph = nullptr;
   NascorGraphView* flGraph = nullptr;
   model::MeasurementsRecord projected;
+  Overlay drawnOver;
 
   const model::PatientRecord* patientRecord() const override { return hasPatient ? &patient : nullptr; }
   std::int64_t standard() const override { return growthStandard; }
@@ -48,6 +49,7 @@ struct FakeChartDocument final : ChartDocument {
     return measurementsForFetus(fetus, e);
   }
   std::int64_t fetalWeightStandard() const override { return weightFormula; }
+  Overlay overlay() const override { return drawnOver; }
   std::string menstrualAgeStringForRecord(std::uint64_t e) const override {
     return "age " + std::to_string(e);
   }
