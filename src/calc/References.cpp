@@ -460,4 +460,8 @@ std::optional<double> weekOfMedian(const Reference& reference, Quantity quantity
   return reference.weekOfMedian(quantity, value);
 }
 
+std::span<const double> whoCoefficients(Quantity quantity, std::size_t centile) {
+  return kWHO.at(placeOf(quantity)).at(centile);
+}
+
 }  // namespace nascor::calc

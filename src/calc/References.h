@@ -139,4 +139,8 @@ std::optional<Population> populationAt(const Reference& reference, Quantity quan
 /// the first week or above all medians, and for a quantity that `reference` does not cover.
 std::optional<double> weekOfMedian(const Reference& reference, Quantity quantity, double value);
 
+/// The coefficients of WHO (2017), by rising powers of the week: the curve of place `centile` among
+/// `QuantilePopulation::kCentiles` is the exponential of that polynomial. Throws std::out_of_range.
+std::span<const double> whoCoefficients(Quantity quantity, std::size_t centile);
+
 }  // namespace nascor::calc

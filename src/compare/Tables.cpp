@@ -14,6 +14,7 @@ namespace nascor::compare {
 namespace {
 
 using calc::Measurement;
+using calc::Method;
 using calc::Quantity;
 using foundation::Localizer;
 
@@ -21,6 +22,25 @@ constexpr int kSDDecimals = 2;
 constexpr int kRatioDecimals = 3;
 
 Cell label(std::string_view text) { return {.text = std::string(text)}; }
+
+Method methodOf(const calc::Reference& reference, Quantity quantity) {
+  return {.kind = Method::Kind::reference,
+          .place = static_cast<std::size_t>(&reference - calc::references().data()),
+          .quantity = quantity};
+}
+
+/// Nothing for a formula that is not known.
+std::optional<Method> methodOfWeight(std::int64_t formula) {
+  if (calc::weightFormula(formula) == nullptr) return std::nullopt;
+  return Method{.kind = Method::Kind::weightFormula, .place = static_cast<std::size_t>(formula)};
+}
+
+/// Says of the cells that say nothing yet by which method they are worked out.
+void addMethod(Row& row, const std::optional<Method>& method) {
+  for (Cell& cell : row.cells) {
+    if (!cell.method) cell.method = method;
+  }
+}
 
 /// Ends each row with its remark.
 void addRemarks(Table& table, const CellWriter& writer) {
@@ -66,6 +86,7 @@ Table lengthsTable(const Comparison& comparison, std::int64_t standard, const Ce
                      writer.centile(figure.centile), writer.age(figure.weeks)},
            .remark = length.value ? writer.remark(figure) : std::string(),
            .isChosen = figure.reference == calc::referenceOfStandard(standard)});
+      addMethod(table.rows.back(), methodOf(*figure.reference, calc::quantityOf(length.measurement)));
     }
   }
   addRemarks(table, writer);
@@ -104,8 +125,10 @@ Table weightsTable(const Comparison& comparison, std::int64_t chosen, const Cell
             .isChosen = weight.formula == chosen};
     if (weight.grams && needsOneLength(formula))
       row.remark = writer.text("Compare", "From one length alone.");
+    addMethod(row, methodOfWeight(weight.formula));
     for (const Placed& figure : weight.references) {
       row.cells.push_back(writer.centile(figure.centile));
+      row.cells.back().method = methodOf(*figure.reference, Quantity::efw);
       if (weight.grams) CellWriter::append(row.remark, writer.remark(figure));
     }
     table.rows.push_back(std::move(row));
@@ -121,8 +144,10 @@ Table ratiosTable(const Ratios& ratios, const CellWriter& writer) {
                           {.title = writer.text("Compare", "Value"), .isNumber = true}},
               .rows = {}};
   for (const auto& [name, ratio] : {std::pair{"HC/AC", ratios.hcToAC}, std::pair{"FL/AC", ratios.flToAC},
-                                    std::pair{"FL/BPD", ratios.flToBPD}})
+                                    std::pair{"FL/BPD", ratios.flToBPD}}) {
     table.rows.push_back({.cells = {label(name), writer.number(ratio, kRatioDecimals)}});
+    addMethod(table.rows.back(), Method{.kind = Method::Kind::quotient});
+  }
   return table;
 }
 
@@ -153,14 +178,17 @@ Table fetusesTable(const model::PatientRecord& patient, std::size_t examination,
       row.cells.push_back(
           writer.number(each.values.at(static_cast<std::size_t>(quantity)), decimalsOf(quantity)));
     }
+    row.cells.back().method = methodOfWeight(patient.fetalWeightStandard());
     row.cells.push_back(writer.number(each.less, 1));
+    row.cells.back().method = methodOfWeight(patient.fetalWeightStandard());
     table.rows.push_back(std::move(row));
     ++place;
   }
   return table;
 }
 
-Table growthTable(const Comparison& comparison, const CellWriter& writer) {
+Table growthTable(const Comparison& comparison, const model::PatientRecord& patient,
+                  const CellWriter& writer) {
   Table table{.name = "growth",
               .title = writer.text("Compare", "Growth"),
               .columns = {{.title = writer.text("Compare", "Measure")},
@@ -181,6 +209,12 @@ Table growthTable(const Comparison& comparison, const CellWriter& writer) {
     table.rows.push_back(
         {.cells = {label(writer.name(growth.quantity)), writer.change(growth.perWeek, decimals),
                    writer.change(growth.expectedPerWeek, decimals), writer.z(growth.zChange)}});
+    const calc::Reference* standard = calc::referenceOfStandard(patient.standard());
+    if (growth.quantity == Quantity::efw) {
+      addMethod(table.rows.back(), methodOfWeight(patient.fetalWeightStandard()));
+    } else if (standard != nullptr) {
+      addMethod(table.rows.back(), methodOf(*standard, growth.quantity));
+    }
   }
   return table;
 }
@@ -211,10 +245,10 @@ std::vector<Table> tablesOf(const model::PatientRecord& patient, std::size_t exa
                             const Localizer& localizer) {
   const Comparison comparison = comparisonOf(patient, examination, fetus);
   const CellWriter writer(localizer);
-  return {lengthsTable(comparison, patient.standard(), writer),
-          weightsTable(comparison, patient.fetalWeightStandard(), writer),
-          ratiosTable(comparison.ratios, writer),
-          fetusesTable(patient, examination, fetus, localizer, writer), growthTable(comparison, writer)};
+  return {
+      lengthsTable(comparison, patient.standard(), writer),
+      weightsTable(comparison, patient.fetalWeightStandard(), writer), ratiosTable(comparison.ratios, writer),
+      fetusesTable(patient, examination, fetus, localizer, writer), growthTable(comparison, patient, writer)};
 }
 
 std::string tabbedText(const Table& table) {

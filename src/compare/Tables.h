@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "calc/Equations.h"
 #include "foundation/Localizer.h"
 #include "model/PatientRecord.h"
 
@@ -21,8 +22,9 @@ struct Column {
 };
 
 struct Cell {
-  std::string text;                ///< "-" where there is no figure
-  std::optional<double> number{};  ///< unrounded; none where there is no figure or it is no number
+  std::string text;                      ///< "-" where there is no figure
+  std::optional<double> number{};        ///< unrounded; none where there is no figure or it is no number
+  std::optional<calc::Method> method{};  ///< by which it is worked out; none for what was measured
 };
 
 struct Row {
