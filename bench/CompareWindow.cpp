@@ -1,4 +1,5 @@
-// What the Compare window costs: a change of the examination with it and without it, by turns in one run, and its opening.
+// What the Compare window costs: a change of the examination and an undo with it and without it, by turns in one run, and its
+// opening. Beside them what drawing the page again takes by itself.
 //
 // usage: bench-compare DOCUMENT [TIMES]
 
@@ -73,18 +74,33 @@ int main(int argc, char** argv) {
   std::vector<double> opening;
   std::vector<double> with;
   std::vector<double> without;
+  std::vector<double> redraw;
+  std::vector<double> undo;
+  std::vector<double> comparedUndo;
+  app::NCDocument& patient = *window->document();
+  const auto undone = [&patient] {
+    patient.addFetus(nullptr);
+    QCoreApplication::processEvents();
+    return milliseconds([&patient] { patient.undo(); });
+  };
   for (int i = 0; i < times; ++i) {
     QAction& change = i % 2 == 0 ? previous : next;
     dialog->hide();
     QCoreApplication::processEvents();
     without.push_back(milliseconds([&] { change.trigger(); }));
+    redraw.push_back(milliseconds([&patient] { patient.tabView().setNeedsDisplay(); }));
+    undo.push_back(undone());
     opening.push_back(milliseconds([&] { compare.trigger(); }));
     QAction& back = i % 2 == 0 ? next : previous;
     with.push_back(milliseconds([&] { back.trigger(); }));
+    comparedUndo.push_back(undone());
   }
   std::printf("opening, the first time\t%.2f ms\n", first);
   std::printf("opening again\t%.2f ms\n", median(opening));
   std::printf("another examination\t%.2f ms\n", median(without));
   std::printf("another examination, compared\t%.2f ms\n", median(with));
+  std::printf("the page drawn again\t%.2f ms\n", median(redraw));
+  std::printf("undo\t%.2f ms\n", median(undo));
+  std::printf("undo, compared\t%.2f ms\n", median(comparedUndo));
   return 0;
 }
