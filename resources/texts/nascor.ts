@@ -111,6 +111,18 @@
         <source>beyond the table</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source> has no centiles of this measure</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Centiles: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>, which fits weights by another formula alone: </source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>AdjustDelivery</name>
@@ -394,6 +406,10 @@
     </message>
     <message>
         <source>The table cannot be exported.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Where This Comes From</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -804,6 +820,37 @@
     </message>
     <message>
         <source>Late in pregnancy, dating by size reads growth as age: a fetus that is small or large is taken for a younger or an older one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Evidence</name>
+    <message>
+        <source>week</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>value</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>mean</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>SD</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>centile</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>planned week</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>median</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1275,6 +1322,34 @@
         <source>C&amp;ompare...</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>O&amp;verlay</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check the Numbers</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All %1 worked examples come out as they are known.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of %2 worked examples come out otherwise.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Every formula, standard, reference, look-up and date was worked out again. Help &gt; References shows the examples of each.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Do not rely on this installation. Please have it installed again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Check the Numbers</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>NCAppController</name>
@@ -1725,6 +1800,10 @@
         <source>Planned Delivery</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Lines join the marks of each fetus.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>OutputMenu</name>
@@ -1810,6 +1889,17 @@
     </message>
     <message>
         <source>&amp;Patient, standards and date under each page</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Overlay</name>
+    <message>
+        <source>No Centiles</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Join Marks</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -2085,6 +2175,82 @@
     </message>
     <message>
         <source>No distribution: between the curves of eleven centiles linear in the value, beyond the 1st and the 99th unknown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Formula and checked values</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lengths in mm, weights in g; w is the age in weeks, d in days, g in tens of weeks. What stands side by side is multiplied.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Week</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mean</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>SD</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 values, of which %2 differ from what the program answers now.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Example</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Expected</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Program</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Source</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Quotients of what was measured; nothing is published of them here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Formula</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Printed table</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Range</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 to %2 mm</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 to %2 weeks</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Assumes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Checked with</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;All References</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -2437,6 +2603,14 @@
     </message>
     <message>
         <source>With --write-pages: files that are there are left as they are.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>With --write-pages: draws centile lines of that reference over the charts.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>With --write-pages: lines join the marks of each fetus.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

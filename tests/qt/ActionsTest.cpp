@@ -22,6 +22,7 @@
 
 #include "Run.h"
 #include "WindowTest.h"
+#include "calc/References.h"
 #include "foundation/IsoDate.h"
 #include "framework/PageWriter.h"
 #include "posix/DocumentLock.h"
@@ -198,6 +199,20 @@ std::vector<Row> numberedRows() {
   add("standardsMenu", 4, "Standard");
   add("fetalWeightMenu", 8, "Estimated Fetal Weight Standard");
   add("crownRumpLengthMenu", 4, "CRL Standard");
+  const auto references = calc::references();
+  for (std::size_t i = 0; i <= references.size(); ++i) {
+    const auto nameAt = [&](std::size_t place) {
+      return place == 0 ? std::string() : std::string(references[place - 1].name);
+    };
+    const std::size_t other = i == 0 ? 1 : 0;
+    rows.push_back(
+        {"overlayMenu/" + std::to_string(i), nameAt(other), nameAt(i),
+         [](Actions& window) {
+           const auto* shown = window.document().overlay().centiles;
+           return std::string(shown != nullptr ? shown->name : "");
+         },
+         [other](Actions& window) { window.itemNamed("overlayMenu/" + std::to_string(other)).trigger(); }});
+  }
   const auto page = [](Actions& window) {
     return std::to_string(window.document().tabView().indexOfSelectedPage());
   };
@@ -348,6 +363,10 @@ std::vector<Row> rows() {
              foundation::boolForKey(window.platform.defaults, foundation::defaults_key::showAll) ? "YES"
                                                                                                  : "NO");
        }},
+      {"joinMarksAction", "apart", "joined",
+       [](Actions& window) {
+         return std::string(window.document().overlay().joinsMarks ? "joined" : "apart");
+       }},
       {"zoomInAction", "fits", "larger", pageSize, {}, "Ctrl++"},
       {"zoomOutAction", "larger", "fits", pageSize, enlarge, "Ctrl+-"},
       {"zoomFitAction", "larger", "fits", pageSize, enlarge, "Ctrl+0"},
@@ -373,27 +392,43 @@ struct Way {
   void (*go)(Actions& window, const Row& row);
 };
 
-QMenu& menuOf(Actions& window, const QAction& item) {
+/// The menu of the bar that leads to the item, and behind it the menu within that holds it, if one does.
+std::vector<QMenu*> menusTo(Actions& window, const QAction& item) {
   for (const QAction* each : window.widget<QMenuBar>("menuBar").actions()) {
-    if (each->menu()->actions().contains(&item)) return *each->menu();
+    if (each->menu()->actions().contains(&item)) return {each->menu()};
+    for (const QAction* inner : each->menu()->actions()) {
+      if (inner->menu() && inner->menu()->actions().contains(&item)) return {each->menu(), inner->menu()};
+    }
   }
   throw std::runtime_error("in no menu");
 }
+bool isOpen(const QMenu& menu) {
+  return QTest::qWaitFor([&menu] { return QApplication::activePopupWidget() == &menu; });
+}
 void byMouse(Actions& window, const Row& row) {
   QAction& item = window.itemNamed(row.name);
-  QMenu& menu = menuOf(window, item);
+  const auto menus = menusTo(window, item);
   auto& bar = window.widget<QMenuBar>("menuBar");
-  QTest::mouseClick(&bar, Qt::LeftButton, {}, bar.actionGeometry(menu.menuAction()).center());
-  ASSERT_EQ(QApplication::activePopupWidget(), &menu);
-  QTest::mouseClick(&menu, Qt::LeftButton, {}, menu.actionGeometry(&item).center());
+  QTest::mouseClick(&bar, Qt::LeftButton, {}, bar.actionGeometry(menus.front()->menuAction()).center());
+  ASSERT_EQ(QApplication::activePopupWidget(), menus.front());
+  if (menus.size() > 1) {
+    const QRect place = menus.front()->actionGeometry(menus.back()->menuAction());
+    QTest::mouseClick(menus.front(), Qt::LeftButton, {}, place.center());
+    ASSERT_TRUE(isOpen(*menus.back()));
+  }
+  QTest::mouseClick(menus.back(), Qt::LeftButton, {}, menus.back()->actionGeometry(&item).center());
 }
 void byMnemonics(Actions& window, const Row& row) {
   QAction& item = window.itemNamed(row.name);
-  QMenu& menu = menuOf(window, item);
+  const auto menus = menusTo(window, item);
   const auto key = [](const QString& text) { return QKeySequence::mnemonic(text)[0].key(); };
-  window.press(key(menu.title()), Qt::AltModifier);
-  ASSERT_EQ(QApplication::activePopupWidget(), &menu);
-  QTest::keyClick(&menu, key(item.text()));
+  window.press(key(menus.front()->title()), Qt::AltModifier);
+  ASSERT_EQ(QApplication::activePopupWidget(), menus.front());
+  if (menus.size() > 1) {
+    QTest::keyClick(menus.front(), key(menus.back()->title()));
+    ASSERT_TRUE(isOpen(*menus.back()));
+  }
+  QTest::keyClick(menus.back(), key(item.text()));
 }
 void byKeys(Actions& window, const Row& row) {
   const QKeySequence keys(QLatin1String(row.keys));
@@ -838,6 +873,10 @@ const std::map<std::string, std::string>& doneElsewhere() {
       {"compareCopyButton", "CompareDialog.copiesTheRowsAsTheyAreSortedOrThoseThatAreSelected"},
       {"compareExportButton", "CompareDialog.exportsATableAsCSV"},
       {"comparePrintButton", "CompareDialog.printsAllTables"},
+      {"a double click, Return or the menu on a figure", "CompareDialog.leadsToWhatStandsBehindAFigure"},
+      {"a link of the references", "TheReferences.leadToTheFormulaAndTheCheckedValues"},
+      {"allReferencesButton", "TheReferences.leadToTheFormulaAndTheCheckedValues"},
+      {"Check the Numbers", "TheDocumentWindow.checksItsNumbersWhenAsked"},
       {"compareDialog Close", "CompareDialog.staysOpenBesideWorkAndHoldsNothingBack"},
       {"copyReferencesButton", "TheDocumentWindow.namesThePublicationsOfItsStandardsAndFormulas"},
       {"referencesDialog Close", "Actions.closeTheReferences"}};

@@ -10,6 +10,7 @@
 #include <QTabBar>
 #include <QTabWidget>
 #include <QTableView>
+#include <QTextBrowser>
 
 #include "Run.h"
 #include "WindowTest.h"
@@ -136,6 +137,56 @@ TEST_F(CompareDialog, saysOfEachFigureWhyItIsMissing) {
   EXPECT_EQ(index.data(Qt::AccessibleDescriptionRole), index.data(Qt::ToolTipRole));
   for (const QTableView* view : dialog().findChildren<QTableView*>())
     EXPECT_FALSE(view->accessibleName().isEmpty());
+}
+
+TEST_F(CompareDialog, leadsToWhatStandsBehindAFigure) {
+  const auto shown = [this] { return widget<QTextBrowser>("referencesText").toPlainText().toStdString(); };
+  QTableView& lengths = table("compare-lengths");
+  QDialog& compare = dialog();
+  const auto goTo = [&](QTableView& view, int row, int column) {
+    compare.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&compare));
+    view.setFocus();
+    view.setCurrentIndex(view.model()->index(row, column));
+  };
+  // The centile of the BPD by INTERGROWTH-21st (2014).
+  goTo(lengths, 4, 7);
+  QTest::keyClick(&lengths, Qt::Key_Return);
+  settle();
+  EXPECT_TRUE(dialog().isVisible()) << "Return closes nothing here";
+  EXPECT_TRUE(widget<QDialog>("referencesDialog").isVisible());
+  EXPECT_THAT(shown(), StartsWith("INTERGROWTH-21st (2014)\n"));
+  EXPECT_THAT(shown(), HasSubstr("mean BPD = 5.60878 + 0.158369 w^2 - 0.00256379 w^3"));
+  EXPECT_THAT(shown(), HasSubstr("14 to 40 weeks"));
+  EXPECT_THAT(shown(), HasSubstr("outer to outer edge"));
+  EXPECT_THAT(shown(), HasSubstr("doi:10.1016/S0140-6736(14)61490-2"));
+  EXPECT_THAT(shown(), HasSubstr("BPD, week 14, centile 3: value\n26.3\n"));
+  EXPECT_THAT(shown(), testing::Not(HasSubstr("HC, week")));
+  // A printed table has rows in place of a formula.
+  goTo(lengths, 3, 3);
+  QTest::keyClick(&lengths, Qt::Key_Return);
+  settle();
+  EXPECT_THAT(shown(), HasSubstr("Printed table"));
+  EXPECT_THAT(shown(), HasSubstr("16\n34.53\n2.275\n"));
+  show(1);
+  QTableView& weights = table("compare-weights");
+  const QModelIndex campbell = weights.model()->index(4, 1);
+  QTest::mouseClick(weights.viewport(), Qt::LeftButton, {}, weights.visualRect(campbell).center());
+  QTest::mouseDClick(weights.viewport(), Qt::LeftButton, {}, weights.visualRect(campbell).center());
+  EXPECT_THAT(shown(), StartsWith("Campbell (AC)\n"));
+  show(2);
+  QTableView& ratios = table("compare-ratios");
+  goTo(ratios, 0, 1);
+  ASSERT_EQ(ratios.actions().size(), 1);
+  ratios.actions().first()->trigger();  // as the menu does
+  EXPECT_THAT(shown(), HasSubstr("HC/AC = HC / AC"));
+  // What was measured has nothing behind it.
+  show(3);
+  QTableView& fetuses = table("compare-fetuses");
+  goTo(fetuses, 0, 1);
+  QTest::keyClick(&fetuses, Qt::Key_Return);
+  EXPECT_THAT(shown(), HasSubstr("HC/AC = HC / AC"));
+  EXPECT_TRUE(dialog().isVisible());
 }
 
 TEST_F(CompareDialog, copiesTheRowsAsTheyAreSortedOrThoseThatAreSelected) {

@@ -534,6 +534,17 @@ TEST_F(TheDocumentWindow, saysInItsAboutBoxThatItIsNoMedicalDevice) {
   EXPECT_THAT(text, testing::HasSubstr("D-Bus"));
 }
 
+TEST_F(TheDocumentWindow, checksItsNumbersWhenAsked) {
+  open(singleton());
+  answers = {"Check the Numbers", "OK"};
+  action("aboutAction").trigger();
+  ASSERT_EQ(asked.size(), 2U);
+  EXPECT_THAT(asked[1].message,
+              testing::ContainsRegex("All [0-9]+ worked examples come out as they are known."));
+  EXPECT_THAT(asked[1].details, testing::HasSubstr("who-2017\t"));
+  EXPECT_THAT(asked[1].details, testing::ContainsRegex("total\t[0-9]+\t0\n$"));
+}
+
 TEST_F(TheDocumentWindow, namesThePublicationsOfItsStandardsAndFormulas) {
   open(singleton());
   QDialog* dialog = nullptr;

@@ -56,6 +56,19 @@ TEST_F(TheExportCommand, writesDrawings) {
                                     QStringLiteral("twins 1 of 2 - Weight.svg")}));
 }
 
+TEST_F(TheExportCommand, drawsAnOverlayWhenAskedFor) {
+  const auto textOf = [this](const QStringList& arguments) {
+    EXPECT_EQ(exportPages(QStringList{"--pages", "bpd,weight", "--fetus", "1"} + arguments).status, 0);
+    return run("pdftotext", {"-layout", QDir(out).filePath(QStringLiteral("twins.pdf")), "-"}).output;
+  };
+  EXPECT_THAT(textOf({}), testing::Not(HasSubstr("entiles")));
+  EXPECT_THAT(textOf({"--join-marks"}), testing::Not(HasSubstr("entiles")));
+  EXPECT_THAT(textOf({"--overlay", "WHO-2017", "--join-marks"}), HasSubstr("Centiles: WHO (2017)"));
+  EXPECT_THAT(textOf({"--overlay", "cfef"}), HasSubstr("has no centiles of this measure"));
+  EXPECT_EQ(exportPages({"--overlay", "who"}).status, 2);
+  EXPECT_EQ(exportPages({"--format", "fhir", "--overlay", "who-2017"}).status, 2);
+}
+
 TEST_F(TheExportCommand, saysWhichInputIsBadAndGoesOn) {
   const QString cut = folder.filePath(QStringLiteral("cut.nascor"));
   writeFile(cut, cutDocument());

@@ -11,6 +11,7 @@
 #include "cli_commands/Command.h"
 #include "cli_commands/Names.h"
 #include "cli_commands/RecordExport.h"
+#include "cli_commands/ReferenceText.h"
 #include "model/PatientPage.h"
 
 namespace nascor::cli {
@@ -63,7 +64,11 @@ void exportPages(const std::string& format, const Arguments& arguments, Console&
   const std::string program = painter();
   std::vector<std::string> words{program, "--quiet", "--write-pages", *folder,   "--format",
                                  format,  "--pages", pages,           "--fetus", fetus};
-  for (const char* flag : {"no-foot", "no-clobber"}) {
+  if (const auto overlay = arguments.option("overlay")) {
+    words.emplace_back("--overlay");
+    words.emplace_back(requiredReference("--overlay", *overlay).name);
+  }
+  for (const char* flag : {"no-foot", "no-clobber", "join-marks"}) {
     if (arguments.has(flag)) words.push_back(std::string("--") + flag);
   }
   words.emplace_back("--");
@@ -100,12 +105,14 @@ Command exportCommand() {
   static constexpr std::array<OperandSpec, 1> kOperands{
       {{"FILE...", "a document; - is standard input", true}}};
   static_assert(model::kPatientPages.size() == 7, "the help of --pages says 0 to 6");
-  static constexpr std::array<OptionSpec, 7> kOptions{{
+  static constexpr std::array<OptionSpec, 9> kOptions{{
       {"out", "DIR",
        "the folder for the files, which is made when it is missing; - is standard output, for one file"},
       {"format", "pdf|png|svg|sr|fhir", "what is written; without this option PDF"},
       {"pages", "PAGES", "all, or first, last, numbers from 0 to 6 and names, with commas between"},
       {"fetus", "all|N", "one fetus, the first is 1; without this option all"},
+      {"overlay", "REFERENCE", "centile lines of a reference of \"nascor-cli reference\" over the charts"},
+      {"join-marks", "", "a line from mark to mark of each fetus"},
       {"no-clobber", "", "leave files that are there as they are, and say so"},
       {"no-foot", "", "leave off what stands under each page"},
       {"ndjson", "", "FHIR as one resource a line, of all documents, on standard output"},
@@ -113,8 +120,8 @@ Command exportCommand() {
   return {
       .name = "export",
       .usage =
-          "FILE... --out DIR [--format pdf|png|svg|sr|fhir] [--pages PAGES] [--fetus all|N] [--no-clobber] "
-          "[--no-foot] [--ndjson]",
+          "FILE... --out DIR [--format pdf|png|svg|sr|fhir] [--pages PAGES] [--fetus all|N] "
+          "[--overlay REFERENCE] [--join-marks] [--no-clobber] [--no-foot] [--ndjson]",
       .summary = "Writes the pages of each document, or its numbers for other programs.",
       .details =
           "Names of pages: " + namesOfPages() + " (0 to " + lastPageNumber() +

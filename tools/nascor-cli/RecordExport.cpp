@@ -44,7 +44,7 @@ void writeReports(const std::string& file, const std::string& name,
 }
 
 void check(const std::string& format, const Arguments& arguments) {
-  for (const char* option : {"pages", "fetus", "no-foot"}) {
+  for (const char* option : {"pages", "fetus", "overlay", "join-marks", "no-foot"}) {
     if (arguments.has(option))
       throw UsageError("--" + std::string(option) + " is for pages, not for --format " + format);
   }

@@ -126,6 +126,7 @@ class Export {
     }
     document.windowControllerDidLoadNib();
     document.setOnPaper(true);
+    document.setOverlay(wanted_.overlay);
     const std::vector<Place> places = placesOf(document);
     if (places.empty()) {
       result_.sentences << about(file, said("PageFiles", "it has no such fetus or page"));

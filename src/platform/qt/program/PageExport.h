@@ -7,6 +7,7 @@
 #include <optional>
 #include <vector>
 
+#include "charts/Overlay.h"
 #include "foundation/Services.h"
 #include "framework/PageWriter.h"
 #include "model/PatientPage.h"
@@ -24,6 +25,7 @@ struct PageExport {
   /// One fetus, the first is 0; nothing for all.
   std::optional<std::int64_t> fetus{};
   bool hasFoot = true;
+  charts::Overlay overlay{};
   bool mayReplace = true;  ///< whether a file of the same name is replaced; it stays as it is otherwise
   /// Takes the one file in place of the folder, and returns why that failed. May be empty.
   std::function<std::optional<QString>(const QByteArray& bytes)> writeOneFile{};

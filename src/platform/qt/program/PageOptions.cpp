@@ -11,6 +11,7 @@
 
 #include "base/QtLocalizer.h"
 #include "base/Text.h"
+#include "calc/References.h"
 #include "foundation/Progress.h"
 
 namespace nascor::qt {
@@ -45,7 +46,7 @@ std::optional<QString> writeToStandardOutput(const QByteArray& bytes) {
 }  // namespace
 
 void PageOptions::addTo(QCommandLineParser& parser) const {
-  parser.addOptions({folder_, format_, pages_, fetus_, noFoot_, noClobber_, quiet_});
+  parser.addOptions({folder_, format_, pages_, fetus_, noFoot_, overlay_, joinMarks_, noClobber_, quiet_});
 }
 
 std::optional<PageExport> PageOptions::read(const QCommandLineParser& parser, QString& error) const {
@@ -77,6 +78,11 @@ std::optional<PageExport> PageOptions::read(const QCommandLineParser& parser, QS
     if (number < 1) return refused(fetus_);
     wanted.fetus = number - 1;
   }
+  if (parser.isSet(overlay_)) {
+    wanted.overlay.centiles = calc::referenceNamed(toUtf8(parser.value(overlay_)));
+    if (wanted.overlay.centiles == nullptr) return refused(overlay_);
+  }
+  wanted.overlay.joinsMarks = parser.isSet(joinMarks_);
   wanted.hasFoot = !parser.isSet(noFoot_);
   wanted.mayReplace = !parser.isSet(noClobber_);
   if (isForStandardOutput(parser)) wanted.writeOneFile = writeToStandardOutput;

@@ -49,6 +49,14 @@ class PageOptions {
   QCommandLineOption noFoot_{
       QStringLiteral("no-foot"),
       QCoreApplication::translate("main", "With --write-pages: nothing stands under the pages.")};
+  QCommandLineOption overlay_{
+      QStringLiteral("overlay"),
+      QCoreApplication::translate(
+          "main", "With --write-pages: draws centile lines of that reference over the charts."),
+      QStringLiteral("REFERENCE")};
+  QCommandLineOption joinMarks_{
+      QStringLiteral("join-marks"),
+      QCoreApplication::translate("main", "With --write-pages: lines join the marks of each fetus.")};
   QCommandLineOption noClobber_{
       QStringLiteral("no-clobber"),
       QCoreApplication::translate("main", "With --write-pages: files that are there are left as they are.")};

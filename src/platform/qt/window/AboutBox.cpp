@@ -1,11 +1,44 @@
 #include "window/AboutBox.h"
 
 #include <QMessageBox>
+#include <QPushButton>
 
 #include "base/Introduction.h"
 #include "base/Text.h"
+#include "selftest/SelfTest.h"
 
 namespace nascor::qt {
+namespace {
+
+/// Works the examples out anew and tells how they came out, group by group.
+void showSelfTest(QWidget& parent) {
+  const auto results = selftest::replay(selftest::examples());
+  const selftest::GroupResult& total = results.back();
+  QMessageBox box(&parent);
+  box.setWindowTitle(said("MyDocument", "Check the Numbers"));
+  box.setTextFormat(Qt::PlainText);
+  box.setIcon(total.differences == 0 ? QMessageBox::Information : QMessageBox::Critical);
+  box.setText(total.differences == 0
+                  ? said("MyDocument", "All %1 worked examples come out as they are known.")
+                        .arg(QString::number(total.values))
+                  : said("MyDocument", "%1 of %2 worked examples come out otherwise.")
+                        .arg(QString::number(total.differences), QString::number(total.values)));
+  box.setInformativeText(
+      total.differences == 0
+          ? said("MyDocument",
+                 "Every formula, standard, reference, look-up and date was worked out again. Help > "
+                 "References shows the "
+                 "examples of each.")
+          : said("MyDocument", "Do not rely on this installation. Please have it installed again."));
+  QString details;
+  for (const auto& [group, values, differences] : results)
+    details += QStringLiteral("%1\t%2\t%3\n")
+                   .arg(fromUtf8(group), QString::number(values), QString::number(differences));
+  box.setDetailedText(details);
+  box.exec();
+}
+
+}  // namespace
 
 void showAbout(QWidget& parent) {
   QMessageBox box(&parent);
@@ -20,7 +53,12 @@ void showAbout(QWidget& parent) {
                    "Linked with Qt %1 (GNU LGPL 3), the D-Bus library (AFL 2.1 or GNU GPL 2) and the GNU C++ "
                    "library (GNU GPL 3 with the GCC Runtime Library Exception).")
                   .arg(QLatin1String(qVersion()))));
+  box.setStandardButtons(QMessageBox::Ok);
+  box.setDefaultButton(QMessageBox::Ok);
+  box.setEscapeButton(QMessageBox::Ok);
+  const QPushButton* check = box.addButton(said("MyDocument", "&Check the Numbers"), QMessageBox::ActionRole);
   box.exec();
+  if (box.clickedButton() == check) showSelfTest(parent);
 }
 
 }  // namespace nascor::qt

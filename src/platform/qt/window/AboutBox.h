@@ -4,7 +4,8 @@
 
 namespace nascor::qt {
 
-/// Shows version, disclaimer and licences until the user closes them.
+/// Shows version, disclaimer and licences until the user closes them; and, when asked, whether the program answers the
+/// worked examples as they are known.
 void showAbout(QWidget& parent);
 
 }  // namespace nascor::qt

@@ -1,6 +1,7 @@
 #include "window/CompareDialog.h"
 
 #include <QAbstractTableModel>
+#include <QAction>
 #include <QClipboard>
 #include <QCoreApplication>
 #include <QDialogButtonBox>
@@ -8,6 +9,7 @@
 #include <QFileDialog>
 #include <QGuiApplication>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QMimeData>
 #include <QPrintDialog>
@@ -52,6 +54,20 @@ class RoomyCells final : public QProxyStyle {
   int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override {
     const int usual = QProxyStyle::pixelMetric(metric, option, widget);
     return metric == PM_FocusFrameHMargin || metric == PM_HeaderMargin ? usual + 4 : usual;
+  }
+};
+
+/// A table that takes Return for itself, which would close the dialog.
+class Figures final : public QTableView {
+ public:
+  std::function<void()> onReturn;
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override {
+    if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter)
+      return QTableView::keyPressEvent(event);
+    onReturn();
+    event->accept();
   }
 };
 
@@ -167,7 +183,7 @@ CompareDialog::CompareDialog(CompareEnvironment environment, QWidget* parent)
 }
 
 void CompareDialog::addPage(const Table& table) {
-  auto* view = new QTableView;
+  auto* view = new Figures;
   auto* model = new Model(view);
   auto* sorted = new QSortFilterProxyModel(view);
   sorted->setSortRole(kNumberRole);
@@ -199,6 +215,12 @@ void CompareDialog::addPage(const Table& table) {
   auto* keys = new QShortcut(QKeySequence::Copy, view);
   keys->setContext(Qt::WidgetShortcut);
   connect(keys, &QShortcut::activated, this, &CompareDialog::copy);
+  auto* origin = new QAction(said("Compare", "Where This Comes From"), view);
+  view->addAction(origin);
+  view->setContextMenuPolicy(Qt::ActionsContextMenu);
+  view->onReturn = [this] { showOrigin(); };
+  connect(origin, &QAction::triggered, this, &CompareDialog::showOrigin);
+  connect(view, &QTableView::doubleClicked, this, &CompareDialog::showOrigin);
   tabs_->addTab(view, fromUtf8(table.title));
   pages_.push_back({.model = model, .sorted = sorted, .view = view});
 }
@@ -233,6 +255,17 @@ Table CompareDialog::tableOnShow() const {
     table.rows.push_back(page.model->table().rows.at(static_cast<std::size_t>(source)));
   }
   return table;
+}
+
+void CompareDialog::showOrigin() {
+  if (pages_.empty()) return;
+  const Page& page = pages_.at(static_cast<std::size_t>(tabs_->currentIndex()));
+  const QModelIndex index = page.sorted->mapToSource(page.view->currentIndex());
+  if (!index.isValid()) return;
+  const auto& cells = page.model->table().rows.at(static_cast<std::size_t>(index.row())).cells;
+  const auto& own = cells.at(static_cast<std::size_t>(index.column())).method;
+  // Where a figure has none of its own the row has.
+  if (const auto& method = own ? own : cells.front().method) environment_.showEvidence(*method);
 }
 
 void CompareDialog::copy() {

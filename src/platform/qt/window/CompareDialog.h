@@ -26,9 +26,10 @@ struct ShownComparison {
 struct CompareEnvironment {
   foundation::Services services;
   framework::Alerts& alerts;
-  std::function<ShownComparison()> comparison;  ///< of the examination and the fetus on show
-  std::function<framework::PrintInfo()> paper;  ///< that of the document
-  std::function<QString()> suggestedName;       ///< for a file, without its extension
+  std::function<ShownComparison()> comparison;            ///< of the examination and the fetus on show
+  std::function<framework::PrintInfo()> paper;            ///< that of the document
+  std::function<QString()> suggestedName;                 ///< for a file, without its extension
+  std::function<void(const calc::Method&)> showEvidence;  ///< what stands behind a figure
 };
 
 /// Each number of the fetus on show beside its peers. It stays open beside the window and follows what that shows; its
@@ -53,6 +54,8 @@ class CompareDialog final : public QDialog {
   void addPage(const compare::Table& table);
   /// The table on show as it is sorted now; its selected rows alone where some are.
   compare::Table tableOnShow() const;
+  /// What stands behind the figure that the keys or the mouse have reached; nothing for what was measured.
+  void showOrigin();
   void copy();
   void exportCSV();
   void print();

@@ -26,6 +26,7 @@
 #include "window/EditMenu.h"
 #include "window/FetusChoice.h"
 #include "window/OutputMenu.h"
+#include "window/OverlayMenu.h"
 #include "window/PageTabs.h"
 #include "window/PageZoom.h"
 #include "window/PatientPanel.h"
@@ -223,18 +224,18 @@ void DocumentWindow::bindActions() {
                      [this](const framework::MenuItem& item) {
                        perform([this, &item](NCDocument&) { environment_.application.chooseStandard(item); });
                      });
+  document_->takePreferredOverlay();
+  new OverlayMenu(
+      *ui_->overlayMenu, environment_.services.localizer,
+      [this] { return document_ ? document_->overlay() : charts::Overlay{}; },
+      [this](const DocumentAction& action) { perform(action); });
   new PageZoom({.in = *ui_->zoomInAction,
                 .out = *ui_->zoomOutAction,
                 .fit = *ui_->zoomFitAction,
                 .views = pages_->views(),
                 .pageOnShow = [this] { return pages_->pageOnShow(); }},
                *this);
-  connect(ui_->referencesAction, &QAction::triggered, this, [this] {
-    if (!references_) references_ = new ReferencesDialog(environment_.services.localizer, this);
-    references_->show();
-    references_->raise();
-    references_->activateWindow();
-  });
+  connect(ui_->referencesAction, &QAction::triggered, this, [this] { showReferences().showAll(); });
   connect(ui_->guideAction, &QAction::triggered, this,
           [this] { environment_.actions.perform([this] { environment_.application.doHelp(); }); });
   connect(ui_->aboutAction, &QAction::triggered, this, [this] { showAbout(*this); });
@@ -365,6 +366,14 @@ void DocumentWindow::showStandards() {
   pages_->update();
 }
 
+ReferencesDialog& DocumentWindow::showReferences() {
+  if (!references_) references_ = new ReferencesDialog(environment_.services.localizer, this);
+  references_->show();
+  references_->raise();
+  references_->activateWindow();
+  return *references_;
+}
+
 void DocumentWindow::showCompare() {
   if (!compare_) {
     compare_ = new CompareDialog(
@@ -377,8 +386,8 @@ void DocumentWindow::showCompare() {
                                       .tables = document_->comparison()};
              },
          .paper = [this] { return document_ ? document_->printInfo() : framework::PrintInfo{}; },
-         .suggestedName =
-             [this] { return document_ ? fromUtf8(document_->suggestedFileName()) : QString(); }},
+         .suggestedName = [this] { return document_ ? fromUtf8(document_->suggestedFileName()) : QString(); },
+         .showEvidence = [this](const calc::Method& method) { showReferences().showEvidence(method); }},
         this);
     subscriptions_.push_back(pages_->onUpdate.subscribe([this] { compare_->refresh(); }));
   }

@@ -94,6 +94,8 @@ class DocumentWindow final : public QMainWindow {
   void showExaminations();
   void showStandards();
   void showCompare();
+  /// The dialog of the references, in front.
+  ReferencesDialog& showReferences();
   void tellOfLinks(const QStringList& links);
 
   WindowEnvironment environment_;
