@@ -2,12 +2,29 @@
 
 #include <array>
 #include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string>
 #include <vector>
 
 #include "calc/Biometry.h"
+#include "calc/LookUp.h"
+#include "foundation/Localizer.h"
 #include "framework/TextField.h"
 
 namespace nascor::app {
+
+/// What the user types of the fetus on show, and what it is judged by.
+struct LengthsOnShow {
+  calc::Biometry typed;       ///< mm; 0 for not measured, NaN while a text is no number
+  calc::Biometry acceptable;  ///< mm; NaN also where the field would refuse the text
+  std::optional<calc::Measurement>
+      beingTyped;                  ///< its first digits are another length: judged when it is left
+  double age = 0.0;                ///< weeks; 0.0 while it is unknown
+  std::int64_t weightFormula = 0;  ///< its identifier
+  /// Of the growth standard in force, by measurement; empty without one.
+  std::array<const calc::ReferenceTable*, calc::kMeasurements.size()> tables{};
+};
 
 /// What the window and its dialogs say beside what is typed, anew at every key. Nothing of it is stored, printed or exported.
 /// The document writes these fields, and a view that bears the name of one shows it.
@@ -39,11 +56,20 @@ class Assessment {
 
   const std::vector<framework::TextField*>& texts() const { return texts_; }
 
+  /// Places and judges the lengths, the age and the weight that they give.
+  void showLengths(const LengthsOnShow& shown, const foundation::Localizer& localizer);
+  /// Says of which of `held`, which the fields hold, the dialog takes the age from the end of a table.
+  void showDatingRemarks(const calc::Biometry& held, const LengthsOnShow& shown,
+                         const foundation::Localizer& localizer);
+
  private:
   std::array<Length, calc::kMeasurements.size()> lengths_{
       Length(calc::Measurement::bpd), Length(calc::Measurement::hc), Length(calc::Measurement::ac),
       Length(calc::Measurement::fl)};
   std::vector<framework::TextField*> texts_;
 };
+
+/// Shows `text`, and tells the listeners of `field` of a new one alone.
+void showIfNew(framework::TextField& field, const std::string& text);
 
 }  // namespace nascor::app

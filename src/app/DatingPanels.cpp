@@ -5,11 +5,12 @@
 #include <utility>
 
 #include "calc/Dating.h"
-#include "calc/EditingBounds.h"
+#include "calc/Plausibility.h"
 #include "foundation/Calendar.h"
 #include "foundation/Clock.h"
 #include "foundation/DateText.h"
 #include "foundation/Localizer.h"
+#include "foundation/NumberText.h"
 #include "foundation/ShortDate.h"
 
 namespace nascor::app {
@@ -17,17 +18,33 @@ namespace nascor::app {
 using calc::Measurement;
 using framework::TextField;
 
+void ProposedEDD::refuse(const TextField& field, const std::string& reason) {
+  obstacles.push_back(&field);
+  if (std::ranges::find(reasons, reason) == reasons.end()) reasons.push_back(reason);
+}
+
 ProposedEDD DatingPanel::proposed(const std::optional<foundation::Date>& date,
-                                  std::vector<const TextField*> obstacles) const {
+                                  const std::vector<const TextField*>& obstacles,
+                                  const std::string& reason) const {
   const foundation::Services& services = reader_.services();
   const foundation::ShortDateForm form = foundation::dateForm(services.localizer);
   std::string text = reader_.shortDateText(date);
   // The records take the date from this text.
   if (text.empty() ||
       foundation::civilDayFromShortText(text, form) != foundation::localDay(*date, services.calendar)) {
-    return {.text = {}, .obstacles = std::move(obstacles)};
+    ProposedEDD refused;
+    for (const TextField* each : obstacles) refused.refuse(*each, reason);
+    return refused;
   }
-  return {.text = std::move(text), .obstacles = {}};
+  ProposedEDD proposal;
+  proposal.text = std::move(text);
+  return proposal;
+}
+
+std::string DatingPanel::whyNoDate(const TextField& field, Reading reading) const {
+  const std::string typed = reader_.text(field, reading);
+  return typed.empty() ? localizer().text("NCDocument", "Type the date.")
+                       : localizer().text("NCDocument", "This is no date:") + " " + typed;
 }
 
 CRLPanel::CRLPanel(const FieldReader& reader)
@@ -46,15 +63,28 @@ void CRLPanel::open() {
 ProposedEDD CRLPanel::proposedEDD(std::int64_t crlStandard, Reading reading) const {
   ProposedEDD refused;
   const auto scan = reader().date(date, reading);
-  if (!scan) refused.obstacles.push_back(&date);
+  if (!scan) refused.refuse(date, whyNoDate(date, reading));
   const double age = calc::menstrualAgeFromCRL(reader().number(length, reading), crlStandard);
-  if (calc::crlFormula(crlStandard) == nullptr) {
-    refused.obstacles.push_back(&standardReference);
+  const calc::CRLFormula* formula = calc::crlFormula(crlStandard);
+  if (formula == nullptr) {
+    refused.refuse(standardReference, localizer().text("NCDocument", "No formula is chosen."));
   } else if (age == 0.0) {
-    refused.obstacles.push_back(&length);
+    refused.refuse(length, whyNoAge(*formula, reading));
   }
   if (!refused.obstacles.empty()) return refused;
-  return proposed(calc::eddFromAgeAtScan(*scan, age, reader().services().calendar), {&date});
+  return proposed(calc::eddFromAgeAtScan(*scan, age, reader().services().calendar), {&date},
+                  localizer().text("NCDocument", "The EDD would lie outside the calendar."));
+}
+
+std::string CRLPanel::whyNoAge(const calc::CRLFormula& formula, Reading reading) const {
+  if (reader().number(length, reading) == 0.0)
+    return localizer().text("NCDocument", "Type the crown-rump length.");
+  const auto number = [this](double value) {
+    const int decimals = value == std::floor(value) ? 0 : 1;
+    return foundation::fieldText(value, decimals, localizer().decimalSign());
+  };
+  return localizer().text("NCDocument", "The formula dates these lengths, in mm:") + " " +
+         number(formula.least) + "\u2013" + number(formula.greatest);
 }
 
 LastPeriodPanel::LastPeriodPanel(const FieldReader& reader) : DatingPanel("lmpWindow", reader) {
@@ -71,18 +101,33 @@ void LastPeriodPanel::open() {
 
 ProposedEDD LastPeriodPanel::proposedEDD(Reading reading) const {
   const auto day = reader().date(lastPeriod, reading);
-  if (!day) return {.text = {}, .obstacles = {&lastPeriod}};
   ProposedEDD refused;
+  if (!day) {
+    refused.refuse(lastPeriod, whyNoDate(lastPeriod, reading));
+    return refused;
+  }
   const auto days = [&](const framework::IntegerField& field) {
     const auto typed = reader().integer(field, reading);
-    if (!typed) refused.obstacles.push_back(&field);
+    if (!typed) refused.refuse(field, localizer().text("NCDocument", "Type whole days."));
     return typed.value_or(0);
   };
   const std::int64_t cycleDays = days(cycle);
   const std::int64_t lutealDays = days(luteal);
   if (!refused.obstacles.empty()) return refused;
   const auto edd = calc::eddFromLMP(*day, cycleDays, lutealDays, reader().services().calendar);
-  return proposed(edd, {&cycle, &luteal});
+  ProposedEDD proposal =
+      proposed(edd, {&cycle, &luteal}, localizer().text("NCDocument", "There is no such cycle."));
+  if (!proposal.text.empty()) proposal.remark = remarkOnCycle(cycleDays, lutealDays, reading);
+  return proposal;
+}
+
+std::string LastPeriodPanel::remarkOnCycle(std::int64_t cycleDays, std::int64_t lutealDays,
+                                           Reading reading) const {
+  if (calc::isUsualCycle(cycleDays, lutealDays)) return {};
+  const bool isEmpty = reader().text(cycle, reading).empty() || reader().text(luteal, reading).empty();
+  return isEmpty ? localizer().text("NCDocument", "An empty number of days counts as 0.")
+                 : localizer().text("NCDocument",
+                                    "Usually a cycle has 24 to 38 days, its luteal phase 11 to 17.");
 }
 
 MeasurementsPanel::MeasurementsPanel(const FieldReader& reader) : DatingPanel("measurementsWindow", reader) {
@@ -126,10 +171,15 @@ void MeasurementsPanel::showAverage() {
 
 ProposedEDD MeasurementsPanel::proposedEDD(const std::optional<foundation::Date>& examDate,
                                            const TextField& examDateField) const {
-  if (!examDate) return {.text = {}, .obstacles = {&examDateField}};
+  if (!examDate) {
+    ProposedEDD refused;
+    refused.refuse(examDateField, localizer().text("NCDocument", "The examination has no date."));
+    return refused;
+  }
   // An average of 0, with nothing checked, is dated like any other.
   return proposed(calc::eddFromMeasurements(*examDate, averageGestation_, reader().services().calendar),
-                  {&examDateField});
+                  {&examDateField},
+                  localizer().text("NCDocument", "The EDD would lie outside the calendar."));
 }
 
 DeliveryPanel::DeliveryPanel(const FieldReader& reader) : DatingPanel("adjustDeliveryPanel", reader) {

@@ -9,6 +9,7 @@
 #include "app/FieldReader.h"
 #include "app/PatientPages.h"
 #include "calc/Biometry.h"
+#include "calc/Dating.h"
 #include "framework/Controls.h"
 #include "framework/TextField.h"
 
@@ -21,6 +22,11 @@ namespace nascor::app {
 struct ProposedEDD {
   std::string text;                                    ///< empty when there is none
   std::vector<const framework::TextField*> obstacles;  ///< then, what stands in its way
+  std::vector<std::string> reasons;                    ///< why, a sentence each
+  std::string remark;  ///< a sentence on what is improbable in an EDD that is proposed; else empty
+
+  /// `field` stands in the way; a reason that stands already is not repeated.
+  void refuse(const framework::TextField& field, const std::string& reason);
 };
 
 /// A panel and its fields.
@@ -40,9 +46,14 @@ class DatingPanel {
 
   void setFields(std::vector<framework::TextField*> fields) { fields_ = std::move(fields); }
   const FieldReader& reader() const { return reader_; }
-  /// `date` as what is entered; nothing, because of `obstacles`, when it has no text that reads back to the same day.
+  const foundation::Localizer& localizer() const { return reader_.services().localizer; }
+  /// `date` as what is entered; nothing, because of `obstacles` for `reason`, when it has no text that reads back to the
+  /// same day.
   ProposedEDD proposed(const std::optional<foundation::Date>& date,
-                       std::vector<const framework::TextField*> obstacles) const;
+                       const std::vector<const framework::TextField*>& obstacles,
+                       const std::string& reason) const;
+  /// Why `field` has no date.
+  std::string whyNoDate(const framework::TextField& field, Reading reading) const;
 
  private:
   framework::Panel panel_;
@@ -63,6 +74,9 @@ class CRLPanel final : public DatingPanel {
   framework::TextField date{"crlWindowDate"};
   framework::NumberField length;
   framework::TextField standardReference{"crlStandardReference"};
+
+ private:
+  std::string whyNoAge(const calc::CRLFormula& formula, Reading reading) const;
 };
 
 /// From the first day of the last period, for a cycle of usual or other length.
@@ -77,6 +91,9 @@ class LastPeriodPanel final : public DatingPanel {
   framework::TextField lastPeriod{"lmpWindowLMP"};
   framework::IntegerField cycle{"lmpWindowCycleField"};
   framework::IntegerField luteal{"lmpWindowLutealField"};
+
+ private:
+  std::string remarkOnCycle(std::int64_t cycleDays, std::int64_t lutealDays, Reading reading) const;
 };
 
 /// From the lengths of the examination and the fetus on show.

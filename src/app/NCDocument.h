@@ -19,7 +19,6 @@
 #include "app/PatientPages.h"
 #include "calc/Biometry.h"
 #include "charts/ChartDocument.h"
-#include "compare/Tables.h"
 #include "foundation/NotificationCenter.h"
 #include "framework/Controls.h"
 #include "framework/CorvelDocument.h"
@@ -47,6 +46,7 @@ class NCDocument final : public framework::CorvelDocument,
   ~NCDocument() override;
 
   std::string_view className() const override { return "NCDocument"; }
+  using ZuDocument::services;
 
   /// @name The document file
   /// @{
@@ -110,12 +110,6 @@ class NCDocument final : public framework::CorvelDocument,
   void synchronizeFromData() override;
   void synchronizeToData() override;
   void updateDisplay() override;
-  /// What the marks of the examination on show say on that chart page, for those who do not see it: measure, value, z-score,
-  /// and the standard. The standard alone where there is none.
-  std::string spokenPage(std::int64_t index) const;
-  /// What a page cannot show for want of something, and where it is entered: a sentence each, none where nothing is missing.
-  /// For the window alone; paper, files and drawings never show it.
-  std::vector<std::string> adviceOnPage(std::int64_t index) const;
   // Selector: switchToGraph:
   /// Shows that page. Throws RangeError.
   void switchToGraph(std::int64_t tabIndex) override;
@@ -226,16 +220,6 @@ class NCDocument final : public framework::CorvelDocument,
 
   /// @}
 
-  /// @name The examination and the fetus on show beside their peers (NCDocumentComparison.cpp), from the records
-  /// @{
-
-  /// Tables for people; none while there is no examination.
-  std::vector<compare::Table> comparison() const;
-  /// Patient, fetus, examination and age, in one line.
-  std::string comparisonHeading() const;
-
-  /// @}
-
   /// @name The summary of all fetuses for the records (NCDocumentSummary.cpp), from the records
   /// @{
 
@@ -289,6 +273,8 @@ class NCDocument final : public framework::CorvelDocument,
   const model::MeasurementsRecord* measurementsForCurrentFetus(std::int64_t exam) const override;
   const model::MeasurementsRecord* lastMeasurementsRecordForCurrentFetus() const;
   std::int64_t numberOfExaminations() const override;
+  /// Null for an index that no examination has.
+  const model::NCRecord* examination(std::int64_t exam) const;
 
   /// @}
   /// @name Dating (calc/Dating.h)
@@ -326,11 +312,11 @@ class NCDocument final : public framework::CorvelDocument,
   charts::NascorGraphView* FLGraph() const override { return &pages_.graph(calc::Measurement::fl); }
   charts::NascorGraphView& EFWGraph() const { return pages_.efwGraph(); }
   charts::NascorDataView& report() const { return pages_.report(); }
+  const PatientPages& patientPages() const { return pages_; }
 
   /// @}
 
  private:
-  std::string lmpProposalText() const;
   /// Says everything in `assessment` anew.
   void assess();
   void assessDialogs();
@@ -339,12 +325,9 @@ class NCDocument final : public framework::CorvelDocument,
   bool takesTypedText(framework::TextField& field);
   /// Puts what the fields show, and what the user types, into the patient and the examination on show.
   void storeTyped(model::PatientRecord& patient, model::NCRecord* exam);
-  calc::Biometry typedLengths();
-  /// Those with NaN for what a field would refuse.
-  calc::Biometry acceptableLengths();
-  std::string examinationText() const;
-  std::string proposalText(const ProposedEDD& proposal) const;
-  std::string obstacleText(const framework::TextField& obstacle) const;
+  LengthsOnShow lengthsOnShow();
+  /// What the fields hold.
+  calc::Biometry heldLengths();
   framework::TextField* firstEmptyField() override;
 
   void actionEnded() override;
@@ -376,7 +359,6 @@ class NCDocument final : public framework::CorvelDocument,
   void setHeader(model::PatientPage page, const std::string& title, const std::string& shown);
   std::string gravidaAndFetus(bool withFetus) const;
   bool mayModify(const std::string& message, const std::string& information);
-  const model::NCRecord* examination(std::int64_t exam) const;
   model::NCRecord* currentExamination();
   /// Makes fields without a record read-only: a file may lack the examination, or the record of a fetus.
   void showWhatTakesTyping();

@@ -39,10 +39,7 @@ void NCDocument::doSetEDDfromMeasurements(Sender) {
 }
 
 void NCDocument::updateEDDfromMeasurements(Sender) {
-  calc::Biometry lengths;
-  for (const calc::Measurement measurement : calc::kMeasurements)
-    lengths.*calc::memberFor(measurement) = fieldFor(measurement).doubleValue();
-  measurementsPanel_.dateLengths(lengths, pages_);
+  measurementsPanel_.dateLengths(heldLengths(), pages_);
   assessDialogs();
   measurementsPanel_.showAverage();
 }

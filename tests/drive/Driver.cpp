@@ -9,6 +9,7 @@
 #include <set>
 #include <stdexcept>
 
+#include "app/PageTexts.h"
 #include "calc/References.h"
 #include "drive/Drawing.h"
 #include "drive/Outside.h"
@@ -121,7 +122,7 @@ void tellFailure(NCDocument& document, const std::string& sentence) {
 
 /// The rows of that table as texts; null for a table that is not there.
 Json comparisonJson(const NCDocument& document, const std::string& name) {
-  for (const compare::Table& table : document.comparison()) {
+  for (const compare::Table& table : app::comparison(document)) {
     if (table.name != name) continue;
     Json rows = Json::array();
     for (const compare::Row& row : table.rows) {
@@ -245,9 +246,9 @@ const std::map<std::string, Operation, std::less<>>& operations() {
       {"directUpdateDisplayAndSetDirty",
        act([](NCDocument& d, Arguments& a) { d.directUpdateDisplayAndSetDirty(a.truthOr(true)); })},
       {"switchToGraph", act([](NCDocument& d, Arguments& a) { d.switchToGraph(a.integer()); })},
-      {"spokenPage", [](NCDocument& d, Arguments& a) { return Json(d.spokenPage(a.integer())); }},
+      {"spokenPage", [](NCDocument& d, Arguments& a) { return Json(app::spokenPage(d, a.integer())); }},
       {"comparison", [](NCDocument& d, Arguments& a) { return comparisonJson(d, a.text()); }},
-      {"comparisonHeading", [](NCDocument& d, Arguments&) { return Json(d.comparisonHeading()); }},
+      {"comparisonHeading", [](NCDocument& d, Arguments&) { return Json(app::comparisonHeading(d)); }},
       {"isBlank", [](NCDocument& d, Arguments&) { return Json(d.isBlank()); }},
       {"lookUp", act([](NCDocument& d, Arguments& a) {
          const std::string name = a.text();
@@ -716,7 +717,7 @@ Json Driver::marks(const Json& page) {
 }
 
 Json Driver::advice(const Json& page) {
-  return {{"advice", document().adviceOnPage(integerArgument(page, "the index of a page"))}};
+  return {{"advice", app::adviceOnPage(document(), integerArgument(page, "the index of a page"))}};
 }
 
 Json Driver::paper(const Json& word) {

@@ -11,6 +11,7 @@
 #include <QScrollBar>
 #include <algorithm>
 
+#include "app/PageTexts.h"
 #include "base/LocalPath.h"
 #include "base/Mnemonics.h"
 #include "base/Text.h"
@@ -382,8 +383,8 @@ void DocumentWindow::showCompare() {
          .comparison =
              [this] {
                if (!document_) return ShownComparison{};
-               return ShownComparison{.heading = fromUtf8(document_->comparisonHeading()),
-                                      .tables = document_->comparison()};
+               return ShownComparison{.heading = fromUtf8(app::comparisonHeading(*document_)),
+                                      .tables = app::comparison(*document_)};
              },
          .paper = [this] { return document_ ? document_->printInfo() : framework::PrintInfo{}; },
          .suggestedName = [this] { return document_ ? fromUtf8(document_->suggestedFileName()) : QString(); },

@@ -6,6 +6,7 @@
 #include <QStringList>
 #include <utility>
 
+#include "app/PageTexts.h"
 #include "base/Mnemonics.h"
 #include "base/Text.h"
 
@@ -68,7 +69,7 @@ void PageTabs::update() {
   onUpdate();
   const std::int64_t shown = document_->tabView().indexOfSelectedPage();
   QStringList advice;
-  for (const std::string& sentence : document_->adviceOnPage(shown)) advice << fromUtf8(sentence);
+  for (const std::string& sentence : app::adviceOnPage(*document_, shown)) advice << fromUtf8(sentence);
   views_.at(static_cast<std::size_t>(shown))->setAdvice(advice.join(u'\n'));
   views_.at(static_cast<std::size_t>(shown))
       ->setDescription(shown == model::indexOf(model::PatientPage::report)
@@ -76,7 +77,7 @@ void PageTabs::update() {
                            : said("MyDocument", "Growth chart of %1. Examination %2, %3. %4")
                                  .arg(fromUtf8(document_->shownTitle(true)), parts_.examination.text(),
                                       fromUtf8(document_->ageField().text()),
-                                      fromUtf8(document_->spokenPage(shown))));
+                                      fromUtf8(app::spokenPage(*document_, shown))));
 }
 
 }  // namespace nascor::qt
