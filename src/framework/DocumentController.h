@@ -38,6 +38,8 @@ class DocumentController {
   /// file), when the file cannot be read or is not to be opened, which is of the kind isDeclined.
   ZuDocument* openDocument(const std::string& path, foundation::FileError& error,
                            IfHeld ifHeld = IfHeld::asks);
+  /// Whether the file at `path` is that of an open document.
+  bool isFileOpen(const std::string& path) const { return documentOfFile(path) != nullptr; }
   /// Opens the files that the user chooses and says which of them cannot be read.
   void openDocuments();
 

@@ -20,11 +20,11 @@ constexpr SourceLocation kNoDocument = SourceLocation::current(kSource, 22);
 ScriptValue NascorScriptCommand::performDefaultImplementation() {
   const std::string& name =
       *foundation::required(foundation::required(commandDescription(), kNoDescription)->commandName, kNoName);
-  if (name == "make new document") {
+  if (name == kMakeNewDocument) {
     log_.write(name);
     documents_.newDocument();
   }
-  if (name == "export to file") {
+  if (name == kExportToFile) {
     log_.write(name);
     auto* document = dynamic_cast<app::NCDocument*>(documents_.currentDocument());
     failure_ = foundation::required(document, kNoDocument)->doExport(nullptr);

@@ -2,6 +2,7 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 #include <utility>
 
 #include "foundation/Log.h"
@@ -9,6 +10,9 @@
 #include "scripting/ScriptValue.h"
 
 namespace nascor::scripting {
+
+inline constexpr std::string_view kMakeNewDocument = "make new document";
+inline constexpr std::string_view kExportToFile = "export to file";
 
 struct ScriptCommandDescription {
   std::optional<std::string> commandName;

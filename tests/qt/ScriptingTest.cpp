@@ -32,6 +32,7 @@ using testing::StartsWith;
 
 constexpr int kPatience = 60'000;
 
+const std::string kLimitsExceeded = "org.freedesktop.DBus.Error.LimitsExceeded";
 const QString kInvalidArguments = QStringLiteral("org.freedesktop.DBus.Error.InvalidArgs");
 
 QString textOfFile(const QString& path) {
@@ -412,6 +413,39 @@ TEST_F(AScript, mayWriteTenThousandTimesWhileOthersAreAnswered) {
 #if !defined(__SANITIZE_ADDRESS__) && !(defined(__clang__) && __has_feature(address_sanitizer))
   EXPECT_LT(grown, 1024);
 #endif
+}
+
+TEST_F(AScript, opensNoMoreThanAHundredWindows) {
+  start({QStringLiteral("--service")});
+  for (int i = 0; i < 100; ++i) {
+    ASSERT_EQ(script->application("perform", {QStringLiteral("make new document")}).type(),
+              QDBusMessage::ReplyMessage);
+  }
+  const QDBusMessage answer = script->application("perform", {QStringLiteral("make new document")});
+  EXPECT_EQ(nameOfError(answer), kLimitsExceeded);
+  EXPECT_EQ(answer.errorMessage(),
+            QStringLiteral("perform: callers may open no more than 100 documents; close some"));
+  const QString path = file("one.nascor", singleton());
+  EXPECT_EQ(nameOfError(script->application("open", {path})), kLimitsExceeded);
+  const auto desktop = [&](const char* member, const QVariantList& arguments) {
+    return nameOfError(script->call(kApplicationPath, QStringLiteral("org.freedesktop.Application"),
+                                    QLatin1String(member), arguments));
+  };
+  EXPECT_EQ(desktop("ActivateAction", {QStringLiteral("new"), QVariantList(), QVariantMap()}),
+            kLimitsExceeded);
+  EXPECT_EQ(desktop("Open", {QStringList{QUrl::fromLocalFile(path).toString()}, QVariantMap()}),
+            kLimitsExceeded);
+  EXPECT_EQ(script->documents().size(), 100U);
+}
+
+TEST_F(AScript, storesNoTextOfMoreThanAMebibyte) {
+  start();
+  const QString longest(1024 * 1024, u'x');
+  EXPECT_EQ(script->set(first, "identifier", longest).type(), QDBusMessage::ReplyMessage);
+  const QDBusMessage answer = script->set(first, "identifier", longest + u'x');
+  EXPECT_EQ(nameOfError(answer), kLimitsExceeded);
+  EXPECT_EQ(answer.errorMessage(), QStringLiteral("Set: a text has no more than 1048576 bytes"));
+  EXPECT_EQ(script->get(first, "identifier").toString().size(), longest.size());
 }
 
 class AnExample : public AScript, public testing::WithParamInterface<const char*> {};

@@ -1,17 +1,20 @@
 #include "bus/ApplicationService.h"
 
-#include <QDBusConnection>
 #include <QDBusConnectionInterface>
-#include <QDBusMessage>
+#include <QDBusError>
+#include <QDBusVariant>
+#include <QElapsedTimer>
 #include <QFileInfo>
 #include <QUrl>
 #include <QVariantMap>
 #include <string>
+#include <utility>
 
 namespace nascor::qt {
 namespace {
 
 constexpr int kPatience = 10'000;  // milliseconds that the one that runs has for its answer
+constexpr int kSlice = 20;         // milliseconds of calls, after which the windows have their turn
 
 /// Whether the session has a bus. Asking the library would start one for this process alone.
 bool hasSessionBus() {
@@ -20,7 +23,31 @@ bool hasSessionBus() {
   return !folder.isEmpty() && QFileInfo::exists(folder + QStringLiteral("/bus"));
 }
 
+/// The bytes of the texts in the arguments of a call, which are what can be long.
+std::size_t bytesIn(const QVariantList& arguments) {
+  std::size_t bytes = 0;
+  for (const QVariant& argument : arguments) {
+    const bool isWrapped = argument.userType() == qMetaTypeId<QDBusVariant>();
+    const QVariant value = isWrapped ? argument.value<QDBusVariant>().variant() : argument;
+    if (value.typeId() == QMetaType::QString)
+      bytes += static_cast<std::size_t>(value.toString().size()) * sizeof(QChar);
+    if (value.typeId() == QMetaType::QByteArray)
+      bytes += static_cast<std::size_t>(value.toByteArray().size());
+    if (value.typeId() == QMetaType::QStringList) {
+      for (const QString& text : value.toStringList())
+        bytes += static_cast<std::size_t>(text.size()) * sizeof(QChar);
+    }
+  }
+  return bytes;
+}
+
 }  // namespace
+
+ApplicationService::ApplicationService(BusObjects& objects, foundation::Log& log)
+    : objects_(objects), log_(log) {
+  turn_.setInterval(0);
+  connect(&turn_, &QTimer::timeout, this, [this] { work(); });
+}
 
 ApplicationService::Start ApplicationService::start(const QStringList& paths) {
   if (!hasSessionBus()) return alone("there is no session bus");
@@ -62,13 +89,41 @@ QString ApplicationService::introspect(const QString&) const {
 }
 
 bool ApplicationService::handleMessage(const QDBusMessage& message, const QDBusConnection& connection) {
-  Call call{message, connection};
-  calls_.push_back(&call);
-  const QDBusMessage reply = objects_.answer(message);
-  calls_.pop_back();
-  answer(call, reply);
-  onMessage();
+  Call call{.message = message, .connection = connection, .bytes = bytesIn(message.arguments())};
+  if (waiting_.size() >= kMostWaiting || waitingBytes_ + call.bytes > kMostWaitingBytes) {
+    answer(call,
+           message.createErrorReply(
+               QDBusError::LimitsExceeded,
+               message.member() + QStringLiteral(": too many calls wait to be done; wait for replies")));
+    return true;
+  }
+  waitingBytes_ += call.bytes;
+  waiting_.push_back(std::move(call));
+  // Runs on in the event loop of a question that a call asks.
+  turn_.start();
   return true;
+}
+
+void ApplicationService::work() {
+  QElapsedTimer spent;
+  spent.start();
+  while (!waiting_.empty() && spent.elapsed() < kSlice) {
+    Call call = std::move(waiting_.front());
+    waiting_.pop_front();
+    waitingBytes_ -= call.bytes;
+    if (calls_.size() >= kMostAsking) {
+      answer(call, call.message.createErrorReply(
+                       QDBusError::LimitsExceeded,
+                       call.message.member() + QStringLiteral(": the user is asked too many questions")));
+      continue;
+    }
+    calls_.push_back(&call);
+    const QDBusMessage reply = objects_.answer(call.message);
+    calls_.pop_back();
+    answer(call, reply);
+    onMessage();
+  }
+  if (waiting_.empty()) turn_.stop();
 }
 
 void ApplicationService::questionIsAsked() {
@@ -80,7 +135,7 @@ void ApplicationService::questionIsAsked() {
   }
 }
 
-void ApplicationService::answer(Call& call, const QDBusMessage& reply) const {
+void ApplicationService::answer(Call& call, const QDBusMessage& reply) {
   if (!call.isAnswered && call.message.isReplyRequired()) call.connection.send(reply);
   call.isAnswered = true;
 }

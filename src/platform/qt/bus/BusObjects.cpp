@@ -9,6 +9,7 @@
 #include <QMetaObject>
 #include <QUrl>
 #include <QVariantMap>
+#include <algorithm>
 #include <limits>
 #include <utility>
 
@@ -35,6 +36,7 @@ constexpr const char* kUnknownMethod = "org.freedesktop.DBus.Error.UnknownMethod
 constexpr const char* kUnknownInterface = "org.freedesktop.DBus.Error.UnknownInterface";
 constexpr const char* kUnknownObject = "org.freedesktop.DBus.Error.UnknownObject";
 constexpr const char* kUnknownProperty = "org.freedesktop.DBus.Error.UnknownProperty";
+constexpr const char* kLimits = "org.freedesktop.DBus.Error.LimitsExceeded";
 constexpr const char* kFailed = "org.freedesktop.DBus.Error.Failed";
 constexpr const char* kCannotOpen = "org.nascor.Error.CannotOpen";
 constexpr const char* kCannotExport = "org.nascor.Error.CannotExport";
@@ -214,13 +216,21 @@ QString BusObjects::pathOf(const framework::ZuDocument* document) const {
   return QLatin1String(kPath) + QStringLiteral("/documents/") + QString::number(*number);
 }
 
+void BusObjects::requireRoomFor(std::size_t more) const {
+  if (documents_.documents().size() + more > kMostDocuments)
+    refuse(kLimits,
+           QStringLiteral("callers may open no more than %1 documents; close some").arg(kMostDocuments));
+}
+
 void BusObjects::later(std::function<void()> action) {
   QMetaObject::invokeMethod(&context_, std::move(action), Qt::QueuedConnection);
 }
 
 QVariantList BusObjects::perform(const Target&, const QVariantList& arguments) {
-  scripting::NascorScriptCommand command(scripting::ScriptCommandDescription{toUtf8(arguments[0].toString())},
-                                         documents_, services_.log);
+  const std::string name = toUtf8(arguments[0].toString());
+  if (name == scripting::kMakeNewDocument) requireRoomFor(1);
+  scripting::NascorScriptCommand command(scripting::ScriptCommandDescription{name}, documents_,
+                                         services_.log);
   command.performDefaultImplementation();
   if (command.failure()) refuse(kCannotExport, fromUtf8(*command.failure()));
   return {};
@@ -239,9 +249,11 @@ QVariantList BusObjects::currentDocument(const Target&, const QVariantList&) {
 QVariantList BusObjects::open(const Target&, const QVariantList& arguments) {
   const QString path = arguments[0].toString();
   if (!QDir::isAbsolutePath(path)) refuse(kInvalidArguments, QStringLiteral("expected an absolute path"));
+  const std::string file = QFile::encodeName(path).toStdString();
+  if (!documents_.isFileOpen(file)) requireRoomFor(1);
   foundation::FileError error;
-  const framework::ZuDocument* document = documents_.openDocument(
-      QFile::encodeName(path).toStdString(), error, framework::DocumentController::IfHeld::refuses);
+  const framework::ZuDocument* document =
+      documents_.openDocument(file, error, framework::DocumentController::IfHeld::refuses);
   if (!document) {
     // In one line, where a window has a button for the details.
     const std::string details = error.details.empty() ? "" : " (" + error.details + ")";
@@ -257,6 +269,9 @@ QVariantList BusObjects::activate(const Target&, const QVariantList&) {
 
 QVariantList BusObjects::openFiles(const Target&, const QVariantList& arguments) {
   const WantedFiles wanted = wantedFiles(arguments[0].toStringList());
+  requireRoomFor(static_cast<std::size_t>(std::ranges::count_if(wanted.paths, [this](const QString& path) {
+    return !documents_.isFileOpen(QFile::encodeName(path).toStdString());
+  })));
   if (!wanted.paths.isEmpty() || wanted.others.isEmpty())
     later([this, files = wanted.paths] { onOpen(files); });
   if (!wanted.others.isEmpty()) {
@@ -269,6 +284,7 @@ QVariantList BusObjects::openFiles(const Target&, const QVariantList& arguments)
 QVariantList BusObjects::activateAction(const Target&, const QVariantList& arguments) {
   if (arguments[0].toString() != QStringLiteral("new"))
     refuse(kInvalidArguments, QStringLiteral("the one action is \"new\""));
+  requireRoomFor(1);
   later([this] { onNew(); });
   return {};
 }
@@ -293,6 +309,9 @@ QVariantList BusObjects::set(const Target& target, const QVariantList& arguments
   const ScriptProperty& property = propertyFor(arguments);
   const auto value = scriptValue(arguments[2].value<QDBusVariant>().variant());
   if (!value) refuse(kInvalidArguments, fromUtf8(scripting::expectation(property)));
+  const auto* text = std::get_if<std::string>(&*value);
+  if (text != nullptr && text->size() > kLongestText)
+    refuse(kLimits, QStringLiteral("a text has no more than %1 bytes").arg(kLongestText));
   writeProperty(property, scripted, *value, services_.calendar);
   return {};
 }

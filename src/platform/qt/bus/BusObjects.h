@@ -5,6 +5,7 @@
 #include <QString>
 #include <QStringList>
 #include <QVariantList>
+#include <cstddef>
 #include <functional>
 #include <optional>
 
@@ -21,6 +22,10 @@ namespace nascor::qt {
 class BusObjects {
  public:
   static constexpr const char* kPath = "/org/nascor/Nascor";
+  /// Open documents beyond which a caller opens none; the user does.
+  static constexpr std::size_t kMostDocuments = 100;
+  /// Of a text that is stored, in bytes.
+  static constexpr std::size_t kLongestText = 1024 * 1024;
 
   /// Both outlive this object.
   BusObjects(const foundation::Services& services, framework::DocumentController& documents,
@@ -45,6 +50,8 @@ class BusObjects {
   Target targetAt(const QString& path) const;
   const Method& methodFor(const QDBusMessage& message, const Target& target) const;
   QString pathOf(const framework::ZuDocument* document) const;
+  /// Refuses where `more` documents would be too many.
+  void requireRoomFor(std::size_t more) const;
   void later(std::function<void()> action);
 
   QVariantList perform(const Target& target, const QVariantList& arguments);
