@@ -103,8 +103,9 @@ void storeEDD(const Findings& findings, const Confirmation& confirmation, const 
   const auto standing = patient.edd() ? foundation::localDay(*patient.edd(), calendar) : std::nullopt;
   if (standing == findings.edd) return;
   if (patient.edd() && !confirmation.takeEDD) {
-    warnings.push_back("the EDD stays" + (standing ? " " + isoText(*standing) : std::string()) +
-                       "; the report says " + isoText(*findings.edd));
+    std::string stays = "the EDD stays";
+    if (standing) stays.append(" ").append(isoText(*standing));
+    warnings.push_back(stays.append("; the report says ").append(isoText(*findings.edd)));
     return;
   }
   patient.setEDD(foundation::startOfDay(*findings.edd, calendar));
