@@ -1,4 +1,4 @@
-// What the pages cost as PDF, beside the same drawing by plain calls of the toolkit: one page, ten pages in one document, and
+// What the pages cost as PDF, beside the same drawing by plain calls of Qt: one page, ten pages in one document, and
 // the export of all pages of many documents. Ratios of medians, measured by turns in one run.
 //
 // usage: bench-pdf DOCUMENT [TIMES] [DOCUMENTS]
@@ -38,7 +38,7 @@ using namespace nascor;
 using tests::RecordingCanvas;
 using Kind = RecordingCanvas::Entry::Kind;
 
-/// A page as calls of the toolkit with everything made before.
+/// A page as calls of Qt with everything made before.
 struct PlainPage {
   struct Text {
     QTransform place;

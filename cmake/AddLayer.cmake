@@ -48,7 +48,9 @@ function(add_layer name)
   set_source_files_properties(${headers} ${alone} PROPERTIES SKIP_AUTOMOC ON)
 
   file(RELATIVE_PATH inSource "${CMAKE_SOURCE_DIR}" "${LAYER_DIRECTORY}")
-  target_compile_options(${name} ${scope} "-ffile-prefix-map=${root}/${name}/=${inSource}/")
+  file(RELATIVE_PATH inBuild "${CMAKE_BINARY_DIR}" "${root}/${name}")
+  target_compile_options(${name} ${scope}
+    "-ffile-prefix-map=${root}/${name}/=${inSource}/" "-ffile-prefix-map=${inBuild}/=${inSource}/")
   if(LAYER_SOURCES)
     target_link_libraries(${name} PUBLIC nascor_options ${LAYER_USES} PRIVATE ${LAYER_LINKS})
   else()

@@ -14,6 +14,11 @@ add_compile_options(-ffp-contract=off)
 # the last one wins with g++, so this stands before those that AddLayer.cmake gives each layer: what is set for the
 # folder comes first on the command line.
 add_compile_options("-ffile-prefix-map=${CMAKE_SOURCE_DIR}/=")
+# A cache of compilations names files from the build folder, to know them again in another checkout.
+file(RELATIVE_PATH way_up "${CMAKE_BINARY_DIR}" "${CMAKE_SOURCE_DIR}")
+if(way_up MATCHES "^(\\.\\./)*$")
+  add_compile_options("-ffile-prefix-map=${way_up}=")
+endif()
 
 if(NASCOR_SANITIZE)
   target_compile_options(nascor_options INTERFACE

@@ -71,7 +71,7 @@ class StoryFileStore final : public foundation::FileStore {
   bool leavesOthersUnlocked_ = false;
 };
 
-/// One locale of the driver, as the toolkit has it.
+/// One locale of the driver, as Qt has it.
 struct LocaleRow {
   std::string_view name;
   std::string_view shortDatePattern;
