@@ -15,6 +15,7 @@ std::vector<CentileLine> centileLines(const calc::Reference& reference, calc::Qu
   if (!calc::covers(reference, quantity)) return {};
   constexpr int kPointsOfAWeek = 4;  // the tables are straight between whole weeks
   std::vector<CentileLine> lines;
+  lines.reserve(kOverlayCentiles.size());
   for (const double percent : kOverlayCentiles) lines.push_back({.percent = percent});
   for (int i = reference.firstWeek * kPointsOfAWeek; i <= reference.lastWeek * kPointsOfAWeek; ++i) {
     const double week = static_cast<double>(i) / kPointsOfAWeek;

@@ -131,7 +131,7 @@ class Writer {
       } else {
         element(
             "th", group,
-            std::string(" class=\"g\" scope=\"colgroup\" colspan=\"").append(std::to_string(end - i)) + "\"");
+            std::string(R"( class="g" scope="colgroup" colspan=")").append(std::to_string(end - i)) + R"(")");
       }
       i = end;
     }
@@ -149,7 +149,7 @@ class Writer {
     if (hasGroups) groups(table);
     out_ += "<tr>\n";
     for (const Column& column : table.columns)
-      element("th", column.title, column.isNumber ? " class=\"n\" scope=\"col\"" : " scope=\"col\"");
+      element("th", column.title, column.isNumber ? R"( class="n" scope="col")" : R"( scope="col")");
     out_ += "</tr>\n</thead>\n<tbody>\n";
     const std::vector<std::size_t> decimals = decimalsOfColumns(table);
     for (const Row& row : table.rows) {
@@ -196,7 +196,7 @@ class Writer {
 
   void label(const Point& at, std::string_view anchor, std::string_view text) {
     out_.append("<text x=\"").append(coordinate(at.x)).append("\" y=\"").append(coordinate(at.y));
-    out_.append("\" font-size=\"7\" fill=\"#444\" text-anchor=\"").append(anchor).append("\">");
+    out_.append(R"(" font-size="7" fill="#444" text-anchor=")").append(anchor).append(R"(">)");
     add(text);
     out_ += "</text>\n";
   }
@@ -206,7 +206,7 @@ class Writer {
     const auto place = [&](double x, double y) { return placeOf(chart, kPlot, {x, y}); };
     out_ += "<figure>\n";
     element("figcaption", chart.title);
-    out_ += "<svg viewBox=\"0 0 150 106\" role=\"img\" aria-label=\"";
+    out_ += R"(<svg viewBox="0 0 150 106" role="img" aria-label=")";
     add(chart.title + ": " + chart.description);
     out_ += "\">\n";
     for (const Mark& mark : chart.valueMarks) {
@@ -221,7 +221,7 @@ class Writer {
     }
     line(place(chart.firstWeek, 0.0), place(chart.lastWeek, 0.0), "#555");
     for (const Curve& curve : chart.curves) {
-      out_ += "<polyline fill=\"none\" stroke-width=\"";
+      out_ += R"(<polyline fill="none" stroke-width=")";
       out_ += curve.centile == kMedian ? ".9\" stroke=\"#555" : ".6\" stroke=\"#999";
       out_ += "\" points=\"";
       for (const Point& point : curve.points) {
@@ -232,7 +232,7 @@ class Writer {
     }
     for (const Point& value : chart.values) {
       const Point at = place(value.x, value.y);
-      out_.append("<circle r=\"2\" fill=\"#1f4e79\" cx=\"").append(coordinate(at.x));
+      out_.append(R"(<circle r="2" fill="#1f4e79" cx=")").append(coordinate(at.x));
       out_.append("\" cy=\"").append(coordinate(at.y)).append("\"/>\n");
     }
     out_ += "</svg>\n</figure>\n";

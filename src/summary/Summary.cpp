@@ -89,6 +89,7 @@ class Maker {
 
   FetusSummary fetus(std::size_t place, const std::vector<std::size_t>& examinations) const {
     std::vector<Visit> visits;
+    visits.reserve(examinations.size());
     for (const std::size_t each : examinations) {
       visits.push_back({.examination = patient_.ncRecordsArray()[each].get(),
                         .comparison = compare::comparisonOf(patient_, each, place)});

@@ -15,6 +15,7 @@
 #include <vector>
 
 #include "app/NCDocument.h"
+#include "app/PageTexts.h"
 #include "calc/Centile.h"
 #include "calc/LookUp.h"
 #include "calc/PlaceText.h"
@@ -134,7 +135,7 @@ class EveryView : public testing::Test {
   }
 
   void compareAll() {
-    const auto tables = document.comparison();
+    const auto tables = app::comparison(document);
     const double age = document.menstrualAgeForRecord(static_cast<std::uint64_t>(document.currentExam()));
     sameAsRow("ga_weeks", age);
     for (const compare::Row& row : tableNamed(tables, "lengths").rows) compareLength(row, age);

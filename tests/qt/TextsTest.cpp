@@ -16,6 +16,7 @@
 #include "WindowTest.h"
 #include "app/NCDocument.h"
 #include "calc/Publications.h"
+#include "calc/References.h"
 #include "program/Application.h"
 
 namespace nascor::tests {
@@ -104,7 +105,8 @@ class EveryText : public WindowTest {
                                calc::crlFormulaPublications()}) {
       if (std::ranges::find(family, label, &calc::Publication::label) != family.end()) return true;
     }
-    return false;
+    const auto references = calc::references();
+    return std::ranges::find(references, label, &calc::Reference::label) != references.end();
   }
   void walk(const QWidget& window) {
     expectMarked(window.windowTitle().section(QChar(0x2013), 0, 0), window, "title");

@@ -280,6 +280,7 @@ TEST_P(EachPage, saysWhatItsPicturesShowAndHeadsItsTables) {
   }
   EXPECT_GT(html.tables, 10);
   EXPECT_EQ(html.tableHeads, html.tables);
+  EXPECT_FALSE(html.text.contains(QStringLiteral("| ---"))) << "a table that is none";
 }
 
 TEST(TheUserGuide, hasAtMostTwentyPages) { EXPECT_LE(pagesOf(built(kGuide, ".pdf")), 20); }

@@ -32,7 +32,7 @@ class ApplicationService final : public QDBusVirtualObject {
   /// How many calls may wait at a time, how many bytes of text these may hold together, and how many may be in the midst of
   /// a question to the user. What comes beyond is refused, and nothing is done.
   static constexpr std::size_t kMostWaiting = 4'096;
-  static constexpr std::size_t kMostWaitingBytes = 64 * 1024 * 1024;
+  static constexpr std::size_t kMostWaitingBytes = std::size_t{64} * 1024 * 1024;
   static constexpr std::size_t kMostAsking = 8;
 
   /// Both outlive the service.

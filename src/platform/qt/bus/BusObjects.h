@@ -25,7 +25,7 @@ class BusObjects {
   /// Open documents beyond which a caller opens none; the user does.
   static constexpr std::size_t kMostDocuments = 100;
   /// Of a text that is stored, in bytes.
-  static constexpr std::size_t kLongestText = 1024 * 1024;
+  static constexpr std::size_t kLongestText = std::size_t{1024} * 1024;
 
   /// Both outlive this object.
   BusObjects(const foundation::Services& services, framework::DocumentController& documents,
