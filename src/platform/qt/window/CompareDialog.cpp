@@ -77,9 +77,10 @@ void tellRowsApart(QTableView& view) {
   const QColor base = palette.color(QPalette::Base);
   const QColor text = palette.color(QPalette::Text);
   const auto mixed = [](int one, int other) { return (15 * one + other) / 16; };
-  palette.setColor(QPalette::AlternateBase,
-                   QColor(mixed(base.red(), text.red()), mixed(base.green(), text.green()),
-                          mixed(base.blue(), text.blue())));
+  const QColor other(mixed(base.red(), text.red()), mixed(base.green(), text.green()),
+                     mixed(base.blue(), text.blue()));
+  if (other == palette.color(QPalette::AlternateBase)) return;  // setting it lays the table out anew
+  palette.setColor(QPalette::AlternateBase, other);
   view.setPalette(palette);
 }
 
@@ -174,6 +175,8 @@ CompareDialog::CompareDialog(CompareEnvironment environment, QWidget* parent)
   buttons->button(QDialogButtonBox::Close)->setDefault(true);
   connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
 
+  connect(tabs_, &QTabWidget::currentChanged, this, [this] { makeRoomOnShow(); });
+
   auto* layout = new QVBoxLayout(this);
   layout->addWidget(heading_);
   layout->addWidget(tabs_);
@@ -226,21 +229,36 @@ void CompareDialog::addPage(const Table& table) {
 }
 
 void CompareDialog::refresh() {
-  if (!isVisible()) return;
+  if (!isVisible() || isRefreshDue_) return;
+  isRefreshDue_ = true;
+  // One action of the user may tell of several changes.
+  QMetaObject::invokeMethod(
+      this, [this] { showComparison(); }, Qt::QueuedConnection);
+}
+
+void CompareDialog::showComparison() {
+  isRefreshDue_ = false;
   ShownComparison shown = environment_.comparison();
   heading_->setText(shown.heading);
   tabs_->setVisible(!shown.tables.empty());
   for (std::size_t i = 0; i < shown.tables.size(); ++i) {
-    if (i == pages_.size()) addPage(shown.tables[i]);
+    const bool isNew = i == pages_.size();
+    if (isNew) addPage(shown.tables[i]);
     pages_[i].model->setTable(std::move(shown.tables[i]));
+    if (isNew) makeRoom(*pages_[i].view);
     tellRowsApart(*pages_[i].view);
-    makeRoom(*pages_[i].view);
   }
+  makeRoomOnShow();
+}
+
+void CompareDialog::makeRoomOnShow() {
+  const auto shown = static_cast<std::size_t>(tabs_->currentIndex());
+  if (shown < pages_.size()) makeRoom(*pages_[shown].view);
 }
 
 void CompareDialog::showEvent(QShowEvent* event) {
   QDialog::showEvent(event);
-  refresh();
+  showComparison();
 }
 
 Table CompareDialog::tableOnShow() const {

@@ -38,7 +38,7 @@ class CompareDialog final : public QDialog {
  public:
   CompareDialog(CompareEnvironment environment, QWidget* parent);
 
-  /// Shows what is on show now. Costs nothing while the dialog is hidden.
+  /// Shows what is on show when the action of the user has ended. Costs nothing while the dialog is hidden.
   void refresh();
 
  protected:
@@ -52,6 +52,9 @@ class CompareDialog final : public QDialog {
     QTableView* view;
   };
   void addPage(const compare::Table& table);
+  void showComparison();
+  /// Widens the columns of the table on show for what is in them.
+  void makeRoomOnShow();
   /// The table on show as it is sorted now; its selected rows alone where some are.
   compare::Table tableOnShow() const;
   /// What stands behind the figure that the keys or the mouse have reached; nothing for what was measured.
@@ -64,6 +67,7 @@ class CompareDialog final : public QDialog {
   QLabel* heading_;
   QTabWidget* tabs_;
   std::vector<Page> pages_;
+  bool isRefreshDue_ = false;
 };
 
 /// The comparison as HTML, for paper.
