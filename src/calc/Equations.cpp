@@ -74,7 +74,6 @@ std::string inCapitals(Quantity quantity) {
 }
 
 std::vector<Equation> equationsOfLength(const OfLengths& all, Quantity quantity) {
-  if (quantity == Quantity::efw) return {};
   const auto& [mean, sd] = all.at(static_cast<std::size_t>(quantity));
   return {{.gives = "mean " + inCapitals(quantity), .text = std::string(mean)},
           {.gives = "SD " + inCapitals(quantity), .text = std::string(sd)}};

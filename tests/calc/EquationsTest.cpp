@@ -215,6 +215,8 @@ TEST(ThePrintedRows, areThoseOfTheTable) {
   EXPECT_EQ(rows.back().sd, 3.43);
   EXPECT_THAT(printedRowsOf({.kind = Method::Kind::reference, .place = 0, .quantity = Quantity::bpd}),
               testing::IsEmpty());
+  EXPECT_THAT(printedRowsOf({.kind = Method::Kind::reference, .place = kCFEF}), testing::IsEmpty())
+      << "of no length";
 }
 
 }  // namespace
