@@ -12,6 +12,7 @@
 #include "WindowTest.h"
 #include "bus/ApplicationService.h"
 #include "bus/BusObjects.h"
+#include "support/Spent.h"
 
 namespace nascor::tests {
 namespace {
@@ -87,10 +88,9 @@ TEST_F(TheWindowUnderAFlood, answersItsUserWithinATenthOfASecond) {
     last = processorTime();
   });
   user.start(0);
-  EXPECT_TRUE(QTest::qWaitFor([&] { return isSent.load(); }, 120'000));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return isSent.load() && done > 1'000; }, 120'000)) << done;
   flood.join();
-  EXPECT_GT(done, 1'000);
-  EXPECT_LT(longest, 100.0);
+  EXPECT_LT(longest, kIsSanitized ? 1'000.0 : 100.0);
   std::printf("%d of %d calls done, the others refused; the window waited %.0f ms at most\n", done, kCalls,
               longest);
 }
