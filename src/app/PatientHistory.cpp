@@ -1,8 +1,11 @@
 #include "app/PatientHistory.h"
 
 #include <algorithm>
+#include <array>
 #include <bit>
+#include <string_view>
 #include <utility>
+#include <variant>
 
 #include "calc/Biometry.h"
 #include "calc/Dating.h"
@@ -15,6 +18,12 @@ using model::NCRecord;
 
 bool isSame(double one, double other) {
   return std::bit_cast<std::uint64_t>(one) == std::bit_cast<std::uint64_t>(other);
+}
+
+bool isSame(std::int64_t one, std::int64_t other) { return one == other; }
+
+bool isSame(const std::optional<std::string>& one, const std::optional<std::string>& other) {
+  return one == other;
 }
 
 bool isSame(const std::optional<foundation::Date>& one, const std::optional<foundation::Date>& other) {
@@ -66,14 +75,38 @@ PatientChange changeOfLengths(const PatientState& before, const PatientState& af
   return PatientChange::fl;
 }
 
+/// What a change of a value is called. Where a step changes several, the first of them here names it.
+struct NamedChange {
+  std::string_view value;  ///< in model::kPatientValues
+  PatientChange change;
+};
+constexpr std::array kNamedChanges{NamedChange{"edd", PatientChange::edd},
+                                   NamedChange{"standard", PatientChange::growthStandard},
+                                   NamedChange{"fetalWeightStandard", PatientChange::weightFormula},
+                                   NamedChange{"crlStandard", PatientChange::crlFormula},
+                                   NamedChange{"maternalIDString", PatientChange::identifier},
+                                   NamedChange{"gravida", PatientChange::gravidity}};
+
+/// `changeBetween` looks at these two itself: at the number before all else, at the plan behind all else.
+constexpr std::array<std::string_view, 2> kOtherValues{"numberOfFetuses", "extrapolatedGestation"};
+
+static_assert(std::ranges::all_of(model::kPatientValues, [](const model::PatientValue& value) {
+  return std::ranges::find(kOtherValues, value.name) != kOtherValues.end() ||
+         std::ranges::find(kNamedChanges, value.name, &NamedChange::value) != kNamedChanges.end();
+}));
+
+bool isSame(const model::PatientValue& value, const model::PatientValues& before,
+            const model::PatientValues& after) {
+  return std::visit([&](auto member) { return isSame(before.*member, after.*member); }, value.member);
+}
+
 std::optional<PatientChange> changeOfPatient(const model::PatientRecord& before,
                                              const model::PatientRecord& after) {
-  if (!isSame(before.edd(), after.edd())) return PatientChange::edd;
-  if (before.standard() != after.standard()) return PatientChange::growthStandard;
-  if (before.fetalWeightStandard() != after.fetalWeightStandard()) return PatientChange::weightFormula;
-  if (before.crlStandard() != after.crlStandard()) return PatientChange::crlFormula;
-  if (before.maternalIDString() != after.maternalIDString()) return PatientChange::identifier;
-  if (before.gravida() != after.gravida()) return PatientChange::gravidity;
+  for (const NamedChange& named : kNamedChanges) {
+    const auto* const value =
+        std::ranges::find(model::kPatientValues, named.value, &model::PatientValue::name);
+    if (!isSame(*value, before.values(), after.values())) return named.change;
+  }
   return std::nullopt;
 }
 

@@ -54,6 +54,8 @@ constexpr std::array kLabels{
     Label{"extrapolatedGestation", translatable("Recovery", "Planned delivery")},
     Label{"crlStandard", translatable("Recovery", "Formula for the crown-rump length")},
     Label{"gravida", translatable("Recovery", "Gravidity")}};
+static_assert(std::ranges::equal(model::kPatientValues, kLabels, {}, &model::PatientValue::name,
+                                 &Label::key));
 
 /// The length and 64 bits (FNV-1a), which tell two states of a file apart.
 std::string digestOf(std::span<const std::byte> bytes) {

@@ -26,6 +26,7 @@ class MeasurementsRecord {
 
   /// The four together.
   const calc::Biometry& biometry() const { return measured_; }
+  calc::Biometry& biometry() { return measured_; }
 
   /// The weight in grams by the formula of that identifier (calc/FetalWeight.h); 0.0 when a length that it needs is
   /// missing, and for an unknown identifier.

@@ -2,8 +2,10 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
 #include <string_view>
 #include <utility>
+#include <variant>
 
 #include "calc/Biometry.h"
 
@@ -15,6 +17,12 @@ bool isSame(double one, double other) { return one == other || (std::isnan(one) 
 bool isSame(const std::optional<foundation::Date>& one, const std::optional<foundation::Date>& other) {
   if (!one || !other) return !one && !other;
   return isSame(one->secondsSince2001, other->secondsSince2001);
+}
+
+bool isSame(std::int64_t one, std::int64_t other) { return one == other; }
+
+bool isSame(const std::optional<std::string>& one, const std::optional<std::string>& other) {
+  return one == other;
 }
 
 /// The differences that were found, up to as many as are wanted.
@@ -73,17 +81,11 @@ bool areAlike(const NCRecord& before, const NCRecord& after) {
 std::vector<PatientDifference> patientDifferences(const PatientRecord& before, const PatientRecord& after,
                                                   std::size_t most) {
   Found found(most);
-  const auto compare = [&](std::string_view key, bool isAlike) {
-    if (!isAlike) found.add({.key = std::string(key)});
-  };
-  compare("maternalIDString", before.maternalIDString() == after.maternalIDString());
-  compare("edd", isSame(before.edd(), after.edd()));
-  compare("standard", before.standard() == after.standard());
-  compare("fetalWeightStandard", before.fetalWeightStandard() == after.fetalWeightStandard());
-  compare("numberOfFetuses", before.numberOfFetuses() == after.numberOfFetuses());
-  compare("extrapolatedGestation", isSame(before.extrapolatedGestation(), after.extrapolatedGestation()));
-  compare("crlStandard", before.crlStandard() == after.crlStandard());
-  compare("gravida", before.gravida() == after.gravida());
+  for (const PatientValue& value : kPatientValues) {
+    const bool isAlike = std::visit(
+        [&](auto member) { return isSame(before.values().*member, after.values().*member); }, value.member);
+    if (!isAlike) found.add({.key = std::string(value.name)});
+  }
 
   const auto& old = before.ncRecordsArray();
   const auto& fresh = after.ncRecordsArray();

@@ -1,6 +1,7 @@
 #include "model/PatientJson.h"
 
 #include <string>
+#include <variant>
 
 #include "foundation/ConvertInteger.h"
 #include "foundation/IsoDate.h"
@@ -16,14 +17,9 @@ class Writer {
 
   void patient(const PatientRecord& patient) {
     json_.beginObject();
-    text("maternalIDString", patient.maternalIDString());
-    date("edd", patient.edd());
-    integer("standard", patient.standard());
-    integer("fetalWeightStandard", patient.fetalWeightStandard());
-    integer("numberOfFetuses", patient.numberOfFetuses());
-    number("extrapolatedGestation", patient.extrapolatedGestation());
-    integer("crlStandard", patient.crlStandard());
-    integer("gravida", patient.gravida());
+    for (const PatientValue& each : kPatientValues) {
+      std::visit([&](auto member) { put(each.name, patient.values().*member); }, each.member);
+    }
     json_.key("examinations").beginArray();
     for (const auto& each : patient.ncRecordsArray()) examination(*each);
     json_.endArray().endObject();
@@ -32,25 +28,25 @@ class Writer {
  private:
   void examination(const NCRecord& examination) {
     json_.beginObject();
-    text("note", examination.note());
-    date("examDate", examination.examDate());
+    put("note", examination.note());
+    put("examDate", examination.examDate());
     json_.key("measurements").beginArray();
     for (const MeasurementsRecord& fetus : examination.measurements()) {
       json_.beginObject();
       for (const calc::Measurement measurement : calc::kMeasurements) {
-        number(calc::nameOf(measurement), fetus.biometry().*calc::memberFor(measurement));
+        put(calc::nameOf(measurement), fetus.biometry().*calc::memberFor(measurement));
       }
       json_.endObject();
     }
     json_.endArray().endObject();
   }
 
-  void text(std::string_view key, const std::optional<std::string>& value) {
+  void put(std::string_view key, const std::optional<std::string>& value) {
     json_.key(key);
     value ? json_.text(*value) : json_.null();
   }
 
-  void date(std::string_view key, const std::optional<foundation::Date>& value) {
+  void put(std::string_view key, const std::optional<foundation::Date>& value) {
     json_.key(key);
     value ? json_.number(inFile(value->secondsSince2001)) : json_.null();
     const std::string iso = value ? isoDateTimeText(*value, calendar_) : std::string();
@@ -58,11 +54,11 @@ class Writer {
     iso.empty() ? json_.null() : json_.text(iso);
   }
 
-  void integer(std::string_view key, std::int64_t value) {
+  void put(std::string_view key, std::int64_t value) {
     json_.key(key).integer(narrowed_ ? foundation::low32Bits(value) : value);
   }
 
-  void number(std::string_view key, double value) {
+  void put(std::string_view key, double value) {
     json_.key(key).number(narrowed_ ? inFile(foundation::narrowedToFloat(value)) : value);
   }
 

@@ -1,18 +1,19 @@
 #include "model/PatientJsonReader.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <cstdint>
 #include <limits>
 #include <optional>
 #include <set>
-#include <span>
+#include <string_view>
 #include <utility>
 #include <variant>
+#include <vector>
 
 #include <nlohmann/json.hpp>
 
+#include "calc/Biometry.h"
 #include "foundation/ConvertInteger.h"
 #include "foundation/IsoDate.h"
 #include "foundation/JsonText.h"
@@ -28,66 +29,73 @@ using foundation::Date;
 /// What the reader stands in: the next value belongs to it.
 enum class Place { top, patient, examinations, examination, measurements, fetus };
 
+/// One function for each type of a variant.
+template <typename... Functions>
+struct Overloaded : Functions... {
+  using Functions::operator()...;
+};
+
 enum class Kind { text, date, dateText, integer, number, list };
 
-enum class Key {
-  maternalIDString,
-  edd,
-  eddISO,
-  standard,
-  fetalWeightStandard,
-  numberOfFetuses,
-  extrapolatedGestation,
-  crlStandard,
-  gravida,
-  examinations,
-  note,
-  examDate,
-  examDateISO,
-  measurements,
-  bpd,
-  hc,
-  ac,
-  fl
-};
-
+/// What may stand in an object.
 struct Field {
-  std::string_view name;
-  Key key;
+  std::string name;
   Kind kind;
+  std::string date{};                   ///< of a date's text: the field of the date that it stands beside
+  const PatientValue* value = nullptr;  ///< of a patient; nothing for a list
+  double calc::Biometry::*length = nullptr;  ///< of a fetus
 };
+using Fields = std::vector<Field>;
 
-constexpr std::array kPatientFields{
-    Field{"maternalIDString", Key::maternalIDString, Kind::text},
-    Field{"edd", Key::edd, Kind::date},
-    Field{"eddISO", Key::eddISO, Kind::dateText},
-    Field{"standard", Key::standard, Kind::integer},
-    Field{"fetalWeightStandard", Key::fetalWeightStandard, Kind::integer},
-    Field{"numberOfFetuses", Key::numberOfFetuses, Kind::integer},
-    Field{"extrapolatedGestation", Key::extrapolatedGestation, Kind::number},
-    Field{"crlStandard", Key::crlStandard, Kind::integer},
-    Field{"gravida", Key::gravida, Kind::integer},
-    Field{"examinations", Key::examinations, Kind::list},
-};
-constexpr std::array kExaminationFields{
-    Field{"note", Key::note, Kind::text},
-    Field{"examDate", Key::examDate, Kind::date},
-    Field{"examDateISO", Key::examDateISO, Kind::dateText},
-    Field{"measurements", Key::measurements, Kind::list},
-};
-constexpr std::array kFetusFields{
-    Field{"bpd", Key::bpd, Kind::number},
-    Field{"hc", Key::hc, Kind::number},
-    Field{"ac", Key::ac, Kind::number},
-    Field{"fl", Key::fl, Kind::number},
-};
+/// A date, and its text behind it, which counts where the date itself is missing.
+void appendDate(Fields& fields, std::string_view name, const PatientValue* value) {
+  const std::string date(name);
+  fields.push_back({.name = date, .kind = Kind::date, .value = value});
+  fields.push_back({.name = date + "ISO", .kind = Kind::dateText, .date = date, .value = value});
+}
+
+Fields fieldsOfPatient() {
+  Fields fields;
+  for (const PatientValue& value : kPatientValues) {
+    const auto append = [&](Kind kind) {
+      fields.push_back({.name = std::string(value.name), .kind = kind, .value = &value});
+    };
+    std::visit(Overloaded{[&](PatientValue::Text) { append(Kind::text); },
+                          [&](PatientValue::Moment) { appendDate(fields, value.name, &value); },
+                          [&](PatientValue::Integer) { append(Kind::integer); },
+                          [&](PatientValue::Number) { append(Kind::number); }},
+               value.member);
+  }
+  fields.push_back({.name = "examinations", .kind = Kind::list});
+  return fields;
+}
+
+Fields fieldsOfExamination() {
+  Fields fields{{.name = "note", .kind = Kind::text}};
+  appendDate(fields, "examDate", nullptr);
+  fields.push_back({.name = "measurements", .kind = Kind::list});
+  return fields;
+}
+
+Fields fieldsOfFetus() {
+  Fields fields;
+  for (const calc::Measurement measurement : calc::kMeasurements) {
+    fields.push_back({.name = std::string(calc::nameOf(measurement)),
+                      .kind = Kind::number,
+                      .length = calc::memberFor(measurement)});
+  }
+  return fields;
+}
 
 /// Of an object.
-std::span<const Field> fieldsOf(Place place) {
+const Fields& fieldsOf(Place place) {
+  static const Fields patient = fieldsOfPatient();
+  static const Fields examination = fieldsOfExamination();
+  static const Fields fetus = fieldsOfFetus();
   switch (place) {
-    case Place::patient: return kPatientFields;
-    case Place::examination: return kExaminationFields;
-    default: return kFetusFields;
+    case Place::patient: return patient;
+    case Place::examination: return examination;
+    default: return fetus;
   }
 }
 
@@ -190,8 +198,8 @@ class Receiver final : public nlohmann::json_sax<nlohmann::json> {
   }
 
   bool key(string_t& name) override {
-    const auto fields = fieldsOf(place_);
-    const auto found = std::ranges::find(fields, std::string_view(name), &Field::name);
+    const Fields& fields = fieldsOf(place_);
+    const auto found = std::ranges::find(fields, name, &Field::name);
     field_ = nullptr;
     if (found == fields.end()) {
       std::string names;
@@ -199,7 +207,7 @@ class Receiver final : public nlohmann::json_sax<nlohmann::json> {
       return refuse("one of the keys " + names, inQuotes(name));
     }
     field_ = &*found;
-    if (!level().seen.insert(field_->key).second)
+    if (!level().seen.insert(field_->name).second)
       return refuseAt(pointer(), "each key once", "this one stands twice");
     return true;
   }
@@ -208,11 +216,11 @@ class Receiver final : public nlohmann::json_sax<nlohmann::json> {
     field_ = nullptr;
     switch (place_) {
       case Place::patient:
-        if (!takeDateText(Key::edd, "/eddISO")) return false;
+        if (!takeDateTexts()) return false;
         place_ = Place::top;
         break;
       case Place::examination:
-        if (!takeDateText(Key::examDate, "/examDateISO")) return false;
+        if (!takeDateTexts()) return false;
         place_ = Place::examinations;
         break;
       default: place_ = Place::measurements;
@@ -222,7 +230,7 @@ class Receiver final : public nlohmann::json_sax<nlohmann::json> {
 
   bool start_array(std::size_t) override {
     if (!field_ || field_->kind != Kind::list) return unexpected("a list");
-    place_ = field_->key == Key::examinations ? Place::examinations : Place::measurements;
+    place_ = place_ == Place::patient ? Place::examinations : Place::measurements;
     field_ = nullptr;
     return true;
   }
@@ -250,8 +258,8 @@ class Receiver final : public nlohmann::json_sax<nlohmann::json> {
  private:
   /// What was met within one object.
   struct Level {
-    std::set<Key> seen;
-    std::optional<std::string> dateText;
+    std::set<std::string_view> seen;
+    std::vector<std::pair<const Field*, std::string>> dateTexts;
   };
 
   PatientRecord& patient() const { return *result_.patient; }
@@ -307,7 +315,8 @@ class Receiver final : public nlohmann::json_sax<nlohmann::json> {
       case Kind::text: return storeText(value);
       case Kind::date: return storeDate(value);
       case Kind::dateText: {
-        if (const auto* text = std::get_if<std::string>(&value)) level().dateText = *text;
+        if (const auto* text = std::get_if<std::string>(&value))
+          level().dateTexts.emplace_back(field_, *text);
         return std::holds_alternative<std::string>(value) || isNull(value);
       }
       case Kind::integer: return storeInteger(value);
@@ -323,10 +332,10 @@ class Receiver final : public nlohmann::json_sax<nlohmann::json> {
     } else if (!isNull(value)) {
       return false;
     }
-    if (field_->key == Key::note) {
-      examination().setNote(std::move(text));
+    if (field_->value) {
+      setValue(*field_->value, std::move(text));
     } else {
-      patient().setMaternalIDString(std::move(text));
+      examination().setNote(std::move(text));
     }
     return true;
   }
@@ -341,28 +350,34 @@ class Receiver final : public nlohmann::json_sax<nlohmann::json> {
     } else if (!isNull(value)) {
       return false;
     }
-    setDate(field_->key, date);
+    setDate(*field_, date);
     return true;
   }
 
-  void setDate(Key key, std::optional<Date> date) {
-    if (key == Key::examDate) {
-      examination().setExamDate(date);
+  void setDate(const Field& field, std::optional<Date> date) {
+    if (field.value) {
+      setValue(*field.value, date);
     } else {
-      patient().setEDD(date);
+      examination().setExamDate(date);
     }
   }
 
+  template <typename Type>
+  void setValue(const PatientValue& value, Type contents) {
+    patient().values().*std::get<Type PatientValues::*>(value.member) = std::move(contents);
+  }
+
   /// The text beside a date counts where the date itself is missing.
-  bool takeDateText(Key dateKey, std::string_view textKey) {
-    const std::optional<std::string>& text = level().dateText;
-    if (!text || level().seen.contains(dateKey)) return true;
-    const auto date = foundation::dateFromIsoText(*text, calendar_);
-    if (!date) {
-      return refuseAt(pointer().append(textKey), expectedBy(Kind::dateText),
-                      describe(*text) + " stands here");
+  bool takeDateTexts() {
+    for (const auto& [field, text] : level().dateTexts) {
+      if (level().seen.contains(field->date)) continue;
+      const auto date = foundation::dateFromIsoText(text, calendar_);
+      if (!date) {
+        return refuseAt(pointer().append("/").append(field->name), expectedBy(Kind::dateText),
+                        describe(text) + " stands here");
+      }
+      setDate(*field, date);
     }
-    setDate(dateKey, date);
     return true;
   }
 
@@ -378,13 +393,7 @@ class Receiver final : public nlohmann::json_sax<nlohmann::json> {
       warn(std::to_string(integer) + " is longer than 32 bits; the file holds the low 32, which are " +
            std::to_string(low));
     }
-    switch (field_->key) {
-      case Key::standard: patient().setStandard(integer); break;
-      case Key::fetalWeightStandard: patient().setFetalWeightStandard(integer); break;
-      case Key::numberOfFetuses: patient().setNumberOfFetuses(integer); break;
-      case Key::crlStandard: patient().setCRLStandard(integer); break;
-      default: patient().setGravida(integer);
-    }
+    setValue(*field_->value, integer);
     return true;
   }
 
@@ -395,12 +404,10 @@ class Receiver final : public nlohmann::json_sax<nlohmann::json> {
       warn(foundation::shortestText(*number) + " is beyond single precision; the file holds " +
            foundation::shortestText(foundation::narrowedToFloat(*number)));
     }
-    switch (field_->key) {
-      case Key::bpd: fetus().setBPD(*number); break;
-      case Key::hc: fetus().setHC(*number); break;
-      case Key::ac: fetus().setAC(*number); break;
-      case Key::fl: fetus().setFL(*number); break;
-      default: patient().setExtrapolatedGestation(*number);
+    if (field_->value) {
+      setValue(*field_->value, *number);
+    } else {
+      fetus().biometry().*field_->length = *number;
     }
     return true;
   }

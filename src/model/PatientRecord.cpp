@@ -51,28 +51,21 @@ void PatientRecord::deleteFetus(std::int64_t fetus) {
 
 PatientRecord PatientRecord::withoutExaminations() const {
   PatientRecord record;
-  record.maternalIDString_ = maternalIDString_;
-  record.edd_ = edd_;
-  record.standard_ = standard_;
-  record.fetalWeightStandard_ = fetalWeightStandard_;
-  record.numberOfFetuses_ = numberOfFetuses_;
-  record.extrapolatedGestation_ = extrapolatedGestation_;
-  record.crlStandard_ = crlStandard_;
-  record.gravida_ = gravida_;
+  record.values_ = values_;
   return record;
 }
 
 void PatientRecord::encodeWithCoder(Archiver& coder) const {
-  coder.encodeString(maternalIDString_);
+  coder.encodeString(values_.maternalIDString);
   coder.encodeString("Deprecated");  // the place of the gravidity in files before version 7
-  coder.encodeDate(edd_);
+  coder.encodeDate(values_.edd);
   coder.encodeExaminations(ncRecordsArray_);
-  coder.encodeInteger(standard_);
-  coder.encodeInteger(fetalWeightStandard_);
-  coder.encodeInteger(numberOfFetuses_);
-  coder.encodeFloat(extrapolatedGestation_);
-  coder.encodeInteger(crlStandard_);
-  coder.encodeInteger(gravida_);
+  coder.encodeInteger(values_.standard);
+  coder.encodeInteger(values_.fetalWeightStandard);
+  coder.encodeInteger(values_.numberOfFetuses);
+  coder.encodeFloat(values_.extrapolatedGestation);
+  coder.encodeInteger(values_.crlStandard);
+  coder.encodeInteger(values_.gravida);
 }
 
 PatientRecord PatientRecord::initWithCoder(Unarchiver& coder) {

@@ -7,9 +7,9 @@
 #include <vector>
 
 #include "foundation/Clock.h"
-#include "foundation/Date.h"
 #include "foundation/UserDefaults.h"
 #include "model/NCRecord.h"
+#include "model/PatientValues.h"
 
 namespace nascor::model {
 
@@ -31,14 +31,14 @@ class PatientRecord {
   PatientRecord(const foundation::Clock& clock, const foundation::UserDefaults& defaults);
 
   /// The mother's identifier. Missing only in a file that says so.
-  const std::optional<std::string>& maternalIDString() const { return maternalIDString_; }
+  const std::optional<std::string>& maternalIDString() const { return values_.maternalIDString; }
   void setMaternalIDString(std::optional<std::string> identifier) {
-    maternalIDString_ = std::move(identifier);
+    values_.maternalIDString = std::move(identifier);
   }
 
   /// The estimated date of delivery; nothing when it is not known.
-  const std::optional<foundation::Date>& edd() const { return edd_; }
-  void setEDD(std::optional<foundation::Date> edd) { edd_ = edd; }
+  const std::optional<foundation::Date>& edd() const { return values_.edd; }
+  void setEDD(std::optional<foundation::Date> edd) { values_.edd = edd; }
 
   /// The live array: callers insert, remove, sort and index it.
   Examinations& ncRecordsArray() { return ncRecordsArray_; }
@@ -46,25 +46,29 @@ class PatientRecord {
 
   /// Identifiers of the growth standard (calc/Standards.h), the weight formula (calc/FetalWeight.h) and the formula for
   /// the crown-rump length (calc/Dating.h). Unknown ones are kept unchanged.
-  std::int64_t standard() const { return standard_; }
-  void setStandard(std::int64_t standard) { standard_ = standard; }
-  std::int64_t fetalWeightStandard() const { return fetalWeightStandard_; }
-  void setFetalWeightStandard(std::int64_t standard) { fetalWeightStandard_ = standard; }
-  std::int64_t crlStandard() const { return crlStandard_; }
-  void setCRLStandard(std::int64_t standard) { crlStandard_ = standard; }
+  std::int64_t standard() const { return values_.standard; }
+  void setStandard(std::int64_t standard) { values_.standard = standard; }
+  std::int64_t fetalWeightStandard() const { return values_.fetalWeightStandard; }
+  void setFetalWeightStandard(std::int64_t standard) { values_.fetalWeightStandard = standard; }
+  std::int64_t crlStandard() const { return values_.crlStandard; }
+  void setCRLStandard(std::int64_t standard) { values_.crlStandard = standard; }
 
-  std::int64_t numberOfFetuses() const { return numberOfFetuses_; }
-  void setNumberOfFetuses(std::int64_t number) { numberOfFetuses_ = number; }
+  std::int64_t numberOfFetuses() const { return values_.numberOfFetuses; }
+  void setNumberOfFetuses(std::int64_t number) { values_.numberOfFetuses = number; }
 
   /// The gestation, in weeks, of the planned delivery, to which measurements are projected.
-  double extrapolatedGestation() const { return extrapolatedGestation_; }
-  void setExtrapolatedGestation(double weeks) { extrapolatedGestation_ = weeks; }
+  double extrapolatedGestation() const { return values_.extrapolatedGestation; }
+  void setExtrapolatedGestation(double weeks) { values_.extrapolatedGestation = weeks; }
 
   /// The number of pregnancies of the mother, this one included.
-  std::int64_t gravida() const { return gravida_; }
-  void setGravida(std::int64_t gravida) { gravida_ = gravida; }
+  std::int64_t gravida() const { return values_.gravida; }
+  void setGravida(std::int64_t gravida) { values_.gravida = gravida; }
 
-  /// A copy of everything else.
+  /// All of the values above.
+  const PatientValues& values() const { return values_; }
+  PatientValues& values() { return values_; }
+
+  /// A copy of the values alone.
   PatientRecord withoutExaminations() const;
   /// Appends an examination dated now with `fetuses` records (one when fewer than two). Does not sort.
   void addNCRecordWithNumberOfFetuses(std::int64_t fetuses, const foundation::Clock& clock);
@@ -81,15 +85,8 @@ class PatientRecord {
   static PatientRecord initWithCoder(Unarchiver& coder);
 
  private:
-  std::optional<std::string> maternalIDString_;
-  std::optional<foundation::Date> edd_;
+  PatientValues values_;
   Examinations ncRecordsArray_;
-  std::int64_t standard_ = 0;
-  std::int64_t fetalWeightStandard_ = 0;
-  std::int64_t numberOfFetuses_ = 0;
-  double extrapolatedGestation_ = 0.0;
-  std::int64_t crlStandard_ = 0;
-  std::int64_t gravida_ = 0;
 };
 
 /// The gravidity that files of class versions before 7 keep as text. Letters, then punctuation, are trimmed from both

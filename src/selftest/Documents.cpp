@@ -1,6 +1,9 @@
 #include <algorithm>
 #include <cstdint>
 #include <iterator>
+#include <optional>
+#include <string>
+#include <variant>
 
 #include "foundation/RangeError.h"
 #include "model/PatientFile.h"
@@ -47,19 +50,20 @@ std::vector<std::byte> documentBytes() {
   return bytes;
 }
 
-/// The fields of the patient, in the order of their places.
-constexpr std::size_t kPatientFields = 8;
+double asNumber(std::int64_t value) { return static_cast<double>(value); }
+double asNumber(double value) { return value; }
+double asNumber(const std::optional<foundation::Date>& date) { return date ? date->secondsSince2001 : 0.0; }
+double asNumber(const std::optional<std::string>& text) {
+  return static_cast<double>(text.value_or("").size());
+}
+
+/// The values of the patient behind her identifier, in their order, then the number of examinations.
+constexpr std::size_t kPatientFields = model::kPatientValues.size();
 
 double patientField(const model::PatientRecord& patient, std::size_t which) {
-  const std::array<double, kPatientFields> fields{patient.edd() ? patient.edd()->secondsSince2001 : 0.0,
-                                                  static_cast<double>(patient.standard()),
-                                                  static_cast<double>(patient.fetalWeightStandard()),
-                                                  static_cast<double>(patient.numberOfFetuses()),
-                                                  patient.extrapolatedGestation(),
-                                                  static_cast<double>(patient.crlStandard()),
-                                                  static_cast<double>(patient.gravida()),
-                                                  static_cast<double>(patient.ncRecordsArray().size())};
-  return fields.at(which);
+  if (which + 1 == kPatientFields) return static_cast<double>(patient.ncRecordsArray().size());
+  return std::visit([&](auto member) { return asNumber(patient.values().*member); },
+                    model::kPatientValues.at(which + 1).member);
 }
 
 }  // namespace

@@ -1,8 +1,10 @@
 #include <gmock/gmock.h>
 
 #include <filesystem>
+#include <string>
 
 #include "Process.h"
+#include "model/PatientValues.h"
 
 namespace nascor::tests {
 namespace {
@@ -145,6 +147,16 @@ TEST(Dump, showsTheTreeOfAnyStream) {
   EXPECT_THAT(text.out, StartsWith("typed stream, little-endian, system version 1000\n"));
   EXPECT_THAT(text.out, HasSubstr("PatientRecord (class 1, version 7) < NSObject (class 2, version 0)\n"));
   EXPECT_THAT(text.out, HasSubstr("\"AB-123\"\n"));
+}
+
+TEST(EveryValueOfThePatient, isNamedWhereItsJsonIsDescribed) {
+  const std::string page = contentsOfFile(NASCOR_SAMPLES "/../../docs/json.md");
+  for (const model::PatientValue& value : model::kPatientValues) {
+    const std::string name(value.name);
+    EXPECT_THAT(run({"json", "--help"}).out, HasSubstr(name));
+    EXPECT_THAT(run({"make", "--help"}).out, HasSubstr(name));
+    EXPECT_THAT(page, HasSubstr("| `" + name + "` |"));
+  }
 }
 
 TEST(Dump, namesTheFilesWhenThereAreSeveral) {

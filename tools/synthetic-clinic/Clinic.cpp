@@ -6,6 +6,7 @@
 #include <cstring>
 
 #include "calc/LookUp.h"
+#include "model/ClassNames.h"
 #include "model/PatientFile.h"
 #include "synthetic_clinic/OldDocument.h"
 #include "synthetic_clinic/Zone.h"
@@ -17,7 +18,7 @@ namespace {
 using foundation::kSecondsPerDay;
 
 constexpr std::uint64_t kDamagedOneIn = 1000;
-constexpr std::int64_t kLatestVersion = 7;
+constexpr std::int64_t kLatestVersion = model::class_version::patientRecord;
 
 /// Numbers by Steele, Lea and Flood's SplitMix64: the same on every machine, which those of the standard library are not.
 class Chance {
