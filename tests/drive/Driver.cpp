@@ -19,6 +19,7 @@
 #include "foundation/JsonText.h"
 #include "foundation/UserDefaults.h"
 #include "model/PatientJson.h"
+#include "model/PatientPage.h"
 #include "support/ReadOnlyFields.h"
 
 namespace nascor::drive {
@@ -42,6 +43,14 @@ std::string textArgument(const Json& json, std::string_view wanted) {
 std::int64_t integerArgument(const Json& json, std::string_view wanted) {
   if (!json.is_number_integer()) refuse("expected " + std::string(wanted));
   return json.get<std::int64_t>();
+}
+
+/// A page by its word on the command line, "report", or by its index.
+std::int64_t pageArgument(const Json& json) {
+  for (const model::PatientPageFacts& each : model::kPatientPages) {
+    if (json == Json(each.word)) return model::indexOf(each.page);
+  }
+  return integerArgument(json, "the index or the word of a page");
 }
 
 double numberArgument(const Json& json, std::string_view wanted) {
@@ -681,7 +690,7 @@ Json Driver::step(const Json& days) {
 
 Json Driver::tab(const Json& page) {
   NCDocument& shown = document();
-  const std::int64_t wanted = integerArgument(page, "the index of a page");
+  const std::int64_t wanted = pageArgument(page);
   if (auto refusal = heldBack(shown)) return *refusal;
   shown.switchToGraph(wanted);
   return Json::object();
@@ -690,7 +699,7 @@ Json Driver::tab(const Json& page) {
 Json Driver::click(const Json& click) {
   if (!click.is_array() || click.size() != 4) refuse("expected [page, x, y, count]");
   NCDocument& clicked = document();
-  const std::int64_t shown = integerArgument(click[0], "the index of a page");
+  const std::int64_t shown = pageArgument(click[0]);
   const framework::Point place{.x = numberArgument(click[1], "a number"),
                                .y = numberArgument(click[2], "a number")};
   const std::int64_t count = integerArgument(click[3], "a number of clicks");
@@ -705,19 +714,18 @@ Json Driver::click(const Json& click) {
 Json Driver::draw(const Json& drawn) {
   const bool hasSize = drawn.is_array();
   if (hasSize && drawn.size() != 3) refuse("expected [page, width, height]");
-  framework::Page& page =
-      document().tabView().page(integerArgument(hasSize ? drawn[0] : drawn, "the index of a page"));
+  framework::Page& page = document().tabView().page(pageArgument(hasSize ? drawn[0] : drawn));
   const double width = hasSize ? numberArgument(drawn[1], "a number") : framework::Page::kWidth;
   const double height = hasSize ? numberArgument(drawn[2], "a number") : framework::Page::kHeight;
   return {{"draw", drawingOf(page, width, height)}};
 }
 
 Json Driver::marks(const Json& page) {
-  return {{"marks", marksOf(document().tabView().page(integerArgument(page, "the index of a page")))}};
+  return {{"marks", marksOf(document().tabView().page(pageArgument(page)))}};
 }
 
 Json Driver::advice(const Json& page) {
-  return {{"advice", app::adviceOnPage(document(), integerArgument(page, "the index of a page"))}};
+  return {{"advice", app::adviceOnPage(document(), pageArgument(page))}};
 }
 
 Json Driver::paper(const Json& word) {
@@ -726,7 +734,7 @@ Json Driver::paper(const Json& word) {
 }
 
 Json Driver::over(const Json& page) {
-  return {{"over", overlayOf(document().tabView().page(integerArgument(page, "the index of a page")))}};
+  return {{"over", overlayOf(document().tabView().page(pageArgument(page)))}};
 }
 
 Json Driver::overPaper(const Json& word) {

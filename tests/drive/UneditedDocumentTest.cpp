@@ -110,7 +110,7 @@ const std::vector<std::string> kLooks{
     R"({"tab":5})",
     R"({"click":[1,400,250,1]})",
     R"({"click":[0,200,150,2]})",
-    R"({"draw":6})",
+    R"({"draw":"report"})",
     R"({"script":["get","identifier"]})",
     R"({"script":["get","edd"]})",
     R"({"script":["get","examDate"]})",

@@ -40,8 +40,8 @@ A double click is two presses: the first has chosen the examination, the second 
 
 The report takes a click and does nothing with it.
 
-{"click":[6,314,315,1]}
-{"click":[6,314,315,2]}
+{"click":["report",314,315,1]}
+{"click":["report",314,315,2]}
 {"state":true}
 =~ {"tab":6,"currentExam":0}
 {"click":[7,1,1,1]}

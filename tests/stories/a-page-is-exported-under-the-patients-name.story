@@ -15,7 +15,7 @@ Each export is told once, and each page has its own name.
 
 {"tab":5}
 {"do":["doExport"]}
-{"tab":6}
+{"tab":"report"}
 {"do":["doExport"]}
 {"state":true}
 =~ {"exports":["AB-123 (G2) - Weight.pdf","AB-123 (G2) - Report.pdf"]}

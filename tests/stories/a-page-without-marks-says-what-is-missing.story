@@ -7,7 +7,7 @@ In a new document nothing can be drawn yet. The window says so over each page, a
 => {"advice":["No EDD, so no marks. Patient > EDD from ...","No lengths, so no marks. Type BPD, HC, AC or FL beside the page."]}
 {"advice":1}
 => {"advice":["No EDD, so no marks. Patient > EDD from ...","No BPD, so no marks. Type it beside the page."]}
-{"advice":6}
+{"advice":"report"}
 => {"advice":["No EDD, so no ages. Patient > EDD from ...","No lengths. Type BPD, HC, AC or FL beside the page."]}
 
 One length is enough for the trends and its own page, and for the report; a weight needs those of its formula.
@@ -26,7 +26,7 @@ One length is enough for the trends and its own page, and for the report; a weig
 => {"advice":["No FL, so no marks. Type it beside the page."]}
 {"advice":5}
 => {"advice":["No weight, so no marks. Type the lengths that the formula needs."]}
-{"advice":6}
+{"advice":"report"}
 => {"advice":[]}
 {"do":["doSetEFWStandard",4]}
 {"edit":["acField","150"]}
@@ -39,7 +39,7 @@ Another fetus is plotted beside this one as long as all are shown; her report is
 {"choose":1}
 {"advice":1}
 => {"advice":[]}
-{"advice":6}
+{"advice":"report"}
 => {"advice":["No lengths. Type BPD, HC, AC or FL beside the page."]}
 {"app":["toggleShowAll"]}
 {"advice":1}
@@ -53,7 +53,7 @@ Without the examination's date there is no age either.
 {"edit":["examDateField",""]}
 {"advice":0}
 => {"advice":["No date, so no marks. Type it beside the page."]}
-{"advice":6}
+{"advice":"report"}
 => {"advice":["No date, so no ages. Type it beside the page."]}
 
 A file may name a standard and a formula that this program does not know.
@@ -65,7 +65,7 @@ A file may name a standard and a formula that this program does not know.
 => {"advice":["No known growth standard, so no curves. Choose from Standards."]}
 {"advice":5}
 => {"advice":["No known growth standard, so no curves. Choose from Standards.","No known weight formula, so no weights. Choose from Estimated Fetal Weight."]}
-{"advice":6}
+{"advice":"report"}
 => {"advice":["No known growth standard, so no projection. Choose from Standards.","No known weight formula, so no weights. Choose from Estimated Fetal Weight."]}
 
 Nor need there be an examination.

@@ -9,7 +9,7 @@ is; what is drawn of it shows such signs and lets them do nothing.
 =~ {"document":{"maternalIDString":"AB\u202e12\t3\n4"},"fields":{"referenceIDField":"AB\u202e12\t3\n4"}}
 {"draw":1}
 =~ {"draw":[["text","Black","AB\\u202e12\\t3\\n4 (G0)",50,10],"..."]}
-{"draw":6}
+{"draw":"report"}
 =~ {"draw":[["view","NascorDataView","..."],["text","..."],["text","Black","Identifier:\tAB\\u202e12\\t3\\n4",40,10,[100]],"..."]}
 
 A title that is too long for its page loses its middle: 740 units are there, 6 for a character.

@@ -5,7 +5,7 @@ Trends, BPD, HC, AC, FL, weight, report.
 {"new":true}
 {"state":true}
 =~ {"tab":0}
-{"tab":6}
+{"tab":"report"}
 => {}
 {"state":true}
 =~ {"tab":6}

@@ -210,7 +210,7 @@ class Export {
                                 ? QStringLiteral(" %1 of %2")
                                       .arg(QString::number(places[i].fetus + 1), QString::number(fetuses))
                                 : QString();
-      write(stem + fetus + QStringLiteral(" - ") + fromUtf8(sheet.page().name()), format,
+      write(stem + fetus + QStringLiteral(" - ") + fileNameFrom(fromUtf8(sheet.page().name())), format,
             bytesOfSheet(sheet, format, wanted_.pngScale));
     }
   }
