@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <limits>
 #include <utility>
 
@@ -78,31 +79,51 @@ Reference standardReference(std::string_view assumes) {
 
 // The others are curves.
 
+constexpr int kDaysOfWeek = 7;
+
+/// Without a gap from the first day of `FirstWeek` to that of `LastWeek`.
+template <int FirstWeek, int LastWeek>
+using MediansByDay = std::array<double, std::size_t{(LastWeek - FirstWeek) * kDaysOfWeek + 1}>;
+
+/// The medians of a quantity, worked out once: a search begins with them.
+template <double (*Median)(Quantity, double), int FirstWeek, int LastWeek, const auto& Quantities>
+const MediansByDay<FirstWeek, LastWeek>& mediansByDay(Quantity quantity) {
+  using Medians = MediansByDay<FirstWeek, LastWeek>;
+  static const std::array<Medians, kQuantities.size()> kMedians = [] {
+    std::array<Medians, kQuantities.size()> all{};
+    for (const Quantity each : Quantities) {
+      Medians& medians = all.at(placeOf(each));
+      for (std::size_t day = 0; day < medians.size(); ++day)
+        medians.at(day) = Median(each, FirstWeek + static_cast<double>(day) / kDaysOfWeek);
+    }
+    return all;
+  }();
+  return kMedians.at(placeOf(quantity));
+}
+
 /// The age at which a median passes `value` for the first time. Looked for day by day, because a median may turn before the
 /// last week, and within the day by halving.
-template <double (*Median)(Quantity, double), int FirstWeek, int LastWeek>
+template <double (*Median)(Quantity, double), int FirstWeek, int LastWeek, const auto& Quantities>
 std::optional<double> curveWeekOfMedian(Quantity quantity, double value) {
-  constexpr int kDaysOfWeek = 7;
-  constexpr int kHalvings = 60;
-  if (!(value >= Median(quantity, FirstWeek))) return std::nullopt;
-  const auto weekOf = [](int day) { return FirstWeek + day / double{kDaysOfWeek}; };
-  int day = 1;
-  while (day <= (LastWeek - FirstWeek) * kDaysOfWeek && value > Median(quantity, weekOf(day))) ++day;
-  if (day > (LastWeek - FirstWeek) * kDaysOfWeek) return std::nullopt;
-  double low = weekOf(day - 1);
-  double high = weekOf(day);
-  for (int i = 0; i < kHalvings; ++i) {
-    const double middle = low + (high - low) / 2.0;
-    (Median(quantity, middle) < value ? low : high) = middle;
-  }
+  const auto& medians = mediansByDay<Median, FirstWeek, LastWeek, Quantities>(quantity);
+  if (!(value >= medians.front())) return std::nullopt;
+  const auto reached = std::find_if(std::next(medians.begin()), medians.end(),
+                                    [value](double median) { return value <= median; });
+  if (reached == medians.end()) return std::nullopt;
+  const auto day = static_cast<double>(std::distance(medians.begin(), reached));
+  double low = FirstWeek + (day - 1.0) / kDaysOfWeek;
+  double high = FirstWeek + day / kDaysOfWeek;
+  const auto middle = [&] { return low + (high - low) / 2.0; };
+  while (low < middle() && middle() < high) (Median(quantity, middle()) < value ? low : high) = middle();
   return high;
 }
 
-template <double (*Median)(Quantity, double), int FirstWeek, int LastWeek>
+template <double (*Median)(Quantity, double), int FirstWeek, int LastWeek, const auto& Quantities>
 Reference curveReference(Reference row) {
   row.firstWeek = FirstWeek;
   row.lastWeek = LastWeek;
-  row.weekOfMedian = curveWeekOfMedian<Median, FirstWeek, LastWeek>;
+  row.quantities = Quantities;
+  row.weekOfMedian = curveWeekOfMedian<Median, FirstWeek, LastWeek, Quantities>;
   return row;
 }
 
@@ -389,36 +410,32 @@ std::array<Reference, kReferenceCount> allReferences(std::index_sequence<Standar
       translatable("References", "Lengths measured as the publication has it; normal about the mean");
   return {
       {standardReference<Standards>(kNormal)...,
-       curveReference<intergrowth2014Median, 14, 40>(
+       curveReference<intergrowth2014Median, 14, 40, kLengths>(
            {.name = "intergrowth-2014",
             .label = "INTERGROWTH-21st (2014)",
             .form = ReferenceForm::meanAndSD,
-            .quantities = kLengths,
             .assumes =
                 translatable("References", "BPD measured from outer to outer edge; normal about the mean"),
             .population = intergrowth2014Population}),
-       curveReference<intergrowth2020Median, 18, 41>(
+       curveReference<intergrowth2020Median, 18, 41, kWeight>(
            {.name = "intergrowth-2020",
             .label = "INTERGROWTH-21st (2020)",
             .form = ReferenceForm::lms,
-            .quantities = kWeight,
             .assumes = translatable("References",
                                     "Weight by the formula Hadlock 1 (HC/AC/FL); no other formula fits it"),
             .onlyFormula = 0,
             .population = intergrowth2020Population}),
-       curveReference<hadlock1991Median, 10, 40>(
+       curveReference<hadlock1991Median, 10, 40, kWeight>(
            {.name = "hadlock-1991",
             .label = "Hadlock (1991)",
             .form = ReferenceForm::meanAndSD,
-            .quantities = kWeight,
             .assumes = translatable(
                 "References", "Weight normal about the mean, with a standard deviation of 13.27 % of it"),
             .population = hadlock1991Population}),
-       curveReference<whoMedian, 14, 40>(
+       curveReference<whoMedian, 14, 40, kQuantities>(
            {.name = "who-2017",
             .label = "WHO (2017)",
             .form = ReferenceForm::quantiles,
-            .quantities = kQuantities,
             .assumes = translatable("References",
                                     "No distribution: between the curves of eleven centiles linear in the "
                                     "value, beyond the 1st and the 99th unknown"),
