@@ -119,6 +119,12 @@ std::vector<compare::Table> comparison(const NCDocument& document) {
                            static_cast<std::size_t>(document.currentFetus()), document.services().localizer);
 }
 
+std::optional<compare::Table> comparison(const NCDocument& document, compare::TableKind kind) {
+  if (document.examination(document.currentExam()) == nullptr) return std::nullopt;
+  return compare::tableOf(kind, *document.patientRecord(), static_cast<std::size_t>(document.currentExam()),
+                          static_cast<std::size_t>(document.currentFetus()), document.services().localizer);
+}
+
 std::string comparisonHeading(const NCDocument& document) {
   std::string heading;
   const std::string age =

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -24,6 +25,8 @@ std::vector<std::string> adviceOnPage(const NCDocument& document, std::int64_t i
 
 /// The examination and the fetus on show beside their peers, from the records; none while there is no examination.
 std::vector<compare::Table> comparison(const NCDocument& document);
+/// One of them; nothing where there is none.
+std::optional<compare::Table> comparison(const NCDocument& document, compare::TableKind kind);
 /// Patient, fetus, examination and age, in one line.
 std::string comparisonHeading(const NCDocument& document);
 

@@ -167,27 +167,52 @@ std::vector<Fetus> fetusesAt(const PatientRecord& patient, std::size_t examinati
   return fetusesOf(patient, *foundation::checkedAt(patient.ncRecordsArray(), examination));
 }
 
-Comparison comparisonOf(const PatientRecord& patient, std::size_t examination, std::size_t fetus) {
-  const auto& examinations = patient.ncRecordsArray();
-  const NCRecord& now = *foundation::checkedAt(examinations, examination);
+std::vector<Length> lengthsAt(const PatientRecord& patient, std::size_t examination, std::size_t fetus) {
+  const NCRecord& now = *foundation::checkedAt(patient.ncRecordsArray(), examination);
+  const calc::Biometry lengths = lengthsOf(now, fetus);
+  const auto age = ageAt(patient, now);
+  std::vector<Length> all;
+  for (const Measurement measurement : calc::kMeasurements)
+    all.push_back(lengthOf(measurement, lengths, age));
+  return all;
+}
+
+std::vector<Weight> weightsAt(const PatientRecord& patient, std::size_t examination, std::size_t fetus) {
+  const NCRecord& now = *foundation::checkedAt(patient.ncRecordsArray(), examination);
   const calc::Biometry lengths = lengthsOf(now, fetus);
   const auto age = ageAt(patient, now);
   const auto chosen = valueOf(patient, lengths, Quantity::efw);
-
-  Comparison comparison{.age = age};
-  for (const Measurement measurement : calc::kMeasurements)
-    comparison.lengths.push_back(lengthOf(measurement, lengths, age));
+  std::vector<Weight> all;
   for (std::size_t formula = 0; formula < calc::weightFormulas().size(); ++formula)
-    comparison.weights.push_back(weightOf(static_cast<std::int64_t>(formula), lengths, chosen, age));
-  comparison.ratios = {.hcToAC = quotient(lengths.hc, lengths.ac),
-                       .flToAC = quotient(lengths.fl, lengths.ac),
-                       .flToBPD = quotient(lengths.fl, lengths.bpd)};
-  comparison.discordance = discordanceAt(patient, now);
+    all.push_back(weightOf(static_cast<std::int64_t>(formula), lengths, chosen, age));
+  return all;
+}
+
+Ratios ratiosAt(const PatientRecord& patient, std::size_t examination, std::size_t fetus) {
+  const calc::Biometry lengths =
+      lengthsOf(*foundation::checkedAt(patient.ncRecordsArray(), examination), fetus);
+  return {.hcToAC = quotient(lengths.hc, lengths.ac),
+          .flToAC = quotient(lengths.fl, lengths.ac),
+          .flToBPD = quotient(lengths.fl, lengths.bpd)};
+}
+
+std::vector<Growth> growthAt(const PatientRecord& patient, std::size_t examination, std::size_t fetus) {
+  static_cast<void>(foundation::checkedAt(patient.ncRecordsArray(), examination));
+  std::vector<Growth> all;
   for (const Quantity quantity : calc::kQuantities) {
-    if (const auto growth = growthOf(quantity, patient, examination, fetus))
-      comparison.growth.push_back(*growth);
+    if (const auto growth = growthOf(quantity, patient, examination, fetus)) all.push_back(*growth);
   }
-  return comparison;
+  return all;
+}
+
+Comparison comparisonOf(const PatientRecord& patient, std::size_t examination, std::size_t fetus) {
+  const NCRecord& now = *foundation::checkedAt(patient.ncRecordsArray(), examination);
+  return {.age = ageAt(patient, now),
+          .lengths = lengthsAt(patient, examination, fetus),
+          .weights = weightsAt(patient, examination, fetus),
+          .ratios = ratiosAt(patient, examination, fetus),
+          .discordance = discordanceAt(patient, now),
+          .growth = growthAt(patient, examination, fetus)};
 }
 
 }  // namespace nascor::compare

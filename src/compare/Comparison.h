@@ -93,6 +93,16 @@ std::vector<Fetus> fetusesAt(const model::PatientRecord& patient, std::size_t ex
 Placed placed(const calc::Reference& reference, calc::Quantity quantity, std::optional<double> value,
               std::optional<double> age);
 
+/// @name Parts of `comparisonOf`, each by itself.
+/// @{
+std::vector<Length> lengthsAt(const model::PatientRecord& patient, std::size_t examination,
+                              std::size_t fetus);
+std::vector<Weight> weightsAt(const model::PatientRecord& patient, std::size_t examination,
+                              std::size_t fetus);
+Ratios ratiosAt(const model::PatientRecord& patient, std::size_t examination, std::size_t fetus);
+std::vector<Growth> growthAt(const model::PatientRecord& patient, std::size_t examination, std::size_t fetus);
+/// @}
+
 /// Figures of the fetus at place `fetus` of the examination at place `examination`, both from 0; a fetus without a record
 /// there was not measured. Throws RangeError for an examination that is not there.
 Comparison comparisonOf(const model::PatientRecord& patient, std::size_t examination, std::size_t fetus);

@@ -48,7 +48,7 @@ void addRemarks(Table& table, const CellWriter& writer) {
   for (Row& row : table.rows) row.cells.push_back(label(row.remark));
 }
 
-Table lengthsTable(const Comparison& comparison, std::int64_t standard, const CellWriter& writer) {
+Table lengthsTable(const std::vector<Length>& lengths, std::int64_t standard, const CellWriter& writer) {
   Table table{
       .name = "lengths",
       .title = writer.text("Compare", "Lengths"),
@@ -76,7 +76,7 @@ Table lengthsTable(const Comparison& comparison, std::int64_t standard, const Ce
                    .isNumber = true,
                    .explanation = writer.text("Compare", "The age of which the value is the median.")}},
       .rows = {}};
-  for (const Length& length : comparison.lengths) {
+  for (const Length& length : lengths) {
     for (const Placed& figure : length.references) {
       table.rows.push_back(
           {.cells = {label(writer.name(calc::quantityOf(length.measurement))),
@@ -101,7 +101,7 @@ bool needsOneLength(const calc::WeightFormula& formula) {
   });
 }
 
-Table weightsTable(const Comparison& comparison, std::int64_t chosen, const CellWriter& writer) {
+Table weightsTable(const std::vector<Weight>& weights, std::int64_t chosen, const CellWriter& writer) {
   Table table{
       .name = "weights",
       .title = writer.text("Compare", "Weights"),
@@ -118,7 +118,7 @@ Table weightsTable(const Comparison& comparison, std::int64_t chosen, const Cell
          .isNumber = true,
          .explanation = writer.text("Compare", "The centile in this population of weights.")});
   }
-  for (const Weight& weight : comparison.weights) {
+  for (const Weight& weight : weights) {
     const calc::WeightFormula& formula = *calc::weightFormula(weight.formula);
     Row row{.cells = {label(formula.longLabel), writer.number(weight.grams, 0),
                       writer.change(weight.difference, 0)},
@@ -187,7 +187,7 @@ Table fetusesTable(const model::PatientRecord& patient, std::size_t examination,
   return table;
 }
 
-Table growthTable(const Comparison& comparison, const model::PatientRecord& patient,
+Table growthTable(const std::vector<Growth>& all, const model::PatientRecord& patient,
                   const CellWriter& writer) {
   Table table{.name = "growth",
               .title = writer.text("Compare", "Growth"),
@@ -204,7 +204,7 @@ Table growthTable(const Comparison& comparison, const model::PatientRecord& pati
                            .isNumber = true,
                            .explanation = writer.text("Compare", "By the growth standard in force.")}},
               .rows = {}};
-  for (const Growth& growth : comparison.growth) {
+  for (const Growth& growth : all) {
     const int decimals = decimalsOf(growth.quantity);
     table.rows.push_back(
         {.cells = {label(writer.name(growth.quantity)), writer.change(growth.perWeek, decimals),
@@ -241,14 +241,27 @@ std::string lines(const Table& table, std::string_view between, std::string_view
 
 }  // namespace
 
+Table tableOf(TableKind kind, const model::PatientRecord& patient, std::size_t examination, std::size_t fetus,
+              const Localizer& localizer) {
+  const CellWriter writer(localizer);
+  switch (kind) {
+    case TableKind::lengths:
+      return lengthsTable(lengthsAt(patient, examination, fetus), patient.standard(), writer);
+    case TableKind::weights:
+      return weightsTable(weightsAt(patient, examination, fetus), patient.fetalWeightStandard(), writer);
+    case TableKind::ratios: return ratiosTable(ratiosAt(patient, examination, fetus), writer);
+    case TableKind::fetuses: return fetusesTable(patient, examination, fetus, localizer, writer);
+    case TableKind::growth: break;
+  }
+  return growthTable(growthAt(patient, examination, fetus), patient, writer);
+}
+
 std::vector<Table> tablesOf(const model::PatientRecord& patient, std::size_t examination, std::size_t fetus,
                             const Localizer& localizer) {
-  const Comparison comparison = comparisonOf(patient, examination, fetus);
-  const CellWriter writer(localizer);
-  return {
-      lengthsTable(comparison, patient.standard(), writer),
-      weightsTable(comparison, patient.fetalWeightStandard(), writer), ratiosTable(comparison.ratios, writer),
-      fetusesTable(patient, examination, fetus, localizer, writer), growthTable(comparison, patient, writer)};
+  std::vector<Table> tables;
+  for (const TableKind kind : kTableKinds)
+    tables.push_back(tableOf(kind, patient, examination, fetus, localizer));
+  return tables;
 }
 
 std::string tabbedText(const Table& table) {

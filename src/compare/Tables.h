@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <optional>
 #include <string>
@@ -40,6 +41,15 @@ struct Table {
   std::vector<Column> columns;
   std::vector<Row> rows;
 };
+
+/// The tables, in the order of the Compare window.
+enum class TableKind { lengths, weights, ratios, fetuses, growth };
+inline constexpr std::array kTableKinds{TableKind::lengths, TableKind::weights, TableKind::ratios,
+                                        TableKind::fetuses, TableKind::growth};
+
+/// One of `tablesOf`, without the time that the others take.
+Table tableOf(TableKind kind, const model::PatientRecord& patient, std::size_t examination, std::size_t fetus,
+              const foundation::Localizer& localizer);
 
 /// The five tables of the fetus at place `fetus` of the examination at place `examination`, both from 0. Throws RangeError
 /// for an examination that is not there.

@@ -299,9 +299,8 @@ class Maker {
         dayAndAgeText(*last) + ". " +
         localizer_.text("Summary",
                         "Centiles by each reference for weights; difference from the formula in force.");
-    constexpr std::size_t kWeights = 1;
     const compare::Table compared =
-        compare::tablesOf(patient_, examinations[place], fetus, localizer_)[kWeights];
+        compare::tableOf(compare::TableKind::weights, patient_, examinations[place], fetus, localizer_);
     // The last column has the remarks, which are notes here.
     const std::size_t columns = compared.columns.size() - 1;
     for (std::size_t i = 0; i < columns; ++i)

@@ -175,7 +175,7 @@ CompareDialog::CompareDialog(CompareEnvironment environment, QWidget* parent)
   buttons->button(QDialogButtonBox::Close)->setDefault(true);
   connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
 
-  connect(tabs_, &QTabWidget::currentChanged, this, [this] { makeRoomOnShow(); });
+  connect(tabs_, &QTabWidget::currentChanged, this, [this] { updatePageOnShow(); });
 
   auto* layout = new QVBoxLayout(this);
   layout->addWidget(heading_);
@@ -185,7 +185,7 @@ CompareDialog::CompareDialog(CompareEnvironment environment, QWidget* parent)
   resize(metrics.averageCharWidth() * 140, metrics.lineSpacing() * 42);
 }
 
-void CompareDialog::addPage(const Table& table) {
+void CompareDialog::addPage(compare::TableKind kind, const Table& table) {
   auto* view = new Figures;
   auto* model = new Model(view);
   auto* sorted = new QSortFilterProxyModel(view);
@@ -225,7 +225,7 @@ void CompareDialog::addPage(const Table& table) {
   connect(origin, &QAction::triggered, this, &CompareDialog::showOrigin);
   connect(view, &QTableView::doubleClicked, this, &CompareDialog::showOrigin);
   tabs_->addTab(view, fromUtf8(table.title));
-  pages_.push_back({.model = model, .sorted = sorted, .view = view});
+  pages_.push_back({.kind = kind, .model = model, .sorted = sorted, .view = view});
 }
 
 void CompareDialog::refresh() {
@@ -238,22 +238,37 @@ void CompareDialog::refresh() {
 
 void CompareDialog::showComparison() {
   isRefreshDue_ = false;
-  ShownComparison shown = environment_.comparison();
-  heading_->setText(shown.heading);
-  tabs_->setVisible(!shown.tables.empty());
-  for (std::size_t i = 0; i < shown.tables.size(); ++i) {
-    const bool isNew = i == pages_.size();
-    if (isNew) addPage(shown.tables[i]);
-    pages_[i].model->setTable(std::move(shown.tables[i]));
-    if (isNew) makeRoom(*pages_[i].view);
-    tellRowsApart(*pages_[i].view);
-  }
-  makeRoomOnShow();
+  heading_->setText(environment_.heading());
+  if (pages_.empty()) addPages();
+  for (Page& page : pages_) page.isStale = true;
+  updatePageOnShow();
 }
 
-void CompareDialog::makeRoomOnShow() {
+void CompareDialog::addPages() {
+  for (const compare::TableKind kind : compare::kTableKinds) {
+    if (const auto table = environment_.table(kind)) addPage(kind, *table);
+  }
+}
+
+void CompareDialog::updatePageOnShow() {
   const auto shown = static_cast<std::size_t>(tabs_->currentIndex());
-  if (shown < pages_.size()) makeRoom(*pages_[shown].view);
+  if (shown >= pages_.size()) return tabs_->hide();
+  Page& page = pages_[shown];
+  if (!std::exchange(page.isStale, false)) return;
+  auto table = environment_.table(page.kind);
+  tabs_->setVisible(table.has_value());
+  if (!table) return;
+  page.model->setTable(std::move(*table));
+  makeRoom(*page.view);
+  tellRowsApart(*page.view);
+}
+
+ShownComparison CompareDialog::comparison() const {
+  ShownComparison shown{.heading = environment_.heading(), .tables = {}};
+  for (const compare::TableKind kind : compare::kTableKinds) {
+    if (auto table = environment_.table(kind)) shown.tables.push_back(std::move(*table));
+  }
+  return shown;
 }
 
 void CompareDialog::showEvent(QShowEvent* event) {
@@ -323,7 +338,7 @@ void CompareDialog::print() {
   QPrintDialog dialog(&printer, this);
   if (dialog.exec() != QDialog::Accepted) return;
   QTextDocument text;
-  text.setHtml(comparisonText(environment_.comparison()));
+  text.setHtml(comparisonText(comparison()));
   text.print(&printer);
 }
 

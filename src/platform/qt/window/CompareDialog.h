@@ -2,6 +2,7 @@
 
 #include <QDialog>
 #include <functional>
+#include <optional>
 #include <vector>
 
 #include "compare/Tables.h"
@@ -26,8 +27,9 @@ struct ShownComparison {
 struct CompareEnvironment {
   foundation::Services services;
   framework::Alerts& alerts;
-  std::function<ShownComparison()> comparison;            ///< of the examination and the fetus on show
-  std::function<framework::PrintInfo()> paper;            ///< that of the document
+  std::function<QString()> heading;  ///< of the examination and the fetus on show; likewise `table`
+  std::function<std::optional<compare::Table>(compare::TableKind)> table;  ///< nothing for no examination
+  std::function<framework::PrintInfo()> paper;                             ///< that of the document
   std::function<QString()> suggestedName;                 ///< for a file, without its extension
   std::function<void(const calc::Method&)> showEvidence;  ///< what stands behind a figure
 };
@@ -47,14 +49,18 @@ class CompareDialog final : public QDialog {
  private:
   class Model;
   struct Page {
+    compare::TableKind kind;
     Model* model;
     QSortFilterProxyModel* sorted;
     QTableView* view;
+    bool isStale = true;  ///< its table is that of before: it is not on show
   };
-  void addPage(const compare::Table& table);
+  void addPage(compare::TableKind kind, const compare::Table& table);
+  void addPages();
   void showComparison();
-  /// Widens the columns of the table on show for what is in them.
-  void makeRoomOnShow();
+  /// Brings the table on show up to date. The others wait until they are.
+  void updatePageOnShow();
+  ShownComparison comparison() const;
   /// The table on show as it is sorted now; its selected rows alone where some are.
   compare::Table tableOnShow() const;
   /// What stands behind the figure that the keys or the mouse have reached; nothing for what was measured.

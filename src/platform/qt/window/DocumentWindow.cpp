@@ -380,11 +380,10 @@ void DocumentWindow::showCompare() {
     compare_ = new CompareDialog(
         {.services = environment_.services,
          .alerts = environment_.alerts,
-         .comparison =
-             [this] {
-               if (!document_) return ShownComparison{};
-               return ShownComparison{.heading = fromUtf8(app::comparisonHeading(*document_)),
-                                      .tables = app::comparison(*document_)};
+         .heading = [this] { return document_ ? fromUtf8(app::comparisonHeading(*document_)) : QString(); },
+         .table =
+             [this](compare::TableKind kind) {
+               return document_ ? app::comparison(*document_, kind) : std::nullopt;
              },
          .paper = [this] { return document_ ? document_->printInfo() : framework::PrintInfo{}; },
          .suggestedName = [this] { return document_ ? fromUtf8(document_->suggestedFileName()) : QString(); },
