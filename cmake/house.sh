@@ -145,9 +145,8 @@ build() {
   # ccache needs a place to write; without one it would fail every compilation.
   [[ -w "${CCACHE_DIR:-${XDG_CACHE_HOME:-${HOME:-/nonexistent}}}" ]] || export CCACHE_DISABLE=1
 
-  # What another checkout compiled from the same sources is taken from the cache. Not for coverage, whose programs must
-  # name the sources of this one.
-  [[ "$preset" == coverage ]] || export CCACHE_BASEDIR="${CCACHE_BASEDIR:-$root}"
+  # What another checkout compiled from the same sources is taken from the cache.
+  export CCACHE_BASEDIR="${CCACHE_BASEDIR:-$root}"
 
   # A checkout that was moved or copied brings a build folder that points elsewhere.
   if [[ -f "$folder/CMakeCache.txt" && "$(cached "$folder" CMAKE_HOME_DIRECTORY)" != "$root" ]]; then

@@ -1,9 +1,13 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
+#include <chrono>
 #include <cmath>
 #include <cstdint>
+#include <cstdlib>
 #include <deque>
+#include <iostream>
 #include <map>
 #include <random>
 #include <string>
@@ -11,6 +15,7 @@
 
 #include "drive/Driver.h"
 #include "model/PatientPage.h"
+#include "support/Spent.h"
 
 namespace nascor::drive {
 namespace {
@@ -18,7 +23,7 @@ namespace {
 using model::PatientPage;
 using model::placeOf;
 
-constexpr int kActions = 5000;
+constexpr int kActions = tests::kIsSlowed ? 1000 : 5000;
 constexpr std::size_t kMostExaminations = 6;
 constexpr std::size_t kMostWindows = 3;
 const std::vector<std::string> kLengths{"bpd", "hc", "ac", "fl"};
@@ -719,8 +724,36 @@ TEST(ARandomUser, neverMovesANumberToAnotherFetusOrExamination) {
     if (HasFailure()) return;
   }
   // An action that never took effect tests nothing.
-  for (const auto& [kind, count] : counts) EXPECT_GE(count, 200) << kind;
+  for (const auto& [kind, count] : counts) EXPECT_GE(count, kActions / 25) << kind;
   EXPECT_EQ(counts.size(), 36U);
+}
+
+// Another walk each time, in another place. NASCOR_WALK_SECONDS says how long; NASCOR_WALK_SEED walks one again.
+TEST(ARandomUser, movesNothingInAnyZoneAndAnyLocale) {
+  const std::array zones{"Pacific/Pago_Pago", "America/St_Johns", "America/Sao_Paulo", "Africa/Casablanca",
+                         "Europe/Berlin",     "Asia/Kathmandu",   "Asia/Tokyo",        "Australia/Lord_Howe",
+                         "Pacific/Apia",      "Pacific/Chatham",  "Pacific/Kiritimati"};
+  constexpr std::array<std::pair<const char*, char>, 7> kLocales{{{"en_US", '.'},
+                                                                  {"en_GB", '.'},
+                                                                  {"en_AU", '.'},
+                                                                  {"de_DE", ','},
+                                                                  {"fr_FR", ','},
+                                                                  {"sv_SE", ','},
+                                                                  {"ja_JP", '.'}}};
+  const char* wanted = std::getenv("NASCOR_WALK_SECONDS");
+  const char* given = std::getenv("NASCOR_WALK_SEED");
+  const std::chrono::duration<double> length(wanted ? std::atof(wanted) : 2.0);
+  unsigned seed = given ? static_cast<unsigned>(std::strtoul(given, nullptr, 10)) : std::random_device()();
+
+  const auto begin = std::chrono::steady_clock::now();
+  const auto isOver = [&] { return std::chrono::steady_clock::now() - begin >= length; };
+  for (; !isOver() && !HasFailure(); ++seed) {
+    const char* zone = zones.at(seed % zones.size());
+    const auto& [locale, decimalSign] = kLocales.at(seed / zones.size() % kLocales.size());
+    std::cout << "walking with the seed " << seed << ": " << zone << ", " << locale << '\n';
+    RandomUser user({.seed = seed, .zone = zone, .locale = locale, .decimalSign = decimalSign});
+    for (int i = 0; i < kActions && !isOver() && !HasFailure(); ++i) user.act();
+  }
 }
 
 }  // namespace
