@@ -71,6 +71,12 @@ int main(int argc, char** argv) {
 
   const double first = milliseconds([&] { compare.trigger(); });
   auto* dialog = window->findChild<QDialog*>(QStringLiteral("compareDialog"));
+  // What showing any dialog of that size costs.
+  QDialog plain(window);
+  plain.resize(dialog->size());
+  plain.show();
+  QCoreApplication::processEvents();
+  std::vector<double> plainOpening;
   std::vector<double> opening;
   std::vector<double> with;
   std::vector<double> without;
@@ -90,12 +96,20 @@ int main(int argc, char** argv) {
     without.push_back(milliseconds([&] { change.trigger(); }));
     redraw.push_back(milliseconds([&patient] { patient.tabView().setNeedsDisplay(); }));
     undo.push_back(undone());
+    plain.hide();
+    QCoreApplication::processEvents();
+    plainOpening.push_back(milliseconds([&] {
+      plain.show();
+      plain.raise();
+      plain.activateWindow();
+    }));
     opening.push_back(milliseconds([&] { compare.trigger(); }));
     QAction& back = i % 2 == 0 ? next : previous;
     with.push_back(milliseconds([&] { back.trigger(); }));
     comparedUndo.push_back(undone());
   }
   std::printf("opening, the first time\t%.2f ms\n", first);
+  std::printf("an empty dialog of its size\t%.2f ms\n", median(plainOpening));
   std::printf("opening again\t%.2f ms\n", median(opening));
   std::printf("another examination\t%.2f ms\n", median(without));
   std::printf("another examination, compared\t%.2f ms\n", median(with));

@@ -29,6 +29,7 @@
 #include "base/Introduction.h"
 #include "base/Text.h"
 #include "painting/QtPrinter.h"
+#include "window/FigureDelegate.h"
 
 namespace nascor::qt {
 
@@ -153,7 +154,11 @@ class CompareDialog::Model final : public QAbstractTableModel {
 };
 
 CompareDialog::CompareDialog(CompareEnvironment environment, QWidget* parent)
-    : QDialog(parent), environment_(std::move(environment)), heading_(new QLabel), tabs_(new QTabWidget) {
+    : QDialog(parent),
+      environment_(std::move(environment)),
+      heading_(new QLabel),
+      tabs_(new QTabWidget),
+      figures_(new FigureDelegate(this)) {
   setObjectName(QStringLiteral("compareDialog"));
   setWindowTitle(said("Compare", "Compare"));
   heading_->setObjectName(QStringLiteral("compareHeading"));
@@ -193,6 +198,7 @@ void CompareDialog::addPage(compare::TableKind kind, const Table& table) {
   sorted->setSortCaseSensitivity(Qt::CaseInsensitive);
   sorted->setSourceModel(model);
   view->setModel(sorted);
+  view->setItemDelegate(figures_);
   view->setObjectName(QStringLiteral("compare-") + fromUtf8(std::string(table.name)));
   view->setAccessibleName(fromUtf8(table.title));
   view->setSelectionBehavior(QAbstractItemView::SelectRows);

@@ -17,6 +17,8 @@ class QTableView;
 
 namespace nascor::qt {
 
+class FigureDelegate;
+
 /// What the dialog shows: what is compared, in words, and its tables.
 struct ShownComparison {
   QString heading;
@@ -72,6 +74,7 @@ class CompareDialog final : public QDialog {
   CompareEnvironment environment_;
   QLabel* heading_;
   QTabWidget* tabs_;
+  FigureDelegate* figures_;
   std::vector<Page> pages_;
   bool isRefreshDue_ = false;
 };
