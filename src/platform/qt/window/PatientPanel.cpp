@@ -116,20 +116,15 @@ void PatientPanel::bindAssessment() {
     if (label) subscriptions_.push_back(bindLabel(*label, *text));
   }
   // Room for the longest, so that nothing moves while the user types. A label rounds its width up by itself.
-  const auto room = [this](QLabel* label, const QString& longest) {
-    const QLabel widest(longest, &window_);
-    label->setMinimumWidth(widest.sizeHint().width());
+  const auto room = [this](std::initializer_list<QLabel*> labels, const QString& longest) {
+    const int width = QLabel(longest, &window_).sizeHint().width();
+    for (QLabel* label : labels) label->setMinimumWidth(width);
   };
-  for (QLabel* label : {ui_.bpdZ, ui_.hcZ, ui_.acZ, ui_.flZ}) room(label, QStringLiteral("+99.99"));
-  for (QLabel* label : {ui_.bpdCentile, ui_.hcCentile, ui_.acCentile, ui_.flCentile})
-    room(label, QStringLiteral(">99.9"));
-  for (QLabel* sign : {ui_.bpdSign, ui_.hcSign, ui_.acSign, ui_.flSign, ui_.ageSign}) {
-    QFont bold = sign->font();
-    bold.setBold(true);
-    sign->setFont(bold);
-    // An empty label wants a little room too.
-    sign->setMinimumWidth(std::max(QFontMetrics(bold).horizontalAdvance(u'!'), sign->sizeHint().width()));
-  }
+  room({ui_.bpdZ, ui_.hcZ, ui_.acZ, ui_.flZ}, QStringLiteral("+99.99"));
+  room({ui_.bpdCentile, ui_.hcCentile, ui_.acCentile, ui_.flCentile}, QStringLiteral(">99.9"));
+  // An empty label wants a little room too.
+  for (QLabel* sign : {ui_.bpdSign, ui_.hcSign, ui_.acSign, ui_.flSign, ui_.ageSign})
+    sign->setMinimumWidth(std::max(sign->fontMetrics().averageCharWidth(), sign->sizeHint().width()));
   const auto show = [this] { showRemarks(); };
   for (const calc::Measurement measurement : calc::kMeasurements)
     subscriptions_.push_back(assessment.length(measurement).remark.onChange.subscribe(show));
@@ -203,6 +198,10 @@ void PatientPanel::showRemarks() {
     row.sign->setText(remark.isEmpty() ? QString() : QStringLiteral("!"));
     row.sign->setToolTip(remark);
     if (remark.isEmpty()) continue;
+    // Not before there is one: finding the bold font takes a start two milliseconds.
+    QFont bold = row.sign->font();
+    bold.setBold(true);
+    row.sign->setFont(bold);
     sentences << said("MyDocument", "! %1: %2").arg(row.label->text().remove(u'&'), remark);
   }
   ui_.remarks->setText(sentences.join(u'\n'));
