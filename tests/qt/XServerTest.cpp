@@ -137,6 +137,18 @@ TEST_F(OnAnXServer, opensADocumentAndGoesBackByTheKeyboard) {
   EXPECT_EQ(nascor.exitCode(), 0);
 }
 
+// What a desktop shows for the window, and by what it knows which entry of the menu started it.
+TEST_F(OnAnXServer, hasItsIconAndTheClassOfItsDesktopEntry) {
+  start({});
+  const QString window = windowTitled(QStringLiteral("Untitled"));
+  const std::string known = run("xprop", {"-id", window, "WM_CLASS", "_NET_WM_ICON"}).output;
+  EXPECT_THAT(known, HasSubstr("\"Nascor\"\n"));
+  EXPECT_THAT(known, HasSubstr("Icon (64 x 64)"));
+  QFile entry(QStringLiteral(NASCOR_DESKTOP "/org.nascor.Nascor.desktop"));
+  ASSERT_TRUE(entry.open(QIODevice::ReadOnly));
+  EXPECT_THAT(entry.readAll().toStdString(), HasSubstr("StartupWMClass=Nascor\n"));
+}
+
 TEST_F(OnAnXServer, tellsOfAFileThatItCannotReadAndEndsWithAFailure) {
   const QString path = folder.filePath(QStringLiteral("cut.nascor"));
   writeFile(path, cutDocument());
