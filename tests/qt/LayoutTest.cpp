@@ -2,11 +2,13 @@
 #include <QDialog>
 #include <QDir>
 #include <QFontInfo>
+#include <QHeaderView>
 #include <QMenu>
 #include <QMenuBar>
 #include <QSpinBox>
 #include <QStatusBar>
 #include <QStyleFactory>
+#include <QTableView>
 #include <QTranslator>
 
 #include "WindowTest.h"
@@ -215,6 +217,60 @@ TEST_P(EveryWidget, ofAMessageBoxHasItsRoomAndCanBeRead) {
   lookAt("revert", [&] { action("revertAction").trigger(); });
   lookAt("unreadable", [&] { application.openFiles({folder.filePath(QStringLiteral("gone.nascor"))}); });
   lookAt("close", [&] { front().close(); });
+}
+
+TEST_P(EveryWidget, ofTheCompareWindowHasItsRoomAndCanBeRead) {
+  qt::DocumentWindow& window = open(twins());
+  action("compareAction").trigger();
+  settle();
+  auto* compare = window.findChild<QDialog*>(QStringLiteral("compareDialog"));
+  auto* tabs = compare->findChild<QTabWidget*>(QStringLiteral("compareTabs"));
+  walk(*compare);
+  for (int page = 0; page < tabs->count(); ++page) {
+    tabs->setCurrentIndex(page);
+    settle();
+    auto* table = qobject_cast<QTableView*>(tabs->currentWidget());
+    SCOPED_TRACE(nameOf(*table).toStdString());
+    for (int column = 0; column < table->model()->columnCount(); ++column) {
+      EXPECT_GE(table->columnWidth(column),
+                static_cast<QAbstractItemView*>(table)->sizeHintForColumn(column));
+      EXPECT_GE(table->columnWidth(column), table->horizontalHeader()->sectionSizeHint(column));
+    }
+    const QColor text = table->palette().color(QPalette::Active, QPalette::Text);
+    EXPECT_GE(contrast(text, table->palette().color(QPalette::Active, QPalette::Base)), 4.5);
+    EXPECT_GE(contrast(text, table->palette().color(QPalette::Active, QPalette::AlternateBase)), 4.5);
+    keep(*compare, ("compare-" + std::to_string(page)).c_str());
+  }
+  compare->close();
+}
+
+TEST_P(EveryWidget, ofTheDetailsOfASummaryHasItsRoomAndCanBeRead) {
+  open(twins());
+  bool wasSeen = false;
+  QTimer timer;
+  QObject::connect(&timer, &QTimer::timeout, [&] {
+    auto* details = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+    if (!details || wasSeen) return;
+    wasSeen = true;
+    settle();
+    walk(*details);
+    keep(*details, "summary-details");
+    QTest::keyClick(details, Qt::Key_Escape);
+  });
+  timer.start(1);
+  action("summaryDetailsAction").trigger();
+  EXPECT_TRUE(wasSeen);
+}
+
+TEST_P(EveryWidget, ofAnOverlaidPageCanBeRead) {
+  open(twins());
+  widget<QTabWidget>("tabView").setCurrentIndex(1);
+  settle();
+  const QImage bare = front().grab().toImage();
+  widget<QMenu>("overlayMenu").actions().at(1)->trigger();
+  settle();
+  EXPECT_NE(front().grab().toImage(), bare);
+  keep(front(), "overlay");
 }
 
 TEST_P(EveryWidget, ofTheDatingDialogsHasItsRoomAndCanBeRead) {
