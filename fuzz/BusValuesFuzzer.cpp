@@ -7,6 +7,7 @@
 #include <string>
 #include <string_view>
 
+#include "ValidText.h"
 #include "app/NCDocument.h"
 #include "foundation/LeadingInteger.h"
 #include "foundation/UserDefaults.h"
@@ -40,7 +41,7 @@ scripting::ScriptValue valueIn(char kind, std::string_view bytes) {
     case 1: return !bytes.empty();
     case 2: return foundation::leadingInteger(bytes);
     case 3: return numberIn(bytes);
-    default: return std::string(bytes);
+    default: return validText(bytes);
   }
 }
 

@@ -9,10 +9,10 @@
 #include <string>
 #include <vector>
 
+#include "ValidText.h"
 #include "app/NCDocument.h"
 #include "archive/FormatError.h"
 #include "foundation/UserDefaults.h"
-#include "foundation/Utf8.h"
 #include "framework/Sheet.h"
 #include "model/PatientFile.h"
 #include "support/HeavyDocuments.h"
@@ -53,17 +53,6 @@ void show(app::NCDocument& document) {
   }
 }
 
-/// `text` without what is no UTF-8: no file can hold that.
-std::string valid(std::string_view text) {
-  std::string kept;
-  while (!text.empty()) {
-    const std::size_t length = foundation::characterLength(text);
-    kept += text.substr(0, length);
-    text.remove_prefix(length == 0 ? 1 : length);
-  }
-  return kept;
-}
-
 std::vector<std::byte> repeatedDocument(std::span<const std::uint8_t> data,
                                         const foundation::Calendar& calendar) {
   const auto next = [&](unsigned most) {
@@ -76,7 +65,7 @@ std::vector<std::byte> repeatedDocument(std::span<const std::uint8_t> data,
   const std::int64_t examinations = std::int64_t{1} << next(14);
   const std::int64_t fetuses = std::int64_t{1} << next(14);
   const std::int64_t counted = std::int64_t{1} << next(31);
-  const std::string piece = valid({reinterpret_cast<const char*>(data.data()), data.size()});
+  const std::string piece = validText({reinterpret_cast<const char*>(data.data()), data.size()});
   const std::string text = piece.empty() ? std::string() : tests::repeated(piece, bytes);
   return model::archivedPatient(
       *tests::heavyPatient({.identifier = text,
