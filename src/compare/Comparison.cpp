@@ -172,6 +172,7 @@ std::vector<Length> lengthsAt(const PatientRecord& patient, std::size_t examinat
   const calc::Biometry lengths = lengthsOf(now, fetus);
   const auto age = ageAt(patient, now);
   std::vector<Length> all;
+  all.reserve(calc::kMeasurements.size());
   for (const Measurement measurement : calc::kMeasurements)
     all.push_back(lengthOf(measurement, lengths, age));
   return all;
@@ -183,6 +184,7 @@ std::vector<Weight> weightsAt(const PatientRecord& patient, std::size_t examinat
   const auto age = ageAt(patient, now);
   const auto chosen = valueOf(patient, lengths, Quantity::efw);
   std::vector<Weight> all;
+  all.reserve(calc::weightFormulas().size());
   for (std::size_t formula = 0; formula < calc::weightFormulas().size(); ++formula)
     all.push_back(weightOf(static_cast<std::int64_t>(formula), lengths, chosen, age));
   return all;

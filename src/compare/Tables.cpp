@@ -259,6 +259,7 @@ Table tableOf(TableKind kind, const model::PatientRecord& patient, std::size_t e
 std::vector<Table> tablesOf(const model::PatientRecord& patient, std::size_t examination, std::size_t fetus,
                             const Localizer& localizer) {
   std::vector<Table> tables;
+  tables.reserve(kTableKinds.size());
   for (const TableKind kind : kTableKinds)
     tables.push_back(tableOf(kind, patient, examination, fetus, localizer));
   return tables;
