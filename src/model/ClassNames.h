@@ -23,6 +23,10 @@ namespace class_version {
 inline constexpr std::int64_t patientRecord = 7;
 inline constexpr std::int64_t ncRecord = 1;
 inline constexpr std::int64_t measurementsRecord = 0;
+/// From this version of the patient on the gravidity is a number. Before, it is a text, whose place later files fill with a
+/// word that means nothing.
+inline constexpr std::int64_t patientWithGravida = 7;
+inline constexpr std::string_view gravidityPlaceholder = "Deprecated";
 }  // namespace class_version
 
 }  // namespace nascor::model

@@ -57,7 +57,7 @@ PatientRecord PatientRecord::withoutExaminations() const {
 
 void PatientRecord::encodeWithCoder(Archiver& coder) const {
   coder.encodeString(values_.maternalIDString);
-  coder.encodeString("Deprecated");  // the place of the gravidity in files before version 7
+  coder.encodeString(std::string(class_version::gravidityPlaceholder));
   coder.encodeDate(values_.edd);
   coder.encodeExaminations(ncRecordsArray_);
   coder.encodeInteger(values_.standard);
@@ -84,7 +84,8 @@ PatientRecord PatientRecord::initWithCoder(Unarchiver& coder) {
   patient.setNumberOfFetuses(version >= 4 ? coder.decodeInteger() : 1);
   patient.setExtrapolatedGestation(version >= 5 ? coder.decodeFloat() : 40.0);
   if (version >= 6) patient.setCRLStandard(coder.decodeInteger());
-  patient.setGravida(version >= 7 ? coder.decodeInteger() : gravidaFromOldText(gravidityText));
+  patient.setGravida(version >= class_version::patientWithGravida ? coder.decodeInteger()
+                                                                  : gravidaFromOldText(gravidityText));
   return patient;
 }
 

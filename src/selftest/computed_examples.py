@@ -1,11 +1,11 @@
 #!/usr/bin/env python3
 """Prints ComputedExamples.cpp: worked examples, worked out apart from the program.
 
-    python3 src/selftest/computed_examples.py > src/selftest/ComputedExamples.cpp
+    python3 src/selftest/computed_examples.py [CSV] > /tmp/examples && mv /tmp/examples src/selftest/ComputedExamples.cpp
 
 The formulas and tables are those of tests/calc/expected_values.py, written from the published expressions. The
 references stand here, in arithmetic of 40 digits by mpmath (package python3-mpmath). The coefficients of WHO (2017) are read
-from the CSV that its publication came with, given as the first argument.
+from the CSV that its publication came with; without it the examples of WHO (2017) stay as they are.
 """
 
 import csv
@@ -264,7 +264,11 @@ def main():
     standards_as_references()
     normal_references()
     intergrowth2020()
-    who2017(sys.argv[1])
+    if len(sys.argv) > 1:
+        who2017(sys.argv[1])
+    else:
+        with open(os.path.join(HERE, "ComputedExamples.cpp")) as file:
+            rows.extend(line.rstrip("\n") for line in file if line.startswith('    {"who-2017",'))
     print('#include "selftest/Examples.h"\n\nnamespace nascor::selftest {\nnamespace {\n')
     print("// Worked out by computed_examples.py, which see; to change this file, change and run that.\n")
     print("// clang-format off\n")

@@ -5,6 +5,7 @@
 #include "foundation/ProgramVersion.h"
 #include "foundation/UserDefaults.h"
 #include "model/PatientFile.h"
+#include "model/PatientPage.h"
 #include "support/TestApplication.h"
 
 namespace nascor::app {
@@ -18,6 +19,7 @@ using testing::Not;
 using testing::StartsWith;
 
 constexpr double kDay = 86400.0;
+constexpr std::int64_t kReport = model::indexOf(model::PatientPage::report);
 /// 2027-04-10 00:00 in the zone of the tests, ten hours ahead of UTC.
 constexpr Date kEDD{829008000.0 - 36000.0};
 
@@ -78,11 +80,11 @@ TEST_F(APatientsPages, sayHowManyExaminationsTheReportLeavesOut) {
   std::vector<double> daysBefore;
   for (int i = 0; i < 20; ++i) daysBefore.push_back(200.0 - i);
   open(1, daysBefore);
-  EXPECT_THAT(document.footOfPage(6, 1, 1).lines[1], Contains("10 of 20 examinations shown"));
+  EXPECT_THAT(document.footOfPage(kReport, 1, 1).lines[1], Contains("10 of 20 examinations shown"));
   EXPECT_THAT(document.footOfPage(0, 1, 1).lines[1], Not(Contains("10 of 20 examinations shown")));
   daysBefore.resize(10);
   open(1, daysBefore);
-  EXPECT_EQ(document.footOfPage(6, 1, 1).lines[1].back(), "");
+  EXPECT_EQ(document.footOfPage(kReport, 1, 1).lines[1].back(), "");
 }
 
 TEST_F(APatientsPages, ofOneExaminationNameItsDay) {

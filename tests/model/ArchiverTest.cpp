@@ -335,14 +335,12 @@ const IntegerCase kIntegers[] = {
 TEST(SavingAWholeNumber, writesItsLow32Bits) {
   for (const IntegerCase& row : kIntegers) {
     PatientRecord patient = aPatient();
-    patient.setStandard(row.value);
-    patient.setFetalWeightStandard(row.value);
-    patient.setNumberOfFetuses(row.value);
-    patient.setCRLStandard(row.value);
-    patient.setGravida(row.value);
+    for (const model::PatientValue& value : model::kPatientValues) {
+      if (const auto* integer = std::get_if<model::PatientValue::Integer>(&value.member))
+        patient.values().*(*integer) = row.value;
+    }
     PatientParts parts;
-    parts.standard = parts.fetalWeightStandard = parts.numberOfFetuses = parts.crlStandard = parts.gravida =
-        group("i", row.dump);
+    parts.setIntegers(group("i", row.dump));
     EXPECT_EQ(hexOfFile(patient), hexOfFile(parts)) << row.value;
   }
 }

@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "StreamBuilder.h"
+#include "model/ClassNames.h"
 
 namespace nascor::tests {
 
@@ -56,7 +57,7 @@ struct ExaminationParts {
 /// A document of any class version, with whatever stands in its places. Those that its version does not have are left out.
 struct PatientParts {
   StreamBuilder::Order order = StreamBuilder::Order::little;
-  std::int64_t version = 7;
+  std::int64_t version = model::class_version::patientRecord;
   std::int64_t ncRecordVersion = 1;
   Put maternalIDString = text("A-1024");
   Put gravidityText = text("Deprecated");
@@ -79,18 +80,26 @@ struct PatientParts {
     file.setVersion("PatientRecord", version);
     file.setVersion("NCRecord", ncRecordVersion);
     file.begin("PatientRecord");
+    putPlacesOf(version, file);
+    return file.bytes();
+  }
+  /// The places of that version, whatever version the file states.
+  void putPlacesOf(std::int64_t places, StreamBuilder& file) const {
     maternalIDString(file);
     gravidityText(file);
     edd(file);
     ncRecordsArray(file);
-    if (version >= 2) standard(file);
-    if (version >= 3) fetalWeightStandard(file);
-    if (version >= 4) numberOfFetuses(file);
-    if (version >= 5) extrapolatedGestation(file);
-    if (version >= 6) crlStandard(file);
-    if (version >= 7) gravida(file);
+    if (places >= 2) standard(file);
+    if (places >= 3) fetalWeightStandard(file);
+    if (places >= 4) numberOfFetuses(file);
+    if (places >= 5) extrapolatedGestation(file);
+    if (places >= 6) crlStandard(file);
+    if (places >= 7) gravida(file);
     rest(file);
-    return file.bytes();
+  }
+  /// Puts the same into the place of every whole number.
+  void setIntegers(const Put& value) {
+    standard = fetalWeightStandard = numberOfFetuses = crlStandard = gravida = value;
   }
 };
 

@@ -408,16 +408,11 @@ TEST(APatientThatStatesALaterVersionThanItsValues, isRefused) {
 }
 
 TEST(APatientThatStatesAnEarlierVersionThanItsValues, isRefused) {
-  for (std::int64_t version = 0; version < 7; ++version) {
+  for (std::int64_t version = 0; version < model::class_version::patientRecord; ++version) {
     StreamBuilder file;
     file.setVersion("PatientRecord", version);
     file.begin("PatientRecord");
-    const PatientParts parts;
-    for (const Put& put : {parts.maternalIDString, parts.gravidityText, parts.edd, parts.ncRecordsArray,
-                           parts.standard, parts.fetalWeightStandard, parts.numberOfFetuses,
-                           parts.extrapolatedGestation, parts.crlStandard, parts.gravida, parts.rest}) {
-      put(file);
-    }
+    PatientParts().putPlacesOf(model::class_version::patientRecord, file);
     expectRefusal(file.bytes(), 0, {});
   }
 }

@@ -12,6 +12,8 @@
 #include <string_view>
 #include <vector>
 
+#include "model/ClassNames.h"
+
 namespace nascor::tests {
 
 using Bytes = std::vector<std::byte>;
@@ -194,8 +196,10 @@ class StreamBuilder {
   Bytes bytes_;
   std::map<std::string, Label> texts_;
   std::map<std::string, Label> classes_;
-  std::map<std::string, std::int64_t> versions_{
-      {"PatientRecord", 7}, {"NCRecord", 1}, {"NSString", 1}, {"NSMutableString", 1}};
+  std::map<std::string, std::int64_t> versions_{{"PatientRecord", model::class_version::patientRecord},
+                                                {"NCRecord", 1},
+                                                {"NSString", 1},
+                                                {"NSMutableString", 1}};
   Label labels_ = 0;
 };
 

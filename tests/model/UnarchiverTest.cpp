@@ -175,12 +175,7 @@ TEST(AFileOfMeasurementsOfALaterVersion, isReadAllTheSame) {
   StreamBuilder file;
   file.setVersion("MeasurementsRecord", 3);
   file.begin("PatientRecord");
-  PatientParts parts;
-  for (const Put& put : {parts.maternalIDString, parts.gravidityText, parts.edd, parts.ncRecordsArray,
-                         parts.standard, parts.fetalWeightStandard, parts.numberOfFetuses,
-                         parts.extrapolatedGestation, parts.crlStandard, parts.gravida, parts.rest}) {
-    put(file);
-  }
+  PatientParts().putPlacesOf(model::class_version::patientRecord, file);
   const auto [patient, facts] = unarchivedPatient(file.bytes());
   EXPECT_EQ(lengthsOf(patient->ncRecordsArray()[0]->measurements()[0]), (Lengths{48.5, 175.0, 150.25, 33.5}));
   EXPECT_EQ(facts.measurementsVersion, 3);
@@ -248,7 +243,7 @@ TEST(AnOldGravidityText, becomesANumberInEveryVersionBefore7) {
                                       {text(" 3"), 3},      {text("$3"), 0},  {text("-3"), 1},
                                       {text("\u6f223"), 1}, {nil(), 1},       {text("3\u20ac"), 3}};
   for (const OldGravidity& row : gravidities) {
-    for (std::int64_t version = 0; version <= 7; ++version) {
+    for (std::int64_t version = 0; version <= model::class_version::patientRecord; ++version) {
       PatientParts parts{.version = version, .gravidityText = row.place};
       if (version == 2 || version == 3) parts.standard = parts.fetalWeightStandard = single(1);
       EXPECT_EQ(read(parts).gravida(), version < 7 ? row.gravida : 4) << "version " << version;
@@ -366,14 +361,13 @@ const IntegerCase kIntegers[] = {
 TEST(AWholeNumber, keepsItsSign) {
   for (const IntegerCase& row : kIntegers) {
     PatientParts parts;
-    parts.standard = parts.fetalWeightStandard = parts.numberOfFetuses = parts.crlStandard = parts.gravida =
-        group("i", row.dump);
+    parts.setIntegers(group("i", row.dump));
     const PatientRecord patient = read(parts);
-    EXPECT_EQ(patient.standard(), row.value) << row.dump;
-    EXPECT_EQ(patient.fetalWeightStandard(), row.value) << row.dump;
-    EXPECT_EQ(patient.numberOfFetuses(), row.value) << row.dump;
-    EXPECT_EQ(patient.crlStandard(), row.value) << row.dump;
-    EXPECT_EQ(patient.gravida(), row.value) << row.dump;
+    for (const model::PatientValue& value : model::kPatientValues) {
+      if (const auto* integer = std::get_if<model::PatientValue::Integer>(&value.member)) {
+        EXPECT_EQ(patient.values().*(*integer), row.value) << value.name << ' ' << row.dump;
+      }
+    }
   }
 }
 

@@ -8,6 +8,7 @@
 #include <array>
 
 #include "WindowTest.h"
+#include "model/PatientPage.h"
 #include "painting/PageFiles.h"
 #include "support/HeavyDocuments.h"
 #include "support/Spent.h"
@@ -55,7 +56,8 @@ TEST_P(AWindowOfAnyWeight, opensPaintsTypesExportsPrintsAndSaves) {
     }
   });
   for (const PageFormat format : {PageFormat::pdf, PageFormat::png, PageFormat::svg}) {
-    for (const std::int64_t page : {std::int64_t{0}, std::int64_t{6}}) {
+    for (const std::int64_t page :
+         {model::indexOf(model::PatientPage::trends), model::indexOf(model::PatientPage::report)}) {
       step("exporting", [&] {
         const qt::LaidOutSheet sheet(
             {.page = document().tabView().page(page), .foot = document().footOfPage(page, 1, 1)});

@@ -9,6 +9,7 @@
 #include "Run.h"
 #include "WindowTest.h"
 #include "framework/PageWriter.h"
+#include "model/PatientPage.h"
 #include "window/PageView.h"
 
 namespace nascor::tests {
@@ -165,7 +166,7 @@ TEST_F(ThePages, sayWhatIsMissingUntilItIsThere) {
       advice(),
       "No EDD, so no marks. Patient > EDD from ...\nNo lengths, so no marks. Type BPD, HC, AC or FL beside "
       "the page.");
-  show(6);
+  show(static_cast<int>(model::indexOf(model::PatientPage::report)));
   EXPECT_THAT(advice(), testing::HasSubstr("No EDD, so no ages."));
   enter("bpdField", "50");
   enter("birthDateField", "4/10/27");

@@ -7,7 +7,10 @@
 #include "archive/FormatError.h"
 #include "calc/Dating.h"
 #include "calc/Plausibility.h"
+#include "model/ClassNames.h"
+#include "model/PatientDifferences.h"
 #include "model/PatientFile.h"
+#include "synthetic_clinic/OldDocument.h"
 #include "synthetic_clinic/TarText.h"
 #include "synthetic_clinic/Zone.h"
 
@@ -25,6 +28,15 @@ TEST(AClinic, hasTheSameBytesInAnyOrder) {
   EXPECT_NE(Clinic(8).document(3).bytes, one.document(3).bytes);
   EXPECT_NE(one.document(4).bytes, one.document(3).bytes);
   EXPECT_EQ(one.document(12345).name, "0012/NC-0012345.nascor");
+}
+
+// What writes earlier versions knows the places of the last one too, so that none is forgotten when there is a next.
+TEST(AClinic, keepsAllOfAPatientInTheLastVersion) {
+  const model::PatientRecord patient = Clinic().patient(3);
+  const auto old = model::unarchivedPatient(oldDocument(patient, model::class_version::patientRecord));
+  const auto usual = model::unarchivedPatient(model::archivedPatient(patient));
+  EXPECT_TRUE(model::patientDifferences(*old.patient, *usual.patient, 1).empty());
+  EXPECT_EQ(old.facts.gravidityText, usual.facts.gravidityText);
 }
 
 TEST(AClinic, hasOneDamagedDocumentInEachThousand) {

@@ -46,7 +46,7 @@ class Check {
     version(model::class_name::ncRecord, facts_.ncRecordVersion, model::class_version::ncRecord);
     version(model::class_name::measurementsRecord, facts_.measurementsVersion,
             model::class_version::measurementsRecord);
-    if (facts_.patientVersion >= model::class_version::patientRecord &&
+    if (facts_.patientVersion >= model::class_version::patientWithGravida &&
         facts_.gravidityText != kNoGravidityText) {
       add("gravidityText", facts_.gravidityText
                                ? "the old place of the gravidity holds " + inQuotes(*facts_.gravidityText)

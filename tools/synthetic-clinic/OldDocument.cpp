@@ -26,7 +26,9 @@ class OldArchiver {
     const ClassDescription patientClass{class_name::patientRecord, version_, &kRoot};
     writer_.putObject(patientClass);
     text(patient.maternalIDString());
-    text(std::to_string(patient.gravida()));
+    const bool hasGravida = version_ >= model::class_version::patientWithGravida;
+    text(hasGravida ? std::string(model::class_version::gravidityPlaceholder)
+                    : std::to_string(patient.gravida()));
     date(patient.edd());
     examinations(patient);
     if (version_ >= 2) standard(patient.standard());
@@ -34,6 +36,7 @@ class OldArchiver {
     if (version_ >= 4) integer(patient.numberOfFetuses());
     if (version_ >= 5) writer_.putFloat(foundation::narrowedToFloat(patient.extrapolatedGestation()));
     if (version_ >= 6) integer(patient.crlStandard());
+    if (hasGravida) integer(patient.gravida());
     writer_.endObject();
     return std::move(writer_).finish();
   }
