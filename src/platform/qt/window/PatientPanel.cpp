@@ -1,6 +1,7 @@
 #include "window/PatientPanel.h"
 
 #include <QApplication>
+#include <QHash>
 #include <QLabel>
 #include <QPointer>
 #include <QScrollArea>
@@ -110,10 +111,12 @@ void PatientPanel::bindNote() {
 
 void PatientPanel::bindAssessment() {
   app::Assessment& assessment = document_->assessment();
+  QHash<QString, QLabel*> byName;
+  for (QLabel* label : window_.findChildren<QLabel*>()) byName.insert(label->objectName(), label);
   for (framework::TextField* text : assessment.texts()) {
     // Those of the dialogs are bound by the dialogs.
-    auto* label = window_.findChild<QLabel*>(fromUtf8(text->name()));
-    if (label) subscriptions_.push_back(bindLabel(*label, *text));
+    if (QLabel* label = byName.value(fromUtf8(text->name())))
+      subscriptions_.push_back(bindLabel(*label, *text));
   }
   // Room for the longest, so that nothing moves while the user types. A label rounds its width up by itself.
   const auto room = [this](std::initializer_list<QLabel*> labels, const QString& longest) {
@@ -123,8 +126,9 @@ void PatientPanel::bindAssessment() {
   room({ui_.bpdZ, ui_.hcZ, ui_.acZ, ui_.flZ}, QStringLiteral("+99.99"));
   room({ui_.bpdCentile, ui_.hcCentile, ui_.acCentile, ui_.flCentile}, QStringLiteral(">99.9"));
   // An empty label wants a little room too.
-  for (QLabel* sign : {ui_.bpdSign, ui_.hcSign, ui_.acSign, ui_.flSign, ui_.ageSign})
-    sign->setMinimumWidth(std::max(sign->fontMetrics().averageCharWidth(), sign->sizeHint().width()));
+  const int sign = std::max(ui_.bpdSign->fontMetrics().averageCharWidth(), ui_.bpdSign->sizeHint().width());
+  for (QLabel* label : {ui_.bpdSign, ui_.hcSign, ui_.acSign, ui_.flSign, ui_.ageSign})
+    label->setMinimumWidth(sign);
   const auto show = [this] { showRemarks(); };
   for (const calc::Measurement measurement : calc::kMeasurements)
     subscriptions_.push_back(assessment.length(measurement).remark.onChange.subscribe(show));
