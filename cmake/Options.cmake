@@ -37,7 +37,9 @@ if(NASCOR_COVERAGE)
     # gcc counts the edges of exceptions as branches, most of which no test can take.
     message(FATAL_ERROR "Source coverage needs clang: cmake --preset coverage")
   endif()
-  target_compile_options(nascor_options INTERFACE -fprofile-instr-generate -fcoverage-mapping
+  # LLVM_PROFILE_FILE says where profiles go, and without it they go nowhere. The place that is compiled in is a whole path:
+  # a cache of compilations would take one within the build folder for a reason to compile again in another checkout.
+  target_compile_options(nascor_options INTERFACE -fprofile-instr-generate=/dev/null -fcoverage-mapping
     -fcoverage-compilation-dir=.)
   target_link_options(nascor_options INTERFACE -fprofile-instr-generate)
 endif()
