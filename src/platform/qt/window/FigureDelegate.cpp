@@ -31,8 +31,8 @@ QFont inBold(QFont font) {
 }
 
 QPalette::ColorGroup groupOf(QStyle::State state) {
-  if (!(state & QStyle::State_Enabled)) return QPalette::Disabled;
-  return state & QStyle::State_Active ? QPalette::Normal : QPalette::Inactive;
+  if (!state.testFlag(QStyle::State_Enabled)) return QPalette::Disabled;
+  return state.testFlag(QStyle::State_Active) ? QPalette::Normal : QPalette::Inactive;
 }
 
 }  // namespace
@@ -47,7 +47,7 @@ void FigureDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option
   // A column that the user made narrow: the style cuts the text and says so by three dots.
   if (layout.size().width() > room.width()) return QStyledItemDelegate::paint(painter, option, index);
 
-  if (option.state & (QStyle::State_Selected | QStyle::State_HasFocus | QStyle::State_MouseOver)) {
+  if (option.state.testAnyFlags(QStyle::State_Selected | QStyle::State_HasFocus | QStyle::State_MouseOver)) {
     // Without a text the style draws what lies behind it and around it; behind other cells there is nothing.
     QStyleOptionViewItem item = option;
     item.index = index;
@@ -58,9 +58,9 @@ void FigureDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option
   const Qt::Alignment alignment =
       QStyle::visualAlignment(option.direction, index.data(Qt::TextAlignmentRole).value<Qt::Alignment>());
   const double free = room.width() - layout.size().width();
-  const double x = room.x() + (alignment & Qt::AlignRight ? free : 0.0);
+  const double x = room.x() + (alignment.testFlag(Qt::AlignRight) ? free : 0.0);
   const double y = room.y() + (room.height() - layout.size().height()) / 2.0;
-  const bool isSelected = option.state & QStyle::State_Selected;
+  const bool isSelected = option.state.testFlag(QStyle::State_Selected);
   painter->save();
   painter->setFont(bold ? inBold(option.font) : option.font);
   painter->setPen(
