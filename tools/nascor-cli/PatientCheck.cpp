@@ -47,7 +47,7 @@ class Check {
     version(model::class_name::measurementsRecord, facts_.measurementsVersion,
             model::class_version::measurementsRecord);
     if (facts_.patientVersion >= model::class_version::patientWithGravida &&
-        facts_.gravidityText != kNoGravidityText) {
+        facts_.gravidityText != model::class_version::gravidityPlaceholder) {
       add("gravidityText", facts_.gravidityText
                                ? "the old place of the gravidity holds " + inQuotes(*facts_.gravidityText)
                                : "the old place of the gravidity holds nothing");
@@ -178,7 +178,6 @@ class Check {
   static std::string inQuotes(const std::string& text) { return '"' + text + '"'; }
 
   /// What stands in the old place since the gravidity is a number of its own.
-  static constexpr std::string_view kNoGravidityText = "Deprecated";
 
   const model::ArchiveFacts& facts_;
   const PatientRecord& patient_;
