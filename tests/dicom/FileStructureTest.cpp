@@ -67,6 +67,25 @@ TEST(TheStructure, isRefusedWhereItEnds) {
   EXPECT_THAT(fault(file(tag(0x40, 0xA160))), HasSubstr("cut off"));
 }
 
+/// An element with a length of four bytes.
+std::string longElement(const char* vr, std::uint32_t length, const std::string& value) {
+  return tag(0x40, 0xA160) + vr + little(0, 2) + little(length, 4) + value;
+}
+
+TEST(TheStructure, hasLongLengthsForWhatDicomMayYetAdd) {
+  EXPECT_EQ(fault(file(longElement("ZZ", 4, "text") + kText)), "");
+  EXPECT_THAT(fault(file(longElement("ZZ", 0xFFFE3500U, "text"))), HasSubstr("cut off"));
+  // What once filled the place of a representation was of two bytes.
+  EXPECT_EQ(fault(file(shortElement(0x40, 0xA160, "??", "text") + kText)), "");
+}
+
+TEST(TheStructure, isRefusedWhereAKindIsNone) {
+  for (const char* vr : {"ox", "lt", "pi", "Lo", "lO"})
+    EXPECT_THAT(fault(file(longElement(vr, 4, "text"))), HasSubstr("of a kind that DICOM does not have"));
+  for (const char* vr : {"UT", "UC", "OF", "ZZ"})
+    EXPECT_THAT(fault(file(longElement(vr, kUndefined, kText + kSequenceEnd))), HasSubstr("damaged")) << vr;
+}
+
 TEST(TheStructure, isRefusedWhereNestedTooDeep) {
   // Without lengths, each level takes twenty bytes; DCMTK would read them by recursion.
   std::string deep;

@@ -21,6 +21,7 @@ constexpr std::size_t kDeepest = 128;
 
 constexpr std::string_view kCutOff = "is cut off: it ends before its end";
 constexpr std::string_view kDamaged = "is damaged: a part is longer than what holds it";
+constexpr std::string_view kUnknown = "is damaged: a part is of a kind that DICOM does not have";
 
 struct Encoding {
   bool isExplicit = true;
@@ -75,18 +76,30 @@ class Walk {
 
   bool has(std::size_t count) const { return text_.size() - at_ >= count; }
 
+  static bool isCapital(char letter) { return letter >= 'A' && letter <= 'Z'; }
+  static bool isSmall(char letter) { return letter >= 'a' && letter <= 'z'; }
+
+  /// Whether a length of four bytes stands behind two that are reserved. It does for what DICOM may yet add (PS3.5, 7.1.2),
+  /// for which DCMTK takes any two capitals that it does not know.
+  static bool hasLongLength(std::string_view vr) {
+    constexpr std::array<std::string_view, 21> kShort{"AE", "AS", "AT", "CS", "DA", "DS", "DT",
+                                                      "FD", "FL", "IS", "LO", "LT", "PN", "SH",
+                                                      "SL", "SS", "ST", "TM", "UI", "UL", "US"};
+    return std::ranges::all_of(vr, isCapital) && std::ranges::find(kShort, vr) == kShort.end();
+  }
+
   /// Reads tag, representation and length at `at_` and steps behind them.
   bool readHeader(Encoding encoding, Header& result) {
-    constexpr std::array<std::string_view, 13> kLong{"OB", "OD", "OF", "OL", "OV", "OW", "SQ",
-                                                     "UC", "UR", "UT", "UN", "SV", "UV"};
     if (!has(8)) return refuse(kCutOff);
     result.tag = tagAt(at_, encoding.isBigEndian);
     const bool isDelimiter = result.tag >> 16U == kItem >> 16U;
     result.vr = encoding.isExplicit && !isDelimiter ? text_.substr(at_ + 4, 2) : std::string_view();
+    // In small letters DCMTK would take one for a representation of its own, and then for a length what is none.
+    if (std::ranges::any_of(result.vr, isSmall)) return refuse(kUnknown);
     if (result.vr.empty()) {
       result.length = number(at_ + 4, 4, encoding.isBigEndian);
       at_ += 8;
-    } else if (std::ranges::find(kLong, result.vr) == kLong.end()) {
+    } else if (!hasLongLength(result.vr)) {
       result.length = number(at_ + 6, 2, encoding.isBigEndian);
       at_ += 8;
     } else {
@@ -150,6 +163,8 @@ class Walk {
     if (!lengthFits(header.length)) return false;
 
     if (header.length == kUndefined) {
+      constexpr std::array<std::string_view, 5> kMayBeSequences{"", "OB", "OW", "SQ", "UN"};
+      if (std::ranges::find(kMayBeSequences, header.vr) == kMayBeSequences.end()) return refuse(kDamaged);
       const bool isUnknown = header.vr == "UN";
       return open({.end = 0,
                    .isUndefined = true,
