@@ -131,14 +131,19 @@ void PageView::setAdvice(const QString& advice) {
     advice_->setAutoFillBackground(true);
     advice_->setBackgroundRole(QPalette::ToolTipBase);
     advice_->setForegroundRole(QPalette::ToolTipText);
+    advice_->hide();
   }
   advice_->setText(advice);
-  advice_->setHidden(advice.isEmpty());
   placeAdvice();
 }
 
 void PageView::placeAdvice() {
-  if (!advice_ || advice_->isHidden()) return;
+  // Before the view has its size, placing would wrap the text again and again into a window of nothing.
+  if (!advice_ || testAttribute(Qt::WA_PendingResizeEvent)) return;
+  if (advice_->text().isEmpty()) {
+    advice_->hide();
+    return;
+  }
   // Under the curves, where a chart is empty; clear of the axis below it.
   constexpr double kFromRight = 24.0;
   constexpr double kFromBottom = 76.0;
@@ -146,13 +151,15 @@ void PageView::placeAdvice() {
   const QRectF area = viewport();
   const double right = std::min(page.right() - kFromRight * scale(), area.right() - kMargin);
   const double bottom = std::min(page.bottom() - kFromBottom * scale(), area.bottom() - kMargin);
-  advice_->setWordWrap(false);
   const int most = static_cast<int>(area.width() - 2.0 * kMargin);
-  advice_->setWordWrap(advice_->sizeHint().width() > most);
+  // Each change of wrapping lays the text out.
+  if (advice_->wordWrap()) advice_->setWordWrap(false);
+  if (advice_->sizeHint().width() > most) advice_->setWordWrap(true);
   const int width = std::min(advice_->sizeHint().width(), most);
   const int height = advice_->wordWrap() ? advice_->heightForWidth(width) : advice_->sizeHint().height();
   advice_->setGeometry(std::max(static_cast<int>(kMargin), static_cast<int>(right) - width),
                        std::max(static_cast<int>(kMargin), static_cast<int>(bottom) - height), width, height);
+  advice_->show();
 }
 
 QSize PageView::sizeHint() const { return QSizeF(Page::kWidth, Page::kHeight).toSize(); }
