@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 
 #include <cstring>
+#include <tuple>
 
 namespace nascor::tests {
 namespace {
@@ -10,7 +11,8 @@ namespace {
 using testing::HasSubstr;
 
 std::string fault(const std::string& file) {
-  return dicom::structureFault(std::as_bytes(std::span(file))).value_or("");
+  const auto found = dicom::dataSetIn(std::as_bytes(std::span(file)));
+  return found.index() == 0 ? "" : std::get<1>(found);
 }
 
 std::string little(std::uint32_t value, std::size_t size) {
@@ -49,6 +51,22 @@ TEST(TheStructure, ofAWholeFileIsWhole) {
       fault(file(sequence(kUndefined, item(kUndefined, kText + kItemEnd) + item(12, kText) + kSequenceEnd))),
       "");
   EXPECT_EQ(fault(file(sequence(kUndefined, item(12, kText) + kSequenceEnd) + kText)), "");
+}
+
+TEST(TheStructure, saysWhereTheDataSetStandsAndHowItIsWritten) {
+  for (const auto& [syntax, isExplicit, isBigEndian] :
+       {std::tuple("1.2.840.10008.1.2", false, false), std::tuple("1.2.840.10008.1.2.1", true, false),
+        std::tuple("1.2.840.10008.1.2.2", true, true)}) {
+    const std::string whole = file("", syntax);
+    const auto found = dicom::dataSetIn(std::as_bytes(std::span(whole)));
+    const auto& dataSet = std::get<dicom::DataSet>(found);
+    EXPECT_TRUE(dataSet.bytes.empty());
+    EXPECT_EQ(dataSet.encoding.isExplicit, isExplicit) << syntax;
+    EXPECT_EQ(dataSet.encoding.isBigEndian, isBigEndian) << syntax;
+  }
+  const std::string whole = file(kText);
+  const auto found = dicom::dataSetIn(std::as_bytes(std::span(whole)));
+  EXPECT_EQ(std::get<dicom::DataSet>(found).bytes.size(), kText.size());
 }
 
 TEST(TheStructure, isRefusedWhereAPartIsLongerThanWhatHoldsIt) {

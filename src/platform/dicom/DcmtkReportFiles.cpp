@@ -442,16 +442,22 @@ DcmtkReportFiles::DcmtkReportFiles() {
 }
 
 std::variant<StructuredReport, std::string> DcmtkReportFiles::read(std::span<const std::byte> bytes) {
-  if (auto fault = structureFault(bytes)) return std::move(*fault);
+  auto found = dataSetIn(bytes);
+  if (auto* fault = std::get_if<std::string>(&found)) return std::move(*fault);
+  const auto& [elements, encoding] = std::get<DataSet>(found);
+  // From a header in which it misses something DCMTK would guess the encoding, and then lengths.
+  const E_TransferSyntax syntax = encoding.isBigEndian  ? EXS_BigEndianExplicit
+                                  : encoding.isExplicit ? EXS_LittleEndianExplicit
+                                                        : EXS_LittleEndianImplicit;
   DcmInputBufferStream stream;
-  stream.setBuffer(bytes.data(), static_cast<offile_off_t>(bytes.size()));
+  stream.setBuffer(elements.data(), static_cast<offile_off_t>(elements.size()));
   stream.setEos();
-  DcmFileFormat file;
-  file.transferInit();
-  const OFCondition status = file.read(stream);
-  file.transferEnd();
+  DcmDataset dataset;
+  dataset.transferInit();
+  const OFCondition status = dataset.read(stream, syntax);
+  dataset.transferEnd();
   if (status.bad()) return std::string("is damaged: ") + status.text();
-  return Reader(*file.getDataset()).report();
+  return Reader(dataset).report();
 }
 
 std::variant<std::vector<std::byte>, std::string> DcmtkReportFiles::write(const StructuredReport& report) {

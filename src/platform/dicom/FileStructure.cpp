@@ -23,11 +23,6 @@ constexpr std::string_view kCutOff = "is cut off: it ends before its end";
 constexpr std::string_view kDamaged = "is damaged: a part is longer than what holds it";
 constexpr std::string_view kUnknown = "is damaged: a part is of a kind that DICOM does not have";
 
-struct Encoding {
-  bool isExplicit = true;
-  bool isBigEndian = false;
-};
-
 /// A sequence, or an item of one, that is open.
 struct Level {
   std::size_t end = 0;  ///< of a defined length
@@ -45,14 +40,15 @@ struct Header {
 class Walk {
  public:
   explicit Walk(std::span<const std::byte> bytes)
-      : text_(reinterpret_cast<const char*>(bytes.data()), bytes.size()) {}
+      : bytes_(bytes), text_(reinterpret_cast<const char*>(bytes.data()), bytes.size()) {}
 
-  std::optional<std::string> fault() {
+  std::variant<DataSet, std::string> dataSet() {
     if (text_.substr(std::min(kPreamble, text_.size()), 4) != "DICM") return "is no DICOM file";
     at_ = kPreamble + 4;
     if (!header()) return fault_;
+    const DataSet found{.bytes = bytes_.subspan(at_), .encoding = encoding_};
     if (!elements()) return fault_;
-    return std::nullopt;
+    return found;
   }
 
  private:
@@ -209,7 +205,8 @@ class Walk {
     return true;
   }
 
-  std::string_view text_;
+  std::span<const std::byte> bytes_;
+  std::string_view text_;  ///< the same bytes
   std::size_t at_ = 0;
   Encoding encoding_;
   bool syntaxIsKnown_ = false;
@@ -219,6 +216,8 @@ class Walk {
 
 }  // namespace
 
-std::optional<std::string> structureFault(std::span<const std::byte> bytes) { return Walk(bytes).fault(); }
+std::variant<DataSet, std::string> dataSetIn(std::span<const std::byte> bytes) {
+  return Walk(bytes).dataSet();
+}
 
 }  // namespace nascor::dicom

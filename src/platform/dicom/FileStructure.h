@@ -1,15 +1,27 @@
 #pragma once
 
 #include <cstddef>
-#include <optional>
 #include <span>
 #include <string>
+#include <variant>
 
 namespace nascor::dicom {
 
+/// How the elements of a data set are written.
+struct Encoding {
+  bool isExplicit = true;
+  bool isBigEndian = false;
+};
+
+/// Where the elements of a file stand that come after its header.
+struct DataSet {
+  std::span<const std::byte> bytes;
+  Encoding encoding;
+};
+
 /// Looks at the structure of a DICOM file alone: that it has its header, that every element lies within what holds it,
 /// that nothing is cut off, and that sequences are not nested deeper than a report ever nests them (DCMTK reads them by
-/// recursion). Nothing when all is well, else a sentence.
-std::optional<std::string> structureFault(std::span<const std::byte> bytes);
+/// recursion). Its data set when all is well, within `bytes`, else a sentence.
+std::variant<DataSet, std::string> dataSetIn(std::span<const std::byte> bytes);
 
 }  // namespace nascor::dicom
