@@ -7,6 +7,8 @@
 //   NASCOR_FAULT_ERROR   the number of the error
 //   NASCOR_FAULT_FAT     set: the file system has no permissions, links, access lists and unnamed files
 //   NASCOR_FAULT_LOG     a file to which the name of each call is added, a line each
+//
+// A program that tries many faults itself sets these before each, and calls `nascorCountCallsAnew`.
 #include <dirent.h>
 #include <dlfcn.h>
 #include <fcntl.h>
@@ -116,6 +118,8 @@ mode_t modeBehind(int flags, va_list arguments) {
 #pragma GCC diagnostic ignored "-Wshadow"
 
 extern "C" {
+
+void nascorCountCallsAnew() { calls = 0; }
 
 int open(const char* path, int flags, ...) {
   va_list arguments;
