@@ -98,10 +98,18 @@ TEST(TheStructure, hasLongLengthsForWhatDicomMayYetAdd) {
 }
 
 TEST(TheStructure, isRefusedWhereAKindIsNone) {
-  for (const char* vr : {"ox", "lt", "pi", "Lo", "lO"})
+  for (const char* vr : {"ox", "lt", "pi", "Lo", "lO", "  ", "?A", "\x01\x01"})
     EXPECT_THAT(fault(file(longElement(vr, 4, "text"))), HasSubstr("of a kind that DICOM does not have"));
   for (const char* vr : {"UT", "UC", "OF", "ZZ"})
     EXPECT_THAT(fault(file(longElement(vr, kUndefined, kText + kSequenceEnd))), HasSubstr("damaged")) << vr;
+}
+
+TEST(TheStructure, isRefusedWhereThereAreMorePartsThanInAnyReport) {
+  // One element is the header's.
+  std::string many;
+  for (int i = 0; i < 99'999; ++i) many += kText;
+  EXPECT_EQ(fault(file(many)), "");
+  EXPECT_THAT(fault(file(many + kText)), HasSubstr("more parts"));
 }
 
 TEST(TheStructure, isRefusedWhereNestedTooDeep) {

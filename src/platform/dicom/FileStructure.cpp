@@ -18,6 +18,8 @@ constexpr std::uint32_t kSequenceEnd = 0xFFFEE0DDU;
 constexpr std::uint32_t kTransferSyntax = 0x00020010U;
 /// Two levels for each level of a report's content.
 constexpr std::size_t kDeepest = 128;
+/// Elements and items. A thousand values take forty thousand; DCMTK takes two or three microseconds for each.
+constexpr std::size_t kMost = 100'000;
 
 constexpr std::string_view kCutOff = "is cut off: it ends before its end";
 constexpr std::string_view kDamaged = "is damaged: a part is longer than what holds it";
@@ -73,7 +75,10 @@ class Walk {
   bool has(std::size_t count) const { return text_.size() - at_ >= count; }
 
   static bool isCapital(char letter) { return letter >= 'A' && letter <= 'Z'; }
-  static bool isSmall(char letter) { return letter >= 'a' && letter <= 'z'; }
+  /// Two question marks are what some writers have put where they knew none.
+  static bool isRepresentation(std::string_view vr) {
+    return std::ranges::all_of(vr, isCapital) || vr == "??";
+  }
 
   /// Whether a length of four bytes stands behind two that are reserved. It does for what DICOM may yet add (PS3.5, 7.1.2),
   /// for which DCMTK takes any two capitals that it does not know.
@@ -90,8 +95,9 @@ class Walk {
     result.tag = tagAt(at_, encoding.isBigEndian);
     const bool isDelimiter = result.tag >> 16U == kItem >> 16U;
     result.vr = encoding.isExplicit && !isDelimiter ? text_.substr(at_ + 4, 2) : std::string_view();
-    // In small letters DCMTK would take one for a representation of its own, and then for a length what is none.
-    if (std::ranges::any_of(result.vr, isSmall)) return refuse(kUnknown);
+    // What is none DCMTK may take for one of its own, and then for a length what is none.
+    if (!isRepresentation(result.vr)) return refuse(kUnknown);
+    if (++count_ > kMost) return refuse("has more parts than any report");
     if (result.vr.empty()) {
       result.length = number(at_ + 4, 4, encoding.isBigEndian);
       at_ += 8;
@@ -208,6 +214,7 @@ class Walk {
   std::span<const std::byte> bytes_;
   std::string_view text_;  ///< the same bytes
   std::size_t at_ = 0;
+  std::size_t count_ = 0;  ///< of elements and items so far
   Encoding encoding_;
   bool syntaxIsKnown_ = false;
   std::vector<Level> levels_;

@@ -20,8 +20,8 @@ struct DataSet {
 };
 
 /// Looks at the structure of a DICOM file alone: that it has its header, that every element lies within what holds it,
-/// that nothing is cut off, and that sequences are not nested deeper than a report ever nests them (DCMTK reads them by
-/// recursion). Its data set when all is well, within `bytes`, else a sentence.
+/// that nothing is cut off, that it has no more elements than any report, and that sequences are not nested deeper than a
+/// report ever nests them (DCMTK reads them by recursion). Its data set when all is well, within `bytes`, else a sentence.
 std::variant<DataSet, std::string> dataSetIn(std::span<const std::byte> bytes);
 
 }  // namespace nascor::dicom
