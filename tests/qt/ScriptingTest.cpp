@@ -300,6 +300,25 @@ TEST_F(AScript, isToldWhyAFileDoesNotOpen) {
   EXPECT_EQ(script->documents().size(), 1U);
 }
 
+TEST_F(AScript, isRefusedAtOnceWhatAnotherProgramHasOpen) {
+  start();
+  const QString held = file("held.nascor", twins());
+  QProcess other;
+  other.start(QStringLiteral(NASCOR_DRIVE), {});
+  other.write(("{\"open\":\"" + held + "\"}\n").toUtf8());
+  ASSERT_TRUE(other.waitForReadyRead(kPatience));
+  const QDBusMessage refused = script->application("open", {held});
+  EXPECT_EQ(nameOfError(refused), "org.nascor.Error.CannotOpen");
+  EXPECT_THAT(refused.errorMessage().toStdString(),
+              HasSubstr(held.toStdString() + ": It is open elsewhere."));
+  EXPECT_THAT(refused.errorMessage().toStdString(),
+              HasSubstr("Process: " + std::to_string(other.processId())));
+  EXPECT_EQ(script->documents().size(), 1U) << "no question waits, and no window has come";
+  other.closeWriteChannel();
+  ASSERT_TRUE(other.waitForFinished(kPatience));
+  EXPECT_EQ(Caller::pathIn(script->application("open", {held})), documentPath(2).toStdString());
+}
+
 TEST_F(AScript, isToldWhatIsNotThere) {
   start();
   const auto call = [&](const QString& path, const char* interface, const char* member,
