@@ -378,21 +378,24 @@ Driver::Driver()
                                                                                 .panels = &panels_,
                                                                                 .pageWriter = &pageWriter_,
                                                                                 .printer = &printer_});
-    subscriptions_.push_back(
+    Followed& followed = followed_[document.get()] = {};
+    followed.subscriptions.push_back(
         document->multiplePopUp().onAnimationEffect.subscribe([this](int effect, framework::Point at) {
           effects_.push_back({effect, at.x, at.y});
         }));
     for (framework::TextField* field : document->textFields())
-      subscriptions_.push_back(field->onSelectText.subscribe([this, field] { selected_ = field->name(); }));
+      followed.subscriptions.push_back(
+          field->onSelectText.subscribe([this, field] { selected_ = field->name(); }));
     document->takePreferredOverlay();
-    std::int64_t& displays = displays_[document.get()] = 0;
-    subscriptions_.push_back(document->tabView().onNeedsDisplay.subscribe([&displays] { ++displays; }));
+    followed.subscriptions.push_back(
+        document->tabView().onNeedsDisplay.subscribe([&followed] { ++followed.displays; }));
     return document;
   });
   subscriptions_.push_back(documents_.onDocumentAdded.subscribe(
       [this](framework::ZuDocument& added) { numbers_.emplace(&added, nextNumber_++); }));
   subscriptions_.push_back(documents_.onDocumentRemoved.subscribe([this](framework::ZuDocument& removed) {
     numbers_.erase(&removed);
+    followed_.erase(&removed);
     if (recovery_) recovery_->forget(removed);
   }));
   startRecovery();
@@ -922,7 +925,7 @@ Json Driver::documentState(NCDocument& shown) {
             {"maximum", stepper.maximum()},
             {"increment", stepper.increment()}}},
           {"marked", marked},
-          {"displays", displays_.at(&shown)},
+          {"displays", followed_.at(&shown).displays},
           {"document", patient.empty() ? Json() : Json::parse(patient)}};
 }
 

@@ -141,7 +141,12 @@ class Driver {
   Json effects_ = Json::array();
   std::string selected_;
   std::map<const framework::ZuDocument*, std::int64_t> numbers_;
-  std::map<const framework::ZuDocument*, std::int64_t> displays_;  ///< how often each was to be drawn anew
+  /// What happens to a document.
+  struct Followed {
+    std::int64_t displays = 0;  ///< how often it was to be drawn anew
+    std::vector<foundation::Subscription> subscriptions{};
+  };
+  std::map<const framework::ZuDocument*, Followed> followed_;
   std::int64_t nextNumber_ = 0;
 };
 

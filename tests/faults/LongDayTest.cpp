@@ -1,0 +1,277 @@
+// Two people work on one document for as long as it takes, each in a program of their own, and now and then the system fails a
+// call or a program is killed. What was said to be saved is there ever after; and a program that nothing happens to needs no
+// more memory in the evening than in the morning.
+//
+// NASCOR_DAY_SECONDS says how long; NASCOR_DAY_SEED begins as another day did.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <chrono>
+#include <filesystem>
+#include <fstream>
+#include <iostream>
+#include <iterator>
+#include <mutex>
+#include <random>
+#include <regex>
+#include <set>
+#include <sstream>
+#include <string>
+#include <thread>
+#include <vector>
+
+#include "Program.h"
+
+namespace nascor::tests {
+namespace {
+
+namespace fs = std::filesystem;
+using Chance = std::mt19937;
+using Tokens = std::set<std::string>;
+
+std::size_t drawn(Chance& chance, std::size_t count) { return chance() % count; }
+
+/// What was written down, each with its own number.
+Tokens tokensIn(const std::string& text) {
+  static const std::regex kToken("[AB][0-9]+;");
+  return {std::sregex_token_iterator(text.begin(), text.end(), kToken), std::sregex_token_iterator()};
+}
+
+std::string noteOnShow(const std::string& state) {
+  static const std::regex kNote("\"notesField\":\"([^\"]*)\"");
+  std::smatch found;
+  return std::regex_search(state, found, kNote) ? found[1].str() : "";
+}
+
+bool isAnswered(const std::string& answer, const char* with) {
+  return answer.find(with) != std::string::npos;
+}
+
+struct Counts {
+  int saves = 0;
+  int denied = 0;
+  int refused = 0;
+  int kills = 0;
+};
+
+/// What both have seen saved.
+class Record {
+ public:
+  void add(const Tokens& tokens) {
+    const std::lock_guard guard(mutex_);
+    saved_.insert(tokens.begin(), tokens.end());
+  }
+  const Tokens& saved() const { return saved_; }
+  void clear() { saved_.clear(); }
+
+ private:
+  std::mutex mutex_;
+  Tokens saved_;
+};
+
+/// One of the two. Opens, changes, saves and closes, at random.
+class Person {
+ public:
+  Person(char name, unsigned seed, std::string folder)
+      : name_(name), chance_(seed), folder_(std::move(folder)) {}
+
+  void work(const std::string& document, Record& record) {
+    Program program(settings());
+    if (program.answer("{\"open\":\"" + document + "\"}") != R"({"number":0})") {
+      ++counts_.refused;  // the other has it, or a call failed
+      return;
+    }
+    const std::size_t actions = 1 + drawn(chance_, 8);
+    for (std::size_t i = 0; i < actions; ++i) {
+      if (!act(program, record)) {
+        ++counts_.kills;  // by a fault
+        return;
+      }
+    }
+    if (drawn(chance_, 4) == 0) {
+      program.end(SIGKILL);
+      ++counts_.kills;
+    } else {
+      program.answer(R"({"close":"discard"})");
+    }
+  }
+  const Counts& counts() const { return counts_; }
+
+ private:
+  /// Half of the programs live in a system that fails.
+  std::vector<std::string> settings() {
+    if (drawn(chance_, 2) == 0) return {};
+    constexpr const char* kFaults[] = {"once", "always", "short", "kill-before", "kill-after"};
+    constexpr int kErrors[] = {EIO, ENOSPC, EDQUOT, EACCES, EPERM, EROFS, ESTALE, ENOMEM, EINTR};
+    const char* fault = kFaults[drawn(chance_, std::size(kFaults))];
+    int error = kErrors[drawn(chance_, std::size(kErrors))];
+    // Whoever is interrupted tries again, and would for ever.
+    if (error == EINTR && fault == std::string("always")) error = EIO;
+    return {std::string("LD_PRELOAD=") + NASCOR_FAULTY_CALLS, "NASCOR_FAULT_FOLDER=" + folder_,
+            "NASCOR_FAULT_AT=" + std::to_string(1 + drawn(chance_, 150)),
+            std::string("NASCOR_FAULT=") + fault, "NASCOR_FAULT_ERROR=" + std::to_string(error)};
+  }
+
+  /// False when the program is gone.
+  bool act(const Program& program, Record& record) {
+    switch (drawn(chance_, 7)) {
+      case 0: return !program.answer(R"({"do":["nextExamination"]})").empty();
+      case 1: return !program.answer(R"({"do":["previousExamination"]})").empty();
+      case 2: return !program.answer(R"({"do":["addExamination"]})").empty();
+      case 3:
+        return !program.answer(R"({"edit":["bpdField",")" + std::to_string(drawn(chance_, 100)) + "\"]}")
+                    .empty();
+      case 4:
+        // What is taken back is done again.
+        return !program.answer(R"({"do":["undo"]})").empty() && !program.answer(R"({"do":["redo"]})").empty();
+      case 5: return writeDown(program);
+      default: return writeDown(program) && save(program, record);
+    }
+  }
+
+  bool writeDown(const Program& program) {
+    const std::string state = program.answer(R"({"state":true})");
+    if (state.empty()) return false;
+    const std::string note = noteOnShow(state) + name_ + std::to_string(++written_) + ";";
+    return !program.answer(R"({"edit":["notesField",")" + note + "\"]}").empty();
+  }
+
+  bool save(const Program& program, Record& record) {
+    const std::string state = program.answer(R"({"state":true})");
+    const std::string answer = program.answer(R"({"save":true})");
+    if (answer.empty()) return false;
+    if (answer == R"({"saved":true})") {
+      record.add(tokensIn(state));
+      ++counts_.saves;
+    } else {
+      EXPECT_TRUE(answer == R"({"saved":false})" || isAnswered(answer, "{\"error\":")) << answer;
+      ++counts_.denied;
+    }
+    return true;
+  }
+
+  char name_;
+  Chance chance_;
+  std::string folder_;
+  int written_ = 0;
+  Counts counts_;
+};
+
+/// Works on a document of its own all day, and nothing happens to it.
+class Witness {
+ public:
+  explicit Witness(std::string document) : document_(std::move(document)) {}
+
+  void work() {
+    EXPECT_TRUE(isAnswered(program_.answer("{\"open\":\"" + document_ + "\"}"), "{\"number\":"));
+    program_.answer(R"({"edit":["hcField",")" + std::to_string(100 + ++count_ % 200) + "\"]}");
+    program_.answer(R"({"state":true})");
+    EXPECT_EQ(program_.answer(R"({"save":true})"), R"({"saved":true})");
+    EXPECT_EQ(program_.answer(R"({"close":"cancel"})"), R"({"closed":true})");
+  }
+  long kibibytes() const {
+    std::ifstream file("/proc/" + std::to_string(program_.process()) + "/smaps_rollup");
+    for (std::string line; std::getline(file, line);) {
+      if (line.starts_with("Private_Dirty:")) return std::stol(line.substr(line.find(':') + 1));
+    }
+    return 0;
+  }
+
+ private:
+  Program program_;
+  std::string document_;
+  int count_ = 0;
+};
+
+class ALongDay : public testing::Test {
+ protected:
+  void SetUp() override {
+    std::string pattern = testing::TempDir() + "nascor-day-XXXXXX";
+    ASSERT_NE(::mkdtemp(pattern.data()), nullptr);
+    place_ = fs::canonical(pattern);
+    fs::create_directory(folder());
+    make(place_ + "/witness.nascor");
+  }
+  void TearDown() override {
+    if (!place_.empty()) fs::remove_all(place_);
+  }
+
+  std::string folder() const { return place_ + "/documents"; }
+  void make(const std::string& document) const {
+    std::ofstream(place_ + "/new.json")
+        << R"({"maternalIDString":"AB-1","numberOfFetuses":1,"examinations":[{"measurements":[{"bpd":40}]}]})";
+    const std::string command =
+        std::string(NASCOR_CLI) + " make '" + place_ + "/new.json' --out '" + document + "'";
+    ASSERT_EQ(std::system(command.c_str()), 0);
+  }
+  /// What another program finds in the file.
+  std::string contents(const std::string& document) const {
+    const std::string command =
+        std::string(NASCOR_CLI) + " json '" + document + "' >'" + place_ + "/found' 2>&1";
+    EXPECT_EQ(std::system(command.c_str()), 0);
+    std::ifstream file(place_ + "/found");
+    return {std::istreambuf_iterator<char>(file), {}};
+  }
+
+  std::string place_;
+};
+
+TEST_F(ALongDay, losesNothingThatWasSavedAndLeaksNothing) {
+  using Clock = std::chrono::steady_clock;
+  const char* wanted = std::getenv("NASCOR_DAY_SECONDS");
+  const char* given = std::getenv("NASCOR_DAY_SEED");
+  const std::chrono::duration<double> length(wanted ? std::atof(wanted) : 5.0);
+  const unsigned seed =
+      given ? static_cast<unsigned>(std::strtoul(given, nullptr, 10)) : std::random_device()();
+  std::cout << "a day with the seed " << seed << '\n';
+
+  Person anna('A', seed, folder());
+  Person berta('B', seed + 1, folder());
+  Witness witness(place_ + "/witness.nascor");
+  Record record;
+  std::size_t checked = 0;
+  long morning = 0;
+  int rounds = 0;
+  constexpr int kWarm = 30;  // rounds until a program has all the memory that it will need
+  const auto begin = Clock::now();
+  for (int day = 0; Clock::now() - begin < length && !HasFailure(); ++day) {
+    const std::string document = folder() + "/day-" + std::to_string(day) + ".nascor";
+    make(document);
+    record.clear();
+    // Until the notes are long.
+    constexpr std::size_t kMost = 500;
+    while (record.saved().size() < kMost && Clock::now() - begin < length && !HasFailure()) {
+      std::thread other([&] { berta.work(document, record); });
+      anna.work(document, record);
+      other.join();
+      witness.work();
+      if (++rounds == kWarm) morning = witness.kibibytes();
+      const Tokens found = tokensIn(contents(document));
+      Tokens lost;
+      std::ranges::set_difference(record.saved(), found, std::inserter(lost, lost.end()));
+      EXPECT_THAT(lost, testing::IsEmpty());
+    }
+    checked += record.saved().size();
+    fs::remove(document);
+  }
+  const long evening = witness.kibibytes();
+  const auto tell = [](const char* name, const Counts& counts) {
+    std::cout << name << ": " << counts.saves << " saves, " << counts.denied << " failed, " << counts.refused
+              << " times not opened, " << counts.kills << " times killed\n";
+  };
+  tell("Anna", anna.counts());
+  tell("Berta", berta.counts());
+  std::cout << checked << " notes saved and found again in " << rounds
+            << " rounds; memory of a program all day: " << morning << " KiB, then " << evening << " KiB\n";
+  EXPECT_GT(anna.counts().saves, 0);
+  EXPECT_GT(berta.counts().saves, 0);
+  EXPECT_GT(anna.counts().kills + berta.counts().kills, 0);
+  if (rounds > kWarm) {
+    EXPECT_LE(static_cast<double>(evening), 1.05 * static_cast<double>(morning));
+  }
+}
+
+}  // namespace
+}  // namespace nascor::tests
