@@ -214,19 +214,27 @@ class Bundle {
   std::map<std::string, const Json*> byReference_;
 };
 
-/// Lines and tabs between the values as blanks. Of a mebibyte of them that ends in no value the library would spell out each
-/// in a message, which takes longer than anything else here.
-std::string withBlanksBetween(std::string_view json) {
+/// Deeper than any bundle.
+constexpr int kDeepest = 128;
+
+/// Lines and tabs between the values as blanks; nothing where values are nested too deep. Of a mebibyte of them that ends in
+/// no value the library would spell out each in a message, which takes longer than anything else here.
+std::optional<std::string> withBlanksBetween(std::string_view json) {
   std::string plain(json);
   bool isInText = false;
+  int depth = 0;
   for (std::size_t i = 0; i < plain.size(); ++i) {
     char& character = plain[i];
     if (character == '"') {
       isInText = !isInText;
-    } else if (character == '\\' && isInText) {
-      ++i;  // what is escaped ends no text
-    } else if (!isInText && (character == '\t' || character == '\n' || character == '\r')) {
+    } else if (isInText) {
+      if (character == '\\') ++i;  // what is escaped ends no text
+    } else if (character == '\t' || character == '\n' || character == '\r') {
       character = ' ';
+    } else if (character == '{' || character == '[') {
+      if (++depth > kDeepest) return std::nullopt;
+    } else if (character == '}' || character == ']') {
+      --depth;
     }
   }
   return plain;
@@ -235,8 +243,9 @@ std::string withBlanksBetween(std::string_view json) {
 }  // namespace
 
 std::variant<std::vector<StructuredReport>, std::string> reportsInBundle(std::string_view json) {
-  const std::string plain = withBlanksBetween(json);
-  const Json parsed = Json::parse(plain.begin(), plain.end(), nullptr, false);
+  const auto plain = withBlanksBetween(json);
+  if (!plain) return "is nested deeper than any FHIR bundle";
+  const Json parsed = Json::parse(plain->begin(), plain->end(), nullptr, false);
   if (parsed.is_discarded()) return "is no DICOM file, and no JSON that can be read";
   if (textIn(parsed, "resourceType") != "Bundle") return "is no FHIR bundle";
   auto reports = Bundle(parsed).reports();

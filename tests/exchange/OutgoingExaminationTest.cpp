@@ -203,6 +203,19 @@ TEST(OtherJson, isNoBundle) {
   }
 }
 
+TEST(ABundle, isRefusedWhereItIsNestedTooDeep) {
+  const auto nested = [](std::size_t depth) {
+    return R"({"resourceType":"Bundle","entry":)" + std::string(depth, '[') + std::string(depth, ']') + "}";
+  };
+  const auto said = [&](std::size_t depth) { return std::get<1>(exchange::reportsInBundle(nested(depth))); };
+  EXPECT_EQ(said(127), "is a FHIR bundle without an examination");
+  EXPECT_EQ(said(128), "is nested deeper than any FHIR bundle");
+  // What stands in texts is none.
+  const std::string inText =
+      R"({"resourceType":"Bundle","id":")" + std::string(200, '[') + R"(\"[","entry":[]})";
+  EXPECT_EQ(std::get<1>(exchange::reportsInBundle(inText)), "is a FHIR bundle without an examination");
+}
+
 TEST(ABundleWithWrongThings, losesThemWithAWord) {
   Json bundle = Json::parse(
       exchange::writeFhir(exchange::outgoingExaminations(twins(), kSydney), exchange::FhirForm::bundle));
