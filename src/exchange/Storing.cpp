@@ -19,8 +19,6 @@ using foundation::CivilDay;
 using model::NCRecord;
 using model::PatientRecord;
 
-using Warnings = std::vector<std::string>;
-
 std::string inQuotes(const std::string& text) { return "\"" + text + "\""; }
 
 /// Why the findings may be of another patient; empty when they are not.
@@ -32,13 +30,16 @@ std::string patientFault(const Findings& findings, const Confirmation& confirmat
                 : "the document is of patient " + inQuotes(documentID) + ", not " +
                       inQuotes(*confirmation.patientID);
   }
-  if (isNew) return "";
-  if (!findings.patientID) return "the report names no patient; nothing is stored unless the ID is given";
-  if (documentID.empty()) return "the document names no patient; nothing is stored unless the ID is given";
-  if (*findings.patientID != documentID)
-    return "the report is of patient " + inQuotes(*findings.patientID) + ", the document of " +
-           inQuotes(documentID);
-  return "";
+  switch (patientDoubt(findings, isNew, documentID)) {
+    case PatientDoubt::none: return "";
+    case PatientDoubt::reportNamesNobody:
+      return "the report names no patient; nothing is stored unless the ID is given";
+    case PatientDoubt::documentNamesNobody:
+      return "the document names no patient; nothing is stored unless the ID is given";
+    case PatientDoubt::isAnother: break;
+  }
+  return "the report is of patient " + inQuotes(*findings.patientID) + ", the document of " +
+         inQuotes(documentID);
 }
 
 /// The place of each fetus of the report in the document; or why one has none.
@@ -74,13 +75,7 @@ class FetusPlaces {
                                              const Confirmation& confirmation, std::int64_t count) {
     const auto given = confirmation.fetusPlaces.find(fetus.id.value_or(""));
     if (given != confirmation.fetusPlaces.end()) return given->second;
-    // The only fetus of a report that names none is the only one of the document.
-    if (!fetus.id)
-      return findings.fetuses.size() == 1 && count == 1 ? std::optional<std::int64_t>(0) : std::nullopt;
-    for (std::int64_t place = 0; place < count; ++place) {
-      if (*fetus.id == std::to_string(place + 1)) return place;
-    }
-    return std::nullopt;
+    return fetusPlace(fetus, findings, count);
   }
 
   std::vector<std::int64_t> places_;
@@ -97,28 +92,24 @@ std::int64_t numberOfFetuses(const Findings& findings, const Confirmation& confi
   return std::max(number, calc::kFewestFetuses);
 }
 
-void storeEDD(const Findings& findings, const Confirmation& confirmation, const Calendar& calendar,
-              PatientRecord& patient, Warnings& warnings) {
-  if (!findings.edd) return;
+std::optional<StoredEDD> storeEDD(const Findings& findings, const Confirmation& confirmation,
+                                  const Calendar& calendar, PatientRecord& patient) {
+  if (!findings.edd) return std::nullopt;
   const auto standing = patient.edd() ? foundation::localDay(*patient.edd(), calendar) : std::nullopt;
-  if (standing == findings.edd) return;
-  if (patient.edd() && !confirmation.takeEDD) {
-    std::string stays = "the EDD stays";
-    if (standing) stays.append(" ").append(isoText(*standing));
-    warnings.push_back(stays.append("; the report says ").append(isoText(*findings.edd)));
-    return;
-  }
+  if (standing == findings.edd) return StoredEDD{.fate = Fate::isThereAlready, .standing = standing};
+  if (patient.edd() && !confirmation.takeEDD)
+    return StoredEDD{.fate = Fate::otherStays, .standing = standing};
   patient.setEDD(foundation::startOfDay(*findings.edd, calendar));
+  return StoredEDD{.fate = Fate::stored, .standing = standing};
 }
 
-void storeGravida(const Findings& findings, PatientRecord& patient, Warnings& warnings) {
-  if (!findings.gravida || patient.gravida() == *findings.gravida) return;
-  if (patient.gravida() != 0) {
-    warnings.push_back("the gravidity stays " + std::to_string(patient.gravida()) + "; the report says " +
-                       std::to_string(*findings.gravida));
-    return;
-  }
+std::optional<StoredGravida> storeGravida(const Findings& findings, PatientRecord& patient) {
+  if (!findings.gravida) return std::nullopt;
+  const std::int64_t standing = patient.gravida();
+  if (standing == *findings.gravida) return StoredGravida{.fate = Fate::isThereAlready, .standing = standing};
+  if (standing != 0) return StoredGravida{.fate = Fate::otherStays, .standing = standing};
   patient.setGravida(*findings.gravida);
+  return StoredGravida{.fate = Fate::stored, .standing = standing};
 }
 
 /// The examination of that local day, a new one where there is none.
@@ -135,44 +126,69 @@ NCRecord& examinationOf(const CivilDay& day, const Calendar& calendar, PatientRe
   return *examinations.back();
 }
 
-struct StoredLength {
+struct RecordLength {
   double (model::MeasurementsRecord::*get)() const;
   void (model::MeasurementsRecord::*set)(double);
 };
 
-constexpr std::array<StoredLength, kStoredLengths> kStored{
+constexpr std::array<RecordLength, kStoredLengths> kRecordLengths{
     {{&model::MeasurementsRecord::bpd, &model::MeasurementsRecord::setBPD},
      {&model::MeasurementsRecord::hc, &model::MeasurementsRecord::setHC},
      {&model::MeasurementsRecord::ac, &model::MeasurementsRecord::setAC},
      {&model::MeasurementsRecord::fl, &model::MeasurementsRecord::setFL}}};
 
-void storeLengths(const FetusFindings& fetus, std::int64_t place, model::MeasurementsRecord& record,
-                  Warnings& warnings) {
-  const std::string subject = "fetus " + std::to_string(place + 1) + ": ";
-  for (std::size_t i = 0; i < kStoredLengths; ++i) {
-    const auto& found = fetus.lengths.at(i);
-    if (!found) continue;
-    const std::string label = subject + std::string(kLengthTerms.at(i).label);
-    // As a document's file would hold it.
-    const double mm = foundation::narrowedToFloat(found->mm);
-    const double standing = (record.*kStored.at(i).get)();
-    if (!calc::editingBounds(calc::kMeasurements.at(i)).permit(mm)) {
-      warnings.push_back(label + " " + foundation::shortestText(found->mm) +
-                         " mm is beyond what a document takes");
-    } else if (standing == 0.0) {
-      (record.*kStored.at(i).set)(found->mm);
-    } else if (foundation::narrowedToFloat(standing) != mm) {
-      warnings.push_back(label + " stays " + shortestSingleText(standing) + " mm; the report says " +
-                         foundation::shortestText(found->mm) + " mm");
-    }
-  }
+/// What becomes of a length where the patient has `standing`, which a document's file would hold as a single.
+Fate storeLength(double reported, double standing, std::size_t term, model::MeasurementsRecord& record) {
+  const double mm = foundation::narrowedToFloat(reported);
+  if (!calc::editingBounds(calc::kMeasurements.at(term)).permit(mm)) return Fate::isBeyondBounds;
+  if (standing != 0.0)
+    return foundation::narrowedToFloat(standing) == mm ? Fate::isThereAlready : Fate::otherStays;
+  (record.*kRecordLengths.at(term).set)(reported);
+  return Fate::stored;
+}
+
+bool isStoredTerm(std::size_t term) { return term < kStoredLengths; }
+
+/// Whether there is anything of it to make an examination for.
+bool isMeasured(const FetusFindings& fetus) {
+  return std::any_of(fetus.lengths.begin(), fetus.lengths.begin() + kStoredLengths,
+                     [](const auto& length) { return length.has_value(); });
+}
+
+std::string warningOf(const StoredLength& stored, const Findings& findings) {
+  const std::string subject = "fetus " + std::to_string(stored.place + 1) + ": ";
+  if (stored.fate == Fate::isNeverStored) return subject + "the CRL is not stored";
+  const std::string label = subject + std::string(kLengthTerms.at(stored.term).label);
+  const double mm = findings.fetuses.at(stored.fetus).lengths.at(stored.term)->mm;
+  if (stored.fate == Fate::isBeyondBounds)
+    return label + " " + foundation::shortestText(mm) + " mm is beyond what a document takes";
+  return label + " stays " + shortestSingleText(stored.standing) + " mm; the report says " +
+         foundation::shortestText(mm) + " mm";
 }
 
 }  // namespace
 
-std::variant<Warnings, std::string> storeFindings(const Findings& findings, const Confirmation& confirmation,
-                                                  bool isNew, const Calendar& calendar,
-                                                  PatientRecord& patient) {
+PatientDoubt patientDoubt(const Findings& findings, bool isNew, std::string_view documentID) {
+  if (isNew) return PatientDoubt::none;
+  if (!findings.patientID) return PatientDoubt::reportNamesNobody;
+  const std::string_view id = withoutBlanks(documentID);
+  if (id.empty()) return PatientDoubt::documentNamesNobody;
+  return *findings.patientID == id ? PatientDoubt::none : PatientDoubt::isAnother;
+}
+
+std::optional<std::int64_t> fetusPlace(const FetusFindings& fetus, const Findings& findings,
+                                       std::int64_t count) {
+  if (!fetus.id)
+    return findings.fetuses.size() == 1 && count == 1 ? std::optional<std::int64_t>(0) : std::nullopt;
+  for (std::int64_t place = 0; place < count; ++place) {
+    if (*fetus.id == std::to_string(place + 1)) return place;
+  }
+  return std::nullopt;
+}
+
+std::variant<Stored, std::string> storeFindings(const Findings& findings, const Confirmation& confirmation,
+                                                bool isNew, const Calendar& calendar,
+                                                PatientRecord& patient) {
   const std::string documentID(withoutBlanks(patient.maternalIDString().value_or("")));
   if (auto fault = patientFault(findings, confirmation, isNew, documentID); !fault.empty()) return fault;
   if (!findings.examDate) return "the report does not say when the examination was";
@@ -182,33 +198,53 @@ std::variant<Warnings, std::string> storeFindings(const Findings& findings, cons
   const FetusPlaces places(findings, confirmation, count);
   if (!places.fault().empty()) return places.fault();
 
-  Warnings warnings;
   if (isNew) patient.setNumberOfFetuses(count);
   if (documentID.empty() && (isNew || confirmation.patientID))
     patient.setMaternalIDString(confirmation.patientID ? *confirmation.patientID
                                                        : findings.patientID.value_or(""));
-  storeEDD(findings, confirmation, calendar, patient, warnings);
-  storeGravida(findings, patient, warnings);
-
-  for (std::size_t i = 0; i < findings.fetuses.size(); ++i) {
-    if (findings.fetuses[i].lengths.at(kStoredLengths))
-      warnings.push_back("fetus " + std::to_string(places[i] + 1) + ": the CRL is not stored");
+  Stored stored{.edd = storeEDD(findings, confirmation, calendar, patient),
+                .gravida = storeGravida(findings, patient),
+                .lengths = {}};
+  NCRecord* examination = nullptr;
+  if (std::ranges::any_of(findings.fetuses, isMeasured)) {
+    examination = &examinationOf(*findings.examDate, calendar, patient);
+    while (std::cmp_less(examination->measurements().size(), count)) examination->addMeasurementsRecord();
   }
-  const auto isMeasured = [](const FetusFindings& fetus) {
-    return std::any_of(fetus.lengths.begin(), fetus.lengths.begin() + kStoredLengths,
-                       [](const auto& length) { return length.has_value(); });
-  };
-  if (std::ranges::none_of(findings.fetuses, isMeasured)) {
-    warnings.emplace_back("the report holds no length that is stored");
-    return warnings;
+  for (std::size_t fetus = 0; fetus < findings.fetuses.size(); ++fetus) {
+    for (std::size_t term = 0; term < kLengthTerms.size(); ++term) {
+      const auto& found = findings.fetuses[fetus].lengths.at(term);
+      if (!found) continue;
+      StoredLength& length = stored.lengths.emplace_back(
+          StoredLength{.fetus = fetus, .term = term, .place = places[fetus], .fate = Fate::isNeverStored});
+      if (!isStoredTerm(term)) continue;
+      model::MeasurementsRecord& record = examination->measurementsForFetus(places[fetus]);
+      length.standing = (record.*kRecordLengths.at(term).get)();
+      length.fate = storeLength(found->mm, length.standing, term, record);
+    }
   }
-  NCRecord& examination = examinationOf(*findings.examDate, calendar, patient);
-  while (std::cmp_less(examination.measurements().size(), count)) examination.addMeasurementsRecord();
-  for (std::size_t i = 0; i < findings.fetuses.size(); ++i)
-    storeLengths(findings.fetuses[i], places[i], examination.measurementsForFetus(places[i]), warnings);
   std::ranges::stable_sort(patient.ncRecordsArray(), [](const auto& one, const auto& other) {
     return one->compare(*other) == std::weak_ordering::less;
   });
+  return stored;
+}
+
+std::vector<std::string> warningsOf(const Stored& stored, const Findings& findings) {
+  std::vector<std::string> warnings;
+  if (stored.edd && stored.edd->fate == Fate::otherStays) {
+    std::string stays = "the EDD stays";
+    if (stored.edd->standing) stays.append(" ").append(isoText(*stored.edd->standing));
+    warnings.push_back(stays.append("; the report says ").append(isoText(*findings.edd)));
+  }
+  if (stored.gravida && stored.gravida->fate == Fate::otherStays) {
+    warnings.push_back("the gravidity stays " + std::to_string(stored.gravida->standing) +
+                       "; the report says " + std::to_string(*findings.gravida));
+  }
+  for (const StoredLength& length : stored.lengths) {
+    const bool isStored = length.fate == Fate::stored || length.fate == Fate::isThereAlready;
+    if (!isStored) warnings.push_back(warningOf(length, findings));
+  }
+  if (std::ranges::none_of(findings.fetuses, isMeasured))
+    warnings.emplace_back("the report holds no length that is stored");
   return warnings;
 }
 

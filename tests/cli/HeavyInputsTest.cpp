@@ -10,7 +10,6 @@
 #include <variant>
 
 #include "archive/FormatError.h"
-#include "cli_commands/Reports.h"
 #include "exchange/FhirReader.h"
 #include "foundation/IsoDate.h"
 #include "foundation/JsonText.h"
@@ -22,6 +21,7 @@
 #include "model/PatientFile.h"
 #include "model/PatientJsonReader.h"
 #include "posix/PosixCalendar.h"
+#include "reports/Reports.h"
 #include "rows/CsvReader.h"
 #include "support/HeavyDocuments.h"
 #include "support/Spent.h"
@@ -129,7 +129,7 @@ TEST(AMebibyteOfText, isReadOrRefusedAtOnceAsATableAnArchiveOrAReport) {
                 [&] { EXPECT_EQ(exchange::reportsInBundle(bundle).index(), 1U); });
     const std::string report = asReport(each.text);
     expectQuick(each.name + " as a report",
-                [&] { static_cast<void>(reportsIn(std::as_bytes(std::span(report)))); });
+                [&] { static_cast<void>(reports::reportsIn(std::as_bytes(std::span(report)))); });
   }
 }
 
@@ -146,7 +146,7 @@ std::string privateElements(std::uint32_t count) {
 
 TEST(AReportOfManyParts, isReadOrRefusedSoon) {
   const auto read = [](const std::string& report) {
-    return reportsIn(std::as_bytes(std::span(report))).index();
+    return reports::reportsIn(std::as_bytes(std::span(report))).index();
   };
   const std::string tooMany = asReport(privateElements(kMebibyte / 8));
   expectQuick("more than are read", [&] { EXPECT_EQ(read(tooMany), 1U); });

@@ -48,8 +48,8 @@ class ADocument : public testing::Test {
                                  bool isNew = false) {
     auto stored = exchange::storeFindings(what, confirmation, isNew, calendar, patient);
     if (auto* refusal = std::get_if<std::string>(&stored)) ADD_FAILURE() << *refusal;
-    auto* warnings = std::get_if<0>(&stored);
-    return warnings ? *warnings : std::vector<std::string>{};
+    const auto* values = std::get_if<exchange::Stored>(&stored);
+    return values ? exchange::warningsOf(*values, what) : std::vector<std::string>{};
   }
 
   /// Why nothing is stored; nothing has changed then.

@@ -8,13 +8,13 @@
 #include "cli_commands/DocumentFile.h"
 #include "cli_commands/Documents.h"
 #include "cli_commands/Input.h"
-#include "cli_commands/Reports.h"
 #include "exchange/Findings.h"
 #include "exchange/FindingsJson.h"
 #include "exchange/Storing.h"
 #include "foundation/JsonText.h"
 #include "model/PatientFile.h"
 #include "posix/PosixCalendar.h"
+#include "reports/Reports.h"
 
 namespace nascor::cli {
 
@@ -58,7 +58,7 @@ std::vector<Found> findAndPrint(const std::vector<std::string>& files, Console& 
   for (const std::string& file : files) {
     const auto bytes = contentsOf(file, console);
     if (!bytes) continue;
-    const auto reports = reportsIn(*bytes);
+    const auto reports = reports::reportsIn(*bytes);
     if (const auto* why = std::get_if<std::string>(&reports)) {
       console.complain(nameOf(file), *why);
       continue;
@@ -133,7 +133,8 @@ void store(const std::vector<Found>& all, const Arguments& arguments, Console& c
       continue;
     }
     isNew = false;
-    for (const std::string& warning : std::get<0>(taken)) warnings.emplace_back(nameOf(found.file), warning);
+    for (const std::string& warning : warningsOf(std::get<exchange::Stored>(taken), found.findings))
+      warnings.emplace_back(nameOf(found.file), warning);
   }
   if (isRefused) return;
   for (const auto& [file, warning] : warnings) console.warn(file, warning);

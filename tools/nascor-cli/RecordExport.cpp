@@ -5,12 +5,12 @@
 
 #include "cli_commands/Documents.h"
 #include "cli_commands/Input.h"
-#include "cli_commands/Reports.h"
 #include "cli_commands/Target.h"
 #include "exchange/FhirBundle.h"
 #include "exchange/OutgoingExamination.h"
 #include "foundation/Utf8.h"
 #include "posix/PosixCalendar.h"
+#include "reports/Reports.h"
 
 namespace nascor::cli {
 
@@ -31,7 +31,7 @@ std::string faultOf(const std::string& patientID) {
 
 void writeReports(const std::string& file, const std::string& name,
                   std::span<const OutgoingExamination> examinations, Target& target, Console& console) {
-  const auto files = reportFiles();
+  const auto files = reports::reportFiles();
   if (const auto* why = std::get_if<std::string>(&files))
     return console.complain(nameOf(file), "cannot be written: " + *why);
   for (std::size_t i = 0; i < examinations.size(); ++i) {

@@ -7,7 +7,7 @@
 
 namespace nascor::posix {
 
-std::variant<void*, std::string> moduleFunction(const std::string& module, const std::string& function) {
+std::variant<void*, std::string> moduleAddress(const std::string& module, const std::string& function) {
   std::error_code error;
   const std::filesystem::path program = std::filesystem::read_symlink("/proc/self/exe", error);
   if (error) return "this program does not know where it lies";

@@ -6,16 +6,29 @@
 #include <variant>
 #include <vector>
 
+#include "exchange/Findings.h"
 #include "exchange/StructuredReport.h"
+#include "foundation/FileStore.h"
 
-namespace nascor::cli {
+namespace nascor::reports {
 
 /// What reads and writes DICOM reports, loaded by the first call; or why there is nothing that does, in a sentence.
 std::variant<exchange::ReportFiles*, std::string> reportFiles();
+
+/// Whether a file that begins so is a report of some kind, and no document of this program: DICOM, or an object of JSON.
+bool isReport(std::span<const std::byte> bytes);
 
 /// The reports in the bytes of one file: one of a DICOM file, one for each examination of a FHIR bundle; or why there is
 /// none, in a sentence. What begins like an object of JSON is a bundle.
 std::variant<std::vector<exchange::StructuredReport>, std::string> reportsIn(
     std::span<const std::byte> bytes);
 
-}  // namespace nascor::cli
+/// What the reports in some files hold.
+struct FoundInFiles {
+  std::vector<exchange::Findings> findings;
+  std::vector<std::string> failures;  ///< why a report cannot be read: the file, and a sentence
+};
+
+FoundInFiles findingsInFiles(std::span<const std::string> paths, const foundation::FileStore& files);
+
+}  // namespace nascor::reports
