@@ -85,7 +85,7 @@ struct WindowPictures::Application {
   NoLog log;
   foundation::NotificationCenter notifications;
   qt::DocumentApplication documents{services()};
-  QDir samples;
+  QTemporaryDir samples;
 
   foundation::Services services() {
     return {.clock = clock,
@@ -171,7 +171,9 @@ struct WindowPictures::Application {
 };
 
 WindowPictures::WindowPictures(const QString& samples) : application_(std::make_unique<Application>()) {
-  application_->samples = QDir(samples);
+  // Copies: who builds may have the samples open, which would be asked about here.
+  for (const QFileInfo& sample : QDir(samples).entryInfoList(QDir::Files))
+    QFile::copy(sample.filePath(), application_->samples.filePath(sample.fileName()));
 }
 WindowPictures::~WindowPictures() = default;
 
