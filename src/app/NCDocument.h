@@ -19,6 +19,7 @@
 #include "app/PatientPages.h"
 #include "calc/Biometry.h"
 #include "charts/ChartDocument.h"
+#include "exchange/Findings.h"
 #include "foundation/NotificationCenter.h"
 #include "framework/Controls.h"
 #include "framework/CorvelDocument.h"
@@ -236,6 +237,31 @@ class NCDocument final : public framework::CorvelDocument,
 
   /// @}
 
+  /// @name Reports of ultrasound machines (ReportImport.h, NCDocumentImport.cpp)
+  /// @{
+
+  /// What is shown once reports have been stored.
+  struct Imported {
+    std::optional<foundation::CivilDay> shownDay{};  ///< of the examination; nothing for the one on show
+    std::int64_t shownFetus = 0;
+    std::optional<double> crl{};  ///< in millimetres, for the panel that dates by it
+    std::optional<foundation::CivilDay> crlDay{};
+  };
+
+  /// Whether nothing but the patient's identity was entered, and no file holds it: then the patient's pregnancy is what
+  /// her reports say.
+  bool isNewPatient() const { return !filePath() && !isRecovered() && !holdsMoreThanIdentity(); }
+  /// Whether its only examination is the one that a new document begins with.
+  bool holdsOnlyBlankExamination() const;
+  /// The document that reports go into: where this one is blank, the one that their patient has in the documents folder, if
+  /// the user opens it in this one's place.
+  NCDocument& documentOfPatient(std::span<const exchange::Findings> reports);
+  /// Asks whether an established EDD is to be modified.
+  bool userModifiesEDD();
+  /// Puts `patient`, this one and what was imported, into this one's place, as one step.
+  void takeImported(std::unique_ptr<model::PatientRecord> patient, const Imported& imported);
+
+  /// @}
   /// @name Undo of what changes the patient, one action of the user or of a script at a time (NCDocumentHistory.cpp)
   ///
   /// What is in edit is stored first; with a refused text nothing happens. Examination and fetus on show return too. The
@@ -393,7 +419,8 @@ class NCDocument final : public framework::CorvelDocument,
   foundation::Subscription showAllSubscription_;
   PatientHistory history_;
   charts::Overlay overlay_;
-  std::optional<Preference> preference_;  ///< of the action that is going on
+  std::optional<Preference> preference_;  ///< of the action that is going on, as the next one
+  std::optional<PatientChange> nameOfStep_;
 
   framework::IntegerField gravidaField_;
   framework::NumberField bpdField_;

@@ -30,6 +30,7 @@ std::string nameOf(PatientChange change, const foundation::Localizer& localizer)
     case PatientChange::ac: return localizer.text("NCDocument", "AC");
     case PatientChange::fl: return localizer.text("NCDocument", "FL");
     case PatientChange::note: return localizer.text("NCDocument", "Note");
+    case PatientChange::reportsImported: return localizer.text("NCDocument", "Import Report");
     case PatientChange::plannedDelivery: break;
   }
   return localizer.text("NCDocument", "Planned Delivery");
@@ -89,7 +90,9 @@ void NCDocument::beginHistory() {
 void NCDocument::actionEnded() {
   if (!patientRecord_) return;
   const Place place{.examination = currentExam(), .fetus = currentFetus_};
-  if (history_.note(state(), place, std::exchange(preference_, std::nullopt))) onHistoryChanged();
+  if (history_.note(state(), place, std::exchange(preference_, std::nullopt),
+                    std::exchange(nameOfStep_, std::nullopt)))
+    onHistoryChanged();
 }
 
 void NCDocument::scriptHasStored() {

@@ -175,7 +175,8 @@ void PatientHistory::begin(PatientState state, Place place, bool isSaved) {
   place_ = place;
 }
 
-bool PatientHistory::note(PatientState state, Place place, std::optional<Preference> preference) {
+bool PatientHistory::note(PatientState state, Place place, std::optional<Preference> preference,
+                          std::optional<PatientChange> name) {
   const Place from = std::exchange(place_, place);
   const auto change = changeBetween(present(), state);
   if (!change) return false;
@@ -184,7 +185,7 @@ bool PatientHistory::note(PatientState state, Place place, std::optional<Prefere
   steps_.push_back({.state = std::move(state),
                     .from = from,
                     .to = place,
-                    .change = *change,
+                    .change = name.value_or(*change),
                     .preference = std::move(preference)});
   ++done_;
   return true;

@@ -31,7 +31,8 @@ enum class PatientChange {
   ac,
   fl,
   note,
-  plannedDelivery
+  plannedDelivery,
+  reportsImported  ///< said by the one who does it, since it may change all of the others
 };
 
 /// All that a document holds of a patient at one moment. Examinations that two moments have in common are held once.
@@ -88,7 +89,9 @@ class PatientHistory {
   /// The user has moved about.
   void moveTo(Place place) { place_ = place; }
   /// An action has ended. True when it changed the patient: that is a step, and what was undone before it is forgotten.
-  bool note(PatientState state, Place place, std::optional<Preference> preference = std::nullopt);
+  /// It is named after what it changed, unless it has a `name` of its own.
+  bool note(PatientState state, Place place, std::optional<Preference> preference = std::nullopt,
+            std::optional<PatientChange> name = std::nullopt);
   /// The same for what a script stored: writing the same value of the same fetus again goes on with the step that began it.
   bool noteScript(PatientState state, Place place);
 

@@ -88,12 +88,17 @@ void CorvelDocument::removeExamination() {
   updateChangeCount(ChangeType::changeDone);
 }
 
-void CorvelDocument::lookUp(const std::string& name, bool ask) {
-  for (const foundation::FileEntry& file : documentsOfPatient(name)) {
+bool CorvelDocument::opensDocumentOf(const std::string& referenceID, const std::string& name, bool ask) {
+  for (const foundation::FileEntry& file : documentsOfPatient(referenceID, name)) {
     if (ask && !userOpens(file)) continue;
     // This document is gone once the other has taken its place.
-    if (environment_.controller.replaceDocument(*this, file.path)) return;
+    if (environment_.controller.replaceDocument(*this, file.path)) return true;
   }
+  return false;
+}
+
+void CorvelDocument::lookUp(const std::string& name, bool ask) {
+  if (opensDocumentOf(referenceIDForFileName(), name, ask)) return;
   if (!holdsContents()) return;
   directUpdateDisplayAndSetDirty(true);
 }
@@ -119,12 +124,13 @@ void CorvelDocument::controlTextDidDropEditing(TextField&) {
   if (std::exchange(isMarkedByEdit_, false)) updateChangeCount(ChangeType::changeUndone);
 }
 
-std::vector<foundation::FileEntry> CorvelDocument::documentsOfPatient(const std::string& name) const {
+std::vector<foundation::FileEntry> CorvelDocument::documentsOfPatient(const std::string& referenceID,
+                                                                      const std::string& name) const {
   const std::string extension =
       services().defaults.value(foundation::defaults_key::dataFileExtension).value_or("nascor");
   const std::string exactName = fileName(name, extension);
   // Documents of the same reference ID under any gravidity.
-  const std::string prefix = fileNameText(referenceIDForFileName() + " (G");
+  const std::string prefix = fileNameText(referenceID + " (G");
   const std::string suffix = ")." + extension;
 
   const foundation::FileStore& files = services().files;

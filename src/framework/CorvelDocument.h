@@ -195,6 +195,9 @@ class CorvelDocument : public ZuDocument, public virtual GraphDocument, protecte
   /// What a file of page `index` says of itself.
   virtual SheetFacts factsOfPage(std::int64_t index) const;
 
+  /// Offers the documents in the documents folder of the patient called `name`, and those of her reference ID (in the form
+  /// that file names have) under any gravidity. True when one has taken this document's place.
+  bool opensDocumentOf(const std::string& referenceID, const std::string& name, bool ask);
   /// Commits what is in edit. False when a field refuses its text, or when the patient that was looked up has taken this
   /// document's place: then nothing more may be done with it.
   bool commitsEditing();
@@ -209,7 +212,8 @@ class CorvelDocument : public ZuDocument, public virtual GraphDocument, protecte
                                    bool& isPrinted);
   PageFoot footIfWanted(std::int64_t index, std::int64_t number, std::int64_t count) const;
   void removeExamination();
-  std::vector<foundation::FileEntry> documentsOfPatient(const std::string& name) const;
+  std::vector<foundation::FileEntry> documentsOfPatient(const std::string& referenceID,
+                                                        const std::string& name) const;
   bool userOpens(const foundation::FileEntry& file) const;
 
   DocumentEnvironment environment_;

@@ -395,6 +395,7 @@ Driver::Driver()
       [this](framework::ZuDocument& added) { numbers_.emplace(&added, nextNumber_++); }));
   subscriptions_.push_back(documents_.onDocumentRemoved.subscribe([this](framework::ZuDocument& removed) {
     numbers_.erase(&removed);
+    importing_.forget(removed);
     followed_.erase(&removed);
     if (recovery_) recovery_->forget(removed);
   }));
@@ -468,7 +469,8 @@ Json Driver::perform(const std::string& key, const Json& argument) {
       {"additions", &Driver::additions}, {"advice", &Driver::advice},
       {"keep", &Driver::keep},           {"crash", &Driver::crash},
       {"recover", &Driver::recover},     {"over", &Driver::over},
-      {"overPaper", &Driver::overPaper},
+      {"overPaper", &Driver::overPaper}, {"import", &Driver::import},
+      {"decide", &Driver::decide},
   };
   if (key == "new" || key == "state") {
     if (argument != Json(true)) refuse("expected true");
@@ -522,6 +524,10 @@ Json Driver::save(const Json& target) {
   if (!isSaved && alerts_.told.size() > toldBefore) refuse(alerts_.told.back());
   return {{"saved", isSaved}};
 }
+
+Json Driver::import(const Json& files) { return importing_.begin(files, document()); }
+
+Json Driver::decide(const Json& decision) { return importing_.decide(decision); }
 
 Json Driver::close(const Json& word) {
   const std::string choice = textArgument(word, "\"save\", \"discard\" or \"cancel\"");

@@ -12,6 +12,7 @@
 #include "app/NCAppController.h"
 #include "app/NCDocument.h"
 #include "app/Recovery.h"
+#include "drive/Importing.h"
 #include "drive/Ports.h"
 #include "foundation/NotificationCenter.h"
 #include "framework/DocumentController.h"
@@ -92,6 +93,8 @@ class Driver {
   Json crash(const Json& word);
   /// What the program offers at its start, each offer answered by that button: what was said, and the documents that opened.
   Json recover(const Json& button);
+  Json import(const Json& files);
+  Json decide(const Json& decision);
   /// What another program does to the files.
   Json outside(const Json& call);
   Json advance(const Json& seconds);
@@ -134,6 +137,7 @@ class Driver {
   std::optional<posix::RecoveryFolder> recoveryFolder_;
   std::optional<app::Recovery> recovery_;
 
+  Importing importing_;
   std::vector<foundation::Subscription> subscriptions_;
   Json posted_ = Json::array();
   Json paper_ = Json::array();

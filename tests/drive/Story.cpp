@@ -1,8 +1,11 @@
 #include "drive/Story.h"
 
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 #include "drive/Driver.h"
 
@@ -55,11 +58,14 @@ bool holds(const Json& actual, const Json& expected) {
   return actual == expected;
 }
 
-std::string withDataFolder(std::string_view line, const std::string& folder) {
-  constexpr std::string_view kPlace = "$DATA";
+/// What stands for folders in the lines of a story, and these folders.
+using Folders = std::vector<std::pair<std::string_view, std::string>>;
+
+std::string withFolders(std::string_view line, const Folders& folders) {
   std::string result(line);
-  for (std::size_t at = 0; (at = result.find(kPlace, at)) != std::string::npos; at += folder.size()) {
-    result.replace(at, kPlace.size(), folder);
+  for (const auto& [name, folder] : folders) {
+    for (std::size_t at = 0; (at = result.find(name, at)) != std::string::npos; at += folder.size())
+      result.replace(at, name.size(), folder);
   }
   return result;
 }
@@ -72,8 +78,10 @@ bool playStory(const std::string& path, std::ostream& out) {
     out << path << ": cannot be read\n";
     return false;
   }
-  const std::string dataFolder =
-      (std::filesystem::absolute(path).parent_path().parent_path() / "data").string();
+  const char* reports = std::getenv("NASCOR_REPORTS");
+  const Folders folders{
+      {"$DATA", (std::filesystem::absolute(path).parent_path().parent_path() / "data").string()},
+      {"$REPORTS", reports ? reports : "NASCOR_REPORTS"}};
   Driver driver;
   driver.sharesSamples();
   bool isWell = true;
@@ -96,7 +104,7 @@ bool playStory(const std::string& path, std::ostream& out) {
     const std::string_view text = start == std::string::npos ? "" : std::string_view(line).substr(start);
     if (text.starts_with('{')) {
       checkNoError();
-      answer = driver.answer(withDataFolder(text, dataFolder));
+      answer = driver.answer(withFolders(text, folders));
       answeredAt = number;
       isExpected = false;
     } else if (text.starts_with('=')) {
@@ -107,7 +115,7 @@ bool playStory(const std::string& path, std::ostream& out) {
       }
       isExpected = true;
       ++expectations;
-      const Json expected = Json::parse(withDataFolder(text.substr(3), dataFolder), nullptr, false);
+      const Json expected = Json::parse(withFolders(text.substr(3), folders), nullptr, false);
       const Json actual = Json::parse(answer);
       if (expected.is_discarded()) {
         fail(number, "the expectation is not JSON");

@@ -15,7 +15,8 @@ namespace nascor::drive {
 ///                                         stands for any text, and as the last element of an array for any more; a
 ///                                         member "<none>" must not be there
 ///
-/// `$DATA` in such lines is the folder "data" beside the story's folder. A line without an expectation must not be answered
+/// `$DATA` in such lines is the folder "data" beside the story's folder, `$REPORTS` the one that the environment variable
+/// NASCOR_REPORTS names, of machines' reports. A line without an expectation must not be answered
 /// by an error, and a story without any expectation fails. All other lines are for the reader.
 bool playStory(const std::string& path, std::ostream& out);
 

@@ -1,0 +1,440 @@
+#include "app/ReportImport.h"
+
+#include <algorithm>
+#include <utility>
+#include <variant>
+
+#include "calc/EditingBounds.h"
+#include "exchange/DecimalText.h"
+#include "foundation/Localizer.h"
+#include "foundation/NumberText.h"
+#include "foundation/Utf8.h"
+#include "model/FetusLabels.h"
+
+namespace nascor::app {
+
+using exchange::Fate;
+using exchange::FetusFindings;
+using exchange::Findings;
+using exchange::kLengthTerms;
+using exchange::PatientDoubt;
+using foundation::translatable;
+
+namespace {
+
+// The place of a value among what a report holds: Row::Key.
+constexpr std::size_t kEDD = 0;
+constexpr std::size_t kGravida = 1;
+constexpr std::size_t kFirstLength = 2;
+
+constexpr std::size_t keyOfLength(std::size_t fetus, std::size_t term) {
+  return kFirstLength + fetus * kLengthTerms.size() + term;
+}
+
+std::string_view howChosen(std::string_view chosen) {
+  if (chosen == "flagged") return translatable("ReportImport", "chosen at the machine");
+  if (chosen == "mean") return translatable("ReportImport", "mean");
+  if (chosen == "mean of several") return translatable("ReportImport", "mean of several");
+  if (chosen == "calculated") return translatable("ReportImport", "calculated, not measured");
+  if (chosen == "estimated") return translatable("ReportImport", "estimated, not measured");
+  return {};
+}
+
+bool isDerived(std::string_view chosen) { return chosen == "calculated" || chosen == "estimated"; }
+
+std::string capitalised(std::string text) {
+  if (!text.empty() && text[0] >= 'a' && text[0] <= 'z') text[0] = static_cast<char>(text[0] - 'a' + 'A');
+  return text;
+}
+
+}  // namespace
+
+ReportImport::ReportImport(NCDocument& document, std::vector<Findings> reports)
+    : document_(document), reports_(std::move(reports)) {
+  findPatient();
+  findFetuses();
+  foresee();
+}
+
+std::string ReportImport::text(std::string_view key) const {
+  return document_.services().localizer.text("ReportImport", key);
+}
+
+std::string ReportImport::dayText(const std::optional<foundation::CivilDay>& day) const {
+  return day ? document_.services().localizer.longDateText(*day) : "";
+}
+
+std::string ReportImport::numberText(std::string number) const {
+  std::ranges::replace(number, '.', document_.services().localizer.decimalSign());
+  return number;
+}
+
+std::string ReportImport::labelOf(const std::string& what) const {
+  const auto term = std::ranges::find(kLengthTerms, what, &exchange::LengthTerm::key);
+  if (term != kLengthTerms.end()) return std::string(term->label);
+  if (what == "edd") return text(translatable("ReportImport", "EDD"));
+  if (what == "lmp") return text(translatable("ReportImport", "Last period"));
+  if (what == "efw") return text(translatable("ReportImport", "Weight"));
+  if (what == "gravida") return text(translatable("ReportImport", "Gravidity"));
+  return foundation::shownLine(what);
+}
+
+void ReportImport::findPatient() {
+  isNew_ = document_.isNewPatient();
+  documentID_ = exchange::withoutBlanks(document_.patientRecord()->maternalIDString().value_or(""));
+  for (const Findings& report : reports_) {
+    const std::string id = report.patientID.value_or("");
+    if (id.empty()) continue;
+    areOfSeveralPatients_ |= !reportedID_.empty() && reportedID_ != id;
+    if (reportedID_.empty()) reportedID_ = id;
+  }
+  const bool takesPatient = isNew_ && documentID_.empty();
+  // What is new takes the patient of its reports. Of several, those that name nobody may be of another.
+  const std::string& expected = takesPatient ? reportedID_ : documentID_;
+  for (const Findings& report : reports_) {
+    switch (exchange::patientDoubt(report, takesPatient && reports_.size() == 1, expected)) {
+      case PatientDoubt::none: continue;
+      case PatientDoubt::reportNamesNobody:
+        patientDoubt_ = text(translatable("ReportImport", "The report does not say of which patient it is."));
+        continue;
+      case PatientDoubt::documentNamesNobody:
+        patientDoubt_ =
+            text(translatable("ReportImport", "The document does not say of which patient it is."));
+        continue;
+      case PatientDoubt::isAnother: break;
+    }
+    patientDoubt_ = text(translatable("ReportImport", "The report is of another patient than the document."));
+    return;  // nothing is worse
+  }
+}
+
+void ReportImport::confirmPatient(bool isConfirmed) {
+  isPatientConfirmed_ = isConfirmed;
+  foresee();
+}
+
+void ReportImport::findFetuses() {
+  std::size_t mostOfOneReport = 0;
+  std::int64_t mostSaid = 1;
+  for (const Findings& report : reports_) {
+    mostOfOneReport = std::max(mostOfOneReport, report.fetuses.size());
+    mostSaid = std::max<std::int64_t>(mostSaid, report.numberOfFetuses.value_or(1));
+    for (const FetusFindings& found : report.fetuses) {
+      const std::string id = found.id.value_or("");
+      if (std::ranges::find(fetuses_, id, &Fetus::id) != fetuses_.end()) continue;
+      fetuses_.push_back(
+          {.id = id,
+           .name = id.empty() ? text(translatable("ReportImport", "Fetus without an ID"))
+                              : text(translatable("ReportImport", "Fetus")) + " " + foundation::shownLine(id),
+           .place = std::nullopt});
+    }
+  }
+  count_ = isNew_ ? std::clamp<std::int64_t>(std::max(mostSaid, std::ssize(fetuses_)), calc::kFewestFetuses,
+                                             calc::kMostFetuses)
+                  : document_.patientRecord()->numberOfFetuses();
+  for (const Findings& report : reports_) {
+    for (const FetusFindings& found : report.fetuses) {
+      Fetus& fetus = fetuses_[fetusOf(found)];
+      if (!fetus.place) fetus.place = exchange::fetusPlace(found, report, count_);
+    }
+  }
+  // One is no other's twin; and in a new document nothing can be mixed up with what is there.
+  const bool areInOrder = count_ == std::ssize(fetuses_) && (count_ == 1 || isNew_);
+  const bool isNoneKnown =
+      std::ranges::none_of(fetuses_, [](const Fetus& each) { return each.place.has_value(); });
+  if (!areInOrder || !isNoneKnown || (count_ == 1 && mostSaid > 1)) return;
+  for (std::size_t i = 0; i < fetuses_.size(); ++i) fetuses_[i].place = static_cast<std::int64_t>(i);
+}
+
+std::size_t ReportImport::fetusOf(const FetusFindings& found) const {
+  return static_cast<std::size_t>(std::ranges::find(fetuses_, found.id.value_or(""), &Fetus::id) -
+                                  fetuses_.begin());
+}
+
+std::vector<std::string> ReportImport::placeNames() const {
+  std::vector<std::string> names;
+  for (const std::string_view label : model::fetusLabels(count_))
+    names.push_back(document_.services().localizer.text("NCDocument", label));
+  return names;
+}
+
+void ReportImport::setPlace(std::size_t fetus, std::optional<std::int64_t> place) {
+  fetuses_.at(fetus).place = place;
+  fetuses_.at(fetus).isLeftOut = false;
+  foresee();
+}
+
+void ReportImport::leaveOut(std::size_t fetus) {
+  fetuses_.at(fetus).place.reset();
+  fetuses_.at(fetus).isLeftOut = true;
+  foresee();
+}
+
+void ReportImport::choose(std::size_t row, bool isChosen) {
+  const Row& chosen = rows_.at(row);
+  if (!chosen.canBeChosen) return;
+  const Key key = chosen.key;
+  std::set<Key>& decided = offers_.contains(key) ? wanted_ : unwanted_;
+  if (isChosen == offers_.contains(key)) {
+    decided.insert(key);
+  } else {
+    decided.erase(key);
+  }
+  foresee();
+}
+
+std::unique_ptr<model::PatientRecord> ReportImport::patientBefore() const {
+  const model::PatientRecord& now = *document_.patientRecord();
+  auto patient = std::make_unique<model::PatientRecord>(now.withoutExaminations());
+  if (isNew_) patient->setNumberOfFetuses(count_);
+  if (documentID_.empty()) patient->setMaternalIDString(reportedID_);
+  // The blank examination of a new document gives way to those of the reports.
+  if (document_.holdsOnlyBlankExamination()) return patient;
+  for (const auto& examination : now.ncRecordsArray())
+    patient->ncRecordsArray().push_back(std::make_unique<model::NCRecord>(*examination));
+  return patient;
+}
+
+ReportImport::Wanted ReportImport::wantedOf(std::size_t report) const {
+  Wanted wanted{.findings = reports_[report], .fetuses = {}};
+  if (unwanted_.contains({report, kEDD})) wanted.findings.edd.reset();
+  if (unwanted_.contains({report, kGravida})) wanted.findings.gravida.reset();
+  wanted.findings.fetuses.clear();
+  std::set<std::int64_t> taken;
+  for (std::size_t i = 0; i < reports_[report].fetuses.size(); ++i) {
+    FetusFindings found = reports_[report].fetuses[i];
+    const auto place = fetuses_[fetusOf(found)].place;
+    if (!place || !taken.insert(*place).second) continue;
+    for (std::size_t term = 0; term < kLengthTerms.size(); ++term) {
+      if (unwanted_.contains({report, keyOfLength(i, term)})) found.lengths.at(term).reset();
+    }
+    wanted.findings.fetuses.push_back(std::move(found));
+    wanted.fetuses.push_back(i);
+  }
+  return wanted;
+}
+
+void ReportImport::foresee() {
+  rows_.clear();
+  offers_.clear();
+  imported_ = {};
+  storesAnything_ = false;
+  foreseen_ = patientBefore();
+  exchange::Confirmation confirmation{.patientID = documentID_.empty() ? reportedID_ : documentID_,
+                                      .fetusPlaces = {}};
+  for (const Fetus& fetus : fetuses_) {
+    if (fetus.place) confirmation.fetusPlaces.emplace(fetus.id, *fetus.place);
+  }
+  for (std::size_t report = 0; report < reports_.size(); ++report) {
+    const Wanted wanted = wantedOf(report);
+    confirmation.takeEDD = wanted_.contains({report, kEDD});
+    const auto stored = exchange::storeFindings(wanted.findings, confirmation, false,
+                                                document_.services().calendar, *foreseen_);
+    addRows(report, wanted, std::get_if<exchange::Stored>(&stored));
+    const auto* why = std::get_if<std::string>(&stored);
+    if (why) addRemark(report, "", capitalised(*why) + ".");
+  }
+  if (foreseen_->ncRecordsArray().empty()) {
+    for (const auto& blank : document_.patientRecord()->ncRecordsArray()) {
+      foreseen_->ncRecordsArray().push_back(std::make_unique<model::NCRecord>(*blank));
+      while (std::cmp_less(blank->measurements().size(), count_) && isNew_)
+        foreseen_->ncRecordsArray().back()->addMeasurementsRecord();
+    }
+  }
+  obstacle_ = findObstacle();
+}
+
+ReportImport::Row& ReportImport::addRow(std::size_t report, std::size_t value, const std::string& fetus,
+                                        const std::string& what) {
+  return rows_.emplace_back(Row{.examination = dayText(reports_[report].examDate),
+                                .fetus = fetus,
+                                .what = what,
+                                .key = {report, value}});
+}
+
+void ReportImport::addRemark(std::size_t report, const std::string& fetus, const std::string& sentence) {
+  Row& row = addRow(report, 0, fetus, text(translatable("ReportImport", "Note")));
+  row.outcome = foundation::shownLine(sentence);
+  row.isWarning = true;
+}
+
+void ReportImport::tellFate(Row& row, Fate fate) {
+  switch (fate) {
+    case Fate::stored:
+      row.outcome = text(translatable("ReportImport", "is added"));
+      row.canBeChosen = row.isChosen = true;
+      storesAnything_ = true;
+      return;
+    case Fate::isThereAlready: row.outcome = text(translatable("ReportImport", "is there already")); return;
+    case Fate::otherStays:
+      row.outcome = text(translatable("ReportImport", "is not taken: another value stands"));
+      break;
+    case Fate::isBeyondBounds:
+      row.outcome = text(translatable("ReportImport", "is not taken: beyond what can be typed"));
+      break;
+    case Fate::isNeverStored: break;
+  }
+  row.isWarning = true;
+}
+
+void ReportImport::tellUnwanted(Row& row) {
+  row.outcome = text(translatable("ReportImport", "is left out"));
+  row.canBeChosen = true;
+}
+
+void ReportImport::offer(Row& row) {
+  offers_.insert(row.key);
+  row.canBeChosen = true;
+  row.isChosen = wanted_.contains(row.key);
+  row.isWarning = true;
+}
+
+void ReportImport::addRows(std::size_t report, const Wanted& wanted, const exchange::Stored* stored) {
+  const Findings& findings = reports_[report];
+  if (findings.edd) addEDD(report, stored);
+  if (findings.gravida) addGravida(report, stored);
+  for (std::size_t i = 0; i < findings.fetuses.size(); ++i) {
+    const FetusFindings& found = findings.fetuses[i];
+    const Fetus& fetus = fetuses_[fetusOf(found)];
+    for (std::size_t term = 0; term < kLengthTerms.size(); ++term) {
+      if (found.lengths.at(term)) addLength(report, wanted, stored, i, term);
+    }
+    if (found.efw) {
+      Row& row = addRow(report, 0, fetus.name, text(translatable("ReportImport", "Weight")));
+      row.reported = foundation::fieldText(*found.efw, 0, '.') + " g";
+      row.outcome = text(translatable("ReportImport", "is compared only"));
+    }
+  }
+  for (const std::string& warning : findings.warnings) addRemark(report, "", capitalised(warning) + ".");
+  for (const exchange::NotTaken& not_taken : findings.notTaken) addNotTaken(report, not_taken);
+}
+
+void ReportImport::addEDD(std::size_t report, const exchange::Stored* stored) {
+  Row& row = addRow(report, kEDD, "", text(translatable("ReportImport", "EDD")));
+  row.reported = dayText(reports_[report].edd);
+  if (reports_[report].eddFrom == "lmp")
+    row.reported += " (" + text(translatable("ReportImport", "from the last period")) + ")";
+  if (!stored) return;
+  if (!stored->edd) {
+    tellUnwanted(row);
+    return;
+  }
+  row.standing = dayText(stored->edd->standing);
+  tellFate(row, stored->edd->fate);
+  // An established one is replaced only where a person wants it.
+  const bool isReplaced = stored->edd->fate == Fate::stored && wanted_.contains(row.key);
+  if (stored->edd->fate != Fate::otherStays && !isReplaced) return;
+  offer(row);
+  row.outcome = isReplaced ? text(translatable("ReportImport", "replaces the established EDD"))
+                           : text(translatable("ReportImport", "is not taken: the established EDD stays"));
+}
+
+void ReportImport::addGravida(std::size_t report, const exchange::Stored* stored) {
+  Row& row = addRow(report, kGravida, "", text(translatable("ReportImport", "Gravidity")));
+  row.reported = std::to_string(*reports_[report].gravida);
+  if (!stored) return;
+  if (!stored->gravida) {
+    tellUnwanted(row);
+    return;
+  }
+  if (stored->gravida->standing != 0) row.standing = std::to_string(stored->gravida->standing);
+  tellFate(row, stored->gravida->fate);
+}
+
+void ReportImport::addLength(std::size_t report, const Wanted& wanted, const exchange::Stored* stored,
+                             std::size_t fetus, std::size_t term) {
+  const FetusFindings& found = reports_[report].fetuses[fetus];
+  const Fetus& known = fetuses_[fetusOf(found)];
+  Row& row = addRow(report, keyOfLength(fetus, term), known.name, std::string(kLengthTerms.at(term).label));
+  row.reported = numberText(foundation::shortestText(found.lengths.at(term)->mm)) + " mm";
+  const std::string_view how = howChosen(found.lengths.at(term)->chosen);
+  if (!how.empty()) row.reported += " (" + text(how) + ")";
+  if (!stored) return;
+  const auto place = std::ranges::find(wanted.fetuses, fetus);
+  if (place == wanted.fetuses.end()) {
+    row.outcome = known.isLeftOut ? text(translatable("ReportImport", "is left out"))
+                                  : text(translatable("ReportImport", "Which fetus is it?"));
+    row.isWarning = !known.isLeftOut;
+    return;
+  }
+  const auto there = static_cast<std::size_t>(place - wanted.fetuses.begin());
+  const auto outcome = std::ranges::find_if(stored->lengths, [&](const exchange::StoredLength& each) {
+    return each.fetus == there && each.term == term;
+  });
+  if (outcome == stored->lengths.end()) {
+    tellUnwanted(row);
+    return;
+  }
+  if (outcome->standing != 0.0)
+    row.standing = numberText(exchange::shortestSingleText(outcome->standing)) + " mm";
+  tellFate(row, outcome->fate);
+  if (outcome->fate == Fate::isNeverStored) {
+    offer(row);
+    row.outcome = row.isChosen
+                      ? text(translatable("ReportImport", "is entered in EDD from CRL"))
+                      : text(translatable("ReportImport", "is not stored; can be entered in EDD from CRL"));
+    if (!row.isChosen) return;
+    storesAnything_ = true;
+    imported_.crl = found.lengths.at(term)->mm;
+    imported_.crlDay = reports_[report].examDate;
+    return;
+  }
+  if (outcome->fate != Fate::stored) return;
+  imported_.shownDay = reports_[report].examDate;
+  imported_.shownFetus = outcome->place;
+  row.isWarning = isDerived(found.lengths.at(term)->chosen);
+}
+
+void ReportImport::addNotTaken(std::size_t report, const exchange::NotTaken& notTaken) {
+  const auto fetus =
+      notTaken.fetus ? std::ranges::find(fetuses_, *notTaken.fetus, &Fetus::id) : fetuses_.end();
+  Row& row = addRow(report, 0, fetus != fetuses_.end() ? fetus->name : "", "");
+  row.what = labelOf(notTaken.what);
+  if (notTaken.value) {
+    row.reported =
+        numberText(foundation::shortestText(*notTaken.value)) + " " + foundation::shownLine(notTaken.unit);
+  }
+  row.outcome =
+      text(translatable("ReportImport", "is not taken:")) + " " + foundation::shownLine(notTaken.why);
+}
+
+std::string ReportImport::findObstacle() const {
+  if (areOfSeveralPatients_)
+    return text(translatable(
+        "ReportImport", "The reports are of several patients. Please import those of each patient alone."));
+  if (!patientDoubt_.empty() && !isPatientConfirmed_)
+    return text(translatable("ReportImport", "Please say whether the report is of this patient."));
+  if (placeNames().empty())
+    return text(translatable("ReportImport", "The document has a number of fetuses that no report fits."));
+  const auto wantedFetuses = std::ranges::count(fetuses_, false, &Fetus::isLeftOut);
+  if (wantedFetuses > count_) {
+    return foundation::format(
+        text(
+            translatable("ReportImport",
+                         "The report is of %ld fetuses, the document of %ld. Please leave out the others, or "
+                         "cancel and add a fetus.")),
+        {wantedFetuses, count_});
+  }
+  std::set<std::int64_t> taken;
+  for (const Fetus& fetus : fetuses_) {
+    if (fetus.isLeftOut) continue;
+    if (!fetus.place)
+      return text(translatable("ReportImport", "Please choose for each fetus which one it is."));
+    if (!taken.insert(*fetus.place).second)
+      return text(translatable("ReportImport", "Two fetuses of the report cannot be the same one."));
+  }
+  if (!storesAnything_) return text(translatable("ReportImport", "There is nothing to be added."));
+  return {};
+}
+
+bool ReportImport::store() {
+  // What a script did meanwhile counts.
+  foresee();
+  if (!obstacle_.empty()) return false;
+  const auto established = document_.patientRecord()->edd();
+  if (established && foreseen_->edd() != established && !document_.userModifiesEDD()) return false;
+  document_.takeImported(std::move(foreseen_), imported_);
+  return true;
+}
+
+}  // namespace nascor::app
