@@ -907,6 +907,77 @@
         <source>%1 already exists. Do you want to replace it?</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Import Report</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reports (*.dcm *.json)</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ImportDialog</name>
+    <message>
+        <source>Examination</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fetus</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Report</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Patient</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What becomes of it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Import Report</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reference ID of the report: %1. Of the document: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The report is of &amp;this patient</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> of the report is:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Please choose</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Leave out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Values of the report</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Import Report of %1</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>MyDocument</name>
@@ -1348,6 +1419,10 @@
     </message>
     <message>
         <source>&amp;Check the Numbers</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Import Report...</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1804,6 +1879,10 @@
         <source>Lines join the marks of each fetus.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Import Report</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>OutputMenu</name>
@@ -2251,6 +2330,33 @@
     </message>
     <message>
         <source>&amp;All References</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ReportImport</name>
+    <message>
+        <source>chosen at the machine</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>mean</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>mean of several</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>calculated, not measured</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>estimated, not measured</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The report cannot be imported.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

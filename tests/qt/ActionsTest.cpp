@@ -819,6 +819,8 @@ const std::map<std::string, std::string>& doneElsewhere() {
       {"recentMenu/0", "Actions.openClearAndForgetRecentDocumentsByKeys"},
       {"clearRecentAction", "Actions.openClearAndForgetRecentDocumentsByKeys"},
       {"rememberRecentAction", "Actions.openClearAndForgetRecentDocumentsByKeys"},
+      {"importReportAction", "TheImportDialog.showsAReportBesideThePatientAndStoresItWithOK"},
+      {"a report dropped", "TheImportDialog.opensForAReportThatIsDroppedOnTheWindow"},
       {"windowMenu/0", "TheWindowMenu.bringsTheChosenDocumentToTheFront"},
       {"Ctrl+= for a larger page", "ThePages.growWithoutTheShiftKeyToo"},
       {"the wheel and the keys over a page that is larger", "ThePages.scrollWhenTheyAreLargerThanTheWindow"},

@@ -31,6 +31,9 @@ DocumentApplication::DocumentApplication(const foundation::Services& services, c
       pageWriter_(services.files),
       printer_(services.files),
       documents_(services, alerts_, panels_),
+      importer_(services, documents_, alerts_,
+                [this](const ZuDocument& document) { return windowOf(document); }),
+      reportFolder_(services, [this](const QString& path) { return importWaiting(path); }),
       controller_(services, documents_, {.resourcePath = resources, .viewer = &viewer_}),
       recentFiles_(services.defaults) {
   alerts_.frontWindow = [this] { return frontWindow(); };
@@ -112,7 +115,29 @@ void DocumentApplication::chooseFilesToOpen() {
   });
 }
 
-void DocumentApplication::openNow(const QStringList& paths) {
+void DocumentApplication::takeFiles(const QStringList& paths, ZuDocument& document) {
+  actions_.performInTurn([this, paths, &document] {
+    const auto open = documents_.documents();
+    const bool isOpen = std::ranges::find(open, &document) != open.end();
+    openNow(paths, isOpen ? dynamic_cast<app::NCDocument*>(&document) : nullptr);
+  });
+}
+
+bool DocumentApplication::importWaiting(const QString& path) {
+  bool isStored = false;
+  actions_.perform([&] { isStored = importer_.import({path}, nullptr); });
+  return isStored;
+}
+
+void DocumentApplication::chooseReportsToImport(app::NCDocument& document) {
+  QStringList paths;
+  for (const std::string& path : panels_.chooseReportsToImport())
+    paths << QFile::decodeName(QByteArray::fromStdString(path));
+  if (!paths.isEmpty()) importer_.import(paths, &document);
+}
+
+void DocumentApplication::openNow(const QStringList& paths, app::NCDocument* document) {
+  QStringList reports;
   QStringList sentences;
   std::string details;
   for (const QString& path : paths) {
@@ -122,6 +147,10 @@ void DocumentApplication::openNow(const QStringList& paths) {
                        "FilePanels",
                        "%1: The file's name is not UTF-8. Please rename the file and open it again.")
                        .arg(path);
+      continue;
+    }
+    if (importer_.isReport(path)) {
+      reports << path;
       continue;
     }
     ZuDocument* before = documents_.currentDocument();
@@ -137,12 +166,14 @@ void DocumentApplication::openNow(const QStringList& paths) {
     sentences << fromUtf8(error.reason);
     if (!error.details.empty()) details += error.details + "\n";
   }
-  if (sentences.isEmpty()) return;
-  const foundation::Localizer& localizer = services_.localizer;
-  alerts_.tellDetails(sentences.size() == 1
-                          ? localizer.text("CorvelDocument", "The document cannot be opened.")
-                          : localizer.text("CorvelDocument", "These documents cannot be opened."),
-                      toUtf8(sentences.join(QStringLiteral("\n\n"))), details);
+  if (!sentences.isEmpty()) {
+    const foundation::Localizer& localizer = services_.localizer;
+    alerts_.tellDetails(sentences.size() == 1
+                            ? localizer.text("CorvelDocument", "The document cannot be opened.")
+                            : localizer.text("CorvelDocument", "These documents cannot be opened."),
+                        toUtf8(sentences.join(QStringLiteral("\n\n"))), details);
+  }
+  if (!reports.isEmpty()) importer_.import(reports, document);
 }
 
 void DocumentApplication::activate() {
@@ -217,7 +248,10 @@ void DocumentApplication::addWindow(ZuDocument& document) {
        .actions = actions_,
        .recentFiles = recentFiles_,
        .openFiles = [this](const QStringList& paths) { openFiles(paths); },
+       .takeFiles = [this](const QStringList& paths, ZuDocument& into) { takeFiles(paths, into); },
        .chooseFilesToOpen = [this] { chooseFilesToOpen(); },
+       .waitingReports = reportFolder_,
+       .chooseReportsToImport = [this](app::NCDocument& into) { chooseReportsToImport(into); },
        .openDocuments =
            [this] {
              std::vector<ZuDocument*> open;

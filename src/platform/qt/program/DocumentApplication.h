@@ -16,6 +16,8 @@
 #include "framework/DocumentController.h"
 #include "painting/PageFiles.h"
 #include "painting/QtPrinter.h"
+#include "program/ReportFolder.h"
+#include "program/ReportImporter.h"
 #include "window/Actions.h"
 #include "window/DocumentWindow.h"
 #include "window/QtAlerts.h"
@@ -44,9 +46,15 @@ class DocumentApplication {
   DocumentWindow* windowOf(const framework::ZuDocument& document) const;
 
   void newDocument();
-  /// Opens each file, or brings its window to the front, and then tells of all that could not be read. As soon as no
-  /// other action is in progress.
+  /// Opens each document, or brings its window to the front, and then tells of all that could not be read. Reports of
+  /// ultrasound machines are imported. As soon as no other action is in progress.
   void openFiles(const QStringList& paths);
+  /// The same of files that were dropped onto the window of `document`, which takes the reports.
+  void takeFiles(const QStringList& paths, framework::ZuDocument& document);
+  /// The folder whose reports are offered.
+  ReportFolder& reportFolder() { return reportFolder_; }
+  /// Asks for reports and imports them into `document`.
+  void chooseReportsToImport(app::NCDocument& document);
   /// Asks for files and opens them.
   void chooseFilesToOpen();
   /// Brings the window in front to where the user sees it; a new document where there is none.
@@ -72,7 +80,9 @@ class DocumentApplication {
   const DocumentNumbers& numbers() const { return numbers_; }
 
  private:
-  void openNow(const QStringList& paths);
+  bool importWaiting(const QString& path);
+  /// Reports go into `document`; null for the one that they belong to.
+  void openNow(const QStringList& paths, app::NCDocument* document = nullptr);
   void keepChangesSoon();
   bool hasOpenQuestion();
   void addWindow(framework::ZuDocument& document);
@@ -88,6 +98,8 @@ class DocumentApplication {
   QtPrinter printer_;
   QtViewer viewer_;
   framework::DocumentController documents_;
+  ReportImporter importer_;
+  ReportFolder reportFolder_;
   app::NCAppController controller_;
   RecentFiles recentFiles_;
   DocumentNumbers numbers_;

@@ -1,6 +1,7 @@
 #include <fontconfig/fontconfig.h>
 #include <QCommandLineParser>
 #include <QFile>
+#include <QFileInfo>
 #include <QLocale>
 #include <QSessionManager>
 #include <QSocketNotifier>
@@ -57,7 +58,7 @@ struct CommandLine {
   CommandLine() {
     parser.setApplicationDescription(
         QCoreApplication::translate("main", "Obstetric ultrasound biometry.\n%1").arg(disclaimer()));
-    parser.addOptions({help, version, service});
+    parser.addOptions({help, version, service, watch});
     pages.addTo(parser);
     parser.addPositionalArgument("file", QCoreApplication::translate("main", "Documents to open."),
                                  "[FILE...]");
@@ -68,6 +69,9 @@ struct CommandLine {
   const QCommandLineOption version{{"v", "version"},
                                    QCoreApplication::translate("main", "Shows the version.")};
   const PageOptions pages;
+  const QCommandLineOption watch{
+      "watch", QCoreApplication::translate("main", "Offers the reports that machines put into this folder."),
+      "FOLDER"};
   const QCommandLineOption service{
       "service", QCoreApplication::translate("main", "Shows no window until the session bus asks for one.")};
 };
@@ -76,7 +80,7 @@ struct CommandLine {
 std::optional<int> answerAtOnce(CommandLine& line, const QStringList& arguments) {
   if (!line.parser.parse(arguments)) {
     printLine(stderr, line.parser.errorText());
-    printLine(stderr, QStringLiteral("usage: nascor [--write-pages FOLDER] [FILE...]"));
+    printLine(stderr, QStringLiteral("usage: nascor [--write-pages FOLDER | --watch FOLDER] [FILE...]"));
     return kWrongUsage;
   }
   if (line.parser.isSet(line.help)) {
@@ -197,6 +201,11 @@ Subscriptions followSession(Application& application, DocumentApplication& docum
 
 int showDocuments(Application& application, const CommandLine& line, const foundation::Services& services) {
   const QStringList files = line.parser.positionalArguments();
+  const QString watched = line.parser.value(line.watch);
+  if (line.parser.isSet(line.watch) && !QFileInfo(watched).isDir()) {
+    printLine(stderr, QCoreApplication::translate("main", "nascor: --watch: %1 is no folder").arg(watched));
+    return kWrongUsage;
+  }
   posix::RecoveryFolder recoveryFolder(posix::RecoveryFolder::usualPath());
   DocumentApplication documents(services, resourceFolder(), &recoveryFolder);
   const posix::EndingSignals endingSignals;
@@ -213,7 +222,13 @@ int showDocuments(Application& application, const CommandLine& line, const found
   ApplicationService service(objects, services.log);
   const auto asks = documents.onQuestion.subscribe([&] { service.questionIsAsked(); });
   const ApplicationService::Start start = service.start(files);
-  if (start == ApplicationService::Start::handedOver) return kAllWell;
+  if (start == ApplicationService::Start::handedOver) {
+    if (!line.parser.isSet(line.watch)) return kAllWell;
+    printLine(stderr, QCoreApplication::translate("main",
+                                                  "nascor: --watch: Nascor is running already. Please choose "
+                                                  "the folder there, by File > Report Folder."));
+    return kFailed;
+  }
 
   Application::setWindowIcon(applicationIcon());
   const Subscriptions session = followSession(application, documents);
@@ -228,6 +243,7 @@ int showDocuments(Application& application, const CommandLine& line, const found
     documents.openFiles(files);
     if (documents.documents().documents().empty()) return kFailed;
   }
+  documents.reportFolder().begin(watched.isEmpty() ? watched : QFileInfo(watched).absoluteFilePath());
   return Application::exec();
 }
 

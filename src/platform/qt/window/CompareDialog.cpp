@@ -14,7 +14,6 @@
 #include <QMimeData>
 #include <QPrintDialog>
 #include <QPrinter>
-#include <QProxyStyle>
 #include <QPushButton>
 #include <QShortcut>
 #include <QSortFilterProxyModel>
@@ -30,6 +29,7 @@
 #include "base/Text.h"
 #include "painting/QtPrinter.h"
 #include "window/FigureDelegate.h"
+#include "window/TableLook.h"
 
 namespace nascor::qt {
 
@@ -49,15 +49,6 @@ void makeRoom(QTableView& view) {
   }
 }
 
-/// Keeps numbers at the right of a column apart from texts at the left of the next.
-class RoomyCells final : public QProxyStyle {
- public:
-  int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override {
-    const int usual = QProxyStyle::pixelMetric(metric, option, widget);
-    return metric == PM_FocusFrameHMargin || metric == PM_HeaderMargin ? usual + 4 : usual;
-  }
-};
-
 /// A table that takes Return for itself, which would close the dialog.
 class Figures final : public QTableView {
  public:
@@ -71,19 +62,6 @@ class Figures final : public QTableView {
     event->accept();
   }
 };
-
-/// Every other row stands out a little, also on palettes that have no colour for it or that of another one.
-void tellRowsApart(QTableView& view) {
-  QPalette palette = view.palette();
-  const QColor base = palette.color(QPalette::Base);
-  const QColor text = palette.color(QPalette::Text);
-  const auto mixed = [](int one, int other) { return (15 * one + other) / 16; };
-  const QColor other(mixed(base.red(), text.red()), mixed(base.green(), text.green()),
-                     mixed(base.blue(), text.blue()));
-  if (other == palette.color(QPalette::AlternateBase)) return;  // setting it lays the table out anew
-  palette.setColor(QPalette::AlternateBase, other);
-  view.setPalette(palette);
-}
 
 }  // namespace
 
@@ -201,20 +179,8 @@ void CompareDialog::addPage(compare::TableKind kind, const Table& table) {
   view->setItemDelegate(figures_);
   view->setObjectName(QStringLiteral("compare-") + fromUtf8(std::string(table.name)));
   view->setAccessibleName(fromUtf8(table.title));
-  view->setSelectionBehavior(QAbstractItemView::SelectRows);
+  dressTable(*view);
   view->setEditTriggers(QAbstractItemView::NoEditTriggers);
-  view->setAlternatingRowColors(true);
-  view->setShowGrid(false);
-  auto* roomy = new RoomyCells;
-  roomy->setParent(view);
-  view->setStyle(roomy);
-  view->horizontalHeader()->setStyle(roomy);
-  view->setWordWrap(false);
-  view->setTabKeyNavigation(false);
-  view->verticalHeader()->hide();
-  view->verticalHeader()->setDefaultSectionSize(fontMetrics().lineSpacing() * 5 / 4);
-  view->horizontalHeader()->setHighlightSections(false);
-  view->horizontalHeader()->setStretchLastSection(true);
   view->horizontalHeader()->setDefaultSectionSize(fontMetrics().averageCharWidth() * 6);
   // Unsorted until a header is clicked.
   view->horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);

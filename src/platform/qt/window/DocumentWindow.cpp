@@ -80,6 +80,7 @@ DocumentWindow::DocumentWindow(NCDocument& document, WindowEnvironment environme
   ui_->statusBar->addWidget(statusLabel, 1);
   growthLabel_->setObjectName(QStringLiteral("growthStandardLabel"));
   growthLabel_->setContentsMargins(12, 0, 12, 0);
+  showWaitingReports(*this, environment_.waitingReports);
   ui_->statusBar->addPermanentWidget(growthLabel_);
   weightLabel_->setObjectName(QStringLiteral("fetalWeightLabel"));
   ui_->statusBar->addPermanentWidget(weightLabel_);
@@ -286,6 +287,12 @@ void DocumentWindow::bindFileActions() {
   connect(ui_->newAction, &QAction::triggered, this,
           [this] { environment_.actions.perform([this] { environment_.documents.newDocument(); }); });
   connect(ui_->openAction, &QAction::triggered, this, [this] { environment_.chooseFilesToOpen(); });
+  connect(ui_->importReportAction, &QAction::triggered, this, [this] {
+    perform([this](NCDocument& document) { environment_.chooseReportsToImport(document); });
+  });
+  connect(ui_->reportFolderAction, &QAction::triggered, this, [this] {
+    perform([this](NCDocument&) { askForReportFolder(*this, environment_.waitingReports); });
+  });
   new RecentMenu(*ui_->recentMenu, environment_.recentFiles, environment_.openFiles);
   new WindowMenu(*ui_->windowMenu, {.documents = environment_.openDocuments,
                                     .own = [this] { return document_; },
@@ -428,7 +435,7 @@ void DocumentWindow::dropEvent(QDropEvent* event) {
   QMetaObject::invokeMethod(
       this,
       [this, all] {
-        if (!all.paths.isEmpty()) environment_.openFiles(all.paths);
+        if (!all.paths.isEmpty() && document_) environment_.takeFiles(all.paths, *document_);
         if (!all.links.isEmpty()) tellOfLinks(all.links);
       },
       Qt::QueuedConnection);

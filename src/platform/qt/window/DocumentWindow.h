@@ -17,6 +17,7 @@
 #include "summary/Typesetter.h"
 #include "window/Actions.h"
 #include "window/Perform.h"
+#include "window/WaitingReports.h"
 
 class QLabel;
 
@@ -44,7 +45,10 @@ struct WindowEnvironment {
   Actions& actions;
   RecentFiles& recentFiles;
   std::function<void(const QStringList&)> openFiles;
+  std::function<void(const QStringList&, framework::ZuDocument&)> takeFiles;  ///< dropped onto its window
   std::function<void()> chooseFilesToOpen;
+  WaitingReports& waitingReports;
+  std::function<void(app::NCDocument&)> chooseReportsToImport;         ///< into that document
   std::function<std::vector<framework::ZuDocument*>()> openDocuments;  ///< in the order of opening
   std::function<void(framework::ZuDocument&)> bringToFront;
   std::function<void()> quit;

@@ -36,9 +36,19 @@ bool QtFilePanels::userReplaces(const QString& path) const {
 }
 
 std::vector<std::string> QtFilePanels::chooseFilesToOpen() {
+  return chooseFiles(said("FilePanels", "Open"), filters());
+}
+
+std::vector<std::string> QtFilePanels::chooseReportsToImport() {
+  // Machines give their files any name.
+  return chooseFiles(said("FilePanels", "Import Report"), said("FilePanels", "All files (*)") +
+                                                              QStringLiteral(";;") +
+                                                              said("FilePanels", "Reports (*.dcm *.json)"));
+}
+
+std::vector<std::string> QtFilePanels::chooseFiles(const QString& title, const QString& filters) {
   std::vector<std::string> paths;
-  for (const QString& path :
-       QFileDialog::getOpenFileNames(parent(), said("FilePanels", "Open"), folder(), filters())) {
+  for (const QString& path : QFileDialog::getOpenFileNames(parent(), title, folder(), filters)) {
     lastFolder_ = QFileInfo(path).absolutePath();
     paths.push_back(QFile::encodeName(path).toStdString());
   }

@@ -20,12 +20,15 @@ class QtFilePanels final : public framework::FilePanels {
 
   std::optional<std::string> chooseFolder() override;
 
+  std::vector<std::string> chooseReportsToImport();
+
   std::function<QWidget*()> frontWindow;  ///< set by the maker of windows; may return null
 
  private:
   QWidget* parent() const { return frontWindow ? frontWindow() : nullptr; }
   QString extension() const;
   QString folder() const;
+  std::vector<std::string> chooseFiles(const QString& title, const QString& filters);
   QString filters() const;
   bool userReplaces(const QString& path) const;
 

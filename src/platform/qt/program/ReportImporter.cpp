@@ -1,0 +1,73 @@
+#include "program/ReportImporter.h"
+
+#include <QFile>
+#include <algorithm>
+#include <utility>
+
+#include "app/ReportImport.h"
+#include "base/Text.h"
+#include "foundation/Localizer.h"
+#include "reports/Reports.h"
+#include "window/ImportDialog.h"
+#include "window/QtAlerts.h"
+
+namespace nascor::qt {
+
+using app::NCDocument;
+
+bool ReportImporter::isReport(const QString& path) const {
+  QFile file(path);
+  if (!file.open(QIODevice::ReadOnly)) return false;
+  constexpr qint64 kBeginning = 4096;
+  const QByteArray beginning = file.read(kBeginning);
+  return reports::isReport(std::as_bytes(std::span(beginning.constData(), beginning.size())));
+}
+
+NCDocument& ReportImporter::documentFor(const std::vector<exchange::Findings>& reports) {
+  const auto open = documents_.documents();
+  for (const auto& report : reports) {
+    for (auto each = open.rbegin(); report.patientID && each != open.rend(); ++each) {
+      auto* document = dynamic_cast<NCDocument*>(*each);
+      if (document && document->patientRecord() &&
+          document->patientRecord()->maternalIDString() == report.patientID)
+        return *document;
+    }
+  }
+  auto* front = dynamic_cast<NCDocument*>(documents_.currentDocument());
+  if (front && front->isUntouched()) return *front;
+  return dynamic_cast<NCDocument&>(documents_.newDocument());
+}
+
+bool ReportImporter::import(const QStringList& paths, NCDocument* document) {
+  std::vector<std::string> files;
+  for (const QString& path : paths) files.push_back(QFile::encodeName(path).toStdString());
+  reports::FoundInFiles found = reports::findingsInFiles(files, services_.files);
+  if (!found.failures.empty()) {
+    std::string sentences;
+    for (const std::string& failure : found.failures)
+      sentences += (sentences.empty() ? "" : "\n\n") + failure;
+    alerts_.tell(services_.localizer.text("ReportImport", found.failures.size() == 1
+                                                              ? "The report cannot be imported."
+                                                              : "These reports cannot be imported."),
+                 sentences);
+  }
+  if (found.findings.empty()) return false;
+
+  NCDocument* chosen = document ? document : &documentFor(found.findings);
+  if (const DocumentWindow* window = windowOf_(*chosen); window && hasSheet(*window)) {
+    documents_.setCurrentDocument(*chosen);  // what was asked there wants its answer first
+    return false;
+  }
+  if (!chosen->commitEditing()) {
+    documents_.setCurrentDocument(*chosen);
+    alerts_.tell(services_.localizer.text("ReportImport", "The report cannot be imported."),
+                 services_.localizer.text("CorvelDocument", "A field holds a text that is not permitted."));
+    return false;
+  }
+  NCDocument& target = chosen->documentOfPatient(found.findings);
+  documents_.setCurrentDocument(target);
+  app::ReportImport import(target, std::move(found.findings));
+  return ImportDialog(import, windowOf_(target)).exec() == QDialog::Accepted;
+}
+
+}  // namespace nascor::qt
