@@ -1,6 +1,5 @@
 #pragma once
 
-#include <array>
 #include <cstddef>
 #include <optional>
 #include <span>
@@ -11,15 +10,10 @@
 
 #include "rows/Columns.h"
 #include "rows/CsvReader.h"
+#include "rows/InputColumns.h"
 #include "rows/RowFormat.h"
 
 namespace nascor::rows {
-
-/// The header of the input does not say where the age and the lengths are, or names a column as the output does.
-class HeaderError : public std::runtime_error {
- public:
-  using std::runtime_error::runtime_error;
-};
 
 /// A column was asked for that there is not.
 class UnknownColumn : public std::runtime_error {
@@ -27,17 +21,9 @@ class UnknownColumn : public std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
-/// The number in a cell that holds an age or a length. 0.0, not measured, for an empty cell, blanks, zeros, `NA` and `nan`
-/// in any letters, with or without a sign. Blanks around a number, a plus sign, exponents, `.5` and `5.` are fine.
-/// Nothing for any other text: units, commas, hexadecimals, infinities, what a double cannot hold.
-std::optional<double> measuredFromText(std::string_view text);
-
 /// Weights, means, standard deviations and z-scores beside the columns of a CSV table: each record in, a row out.
 class Calculation {
  public:
-  /// One of the five columns that are looked for: the age, then the four lengths.
-  static constexpr std::size_t kInputs = 5;
-
   /// `names` are the columns that are wanted, of the input or computed, in order; without them all of the input and then
   /// those of the choice. Throws HeaderError and UnknownColumn.
   Calculation(std::span<const CsvCell> header, const Choice& choice,
@@ -53,10 +39,10 @@ class Calculation {
   std::string append(std::string& out, std::span<const CsvCell> record);
 
  private:
-  /// Where the columns that are looked for stand in the input.
-  using Places = std::array<std::optional<std::size_t>, kInputs>;
+  /// Where the columns of `kMeasuredColumns` stand in the input.
+  using Places = std::vector<std::optional<std::size_t>>;
 
-  static Places placesOf(const std::vector<std::string>& names);
+  static Places measuredPlaces(std::span<const CsvCell> header);
   static std::vector<Column> chosenColumns(const std::vector<std::string>& inputNames,
                                            std::span<const CsvCell> header, const Choice& choice,
                                            const std::optional<std::vector<std::string>>& names);

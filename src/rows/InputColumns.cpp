@@ -1,0 +1,93 @@
+#include "rows/InputColumns.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+
+#include "foundation/Utf8.h"
+
+namespace nascor::rows {
+
+namespace {
+
+std::string_view withoutBlanks(std::string_view text) {
+  if (!text.empty() && text.front() > ' ' && text.back() > ' ') return text;
+  constexpr std::string_view kBlanks = " \t\n\v\f\r";
+  const std::size_t first = text.find_first_not_of(kBlanks);
+  if (first == std::string_view::npos) return {};
+  return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
+}
+
+bool isNan(std::string_view text) {
+  if (text.starts_with('+') || text.starts_with('-')) text.remove_prefix(1);
+  return std::ranges::equal(text, std::string_view("nan"),
+                            [](char each, char small) { return (each | 0x20) == small; });
+}
+
+/// Whether a number that no double can hold lies next to zero.
+bool isTiny(std::string_view number) {
+  const std::size_t exponent = number.find_first_of("eE");
+  return exponent == std::string_view::npos ? number.find_first_of("123456789") > number.find('.')
+                                            : number.substr(exponent + 1).starts_with('-');
+}
+
+/// The beginning of a text of any length, for a message.
+std::string shown(const std::string& text) {
+  constexpr std::size_t kMost = 40;
+  if (text.size() <= kMost) return foundation::oneLine(text);
+  return foundation::oneLine(std::string_view(text).substr(0, foundation::lengthWithin(text, kMost))) + "...";
+}
+
+}  // namespace
+
+std::vector<std::optional<std::size_t>> placesOf(std::span<const InputColumn> columns,
+                                                 std::span<const CsvCell> header) {
+  std::vector<std::optional<std::size_t>> places(columns.size());
+  std::string quoted;
+  for (std::size_t place = 0; place < header.size(); ++place) {
+    const CsvCell& cell = header[place];
+    if (cell.text.empty()) continue;
+    const std::string_view name = cell.isQuoted ? quoted = textOf(cell) : cell.text;
+    const auto column = std::ranges::find_if(
+        columns, [&](const InputColumn& each) { return name == each.name || name == each.shortName; });
+    if (column == columns.end()) continue;
+    auto& found = places[static_cast<std::size_t>(column - columns.begin())];
+    if (found) {
+      const std::string first = textOf(header[*found]);
+      throw HeaderError(first == name ? "the column " + first + " stands twice in the header"
+                                      : "the columns " + first + " and " + std::string(name) + " are one");
+    }
+    found = place;
+  }
+  return places;
+}
+
+std::string namesOf(const InputColumn& column) {
+  return std::string(column.name).append(" or ").append(column.shortName);
+}
+
+std::optional<double> measuredFromText(std::string_view text) {
+  text = withoutBlanks(text);
+  if (text.empty() || text == "NA" || isNan(text)) return 0.0;
+  if (text.starts_with('+') && !text.starts_with("+-")) text.remove_prefix(1);
+  double value = 0.0;
+  const char* last = text.data() + text.size();
+  const auto [end, error] = std::from_chars(text.data(), last, value);
+  if (end != last) return std::nullopt;
+  if (error == std::errc::result_out_of_range && isTiny(text)) return 0.0;
+  // "inf" is one of the texts that are read here.
+  if (error != std::errc() || !std::isfinite(value)) return std::nullopt;
+  return value;
+}
+
+std::string cellCountFault(std::size_t header, std::size_t row) {
+  return "the header has " + std::to_string(header) + " cells, this row " + std::to_string(row);
+}
+
+std::string numberFault(const std::string& column, const std::string& text) {
+  return column + ": " + inQuotes(text) + " is no number";
+}
+
+std::string inQuotes(const std::string& text) { return '"' + shown(text) + '"'; }
+
+}  // namespace nascor::rows

@@ -1,0 +1,56 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <optional>
+#include <span>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "rows/CsvReader.h"
+
+namespace nascor::rows {
+
+// What a table from elsewhere says, and the words for what it does not: for every reader of tables alike.
+
+/// The header of a table does not say where that is which is looked for, or names a column as the output does.
+class HeaderError : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+/// A column that is looked for, under either name.
+struct InputColumn {
+  std::string_view name;
+  std::string_view shortName;
+};
+
+/// The age in weeks, then the four lengths in mm in the order of `calc::kMeasurements`.
+inline constexpr std::array<InputColumn, 5> kMeasuredColumns{
+    {{"ga_weeks", "ga"}, {"bpd_mm", "bpd"}, {"hc_mm", "hc"}, {"ac_mm", "ac"}, {"fl_mm", "fl"}}};
+
+/// Where each of `columns` stands in the header; nothing for one that does not. Throws HeaderError for one that stands there
+/// twice, or under both names.
+std::vector<std::optional<std::size_t>> placesOf(std::span<const InputColumn> columns,
+                                                 std::span<const CsvCell> header);
+
+/// How a column that is missing could have been called: "bpd_mm or bpd".
+std::string namesOf(const InputColumn& column);
+
+/// The number in a cell that holds an age or a length. 0.0, not measured, for an empty cell, blanks, zeros, `NA` and `nan`
+/// in any letters, with or without a sign. Blanks around a number, a plus sign, exponents, `.5` and `5.` are fine.
+/// Nothing for any other text: units, commas, hexadecimals, infinities, what a double cannot hold.
+std::optional<double> measuredFromText(std::string_view text);
+
+/// A row that is shorter or longer than its header.
+std::string cellCountFault(std::size_t header, std::size_t row);
+
+/// What `measuredFromText` makes nothing of.
+std::string numberFault(const std::string& column, const std::string& text);
+
+/// The text for a message: in one line, no more than its beginning, in quotation marks.
+std::string inQuotes(const std::string& text);
+
+}  // namespace nascor::rows
