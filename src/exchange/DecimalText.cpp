@@ -107,6 +107,12 @@ std::optional<foundation::CivilDay> dayFromDigits(std::string_view text) {
   return isValid(day) ? std::optional(day) : std::nullopt;
 }
 
+std::optional<foundation::CivilDay> dayFromIsoText(std::string_view text) {
+  constexpr std::size_t kLength = 10;
+  if (text.size() != kLength || text[4] != '-' || text[7] != '-') return std::nullopt;
+  return dayFromDigits(std::string(text.substr(0, 4)).append(text.substr(5, 2)).append(text.substr(8)));
+}
+
 std::string digitsOfDay(const foundation::CivilDay& day) { return dayText(day, "%04d%02d%02d"); }
 
 std::string isoText(const foundation::CivilDay& day) { return dayText(day, "%04d-%02d-%02d"); }

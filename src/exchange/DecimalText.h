@@ -23,6 +23,9 @@ std::string shortestSingleText(double value);
 /// The day in YYYYMMDD, also with points between; nothing for a text that is no day.
 std::optional<foundation::CivilDay> dayFromDigits(std::string_view text);
 
+/// The day in YYYY-MM-DD; nothing for a text that is no day.
+std::optional<foundation::CivilDay> dayFromIsoText(std::string_view text);
+
 /// YYYYMMDD.
 std::string digitsOfDay(const foundation::CivilDay& day);
 

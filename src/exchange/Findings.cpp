@@ -137,7 +137,7 @@ class Collector {
     walk(report.root, top);
     collectDates();
     for (Fetus& fetus : fetuses_) finish(fetus);
-    compareNumberOfFetuses();
+    warnOfNumberOfFetuses(findings_);
   }
 
   Findings takeFindings() { return std::move(findings_); }
@@ -465,13 +465,6 @@ class Collector {
          std::string(formulas[*nearest].longLabel));
   }
 
-  void compareNumberOfFetuses() {
-    const auto found = findings_.fetuses.size();
-    if (!findings_.numberOfFetuses || std::cmp_equal(*findings_.numberOfFetuses, found)) return;
-    warn("the report says that there are " + std::to_string(*findings_.numberOfFetuses) +
-         " fetuses, and holds " + std::to_string(found));
-  }
-
   Findings findings_;
   std::vector<Fetus> fetuses_;
   std::map<std::optional<std::string>, std::size_t> fetusPlaces_;
@@ -492,6 +485,13 @@ std::variant<Findings, std::string> findingsIn(const StructuredReport& report) {
   if (!is(report.root.name, term::report) || report.root.type != ValueType::container)
     return "is no obstetric ultrasound report (its title is \"" + meaningOf(report.root.name) + "\")";
   return Collector(report).takeFindings();
+}
+
+void warnOfNumberOfFetuses(Findings& findings) {
+  const auto found = findings.fetuses.size();
+  if (!findings.numberOfFetuses || std::cmp_equal(*findings.numberOfFetuses, found)) return;
+  findings.warnings.push_back("the report says that there are " + std::to_string(*findings.numberOfFetuses) +
+                              " fetuses, and holds " + std::to_string(found));
 }
 
 }  // namespace nascor::exchange

@@ -54,4 +54,7 @@ struct Findings {
 /// an estimated one; of several of the best kind that differ, their mean. Everything that is passed over is named.
 std::variant<Findings, std::string> findingsIn(const StructuredReport& report);
 
+/// Adds a warning where another number of fetuses is stated than there are.
+void warnOfNumberOfFetuses(Findings& findings);
+
 }  // namespace nascor::exchange

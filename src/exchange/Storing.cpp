@@ -9,6 +9,7 @@
 #include "exchange/DecimalText.h"
 #include "foundation/ConvertInteger.h"
 #include "foundation/NumberText.h"
+#include "rows/InputColumns.h"
 
 namespace nascor::exchange {
 
@@ -184,6 +185,25 @@ std::optional<std::int64_t> fetusPlace(const FetusFindings& fetus, const Finding
     if (*fetus.id == std::to_string(place + 1)) return place;
   }
   return std::nullopt;
+}
+
+std::optional<std::string> severalPatientsFault(std::span<const Findings> all) {
+  std::set<std::optional<std::string>> patients;
+  for (const Findings& findings : all) patients.insert(findings.patientID);
+  if (patients.size() < 2) return std::nullopt;
+  constexpr std::size_t kMostNamed = 5;
+  std::string names;
+  std::size_t named = 0;
+  for (const auto& patient : patients) {
+    if (!names.empty()) names += ", ";
+    if (named++ == kMostNamed) {
+      names += std::to_string(patients.size() - kMostNamed) + " more";
+      break;
+    }
+    names += patient ? rows::inQuotes(*patient) : "one without an ID";
+  }
+  return "holds examinations of several patients (" + names +
+         "), and a document is of one; nothing is stored. Please import a file for each patient";
 }
 
 std::variant<Stored, std::string> storeFindings(const Findings& findings, const Confirmation& confirmation,

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <map>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <variant>
@@ -67,6 +68,10 @@ PatientDoubt patientDoubt(const Findings& findings, bool isNew, std::string_view
 /// its ID, or the only one where neither side has another. Nothing for every other ID, such as a letter.
 std::optional<std::int64_t> fetusPlace(const FetusFindings& fetus, const Findings& findings,
                                        std::int64_t count);
+
+/// Why the findings of one file cannot be stored together, whatever is confirmed: they are of several patients, whom it names.
+/// Nothing when they are of one.
+std::optional<std::string> severalPatientsFault(std::span<const Findings> all);
 
 /// Adds findings to a patient, whose examinations are in order of date afterwards. Nothing that stands is overwritten:
 /// lengths, gravidity and, without confirmation, the EDD stay. An examination of the same local day is filled where it is
