@@ -127,9 +127,43 @@ TEST(AMebibyteOfText, isReadOrRefusedAtOnceAsATableAnArchiveOrAReport) {
     const std::string bundle = R"({"resourceType":"Bundle","entry":[)" + each.text;
     expectQuick(each.name + " as a bundle",
                 [&] { EXPECT_EQ(exchange::reportsInBundle(bundle).index(), 1U); });
+    const std::string table = "exam_date,bpd_mm\n" + each.text;
+    expectQuick(each.name + " as rows of examinations",
+                [&] { EXPECT_EQ(findingsIn(std::as_bytes(std::span(table))).index(), 1U); });
     const std::string report = asReport(each.text);
     expectQuick(each.name + " as a report",
                 [&] { static_cast<void>(reports::reportsIn(std::as_bytes(std::span(report)))); });
+  }
+}
+
+/// Up to a mebibyte of rows, each of another day, which stands between `begin` and `end`.
+std::string tableOfDays(const std::string& header, const std::string& begin, const std::string& end) {
+  std::string table = header;
+  for (std::int64_t day = 0; table.size() + begin.size() + end.size() + 10 <= kMebibyte; ++day) {
+    const auto civil = foundation::civilDayFromDaysSince2001(day).value();
+    table.append(begin).append(std::to_string(civil.year));
+    for (const int part : {civil.month, civil.day})
+      table.append(part < 10 ? "-0" : "-").append(std::to_string(part));
+    table.append(end);
+  }
+  return table;
+}
+
+TEST(AMebibyteOfRows, isReadOrRefusedAtOnceAsATableOfExaminations) {
+  const std::string header = "exam_date,bpd";
+  const std::pair<std::string, std::size_t> tables[] = {
+      {tableOfDays(header + ",hc,ac,fl,fetus,edd,reference_id\n", "",
+                   ",60.9,227.3,202.8,44.9,0,2027-03-04,AB-123\n"),
+       0},
+      {tableOfDays(header + "\n", "", ",60\n"), 0},
+      {tableOfDays(header + "\n", "", ",x\n"), 1},
+      {header + "\n" + tests::repeated("2026-11-13,\n", kMebibyte), 1},
+      {header + std::string(kMebibyte, ',') + "\n2026-11-13,60\n", 1},
+      {header + "\n2026-11-13," + std::string(kMebibyte, ',') + "\n", 1},
+      {header + "\n2026-11-13,\"" + std::string(kMebibyte, 'x') + "\"\n", 1}};
+  for (const auto& [table, outcome] : tables) {
+    expectQuick(table.substr(0, 80),
+                [&] { EXPECT_EQ(findingsIn(std::as_bytes(std::span(table))).index(), outcome); });
   }
 }
 

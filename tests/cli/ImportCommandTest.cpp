@@ -9,6 +9,7 @@
 
 #include <nlohmann/json.hpp>
 
+#include "Csv.h"
 #include "Process.h"
 #include "posix/PosixFileStore.h"
 
@@ -360,6 +361,34 @@ TEST_P(EverySample, isStoredAgainBitForBit) {
     EXPECT_EQ(again["examinations"][i]["measurements"], sample["examinations"][i]["measurements"]);
 }
 
+TEST_P(EverySample, comesBackFromItsRowsBitForBit) {
+  const std::vector<std::string> options{"--identify", "--file", "number", "--standard", "all"};
+  const auto rowsOfFile = [&](const std::string& file) {
+    std::vector<std::string> arguments{"rows", file};
+    arguments.insert(arguments.end(), options.begin(), options.end());
+    return run(arguments).out;
+  };
+  const std::string table = folder.write("rows.csv", rowsOfFile(path));
+  const std::string again = folder.path("again.nascor");
+  const Outcome outcome = run({"import", table, "--out", again});
+  EXPECT_EQ(outcome.status, 0) << outcome.err;
+
+  const auto found = objectsOf(outcome);
+  ASSERT_EQ(found.size(), sample["examinations"].size());
+  for (std::size_t i = 0; i < found.size(); ++i) {
+    const Json& examination = sample["examinations"][i];
+    ASSERT_EQ(found[i]["fetuses"].size(), examination["measurements"].size());
+    for (std::size_t fetus = 0; fetus < found[i]["fetuses"].size(); ++fetus)
+      EXPECT_EQ(bitsOf(found[i]["fetuses"][fetus]), bitsOf(examination["measurements"][fetus]));
+    EXPECT_EQ(found[i]["warnings"], Json::array());
+  }
+  auto before = rowsOf(contentsOfFile(table));
+  auto after = rowsOf(rowsOfFile(again));
+  EXPECT_FALSE(before.empty());
+  for (CsvRow& row : before) row["note"].clear();
+  EXPECT_EQ(after, before);
+}
+
 TEST_P(EverySample, isReadByOtherPrograms) {
   std::vector<std::string> arguments{"import"};
   std::string names;
@@ -402,6 +431,105 @@ INSTANTIATE_TEST_SUITE_P(ofTheProgram, EverySample,
                            std::erase(name, '-');
                            return name;
                          });
+
+TEST(ATableOfExaminations, isPrintedAsReportsAre) {
+  const ScratchFolder folder;
+  const std::string table =
+      folder.write("a.csv",
+                   "\xEF\xBB\xBFreference_id,exam_date,fetus_number,bpd_mm,hc_mm,ac_mm,fl_mm,edd\r\n"
+                   "AB-123,2026-11-13,1,60.9,,202.8,44.9,2027-03-04\r\n");
+  const std::string expected =
+      R"({"file":")" + table +
+      R"(","patientID":"AB-123","examDate":"2026-11-13","edd":"2027-03-04","eddFrom":"edd","gravida":null,)"
+      R"("numberOfFetuses":null,"fetuses":[{"id":"1","bpd":60.9,"hc":null,"ac":202.8,"fl":44.9,"crl":null,"efw":null,)"
+      R"("chosen":{"bpd":"plain","ac":"plain","fl":"plain"}}],"notTaken":[],"warnings":[]})";
+  const Outcome outcome = run({"import", table});
+  EXPECT_EQ(outcome.status, 0);
+  EXPECT_EQ(outcome.err, "");
+  EXPECT_EQ(outcome.out, expected + "\n");
+  EXPECT_EQ(objectsOf(run({"import", "-"}, contentsOfFile(table))).at(0)["patientID"], "AB-123");
+}
+
+TEST(ATableOfExaminations, isTakenWholeOrNotAtAll) {
+  const ScratchFolder folder;
+  const std::string table = folder.write("a.csv",
+                                         "reference_id,exam_date,bpd_mm\n"
+                                         "AB-123,2026-11-13,60.9\n"
+                                         "AB-123,,61\n"
+                                         "AB-123,2026-11-27,6cm\n");
+  const std::string path = folder.path("new.nascor");
+  const Outcome outcome = run({"import", table, "--out", path});
+  EXPECT_EQ(outcome.status, 1);
+  EXPECT_EQ(outcome.out, "");
+  EXPECT_THAT(linesOf(outcome.err),
+              ElementsAre(HasSubstr(table + ": line 3: exam_date: the cell is empty"),
+                          table + ": line 4: bpd_mm: \"6cm\" is no number",
+                          table + ": nothing of this table is taken until every row of it fits"));
+  EXPECT_FALSE(std::filesystem::exists(path));
+  // The others go on.
+  EXPECT_THAT(linesOf(run({"import", table, machineReport("plain")}).out), SizeIs(1));
+}
+
+TEST(ATableOfExaminations, ofSeveralPatientsIsPrintedAndNotStored) {
+  const ScratchFolder folder;
+  const std::string table = folder.write("a.csv",
+                                         "reference_id,exam_date,bpd_mm\n"
+                                         "AB-123,2026-11-13,60.9\n"
+                                         "CD-456,2026-11-13,61\n"
+                                         "AB-123,2026-11-27,66\n");
+  const std::string path = folder.path("new.nascor");
+  const Outcome printed = run({"import", table});
+  EXPECT_EQ(printed.status, 0);
+  EXPECT_THAT(linesOf(printed.out), SizeIs(3));
+  // Whoever is confirmed, half of it would be hers who is not.
+  for (const auto& patient : {std::vector<std::string>{}, {"--patient", "AB-123"}}) {
+    std::vector<std::string> arguments{"import", table, "--out", path};
+    arguments.insert(arguments.end(), patient.begin(), patient.end());
+    const Outcome stored = run(arguments);
+    EXPECT_EQ(stored.status, 1);
+    EXPECT_EQ(stored.out, printed.out);
+    EXPECT_EQ(stored.err,
+              table +
+                  ": holds examinations of several patients (\"AB-123\", \"CD-456\"), and a document is "
+                  "of one; nothing is stored. Please import a file for each patient\n");
+    EXPECT_FALSE(std::filesystem::exists(path));
+  }
+}
+
+TEST(ATableOfExaminations, isStoredByTheRulesOfReports) {
+  const ScratchFolder folder;
+  const std::string table = folder.write("a.csv",
+                                         "reference_id,exam_date,edd,gravida,bpd_mm,hc_mm\n"
+                                         " AB-123,2026-11-13,2027-03-11,2,60.9,227.3\n"
+                                         "AB-123 ,2026-11-27,2027-03-11,2,66,\n");
+  const std::string path = folder.write(
+      "patient.nascor",
+      document(
+          R"({"maternalIDString":"AB-123","edd":"2027-03-04","examinations":[{"examDate":"2026-11-13T15:00","measurements":[{"bpd":61}]}]})"));
+  const Outcome outcome = run({"import", table, "--into", path});
+  EXPECT_EQ(outcome.status, 0);
+  EXPECT_THAT(outcome.err, AllOf(HasSubstr("BPD stays 61 mm"), HasSubstr("the EDD stays 2027-03-04")));
+  const Json stored = documentAt(path);
+  EXPECT_EQ(stored["gravida"], 2);
+  ASSERT_EQ(stored["examinations"].size(), 2U);
+  EXPECT_EQ(stored["examinations"][0]["measurements"][0]["hc"], 227.3F);
+  EXPECT_EQ(stored["examinations"][1]["measurements"][0]["bpd"], 66);
+
+  const std::string other = folder.write("other.nascor", document(R"({"maternalIDString":"CD-456"})"));
+  const std::string before = contentsOfFile(other);
+  EXPECT_EQ(run({"import", table, "--into", other}).status, 1);
+  EXPECT_EQ(contentsOfFile(other), before);
+}
+
+TEST(ATextThatIsNoTable, keepsItsSentence) {
+  const ScratchFolder folder;
+  const std::string text = folder.write("a.csv", "exam_date;bpd_mm\n2026-11-13;60\n");
+  EXPECT_EQ(run({"import", text}).err, text + ": is no DICOM file\n");
+  // Whatever its preamble says.
+  std::string report = contentsOfFile(machineReport("plain"));
+  report.replace(0, 17, "exam_date,bpd_mm\n");
+  EXPECT_EQ(objectsOf(run({"import", folder.write("a.dcm", report)})).at(0)["patientID"], "AB-123");
+}
 
 TEST(ExportOfRecords, leavesOutWhatIsNoLengthAndSaysSo) {
   const ScratchFolder folder;

@@ -46,10 +46,10 @@ exchange::Confirmation confirmationIn(const Arguments& arguments) {
   return confirmation;
 }
 
-/// Findings and the file that they come from.
+/// The findings of a file, one for each examination.
 struct Found {
   std::string file;
-  exchange::Findings findings;
+  std::vector<exchange::Findings> findings;
 };
 
 /// The findings of every file that can be read, printed as they come.
@@ -58,20 +58,15 @@ std::vector<Found> findAndPrint(const std::vector<std::string>& files, Console& 
   for (const std::string& file : files) {
     const auto bytes = contentsOf(file, console);
     if (!bytes) continue;
-    const auto reports = reports::reportsIn(*bytes);
-    if (const auto* why = std::get_if<std::string>(&reports)) {
-      console.complain(nameOf(file), *why);
+    auto found = reports::findingsIn(*bytes);
+    if (const auto* sentences = std::get_if<std::vector<std::string>>(&found)) {
+      for (const std::string& why : *sentences) console.complain(nameOf(file), why);
       continue;
     }
-    for (const exchange::StructuredReport& report : std::get<0>(reports)) {
-      auto findings = exchange::findingsIn(report);
-      if (const auto* why = std::get_if<std::string>(&findings)) {
-        console.complain(nameOf(file), *why);
-        continue;
-      }
-      all.push_back({file, std::move(std::get<exchange::Findings>(findings))});
+    all.push_back({file, std::move(std::get<0>(found))});
+    for (const exchange::Findings& findings : all.back().findings) {
       foundation::JsonText json(console.out());
-      exchange::writeFindingsJson(json, file, all.back().findings);
+      exchange::writeFindingsJson(json, file, findings);
       console.lineDone();
     }
   }
@@ -126,15 +121,25 @@ void store(const std::vector<Found>& all, const Arguments& arguments, Console& c
   bool isRefused = false;
   std::vector<std::pair<std::string, std::string>> warnings;
   for (const Found& found : all) {
-    const auto taken = exchange::storeFindings(found.findings, confirmation, isNew, calendar, patient);
-    if (const auto* why = std::get_if<std::string>(&taken)) {
-      console.complain(nameOf(found.file), *why);
+    const std::string file = nameOf(found.file);
+    const auto refuse = [&](const std::string& why) {
+      console.complain(file, why);
       isRefused = true;
+    };
+    if (const auto why = exchange::severalPatientsFault(found.findings)) {
+      refuse(*why);
       continue;
     }
-    isNew = false;
-    for (const std::string& warning : warningsOf(std::get<exchange::Stored>(taken), found.findings))
-      warnings.emplace_back(nameOf(found.file), warning);
+    for (const exchange::Findings& findings : found.findings) {
+      const auto taken = exchange::storeFindings(findings, confirmation, isNew, calendar, patient);
+      if (const auto* why = std::get_if<std::string>(&taken)) {
+        refuse(*why);
+        continue;
+      }
+      isNew = false;
+      for (const std::string& warning : warningsOf(std::get<exchange::Stored>(taken), findings))
+        warnings.emplace_back(file, warning);
+    }
   }
   if (isRefused) return;
   for (const auto& [file, warning] : warnings) console.warn(file, warning);
@@ -160,7 +165,9 @@ void runImport(const Arguments& arguments, Console& console) {
 
 Command importCommand() {
   static constexpr std::array<OperandSpec, 1> kOperands{
-      {{"FILE...", "a DICOM report, or a FHIR bundle of this program; - is standard input", true}}};
+      {{"FILE...",
+        "a DICOM report, a FHIR bundle of this program, or a CSV table of examinations; - is standard input",
+        true}}};
   static constexpr std::array<OptionSpec, 5> kOptions{{
       {"out", "FILE", "store what was found in a new document"},
       {"into", "FILE", "add what was found to a document"},
@@ -172,11 +179,15 @@ Command importCommand() {
   return {
       .name = "import",
       .usage = "FILE... [--out FILE | --into FILE] [--patient ID] [--fetus ID=N]... [--edd]",
-      .summary = "What ultrasound machines' reports hold, as JSON; stored only on demand.",
+      .summary = "What reports of ultrasound machines and tables hold, as JSON; stored only on demand.",
       .details =
-          "One object a report: file, patientID, examDate, edd, eddFrom, gravida, numberOfFetuses, fetuses "
-          "(id,\n"
-          "bpd, hc, ac, fl and crl in mm, efw in g, chosen), notTaken, warnings.\n"
+          "One object a report, of a table one for each patient and day: file, patientID, examDate, edd,\n"
+          "eddFrom, gravida, numberOfFetuses, fetuses (id, bpd, hc, ac, fl and crl in mm, efw in g, "
+          "chosen),\n"
+          "notTaken, warnings.\n"
+          "A table has the columns that rows writes: exam_date, any of bpd_mm, hc_mm, ac_mm and fl_mm, and,\n"
+          "where it has them, reference_id, fetus (from 0) or fetus_number (from 1), edd, gravida and\n"
+          "number_of_fetuses. When a row does not fit, nothing of the table is printed or stored.\n"
           "Nothing is stored when patient or fetus are in doubt, and nothing that stands is overwritten.\n",
       .operands = kOperands,
       .options = kOptions,

@@ -1,10 +1,13 @@
 #include "reports/Reports.h"
 
+#include <algorithm>
 #include <filesystem>
+#include <iterator>
 #include <string_view>
 #include <utility>
 
 #include "exchange/FhirReader.h"
+#include "exchange/TableFindings.h"
 #include "posix/Module.h"
 
 namespace nascor::reports {
@@ -36,7 +39,7 @@ std::variant<exchange::ReportFiles*, std::string> reportFiles() {
 
 bool isReport(std::span<const std::byte> bytes) {
   const std::string_view text = textOf(bytes);
-  return isDicom(text) || isObject(text);
+  return isDicom(text) || isObject(text) || exchange::findingsInTable(text).has_value();
 }
 
 std::variant<std::vector<exchange::StructuredReport>, std::string> reportsIn(
@@ -53,30 +56,45 @@ std::variant<std::vector<exchange::StructuredReport>, std::string> reportsIn(
   return reports;
 }
 
+std::variant<std::vector<exchange::Findings>, std::vector<std::string>> findingsIn(
+    std::span<const std::byte> bytes) {
+  const std::string_view text = textOf(bytes);
+  if (!isDicom(text)) {
+    if (auto found = exchange::findingsInTable(text)) return std::move(*found);
+  }
+  auto reports = reportsIn(bytes);
+  if (auto* why = std::get_if<std::string>(&reports)) return std::vector{std::move(*why)};
+  std::vector<exchange::Findings> all;
+  for (const exchange::StructuredReport& report : std::get<0>(reports)) {
+    auto findings = exchange::findingsIn(report);
+    if (auto* why = std::get_if<std::string>(&findings)) return std::vector{std::move(*why)};
+    all.push_back(std::move(std::get<exchange::Findings>(findings)));
+  }
+  return all;
+}
+
 FoundInFiles findingsInFiles(std::span<const std::string> paths, const foundation::FileStore& files) {
-  FoundInFiles found;
+  constexpr std::size_t kMostSentences = 5;
+  FoundInFiles all;
   for (const std::string& path : paths) {
     const auto contents = files.contents(path);
     if (const auto* error = std::get_if<foundation::FileError>(&contents)) {
-      found.failures.push_back(foundation::sentenceAbout(path, *error));
+      all.failures.push_back(foundation::sentenceAbout(path, *error));
+      continue;
+    }
+    auto found = findingsIn(std::get<std::vector<std::byte>>(contents));
+    if (auto* findings = std::get_if<0>(&found)) {
+      std::ranges::move(*findings, std::back_inserter(all.findings));
       continue;
     }
     const std::string start = std::filesystem::path(path).filename().string() + ": ";
-    const auto reports = reportsIn(std::get<std::vector<std::byte>>(contents));
-    if (const auto* why = std::get_if<std::string>(&reports)) {
-      found.failures.push_back(start + *why + ".");
-      continue;
-    }
-    for (const exchange::StructuredReport& report : std::get<0>(reports)) {
-      auto findings = exchange::findingsIn(report);
-      if (const auto* why = std::get_if<std::string>(&findings)) {
-        found.failures.push_back(start + *why + ".");
-      } else {
-        found.findings.push_back(std::move(std::get<exchange::Findings>(findings)));
-      }
-    }
+    const auto& sentences = std::get<std::vector<std::string>>(found);
+    for (std::size_t i = 0; i < std::min(sentences.size(), kMostSentences); ++i)
+      all.failures.push_back(start + sentences[i] + ".");
+    if (sentences.size() > kMostSentences)
+      all.failures.push_back(start + std::to_string(sentences.size() - kMostSentences) + " more rows.");
   }
-  return found;
+  return all;
 }
 
 }  // namespace nascor::reports

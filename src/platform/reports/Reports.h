@@ -15,7 +15,8 @@ namespace nascor::reports {
 /// What reads and writes DICOM reports, loaded by the first call; or why there is nothing that does, in a sentence.
 std::variant<exchange::ReportFiles*, std::string> reportFiles();
 
-/// Whether a file that begins so is a report of some kind, and no document of this program: DICOM, or an object of JSON.
+/// Whether a file that begins so is a report of some kind, and no document of this program: DICOM, an object of JSON, or
+/// a CSV table of examinations.
 bool isReport(std::span<const std::byte> bytes);
 
 /// The reports in the bytes of one file: one of a DICOM file, one for each examination of a FHIR bundle; or why there is
@@ -23,10 +24,16 @@ bool isReport(std::span<const std::byte> bytes);
 std::variant<std::vector<exchange::StructuredReport>, std::string> reportsIn(
     std::span<const std::byte> bytes);
 
+/// The findings in the bytes of one file, one for each examination: of its reports, or of what begins like a CSV table of
+/// examinations; or why there are none, in sentences, for a table one for each row that does not fit.
+std::variant<std::vector<exchange::Findings>, std::vector<std::string>> findingsIn(
+    std::span<const std::byte> bytes);
+
 /// What the reports in some files hold.
 struct FoundInFiles {
   std::vector<exchange::Findings> findings;
-  std::vector<std::string> failures;  ///< why a report cannot be read: the file, and a sentence
+  std::vector<std::string>
+      failures;  ///< why a file cannot be read: its name, and a sentence; of many the first
 };
 
 FoundInFiles findingsInFiles(std::span<const std::string> paths, const foundation::FileStore& files);
