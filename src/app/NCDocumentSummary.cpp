@@ -11,19 +11,6 @@
 
 namespace nascor::app {
 
-namespace {
-
-bool isHtml(std::string_view path) {
-  const std::size_t dot = path.rfind('.');
-  if (dot == std::string_view::npos) return false;
-  std::string extension(path.substr(dot));
-  for (char& letter : extension)
-    letter = letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter + 32) : letter;
-  return extension == ".html" || extension == ".htm";
-}
-
-}  // namespace
-
 std::optional<summary::Summary> NCDocument::patientSummary() const {
   if (!patientRecord_) return std::nullopt;
   const foundation::UserDefaults& defaults = services().defaults;
@@ -52,7 +39,7 @@ std::optional<std::string> NCDocument::exportSummary(const std::string& path,
   const auto content = patientSummary();
   if (!content) return std::nullopt;
   std::vector<std::byte> bytes;
-  if (isHtml(path)) {
+  if (framework::hasExtension(path, "html") || framework::hasExtension(path, "htm")) {
     const std::string text = summary::htmlText(*content);
     const auto all = std::as_bytes(std::span(text));
     bytes.assign(all.begin(), all.end());

@@ -46,4 +46,13 @@ std::string fileName(std::string_view name, std::string_view extension) {
   return fileNameEndingIn(fileNameText(name), std::string(".").append(extension));
 }
 
+bool hasExtension(std::string_view path, std::string_view extension) {
+  if (path.size() <= extension.size()) return false;
+  const std::string_view ending = path.substr(path.size() - extension.size());
+  const auto isSame = [](char letter, char small) {
+    return letter == small || (letter >= 'A' && letter <= 'Z' && letter + ('a' - 'A') == small);
+  };
+  return path[path.size() - extension.size() - 1] == '.' && std::ranges::equal(ending, extension, isSame);
+}
+
 }  // namespace nascor::framework

@@ -25,4 +25,7 @@ std::string freeFileName(std::string_view name, std::string_view kept, std::stri
 /// end.
 std::string fileName(std::string_view name, std::string_view extension);
 
+/// Whether `path` ends with a dot and `extension`, which is in small letters; in the path large ones are the same.
+bool hasExtension(std::string_view path, std::string_view extension);
+
 }  // namespace nascor::framework

@@ -62,5 +62,17 @@ TEST(AFreeFileName, hasANumberOnlyWhereTheNameIsTaken) {
   EXPECT_EQ(free(std::string(300, 'a')), std::string(243, 'a') + " - x (2).pdf") << "of 255 bytes";
 }
 
+TEST(AFileName, isKnownByItsExtension) {
+  EXPECT_TRUE(hasExtension("/a/b.json", "json"));
+  EXPECT_TRUE(hasExtension("b.JsoN", "json"));
+  EXPECT_TRUE(hasExtension(".json", "json"));
+  EXPECT_FALSE(hasExtension("json", "json"));
+  EXPECT_FALSE(hasExtension("bjson", "json"));
+  EXPECT_FALSE(hasExtension("b.json.csv", "json"));
+  EXPECT_FALSE(hasExtension("b.xjson", "json"));
+  EXPECT_FALSE(hasExtension("b.js\x0Fn", "json"));
+  EXPECT_FALSE(hasExtension("", "json"));
+}
+
 }  // namespace
 }  // namespace nascor::framework
