@@ -609,6 +609,33 @@
     </message>
 </context>
 <context>
+    <name>DataMenu</name>
+    <message>
+        <source>Export Data...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Export Data</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Table for spreadsheets (*.csv)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>JSON (*.json)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The data were not exported.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Exported to %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>DatingDialogs</name>
     <message>
         <source>%1, %2</source>
@@ -1425,6 +1452,10 @@
         <source>&amp;Import Report...</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Report &amp;Folder...</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>NCAppController</name>
@@ -1881,6 +1912,10 @@
     </message>
     <message>
         <source>Import Report</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Data</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -2642,6 +2677,41 @@
     </message>
 </context>
 <context>
+    <name>WaitingReports</name>
+    <message>
+        <source>No reference ID</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 report has come</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 reports have come</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Set All &amp;Aside</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Report Folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Offer reports that ultrasound machines put here:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Choose...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No folder was chosen</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>ZuVersion</name>
     <message>
         <source>Cancel</source>
@@ -2717,6 +2787,18 @@
     </message>
     <message>
         <source>With --write-pages: lines join the marks of each fetus.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Offers the reports that machines put into this folder.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>nascor: --watch: %1 is no folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>nascor: --watch: Nascor is running already. Please choose the folder there, by File &gt; Report Folder.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

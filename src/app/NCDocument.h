@@ -262,6 +262,22 @@ class NCDocument final : public framework::CorvelDocument,
   void takeImported(std::unique_ptr<model::PatientRecord> patient, const Imported& imported);
 
   /// @}
+  /// @name The patient's numbers for other programs (NCDocumentData.cpp), from the records
+  /// @{
+
+  /// A row for each fetus at each examination, with all columns of tidy rows, as `nascor-cli rows` prints them: without
+  /// reference ID and notes.
+  std::string dataAsCsv() const;
+  /// All that a document archives, in one line, as `nascor-cli json` prints it.
+  std::string dataAsJson() const;
+  /// What a file of it is called; `extension` begins with a dot, or is empty.
+  std::string dataFileName(std::string_view extension) const;
+  /// Writes it into the file at `path`: JSON where that ends with ".json", else CSV. The text in edit reaches the records
+  /// first. Nothing when it was written, else why not.
+  std::optional<std::string> exportData(const std::string& path);
+
+  /// @}
+
   /// @name Undo of what changes the patient, one action of the user or of a script at a time (NCDocumentHistory.cpp)
   ///
   /// What is in edit is stored first; with a refused text nothing happens. Examination and fetus on show return too. The

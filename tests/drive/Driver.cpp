@@ -297,6 +297,12 @@ const std::map<std::string, Operation, std::less<>>& operations() {
       {"exportSummary", act([](NCDocument& d, Arguments& a) {
          if (const auto sentence = d.exportSummary(a.text(), noTypesetter)) tellFailure(d, *sentence);
        })},
+      {"exportData", act([](NCDocument& d, Arguments& a) {
+         if (const auto sentence = d.exportData(a.text())) tellFailure(d, *sentence);
+       })},
+      {"dataAsCsv", [](NCDocument& d, Arguments&) { return Json(d.dataAsCsv()); }},
+      {"dataAsJson", [](NCDocument& d, Arguments&) { return Json(d.dataAsJson()); }},
+      {"dataFileName", [](NCDocument& d, Arguments& a) { return Json(d.dataFileName(a.text())); }},
       {"summary", [](NCDocument& d, Arguments& a) { return summaryJson(d, a.text()); }},
       {"summaryFacts", [](NCDocument& d, Arguments&) { return summaryFactsJson(d); }},
       {"summaryFileName", [](NCDocument& d, Arguments& a) { return Json(d.summaryFileName(a.text())); }},

@@ -303,6 +303,8 @@ std::vector<Row> rows() {
            Actions::clickButton(print, QDialogButtonBox::Ok);
          });
        }},
+      {"exportDataAction", "", "data.json", exported,
+       [](Actions& window) { window.nameFile(window.out.filePath(QStringLiteral("data.json"))); }},
       {"summaryDetailsAction", "", "Dr. Eve",
        [](Actions& window) { return window.preference(summary::kExaminerKey); },
        [](Actions& window) {

@@ -23,6 +23,7 @@
 #include "window/AboutBox.h"
 #include "window/AdjustDeliveryDialog.h"
 #include "window/CompareDialog.h"
+#include "window/DataMenu.h"
 #include "window/DatingDialogs.h"
 #include "window/EditMenu.h"
 #include "window/FetusChoice.h"
@@ -220,6 +221,10 @@ void DocumentWindow::bindActions() {
                    .printer = environment_.printer,
                    .typesetter = environment_.typesetter,
                    .perform = [this](const DocumentAction& action) { perform(action); }});
+  new DataMenu(*this, *ui_->fileMenu, ui_->closeAction,
+               {.services = environment_.services,
+                .alerts = environment_.alerts,
+                .perform = [this](const DocumentAction& action) { perform(action); }});
   bindEditActions();
   new StandardsMenus(*ui_->menuBar, {ui_->standardsMenu, ui_->fetalWeightMenu, ui_->crownRumpLengthMenu},
                      mnemonicsOf(*ui_->menuBar, *ui_->patientPanel), environment_.application,

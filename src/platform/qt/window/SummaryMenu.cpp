@@ -4,7 +4,6 @@
 #include <QDialog>
 #include <QDialogButtonBox>
 #include <QFile>
-#include <QFileDialog>
 #include <QFormLayout>
 #include <QImage>
 #include <QLineEdit>
@@ -18,6 +17,7 @@
 #include "base/Mnemonics.h"
 #include "base/Text.h"
 #include "foundation/UserDefaults.h"
+#include "window/SaveQuestion.h"
 
 namespace nascor::qt {
 
@@ -68,26 +68,18 @@ void SummaryMenu::add(QMenu& menu, QAction* before, const char* name, const char
 }
 
 void SummaryMenu::exportSummary(NCDocument& document) {
-  QFileDialog dialog(&window_, said("SummaryMenu", "Export Summary"));
-  dialog.setAcceptMode(QFileDialog::AcceptSave);
-  const QString pdf = said("SummaryMenu", "PDF (*.pdf)");
-  const QString html = said("SummaryMenu", "HTML (*.html)");
-  dialog.setNameFilters({pdf, html});
-  dialog.setDefaultSuffix(QStringLiteral("pdf"));
-  connect(&dialog, &QFileDialog::filterSelected, &dialog, [&dialog, html](const QString& chosen) {
-    dialog.setDefaultSuffix(chosen == html ? QStringLiteral("html") : QStringLiteral("pdf"));
-  });
-  dialog.setDirectory(
-      QFile::decodeName(QByteArray::fromStdString(environment_.services.files.documentsFolder())));
-  dialog.selectFile(fromUtf8(document.summaryFileName("")));
-  if (dialog.exec() != QDialog::Accepted) return;
-  const QString path = dialog.selectedFiles().constFirst();
+  const auto path =
+      fileToWrite(window_, said("SummaryMenu", "Export Summary"),
+                  {{.filter = said("SummaryMenu", "PDF (*.pdf)"), .suffix = QStringLiteral("pdf")},
+                   {.filter = said("SummaryMenu", "HTML (*.html)"), .suffix = QStringLiteral("html")}},
+                  environment_.services.files.documentsFolder(), document.summaryFileName(""));
+  if (!path) return;
   if (const auto sentence =
-          document.exportSummary(QFile::encodeName(path).toStdString(), environment_.typesetter)) {
+          document.exportSummary(QFile::encodeName(*path).toStdString(), environment_.typesetter)) {
     environment_.alerts.tell(toUtf8(said("SummaryMenu", "The summary was not exported.")), *sentence);
     return;
   }
-  window_.statusBar()->showMessage(said("SummaryMenu", "Exported to %1").arg(path), kMessageTime);
+  window_.statusBar()->showMessage(said("SummaryMenu", "Exported to %1").arg(*path), kMessageTime);
 }
 
 void SummaryMenu::printSummary(NCDocument& document) {
