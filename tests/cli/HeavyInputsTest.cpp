@@ -129,7 +129,7 @@ TEST(AMebibyteOfText, isReadOrRefusedAtOnceAsATableAnArchiveOrAReport) {
                 [&] { EXPECT_EQ(exchange::reportsInBundle(bundle).index(), 1U); });
     const std::string table = "exam_date,bpd_mm\n" + each.text;
     expectQuick(each.name + " as rows of examinations",
-                [&] { EXPECT_EQ(findingsIn(std::as_bytes(std::span(table))).index(), 1U); });
+                [&] { EXPECT_EQ(reports::findingsIn(std::as_bytes(std::span(table))).index(), 1U); });
     const std::string report = asReport(each.text);
     expectQuick(each.name + " as a report",
                 [&] { static_cast<void>(reports::reportsIn(std::as_bytes(std::span(report)))); });
@@ -163,7 +163,7 @@ TEST(AMebibyteOfRows, isReadOrRefusedAtOnceAsATableOfExaminations) {
       {header + "\n2026-11-13,\"" + std::string(kMebibyte, 'x') + "\"\n", 1}};
   for (const auto& [table, outcome] : tables) {
     expectQuick(table.substr(0, 80),
-                [&] { EXPECT_EQ(findingsIn(std::as_bytes(std::span(table))).index(), outcome); });
+                [&] { EXPECT_EQ(reports::findingsIn(std::as_bytes(std::span(table))).index(), outcome); });
   }
 }
 
