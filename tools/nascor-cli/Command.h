@@ -82,5 +82,6 @@ Command selfTestCommand();
 Command exportCommand();
 Command summaryCommand();
 Command importCommand();
+Command serverCommand();
 
 }  // namespace nascor::cli

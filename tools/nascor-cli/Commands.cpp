@@ -14,7 +14,7 @@ std::span<const Command> commands() {
       searchCommand(),    checkCommand(),   makeCommand(),     jsonCommand(),     dumpCommand(),
       recoverCommand(),   weightCommand(),  crlCommand(),      standardCommand(), lookupCommand(),
       referenceCommand(), compareCommand(), selfTestCommand(), importCommand(),   exportCommand(),
-      summaryCommand(),
+      summaryCommand(),   serverCommand(),
   };
   return kCommands;
 }

@@ -53,6 +53,12 @@ class Walk {
     return found;
   }
 
+  std::optional<std::string> faultOfElements(Encoding encoding) {
+    encoding_ = encoding;
+    if (elements()) return std::nullopt;
+    return fault_;
+  }
+
  private:
   bool refuse(std::string_view sentence) {
     fault_ = sentence;
@@ -225,6 +231,10 @@ class Walk {
 
 std::variant<DataSet, std::string> dataSetIn(std::span<const std::byte> bytes) {
   return Walk(bytes).dataSet();
+}
+
+std::optional<std::string> faultIn(const DataSet& elements) {
+  return Walk(elements.bytes).faultOfElements(elements.encoding);
 }
 
 }  // namespace nascor::dicom

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <span>
 #include <string>
 #include <variant>
@@ -23,5 +24,8 @@ struct DataSet {
 /// that nothing is cut off, that it has no more elements than any report, and that sequences are not nested deeper than a
 /// report ever nests them (DCMTK reads them by recursion). Its data set when all is well, within `bytes`, else a sentence.
 std::variant<DataSet, std::string> dataSetIn(std::span<const std::byte> bytes);
+
+/// The same look at elements that came without a header; nothing when all is well.
+std::optional<std::string> faultIn(const DataSet& elements);
 
 }  // namespace nascor::dicom

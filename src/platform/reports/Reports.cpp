@@ -37,6 +37,13 @@ std::variant<exchange::ReportFiles*, std::string> reportFiles() {
   return std::get<0>(found)();
 }
 
+std::variant<exchange::ReportServer*, std::string> reportServer() {
+  const auto found =
+      posix::moduleFunction<exchange::ReportServer* (*)()>("nascor-dicom-net", "nascorReportServer");
+  if (const auto* why = std::get_if<std::string>(&found)) return *why;
+  return std::get<0>(found)();
+}
+
 bool isReport(std::span<const std::byte> bytes) {
   const std::string_view text = textOf(bytes);
   return isDicom(text) || isObject(text) || exchange::findingsInTable(text).has_value();

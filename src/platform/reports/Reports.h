@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "exchange/Findings.h"
+#include "exchange/ReportServer.h"
 #include "exchange/StructuredReport.h"
 #include "foundation/FileStore.h"
 
@@ -14,6 +15,9 @@ namespace nascor::reports {
 
 /// What reads and writes DICOM reports, loaded by the first call; or why there is nothing that does, in a sentence.
 std::variant<exchange::ReportFiles*, std::string> reportFiles();
+
+/// What speaks to servers of reports, likewise.
+std::variant<exchange::ReportServer*, std::string> reportServer();
 
 /// Whether a file that begins so is a report of some kind, and no document of this program: DICOM, an object of JSON, or
 /// a CSV table of examinations.

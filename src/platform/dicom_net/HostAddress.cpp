@@ -1,0 +1,64 @@
+#include "dicom_net/HostAddress.h"
+
+#include <condition_variable>
+#include <memory>
+#include <mutex>
+#include <optional>
+#include <thread>
+
+#include <arpa/inet.h>
+#include <netdb.h>
+#include <netinet/in.h>
+#include <sys/socket.h>
+
+#include "dicom_net/Deadline.h"
+
+namespace nascor::dicom_net {
+
+namespace {
+
+/// What a thread that looks for an address leaves for the one that waits, which may be gone by then.
+struct Answer {
+  std::mutex mutex;
+  std::condition_variable isHere;
+  std::optional<std::variant<HostAddress, std::string>> value;
+};
+
+std::variant<HostAddress, std::string> lookedUp(const std::string& name) {
+  addrinfo wanted{};
+  wanted.ai_family = AF_INET;
+  wanted.ai_socktype = SOCK_STREAM;
+  addrinfo* found = nullptr;
+  const int error = ::getaddrinfo(name.c_str(), nullptr, &wanted, &found);
+  const std::unique_ptr<addrinfo, decltype(&::freeaddrinfo)> owner(found, &::freeaddrinfo);
+  if (error != 0 || !found)
+    return "there is no IPv4 address of this host: " + std::string(::gai_strerror(error));
+  char digits[INET_ADDRSTRLEN] = {};
+  const auto* address = reinterpret_cast<const sockaddr_in*>(found->ai_addr);
+  ::inet_ntop(AF_INET, &address->sin_addr, digits, sizeof digits);
+  return HostAddress{digits};
+}
+
+}  // namespace
+
+std::variant<HostAddress, std::string> addressOfHost(const std::string& name,
+                                                     std::chrono::milliseconds time) {
+  in_addr number{};
+  if (::inet_pton(AF_INET, name.c_str(), &number) == 1) return HostAddress{name};
+
+  // The system may take longer than that for a name, and has no way to be stopped.
+  const auto answer = std::make_shared<Answer>();
+  std::thread([answer, name] {
+    leaveSignalsToOthers();
+    auto value = lookedUp(name);
+    const std::lock_guard lock(answer->mutex);
+    answer->value = std::move(value);
+    answer->isHere.notify_all();
+  }).detach();
+  std::unique_lock lock(answer->mutex);
+  if (!answer->isHere.wait_for(lock, time, [&] { return answer->value.has_value(); }))
+    return "the address of this host was not found in time";
+  return *answer->value;
+}
+
+}  // namespace nascor::dicom_net
