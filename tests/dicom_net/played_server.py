@@ -200,12 +200,14 @@ class Archive:
     def __init__(self, reports=(), **overrides):
         self.reports = list(reports)
         self.overrides = overrides
+        self.is_stopped = False
 
     def __call__(self, connection):
         connection.accept()
         while (message := connection.read_message()) is not None:
             asked, data = message
             field = number(asked[0, 0x100])
+            self.is_stopped = self.is_stopped or field == STOP
             if field != STOP:  # it is late for that
                 self.answer(connection, field, number(asked[0, 0x110]), asked, data)
 
