@@ -43,6 +43,8 @@ try() {
   # Nor, without DCMTK, anything that reads and writes reports.
   [[ "$2" != "nascor-cli import "* && "$2" != *" --format sr"* ]] ||
     [[ -n "$(find "$build" -name nascor-dicom.so -print -quit)" ]] || return 0
+  # Nor, without its network, anything that speaks to a server.
+  [[ "$2" != "nascor-cli server "* ]] || [[ -n "$(find "$build" -name nascor-dicom-net.so -print -quit)" ]] || return 0
   eval "$2" >"$work/said" 2>&1 </dev/null || status=$?
   said="$(<"$work/said")"
   if [[ -z "$3" ]]; then

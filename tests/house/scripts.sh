@@ -22,12 +22,15 @@ setting() {
   done
 }
 
-# need USER-ID: runs need_packages for what ./run builds as that user; its words are in said, its status in status.
+# need USER-ID [PROFILE...]: runs need_packages for what ./run builds, or these profiles, as that user; its words are in said,
+# its status in status.
 need() {
-  fake id <<<"echo $1"
+  local user="$1"
+  shift
+  fake id <<<"echo $user"
   status=0
   said="$(PATH="$work/bin" TMPDIR="$work" bash_root="$root" "$BASH" -c '
-    set -euo pipefail; root="$bash_root"; . "$root/cmake/house.sh"; need_packages nocheck' 2>&1 </dev/null)" || status=$?
+    set -euo pipefail; root="$bash_root"; . "$root/cmake/house.sh"; need_packages "$@"' need "${@:-nocheck}" 2>&1 </dev/null)" || status=$?
 }
 
 expect() {
@@ -58,6 +61,31 @@ expect "root installs" status_is 0
 expect "What is installed is said" said_has "Installing: ninja-build"
 expect "The lists come first, then the one package" apt_calls_are "apt-get -q -y -o DPkg::Lock::Timeout=120 update
 apt-get -q -y -o DPkg::Lock::Timeout=120 install --no-install-recommends ninja-build"
+
+# The package of the server starts a service.
+all_but_orthanc='for name; do [[ "$name" == -* || "$name" == *"{"* || "$name" == orthanc ]] || echo "installed $name"; done'
+setting
+fake dpkg-query <<<"$all_but_orthanc"
+fake apt-get <<<"exit 0"
+fake systemctl <<<"exit 0"
+need 0 pkg.nascor.server
+expect "A server is installed for .ci/run" status_is 0
+expect "Its service is kept from starting before it is there" [ "$(grep -nE '^(systemctl|apt-get.* install)' "$work/calls" |
+  cut -d' ' -f1 | cut -d: -f2 | tr '\n' ' ')" = "systemctl apt-get " ]
+expect "It is that service" grep -qx "systemctl mask orthanc.service" "$work/calls"
+: >"$work/calls"
+need 0 ""
+expect "For ./test no server is installed" [ "$(grep -c orthanc "$work/calls")" = 0 ]
+
+setting
+fake dpkg-query <<<"$all_but_orthanc"
+fake apt-get <<<"exit 0"
+fake systemctl <<<"exit 1"
+need 0 pkg.nascor.server
+expect "Where its service cannot be kept from starting" status_is 0
+expect "it is said" said_has "Without orthanc"
+expect "and nothing is installed" [ "$(grep -c '^apt-get' "$work/calls")" = 0 ]
+expect "and nothing is left" no_log_is_left
 
 setting
 fake dpkg-query <<<"$all_but_ninja"
