@@ -12,7 +12,7 @@ from played_server import (Archive, COMPREHENSIVE, Connection, ECHO, FIND, PENDI
                            data_units, element, report, silent, unit)
 
 FETCH = ["--patient", "AB-123", "--out"]
-NOTHING_YET = "gave no complete answer within 1 seconds"
+NOTHING_YET = "gave no complete answer within 1 s\n"
 
 
 def closed_port():
@@ -47,7 +47,7 @@ class AServerThatIsNotThere(Case):
             outcome = server("echo", listener.getsockname()[1], "--timeout", 1)
             for stream in waiting:
                 stream.close()
-        self.fails(outcome, "cannot be reached within 1 seconds")
+        self.fails(outcome, "cannot be reached within 1 s\n")
         self.assertLess(outcome.seconds, 3)
 
     def test_stops_what_is_left_to_send(self):

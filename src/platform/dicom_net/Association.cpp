@@ -165,7 +165,7 @@ void Association::fail(const OFCondition& condition) const {
   if (seen_.gate.isBroken()) throw Failure("answers what is not DICOM");
   const bool isTime =
       deadline_.isPassed() || condition == DIMSE_NODATAAVAILABLE || condition == DUL_READTIMEOUT;
-  const std::string time = std::to_string(address_.timeout.count()) + " seconds";
+  const std::string time = std::to_string(address_.timeout.count()) + " s";
   if (!seen_.isConnected)
     throw Failure(isTime ? "cannot be reached within " + time : "cannot be reached: " + reasonIn(condition));
   if (isTime) throw Failure("gave no complete answer within " + time);

@@ -11,6 +11,7 @@
 
 #include "dicom_net/Association.h"
 #include "dicom_net/DataSets.h"
+#include "dicom_net/Messages.h"
 #include "dicom_net/Search.h"
 #include "exchange/Codes.h"
 
@@ -18,7 +19,6 @@ namespace nascor::dicom_net {
 
 namespace {
 
-using exchange::FetchedReport;
 using exchange::FetchedReports;
 using exchange::ReportPlace;
 using exchange::ReportQuery;
@@ -29,11 +29,6 @@ constexpr Wish kSearch{.uid = UID_FINDStudyRootQueryRetrieveInformationModel};
 constexpr Wish kFetch{.uid = UID_GETStudyRootQueryRetrieveInformationModel};
 constexpr const char* kComprehensive = UID_ComprehensiveSRStorage;
 constexpr const char* kEnhanced = UID_EnhancedSRStorage;
-
-template <std::size_t kSize>
-void put(char (&to)[kSize], const std::string& text) {
-  OFStandard::strlcpy(to, text.c_str(), kSize);
-}
 
 /// Fetches reports one by one.
 class Fetch {
@@ -52,7 +47,7 @@ class Fetch {
       T_ASC_PresentationContextID context = 0;
       T_DIMSE_Message message = association_.receive(context);
       if (message.CommandField == DIMSE_C_STORE_RQ) {
-        auto given = receive(message.msg.CStoreRQ, context, place);
+        auto given = receive(storeRequest(message), context, place);
         if (auto* bytes = std::get_if<std::vector<std::byte>>(&given)) {
           file = std::move(*bytes);
         } else {
@@ -60,9 +55,9 @@ class Fetch {
         }
         continue;
       }
-      if (message.CommandField != DIMSE_C_GET_RSP || message.msg.CGetRSP.MessageIDBeingRespondedTo != asked)
+      if (message.CommandField != DIMSE_C_GET_RSP || getResponse(message).MessageIDBeingRespondedTo != asked)
         throw Failure("gave an answer that was not asked for");
-      const T_DIMSE_C_GetRSP& response = message.msg.CGetRSP;
+      const T_DIMSE_C_GetRSP& response = getResponse(message);
       // What it says of failures there is nothing new.
       if (response.DataSetType != DIMSE_DATASET_NULL) association_.receiveData(context, 0);
       if (DICOM_PENDING_STATUS(response.DimseStatus)) continue;
@@ -82,7 +77,7 @@ class Fetch {
     if (status.bad()) throw Failure(std::string("cannot be asked: ") + status.text());
     T_DIMSE_Message message{};
     message.CommandField = DIMSE_C_GET_RQ;
-    T_DIMSE_C_GetRQ& request = message.msg.CGetRQ;
+    T_DIMSE_C_GetRQ& request = getRequest(message);
     request.MessageID = association_.nextMessage();
     put(request.AffectedSOPClassUID, kFetch.uid);
     request.Priority = DIMSE_PRIORITY_MEDIUM;
@@ -99,7 +94,7 @@ class Fetch {
     auto result = fileOfReceived(request, data, place);
     T_DIMSE_Message message{};
     message.CommandField = DIMSE_C_STORE_RSP;
-    T_DIMSE_C_StoreRSP& response = message.msg.CStoreRSP;
+    T_DIMSE_C_StoreRSP& response = storeResponse(message);
     response.MessageIDBeingRespondedTo = request.MessageID;
     put(response.AffectedSOPClassUID, request.AffectedSOPClassUID);
     put(response.AffectedSOPInstanceUID, request.AffectedSOPInstanceUID);
@@ -197,7 +192,7 @@ std::string storeAnswer(Association& association, Outgoing& report) {
                                              : "is not taken: the server takes no reports (Enhanced SR)";
   T_DIMSE_Message message{};
   message.CommandField = DIMSE_C_STORE_RQ;
-  T_DIMSE_C_StoreRQ& request = message.msg.CStoreRQ;
+  T_DIMSE_C_StoreRQ& request = storeRequest(message);
   request.MessageID = association.nextMessage();
   put(request.AffectedSOPClassUID, report.sopClass);
   put(request.AffectedSOPInstanceUID, report.instance);
@@ -207,7 +202,7 @@ std::string storeAnswer(Association& association, Outgoing& report) {
 
   T_ASC_PresentationContextID answered = 0;
   const T_DIMSE_Message answer = association.receive(answered);
-  const T_DIMSE_C_StoreRSP& response = answer.msg.CStoreRSP;
+  const T_DIMSE_C_StoreRSP& response = storeResponse(answer);
   if (answer.CommandField != DIMSE_C_STORE_RSP || response.MessageIDBeingRespondedTo != request.MessageID ||
       response.DataSetType != DIMSE_DATASET_NULL)
     throw Failure("gave an answer that was not asked for");
@@ -230,7 +225,7 @@ std::optional<std::string> DcmtkReportServer::doEcho(const ServerAddress& addres
   const auto context = association.requiredContext(wishes[0].uid, "does not answer to C-ECHO");
   T_DIMSE_Message message{};
   message.CommandField = DIMSE_C_ECHO_RQ;
-  T_DIMSE_C_EchoRQ& request = message.msg.CEchoRQ;
+  T_DIMSE_C_EchoRQ& request = echoRequest(message);
   request.MessageID = association.nextMessage();
   put(request.AffectedSOPClassUID, wishes[0].uid);
   request.DataSetType = DIMSE_DATASET_NULL;
@@ -238,8 +233,8 @@ std::optional<std::string> DcmtkReportServer::doEcho(const ServerAddress& addres
   T_ASC_PresentationContextID answered = 0;
   const T_DIMSE_Message answer = association.receive(answered);
   if (answer.CommandField != DIMSE_C_ECHO_RSP ||
-      answer.msg.CEchoRSP.MessageIDBeingRespondedTo != request.MessageID ||
-      answer.msg.CEchoRSP.DimseStatus != STATUS_Success)
+      echoResponse(answer).MessageIDBeingRespondedTo != request.MessageID ||
+      echoResponse(answer).DimseStatus != STATUS_Success)
     return "gave an answer that was not asked for";
   association.release();
   return std::nullopt;

@@ -1,5 +1,6 @@
 #include "dicom_net/HostAddress.h"
 
+#include <array>
 #include <condition_variable>
 #include <memory>
 #include <mutex>
@@ -33,10 +34,10 @@ std::variant<HostAddress, std::string> lookedUp(const std::string& name) {
   const std::unique_ptr<addrinfo, decltype(&::freeaddrinfo)> owner(found, &::freeaddrinfo);
   if (error != 0 || !found)
     return "there is no IPv4 address of this host: " + std::string(::gai_strerror(error));
-  char digits[INET_ADDRSTRLEN] = {};
+  std::array<char, INET_ADDRSTRLEN> digits{};
   const auto* address = reinterpret_cast<const sockaddr_in*>(found->ai_addr);
-  ::inet_ntop(AF_INET, &address->sin_addr, digits, sizeof digits);
-  return HostAddress{digits};
+  ::inet_ntop(AF_INET, &address->sin_addr, digits.data(), digits.size());
+  return HostAddress{digits.data()};
 }
 
 }  // namespace

@@ -9,6 +9,7 @@
 #include <dcmtk/dcmnet/diutil.h>
 
 #include "dicom_net/DataSets.h"
+#include "dicom_net/Messages.h"
 #include "exchange/Codes.h"
 
 namespace nascor::dicom_net {
@@ -165,10 +166,9 @@ class Search {
 
     T_DIMSE_Message message{};
     message.CommandField = DIMSE_C_FIND_RQ;
-    T_DIMSE_C_FindRQ& request = message.msg.CFindRQ;
+    T_DIMSE_C_FindRQ& request = findRequest(message);
     request.MessageID = association_.nextMessage();
-    OFStandard::strlcpy(request.AffectedSOPClassUID, UID_FINDStudyRootQueryRetrieveInformationModel,
-                        sizeof request.AffectedSOPClassUID);
+    put(request.AffectedSOPClassUID, UID_FINDStudyRootQueryRetrieveInformationModel);
     request.Priority = DIMSE_PRIORITY_MEDIUM;
     request.DataSetType = DIMSE_DATASET_PRESENT;
     association_.send(context_, message, &question);
@@ -182,9 +182,9 @@ class Search {
       T_ASC_PresentationContextID context = 0;
       const T_DIMSE_Message answer = association_.receive(context);
       if (answer.CommandField != DIMSE_C_FIND_RSP || context != context_ ||
-          answer.msg.CFindRSP.MessageIDBeingRespondedTo != asked)
+          findResponse(answer).MessageIDBeingRespondedTo != asked)
         throw Failure("gave an answer that was not asked for");
-      const T_DIMSE_C_FindRSP& response = answer.msg.CFindRSP;
+      const T_DIMSE_C_FindRSP& response = findResponse(answer);
       Received data;
       if (response.DataSetType != DIMSE_DATASET_NULL)
         data = association_.receiveData(context, kLongestAnswer);
