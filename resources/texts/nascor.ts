@@ -2394,6 +2394,187 @@
         <source>The report cannot be imported.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>A fetched file</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ServerMenu</name>
+    <message>
+        <source>Report Server</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Fetch Reports...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Send This Examination...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>S&amp;ettings...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no server.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Please name one in File &gt; Report Server &gt; Settings.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The reports cannot be fetched.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fetch Reports</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reference ID of the patient on %1:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Asking %1...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The server has no report of the patient %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fetching from %1...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not all reports were fetched.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Examination</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reference ID</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Report</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The examination was not sent.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>without a date</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Patient %1, examination %2, to %3.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The connection is not encrypted.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Send this examination to the server?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Send</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sending to %1...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sent to %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The answer was not waited for.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ServerSettings</name>
+    <message>
+        <source>Choose...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Encrypted connection (TLS)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Server Settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Host:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Port:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Title of the server:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Title of this prog&amp;ram:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Authority&apos;s certificate:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Own certificate:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Own &amp;key:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Te&amp;st</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Without a host Nascor speaks to no server.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reports will cross the network in clear.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The server answers.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ServerTask</name>
+    <message>
+        <source>Waiting for the end of the last question...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>Summary</name>

@@ -1,5 +1,8 @@
 #include "program/ReportFolder.h"
 
+#include <QCheckBox>
+#include <QDialogButtonBox>
+#include <QFileDialog>
 #include <QMenu>
 #include <QToolButton>
 
@@ -117,6 +120,35 @@ TEST_F(TheReportFolder, keepsNoNamesOfFilesInThePreferences) {
   watched->begin(reports.path());
   watched->setAside();
   EXPECT_THAT(platform.defaults.value("Known Reports").value(), testing::Not(testing::HasSubstr("Miller")));
+}
+
+TEST_F(TheReportFolder, isChosenInItsDialog) {
+  openBlank();
+  QTimer chooses;
+  QObject::connect(&chooses, &QTimer::timeout, [&] {
+    if (auto* panel = qobject_cast<QFileDialog*>(QApplication::activeModalWidget())) {
+      panel->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(reports.path());
+      QTest::keyClick(panel->findChild<QLineEdit*>(QStringLiteral("fileNameEdit")), Qt::Key_Return);
+      return;
+    }
+    auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+    if (!dialog || dialog->objectName() != QStringLiteral("reportFolderDialog")) return;
+    chooses.setInterval(20);
+    auto* isWatched = dialog->findChild<QCheckBox*>(QStringLiteral("watchReportFolder"));
+    QPushButton* ok = dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok);
+    if (isWatched->isChecked() && ok->isEnabled()) {
+      chooses.stop();
+      ok->click();
+      return;
+    }
+    isWatched->click();
+    EXPECT_FALSE(ok->isEnabled()) << "no folder was chosen";
+    isWatched->click();
+    dialog->findChild<QPushButton*>(QStringLiteral("chooseReportFolder"))->click();
+  });
+  chooses.start(1);
+  action("reportFolderAction").trigger();
+  EXPECT_EQ(application.reportFolder().folder(), reports.path());
 }
 
 TEST_F(TheReportFolder, showsItselfInTheBottomLineOfEachWindow) {

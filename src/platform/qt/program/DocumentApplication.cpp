@@ -8,6 +8,7 @@
 
 #include "base/Text.h"
 #include "foundation/Localizer.h"
+#include "reports/Reports.h"
 #include "typesetting/Typesetting.h"
 #include "window/OutputMenu.h"
 #include "window/WindowPlace.h"
@@ -261,7 +262,12 @@ void DocumentApplication::addWindow(ZuDocument& document) {
        .bringToFront =
            [this](ZuDocument& chosen) { actions_.perform([&] { documents_.setCurrentDocument(chosen); }); },
        .quit = [this] { quit(); },
-       .typesetter = typesetting::typesetter});
+       .typesetter = typesetting::typesetter,
+       .serverTask = serverTask_,
+       .reportServer = reports::reportServer,
+       .reportFiles = reports::reportFiles,
+       .importReports = [this](std::vector<std::vector<std::byte>> files,
+                               app::NCDocument& into) { importer_.importFetched(files, into); }});
   edits_.emplace(&document, document.onStateChanged.subscribe([this] { keepChangesSoon(); }));
   std::vector<const QWidget*> others;
   for (const auto& [open, other] : windows_) {

@@ -100,6 +100,7 @@ class DocumentApplication {
   framework::DocumentController documents_;
   ReportImporter importer_;
   ReportFolder reportFolder_;
+  ServerTask serverTask_;
   app::NCAppController controller_;
   RecentFiles recentFiles_;
   DocumentNumbers numbers_;

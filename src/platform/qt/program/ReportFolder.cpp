@@ -118,7 +118,10 @@ void ReportFolder::take(const QString& path, const QString& mark) {
   const QString day =
       first.examDate ? fromUtf8(services_.localizer.longDateText(*first.examDate)) : QString();
   std::erase_if(reports_, [&](const Report& report) { return report.path == path; });
-  reports_.push_back({path, day.isEmpty() ? patient : patient + QStringLiteral(", ") + day});
+  const QString when = day.isEmpty() ? QString() : QStringLiteral(", ") + day;
+  // Two reports of one visit are told apart by their files.
+  const QString shown = fromUtf8(foundation::shownLine(toUtf8(QFileInfo(path).fileName())));
+  reports_.push_back({path, patient + when + QStringLiteral(" (%1)").arg(shown)});
   marks_[path] = mark;
 }
 

@@ -2,6 +2,7 @@
 
 #include <QFile>
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 #include "app/ReportImport.h"
@@ -41,7 +42,24 @@ NCDocument& ReportImporter::documentFor(const std::vector<exchange::Findings>& r
 bool ReportImporter::import(const QStringList& paths, NCDocument* document) {
   std::vector<std::string> files;
   for (const QString& path : paths) files.push_back(QFile::encodeName(path).toStdString());
-  reports::FoundInFiles found = reports::findingsInFiles(files, services_.files);
+  return import(reports::findingsInFiles(files, services_.files), document);
+}
+
+void ReportImporter::importFetched(std::span<const std::vector<std::byte>> files, NCDocument& document) {
+  reports::FoundInFiles all;
+  for (const std::vector<std::byte>& file : files) {
+    auto found = reports::findingsIn(file);
+    if (auto* findings = std::get_if<0>(&found)) {
+      std::ranges::move(*findings, std::back_inserter(all.findings));
+    } else {
+      for (const std::string& why : std::get<1>(found))
+        all.failures.push_back(services_.localizer.text("ReportImport", "A fetched file") + ": " + why + ".");
+    }
+  }
+  import(std::move(all), &document);
+}
+
+bool ReportImporter::import(reports::FoundInFiles found, NCDocument* document) {
   if (!found.failures.empty()) {
     std::string sentences;
     for (const std::string& failure : found.failures)

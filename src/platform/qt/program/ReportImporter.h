@@ -1,12 +1,16 @@
 #pragma once
 
 #include <QStringList>
+#include <cstddef>
 #include <functional>
+#include <span>
+#include <vector>
 
 #include "app/NCDocument.h"
 #include "foundation/Services.h"
 #include "framework/Alerts.h"
 #include "framework/DocumentController.h"
+#include "reports/Reports.h"
 #include "window/DocumentWindow.h"
 
 namespace nascor::qt {
@@ -25,8 +29,11 @@ class ReportImporter {
   /// Shows what the files hold; a sentence for each that cannot be read. They go into `document`; without one into the open
   /// document of their patient, else into a new one. In an action of the user. Whether anything was stored.
   bool import(const QStringList& paths, app::NCDocument* document);
+  /// The same of the contents of files that a server has sent.
+  void importFetched(std::span<const std::vector<std::byte>> files, app::NCDocument& document);
 
  private:
+  bool import(reports::FoundInFiles found, app::NCDocument* document);
   app::NCDocument& documentFor(const std::vector<exchange::Findings>& reports);
 
   foundation::Services services_;

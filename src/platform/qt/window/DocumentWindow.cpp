@@ -35,6 +35,7 @@
 #include "window/QtAlerts.h"
 #include "window/RecentMenu.h"
 #include "window/ReferencesDialog.h"
+#include "window/ServerMenu.h"
 #include "window/StandardsMenus.h"
 #include "window/StrayInput.h"
 #include "window/SummaryMenu.h"
@@ -298,6 +299,15 @@ void DocumentWindow::bindFileActions() {
   connect(ui_->reportFolderAction, &QAction::triggered, this, [this] {
     perform([this](NCDocument&) { askForReportFolder(*this, environment_.waitingReports); });
   });
+  const auto items = ui_->fileMenu->actions();
+  new ServerMenu(*this, *ui_->fileMenu, items.at(items.indexOf(ui_->reportFolderAction) + 1),
+                 {.services = environment_.services,
+                  .alerts = environment_.alerts,
+                  .perform = [this](const DocumentAction& action) { perform(action); },
+                  .task = environment_.serverTask,
+                  .server = environment_.reportServer,
+                  .reportFiles = environment_.reportFiles,
+                  .import = environment_.importReports});
   new RecentMenu(*ui_->recentMenu, environment_.recentFiles, environment_.openFiles);
   new WindowMenu(*ui_->windowMenu, {.documents = environment_.openDocuments,
                                     .own = [this] { return document_; },

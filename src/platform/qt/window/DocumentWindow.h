@@ -10,6 +10,8 @@
 #include "app/NCAppController.h"
 #include "app/NCDocument.h"
 #include "base/RecentFiles.h"
+#include "exchange/ReportServer.h"
+#include "exchange/StructuredReport.h"
 #include "foundation/Services.h"
 #include "foundation/Signal.h"
 #include "framework/DocumentController.h"
@@ -17,6 +19,7 @@
 #include "summary/Typesetter.h"
 #include "window/Actions.h"
 #include "window/Perform.h"
+#include "window/ServerTask.h"
 #include "window/WaitingReports.h"
 
 class QLabel;
@@ -53,6 +56,11 @@ struct WindowEnvironment {
   std::function<void(framework::ZuDocument&)> bringToFront;
   std::function<void()> quit;
   summary::FindTypesetter typesetter;
+  ServerTask& serverTask;
+  std::function<std::variant<exchange::ReportServer*, std::string>()> reportServer;
+  std::function<std::variant<exchange::ReportFiles*, std::string>()> reportFiles;
+  /// Shows reports, the bytes of their files, before they are stored in that document.
+  std::function<void(std::vector<std::vector<std::byte>>, app::NCDocument&)> importReports;
 };
 
 /// The window of one patient: the fields on the left, the pages on the right. Whatever the user does there goes to the
