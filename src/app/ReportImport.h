@@ -1,6 +1,5 @@
 #pragma once
 
-#include <compare>
 #include <cstddef>
 #include <cstdint>
 #include <memory>
@@ -8,6 +7,7 @@
 #include <set>
 #include <string>
 #include <string_view>
+#include <tuple>
 #include <vector>
 
 #include "app/NCDocument.h"
@@ -37,7 +37,9 @@ class ReportImport {
       std::size_t report = 0;
       std::size_t value = 0;  ///< its place among what that report holds
 
-      friend auto operator<=>(const Key&, const Key&) = default;
+      friend bool operator<(const Key& one, const Key& other) {
+        return std::tie(one.report, one.value) < std::tie(other.report, other.value);
+      }
     };
     std::string examination{};  ///< the day
     std::string fetus{};        ///< empty for a value of the mother
