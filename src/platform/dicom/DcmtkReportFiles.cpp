@@ -152,36 +152,74 @@ constexpr std::array kTypeNames{TypeName{"CONTAINER", ValueType::container},
 
 constexpr const char* kUtf8 = "ISO_IR 192";
 
-std::string withoutBlanks(std::string_view text) {
-  constexpr std::string_view kBlanks(" \t\r\n\f\0", 6);
-  const std::size_t first = text.find_first_not_of(kBlanks);
-  if (first == std::string_view::npos) return {};
-  return std::string(text.substr(first, text.find_last_not_of(kBlanks) - first + 1));
+constexpr bool isBlank(char character) {
+  return character == ' ' || character == '\0' ||
+         (character >= '\t' && character <= '\r' && character != '\v');
 }
 
-/// The bytes of a value; empty when there is none.
-std::string bytesOf(DcmItem& item, const Element& element) {
-  DcmElement* found = nullptr;
-  if (item.findAndGetElement(element.key(), found).bad() || found == nullptr) return {};
-  OFString value;
+std::string_view withoutBlanks(std::string_view text) {
+  while (!text.empty() && isBlank(text.front())) text.remove_prefix(1);
+  while (!text.empty() && isBlank(text.back())) text.remove_suffix(1);
+  return text;
+}
+
+/// The elements of an item, found in one walk along them. DCMTK looks for each from the first on, and takes longer for that
+/// than for reading it.
+class Elements {
+ public:
+  explicit Elements(DcmObject& item) {
+    constexpr std::size_t kUsual = 8;
+    elements_.reserve(kUsual);
+    for (DcmObject* element = item.nextInContainer(nullptr); element != nullptr;
+         element = item.nextInContainer(element))
+      elements_.push_back(element);
+  }
+
+  /// Null when there is none.
+  DcmObject* at(const Element& wanted) const {
+    const auto found = std::ranges::find_if(elements_, [&](const DcmObject* element) {
+      return element->getGTag() == wanted.group && element->getETag() == wanted.element;
+    });
+    return found == elements_.end() ? nullptr : *found;
+  }
+
+ private:
+  std::vector<DcmObject*> elements_;
+};
+
+/// The bytes of a value; empty when there is none. They lie in the element, or else in `room`.
+std::string_view bytesOf(const Elements& item, const Element& element, OFString& room) {
+  DcmObject* object = item.at(element);
   // A sequence under the tag of a text has no text.
-  if (!found->isLeaf() || found->getOFStringArray(value, OFFalse).bad()) return {};
-  return {value.data(), value.size()};
+  if (object == nullptr || !object->isLeaf()) return {};
+  // What an item holds is always an element, and asking costs more than reading.
+  // NOLINTNEXTLINE(cppcoreguidelines-pro-type-static-cast-downcast)
+  auto& found = static_cast<DcmElement&>(*object);
+  char* text = nullptr;
+  Uint32 length = 0;
+  if (found.getString(text, length).good())
+    return text == nullptr ? std::string_view() : std::string_view(text, length);
+  // What is no text, DCMTK makes one of.
+  if (found.getOFStringArray(room, OFFalse).bad()) return {};
+  return {room.data(), room.size()};
 }
 
 /// A value that is plain ASCII wherever it is right.
-std::string plain(DcmItem& item, const Element& element) { return withoutBlanks(bytesOf(item, element)); }
+std::string plain(const Elements& item, const Element& element) {
+  OFString room;
+  return std::string(withoutBlanks(bytesOf(item, element, room)));
+}
 
-DcmSequenceOfItems* sequenceIn(DcmItem& item, const Element& element) {
-  DcmElement* found = nullptr;
-  if (item.findAndGetElement(element.key(), found).bad() || found == nullptr) return nullptr;
-  return dynamic_cast<DcmSequenceOfItems*>(found);
+/// The next item of a sequence, null behind the last one.
+DcmObject* itemBehind(DcmObject& sequence, const DcmObject* item) {
+  DcmObject* next = sequence.nextInContainer(item);
+  return next != nullptr && next->ident() == EVR_item ? next : nullptr;
 }
 
 /// The first item of a sequence, null when there is none.
-DcmItem* firstIn(DcmItem& item, const Element& element) {
-  DcmSequenceOfItems* sequence = sequenceIn(item, element);
-  return sequence == nullptr || sequence->card() == 0 ? nullptr : sequence->getItem(0);
+DcmObject* firstIn(const Elements& item, const Element& element) {
+  DcmObject* sequence = item.at(element);
+  return sequence == nullptr ? nullptr : itemBehind(*sequence, nullptr);
 }
 
 /// Texts of one character set as UTF-8.
@@ -195,17 +233,22 @@ class Texts {
   const std::string& name() const { return name_; }
   std::vector<std::string>* warnings() const { return warnings_; }
 
+  /// Without blanks at its ends.
   std::string utf8(std::string_view bytes) {
     const bool isAscii = std::ranges::all_of(
         bytes, [](char byte) { return static_cast<unsigned char>(byte) < 0x80 && byte != '\x1b'; });
-    if (isAscii) return std::string(bytes);
+    if (isAscii) return std::string(withoutBlanks(bytes));
+    return std::string(withoutBlanks(converted(bytes)));
+  }
+
+ private:
+  std::string converted(std::string_view bytes) {
     if (auto text = converted(converter_, isKnown_, bytes)) return std::move(*text);
     if (auto text = withoutEscape(bytes)) return std::move(*text);
     warnings_->push_back("a text is not in the character set \"" + name_ + "\" that the file states");
     return replaced(bytes);
   }
 
- private:
   static std::optional<std::string> converted(DcmSpecificCharacterSet& converter, bool isKnown,
                                               std::string_view bytes) {
     OFString text;
@@ -216,12 +259,12 @@ class Texts {
   /// Of two sets, ASCII and another, some writers leave out the sequence that switches to the other.
   std::optional<std::string> withoutEscape(std::string_view bytes) const {
     const std::size_t bar = name_.find('\\');
-    const std::string first = withoutBlanks(std::string_view(name_).substr(0, bar));
+    const std::string_view first = withoutBlanks(std::string_view(name_).substr(0, bar));
     const bool isAsciiFirst = first.empty() || first == "ISO 2022 IR 6" || first == "ISO_IR 6";
     if (bar == std::string::npos || !isAsciiFirst || name_.find('\\', bar + 1) != std::string::npos ||
         bytes.find('\x1b') != std::string_view::npos)
       return std::nullopt;
-    std::string other = withoutBlanks(std::string_view(name_).substr(bar + 1));
+    std::string other(withoutBlanks(std::string_view(name_).substr(bar + 1)));
     constexpr std::string_view kWithEscapes = "ISO 2022 IR ";
     if (other.starts_with(kWithEscapes)) other.replace(0, kWithEscapes.size(), "ISO_IR ");
     DcmSpecificCharacterSet converter;
@@ -251,15 +294,14 @@ class Reader {
  public:
   explicit Reader(DcmItem& dataset) : dataset_(dataset) {}
 
-  StructuredReport report() {
+  StructuredReport report() const {
     StructuredReport report;
     Texts texts(plain(dataset_, kCharacterSet), report.warnings);
     report.sopClass = plain(dataset_, kSopClass);
     report.patientID = textOf(dataset_, kPatientID, texts);
     report.studyDate = plain(dataset_, kStudyDate);
     report.contentDate = plain(dataset_, kContentDate);
-    const DcmSequenceOfItems* content = sequenceIn(dataset_, kContent);
-    report.hasContent = content != nullptr && content->card() > 0;
+    report.hasContent = firstIn(dataset_, kContent) != nullptr;
     if (report.hasContent) report.root = item(dataset_, texts);
     // Once is enough.
     std::ranges::sort(report.warnings);
@@ -268,21 +310,23 @@ class Reader {
   }
 
  private:
-  static std::string textOf(DcmItem& item, const Element& element, Texts& texts) {
-    return withoutBlanks(texts.utf8(bytesOf(item, element)));
+  static std::string textOf(const Elements& item, const Element& element, Texts& texts) {
+    OFString room;
+    return texts.utf8(bytesOf(item, element, room));
   }
 
-  static Code codeIn(DcmItem& holder, const Element& sequence, Texts& texts) {
-    DcmItem* item = firstIn(holder, sequence);
-    if (item == nullptr) return {};
-    Code code{.value = textOf(*item, kCodeValue, texts),
-              .scheme = textOf(*item, kCodeScheme, texts),
-              .meaning = textOf(*item, kCodeMeaning, texts)};
-    if (code.value.empty()) code.value = textOf(*item, kLongCodeValue, texts);
+  static Code codeIn(const Elements& holder, const Element& sequence, Texts& texts) {
+    DcmObject* found = firstIn(holder, sequence);
+    if (found == nullptr) return {};
+    const Elements item(*found);
+    Code code{.value = textOf(item, kCodeValue, texts),
+              .scheme = textOf(item, kCodeScheme, texts),
+              .meaning = textOf(item, kCodeMeaning, texts)};
+    if (code.value.empty()) code.value = textOf(item, kLongCodeValue, texts);
     return code;
   }
 
-  static ValueType typeOf(DcmItem& item) {
+  static ValueType typeOf(const Elements& item) {
     const std::string name = plain(item, kValueType);
     const auto found =
         std::ranges::find_if(kTypeNames, [&](const TypeName& type) { return name == type.name; });
@@ -290,12 +334,13 @@ class Reader {
     return name == "DATETIME" ? ValueType::date : ValueType::other;
   }
 
-  static void readValue(DcmItem& from, Texts& texts, ContentItem& item) {
+  static void readValue(const Elements& from, Texts& texts, ContentItem& item) {
     switch (item.type) {
       case ValueType::number:
-        if (DcmItem* value = firstIn(from, kMeasuredValue)) {
-          item.text = plain(*value, kNumericValue);
-          item.code = codeIn(*value, kUnits, texts);
+        if (DcmObject* found = firstIn(from, kMeasuredValue)) {
+          const Elements value(*found);
+          item.text = plain(value, kNumericValue);
+          item.code = codeIn(value, kUnits, texts);
         }
         break;
       case ValueType::code: item.code = codeIn(from, kConceptCode, texts); break;
@@ -309,13 +354,11 @@ class Reader {
   }
 
   /// The item with all below it. The file was looked at for its depth before.
-  ContentItem item(DcmItem& from, Texts& around) {
+  static ContentItem item(const Elements& from, Texts& around) {
     // An item may state a character set of its own.
     std::optional<Texts> own;
-    if (&from != &dataset_) {
-      const std::string name = plain(from, kCharacterSet);
-      if (!name.empty() && name != around.name()) own.emplace(name, *around.warnings());
-    }
+    const std::string name = plain(from, kCharacterSet);
+    if (!name.empty() && name != around.name()) own.emplace(name, *around.warnings());
     Texts& texts = own ? *own : around;
     ContentItem item{.type = typeOf(from),
                      .relationship = plain(from, kRelationship),
@@ -324,18 +367,16 @@ class Reader {
                      .code = {},
                      .items = {}};
     readValue(from, texts, item);
-    if (DcmSequenceOfItems* content = sequenceIn(from, kContent)) {
-      item.items.reserve(content->card());
-      for (DcmObject* child = content->nextInContainer(nullptr); child != nullptr;
-           child = content->nextInContainer(child)) {
-        if (auto* childItem = dynamic_cast<DcmItem*>(child))
-          item.items.push_back(this->item(*childItem, texts));
-      }
+    if (DcmObject* content = from.at(kContent); content != nullptr && !content->isLeaf()) {
+      item.items.reserve(content->getNumberOfValues());
+      for (DcmObject* child = itemBehind(*content, nullptr); child != nullptr;
+           child = itemBehind(*content, child))
+        item.items.push_back(Reader::item(Elements(*child), texts));
     }
     return item;
   }
 
-  DcmItem& dataset_;
+  Elements dataset_;
 };
 
 /// Writes a report into a dataset. The first thing that DCMTK refuses is kept.
@@ -454,8 +495,8 @@ std::variant<StructuredReport, std::string> DcmtkReportFiles::read(std::span<con
   stream.setEos();
   DcmDataset dataset;
   dataset.transferInit();
+  // Without transferEnd(): it walks along all elements, to make them ready for what is never done with them.
   const OFCondition status = dataset.read(stream, syntax);
-  dataset.transferEnd();
   if (status.bad()) return std::string("is damaged: ") + status.text();
   return Reader(dataset).report();
 }

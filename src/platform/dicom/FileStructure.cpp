@@ -39,6 +39,33 @@ struct Header {
   std::uint32_t length = 0;
 };
 
+/// The bytes that the length of an element takes.
+enum class LengthSize : std::uint8_t { none, two, four };
+
+constexpr std::size_t kCapitals = 26;
+constexpr bool isCapital(char letter) { return letter >= 'A' && letter <= 'Z'; }
+constexpr std::size_t placeOf(char first, char second) {
+  return static_cast<std::size_t>(first - 'A') * kCapitals + static_cast<std::size_t>(second - 'A');
+}
+
+/// By the two capitals of a representation. Four bytes, behind two that are reserved, it takes too for what DICOM may yet add
+/// (PS3.5, 7.1.2), for which DCMTK takes any two capitals that it does not know.
+constexpr auto kLengthSizes = [] {
+  std::array<LengthSize, kCapitals * kCapitals> sizes{};
+  sizes.fill(LengthSize::four);
+  for (const std::string_view vr : {"AE", "AS", "AT", "CS", "DA", "DS", "DT", "FD", "FL", "IS", "LO",
+                                    "LT", "PN", "SH", "SL", "SS", "ST", "TM", "UI", "UL", "US"})
+    sizes.at(placeOf(vr[0], vr[1])) = LengthSize::two;
+  return sizes;
+}();
+
+/// None for what is no representation.
+LengthSize lengthSizeOf(std::string_view vr) {
+  if (isCapital(vr[0]) && isCapital(vr[1])) return kLengthSizes[placeOf(vr[0], vr[1])];
+  // Two question marks are what some writers have put where they knew none.
+  return vr == "??" ? LengthSize::two : LengthSize::none;
+}
+
 class Walk {
  public:
   explicit Walk(std::span<const std::byte> bytes)
@@ -80,34 +107,20 @@ class Walk {
 
   bool has(std::size_t count) const { return text_.size() - at_ >= count; }
 
-  static bool isCapital(char letter) { return letter >= 'A' && letter <= 'Z'; }
-  /// Two question marks are what some writers have put where they knew none.
-  static bool isRepresentation(std::string_view vr) {
-    return std::ranges::all_of(vr, isCapital) || vr == "??";
-  }
-
-  /// Whether a length of four bytes stands behind two that are reserved. It does for what DICOM may yet add (PS3.5, 7.1.2),
-  /// for which DCMTK takes any two capitals that it does not know.
-  static bool hasLongLength(std::string_view vr) {
-    constexpr std::array<std::string_view, 21> kShort{"AE", "AS", "AT", "CS", "DA", "DS", "DT",
-                                                      "FD", "FL", "IS", "LO", "LT", "PN", "SH",
-                                                      "SL", "SS", "ST", "TM", "UI", "UL", "US"};
-    return std::ranges::all_of(vr, isCapital) && std::ranges::find(kShort, vr) == kShort.end();
-  }
-
   /// Reads tag, representation and length at `at_` and steps behind them.
   bool readHeader(Encoding encoding, Header& result) {
     if (!has(8)) return refuse(kCutOff);
     result.tag = tagAt(at_, encoding.isBigEndian);
     const bool isDelimiter = result.tag >> 16U == kItem >> 16U;
     result.vr = encoding.isExplicit && !isDelimiter ? text_.substr(at_ + 4, 2) : std::string_view();
+    const LengthSize size = result.vr.empty() ? LengthSize::four : lengthSizeOf(result.vr);
     // What is none DCMTK may take for one of its own, and then for a length what is none.
-    if (!isRepresentation(result.vr)) return refuse(kUnknown);
+    if (size == LengthSize::none) return refuse(kUnknown);
     if (++count_ > kMost) return refuse("has more parts than any report");
     if (result.vr.empty()) {
       result.length = number(at_ + 4, 4, encoding.isBigEndian);
       at_ += 8;
-    } else if (!hasLongLength(result.vr)) {
+    } else if (size == LengthSize::two) {
       result.length = number(at_ + 6, 2, encoding.isBigEndian);
       at_ += 8;
     } else {
