@@ -1449,11 +1449,15 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>&amp;Import Report...</source>
+        <source>Report &amp;Folder and Server</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Report &amp;Folder...</source>
+        <source>I&amp;mport Report...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Report F&amp;older...</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -2402,10 +2406,6 @@
 <context>
     <name>ServerMenu</name>
     <message>
-        <source>Report Server</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>&amp;Fetch Reports...</source>
         <translation type="unfinished"></translation>
     </message>
@@ -2414,15 +2414,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>S&amp;ettings...</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>There is no server.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Please name one in File &gt; Report Server &gt; Settings.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -2499,6 +2491,14 @@
     </message>
     <message>
         <source>The answer was not waited for.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Server S&amp;ettings...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Please name one in File &gt; Report Folder and Server &gt; Server Settings.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -2979,7 +2979,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>nascor: --watch: Nascor is running already. Please choose the folder there, by File &gt; Report Folder.</source>
+        <source>nascor: --watch: Nascor is running already. Please choose the folder there, by File &gt; Report Folder and Server.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

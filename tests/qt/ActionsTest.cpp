@@ -822,6 +822,7 @@ const std::map<std::string, std::string>& doneElsewhere() {
       {"clearRecentAction", "Actions.openClearAndForgetRecentDocumentsByKeys"},
       {"rememberRecentAction", "Actions.openClearAndForgetRecentDocumentsByKeys"},
       {"importReportAction", "TheImportDialog.showsAReportBesideThePatientAndStoresItWithOK"},
+      {"waitingReports", "TheReportFolder.showsItselfInTheBottomLineOfEachWindow"},
       {"reportFolderAction", "TheReportFolder.isChosenInItsDialog"},
       {"fetchReportsAction", "TheServerMenu.fetchesTheReportsThatAreChosen"},
       {"sendExaminationAction", "TheServerMenu.sendsTheExaminationOnShowAfterAQuestion"},

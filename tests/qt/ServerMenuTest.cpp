@@ -84,9 +84,8 @@ class TheServerMenu : public WindowTest {
  protected:
   TheServerMenu() {
     open(singleton());
-    menu.addAction(QStringLiteral("&Close"));
     new qt::ServerMenu(
-        front(), menu, menu.actions()[0],
+        front(), menu,
         {.services = platform.services(),
          .alerts = alerts,
          .perform = [this](const qt::DocumentAction& action) { action(document()); },
@@ -101,9 +100,8 @@ class TheServerMenu : public WindowTest {
   }
   ~TheServerMenu() override { server.isSlow = false; }
 
-  QMenu& own() { return *menu.actions()[0]->menu(); }
   QAction& item(const char* name) {
-    for (QAction* each : own().actions()) {
+    for (QAction* each : menu.actions()) {
       if (each->objectName() == QLatin1String(name)) return *each;
     }
     throw std::runtime_error(name);
@@ -149,7 +147,7 @@ class TheServerMenu : public WindowTest {
 };
 
 TEST_F(TheServerMenu, asksNobodyUntilAServerIsNamed) {
-  emit own().aboutToShow();
+  emit menu.aboutToShow();
   EXPECT_FALSE(item("fetchReportsAction").isEnabled());
   EXPECT_FALSE(item("sendExaminationAction").isEnabled());
   item("sendExaminationAction").setEnabled(true);
@@ -157,7 +155,7 @@ TEST_F(TheServerMenu, asksNobodyUntilAServerIsNamed) {
   EXPECT_THAT(server.asked, IsEmpty());
   ASSERT_FALSE(alerts.told.empty());
   setUp();
-  emit own().aboutToShow();
+  emit menu.aboutToShow();
   EXPECT_TRUE(item("fetchReportsAction").isEnabled());
 }
 

@@ -226,7 +226,7 @@ int showDocuments(Application& application, const CommandLine& line, const found
     if (!line.parser.isSet(line.watch)) return kAllWell;
     printLine(stderr, QCoreApplication::translate("main",
                                                   "nascor: --watch: Nascor is running already. Please choose "
-                                                  "the folder there, by File > Report Folder."));
+                                                  "the folder there, by File > Report Folder and Server."));
     return kFailed;
   }
 

@@ -216,16 +216,16 @@ void DocumentWindow::bindActions() {
                   .printer = environment_.printer,
                   .sender = environment_.application,
                   .perform = [this](const DocumentAction& action) { perform(action); }});
+  new DataMenu(*this, *ui_->fileMenu, ui_->closeAction,
+               {.services = environment_.services,
+                .alerts = environment_.alerts,
+                .perform = [this](const DocumentAction& action) { perform(action); }});
   new SummaryMenu(*this, *ui_->fileMenu, ui_->closeAction,
                   {.services = environment_.services,
                    .alerts = environment_.alerts,
                    .printer = environment_.printer,
                    .typesetter = environment_.typesetter,
                    .perform = [this](const DocumentAction& action) { perform(action); }});
-  new DataMenu(*this, *ui_->fileMenu, ui_->closeAction,
-               {.services = environment_.services,
-                .alerts = environment_.alerts,
-                .perform = [this](const DocumentAction& action) { perform(action); }});
   bindEditActions();
   new StandardsMenus(*ui_->menuBar, {ui_->standardsMenu, ui_->fetalWeightMenu, ui_->crownRumpLengthMenu},
                      mnemonicsOf(*ui_->menuBar, *ui_->patientPanel), environment_.application,
@@ -299,8 +299,7 @@ void DocumentWindow::bindFileActions() {
   connect(ui_->reportFolderAction, &QAction::triggered, this, [this] {
     perform([this](NCDocument&) { askForReportFolder(*this, environment_.waitingReports); });
   });
-  const auto items = ui_->fileMenu->actions();
-  new ServerMenu(*this, *ui_->fileMenu, items.at(items.indexOf(ui_->reportFolderAction) + 1),
+  new ServerMenu(*this, *ui_->reportSourcesMenu,
                  {.services = environment_.services,
                   .alerts = environment_.alerts,
                   .perform = [this](const DocumentAction& action) { perform(action); },

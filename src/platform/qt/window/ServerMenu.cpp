@@ -15,7 +15,6 @@
 #include <optional>
 #include <utility>
 
-#include "base/Mnemonics.h"
 #include "base/Text.h"
 #include "exchange/DecimalText.h"
 #include "exchange/OutgoingExamination.h"
@@ -41,21 +40,15 @@ QString sentencesOf(const std::vector<std::string>& sentences) {
 
 }  // namespace
 
-ServerMenu::ServerMenu(QMainWindow& window, QMenu& menu, QAction* before, ServerEnvironment environment)
+ServerMenu::ServerMenu(QMainWindow& window, QMenu& menu, ServerEnvironment environment)
     : QObject(&window), window_(window), environment_(std::move(environment)) {
-  QString taken;
-  for (const QAction* other : menu.actions()) taken += mnemonicOf(other->text());
-  auto* own = new QMenu(withMnemonic(said("ServerMenu", "Report Server"), taken), &window);
-  own->setObjectName(QStringLiteral("serverMenu"));
-  menu.insertMenu(before, own);
-  QAction* fetching = add(*own, "fetchReportsAction", said("ServerMenu", "&Fetch Reports..."),
+  QAction* fetching = add(menu, "fetchReportsAction", said("ServerMenu", "&Fetch Reports..."),
                           [this](NCDocument& document) { fetch(document); });
-  QAction* sending = add(*own, "sendExaminationAction", said("ServerMenu", "&Send This Examination..."),
+  QAction* sending = add(menu, "sendExaminationAction", said("ServerMenu", "&Send This Examination..."),
                          [this](NCDocument& document) { send(document); });
-  own->addSeparator();
-  add(*own, "serverSettingsAction", said("ServerMenu", "S&ettings..."),
+  add(menu, "serverSettingsAction", said("ServerMenu", "Server S&ettings..."),
       [this](NCDocument&) { editSettings(); });
-  connect(own, &QMenu::aboutToShow, this, [this, fetching, sending] {
+  connect(&menu, &QMenu::aboutToShow, this, [this, fetching, sending] {
     const bool isSetUp = preferredServer(environment_.services.defaults).has_value();
     fetching->setEnabled(isSetUp);
     sending->setEnabled(isSetUp);
@@ -75,7 +68,7 @@ std::optional<exchange::ServerAddress> ServerMenu::address() {
   if (!address) {
     environment_.alerts.tell(
         toUtf8(said("ServerMenu", "There is no server.")),
-        toUtf8(said("ServerMenu", "Please name one in File > Report Server > Settings.")));
+        toUtf8(said("ServerMenu", "Please name one in File > Report Folder and Server > Server Settings.")));
   }
   return address;
 }

@@ -31,11 +31,11 @@ struct ServerEnvironment {
   std::function<void(std::vector<std::vector<std::byte>>, app::NCDocument&)> import;
 };
 
-/// The submenu of the File menu that fetches reports from a server and sends them there, once one was set up.
+/// The items that fetch reports from a server and send them there, once one was set up.
 class ServerMenu final : public QObject {
  public:
-  /// Adds the submenu to `menu`, before `before`. It belongs to `window`.
-  ServerMenu(QMainWindow& window, QMenu& menu, QAction* before, ServerEnvironment environment);
+  /// Adds its items to `menu`. They belong to `window`.
+  ServerMenu(QMainWindow& window, QMenu& menu, ServerEnvironment environment);
 
  private:
   QAction* add(QMenu& menu, const char* name, const QString& text, const DocumentAction& action);
