@@ -634,6 +634,14 @@
         <source>Exported to %1</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>FHIR bundle for health records (*.fhir.json)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>DICOM report of this examination (*.dcm)</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>DatingDialogs</name>
@@ -1922,6 +1930,14 @@
         <source>Data</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>There is no examination.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing here writes DICOM reports.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>OutputMenu</name>
@@ -2399,7 +2415,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>A fetched file</source>
+        <source>Fetched report %ld</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -10,6 +10,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <variant>
 #include <vector>
 
 #include "app/Assessment.h"
@@ -20,6 +21,7 @@
 #include "calc/Biometry.h"
 #include "charts/ChartDocument.h"
 #include "exchange/Findings.h"
+#include "exchange/StructuredReport.h"
 #include "foundation/NotificationCenter.h"
 #include "framework/Controls.h"
 #include "framework/CorvelDocument.h"
@@ -256,8 +258,8 @@ class NCDocument final : public framework::CorvelDocument,
   /// The document that reports go into: where this one is blank, the one that their patient has in the documents folder, if
   /// the user opens it in this one's place.
   NCDocument& documentOfPatient(std::span<const exchange::Findings> reports);
-  /// Asks whether an established EDD is to be modified.
-  bool userModifiesEDD();
+  /// Asks whether the established EDD is to become `edd`.
+  bool userModifiesEDD(const std::optional<foundation::Date>& edd);
   /// Puts `patient`, this one and what was imported, into this one's place, as one step.
   void takeImported(std::unique_ptr<model::PatientRecord> patient, const Imported& imported);
 
@@ -270,11 +272,15 @@ class NCDocument final : public framework::CorvelDocument,
   std::string dataAsCsv() const;
   /// All that a document archives, in one line, as `nascor-cli json` prints it.
   std::string dataAsJson() const;
+  /// As `nascor-cli export --format fhir` writes it; empty without an examination.
+  std::string dataAsFhir() const;
   /// What a file of it is called; `extension` begins with a dot, or is empty.
   std::string dataFileName(std::string_view extension) const;
-  /// Writes it into the file at `path`: JSON where that ends with ".json", else CSV. The text in edit reaches the records
-  /// first. Nothing when it was written, else why not.
-  std::optional<std::string> exportData(const std::string& path);
+  /// What writes DICOM reports; or why there is nothing that does, in a sentence.
+  using FindReportFiles = std::function<std::variant<exchange::ReportFiles*, std::string>()>;
+  /// Writes it into the file at `path`, by how that ends: ".fhir.json" a FHIR bundle, ".json" JSON, ".dcm" the examination on
+  /// show as a DICOM report, else CSV. The text in edit reaches the records first. Nothing when it was written, else why not.
+  std::optional<std::string> exportData(const std::string& path, const FindReportFiles& reportFiles = {});
 
   /// @}
 
@@ -370,6 +376,9 @@ class NCDocument final : public framework::CorvelDocument,
   LengthsOnShow lengthsOnShow();
   /// What the fields hold.
   calc::Biometry heldLengths();
+  /// The examination on show; or why there is none, in a sentence.
+  std::variant<std::vector<std::byte>, std::string> examinationAsReport(
+      const FindReportFiles& reportFiles) const;
   framework::TextField* firstEmptyField() override;
 
   void actionEnded() override;

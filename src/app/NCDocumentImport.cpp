@@ -26,15 +26,17 @@ NCDocument& NCDocument::documentOfPatient(std::span<const exchange::Findings> re
   return opened != nullptr ? *opened : *this;
 }
 
-bool NCDocument::userModifiesEDD() {
+bool NCDocument::userModifiesEDD(const std::optional<foundation::Date>& edd) {
   const foundation::Localizer& localizer = services().localizer;
   return environment().alerts.runModal(
              {.message = localizer.text("NCDocument", "EDD is already specified"),
               .information =
                   localizer.text("NCDocument", "Are you sure you want to modify the established EDD?"),
               .defaultButton = localizer.text("CorvelDocument", "Modify"),
-              .alternateButton = localizer.text("ZuVersion", "Cancel")}) ==
-         framework::AlertReturn::defaultButton;
+              .alternateButton = localizer.text("ZuVersion", "Cancel"),
+              .isCancelledByReturn = true,
+              .addition = (patientRecord_->edd() ? longDateText(*patientRecord_->edd()) : "") + " \u2192 " +
+                          (edd ? longDateText(*edd) : "")}) == framework::AlertReturn::defaultButton;
 }
 
 void NCDocument::takeImported(std::unique_ptr<model::PatientRecord> patient, const Imported& imported) {

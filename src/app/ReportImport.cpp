@@ -84,7 +84,7 @@ void ReportImport::findPatient() {
   documentID_ = exchange::withoutBlanks(document_.patientRecord()->maternalIDString().value_or(""));
   for (const Findings& report : reports_) {
     const std::string id = report.patientID.value_or("");
-    if (id.empty()) continue;
+    if (id.empty() || exchange::patientDoubt(report, true, "") == PatientDoubt::isUnreadable) continue;
     areOfSeveralPatients_ |= !reportedID_.empty() && reportedID_ != id;
     if (reportedID_.empty()) reportedID_ = id;
   }
@@ -94,6 +94,10 @@ void ReportImport::findPatient() {
   for (const Findings& report : reports_) {
     switch (exchange::patientDoubt(report, takesPatient && reports_.size() == 1, expected)) {
       case PatientDoubt::none: continue;
+      case PatientDoubt::isUnreadable:
+        patientDoubt_ = text(translatable(
+            "ReportImport", "The reference ID of the report has characters that cannot be read."));
+        continue;
       case PatientDoubt::reportNamesNobody:
         patientDoubt_ = text(translatable("ReportImport", "The report does not say of which patient it is."));
         continue;
@@ -135,7 +139,9 @@ void ReportImport::findFetuses() {
   for (const Findings& report : reports_) {
     for (const FetusFindings& found : report.fetuses) {
       Fetus& fetus = fetuses_[fetusOf(found)];
-      if (!fetus.place) fetus.place = exchange::fetusPlace(found, report, count_);
+      // A report of twins says of no fetus that it is the only one of the document.
+      const bool isOfAsMany = report.numberOfFetuses.value_or(static_cast<int>(count_)) == count_;
+      if (!fetus.place && isOfAsMany) fetus.place = exchange::fetusPlace(found, report, count_);
     }
   }
   // One is no other's twin; and in a new document nothing can be mixed up with what is there.
@@ -293,6 +299,12 @@ void ReportImport::addRows(std::size_t report, const Wanted& wanted, const excha
   const Findings& findings = reports_[report];
   if (findings.edd) addEDD(report, stored);
   if (findings.gravida) addGravida(report, stored);
+  if (findings.numberOfFetuses && *findings.numberOfFetuses != count_) {
+    Row& row = addRow(report, 0, "", text(translatable("ReportImport", "Fetuses")));
+    row.reported = std::to_string(*findings.numberOfFetuses);
+    row.standing = std::to_string(count_);
+    tellFate(row, Fate::otherStays);
+  }
   for (std::size_t i = 0; i < findings.fetuses.size(); ++i) {
     const FetusFindings& found = findings.fetuses[i];
     const Fetus& fetus = fetuses_[fetusOf(found)];
@@ -346,7 +358,7 @@ void ReportImport::addLength(std::size_t report, const Wanted& wanted, const exc
   const FetusFindings& found = reports_[report].fetuses[fetus];
   const Fetus& known = fetuses_[fetusOf(found)];
   Row& row = addRow(report, keyOfLength(fetus, term), known.name, std::string(kLengthTerms.at(term).label));
-  row.reported = numberText(foundation::shortestText(found.lengths.at(term)->mm)) + " mm";
+  row.reported = numberText(exchange::shortestSingleText(found.lengths.at(term)->mm)) + " mm";
   const std::string_view how = howChosen(found.lengths.at(term)->chosen);
   if (!how.empty()) row.reported += " (" + text(how) + ")";
   if (!stored) return;
@@ -380,8 +392,9 @@ void ReportImport::addLength(std::size_t report, const Wanted& wanted, const exc
     return;
   }
   if (outcome->fate != Fate::stored) return;
+  // The first fetus of the last examination.
+  if (imported_.shownDay != reports_[report].examDate) imported_.shownFetus = outcome->place;
   imported_.shownDay = reports_[report].examDate;
-  imported_.shownFetus = outcome->place;
   row.isWarning = isDerived(found.lengths.at(term)->chosen);
 }
 
@@ -432,7 +445,8 @@ bool ReportImport::store() {
   foresee();
   if (!obstacle_.empty()) return false;
   const auto established = document_.patientRecord()->edd();
-  if (established && foreseen_->edd() != established && !document_.userModifiesEDD()) return false;
+  if (established && foreseen_->edd() != established && !document_.userModifiesEDD(foreseen_->edd()))
+    return false;
   document_.takeImported(std::move(foreseen_), imported_);
   return true;
 }

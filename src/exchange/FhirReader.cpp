@@ -82,6 +82,19 @@ class Bundle {
     }
   }
 
+  /// Whether two resources of fetuses bear one identifier: then nothing tells whose lengths are whose.
+  bool hasNamesakes() const {
+    std::map<std::string, const Json*> fetuses;
+    for (const Json* resource : resources_) {
+      if (textIn(*resource, "resourceType") != "Observation") continue;
+      const Json& subject = referred(member(*resource, "subject"));
+      const std::string identifier = identifierOf(subject);
+      const auto [found, isNew] = fetuses.emplace(identifier, &subject);
+      if (!identifier.empty() && found->second != &subject) return true;
+    }
+    return false;
+  }
+
   std::vector<StructuredReport> reports() const {
     std::vector<StructuredReport> reports;
     for (const Json* resource : resources_) {
@@ -243,12 +256,17 @@ std::optional<std::string> withBlanksBetween(std::string_view json) {
 }  // namespace
 
 std::variant<std::vector<StructuredReport>, std::string> reportsInBundle(std::string_view json) {
+  // As much as an archive of one patient never is, and its tree would fill the memory.
+  constexpr std::size_t kLongest = std::size_t{16} << 20U;
+  if (json.size() > kLongest) return "is longer than any FHIR bundle that is read (16 MiB)";
   const auto plain = withBlanksBetween(json);
   if (!plain) return "is nested deeper than any FHIR bundle";
   const Json parsed = Json::parse(plain->begin(), plain->end(), nullptr, false);
-  if (parsed.is_discarded()) return "is no DICOM file, and no JSON that can be read";
+  if (parsed.is_discarded()) return "is no JSON that can be read";
   if (textIn(parsed, "resourceType") != "Bundle") return "is no FHIR bundle";
-  auto reports = Bundle(parsed).reports();
+  const Bundle bundle(parsed);
+  if (bundle.hasNamesakes()) return "is a FHIR bundle in which two patients have one identifier";
+  auto reports = bundle.reports();
   if (reports.empty()) return "is a FHIR bundle without an examination";
   return reports;
 }

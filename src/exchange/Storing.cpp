@@ -33,6 +33,9 @@ std::string patientFault(const Findings& findings, const Confirmation& confirmat
   }
   switch (patientDoubt(findings, isNew, documentID)) {
     case PatientDoubt::none: return "";
+    case PatientDoubt::isUnreadable:
+      return "the report's reference ID has characters that cannot be read; nothing is stored unless the ID "
+             "is given";
     case PatientDoubt::reportNamesNobody:
       return "the report names no patient; nothing is stored unless the ID is given";
     case PatientDoubt::documentNamesNobody:
@@ -170,6 +173,9 @@ std::string warningOf(const StoredLength& stored, const Findings& findings) {
 }  // namespace
 
 PatientDoubt patientDoubt(const Findings& findings, bool isNew, std::string_view documentID) {
+  constexpr std::string_view kReplacement = "\xEF\xBF\xBD";  // U+FFFD
+  if (findings.patientID && findings.patientID->find(kReplacement) != std::string::npos)
+    return PatientDoubt::isUnreadable;
   if (isNew) return PatientDoubt::none;
   if (!findings.patientID) return PatientDoubt::reportNamesNobody;
   const std::string_view id = withoutBlanks(documentID);
@@ -224,7 +230,8 @@ std::variant<Stored, std::string> storeFindings(const Findings& findings, const 
                                                        : findings.patientID.value_or(""));
   Stored stored{.edd = storeEDD(findings, confirmation, calendar, patient),
                 .gravida = storeGravida(findings, patient),
-                .lengths = {}};
+                .lengths = {},
+                .fetuses = count};
   NCRecord* examination = nullptr;
   if (std::ranges::any_of(findings.fetuses, isMeasured)) {
     examination = &examinationOf(*findings.examDate, calendar, patient);
@@ -258,6 +265,10 @@ std::vector<std::string> warningsOf(const Stored& stored, const Findings& findin
   if (stored.gravida && stored.gravida->fate == Fate::otherStays) {
     warnings.push_back("the gravidity stays " + std::to_string(stored.gravida->standing) +
                        "; the report says " + std::to_string(*findings.gravida));
+  }
+  if (findings.numberOfFetuses && *findings.numberOfFetuses != stored.fetuses) {
+    warnings.push_back("the number of fetuses stays " + std::to_string(stored.fetuses) +
+                       "; the report says " + std::to_string(*findings.numberOfFetuses));
   }
   for (const StoredLength& length : stored.lengths) {
     const bool isStored = length.fate == Fate::stored || length.fate == Fate::isThereAlready;

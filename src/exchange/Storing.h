@@ -56,12 +56,14 @@ struct Stored {
   std::optional<StoredEDD> edd;  ///< nothing where the report has none, as the next one
   std::optional<StoredGravida> gravida;
   std::vector<StoredLength> lengths;  ///< in the order of the report
+  std::int64_t fetuses = 0;           ///< of the document
 };
 
 /// Why findings may be of another patient than the document.
-enum class PatientDoubt { none, reportNamesNobody, documentNamesNobody, isAnother };
+enum class PatientDoubt { none, isUnreadable, reportNamesNobody, documentNamesNobody, isAnother };
 
-/// A new document takes the patient of its first report. Blanks around a reference ID do not count.
+/// A new document takes the patient of its first report, unless the ID has characters that could not be read: two such IDs
+/// are not known to be one. Blanks around a reference ID do not count.
 PatientDoubt patientDoubt(const Findings& findings, bool isNew, std::string_view documentID);
 
 /// Which fetus of the document (from 0, of `count`) that fetus of the report is without doubt: the one of the number that is

@@ -294,11 +294,15 @@ class Table {
       firstLine_ = row.line;
       hasIDs_ = !row.patient.empty();
       file_ = row.file;
+      edd_ = row.edd;
       return "";
     }
     const bool hasID = !row.patient.empty();
-    if (hasID == hasIDs_ && (hasID || row.file == file_)) return "";
     const std::string first = "line " + std::to_string(*firstLine_);
+    if (!hasID && !hasIDs_ && row.edd != edd_)
+      return "edd: it is not that of " + first +
+             ", and no reference_id tells the patients apart; write the ID into every row";
+    if (hasID == hasIDs_ && (hasID || row.file == file_)) return "";
     if (!hasID && hasIDs_)
       return "reference_id: the cell is empty, that of " + first + " is not; write the ID into every row";
     if (hasID)
@@ -385,7 +389,8 @@ class Table {
   std::string warning_;
   std::optional<std::uint64_t> firstLine_;  // of a row whose cells are understood
   bool hasIDs_ = false;
-  std::string file_;  // of that row
+  std::optional<CivilDay> edd_;  ///< of the first row
+  std::string file_;             // of that row
   std::map<std::string, std::size_t, std::less<>> patients_;
   std::unordered_map<std::uint64_t, std::size_t> places_;  // of the examinations, by patient and day
   std::vector<Findings> examinations_;

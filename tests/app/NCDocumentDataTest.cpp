@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "app/NCDocument.h"
+#include "exchange/FhirReader.h"
 #include "foundation/JsonText.h"
 #include "model/PatientFile.h"
 #include "model/PatientJson.h"
@@ -57,6 +58,33 @@ TEST_F(ThePatientsData, goIntoATableForSpreadsheets) {
   EXPECT_THAT(table, HasSubstr("\n0,0,1,2026-11-21,2027-04-10,20,,,151,,"));
   EXPECT_THAT(table, Not(HasSubstr("AB/123"))) << "as without --identify";
   EXPECT_THAT(table, Not(HasSubstr("quiet")));
+}
+
+TEST_F(ThePatientsData, goIntoReportsForOtherProgramsWhereTheNameSaysSo) {
+  open();
+  EXPECT_EQ(document.exportData("/data.fhir.json"), std::nullopt);
+  const auto read = exchange::reportsInBundle(written("/data.fhir.json"));
+  ASSERT_TRUE(std::holds_alternative<std::vector<exchange::StructuredReport>>(read));
+  EXPECT_EQ(std::get<0>(read).front().patientID, "AB/123");
+
+  struct Files final : exchange::ReportFiles {
+    std::variant<exchange::StructuredReport, std::string> read(std::span<const std::byte>) override {
+      return "not here";
+    }
+    std::variant<std::vector<std::byte>, std::string> write(
+        const exchange::StructuredReport& report) override {
+      if (fault) return *fault;
+      const auto bytes = std::as_bytes(std::span(report.patientID));
+      return std::vector<std::byte>(bytes.begin(), bytes.end());
+    }
+    std::optional<std::string> fault;
+  } files;
+  const auto find = [&]() -> std::variant<exchange::ReportFiles*, std::string> { return &files; };
+  EXPECT_EQ(document.exportData("/data.dcm", find), std::nullopt);
+  EXPECT_EQ(written("/data.dcm"), "AB/123");
+  files.fault = "the ID is too long";
+  EXPECT_EQ(document.exportData("/other.dcm", find), "the ID is too long");
+  EXPECT_EQ(written("/other.dcm"), "no file");
 }
 
 TEST_F(ThePatientsData, goIntoJsonWhereTheNameSaysSo) {

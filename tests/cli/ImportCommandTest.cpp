@@ -151,7 +151,8 @@ TEST(ABadReport, isASentenceAndTheOthersGoOn) {
   EXPECT_EQ(outcome.status, 1);
   EXPECT_THAT(linesOf(outcome.out), SizeIs(1));
   EXPECT_THAT(linesOf(outcome.err),
-              ElementsAre(HasSubstr("neither Comprehensive nor Enhanced"), text + ": is no DICOM file",
+              ElementsAre(HasSubstr("neither Comprehensive nor Enhanced"),
+                          testing::StartsWith(text + ": is no report that is read: no DICOM file"),
                           HasSubstr("Adult Echocardiography"), HasSubstr("content is missing"),
                           HasSubstr("No such file")));
 }
@@ -274,6 +275,87 @@ TEST(Storing, takesSeveralReportsOfOnePatient) {
   for (int i = 1; i <= 6; ++i) arguments.push_back(reports + "/twins " + std::to_string(i) + ".dcm");
   EXPECT_EQ(run(arguments).status, 0);
   EXPECT_EQ(documentAt(path)["examinations"].size(), 6U);
+}
+
+TEST(Storing, takesNoReportsOfSeveralPatientsWhateverIdIsTyped) {
+  const ScratchFolder folder;
+  const std::string path = folder.path("new.nascor");
+  const Outcome outcome = run(
+      {"import", machineReport("plain"), machineReport("other-patient"), "--out", path, "--patient", "Q"});
+  EXPECT_EQ(outcome.status, 1);
+  EXPECT_THAT(outcome.err, AllOf(HasSubstr("AB-123"), HasSubstr("ZZ-999")));
+  EXPECT_FALSE(std::filesystem::exists(path));
+}
+
+TEST(Storing, takesAllOfSeveralFilesOrNone) {
+  const ScratchFolder folder;
+  const std::string path = folder.path("new.nascor");
+  EXPECT_EQ(run({"import", machineReport("plain"), machineReport("basic-text"), "--out", path}).status, 1);
+  EXPECT_FALSE(std::filesystem::exists(path));
+}
+
+TEST(Storing, takesNoIdThatNobodyCanRead) {
+  const ScratchFolder folder;
+  const std::string path = folder.path("new.nascor");
+  const Outcome outcome = run({"import", machineReport("not-ascii"), "--out", path});
+  EXPECT_EQ(outcome.status, 1);
+  EXPECT_THAT(outcome.err, HasSubstr("characters that cannot be read"));
+  EXPECT_EQ(run({"import", machineReport("not-ascii"), "--out", path, "--patient", " AB-123 "}).status, 0);
+  EXPECT_EQ(documentAt(path)["maternalIDString"], "AB-123");
+  // An Ü of a terminal that is not of UTF-8 would make a document that nothing reads.
+  const std::string before = contentsOfFile(path);
+  for (const char* id : {"M\xDC", "", "  ", "a\nb"}) {
+    EXPECT_EQ(run({"import", machineReport("plain"), "--into", path, "--patient", id}).status, 2) << id;
+    EXPECT_EQ(contentsOfFile(path), before) << id;
+  }
+}
+
+TEST(Storing, saysThatAReportSpeaksOfMoreFetuses) {
+  const ScratchFolder folder;
+  const std::string path =
+      folder.write("patient.nascor", document(R"({"maternalIDString":"AB-123","gravida":1})"));
+  const Outcome outcome = run({"import", machineReport("wrong-count"), "--into", path});
+  EXPECT_EQ(outcome.status, 0);
+  EXPECT_THAT(outcome.err, HasSubstr("the number of fetuses stays 1; the report says 2"));
+}
+
+TEST(ADocumentInJson, isImportedAsItsReportsWouldBe) {
+  const ScratchFolder folder;
+  const std::string json = folder.write("twins.json", run({"json", NASCOR_SAMPLES "/twins.nascor"}).out);
+  const std::string path = folder.path("twins.nascor");
+  EXPECT_EQ(run({"import", json, "--out", path}).status, 0);
+  const Json was = documentAt(NASCOR_SAMPLES "/twins.nascor");
+  const Json is = documentAt(path);
+  ASSERT_EQ(is["examinations"].size(), was["examinations"].size());
+  for (std::size_t i = 0; i < is["examinations"].size(); ++i)
+    EXPECT_EQ(is["examinations"][i]["measurements"], was["examinations"][i]["measurements"]);
+}
+
+TEST(ABundleOfNamesakes, isRefused) {
+  const ScratchFolder folder;
+  ASSERT_EQ(run({"export", NASCOR_SAMPLES "/twins.nascor", "--format", "fhir", "--out", folder.path("fhir")})
+                .status,
+            0);
+  Json bundle = Json::parse(contentsOfFile(folder.path("fhir/twins.json")));
+  for (Json& entry : bundle["entry"]) {
+    Json& resource = entry["resource"];
+    if (resource["resourceType"] == "Patient" && resource["identifier"][0]["value"] == "A")
+      resource["identifier"][0]["value"] = "B";
+  }
+  const Outcome outcome = run({"import", folder.write("namesakes.json", bundle.dump())});
+  EXPECT_EQ(outcome.status, 1);
+  EXPECT_THAT(outcome.err, HasSubstr("two patients have one identifier"));
+}
+
+TEST(TablesOfTwoPatientsWithoutIDs, areToldApartByTheirEDD) {
+  const ScratchFolder folder;
+  const std::string header = "fetus,exam_date,edd,bpd_mm\n";
+  const std::string table =
+      folder.write("both.csv", header + "0,2026-11-13,2027-03-04,60.9\n0,2026-11-20,2027-04-10,48\n");
+  const Outcome outcome = run({"import", table});
+  EXPECT_EQ(outcome.status, 1);
+  EXPECT_THAT(outcome.err,
+              AllOf(HasSubstr("line 3"), HasSubstr("edd"), HasSubstr("write the ID into every row")));
 }
 
 TEST(WrongWordsOfImport, areWrongUsage) {
@@ -524,7 +606,7 @@ TEST(ATableOfExaminations, isStoredByTheRulesOfReports) {
 TEST(ATextThatIsNoTable, keepsItsSentence) {
   const ScratchFolder folder;
   const std::string text = folder.write("a.csv", "exam_date;bpd_mm\n2026-11-13;60\n");
-  EXPECT_EQ(run({"import", text}).err, text + ": is no DICOM file\n");
+  EXPECT_THAT(run({"import", text}).err, testing::StartsWith(text + ": is no report that is read: "));
   // Whatever its preamble says.
   std::string report = contentsOfFile(machineReport("plain"));
   report.replace(0, 17, "exam_date,bpd_mm\n");

@@ -102,6 +102,24 @@ TEST_F(ADocument, ofAnotherPatientTakesNothing) {
   EXPECT_EQ(measured(0).bpd(), 60.9);
 }
 
+TEST_F(ADocument, takesNoReportWhoseIdCannotBeRead) {
+  // Two IDs of which a letter was lost look alike and need not be one.
+  patient.setMaternalIDString("M\xEF\xBF\xBD-1");
+  Findings unreadable = findings("1", 60.9, 0);
+  unreadable.patientID = "M\xEF\xBF\xBD-1";
+  EXPECT_THAT(refusal(unreadable), HasSubstr("characters that cannot be read"));
+  model::PatientRecord blank;
+  blank.setNumberOfFetuses(1);
+  EXPECT_TRUE(
+      std::holds_alternative<std::string>(exchange::storeFindings(unreadable, {}, true, calendar, blank)));
+}
+
+TEST_F(ADocument, isToldThatAReportSpeaksOfOtherTwins) {
+  Findings ofThree = findings("1", 60.9, 0);
+  ofThree.numberOfFetuses = 3;
+  EXPECT_THAT(store(ofThree), ElementsAre("the number of fetuses stays 2; the report says 3"));
+}
+
 TEST_F(ADocument, withoutAPatientTakesNothingUnlessTheIdIsTyped) {
   patient.setMaternalIDString(" ");
   EXPECT_THAT(refusal(findings("1", 60.9, 0)), HasSubstr("document names no patient"));

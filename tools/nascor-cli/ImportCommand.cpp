@@ -1,6 +1,8 @@
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <filesystem>
+#include <set>
 #include <system_error>
 
 #include "calc/EditingBounds.h"
@@ -8,10 +10,12 @@
 #include "cli_commands/DocumentFile.h"
 #include "cli_commands/Documents.h"
 #include "cli_commands/Input.h"
+#include "exchange/DecimalText.h"
 #include "exchange/Findings.h"
 #include "exchange/FindingsJson.h"
 #include "exchange/Storing.h"
 #include "foundation/JsonText.h"
+#include "foundation/Utf8.h"
 #include "model/PatientFile.h"
 #include "posix/PosixCalendar.h"
 #include "reports/Reports.h"
@@ -33,9 +37,21 @@ std::pair<std::string, std::int64_t> fetusPlaceIn(const std::string& text) {
   return {text.substr(0, equals), place - 1};
 }
 
+/// The reference ID that was typed, as a document keeps it; nothing where none was.
+std::optional<std::string> patientIn(const Arguments& arguments) {
+  const auto typed = arguments.option("patient");
+  if (!typed) return std::nullopt;
+  const std::string id(exchange::withoutBlanks(*typed));
+  if (id.empty()) throw UsageError("--patient takes a reference ID, and an empty one is none");
+  const bool hasControls = std::ranges::any_of(id, [](unsigned char c) { return c < ' ' || c == 0x7F; });
+  if (!foundation::isValidUtf8(id) || hasControls)
+    throw UsageError("--patient takes a reference ID of UTF-8 text in one line");
+  return id;
+}
+
 exchange::Confirmation confirmationIn(const Arguments& arguments) {
   exchange::Confirmation confirmation{
-      .patientID = arguments.option("patient"), .fetusPlaces = {}, .takeEDD = arguments.has("edd")};
+      .patientID = patientIn(arguments), .fetusPlaces = {}, .takeEDD = arguments.has("edd")};
   const auto fetuses = arguments.repeated.find("fetus");
   if (fetuses == arguments.repeated.end()) return confirmation;
   for (const std::string& text : fetuses->second) {
@@ -52,25 +68,49 @@ struct Found {
   std::vector<exchange::Findings> findings;
 };
 
+/// What was read.
+struct FoundInAll {
+  std::vector<Found> files;
+  bool isWhole = true;  ///< every file could be read
+};
+
 /// The findings of every file that can be read, printed as they come.
-std::vector<Found> findAndPrint(const std::vector<std::string>& files, Console& console) {
-  std::vector<Found> all;
+FoundInAll findAndPrint(const std::vector<std::string>& files, Console& console) {
+  FoundInAll found;
+  std::vector<Found>& all = found.files;
   for (const std::string& file : files) {
     const auto bytes = contentsOf(file, console);
-    if (!bytes) continue;
-    auto found = reports::findingsIn(*bytes);
-    if (const auto* sentences = std::get_if<std::vector<std::string>>(&found)) {
-      for (const std::string& why : *sentences) console.complain(nameOf(file), why);
+    if (!bytes) {
+      found.isWhole = false;
       continue;
     }
-    all.push_back({file, std::move(std::get<0>(found))});
+    auto reports = reports::findingsIn(*bytes);
+    if (const auto* sentences = std::get_if<std::vector<std::string>>(&reports)) {
+      for (const std::string& why : *sentences) console.complain(nameOf(file), why);
+      found.isWhole = false;
+      continue;
+    }
+    all.push_back({file, std::move(std::get<0>(reports))});
     for (const exchange::Findings& findings : all.back().findings) {
       foundation::JsonText json(console.out());
       exchange::writeFindingsJson(json, file, findings);
       console.lineDone();
     }
   }
-  return all;
+  return found;
+}
+
+/// Why files do not go into one document together: they name different patients. Each is of one.
+std::optional<std::string> severalPatients(const std::vector<Found>& all) {
+  std::set<std::string> named;
+  for (const Found& found : all) {
+    const auto first = std::ranges::find_if(
+        found.findings, [](const exchange::Findings& findings) { return findings.patientID.has_value(); });
+    if (first != found.findings.end()) named.insert(*first->patientID);
+  }
+  if (named.size() < 2) return std::nullopt;
+  return "is of patient \"" + *named.rbegin() + "\", others are of \"" + *named.begin() +
+         "\"; nothing is stored. Please import those of each patient alone";
 }
 
 /// What findings are stored in, and what its file holds.
@@ -117,6 +157,10 @@ void store(const std::vector<Found>& all, const Arguments& arguments, Console& c
   if (!stored || all.empty()) return;
   model::PatientRecord& patient = *stored->document.patient;
 
+  if (const auto why = severalPatients(all)) {
+    console.complain(nameOf(all.back().file), *why);
+    return;
+  }
   bool isNew = isNewDocument;
   bool isRefused = false;
   std::vector<std::pair<std::string, std::string>> warnings;
@@ -157,8 +201,9 @@ void runImport(const Arguments& arguments, Console& console) {
   // What is wrong with it is said before anything is printed.
   static_cast<void>(confirmationIn(arguments));
 
-  const std::vector<Found> all = findAndPrint(arguments.operands, console);
-  if (isStored) store(all, arguments, console);
+  const FoundInAll found = findAndPrint(arguments.operands, console);
+  // Of several files that belong together all are stored, or none.
+  if (isStored && found.isWhole) store(found.files, arguments, console);
 }
 
 }  // namespace

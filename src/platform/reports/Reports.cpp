@@ -3,12 +3,16 @@
 #include <algorithm>
 #include <filesystem>
 #include <iterator>
+#include <optional>
 #include <string_view>
 #include <utility>
 
 #include "exchange/FhirReader.h"
+#include "exchange/OutgoingExamination.h"
 #include "exchange/TableFindings.h"
+#include "model/PatientJsonReader.h"
 #include "posix/Module.h"
+#include "posix/PosixCalendar.h"
 
 namespace nascor::reports {
 
@@ -27,6 +31,20 @@ bool isObject(std::string_view text) {
 bool isDicom(std::string_view text) {
   constexpr std::size_t kPreamble = 128;
   return text.size() > kPreamble && text.substr(kPreamble).starts_with("DICM");
+}
+
+/// The examinations of a document in JSON, each as the report that holds the same; nothing for other JSON.
+std::optional<std::vector<exchange::StructuredReport>> reportsOfOwnJson(std::string_view text) {
+  const posix::PosixCalendar calendar;
+  try {
+    const auto read = model::patientFromJson(text, calendar);
+    std::vector<exchange::StructuredReport> reports;
+    for (const auto& examination : exchange::outgoingExaminations(*read.patient, calendar))
+      reports.push_back(exchange::reportOf(examination));
+    return reports.empty() ? std::nullopt : std::optional(std::move(reports));
+  } catch (const model::JsonDocumentError&) {
+    return std::nullopt;
+  }
 }
 
 }  // namespace
@@ -53,6 +71,9 @@ std::variant<std::vector<exchange::StructuredReport>, std::string> reportsIn(
     std::span<const std::byte> bytes) {
   const std::string_view text = textOf(bytes);
   if (isObject(text)) return exchange::reportsInBundle(text);
+  if (!isDicom(text))
+    return "is no report that is read: no DICOM file, no FHIR bundle, and no table whose first line names "
+           "exam_date and lengths such as bpd_mm, with commas between";
 
   const auto files = reportFiles();
   if (const auto* why = std::get_if<std::string>(&files)) return "cannot be read: " + *why;
@@ -70,7 +91,11 @@ std::variant<std::vector<exchange::Findings>, std::vector<std::string>> findings
     if (auto found = exchange::findingsInTable(text)) return std::move(*found);
   }
   auto reports = reportsIn(bytes);
-  if (auto* why = std::get_if<std::string>(&reports)) return std::vector{std::move(*why)};
+  if (auto* why = std::get_if<std::string>(&reports)) {
+    auto own = isObject(text) ? reportsOfOwnJson(text) : std::nullopt;
+    if (!own) return std::vector{std::move(*why)};
+    reports = std::move(*own);
+  }
   std::vector<exchange::Findings> all;
   for (const exchange::StructuredReport& report : std::get<0>(reports)) {
     auto findings = exchange::findingsIn(report);

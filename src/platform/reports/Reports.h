@@ -28,8 +28,8 @@ bool isReport(std::span<const std::byte> bytes);
 std::variant<std::vector<exchange::StructuredReport>, std::string> reportsIn(
     std::span<const std::byte> bytes);
 
-/// The findings in the bytes of one file, one for each examination: of its reports, or of what begins like a CSV table of
-/// examinations; or why there are none, in sentences, for a table one for each row that does not fit.
+/// The findings in the bytes of one file, one for each examination: of its reports, of a document in JSON, or of what begins
+/// like a CSV table of examinations; or why there are none, in sentences, for a table one for each row that does not fit.
 std::variant<std::vector<exchange::Findings>, std::vector<std::string>> findingsIn(
     std::span<const std::byte> bytes);
 

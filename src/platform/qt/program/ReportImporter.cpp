@@ -53,7 +53,10 @@ void ReportImporter::importFetched(std::span<const std::vector<std::byte>> files
       std::ranges::move(*findings, std::back_inserter(all.findings));
     } else {
       for (const std::string& why : std::get<1>(found))
-        all.failures.push_back(services_.localizer.text("ReportImport", "A fetched file") + ": " + why + ".");
+        all.failures.push_back(
+            foundation::format(services_.localizer.text("ReportImport", "Fetched report %ld"),
+                               {&file - files.data() + 1}) +
+            ": " + why + ".");
     }
   }
   import(std::move(all), &document);

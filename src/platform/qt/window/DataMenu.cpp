@@ -34,10 +34,15 @@ void DataMenu::exportData(NCDocument& document) {
   const auto path = fileToWrite(
       window_, said("DataMenu", "Export Data"),
       {{.filter = said("DataMenu", "Table for spreadsheets (*.csv)"), .suffix = QStringLiteral("csv")},
-       {.filter = said("DataMenu", "JSON (*.json)"), .suffix = QStringLiteral("json")}},
+       {.filter = said("DataMenu", "JSON (*.json)"), .suffix = QStringLiteral("json")},
+       {.filter = said("DataMenu", "FHIR bundle for health records (*.fhir.json)"),
+        .suffix = QStringLiteral("fhir.json")},
+       {.filter = said("DataMenu", "DICOM report of this examination (*.dcm)"),
+        .suffix = QStringLiteral("dcm")}},
       environment_.services.files.documentsFolder(), document.dataFileName(""));
   if (!path) return;
-  if (const auto sentence = document.exportData(QFile::encodeName(*path).toStdString())) {
+  if (const auto sentence =
+          document.exportData(QFile::encodeName(*path).toStdString(), environment_.reportFiles)) {
     environment_.alerts.tell(toUtf8(said("DataMenu", "The data were not exported.")), *sentence);
     return;
   }

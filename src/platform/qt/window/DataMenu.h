@@ -16,6 +16,7 @@ struct DataEnvironment {
   foundation::Services services;
   framework::Alerts& alerts;
   Perform perform;
+  app::NCDocument::FindReportFiles reportFiles;
 };
 
 /// The item of a window's File menu that puts the patient's numbers into a file for other programs.

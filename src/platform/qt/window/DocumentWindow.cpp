@@ -219,7 +219,8 @@ void DocumentWindow::bindActions() {
   new DataMenu(*this, *ui_->fileMenu, ui_->closeAction,
                {.services = environment_.services,
                 .alerts = environment_.alerts,
-                .perform = [this](const DocumentAction& action) { perform(action); }});
+                .perform = [this](const DocumentAction& action) { perform(action); },
+                .reportFiles = environment_.reportFiles});
   new SummaryMenu(*this, *ui_->fileMenu, ui_->closeAction,
                   {.services = environment_.services,
                    .alerts = environment_.alerts,

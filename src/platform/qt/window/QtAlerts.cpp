@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QTextDocument>
 #include <algorithm>
 
 #include "base/Mnemonics.h"
@@ -39,7 +40,9 @@ void setUp(QMessageBox& box, const std::string& message, const std::string& info
   box.setWindowTitle(QCoreApplication::applicationName());
   box.setTextFormat(Qt::PlainText);
   box.setText(linesOf(message));
-  box.setInformativeText(linesOf(information));
+  // Its format is not that of the text above: it would take what a file says for HTML.
+  const QString plain = linesOf(information);
+  box.setInformativeText(Qt::mightBeRichText(plain) ? Qt::convertFromPlainText(plain) : plain);
 }
 
 /// A button that a letter of its own presses too.
