@@ -89,12 +89,10 @@ void CorvelDocument::removeExamination() {
 }
 
 bool CorvelDocument::opensDocumentOf(const std::string& referenceID, const std::string& name, bool ask) {
-  for (const foundation::FileEntry& file : documentsOfPatient(referenceID, name)) {
-    if (ask && !userOpens(file)) continue;
+  return std::ranges::any_of(documentsOfPatient(referenceID, name), [&](const foundation::FileEntry& file) {
     // This document is gone once the other has taken its place.
-    if (environment_.controller.replaceDocument(*this, file.path)) return true;
-  }
-  return false;
+    return (!ask || userOpens(file)) && environment_.controller.replaceDocument(*this, file.path);
+  });
 }
 
 void CorvelDocument::lookUp(const std::string& name, bool ask) {

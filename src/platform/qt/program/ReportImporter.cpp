@@ -21,7 +21,8 @@ bool ReportImporter::isReport(const QString& path) const {
   if (!file.open(QIODevice::ReadOnly)) return false;
   constexpr qint64 kBeginning = 4096;
   const QByteArray beginning = file.read(kBeginning);
-  return reports::isReport(std::as_bytes(std::span(beginning.constData(), beginning.size())));
+  return reports::isReport(
+      std::as_bytes(std::span(beginning.constData(), static_cast<std::size_t>(beginning.size()))));
 }
 
 NCDocument& ReportImporter::documentFor(const std::vector<exchange::Findings>& reports) {

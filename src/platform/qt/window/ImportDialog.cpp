@@ -117,7 +117,8 @@ class ImportDialog::Model final : public QAbstractTableModel {
   ReportImport& import_;
 };
 
-ImportDialog::ImportDialog(ReportImport& import, QWidget* parent) : QDialog(parent), import_(import) {
+ImportDialog::ImportDialog(ReportImport& import, QWidget* parent)
+    : QDialog(parent), import_(import), obstacle_(new QLabel) {
   setObjectName(QStringLiteral("importDialog"));
   setWindowTitle(said("ImportDialog", "Import Report"));
   auto* layout = new QVBoxLayout(this);
@@ -125,7 +126,6 @@ ImportDialog::ImportDialog(ReportImport& import, QWidget* parent) : QDialog(pare
   addFetuses(*layout);
   addTable(*layout);
 
-  obstacle_ = new QLabel;
   obstacle_->setObjectName(QStringLiteral("importObstacle"));
   obstacle_->setTextFormat(Qt::PlainText);
   obstacle_->setWordWrap(true);

@@ -40,7 +40,7 @@ class ImportDialog final : public QDialog {
   app::ReportImport& import_;
   Model* model_ = nullptr;
   QTableView* table_ = nullptr;
-  QLabel* obstacle_ = nullptr;
+  QLabel* obstacle_;
   QPushButton* ok_ = nullptr;
 };
 

@@ -78,7 +78,6 @@ struct Fields {
     host = line("serverHost", kHost);
     serverTitle = line("serverTitle", kServerTitle);
     ownTitle = line("serverOwnTitle", kOwnTitle, "NASCOR");
-    port = new QSpinBox;
     port->setObjectName(QStringLiteral("serverPort"));
     port->setRange(1, kLastPort);
     const int kept = fromUtf8(valueOf(defaults, kPort)).toInt();
@@ -117,7 +116,7 @@ struct Fields {
   }
 
   QLineEdit* host;
-  QSpinBox* port;
+  QSpinBox* port = new QSpinBox;
   QLineEdit* serverTitle;
   QLineEdit* ownTitle;
   QCheckBox* encrypted;
