@@ -89,7 +89,7 @@ void ReportImport::findPatient() {
     if (reportedID_.empty()) reportedID_ = id;
   }
   const bool takesPatient = isNew_ && documentID_.empty();
-  // What is new takes the patient of its reports. Of several, those that name nobody may be of another.
+  // A new document takes the ID of its reports. Among several reports, one without an ID may be of another patient.
   const std::string& expected = takesPatient ? reportedID_ : documentID_;
   for (const Findings& report : reports_) {
     switch (exchange::patientDoubt(report, takesPatient && reports_.size() == 1, expected)) {

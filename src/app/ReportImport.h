@@ -26,7 +26,7 @@ class ReportImport {
     std::string id;  ///< empty for one without an ID
     std::string name;
     std::optional<std::int64_t>
-        place;  ///< which fetus of the document it is, from 0; nothing while nobody knows
+        place;  ///< which fetus of the document it is, from 0; nothing until it is known or chosen
     bool isLeftOut = false;
   };
 
@@ -56,7 +56,7 @@ class ReportImport {
   /// The text in edit has reached the records of `document`, which outlives this.
   ReportImport(NCDocument& document, std::vector<exchange::Findings> reports);
 
-  /// The patient as the reports name her, and as the document does; empty for nobody.
+  /// The reference ID in the reports, and the one in the document; empty where there is none.
   const std::string& reportedID() const { return reportedID_; }
   const std::string& documentID() const { return documentID_; }
   /// Why the reports may be of another patient; empty where they are of this one.

@@ -7,7 +7,6 @@
 #include <QSpinBox>
 #include <QTableWidget>
 #include <atomic>
-#include <thread>
 
 #include "WindowTest.h"
 #include "window/ServerSettings.h"
@@ -31,10 +30,15 @@ class FakeServer final : public exchange::ReportServer {
   std::vector<std::string> asked;
   std::vector<std::string> sent;
   std::atomic<bool> isSlow = false;
+  /// Lets a question that waits go on.
+  void hurry() {
+    isSlow = false;
+    isSlow.notify_all();
+  }
 
  private:
   void note(const char* what, const ServerAddress& address, const std::string& more = "") {
-    while (isSlow) std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    isSlow.wait(true);
     asked.push_back(std::string(what) + " " + address.host + " " + more);
   }
   std::optional<std::string> doEcho(const ServerAddress& address) override {
@@ -98,7 +102,7 @@ class TheServerMenu : public WindowTest {
                  imported.emplace_back(reinterpret_cast<const char*>(each.data()), each.size());
              }});
   }
-  ~TheServerMenu() override { server.isSlow = false; }
+  ~TheServerMenu() override { server.hurry(); }
 
   QAction& item(const char* name) {
     for (QAction* each : menu.actions()) {
@@ -277,7 +281,7 @@ TEST_F(TheServerMenu, needNotBeWaitedFor) {
   thenAskFor("AB-123");
   then<QProgressDialog>([](QProgressDialog& progress) { progress.findChild<QPushButton*>()->click(); });
   item("fetchReportsAction").trigger();
-  server.isSlow = false;
+  server.hurry();
 }
 
 TEST_F(TheServerMenu, saysWhereNothingSpeaksToServers) {

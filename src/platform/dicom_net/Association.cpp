@@ -16,7 +16,7 @@ namespace nascor::dicom_net {
 
 namespace {
 
-/// All was said before, and a server that does not answer to a goodbye keeps nobody waiting.
+/// How long a server has to answer the end of a connection. The work is done by then, so its answer is not needed.
 constexpr std::chrono::milliseconds kGoodbye{1000};
 /// As long as it takes to send the message that a connection is broken off.
 constexpr std::chrono::milliseconds kBreakOff{100};

@@ -125,7 +125,7 @@ class SecureLayer final : public DcmTransportLayer {
   std::string prepare(const exchange::TlsSettings& settings, const std::string& host) {
     SSL_CTX* context = tls_.getNativeHandle();
     if (context == nullptr) return "encrypted connections are not there: OpenSSL does not begin";
-    // TLS 1.2 and later, with keys that are forgotten and texts that nobody changes on their way.
+    // TLS 1.2 and later, with ephemeral keys (forward secrecy) and AEAD ciphers, which detect changes on the way.
     if (SSL_CTX_set_min_proto_version(context, TLS1_2_VERSION) != 1 ||
         SSL_CTX_set_cipher_list(context, "ECDHE+AESGCM:ECDHE+CHACHA20:DHE+AESGCM") != 1)
       return "encrypted connections are not there: OpenSSL has none of their ciphers";

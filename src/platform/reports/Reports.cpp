@@ -27,7 +27,7 @@ bool isObject(std::string_view text) {
   return first != std::string_view::npos && text[first] == '{';
 }
 
-/// PS3.10: 128 bytes for whoever wants them, then this.
+/// A DICOM file (PS3.10) begins with a preamble of 128 bytes, which readers ignore, and the prefix "DICM".
 bool isDicom(std::string_view text) {
   constexpr std::size_t kPreamble = 128;
   return text.size() > kPreamble && text.substr(kPreamble).starts_with("DICM");

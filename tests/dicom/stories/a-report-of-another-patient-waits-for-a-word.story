@@ -20,7 +20,7 @@ The worst that an import can do is to put one patient's lengths into another's d
 {"state":true}
 =~ {"fields":{"referenceIDField":"AB-123","bpdField":"60.9"}}
 
-Nor is it taken where either names nobody.
+The user must also confirm the patient where the report or the document has no reference ID.
 
 {"import":["$REPORTS/no-patient.dcm"]}
 =~ {"doubt":"The report does not say of which patient it is.","obstacle":"Please say whether the report is of this patient."}

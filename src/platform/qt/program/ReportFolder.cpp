@@ -105,7 +105,7 @@ void ReportFolder::take(const QString& path, const QString& mark) {
   if (!file.open(QIODevice::ReadOnly)) return;
   const QByteArray bytes = file.readAll();
   const auto contents = std::as_bytes(std::span(bytes.constData(), static_cast<std::size_t>(bytes.size())));
-  // What is no report, or none of a pregnancy, is nobody's business here.
+  // Known, so not read again, unless it turns out below to be an obstetric report.
   known_.insert(mark);
   if (!reports::isReport(contents)) return;
   const std::string name = QFile::encodeName(path).toStdString();

@@ -10,7 +10,7 @@ class QWidget;
 
 namespace nascor::qt {
 
-/// Reports that have come into the folder that is watched, and that nobody has looked at yet.
+/// The reports in the watched folder that the user has neither imported nor set aside.
 class WaitingReports {
  public:
   struct Report {
