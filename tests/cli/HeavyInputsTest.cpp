@@ -161,7 +161,10 @@ TEST(AMebibyteOfRows, isReadOrRefusedAtOnceAsATableOfExaminations) {
       {header + std::string(kMebibyte, ',') + "\n2026-11-13,60\n", 1},
       {header + "\n2026-11-13," + std::string(kMebibyte, ',') + "\n", 1},
       {header + "\n2026-11-13,\"" + std::string(kMebibyte, 'x') + "\"\n", 1}};
-  for (const auto& [table, outcome] : tables) {
+  for (const auto& row : tables) {
+    // No structured binding: clang 14 lets no lambda capture one.
+    const std::string& table = row.first;
+    const std::size_t outcome = row.second;
     expectQuick(table.substr(0, 80),
                 [&] { EXPECT_EQ(reports::findingsIn(std::as_bytes(std::span(table))).index(), outcome); });
   }
