@@ -41,15 +41,3 @@ function(add_layer_test layer)
     pin_tests("${layer}@${zone}" ZONE ${zone} LABELS core)
   endforeach()
 endfunction()
-
-# add_test_headers(NAME header... LINKS library...): headers that many test programs read, compiled once. A program takes
-# them by `target_precompile_headers(program REUSE_FROM NAME)`, and must be compiled with the same options.
-function(add_test_headers name)
-  cmake_parse_arguments(HEADERS "" "" "LINKS" ${ARGN})
-  file(CONFIGURE OUTPUT "${CMAKE_CURRENT_BINARY_DIR}/${name}.cpp" CONTENT "" @ONLY)
-  add_library(${name} OBJECT "${CMAKE_CURRENT_BINARY_DIR}/${name}.cpp")
-  target_link_libraries(${name} PRIVATE nascor_options GTest::gmock Threads::Threads ${HEADERS_LINKS})
-  target_precompile_headers(${name} PRIVATE ${HEADERS_UNPARSED_ARGUMENTS})
-  # A cache of compilations brings the compiled headers back with another time.
-  target_compile_options(${name} PRIVATE "$<$<CXX_COMPILER_ID:Clang>:SHELL:-Xclang -fno-pch-timestamp>")
-endfunction()

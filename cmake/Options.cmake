@@ -28,14 +28,14 @@ endif()
 
 if(NASCOR_FUZZ)
   if(NOT CMAKE_CXX_COMPILER_ID MATCHES "Clang")
-    message(FATAL_ERROR "The fuzzers need clang: cmake --preset asan-ubsan")
+    message(FATAL_ERROR "The fuzzers need clang: cmake --preset checked")
   endif()
 endif()
 
 if(NASCOR_COVERAGE)
   if(NOT CMAKE_CXX_COMPILER_ID MATCHES "Clang")
     # gcc counts the edges of exceptions as branches, most of which no test can take.
-    message(FATAL_ERROR "Source coverage needs clang: cmake --preset coverage")
+    message(FATAL_ERROR "Counting lines needs clang: cmake --preset checked")
   endif()
   # LLVM_PROFILE_FILE says where profiles go, and without it they go nowhere. The place that is compiled in is a whole path:
   # a cache of compilations would take one within the build folder for a reason to compile again in another checkout.

@@ -137,7 +137,8 @@ class SecureLayer final : public DcmTransportLayer {
       tls_.setPrivateKeyPasswd("");
       if (tls_.setPrivateKeyFile(settings.keyFile.c_str(), DCF_Filetype_PEM).bad())
         return settings.keyFile + " holds no key in PEM that can be read without a password";
-      if (tls_.setCertificateFile(settings.certificateFile.c_str(), DCF_Filetype_PEM).bad())
+      // Not by DCMTK, which loses the certificate's key each time; and this takes those of authorities between, too.
+      if (SSL_CTX_use_certificate_chain_file(context, settings.certificateFile.c_str()) != 1)
         return settings.certificateFile + " holds no certificate in PEM that can be read";
       if (!tls_.checkPrivateKeyMatchesCertificate())
         return settings.keyFile + " is not the key of " + settings.certificateFile;
