@@ -1,6 +1,7 @@
 // A walk over everything that is shown: in light and dark, with texts as they are and with longer ones.
 #include <QDialog>
 #include <QDir>
+#include <QFileDialog>
 #include <QFontInfo>
 #include <QHeaderView>
 #include <QMenu>
@@ -12,6 +13,8 @@
 #include <QTranslator>
 
 #include "WindowTest.h"
+#include "exchange/FhirBundle.h"
+#include "exchange/OutgoingExamination.h"
 
 namespace nascor::tests {
 namespace {
@@ -244,22 +247,41 @@ TEST_P(EveryWidget, ofTheCompareWindowHasItsRoomAndCanBeRead) {
   compare->close();
 }
 
-TEST_P(EveryWidget, ofTheDetailsOfASummaryHasItsRoomAndCanBeRead) {
-  open(twins());
-  bool wasSeen = false;
-  QTimer timer;
-  QObject::connect(&timer, &QTimer::timeout, [&] {
-    auto* details = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-    if (!details || wasSeen) return;
-    wasSeen = true;
+TEST_P(EveryWidget, ofTheDialogsThatHoldTheWindowHasItsRoomAndCanBeRead) {
+  model::PatientRecord patient = twins();
+  const QString report =
+      file(QStringLiteral("report.json"),
+           QByteArray::fromStdString(exchange::writeFhir(
+               exchange::outgoingExaminations(patient, platform.calendar), exchange::FhirForm::bundle)));
+  // In the document of another patient, the dialog says why it waits.
+  patient.setMaternalIDString("ZZ-999");
+  open(patient);
+  for (const auto& [trigger, picture] :
+       {std::pair("summaryDetailsAction", "summary-details"),
+        std::pair("serverSettingsAction", "server-settings"), std::pair("importReportAction", "import")}) {
+    SCOPED_TRACE(picture);
+    bool wasSeen = false;
+    QTimer timer;
+    const auto look = [&, name = picture] {
+      auto* shown = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+      if (!shown || wasSeen) return;
+      if (auto* panel = qobject_cast<QFileDialog*>(shown)) {
+        panel->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(report);
+        QTest::keyClick(panel, Qt::Key_Return);
+        return;
+      }
+      wasSeen = true;
+      settle();
+      walk(*shown);
+      keep(*shown, name);
+      QTest::keyClick(shown, Qt::Key_Escape);
+    };
+    QObject::connect(&timer, &QTimer::timeout, look);
+    timer.start(1);
+    action(trigger).trigger();
     settle();
-    walk(*details);
-    keep(*details, "summary-details");
-    QTest::keyClick(details, Qt::Key_Escape);
-  });
-  timer.start(1);
-  action("summaryDetailsAction").trigger();
-  EXPECT_TRUE(wasSeen);
+    EXPECT_TRUE(wasSeen);
+  }
 }
 
 TEST_P(EveryWidget, ofAnOverlaidPageCanBeRead) {
