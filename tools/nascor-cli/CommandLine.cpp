@@ -28,7 +28,10 @@ std::string usageOf(const Command& command) {
          std::string(command.usage) + "\n";
 }
 
-std::string usage() { return "usage: " + std::string(kProgram) + " COMMAND [ARGUMENT...]\n"; }
+std::string usage() {
+  const GeneralHelp general = generalHelp();
+  return "usage: " + std::string(general.program) + " " + std::string(general.usage) + "\n";
+}
 
 std::string padded(std::string text, std::size_t width) {
   if (text.size() < width) text.append(width - text.size(), ' ');
@@ -51,17 +54,19 @@ std::string version() {
 }
 
 std::string help() {
+  const GeneralHelp general = generalHelp();
   std::vector<std::pair<std::string, std::string_view>> terms;
   for (const Command& command : commands()) terms.emplace_back(command.name, command.summary);
-  terms.emplace_back("help", "this text; help COMMAND explains one command");
-  return usage() + "\nObstetric ultrasound biometry for shells and scripts.\n" +
-         std::string(kNotAMedicalDevice) + "\n\nCommands:\n" + listed(terms) + "\nOptions:\n" +
-         listed({{"--help, -h", "this text; behind a command, that command's help"},
-                 {"--version", "the version of the program"},
-                 {"--", "what follows is no option"}}) +
-         "\nLengths are in millimetres, weights in grams, ages in weeks after the last menstrual period.\n"
-         "A FILE or a value of - is standard input. No question is ever asked.\n"
-         "Exit status: 0 all well, 1 some input was bad, 2 wrong usage.\n";
+  terms.emplace_back("help", general.helpOfHelp);
+  std::vector<std::pair<std::string, std::string_view>> options;
+  for (const auto& [names, meaning] : general.options) {
+    std::string term;
+    for (const std::string_view name : names) term.append(term.empty() ? "" : ", ").append(name);
+    options.emplace_back(term, meaning);
+  }
+  return usage() + "\n" + std::string(general.summary) + "\n" + std::string(kNotAMedicalDevice) +
+         "\n\nCommands:\n" + listed(terms) + "\nOptions:\n" + listed(options) + "\n" +
+         std::string(general.rules);
 }
 
 std::string helpOn(const Command& command) {
@@ -232,6 +237,20 @@ std::string placeOf(const foundation::SourceLocation& where) {
 }
 
 }  // namespace
+
+GeneralHelp generalHelp() {
+  return {.program = kProgram,
+          .usage = "COMMAND [ARGUMENT...]",
+          .summary = "Obstetric ultrasound biometry for shells and scripts.",
+          .rules =
+              "Lengths are in millimetres, weights in grams, ages in weeks after the last menstrual period.\n"
+              "A FILE or a value of - is standard input. No question is ever asked.\n"
+              "Exit status: 0 all well, 1 some input was bad, 2 wrong usage.\n",
+          .helpOfHelp = "this text; help COMMAND explains one command",
+          .options = {{{"--help", "-h"}, "this text; behind a command, that command's help"},
+                      {{"--version"}, "the version of the program"},
+                      {{"--"}, "what follows is no option"}}};
+}
 
 int runCommandLine(int argc, char** argv) {
   Console console;

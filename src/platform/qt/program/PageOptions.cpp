@@ -45,8 +45,8 @@ std::optional<QString> writeToStandardOutput(const QByteArray& bytes) {
 
 }  // namespace
 
-void PageOptions::addTo(QCommandLineParser& parser) const {
-  parser.addOptions({folder_, format_, pages_, fetus_, noFoot_, overlay_, joinMarks_, noClobber_, quiet_});
+QList<QCommandLineOption> PageOptions::all() const {
+  return {folder_, format_, pages_, fetus_, noFoot_, overlay_, joinMarks_, noClobber_, quiet_};
 }
 
 std::optional<PageExport> PageOptions::read(const QCommandLineParser& parser, QString& error) const {

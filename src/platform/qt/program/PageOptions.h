@@ -3,6 +3,7 @@
 #include <QCommandLineOption>
 #include <QCommandLineParser>
 #include <QCoreApplication>
+#include <QList>
 #include <optional>
 
 #include "program/PageExport.h"
@@ -12,7 +13,8 @@ namespace nascor::qt {
 /// The options of a command line that say which pages of the documents are to become files.
 class PageOptions {
  public:
-  void addTo(QCommandLineParser& parser) const;
+  /// In the order of help.
+  QList<QCommandLineOption> all() const;
   bool areGiven(const QCommandLineParser& parser) const { return parser.isSet(folder_); }
   bool arePathsWanted(const QCommandLineParser& parser) const {
     return !parser.isSet(quiet_) && !isForStandardOutput(parser);

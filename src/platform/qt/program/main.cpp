@@ -1,5 +1,4 @@
 #include <fontconfig/fontconfig.h>
-#include <QCommandLineParser>
 #include <QFile>
 #include <QFileInfo>
 #include <QLocale>
@@ -27,8 +26,8 @@
 #include "program/Application.h"
 #include "program/ApplicationIcon.h"
 #include "program/DocumentApplication.h"
-#include "program/PageOptions.h"
 #include "program/Platform.h"
+#include "program/ProgramOptions.h"
 #include "window/QtViewer.h"
 
 using namespace nascor;
@@ -53,34 +52,11 @@ bool hasArgument(std::span<char*> arguments, std::initializer_list<std::string_v
   });
 }
 
-/// The options of the program, and what was typed.
-struct CommandLine {
-  CommandLine() {
-    parser.setApplicationDescription(
-        QCoreApplication::translate("main", "Obstetric ultrasound biometry.\n%1").arg(disclaimer()));
-    parser.addOptions({help, version, service, watch});
-    pages.addTo(parser);
-    parser.addPositionalArgument("file", QCoreApplication::translate("main", "Documents to open."),
-                                 "[FILE...]");
-  }
-
-  QCommandLineParser parser;
-  const QCommandLineOption help{{"h", "help"}, QCoreApplication::translate("main", "Shows this help.")};
-  const QCommandLineOption version{{"v", "version"},
-                                   QCoreApplication::translate("main", "Shows the version.")};
-  const PageOptions pages;
-  const QCommandLineOption watch{
-      "watch", QCoreApplication::translate("main", "Offers the reports that machines put into this folder."),
-      "FOLDER"};
-  const QCommandLineOption service{
-      "service", QCoreApplication::translate("main", "Shows no window until the session bus asks for one.")};
-};
-
 /// What the program answers without a window; nothing when it is to go on.
-std::optional<int> answerAtOnce(CommandLine& line, const QStringList& arguments) {
+std::optional<int> answerAtOnce(ProgramOptions& line, const QStringList& arguments) {
   if (!line.parser.parse(arguments)) {
     printLine(stderr, line.parser.errorText());
-    printLine(stderr, QStringLiteral("usage: nascor [--write-pages FOLDER | --watch FOLDER] [FILE...]"));
+    printLine(stderr, QStringLiteral("usage: nascor %1").arg(ProgramOptions::kUsage));
     return kWrongUsage;
   }
   if (line.parser.isSet(line.help)) {
@@ -98,7 +74,7 @@ std::optional<int> answerAtOnce(CommandLine& line, const QStringList& arguments)
 bool areOurOwn(std::span<char*> arguments) {
   QStringList texts;
   for (const char* argument : arguments) texts << QString::fromLocal8Bit(argument);
-  return CommandLine().parser.parse(texts);
+  return ProgramOptions().parser.parse(texts);
 }
 
 /// What Qt says while it begins.
@@ -128,7 +104,7 @@ std::optional<int> answerWithQt(std::span<char*> arguments) {
   std::optional<int> status;
   {
     const Application probe(count, copy.data());
-    CommandLine line;
+    ProgramOptions line;
     status = answerAtOnce(line, QCoreApplication::arguments());
   }
   qunsetenv(kPlatform);
@@ -145,7 +121,7 @@ std::optional<int> chooseDisplay(std::span<char*> arguments) {
   return areOurOwn(arguments) ? std::nullopt : answerWithQt(arguments);
 }
 
-int writePages(const CommandLine& line, const foundation::Services& services) {
+int writePages(const ProgramOptions& line, const foundation::Services& services) {
   QString error;
   const auto wanted = line.pages.read(line.parser, error);
   if (!wanted) {
@@ -199,7 +175,8 @@ Subscriptions followSession(Application& application, DocumentApplication& docum
   return subscriptions;
 }
 
-int showDocuments(Application& application, const CommandLine& line, const foundation::Services& services) {
+int showDocuments(Application& application, const ProgramOptions& line,
+                  const foundation::Services& services) {
   const QStringList files = line.parser.positionalArguments();
   const QString watched = line.parser.value(line.watch);
   if (line.parser.isSet(line.watch) && !QFileInfo(watched).isDir()) {
@@ -259,7 +236,7 @@ int nascorMain(int argc, char** argv) {
 
   installTranslation(QLocale::system().uiLanguages(),
                      QFile::decodeName(resourceFolder().c_str()) + QStringLiteral("/texts"));
-  CommandLine line;
+  ProgramOptions line;
   if (const auto status = answerAtOnce(line, QCoreApplication::arguments())) return *status;
   if (const QString sentence = missingFontSentence(); !sentence.isEmpty()) {
     printLine(stderr, sentence);

@@ -1,0 +1,10 @@
+#pragma once
+
+#include "manual/Program.h"
+
+namespace nascor::manual {
+
+/// nascor, from the options that it reads.
+Program windowProgram();
+
+}  // namespace nascor::manual
