@@ -120,8 +120,10 @@ void ReportImport::confirmPatient(bool isConfirmed) {
 void ReportImport::findFetuses() {
   std::size_t mostOfOneReport = 0;
   std::int64_t mostSaid = 1;
+  bool areAllCounted = true;
   for (const Findings& report : reports_) {
     mostOfOneReport = std::max(mostOfOneReport, report.fetuses.size());
+    areAllCounted = areAllCounted && report.numberOfFetuses;
     mostSaid = std::max<std::int64_t>(mostSaid, report.numberOfFetuses.value_or(1));
     for (const FetusFindings& found : report.fetuses) {
       const std::string id = found.id.value_or("");
@@ -133,8 +135,10 @@ void ReportImport::findFetuses() {
            .place = std::nullopt});
     }
   }
-  count_ = isNew_ ? std::clamp<std::int64_t>(std::max(mostSaid, std::ssize(fetuses_)), calc::kFewestFetuses,
-                                             calc::kMostFetuses)
+  // Reports may name the same twins differently. Only where each says how many there are is that known.
+  const std::size_t seen = areAllCounted ? mostOfOneReport : fetuses_.size();
+  count_ = isNew_ ? std::clamp<std::int64_t>(std::max(mostSaid, static_cast<std::int64_t>(seen)),
+                                             calc::kFewestFetuses, calc::kMostFetuses)
                   : document_.patientRecord()->numberOfFetuses();
   for (const Findings& report : reports_) {
     for (const FetusFindings& found : report.fetuses) {
@@ -411,6 +415,30 @@ void ReportImport::addNotTaken(std::size_t report, const exchange::NotTaken& not
       text(translatable("ReportImport", "is not taken:")) + " " + foundation::shownLine(notTaken.why);
 }
 
+std::string ReportImport::findObstacleOfFetuses(const Findings& report) const {
+  std::vector<const Fetus*> wanted;
+  for (const FetusFindings& found : report.fetuses) {
+    const Fetus& fetus = fetuses_[fetusOf(found)];
+    if (!fetus.isLeftOut) wanted.push_back(&fetus);
+  }
+  if (std::ssize(wanted) > count_) {
+    return foundation::format(
+        text(
+            translatable("ReportImport",
+                         "The report is of %ld fetuses, the document of %ld. Please leave out the others, or "
+                         "cancel and add a fetus.")),
+        {static_cast<long>(wanted.size()), count_});
+  }
+  std::set<std::int64_t> taken;
+  for (const Fetus* fetus : wanted) {
+    if (!fetus->place)
+      return text(translatable("ReportImport", "Please choose for each fetus which one it is."));
+    if (!taken.insert(*fetus->place).second)
+      return text(translatable("ReportImport", "Two fetuses of the report cannot be the same one."));
+  }
+  return {};
+}
+
 std::string ReportImport::findObstacle() const {
   if (areOfSeveralPatients_)
     return text(translatable(
@@ -419,22 +447,8 @@ std::string ReportImport::findObstacle() const {
     return text(translatable("ReportImport", "Please say whether the report is of this patient."));
   if (placeNames().empty())
     return text(translatable("ReportImport", "The document has a number of fetuses that no report fits."));
-  const auto wantedFetuses = std::ranges::count(fetuses_, false, &Fetus::isLeftOut);
-  if (wantedFetuses > count_) {
-    return foundation::format(
-        text(
-            translatable("ReportImport",
-                         "The report is of %ld fetuses, the document of %ld. Please leave out the others, or "
-                         "cancel and add a fetus.")),
-        {wantedFetuses, count_});
-  }
-  std::set<std::int64_t> taken;
-  for (const Fetus& fetus : fetuses_) {
-    if (fetus.isLeftOut) continue;
-    if (!fetus.place)
-      return text(translatable("ReportImport", "Please choose for each fetus which one it is."));
-    if (!taken.insert(*fetus.place).second)
-      return text(translatable("ReportImport", "Two fetuses of the report cannot be the same one."));
+  for (const Findings& report : reports_) {
+    if (std::string obstacle = findObstacleOfFetuses(report); !obstacle.empty()) return obstacle;
   }
   if (!storesAnything_) return text(translatable("ReportImport", "There is nothing to be added."));
   return {};

@@ -93,6 +93,7 @@ class ReportImport {
   /// Stores in a copy of the patient, and says in rows what came of it.
   void foresee();
   std::string findObstacle() const;
+  std::string findObstacleOfFetuses(const exchange::Findings& report) const;
   /// The patient that the reports are stored in.
   std::unique_ptr<model::PatientRecord> patientBefore() const;
   Wanted wantedOf(std::size_t report) const;
