@@ -41,14 +41,8 @@ need_packages() {
   fi
   as_root+=(env DEBIAN_FRONTEND=noninteractive)
   log="$(mktemp "${TMPDIR:-/tmp}/nascor-install-XXXXXX.log")" || fail "Nothing can be written to ${TMPDIR:-/tmp}."
-  # Debian starts this server when it installs it, and with the machine. The tests start their own: it comes only where
-  # the system's can be kept from starting.
-  if [[ " ${missing[*]} " == *" orthanc "* ]] &&
-    ! "${as_root[@]}" systemctl mask orthanc.service >>"$log" 2>&1; then
-    say "Without orthanc, whose service would start here; tests that need it are skipped."
-    mapfile -t missing < <(printf '%s\n' "${missing[@]}" | grep -vx orthanc || true)
-    ((${#missing[@]} > 0)) || { rm -f "$log"; return 0; }
-  fi
+  keep_services_from_starting
+  ((${#missing[@]} > 0)) || { rm -f "$log"; return 0; }
   say "Installing: ${missing[*]}"
   # Another apt may hold the lock. A stale package list still finds most packages, so a failed update alone is no
   # reason to stop; what an interrupted installation left behind would be one.
@@ -62,6 +56,29 @@ need_packages() {
     fail "Installing failed. The whole log is in $log"
   fi
   rm -f "$log"
+}
+
+# services_of PACKAGE: the services that Debian starts when it installs this package, and with the machine from then on.
+services_of() {
+  case "$1" in
+    munge | orthanc | postgresql) say "$1.service" ;;
+    slurm-wlm) say slurmctld.service slurmd.service ;;
+  esac
+}
+
+# For need_packages: masks the services of what is `missing`, before it is installed; the tests start servers of their own. What
+# cannot be kept from starting is not installed.
+keep_services_from_starting() {
+  local package services kept=()
+  for package in "${missing[@]}"; do
+    read -r -a services < <(services_of "$package") || services=()
+    if ((${#services[@]} == 0)) || "${as_root[@]}" systemctl mask "${services[@]}" >>"$log" 2>&1; then
+      kept+=("$package")
+    else
+      say "Without $package, whose service would start here; tests that need it are skipped."
+    fi
+  done
+  missing=("${kept[@]}")
 }
 
 # cause_in LOG: says what from outside made a command fail, if it was that.

@@ -77,6 +77,32 @@ expect "It is that service" grep -qx "systemctl mask orthanc.service" "$work/cal
 need 0 ""
 expect "For ./test no server is installed" [ "$(grep -c orthanc "$work/calls")" = 0 ]
 
+# Those of docs/scale too, of which some start services.
+all_but_scale='for name; do [[ "$name" == -* || "$name" == *"{"* || "$name" == @(munge|parallel|postgresql|python3-distributed|slurm-wlm) ]] ||
+  echo "installed $name"; done'
+setting
+fake dpkg-query <<<"$all_but_scale"
+fake apt-get <<<"exit 0"
+fake systemctl <<<"exit 0"
+need 0 pkg.nascor.scale
+expect "The engines are installed for .ci/run scale" apt_calls_are "apt-get -q -y -o DPkg::Lock::Timeout=120 update
+apt-get -q -y -o DPkg::Lock::Timeout=120 install --no-install-recommends parallel python3-distributed slurm-wlm munge postgresql"
+expect "All their services are kept from starting, before" [ "$(grep -E '^(systemctl|apt-get.* install)' "$work/calls" |
+  sed 's/^apt-get.*/apt-get/' | tr '\n' ';')" = "systemctl mask slurmctld.service slurmd.service;systemctl mask munge.service;\
+systemctl mask postgresql.service;apt-get;" ]
+: >"$work/calls"
+need 0 pkg.nascor.checks pkg.nascor.server
+expect "The other checks install none of them" [ "$(grep -cE '^(apt-get|systemctl)' "$work/calls")" = 0 ]
+
+setting
+fake dpkg-query <<<"$all_but_scale"
+fake apt-get <<<"exit 0"
+fake systemctl <<<'[[ "$*" != *postgresql* ]]'
+need 0 pkg.nascor.scale
+expect "A server alone whose service cannot be kept from starting stays away" apt_calls_are "apt-get -q -y -o DPkg::Lock::Timeout=120 update
+apt-get -q -y -o DPkg::Lock::Timeout=120 install --no-install-recommends parallel python3-distributed slurm-wlm munge"
+expect "and is named" said_has "Without postgresql, whose service would start here"
+
 setting
 fake dpkg-query <<<"$all_but_orthanc"
 fake apt-get <<<"exit 0"
@@ -149,7 +175,8 @@ checks=$((checks + 3))
 listed nocheck | grep -qE 'gtest|clang' && wrong "./run installs packages of the tests or checks"
 listed "" | grep -q gtest && ! listed "" | grep -q clang || wrong "./test installs not the packages of the tests alone"
 
-for script in run test .ci/run; do
+cd "$root"
+for script in run test .ci/run .ci/scale docs/scale/*.sh docs/scale/*/*.sh tests/scale/*.sh; do
   [[ -e "$root/$script" ]] || continue
   checks=$((checks + 1))
   "$BASH" -n "$root/$script" || wrong "$script is no valid script"
