@@ -1,0 +1,4 @@
+# GNU parallel, and xargs.
+. "$(dirname "$0")/common.sh"
+same_rows "$scripts/xargs.sh" clinic 2 --fixed
+same_rows "$scripts/parallel.sh" clinic 2 --fixed
