@@ -68,7 +68,7 @@ class Record {
     const std::lock_guard guard(mutex_);
     saved_.insert(tokens.begin(), tokens.end());
   }
-  /// Somebody who saw these took them out, and saves: from now on nobody counts on them, however the save ends.
+  /// A person who saw these took them out, and saves: from now on they may be gone, however the save ends.
   void forget(const Tokens& tokens) {
     const std::lock_guard guard(mutex_);
     for (const std::string& token : tokens) saved_.erase(token);

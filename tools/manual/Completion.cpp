@@ -90,7 +90,7 @@ std::string bashOffers(const Command& command) {
 
 // Zsh
 
-/// The text of a specification of `_arguments`, whose brackets and colons mean something.
+/// Text within what `_arguments` is told of an option: brackets and colons mean something there.
 std::string zshText(std::string_view text) {
   std::string out;
   for (const char each : text) {
