@@ -39,8 +39,9 @@ for ((round = 1; round <= 3; ++round)); do
   array="$(unfinished)"
   [[ -n "$array" ]] || break
   ((round == 1)) || printf 'Run again: tasks %s\n' "$array" >&2
-  # Its status is that of the tasks; what counts is what they left.
-  sbatch --quiet --wait --array="$array" --output="$work/log.%a" "$work/task" "$work" "$@" || true
+  # Its status is that of the tasks; what counts is what they left. Without a number there is no job.
+  job="$(sbatch --parsable --wait --array="$array" --output="$work/log.%a" "$work/task" "$work" "$@" || true)"
+  [[ -n "$job" ]] || exit 2
 done
 array="$(unfinished)"
 if [[ -n "$array" ]]; then

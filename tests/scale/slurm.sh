@@ -62,4 +62,12 @@ PATH="$work/dying:$PATH" same_rows "$scripts/slurm.sh" clinic 8 --fixed
 [[ -d died ]] || fail "No task died."
 grep -qx "Run again: tasks 3" errors || { cat errors; fail "The fourth task was not run again, or not alone."; }
 refuses_no_folder "$scripts/slurm.sh" none
+said=0
+"$scripts/slurm.sh" clinic 8 --no-such-option >refused 2>errors || said=$?
+[[ "$said" == 2 ]] || fail "slurm.sh ends with $said where an option is wrong."
+# The job asks for a partition that is not there: no task is run, and none waited for.
+said=0
+SBATCH_PARTITION=none "$scripts/slurm.sh" clinic 8 >refused 2>errors || said=$?
+[[ "$said" == 2 ]] && grep -q 'invalid partition' errors && ! grep -q 'Run again' errors ||
+  { cat errors >&2; fail "slurm.sh ends with $said where there can be no job."; }
 printf '  the task that died was run again\n'
