@@ -6,6 +6,7 @@ set -euo pipefail
 folder="$1"
 shift
 options=(--identify "$@")
+[[ -d "$folder" ]] || { echo "There is no folder $folder." >&2; exit 2; }
 header="$(nascor-cli rows --files-from /dev/null "${options[@]}")" || exit 2
 
 columns="$(tr ',' '\n' <<<"$header" | sed -E '

@@ -40,5 +40,8 @@ PYTHON
 
 # A run that dies in the middle leaves the table as it was.
 refuses_half "$scripts/postgresql.sh" clinic
+said=0
+"$scripts/postgresql.sh" nowhere 2>errors || said=$?
+[[ "$said" == 2 ]] || fail "Without a folder postgresql.sh ends with $said."
 psql --quiet -c '\copy rows to back.csv with (format csv, header)'
 equal one.csv back.csv

@@ -4,6 +4,7 @@
 set -euo pipefail
 folder="$1" file="$2"
 shift 2
+[[ -d "$folder" ]] || { echo "There is no folder $folder." >&2; exit 2; }
 header="$(nascor-cli rows --files-from /dev/null "$@")" || exit 2
 
 # Half of the rows must not pass for all: behind those of a run that died stands a line that DuckDB refuses.
