@@ -12,7 +12,7 @@ namespace nascor::calc {
 double zScore(const ReferenceTable& table, double value, double age);
 
 /// The same from a mean and a standard deviation that were looked up before.
-double zScore(double value, double mean, double sd);
+inline double zScore(double value, double mean, double sd) { return (value - mean) / sd; }
 
 /// The share, in percent, of a normal distribution that lies below `z` standard deviations. Right to 1e-9, and in the
 /// lower tail to twelve digits however small it is; 0 and 100 at the infinities, NaN for NaN.
