@@ -62,10 +62,11 @@ void countUp(std::string& text) {
   text.insert(text.begin(), '1');
 }
 
+constexpr std::array<std::uint64_t, 4> kUnits{1, 10, 100, 1000};
+
 /// `value`, which is not negative, in units of the last of up to three decimal places: the nearest whole number to the exact
 /// value, ties to even. Nothing for more places, and where 64 bits may not hold it.
 std::optional<std::uint64_t> roundedToPlaces(double value, int decimals) {
-  constexpr std::array<std::uint64_t, 4> kUnits{1, 10, 100, 1000};
   constexpr int kDigits = std::numeric_limits<double>::digits - 1;
   constexpr std::uint64_t kLeading = std::uint64_t{1} << kDigits;
   if (decimals < 0 || static_cast<std::size_t>(decimals) >= kUnits.size()) return std::nullopt;
@@ -79,8 +80,16 @@ std::optional<std::uint64_t> roundedToPlaces(double value, int decimals) {
   const std::uint64_t whole = units >> shift;
   const std::uint64_t rest = units - (whole << shift);
   const std::uint64_t half = std::uint64_t{1} << (shift - 1);
-  const bool isUp = rest > half || (rest == half && whole % 2 == 1);
-  return whole + (isUp ? 1 : 0);
+  // A tie goes up to an even number. Without branches: every second number is rounded up.
+  return whole + static_cast<std::uint64_t>(rest + whole % 2 > half);
+}
+
+/// The length of `units`, which are below 2^62, of the last of up to three decimal places, written with them all.
+std::ptrdiff_t lengthOf(std::uint64_t units, int decimals) {
+  std::ptrdiff_t digits = 1 + decimals;
+  for (std::uint64_t limit = 10 * kUnits[static_cast<std::size_t>(decimals)]; units >= limit; limit *= 10)
+    ++digits;
+  return digits + (decimals > 0 ? 1 : 0);
 }
 
 }  // namespace
@@ -100,32 +109,29 @@ std::string shortestText(double value) { return shortestTextOf(value); }
 std::string shortestSingleText(float value) { return shortestTextOf(value); }
 
 std::string fixedText(double value, int decimals) {
-  std::string text;
-  appendFixedText(text, value, decimals);
-  return text;
+  std::array<char, kLongestFixedText> buffer;
+  return {buffer.data(), writeFixedText(buffer.data(), value, decimals)};
 }
 
-void appendFixedText(std::string& out, double value, int decimals) {
-  if (std::isnan(value)) {
-    out += "nan";
-    return;
-  }
-  if (auto digits = roundedToPlaces(std::fabs(value), decimals)) {
-    std::array<char, 24> buffer;
-    char* at = buffer.data() + buffer.size();
-    for (int place = 0; *digits != 0 || place <= decimals; ++place) {
-      if (place == decimals && decimals > 0) *--at = '.';
-      *--at = static_cast<char>('0' + *digits % 10);
-      *digits /= 10;
-    }
-    if (std::signbit(value)) *--at = '-';
-    out.append(at, buffer.data() + buffer.size());
-    return;
-  }
-  std::array<char, 1 + kMostDigits + 1 + 9> buffer;
-  out.append(buffer.data(), std::to_chars(buffer.data(), buffer.data() + buffer.size(), value,
-                                          std::chars_format::fixed, decimals)
-                                .ptr);
+char* writeFixedText(char* at, double value, int decimals) {
+  if (std::isnan(value)) return std::ranges::copy(std::string_view("nan"), at).out;
+  const auto rounded = roundedToPlaces(std::fabs(value), decimals);
+  if (!rounded)
+    return std::to_chars(at, at + kLongestFixedText, value, std::chars_format::fixed, decimals).ptr;
+  *at = '-';
+  at += static_cast<int>(std::signbit(value));
+  // From the last digit on, each in its place: to copy what was just written byte by byte takes longer than to count.
+  std::uint64_t digits = *rounded;
+  char* const end = at + lengthOf(digits, decimals);
+  char* last = end;
+  const auto writeDigit = [&] {
+    *--last = static_cast<char>('0' + digits % 10);
+    digits /= 10;
+  };
+  for (int place = 0; place < decimals; ++place) writeDigit();
+  if (decimals > 0) *--last = '.';
+  while (last != at) writeDigit();
+  return end;
 }
 
 std::string fieldText(double value, int decimals, char decimalSign) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -17,8 +18,12 @@ std::string shortestSingleText(float value);
 /// to even; a NaN is `nan` whatever its sign bit. For the report and logs. No locale.
 std::string fixedText(double value, int decimals);
 
-/// Appends the same.
-void appendFixedText(std::string& out, double value, int decimals);
+/// The most characters that `fixedText` has: a sign, the digits of the greatest double, a point, and the decimals.
+inline constexpr std::size_t kLongestFixedText = 1 + 309 + 1 + 9;
+
+/// Writes the same to `at`, where there is room for `kLongestFixedText`; what stands behind it there is undefined. The end of
+/// the text.
+char* writeFixedText(char* at, double value, int decimals);
 
 /// What a number field shows: the exact decimal value rounded half away from zero to `decimals` places
 /// (25.25 is 25.3 where `fixedText` gives 25.2), with `decimalSign` as its point. A value that rounds to

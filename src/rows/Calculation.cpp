@@ -1,6 +1,7 @@
 #include "rows/Calculation.h"
 
 #include <algorithm>
+#include <array>
 
 namespace nascor::rows {
 
@@ -18,8 +19,8 @@ Calculation::Calculation(std::span<const CsvCell> header, const Choice& choice,
                          const std::optional<std::vector<std::string>>& names, bool isFixed)
     : inputNames_(textsOf(header)),
       places_(measuredPlaces(header)),
-      format_(chosenColumns(inputNames_, header, choice, names),
-              {.style = Style::csv, .isFixed = isFixed, .namesFiles = false}),
+      columns_(chosenColumns(inputNames_, header, choice, names)),
+      format_(columns_, {.style = Style::csv, .isFixed = isFixed, .namesFiles = false}),
       kept_(header.size()),
       quoted_(header.size()) {}
 
@@ -77,24 +78,28 @@ std::vector<std::string> Calculation::missingColumns() const {
 std::string Calculation::read(std::span<const CsvCell> record, Row& row) const {
   if (record.size() != inputNames_.size()) return cellCountFault(inputNames_.size(), record.size());
   std::string wrong;
-  for (std::size_t i = 0; i < places_.size(); ++i) {
+  std::array<double, kMeasuredColumns.size()> numbers{};
+  for (std::size_t i = 0; i < numbers.size(); ++i) {
     if (!places_[i]) continue;
     const CsvCell& cell = record[*places_[i]];
     const auto number = cell.isQuoted ? measuredFromText(textOf(cell)) : measuredFromText(cell.text);
-    if (!number) {
+    if (number) {
+      numbers[i] = *number;
+    } else {
       if (!wrong.empty()) wrong += "; ";
       wrong += numberFault(inputNames_[*places_[i]], textOf(cell));
-    } else if (i == 0) {
-      row.age = *number;
-    } else {
-      row.lengths.*calc::memberFor(calc::kMeasurements.at(i - 1)) = *number;
     }
   }
+  const auto [age, bpd, hc, ac, fl] = numbers;
+  row.age = age;
+  row.lengths = {.bpd = bpd, .hc = hc, .ac = ac, .fl = fl};
   return wrong;
 }
 
 std::string Calculation::append(std::string& out, std::span<const CsvCell> record) {
-  for (std::size_t i = 0; i < kept_.size(); ++i) {
+  for (const Column& column : columns_) {
+    if (column.content != Content::kept) continue;
+    const auto i = static_cast<std::size_t>(column.number);
     kept_[i] = i < record.size() ? record[i].text : std::string_view();
     if (i < record.size() && record[i].hasMarks) {
       quoted_[i].clear();

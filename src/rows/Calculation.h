@@ -50,6 +50,7 @@ class Calculation {
 
   std::vector<std::string> inputNames_;
   Places places_;
+  std::vector<Column> columns_;
   RowFormat format_;
   std::vector<std::string_view> kept_;
   std::vector<std::string> quoted_;  // cells that came without the quotation marks that they need

@@ -66,6 +66,7 @@ class CsvReader {
  private:
   struct Found;
 
+  bool readPlainRecord();
   bool readRecord();
   std::size_t endOfQuoted(std::size_t begin) const;
   std::optional<Found> quotedCell(std::size_t begin, std::uint64_t line) const;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <cstdint>
 
 #include "foundation/Utf8.h"
 
@@ -11,7 +12,6 @@ namespace nascor::rows {
 namespace {
 
 std::string_view withoutBlanks(std::string_view text) {
-  if (!text.empty() && text.front() > ' ' && text.back() > ' ') return text;
   constexpr std::string_view kBlanks = " \t\n\v\f\r";
   const std::size_t first = text.find_first_not_of(kBlanks);
   if (first == std::string_view::npos) return {};
@@ -66,7 +66,29 @@ std::string namesOf(const InputColumn& column) {
   return std::string(column.name).append(" or ").append(column.shortName);
 }
 
-std::optional<double> measuredFromText(std::string_view text) {
+std::optional<double> plainNumber(std::string_view text) {
+  // Both whole numbers of the quotient are doubles, so that its one rounding is to the nearest.
+  constexpr std::size_t kMostDigits = 15;
+  static constexpr std::array<double, kMostDigits + 1> kPowersOfTen{
+      1e0, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
+  if (text.size() > kMostDigits) return std::nullopt;
+  std::uint64_t digits = 0;
+  const char* at = text.data();
+  const char* const end = at + text.size();
+  const auto takeDigits = [&] {
+    for (; at != end && *at >= '0' && *at <= '9'; ++at)
+      digits = 10 * digits + static_cast<unsigned>(*at - '0');
+  };
+  takeDigits();
+  const char* const point = at;
+  if (at != end && *at == '.') ++at;
+  const char* const fraction = at;
+  takeDigits();
+  if (at != end || (point == text.data() && fraction == end)) return std::nullopt;
+  return static_cast<double>(digits) / kPowersOfTen[static_cast<std::size_t>(end - fraction)];
+}
+
+std::optional<double> measuredFromOtherText(std::string_view text) {
   text = withoutBlanks(text);
   if (text.empty() || text == "NA" || isNan(text)) return 0.0;
   if (text.starts_with('+') && !text.starts_with("+-")) text.remove_prefix(1);

@@ -42,7 +42,18 @@ std::string namesOf(const InputColumn& column);
 /// The number in a cell that holds an age or a length. 0.0, not measured, for an empty cell, blanks, zeros, `NA` and `nan`
 /// in any letters, with or without a sign. Blanks around a number, a plus sign, exponents, `.5` and `5.` are fine.
 /// Nothing for any other text: units, commas, hexadecimals, infinities, what a double cannot hold.
-std::optional<double> measuredFromText(std::string_view text);
+inline std::optional<double> measuredFromText(std::string_view text);
+
+/// The same for digits with at most one point, as machines print lengths: the nearest double. Nothing for any other text, and
+/// for one of more than 15 characters.
+std::optional<double> plainNumber(std::string_view text);
+/// The same for any text, and slower.
+std::optional<double> measuredFromOtherText(std::string_view text);
+
+inline std::optional<double> measuredFromText(std::string_view text) {
+  const auto number = plainNumber(text);
+  return number ? number : measuredFromOtherText(text);
+}
 
 /// A row that is shorter or longer than its header.
 std::string cellCountFault(std::size_t header, std::size_t row);

@@ -3,11 +3,11 @@
 #include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <limits>
 #include <utility>
 
 #include "calc/Centile.h"
 #include "calc/FetalWeight.h"
-#include "calc/LookUp.h"
 #include "calc/References.h"
 #include "foundation/JsonText.h"
 #include "foundation/NumberText.h"
@@ -48,44 +48,34 @@ void appendCsvText(std::string& out, std::string_view text) {
   out += '"';
 }
 
-RowFormat::RowFormat(std::vector<Column> columns, Settings settings)
-    : columns_(std::move(columns)), settings_(settings) {
-  for (const Column& column : columns_) {
-    const bool isJson = settings_.style == Style::jsonLines;
-    std::string prefix(prefixes_.empty() ? (isJson ? "{" : "") : ",");
+RowFormat::RowFormat(std::vector<Column> columns, Settings settings) : settings_(settings) {
+  const bool isJson = settings_.style == Style::jsonLines;
+  for (Column& column : columns) {
+    std::string prefix(cells_.empty() ? (isJson ? "{" : "") : ",");
     if (isJson) {
       foundation::JsonText(prefix).text(column.name);
       prefix += ':';
     }
-    prefixes_.push_back(std::move(prefix));
-
-    std::size_t place = 0;
+    std::size_t standard = 0;
     if (needsReference(column.content)) {
-      const auto isThis = [&](const Reference& each) {
-        return each.standard == column.number && each.measurement == column.measurement;
-      };
-      place = static_cast<std::size_t>(std::ranges::find_if(references_, isThis) - references_.begin());
-      if (place == references_.size()) references_.push_back({column.number, column.measurement});
-      if (std::ranges::find(standards_, column.number) == standards_.end())
-        standards_.push_back(column.number);
+      standard = static_cast<std::size_t>(std::ranges::find(standards_, column.number) - standards_.begin());
+      if (standard == standards_.size()) standards_.push_back(column.number);
     }
-    referenceOf_.push_back(place);
+    cells_.push_back({.prefix = std::move(prefix), .column = std::move(column), .standard = standard});
   }
-  for (std::size_t standard = 0; standard < tables_.size(); ++standard) {
-    for (const calc::Measurement measurement : calc::kMeasurements) {
-      calc::appendStandard(tables_[standard][static_cast<std::size_t>(measurement)],
-                           static_cast<std::int64_t>(standard), measurement);
-    }
+  for (std::size_t place = 0; place < weeks_.size(); ++place) {
+    const auto standard = static_cast<std::int64_t>(place);
+    tables_.emplace_back(standard);
+    calc::appendStandard(weeks_[place], standard, calc::kMeasurements.front());
   }
 }
 
 void RowFormat::appendHeader(std::string& out) const {
   if (settings_.style == Style::jsonLines) return;
-  for (std::size_t i = 0; i < columns_.size(); ++i) {
-    out += prefixes_[i];
+  for (const auto& [prefix, column, standard] : cells_) {
+    out += prefix;
     // The name of a column of the input is as it came, quotation marks and all.
-    columns_[i].content == Content::kept ? static_cast<void>(out += columns_[i].name)
-                                         : appendCsvText(out, columns_[i].name);
+    column.content == Content::kept ? static_cast<void>(out += column.name) : appendCsvText(out, column.name);
   }
   out += '\n';
 }
@@ -96,103 +86,107 @@ std::optional<std::size_t> RowFormat::placeOf(std::int64_t standard, const Row& 
   return static_cast<std::size_t>(row.standard);
 }
 
-RowFormat::Found RowFormat::foundBy(const Reference& reference, const Row& row) const {
-  const auto place = placeOf(reference.standard, row);
-  if (!place) return {};
-  if (*place < tables_.size()) {
-    const calc::ReferenceTable& table = tables_[*place][static_cast<std::size_t>(reference.measurement)];
-    return {.isThere = true,
-            .mean = calc::meanForGestation(table, row.age),
-            .sd = calc::sdForGestation(table, row.age)};
+RowFormat::Normals RowFormat::normalsBy(std::int64_t standard, const Row& row) const {
+  constexpr double kNone = std::numeric_limits<double>::quiet_NaN();
+  Normals normals{.mean = {kNone, kNone, kNone, kNone}, .sd = {kNone, kNone, kNone, kNone}};
+  const auto place = placeOf(standard, row);
+  if (!place || row.age == 0.0 || !row.error.empty()) return normals;
+  if (*place < tables_.size()) return tables_[*place].at(row.age);
+  for (const calc::Measurement measurement : calc::kMeasurements) {
+    const auto population =
+        calc::populationAt(calc::references()[*place], calc::quantityOf(measurement), row.age);
+    if (!population) continue;
+    const auto at = static_cast<std::size_t>(measurement);
+    normals.mean[at] = population->mean().value_or(0.0);
+    normals.sd[at] = population->sd().value_or(0.0);
   }
-  const auto population =
-      calc::populationAt(calc::references()[*place], calc::quantityOf(reference.measurement), row.age);
-  if (!population) return {};
-  return {.isThere = true, .mean = population->mean().value_or(0.0), .sd = population->sd().value_or(0.0)};
+  return normals;
 }
 
 void RowFormat::append(std::string& out, const Row& row) const {
-  std::array<Found, kMostReferences> found;
-  if (row.error.empty() && row.age != 0.0) {
-    for (std::size_t i = 0; i < references_.size(); ++i) found[i] = foundBy(references_[i], row);
-  }
-  for (std::size_t i = 0; i < columns_.size(); ++i) {
-    out += prefixes_[i];
-    if (!row.error.empty() && !isKnownOfAnError(columns_[i].content)) {
-      appendEmpty(out);
+  const bool isError = !row.error.empty();
+  std::array<Normals, kMostStandards> normals;
+  std::ranges::transform(standards_, normals.begin(),
+                         [&](std::int64_t standard) { return normalsBy(standard, row); });
+  RowText text(out);
+  for (const Cell& cell : cells_) {
+    text.append(cell.prefix);
+    if (isError && !isKnownOfAnError(cell.column.content)) {
+      appendEmpty(text);
     } else {
-      appendCell(out, i, row, std::span(found).first(references_.size()));
+      appendCell(text, cell, row, normals);
     }
   }
-  if (settings_.style == Style::jsonLines) out += '}';
-  out += '\n';
+  text.append(settings_.style == Style::jsonLines ? "}\n" : "\n");
+  text.text();
 }
 
-void RowFormat::appendCell(std::string& out, std::size_t place, const Row& row,
-                           std::span<const Found> found) const {
-  const Column& column = columns_[place];
-  const double length = row.lengths.*calc::memberFor(column.measurement);
+void RowFormat::appendCell(RowText& text, const Cell& cell, const Row& row,
+                           std::span<const Normals> normals) const {
+  const Column& column = cell.column;
   const auto unlessZero = [&](double value) {
-    value == 0.0 ? appendEmpty(out) : appendNumber(out, value, kDecimals);
+    value == 0.0 ? appendEmpty(text) : appendNumber(text, value, kDecimals);
   };
   switch (column.content) {
-    case Content::kept: out += row.kept[static_cast<std::size_t>(column.number)]; return;
+    case Content::kept: text.append(row.kept[static_cast<std::size_t>(column.number)]); return;
     case Content::file:
-      settings_.namesFiles ? appendText(out, row.fileName)
-                           : appendInteger(out, static_cast<std::int64_t>(row.filePlace));
+      settings_.namesFiles ? appendText(text, row.fileName)
+                           : appendInteger(text, static_cast<std::int64_t>(row.filePlace));
       return;
-    case Content::examination: return appendInteger(out, static_cast<std::int64_t>(row.examination));
-    case Content::fetus: return appendInteger(out, static_cast<std::int64_t>(row.fetus));
-    case Content::examDate: return appendText(out, row.examDate);
-    case Content::edd: return appendText(out, row.edd);
-    case Content::daysToEDD: return row.daysToEDD ? appendInteger(out, *row.daysToEDD) : appendEmpty(out);
+    case Content::examination: return appendInteger(text, static_cast<std::int64_t>(row.examination));
+    case Content::fetus: return appendInteger(text, static_cast<std::int64_t>(row.fetus));
+    case Content::examDate: return appendText(text, row.examDate);
+    case Content::edd: return appendText(text, row.edd);
+    case Content::daysToEDD: return row.daysToEDD ? appendInteger(text, *row.daysToEDD) : appendEmpty(text);
     case Content::age: return unlessZero(row.age);
-    case Content::length: return unlessZero(length);
+    case Content::length: return unlessZero(row.lengths.*calc::memberFor(column.measurement));
     case Content::weight: return unlessZero(calc::estimatedFetalWeight(row.lengths, column.number));
-    case Content::standard: return appendInteger(out, row.standard);
+    case Content::standard: return appendInteger(text, row.standard);
     case Content::mean:
     case Content::sd:
     case Content::zScore: break;
-    case Content::referenceID: return appendText(out, row.referenceID);
-    case Content::note: return appendText(out, row.note);
-    case Content::warning: return appendWarning(out, row);
-    case Content::error: return appendText(out, row.error);
+    case Content::referenceID: return appendText(text, row.referenceID);
+    case Content::note: return appendText(text, row.note);
+    case Content::warning: return appendWarning(text, row);
+    case Content::error: return appendText(text, row.error);
   }
-  const Found& reference = found[referenceOf_[place]];
-  if (!reference.isThere) return appendEmpty(out);
-  if (column.content == Content::mean) return appendNumber(out, reference.mean, kDecimals);
-  if (column.content == Content::sd) return appendNumber(out, reference.sd, kDecimals);
-  if (length == 0.0) return appendEmpty(out);
-  appendNumber(out, calc::zScore(length, reference.mean, reference.sd), kZDecimals);
+  const auto measurement = static_cast<std::size_t>(column.measurement);
+  const double mean = normals[cell.standard].mean[measurement];
+  const double sd = normals[cell.standard].sd[measurement];
+  if (column.content == Content::mean) return appendNumber(text, mean, kDecimals);
+  if (column.content == Content::sd) return appendNumber(text, sd, kDecimals);
+  const double length = row.lengths.*calc::memberFor(column.measurement);
+  if (length == 0.0) return appendEmpty(text);
+  appendNumber(text, calc::zScore(length, mean, sd), kZDecimals);
 }
 
-void RowFormat::appendEmpty(std::string& out) const {
-  if (settings_.style == Style::jsonLines) out += "null";
+void RowFormat::appendEmpty(RowText& text) const {
+  if (settings_.style == Style::jsonLines) text.append("null");
 }
 
-void RowFormat::appendNumber(std::string& out, double value, int decimals) const {
-  if (!std::isfinite(value)) return appendEmpty(out);
-  if (settings_.isFixed) return foundation::appendFixedText(out, value, decimals);
-  std::array<char, 32> buffer;
-  out.append(buffer.data(), std::to_chars(buffer.data(), buffer.data() + buffer.size(), value).ptr);
+void RowFormat::appendNumber(RowText& text, double value, int decimals) const {
+  if (!std::isfinite(value)) return appendEmpty(text);
+  char* at = text.room();
+  text.end(settings_.isFixed ? foundation::writeFixedText(at, value, decimals)
+                             : std::to_chars(at, at + RowText::kRoom, value).ptr);
 }
 
-void RowFormat::appendInteger(std::string& out, std::int64_t value) const {
-  std::array<char, 20> buffer;
-  out.append(buffer.data(), std::to_chars(buffer.data(), buffer.data() + buffer.size(), value).ptr);
+void RowFormat::appendInteger(RowText& text, std::int64_t value) {
+  char* at = text.room();
+  text.end(std::to_chars(at, at + RowText::kRoom, value).ptr);
 }
 
-void RowFormat::appendText(std::string& out, std::string_view text) const {
-  if (text.empty()) {
-    appendEmpty(out);
+void RowFormat::appendText(RowText& text, std::string_view value) const {
+  if (value.empty()) {
+    appendEmpty(text);
   } else if (settings_.style == Style::jsonLines) {
-    foundation::JsonText(out).text(text);
+    foundation::JsonText(text.text()).text(value);
   } else {
-    appendCsvText(out, text);
+    appendCsvText(text.text(), value);
   }
 }
 
-void RowFormat::appendWarning(std::string& out, const Row& row) const {
+void RowFormat::appendWarning(RowText& text, const Row& row) const {
   std::array<StandardInUse, calc::kGrowthStandardCount> standards;
   std::size_t count = 0;
   std::string beyond;
@@ -208,12 +202,12 @@ void RowFormat::appendWarning(std::string& out, const Row& row) const {
     const auto* standard = calc::growthStandard(static_cast<std::int64_t>(*place));
     const auto used = std::span(standards).first(count);
     if (std::ranges::find(used, standard, &StandardInUse::standard) != used.end()) continue;
-    standards.at(count++) = {.standard = standard, .table = &tables_[*place].front()};
+    standards.at(count++) = {.standard = standard, .table = &weeks_[*place]};
   }
   std::string warning;
   appendWarnings(warning, row.lengths, row.age, std::span(standards).first(count));
   warning += warning.empty() && !beyond.empty() ? beyond.substr(2) : beyond;
-  appendText(out, warning);
+  appendText(text, warning);
 }
 
 }  // namespace nascor::rows

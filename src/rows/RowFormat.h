@@ -10,9 +10,11 @@
 #include <vector>
 
 #include "calc/Biometry.h"
+#include "calc/GrowthTable.h"
 #include "calc/References.h"
 #include "calc/Standards.h"
 #include "rows/Columns.h"
+#include "rows/RowText.h"
 
 namespace nascor::rows {
 
@@ -53,8 +55,6 @@ class RowFormat {
 
   RowFormat(std::vector<Column> columns, Settings settings);
 
-  std::span<const Column> columns() const { return columns_; }
-
   /// Appends the line of the columns' names. JSON Lines have none, and nothing is appended.
   void appendHeader(std::string& out) const;
 
@@ -62,37 +62,33 @@ class RowFormat {
   void append(std::string& out, const Row& row) const;
 
  private:
-  /// A length's mean and standard deviation by one reference, which several columns of a row share.
-  struct Reference {
-    std::int64_t standard;
-    calc::Measurement measurement;
+  /// What a column's cells need.
+  struct Cell {
+    std::string prefix;  ///< what stands before it
+    Column column;
+    std::size_t standard =
+        0;  ///< of a mean, standard deviation or z-score: the place of its standard in `standards_`
   };
-  struct Found {
-    bool isThere = false;
-    double mean = 0.0;
-    double sd = 0.0;
-  };
-  /// Those of the document's own standard, and each named.
-  static constexpr std::size_t kMostReferences = calc::kMeasurements.size() * (1 + calc::kReferenceCount);
+  /// The document's own standard, and each that is named.
+  static constexpr std::size_t kMostStandards = 1 + calc::kReferenceCount;
+  using Normals = calc::GrowthTable::Normals;
 
   /// The place of the reference that is meant in a row; nothing for a document's own standard that is unknown.
   static std::optional<std::size_t> placeOf(std::int64_t standard, const Row& row);
-  Found foundBy(const Reference& reference, const Row& row) const;
-  void appendCell(std::string& out, std::size_t place, const Row& row, std::span<const Found> found) const;
-  void appendEmpty(std::string& out) const;
-  void appendNumber(std::string& out, double value, int decimals) const;
-  void appendInteger(std::string& out, std::int64_t value) const;
-  void appendText(std::string& out, std::string_view text) const;
-  void appendWarning(std::string& out, const Row& row) const;
+  /// NaN where a standard or reference has none.
+  Normals normalsBy(std::int64_t standard, const Row& row) const;
+  void appendCell(RowText& text, const Cell& cell, const Row& row, std::span<const Normals> normals) const;
+  void appendEmpty(RowText& text) const;
+  void appendNumber(RowText& text, double value, int decimals) const;
+  static void appendInteger(RowText& text, std::int64_t value);
+  void appendText(RowText& text, std::string_view value) const;
+  void appendWarning(RowText& text, const Row& row) const;
 
-  std::vector<Column> columns_;
   Settings settings_;
-  std::vector<std::string> prefixes_;     // what stands before each cell
-  std::vector<Reference> references_;     // those that the columns need
-  std::vector<std::size_t> referenceOf_;  // by column
-  std::vector<std::int64_t> standards_;   // of the columns, each once
-  std::array<std::array<calc::ReferenceTable, 4>, calc::kGrowthStandardCount>
-      tables_;  // by standard and measurement
+  std::vector<Cell> cells_;
+  std::vector<std::int64_t> standards_;  // of the columns, each once
+  std::vector<calc::GrowthTable> tables_;
+  std::array<calc::ReferenceTable, calc::kGrowthStandardCount> weeks_;  // of one length, by standard
 };
 
 /// Appends a cell of CSV: in quotation marks where it holds a comma, a quotation mark or the end of a line.

@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 
 #include <array>
+#include <charconv>
 
 #include "calc/Centile.h"
 #include "calc/FetalWeight.h"
@@ -75,6 +76,49 @@ TEST(Measured, isNothingForNumbersNextToZero) {
   EXPECT_EQ(measuredFromText("1e999"), std::nullopt);
   EXPECT_EQ(measuredFromText("-1e999"), std::nullopt);
   EXPECT_EQ(measuredFromText("1e-310"), 1e-310);
+}
+
+TEST(PlainNumbers, areTheNearestDoubles) {
+  std::uint64_t bits = 1;
+  const auto next = [&] { return (bits = bits * 6364136223846793005U + 1442695040888963407U) >> 33U; };
+  for (int i = 0; i < 100'000; ++i) {
+    std::string text;
+    const std::size_t count = 1 + next() % 15;
+    for (std::size_t digit = 0; digit < count; ++digit) text += static_cast<char>('0' + next() % 10);
+    if (count < 15 && next() % 4 != 0) text.insert(next() % (count + 1), ".");
+    double nearest = 0.0;
+    std::from_chars(text.data(), text.data() + text.size(), nearest);
+    ASSERT_EQ(plainNumber(text), nearest) << text;
+  }
+  for (const char* text : {"999999999999999", ".99999999999999", "00000000000.001", "5.", ".5", "0", "0."})
+    EXPECT_EQ(plainNumber(text), std::stod(text)) << text;
+}
+
+TEST(PlainNumbers, areNoOtherTexts) {
+  for (const char* text : {"", ".", "-1", "+1", "1e1", " 1", "1 ", "1..", "1.2.3", "1,5", "/", ":", "nan",
+                           "inf", "0x1", "1234567890123456", "1.00000000000000", "\xD9\xA4"}) {
+    EXPECT_EQ(plainNumber(text), std::nullopt) << text;
+  }
+}
+
+TEST(Rows, holdCellsOfAnyLengthInTheirOrder) {
+  const std::vector<Column> columns{{.name = "a", .content = Content::note},
+                                    {.name = "b", .content = Content::fetus},
+                                    {.name = "c", .content = Content::kept, .number = 0},
+                                    {.name = "d", .content = Content::error}};
+  for (const std::size_t size : {1U, 2U, 319U, 320U, 321U, 960U, 1280U, 5000U}) {
+    const std::string note(size, 'n');
+    const std::string kept(size, 'k');
+    const std::array<std::string_view, 1> cells{kept};
+    std::string out = "before\n";
+    RowFormat(columns, {}).append(out, {.fetus = 7, .note = note, .kept = cells});
+    EXPECT_EQ(out, "before\n" + note + ",7," + kept + ",\n");
+  }
+  const std::vector<Column> many(
+      500, {.name = "x", .content = Content::length, .measurement = calc::Measurement::hc});
+  std::string out;
+  RowFormat(many, {.isFixed = true}).append(out, {.lengths = {.hc = -1.7976931348623157e308}});
+  EXPECT_EQ(out.size(), 500U * (1 + 309 + 2 + 1));
 }
 
 TEST(Warnings, areSilentForAnUnknownAge) {

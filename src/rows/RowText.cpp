@@ -1,0 +1,11 @@
+#include "rows/RowText.h"
+
+namespace nascor::rows {
+
+std::string& RowText::text() {
+  out_.append(cells_.data(), at_);
+  at_ = cells_.data();
+  return out_;
+}
+
+}  // namespace nascor::rows
