@@ -227,6 +227,27 @@ TEST_F(PosixFileStoreTest, doesNotWaitForTheWriterOfAPipe) {
   EXPECT_EQ(whyNotRead(path("link.nascor")), "Not a regular file");
 }
 
+TEST_F(PosixFileStoreTest, readsAListedFileAndRefusesWhatHasTakenItsPlace) {
+  const auto whyNotListed = [&](const std::string& name) {
+    const auto result = PosixFileStore::contentsOfListed(path(name));
+    const auto* error = std::get_if<foundation::FileError>(&result);
+    return error != nullptr ? error->reason : "";
+  };
+  put("file", std::string(5000, 'x'));
+  EXPECT_EQ(std::get<0>(PosixFileStore::contentsOfListed(path("file"))),
+            std::get<0>(PosixFileStore().contents(path("file"))));
+  ASSERT_EQ(::mkfifo(path("pipe").c_str(), 0600), 0);
+  EXPECT_EQ(whyNotListed("pipe"), "Not a regular file");
+  EXPECT_EQ(whyNotListed("none"), "No such file or directory");
+  EXPECT_EQ(whyNotListed("."), "Is a directory");
+}
+
+TEST_F(PosixFileStoreTest, readsAFileThatStatesNoSizeToItsEnd) {
+  const auto result = PosixFileStore().contents("/proc/self/status");
+  ASSERT_TRUE(std::holds_alternative<std::vector<std::byte>>(result));
+  EXPECT_GT(std::get<0>(result).size(), 500U);
+}
+
 TEST_F(PosixFileStoreTest, doesNotReadAFileThatTheUserMayNotRead) {
   put("file", "old", 0600);
   if (::geteuid() == 0) {

@@ -165,10 +165,10 @@ std::unique_ptr<DocumentSource> documentsInTar(Console& console, const std::stri
 
 std::variant<std::vector<std::byte>, std::string> contentsOf(PendingDocument document) {
   if (document.from == PendingDocument::From::here) return std::move(document.contents);
-  using Pipes = posix::PosixFileStore::Pipes;
-  const bool waits = document.from == PendingDocument::From::path;
-  auto contents =
-      posix::PosixFileStore({}, waits ? Pipes::areRead : Pipes::areRefused).contents(document.name);
+  using posix::PosixFileStore;
+  auto contents = document.from == PendingDocument::From::folder
+                      ? PosixFileStore::contentsOfListed(document.name)
+                      : PosixFileStore({}, PosixFileStore::Pipes::areRead).contents(document.name);
   if (auto* bytes = std::get_if<std::vector<std::byte>>(&contents)) return std::move(*bytes);
   return std::get<foundation::FileError>(contents).reason;
 }

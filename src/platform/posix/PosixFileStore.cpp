@@ -168,22 +168,14 @@ bool isWrittenWhole(const NewFile& fresh, std::span<const std::byte> bytes, cons
          uninterrupted([&] { return ::fsync(fresh.number()); }) == 0 && isClosedWell(fresh.number());
 }
 
-}  // namespace
+using Contents = std::variant<std::vector<std::byte>, FileError>;
 
-std::variant<std::vector<std::byte>, FileError> PosixFileStore::contents(const std::string& path) const {
-  if (hasZeroByte(path)) return systemError(EINVAL);
-  const bool readsPipes = pipes_ == Pipes::areRead;
-  const auto isReadable = [&](mode_t mode) { return S_ISREG(mode) || (readsPipes && S_ISFIFO(mode)); };
-  // Before it is opened: that alone waits for the writer of a pipe, and does something to many a device.
-  struct stat status {};
-  if (::stat(path.c_str(), &status) != 0) return systemError();
-  if (!isReadable(status.st_mode)) return notAFile(status.st_mode);
-  const int flags = O_RDONLY | O_CLOEXEC | O_NOCTTY | (readsPipes ? 0 : O_NONBLOCK);
-  const Descriptor file(uninterrupted([&] { return ::open(path.c_str(), flags); }));
-  if (!file.isOpen()) return systemError();
-  if (::fstat(file.number(), &status) != 0) return systemError();
-  if (!isReadable(status.st_mode)) return notAFile(status.st_mode);
+bool isReadable(mode_t mode, PosixFileStore::Pipes pipes) {
+  return S_ISREG(mode) || (pipes == PosixFileStore::Pipes::areRead && S_ISFIFO(mode));
+}
 
+/// All bytes of an open file, of which `status` tells.
+Contents allOf(int file, const struct stat& status) {
   // The size that a file states is a hint alone: it may be growing, or name far more than there is memory.
   constexpr std::size_t kLeast = 4096;
   constexpr std::size_t kMostAtOnce = std::size_t{1} << 24;
@@ -196,10 +188,11 @@ std::variant<std::vector<std::byte>, FileError> PosixFileStore::contents(const s
     for (;;) {
       if (used == bytes.size()) bytes.resize(bytes.size() * 2);
       const ssize_t count =
-          uninterrupted([&] { return ::read(file.number(), bytes.data() + used, bytes.size() - used); });
+          uninterrupted([&] { return ::read(file, bytes.data() + used, bytes.size() - used); });
       if (count < 0) return systemError();
-      if (count == 0) break;
       used += static_cast<std::size_t>(count);
+      // A file whose stated size was read, and no more came: it is whole, and need not be asked for its end.
+      if (count == 0 || (S_ISREG(status.st_mode) && used == stated)) break;
     }
     bytes.resize(used);
   } catch (const std::bad_alloc&) {
@@ -208,6 +201,33 @@ std::variant<std::vector<std::byte>, FileError> PosixFileStore::contents(const s
     return systemError(ENOMEM);
   }
   return bytes;
+}
+
+/// The contents of a file, or of a pipe where those are read.
+Contents openedContents(const std::string& path, PosixFileStore::Pipes pipes) {
+  const bool waits = pipes == PosixFileStore::Pipes::areRead;
+  const int flags = O_RDONLY | O_CLOEXEC | O_NOCTTY | (waits ? 0 : O_NONBLOCK);
+  const Descriptor file(uninterrupted([&] { return ::open(path.c_str(), flags); }));
+  if (!file.isOpen()) return systemError();
+  struct stat status {};
+  if (::fstat(file.number(), &status) != 0) return systemError();
+  if (!isReadable(status.st_mode, pipes)) return notAFile(status.st_mode);
+  return allOf(file.number(), status);
+}
+
+}  // namespace
+
+Contents PosixFileStore::contents(const std::string& path) const {
+  if (hasZeroByte(path)) return systemError(EINVAL);
+  // Before it is opened: that alone waits for the writer of a pipe, and does something to many a device.
+  struct stat status {};
+  if (::stat(path.c_str(), &status) != 0) return systemError();
+  if (!isReadable(status.st_mode, pipes_)) return notAFile(status.st_mode);
+  return openedContents(path, pipes_);
+}
+
+Contents PosixFileStore::contentsOfListed(const std::string& path) {
+  return openedContents(path, Pipes::areRefused);
 }
 
 std::optional<FileError> PosixFileStore::replaceContents(const std::string& path,

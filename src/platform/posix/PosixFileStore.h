@@ -19,6 +19,11 @@ class PosixFileStore final : public foundation::FileStore {
   /// Whether a pipe is read to its end like a file, however long its writer takes.
   enum class Pipes { areRefused, areRead };
 
+  /// The contents of a file that a look at its folder has just shown to be one: a look at the path before it is opened is
+  /// left out. What is none after all is refused, as `contents` does it, once it is open.
+  static std::variant<std::vector<std::byte>, foundation::FileError> contentsOfListed(
+      const std::string& path);
+
   /// `documentsFolder` is where the user keeps documents; empty for the folder "Documents" of the user's home. Where
   /// there is no such folder it is the home itself.
   explicit PosixFileStore(std::string documentsFolder = {}, Pipes pipes = Pipes::areRefused)
