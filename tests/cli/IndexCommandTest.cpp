@@ -1,7 +1,12 @@
 #include <gmock/gmock.h>
 
+#include <algorithm>
+#include <array>
+#include <chrono>
+#include <csignal>
 #include <filesystem>
 #include <map>
+#include <random>
 
 #include <nlohmann/json.hpp>
 
@@ -194,6 +199,56 @@ TEST(AnIndex, isCompletedAfterARunThatWasKilledAnywhere) {
     EXPECT_EQ(clinic.all(), expected) << part;
   }
   EXPECT_GE(killed, 5U);
+}
+
+TEST(AnIndex, isNeverWrongThoughKilledAtFiftyMoments) {
+  const IndexedClinic clinic;
+  // Each run finds ten documents gone, ten new, the others written anew, and perhaps no index at all.
+  const auto folderAt = [&](std::size_t state) {
+    std::filesystem::remove_all(clinic.folder());
+    clinic.writePatients(10 * state, 30);
+  };
+  const auto found = [&] {
+    return run({"search", "NC-", "--db", clinic.database(), "--json", "--limit", "99"}).out;
+  };
+  std::array<std::vector<json>, 2> expected;
+  std::array<std::string, 2> expectedFound;
+  std::chrono::steady_clock::duration whole{};
+  for (const std::size_t state : {1U, 0U}) {
+    folderAt(state);
+    const auto start = std::chrono::steady_clock::now();
+    clinic.index();
+    whole = std::chrono::steady_clock::now() - start;
+    expected.at(state) = clinic.all();
+    expectedFound.at(state) = found();
+  }
+  std::mt19937_64 random{20261123};
+  std::uniform_int_distribution<std::int64_t> moments(
+      1, std::chrono::duration_cast<std::chrono::microseconds>(whole).count());
+  int killed = 0;
+  for (std::size_t i = 0; killed < 50; ++i) {
+    ASSERT_LT(i, 500U) << "runs end before they are killed";
+    folderAt(i % 2);
+    if (i % 3 == 0) {
+      for (const char* file : {"", "-wal", "-shm"}) std::filesystem::remove(clinic.database() + file);
+    }
+    const Outcome run = tests::run({.arguments = {"index", clinic.folder(), "--db", clinic.database()},
+                                    .killedAfter = std::chrono::microseconds(moments(random))});
+    if (run.status != 128 + SIGALRM) continue;
+    ++killed;
+    const Outcome between =
+        tests::run({"due", "--db", clinic.database(), "--json", "--from", "2020-01-01", "--days", "9999"});
+    for (const std::string& line : linesOf(between.out)) {
+      const json document = json::parse(line);
+      const auto isIn = [&](const std::vector<json>& all) {
+        return std::ranges::find(all, document) != all.end();
+      };
+      EXPECT_TRUE(std::ranges::any_of(expected, isIn)) << i << ": " << line;
+    }
+    clinic.index();
+    ASSERT_EQ(clinic.all(), expected.at(i % 2)) << i;
+    EXPECT_EQ(linesOf(found()).size(), linesOf(expectedFound.at(i % 2)).size()) << i;
+  }
 }
 
 // What it answers

@@ -11,6 +11,7 @@
 #include <memory>
 #include <sstream>
 
+#include <sys/time.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -50,6 +51,12 @@ Outcome run(const Call& call) {
     ::dup2(call.outputFile >= 0 ? call.outputFile : ::fileno(output.get()), STDOUT_FILENO);
     ::dup2(::fileno(errors.get()), STDERR_FILENO);
     if (!call.zone.empty()) ::setenv("TZ", call.zone.c_str(), 1);
+    // A timer goes on in the program that takes the place of this one.
+    constexpr std::int64_t kSecond = 1'000'000;
+    const std::int64_t after = call.killedAfter.count();
+    const itimerval timer{.it_interval = {},
+                          .it_value = {.tv_sec = after / kSecond, .tv_usec = after % kSecond}};
+    ::setitimer(ITIMER_REAL, &timer, nullptr);
     ::execv(arguments[0], arguments.data());
     ::_exit(127);
   }

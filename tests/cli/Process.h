@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <cstddef>
 #include <string>
 #include <vector>
@@ -19,6 +20,8 @@ struct Call {
   std::string input{};
   std::string zone{};   ///< TZ of the process; empty for that of the test
   int outputFile = -1;  ///< an open descriptor for standard output, in place of keeping it in `Outcome::out`
+  /// After so many it is ended by a signal that it does not know of; 0: never.
+  std::chrono::microseconds killedAfter{};
 };
 
 Outcome run(const Call& call);
