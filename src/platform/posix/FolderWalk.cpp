@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <cstring>
 #include <memory>
 #include <system_error>
 #include <utility>
@@ -58,8 +59,10 @@ std::optional<std::string> FolderWalk::enter(std::string path) {
     if (kind == Kind::folder) level.names += '/';
     level.names += '\0';
   }
-  std::ranges::sort(level.begins, {},
-                    [&](std::uint64_t begin) { return std::string_view(level.names.c_str() + begin); });
+  // By their bytes, which is what `strcmp` compares.
+  std::ranges::sort(level.begins, [names = level.names.c_str()](std::uint64_t one, std::uint64_t other) {
+    return std::strcmp(names + one, names + other) < 0;
+  });
   levels_.push_back(std::move(level));
   return std::nullopt;
 }

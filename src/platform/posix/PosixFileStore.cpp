@@ -183,7 +183,7 @@ Contents allOf(int file, const struct stat& status) {
   try {
     const auto stated = static_cast<std::size_t>(std::max<off_t>(status.st_size, 0));
     // One byte more than stated, so that the end is met without growing once more.
-    bytes.resize(std::clamp(stated + 1, kLeast, kMostAtOnce));
+    bytes.resize(stated == 0 ? kLeast : std::min(stated + 1, kMostAtOnce));
     std::size_t used = 0;
     for (;;) {
       if (used == bytes.size()) bytes.resize(bytes.size() * 2);
