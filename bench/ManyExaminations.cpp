@@ -1,0 +1,57 @@
+// Documents of as many examinations as wanted, as a tar stream on standard output.
+//
+//   many-examinations EXAMINATIONS DOCUMENTS
+
+#include <cstdio>
+#include <cstdlib>
+#include <string>
+
+#include "model/PatientFile.h"
+#include "synthetic_clinic/TarText.h"
+
+namespace {
+
+using namespace nascor;
+
+/// One fetus, seen at as many moments between 12 and 40 weeks.
+model::PatientRecord patient(int examinations) {
+  constexpr double kWeek = 604800.0;
+  constexpr double kEDD = 830000000.0;
+  model::PatientRecord patient;
+  patient.setMaternalIDString("NC-0000000");
+  patient.setEDD(foundation::Date{kEDD});
+  patient.setNumberOfFetuses(1);
+  for (int i = 0; i < examinations; ++i) {
+    const double week = 12.0 + 28.0 * (i + 0.5) / examinations;
+    auto examination = std::make_unique<model::NCRecord>();
+    examination->setNote("Growth scan");
+    examination->setExamDate(foundation::Date{kEDD - (40.0 - week) * kWeek});
+    examination->measurements().emplace_back(
+        calc::Biometry{.bpd = 2.4 * week, .hc = 8.6 * week, .ac = 8.4 * week, .fl = 1.8 * week});
+    patient.ncRecordsArray().push_back(std::move(examination));
+  }
+  return patient;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  const int examinations = argc == 3 ? std::atoi(argv[1]) : 0;
+  const int documents = argc == 3 ? std::atoi(argv[2]) : 0;
+  if (examinations < 1 || documents < 1) {
+    std::fputs("usage: many-examinations EXAMINATIONS DOCUMENTS\n", stderr);
+    return 2;
+  }
+  const auto bytes = model::archivedPatient(patient(examinations));
+  const auto send = [](const std::string& tar) {
+    return std::fwrite(tar.data(), 1, tar.size(), stdout) == tar.size();
+  };
+  for (int i = 0; i < documents; ++i) {
+    std::string tar;
+    clinic::appendTarMember(tar, std::to_string(i) + ".nascor", bytes);
+    if (!send(tar)) return 1;
+  }
+  std::string end;
+  clinic::appendTarEnd(end);
+  return send(end) && std::fflush(stdout) == 0 ? 0 : 1;
+}
