@@ -22,19 +22,19 @@ std::string describeTag(int head) {
 
 std::span<const std::byte> ByteReader::takeBytes(std::uint64_t length, std::string_view wanted) {
   if (length > left()) {
-    refuse(position_, wanted,
+    refuse(position(), wanted,
            left() == 0
                ? "the file ends here"
                : "only " + std::to_string(left()) + " of its " + counted(length, "byte") + " are left");
   }
-  const auto taken = bytes_.subspan(position_, static_cast<std::size_t>(length));
-  position_ += taken.size();
-  return taken;
+  pass(static_cast<std::size_t>(length));
+  return {at_ - length, at_};
 }
 
 std::int64_t ByteReader::takeNumber(std::string_view wanted) {
   const int tag = head(wanted);
-  const std::size_t begin = position_++;
+  const std::size_t begin = position();
+  pass(1);
   switch (tag) {
     case kInt16Tag: return static_cast<std::int16_t>(takeFixed<std::uint16_t>(wanted));
     case kInt32Tag: return static_cast<std::int32_t>(takeFixed<std::uint32_t>(wanted));
@@ -46,7 +46,7 @@ std::int64_t ByteReader::takeNumber(std::string_view wanted) {
 }
 
 std::size_t ByteReader::takeNumberOf(std::string_view thing, std::size_t known, std::string_view wanted) {
-  const std::size_t begin = position_;
+  const std::size_t begin = position();
   const std::int64_t stored = takeNumber(wanted);
   // Unsigned, so that it wraps where a signed number would overflow.
   const std::uint64_t number = static_cast<std::uint64_t>(stored) - static_cast<std::uint64_t>(kFirstNumber);
@@ -61,10 +61,10 @@ std::size_t ByteReader::takeNumberOf(std::string_view thing, std::size_t known, 
 
 std::optional<std::string_view> ByteReader::takeText(std::string_view wanted) {
   if (head(wanted) == kNilTag) {
-    ++position_;
+    pass(1);
     return std::nullopt;
   }
-  const std::size_t begin = position_;
+  const std::size_t begin = position();
   const std::int64_t length = takeNumber(wanted);
   if (length < 0) refuse(begin, wanted, "its length is " + std::to_string(length));
   const auto text = takeBytes(static_cast<std::uint64_t>(length), wanted);

@@ -18,25 +18,26 @@ namespace nascor::archive {
 /// it, FormatError says so. Nothing past the end is read. The bytes must outlive the reader and the texts that it gives.
 class ByteReader {
  public:
-  explicit ByteReader(std::span<const std::byte> bytes) : bytes_(bytes) {}
+  explicit ByteReader(std::span<const std::byte> bytes)
+      : begin_(bytes.data()), at_(begin_), end_(begin_ + bytes.size()) {}
 
   ByteOrder order() const { return order_; }
   /// Little before the first call.
   void setOrder(ByteOrder order) { order_ = order; }
 
   /// The bytes before the next one.
-  std::size_t position() const { return position_; }
-  std::size_t left() const { return bytes_.size() - position_; }
+  std::size_t position() const { return static_cast<std::size_t>(at_ - begin_); }
+  std::size_t left() const { return static_cast<std::size_t>(end_ - at_); }
 
   /// The next head, which stays the next.
   int head(std::string_view wanted) const {
-    if (left() == 0) refuse(position_, wanted, "the file ends here");
+    if (left() == 0) refuse(position(), wanted, "the file ends here");
     return headAhead(0);
   }
   /// Whether the next byte is this head; then it is taken. False at the end of the file.
   bool tookHead(int head) {
     const bool isNext = left() > 0 && headAhead(0) == head;
-    position_ += isNext ? 1 : 0;
+    at_ += isNext ? 1 : 0;
     return isNext;
   }
 
@@ -57,26 +58,35 @@ class ByteReader {
   // The same without a look at the end: the caller has made sure that as many bytes are left.
 
   /// The head that stands `bytes` further on.
-  int headAhead(std::size_t bytes) const { return std::to_integer<std::int8_t>(bytes_[position_ + bytes]); }
-  void pass(std::size_t bytes) { position_ += bytes; }
+  int headAhead(std::size_t bytes) const { return std::to_integer<std::int8_t>(at_[bytes]); }
+  void pass(std::size_t bytes) { at_ += bytes; }
   std::string_view takeText(std::size_t length) {
     pass(length);
-    return {reinterpret_cast<const char*>(bytes_.data()) + position_ - length, length};
+    return {reinterpret_cast<const char*>(at_ - length), length};
   }
   /// The bytes passed last, as a number.
   template <class Bits>
   Bits fixedBehind() const {
+    const std::byte* last = at_ - 1;
+    const std::byte* first = at_ - sizeof(Bits);
     Bits bits = 0;
-    for (std::size_t i = 0; i < sizeof bits; ++i) {
-      const std::size_t place = order_ == ByteOrder::big ? sizeof bits - 1 - i : i;
-      bits |= static_cast<Bits>(std::to_integer<Bits>(bytes_[position_ - sizeof bits + place]) << (8 * i));
+    // Two plain loops, each of which compilers know as one load.
+    if (order_ == ByteOrder::little) {
+      for (std::size_t i = 0; i < sizeof bits; ++i) {
+        bits |= static_cast<Bits>(std::to_integer<Bits>(first[i]) << (8 * i));
+      }
+    } else {
+      for (std::size_t i = 0; i < sizeof bits; ++i) {
+        bits |= static_cast<Bits>(std::to_integer<Bits>(*(last - i)) << (8 * i));
+      }
     }
     return bits;
   }
 
  private:
-  std::span<const std::byte> bytes_;
-  std::size_t position_ = 0;
+  const std::byte* begin_;
+  const std::byte* at_;
+  const std::byte* end_;
   ByteOrder order_ = ByteOrder::little;
 };
 

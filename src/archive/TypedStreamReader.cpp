@@ -1,12 +1,17 @@
 #include "archive/TypedStreamReader.h"
 
-#include <bit>
 #include <stdexcept>
 #include <utility>
 
 namespace nascor::archive {
 
-TypedStreamReader::TypedStreamReader(std::span<const std::byte> bytes) : bytes_(bytes) { readHeader(); }
+TypedStreamReader::TypedStreamReader(std::span<const std::byte> bytes) : bytes_(bytes) {
+  plainHeads_.fill(kNoHead);
+  // As many as documents have. What a stream takes more, it takes in time.
+  constexpr std::size_t kBytesPerLabel = 16;
+  labels_.reserve(bytes.size() / kBytesPerLabel);
+  readHeader();
+}
 
 // ---- The header
 
@@ -55,7 +60,10 @@ std::size_t TypedStreamReader::takeGroupTypes(std::string_view wanted) {
       throw FormatError(begin, "the type string " + inQuotes(types.text) + " " + error.reason);
     }
     types.parsed = true;
-    if (types.text.size() == 1 && *number < plainTypes_.size()) plainTypes_[*number] = types.text.front();
+    const std::int64_t head = static_cast<std::int64_t>(*number) + kFirstNumber;
+    if (types.text.size() == 1 && head <= std::numeric_limits<std::int8_t>::max()) {
+      plainHeads_.at(static_cast<std::size_t>(types.text.front())) = static_cast<std::int16_t>(head);
+    }
   }
   return *number;
 }
@@ -87,7 +95,15 @@ std::optional<std::size_t> TypedStreamReader::takeShared(std::string_view wanted
   }
 }
 
-Label TypedStreamReader::takeLabel(LabelKind kind, std::string_view wanted) {
+inline Label TypedStreamReader::takeLabel(LabelKind kind, std::string_view wanted) {
+  // Nearly every label is one byte.
+  if (bytesLeft() > 0) {
+    const auto label = static_cast<Label>(bytes_.headAhead(0)) - static_cast<Label>(kFirstNumber);
+    if (label < labels_.size() && labels_[label].kind == kind) {
+      bytes_.pass(1);
+      return label;
+    }
+  }
   const std::size_t begin = offset();
   const Label label = bytes_.takeNumberOf("label", labels_.size(), wanted);
   if (labels_[label].kind != kind) refuse(begin, wanted, describeLabel(label) + " stands here");
@@ -110,15 +126,15 @@ ClassValue TypedStreamReader::takeClass(std::string_view wanted) {
       refuse(begin, wanted, "more than " + counted(kDepthLimit, "class record") + " stand in a chain");
     }
     const Label label = labels_.size();
-    labels_.push_back(
-        {.kind = LabelKind::cls, .complete = true, .cls = std::nullopt, .string = *name, .version = version});
+    labels_.push_back({.kind = LabelKind::cls, .complete = true, .about = classRecords_.size()});
+    classRecords_.push_back({.name = *name, .version = version, .superclass = std::nullopt});
     // Only once for each text: a short file can name one long text very often, and looking it up takes its
     // length.
     if (!std::exchange(strings_[*name].namesAClass, true)) classes_.try_emplace(strings_[*name].text, label);
     if (value.newRecords == 0) {
       value.label = label;
     } else {
-      labels_[label - 1].cls = label;
+      classRecords_[classRecords_.size() - 2].superclass = label;
     }
     ++value.newRecords;
     wanted = "a superclass";
@@ -128,7 +144,7 @@ ClassValue TypedStreamReader::takeClass(std::string_view wanted) {
   if (value.newRecords == 0) {
     value.label = seenBefore;
   } else {
-    labels_.back().cls = seenBefore;
+    classRecords_.back().superclass = seenBefore;
   }
   return value;
 }
@@ -210,16 +226,12 @@ CStringValue TypedStreamReader::readCString() {
       if (!number) refuse(value.offset, kWanted, "its text is nil");
       value.label = labels_.size();
       value.fresh = true;
-      labels_.push_back({.kind = LabelKind::cString,
-                         .complete = true,
-                         .cls = std::nullopt,
-                         .string = *number,
-                         .version = 0});
+      labels_.push_back({.kind = LabelKind::cString, .complete = true, .about = *number});
       break;
     }
     default: value.label = takeLabel(LabelKind::cString, kWanted);
   }
-  if (value.label) value.text = strings_[labels_[*value.label].string].text;
+  if (value.label) value.text = strings_[labels_[*value.label].about].text;
   walk_.passValue();
   return value;
 }
@@ -281,10 +293,10 @@ ObjectValue TypedStreamReader::objectThatIsDue(bool isOfItsGroup) {
       value.complete = false;
       // The object is numbered before its class, and the class stands before anything can refer to the
       // object.
-      labels_.push_back({.kind = LabelKind::object, .complete = false, .cls = {}, .string = 0, .version = 0});
+      labels_.push_back({.kind = LabelKind::object, .complete = false, .about = kNoClassYet});
       value.cls = takeClass("the class of an object");
       if (!value.cls.label) refuse(value.cls.offset, "the class of an object", "nil stands here");
-      labels_[value.label].cls = value.cls.label;
+      labels_[value.label].about = *value.cls.label;
       isOfItsGroup ? walk_.enterObjectOfItsGroup(value.label) : walk_.enterObject(value.label);
       return value;
     }
@@ -292,7 +304,7 @@ ObjectValue TypedStreamReader::objectThatIsDue(bool isOfItsGroup) {
       value.kind = ObjectValue::Kind::reference;
       value.label = takeLabel(LabelKind::object, kWanted);
       value.complete = labels_[value.label].complete;
-      value.cls = {.offset = value.offset, .label = labels_[value.label].cls, .newRecords = 0};
+      value.cls = {.offset = value.offset, .label = classOf(value.label), .newRecords = 0};
       if (!isOfItsGroup) walk_.passValue();
       return value;
   }
@@ -312,15 +324,8 @@ void TypedStreamReader::endObject() {
 // ---- Groups of one value. Nearly all are of a type that was met before and hold a value in one of its short forms; these
 // are read without the walk, which then stands as it stood. All else, and all that is wrong, goes the long way.
 
-/// Whether a group of this type alone begins here, and its head says so.
-inline bool TypedStreamReader::plainTypeFollows(char code) const {
-  if (bytesLeft() == 0 || !walk_.betweenGroups()) return false;
-  const int head = bytes_.headAhead(0);
-  return isNumber(head) && plainTypes_[static_cast<std::size_t>(head - kFirstNumber)] == code;
-}
-
 std::int32_t TypedStreamReader::takeInt() {
-  if (bytesLeft() >= 2 && plainTypeFollows('i') && isNumber(bytes_.headAhead(1))) {
+  if (plainGroupFollows('i', 1) && isNumber(bytes_.headAhead(1))) {
     const int value = bytes_.headAhead(1);
     bytes_.pass(2);
     return value;
@@ -329,20 +334,14 @@ std::int32_t TypedStreamReader::takeInt() {
   return static_cast<std::int32_t>(readInteger());
 }
 
-double TypedStreamReader::takeFloat() {
-  constexpr std::size_t kSize = 2 + sizeof(float);
-  if (bytesLeft() >= kSize && plainTypeFollows('f') && bytes_.headAhead(1) == kRealTag) {
-    bytes_.pass(kSize);
-    return std::bit_cast<float>(bytes_.fixedBehind<std::uint32_t>());
-  }
+double TypedStreamReader::takeOtherFloat() {
   expectGroup("f");
   return readReal();
 }
 
 double TypedStreamReader::takeDouble() {
-  constexpr std::size_t kSize = 2 + sizeof(double);
-  if (bytesLeft() >= kSize && plainTypeFollows('d') && bytes_.headAhead(1) == kRealTag) {
-    bytes_.pass(kSize);
+  if (plainGroupFollows('d', 1 + sizeof(double)) && bytes_.headAhead(1) == kRealTag) {
+    bytes_.pass(2 + sizeof(double));
     return std::bit_cast<double>(bytes_.fixedBehind<std::uint64_t>());
   }
   expectGroup("d");
@@ -350,7 +349,7 @@ double TypedStreamReader::takeDouble() {
 }
 
 std::optional<std::string_view> TypedStreamReader::takeString() {
-  if (bytesLeft() >= 2 && plainTypeFollows('+') && bytes_.headAhead(1) >= 0) {
+  if (plainGroupFollows('+', 1) && bytes_.headAhead(1) >= 0) {
     const auto length = static_cast<std::size_t>(bytes_.headAhead(1));
     if (bytesLeft() - 2 >= length) {
       bytes_.pass(2);
@@ -362,7 +361,7 @@ std::optional<std::string_view> TypedStreamReader::takeString() {
 }
 
 ObjectValue TypedStreamReader::takeObject() {
-  if (plainTypeFollows('@')) {
+  if (plainGroupFollows('@', 0)) {
     bytes_.pass(1);
     return objectThatIsDue(true);
   }
@@ -375,7 +374,7 @@ ObjectValue TypedStreamReader::takeObject() {
 std::optional<std::int64_t> TypedStreamReader::versionForClassName(std::string_view name) const {
   const auto found = classes_.find(name);
   if (found == classes_.end()) return std::nullopt;
-  return labels_[found->second].version;
+  return classVersion(found->second);
 }
 
 std::string TypedStreamReader::describe(const ObjectValue& object) const {
@@ -390,8 +389,8 @@ std::string TypedStreamReader::describeLabel(Label label) const {
     case LabelKind::cls: return "class " + number + " (" + printable(className(label)) + ")";
     case LabelKind::cString: return "C string " + number;
     default:
-      return "object " + number + " (" + (entry.cls ? printable(className(*entry.cls)) : "of no class yet") +
-             ")";
+      return "object " + number + " (" +
+             (entry.about == kNoClassYet ? "of no class yet" : printable(className(entry.about))) + ")";
   }
 }
 

@@ -1,9 +1,11 @@
 #pragma once
 
 #include <array>
+#include <bit>
 #include <cstddef>
 #include <cstdint>
 #include <deque>
+#include <limits>
 #include <optional>
 #include <span>
 #include <string>
@@ -118,8 +120,13 @@ class TypedStreamReader {
   /// @name One group with one value, the usual case in documents
   /// @{
 
-  std::int32_t takeInt();                        ///< A group of type i.
-  double takeFloat();                            ///< A group of type f, widened.
+  std::int32_t takeInt();  ///< A group of type i.
+  double takeFloat() {     ///< A group of type f, widened.
+    if (!plainGroupFollows('f', 1 + sizeof(float)) || bytes_.headAhead(1) != kRealTag)
+      return takeOtherFloat();
+    bytes_.pass(2 + sizeof(float));
+    return std::bit_cast<float>(bytes_.fixedBehind<std::uint32_t>());
+  }
   double takeDouble();                           ///< A group of type d.
   std::optional<std::string_view> takeString();  ///< A group of type +, empty for nil.
   ObjectValue takeObject();                      ///< A group of type @; groups follow when it is fresh.
@@ -128,11 +135,11 @@ class TypedStreamReader {
   /// @name What is known so far; labels come from values read
   /// @{
 
-  std::string_view className(Label cls) const { return strings_[labels_[cls].string].text; }
-  std::int64_t classVersion(Label cls) const { return labels_[cls].version; }
-  std::optional<Label> superclass(Label cls) const { return labels_[cls].cls; }
+  std::string_view className(Label cls) const { return strings_[recordOf(cls).name].text; }
+  std::int64_t classVersion(Label cls) const { return recordOf(cls).version; }
+  std::optional<Label> superclass(Label cls) const { return recordOf(cls).superclass; }
   /// The class of an object.
-  Label classOf(Label object) const { return *labels_[object].cls; }
+  Label classOf(Label object) const { return labels_[object].about; }
   /// The class name of an object that is not nil.
   std::string_view classNameOf(const ObjectValue& object) const { return className(*object.cls.label); }
   /// The version in the class record of that name; empty when no such record has been read.
@@ -145,12 +152,19 @@ class TypedStreamReader {
 
  private:
   enum class LabelKind : std::uint8_t { object, cls, cString };
+  /// Small, since there may be one for every two bytes of a stream.
   struct LabelEntry {
     LabelKind kind;
-    bool complete;             // objects
-    std::optional<Label> cls;  // the class of an object, the superclass of a class
-    std::size_t string;        // the name of a class, the text of a C string, as a number of strings_
-    std::int64_t version;      // classes
+    bool complete;  // objects
+    // The class of an object, kNoClassYet while that is being read; the number of a class among classRecords_; the text of a
+    // C string, as a number of strings_.
+    std::size_t about;
+  };
+  static constexpr Label kNoClassYet = std::numeric_limits<Label>::max();
+  struct ClassRecord {
+    std::size_t name;  // as a number of strings_
+    std::int64_t version;
+    std::optional<Label> superclass;
   };
   struct SharedString {
     std::string_view text;
@@ -166,7 +180,13 @@ class TypedStreamReader {
   Label takeLabel(LabelKind kind, std::string_view wanted);
   ClassValue takeClass(std::string_view wanted);
   ObjectValue objectThatIsDue(bool isOfItsGroup);
-  bool plainTypeFollows(char code) const;
+  /// Whether a group of this type alone begins here, with at least `size` bytes behind its head.
+  bool plainGroupFollows(char code, std::size_t size) const {
+    return bytesLeft() > size && walk_.betweenGroups() &&
+           bytes_.headAhead(0) == plainHeads_[static_cast<std::size_t>(code)];
+  }
+  double takeOtherFloat();
+  const ClassRecord& recordOf(Label cls) const { return classRecords_[labels_[cls].about]; }
 
   const TypeNode& dueOf(std::string_view codes, std::string_view wanted) const;
   void checkDepth() const;
@@ -176,9 +196,11 @@ class TypedStreamReader {
   std::int64_t systemVersion_ = 0;
   ValueWalk walk_;
   std::deque<SharedString> strings_;  // a deque, since the walk points into it while it grows
-  // Of the strings whose numbers take one byte: the type that each is, where it has been the whole of a group's types.
-  std::array<char, 238> plainTypes_{};
-  std::deque<LabelEntry> labels_;  // a deque, since a vector that grows takes three times its size
+  // By the code of a type: the head that stands for it, once it has been the whole of a group's types.
+  static constexpr std::int16_t kNoHead = std::numeric_limits<std::int16_t>::max();
+  std::array<std::int16_t, 128> plainHeads_;
+  std::vector<LabelEntry> labels_;
+  std::deque<ClassRecord> classRecords_;  // a deque, since a vector that grows takes three times its size
   std::unordered_map<std::string_view, Label> classes_;  // the first record of each name
 };
 

@@ -17,8 +17,10 @@ bool fits(std::int64_t value) {
 
 /// Whole numbers of 32 bits are written as integers, whatever the width of the real. The border is that of
 /// the conversion to a 32-bit integer, with which the value is compared; a NaN fails every comparison.
-bool isWrittenAsInteger(double value) {
-  return value >= -2147483648.0 && value < 2147483648.0 && value == static_cast<std::int32_t>(value);
+template <class Real>
+bool isWrittenAsInteger(Real value) {
+  constexpr Real kBorder = 2147483648.0;
+  return value >= -kBorder && value < kBorder && value == static_cast<Real>(static_cast<std::int32_t>(value));
 }
 
 /// No number takes more bytes than its head and eight, whether it is whole or real.
@@ -53,14 +55,14 @@ std::byte* writtenNumber(std::byte* to, std::int64_t value) {
 template <class Real>
 std::byte* writtenReal(std::byte* to, Real value) {
   using Bits = std::conditional_t<sizeof(Real) == 4, std::uint32_t, std::uint64_t>;
-  if (isWrittenAsInteger(static_cast<double>(value)))
-    return writtenNumber(to, static_cast<std::int64_t>(value));
+  if (isWrittenAsInteger(value)) return writtenNumber(to, static_cast<std::int64_t>(value));
   return writtenFixed(writtenByte(to, kRealTag), std::bit_cast<Bits>(value));
 }
 
 }  // namespace
 
 TypedStreamWriter::TypedStreamWriter(std::int64_t systemVersion) {
+  plainHeads_.fill(kNilTag);
   appendNumber(kStreamerVersion);
   appendUnshared(kLittleEndianSignature);
   appendNumber(systemVersion);
@@ -127,9 +129,8 @@ std::optional<Label> TypedStreamWriter::appendClass(const ClassDescription* cls)
   return label;
 }
 
-/// The object is numbered before its class, which follows.
-Label TypedStreamWriter::appendNewObject() {
-  appendByte(kNewTag);
+/// The label of an object that begins here. It is numbered before its class.
+inline Label TypedStreamWriter::numberedObject() {
   labels_.push_back('@');
   return labels_.size() - 1;
 }
@@ -230,7 +231,8 @@ void TypedStreamWriter::beginStructure() {
 
 Label TypedStreamWriter::beginObject(const ClassDescription& cls) {
   dueOf("@");
-  const Label label = appendNewObject();
+  appendByte(kNewTag);
+  const Label label = numberedObject();
   appendClass(&cls);
   walk_.enterObject(label);
   return label;
@@ -258,18 +260,25 @@ void TypedStreamWriter::writeReference(Label label) {
 
 // ---- Groups of one value. They are complete as soon as they begin, so the walk need not open them.
 
-[[gnu::noinline]] std::byte* TypedStreamWriter::beginFirstPlainGroup(char type) {
+/// What follows a type that stands alone: the mark of something new and a number, or a number.
+constexpr std::size_t kLongestPlainValue = 1 + kLongestNumber;
+
+[[gnu::noinline]] std::byte* TypedStreamWriter::beginOtherPlainGroup(char type) {
   appendShared({&type, 1});
-  plainTypes_[static_cast<unsigned char>(type)] = stringNumbers_.at({&type, 1}) + 1;
-  return roomFor(kLongestNumber);
+  const std::size_t number = stringNumbers_.at({&type, 1});
+  const std::int64_t head = static_cast<std::int64_t>(number) + kFirstNumber;
+  if (head <= std::numeric_limits<std::int8_t>::max()) {
+    plainHeads_.at(static_cast<std::size_t>(type)) = static_cast<std::int8_t>(head);
+  }
+  return roomFor(kLongestPlainValue);
 }
 
-/// Writes the type, and returns where its value may be written, a number or a head byte.
+/// Writes the type, and returns where its value may be written.
 inline std::byte* TypedStreamWriter::beginPlainGroup(char type) {
   walk_.requireBetweenGroups();
-  const std::size_t number = plainTypes_[static_cast<unsigned char>(type)];
-  if (number == 0) return beginFirstPlainGroup(type);
-  return writtenNumber(roomFor(2 * kLongestNumber), static_cast<std::int64_t>(number - 1) + kFirstNumber);
+  const int head = plainHeads_[static_cast<std::size_t>(type)];
+  if (head == kNilTag) return beginOtherPlainGroup(type);
+  return writtenByte(roomFor(1 + kLongestPlainValue), head);
 }
 
 void TypedStreamWriter::putInt(std::int32_t value) { at_ = writtenNumber(beginPlainGroup('i'), value); }
@@ -289,10 +298,10 @@ Label TypedStreamWriter::putObject(const ClassDescription& cls) {
 }
 
 Label TypedStreamWriter::putObject(WrittenClass& cls) {
-  at_ = beginPlainGroup('@');
-  const Label label = appendNewObject();
+  at_ = writtenByte(beginPlainGroup('@'), kNewTag);
+  const Label label = numberedObject();
   if (cls.label) {
-    appendLabel(*cls.label);
+    at_ = writtenNumber(at_, static_cast<std::int64_t>(*cls.label) + kFirstNumber);
   } else {
     cls.label = appendClass(cls.description);
   }

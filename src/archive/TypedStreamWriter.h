@@ -100,7 +100,7 @@ class TypedStreamWriter {
 
   const TypeNode& dueOf(std::string_view codes) const;
   std::byte* beginPlainGroup(char type);
-  [[gnu::cold]] std::byte* beginFirstPlainGroup(char type);
+  [[gnu::cold]] std::byte* beginOtherPlainGroup(char type);
   std::byte* roomFor(std::size_t size) {
     if (static_cast<std::size_t>(end_ - at_) < size) grow(size);
     return at_;
@@ -113,7 +113,7 @@ class TypedStreamWriter {
   void appendUnshared(std::string_view text);
   SharedString& appendShared(std::string_view text);
   std::optional<Label> appendClass(const ClassDescription* cls);
-  Label appendNewObject();
+  Label numberedObject();
 
   // NOLINTNEXTLINE(*-avoid-c-arrays): room that is not cleared before it is written
   std::unique_ptr<std::byte[]> bytes_;
@@ -122,8 +122,8 @@ class TypedStreamWriter {
   ValueWalk walk_;
   std::deque<SharedString> strings_;  // a deque, since the walk and the map point into it while it grows
   std::unordered_map<std::string_view, std::size_t> stringNumbers_;
-  std::array<std::size_t, 128>
-      plainTypes_{};  // 1 + the number of the string that is this one character; 0: none yet
+  // By the code of a type: the head that stands for it, once it has been the whole of a group's types; kNilTag before.
+  std::array<std::int8_t, 128> plainHeads_;
   std::vector<std::pair<std::string, Label>> classes_;  // no document has more than a handful
   std::vector<char> labels_;                            // the type code of each: '@', '#' or '*'
 };

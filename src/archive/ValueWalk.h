@@ -21,19 +21,15 @@ class ValueWalk {
   const TypeNode* due() const;
 
   /// True where a group may begin: at the top, or in an object, with no value of the last group left.
-  bool betweenGroups() const {
-    if (frames_.empty()) return true;
-    const Frame& top = frames_.back();
-    return top.kind == Kind::object || (top.kind == Kind::group && top.next == top.end);
-  }
+  bool betweenGroups() const { return innermost_.kind == Kind::object; }
   /// Throws unless betweenGroups().
   void requireBetweenGroups() const {
     if (!betweenGroups()) refuse();
   }
-  /// True when an object is open, however deep inside it the walk stands.
-  bool insideObject() const { return !objects_.empty(); }
-  /// The innermost open object. Only when insideObject().
-  Label object() const { return objects_.back(); }
+  /// True when an object is open. Only betweenGroups().
+  bool insideObject() const { return !around_.empty(); }
+  /// The innermost open object. Only betweenGroups() and insideObject().
+  Label object() const { return innermost_.count; }
   /// True when one more object, array or structure would pass kDepthLimit.
   bool atDepthLimit() const { return depth_ == kDepthLimit; }
 
@@ -43,22 +39,14 @@ class ValueWalk {
 
   void passValue();               ///< Goes over the value that is due. Only when one is.
   void enterObject(Label label);  ///< Goes into the object that is due; its groups follow. Only when one is.
-  /// Opens a group of one object and goes into that. Only betweenGroups().
-  void enterObjectOfItsGroup(Label label) {
-    if (!frames_.empty() && frames_.back().kind == Kind::group) frames_.pop_back();
-    frames_.push_back({Kind::object, nullptr, nullptr, 0});
-    objects_.push_back(label);
-    ++depth_;
-  }
+  /// Goes into an object that is the whole of its group. Only betweenGroups().
+  void enterObjectOfItsGroup(Label label) { open({Kind::object, nullptr, nullptr, label}); }
   /// Leaves the innermost open object and returns its label.
   Label leaveObject() {
-    if (!insideObject()) refuseToLeave();
     requireBetweenGroups();
-    if (frames_.back().kind == Kind::group) frames_.pop_back();
-    frames_.pop_back();
-    --depth_;
-    const Label label = objects_.back();
-    objects_.pop_back();
+    if (!insideObject()) refuseToLeave();
+    const Label label = object();
+    close();
     return label;
   }
   void enterArray();      ///< Goes into the array that is due. Only when one is.
@@ -67,21 +55,31 @@ class ValueWalk {
   void leaveStructure() { leave(Kind::structure); }
 
  private:
-  enum class Kind { group, array, structure, object };
+  enum class Kind : std::uint8_t { group, array, structure, object };
   struct Frame {
     Kind kind;
-    const TypeNode* next;     // the next type; an array stays at its element
-    const TypeNode* end;      // behind the last type of a group or structure
-    std::uint64_t remaining;  // elements of an array still to come
+    const TypeNode* next;  // the next type; an array stays at its element
+    const TypeNode* end;   // behind the last type of a group or structure
+    std::uint64_t count;   // the elements of an array still to come; the label of an object
   };
 
   [[noreturn]] static void refuse();
   [[noreturn]] static void refuseToLeave();
-  void enter(Kind kind, const TypeNode* first, const TypeNode* end, std::uint64_t count);
+  void open(const Frame& frame) {
+    around_.push_back(innermost_);
+    innermost_ = frame;
+    depth_ += frame.kind == Kind::group ? 0 : 1;
+  }
+  void close() {
+    depth_ -= innermost_.kind == Kind::group ? 0 : 1;
+    innermost_ = around_.back();
+    around_.pop_back();
+  }
   void leave(Kind kind);
 
-  std::vector<Frame> frames_;
-  std::vector<Label> objects_;
+  Frame innermost_{Kind::object, nullptr, nullptr,
+                   0};         // at first the stream itself, which holds groups as an object does
+  std::vector<Frame> around_;  // what holds it, the stream first
   std::size_t depth_ = 0;
 };
 

@@ -34,13 +34,11 @@ std::int64_t Unarchiver::versionForClassName(std::string_view name) const {
 
 std::int64_t Unarchiver::decodeInteger() { return reader_.takeInt(); }
 
-double Unarchiver::decodeFloat() { return reader_.takeFloat(); }
-
 std::optional<std::string> Unarchiver::decodeString() {
   const ObjectValue object = takeObject(string_);
   if (object.isNil()) return std::nullopt;
   if (object.isReference()) {
-    const auto text = decodedAt<std::string_view>(object);
+    const auto text = texts_.at(object);
     chargeForCopy(object, text.size());
     return std::string(text);
   }
@@ -50,17 +48,17 @@ std::optional<std::string> Unarchiver::decodeString() {
                                          std::string(text ? "not UTF-8" : "missing"));
   }
   reader_.endObject();
-  keep(object, *text);
+  texts_.keep(object, *text);
   return std::string(*text);
 }
 
 std::optional<Date> Unarchiver::decodeDate() {
   const ObjectValue object = takeObject(date_);
   if (object.isNil()) return std::nullopt;
-  if (object.isReference()) return decodedAt<Date>(object);
+  if (object.isReference()) return dates_.at(object);
   const Date date{reader_.takeDouble()};
   reader_.endObject();
-  keep(object, date);
+  dates_.keep(object, date);
   return date;
 }
 
@@ -86,7 +84,7 @@ std::unique_ptr<NCRecord> Unarchiver::decodeExamination() {
   const ObjectValue object = takeObject(examination_);
   if (object.isNil()) throw FormatError(object.offset, "expected an NCRecord, but nil stands here");
   if (object.isReference()) {
-    const NCRecord& shared = *decodedAt<const NCRecord*>(object);
+    const NCRecord& shared = *keptExaminations_.at(object);
     chargeForCopy(object, shared.note().value_or("").size() +
                               shared.measurements().size() * sizeof(MeasurementsRecord));
     ++facts_.sharedRecords;
@@ -94,7 +92,7 @@ std::unique_ptr<NCRecord> Unarchiver::decodeExamination() {
   }
   auto examination = std::make_unique<NCRecord>(NCRecord::initWithCoder(*this));
   reader_.endObject();
-  keep(object, examination.get());
+  keptExaminations_.keep(object, examination.get());
   return examination;
 }
 
@@ -106,7 +104,7 @@ std::vector<MeasurementsRecord> Unarchiver::decodeMeasurements() {
     return measurements;
   }
   if (array.isReference()) {
-    const auto shared = decodedAt<Measurements>(array);
+    const auto shared = arrays_.at(array);
     chargeForCopy(array, shared.size_bytes());
     ++facts_.sharedRecords;
     return {shared.begin(), shared.end()};
@@ -118,7 +116,7 @@ std::vector<MeasurementsRecord> Unarchiver::decodeMeasurements() {
   for (; left > 0; --left) measurements.push_back(decodeMeasurementsRecord());
   reader_.endObject();
   // The elements stay where they are when the vector moves into its examination.
-  keep(array, Measurements(measurements));
+  arrays_.keep(array, measurements);
   return measurements;
 }
 
@@ -127,11 +125,11 @@ MeasurementsRecord Unarchiver::decodeMeasurementsRecord() {
   if (object.isNil()) throw FormatError(object.offset, "expected a MeasurementsRecord, but nil stands here");
   if (object.isReference()) {
     ++facts_.sharedRecords;
-    return decodedAt<MeasurementsRecord>(object);
+    return records_.at(object);
   }
   const MeasurementsRecord record = MeasurementsRecord::initWithCoder(*this);
   reader_.endObject();
-  keep(object, record);
+  records_.keep(object, record);
   return record;
 }
 
@@ -151,17 +149,6 @@ ObjectValue Unarchiver::takeObject(Expected& expected) {
 void Unarchiver::refuse(const ObjectValue& object, const Expected& expected, const char* reason) const {
   throw FormatError(object.offset, "expected " + std::string(expected.wanted) + ", but " +
                                        reader_.describe(object) + reason);
-}
-
-void Unarchiver::keep(const ObjectValue& object, Decoded decoded) {
-  if (decoded_.size() <= object.label) decoded_.resize(object.label + 1);
-  decoded_[object.label] = decoded;
-}
-
-template <class Value>
-const Value& Unarchiver::decodedAt(const ObjectValue& reference) const {
-  // The class of the object has been checked, and each class is decoded to one kind of value.
-  return std::get<Value>(decoded_.at(reference.label));
 }
 
 void Unarchiver::chargeForCopy(const ObjectValue& reference, std::size_t bytes) {

@@ -1,13 +1,12 @@
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
-#include <deque>
 #include <optional>
 #include <span>
 #include <string>
 #include <string_view>
-#include <variant>
 #include <vector>
 
 #include "archive/TypedStreamReader.h"
@@ -47,7 +46,7 @@ class Unarchiver {
   std::int64_t versionForClassName(std::string_view name) const;
 
   std::int64_t decodeInteger();
-  double decodeFloat();
+  double decodeFloat() { return reader_.takeFloat(); }
   std::optional<std::string> decodeString();
   std::optional<foundation::Date> decodeDate();
   PatientRecord::Examinations decodeExaminations();
@@ -56,10 +55,27 @@ class Unarchiver {
   std::optional<std::string> decodeGravidityText();
 
  private:
-  using Measurements = std::span<const MeasurementsRecord>;
-  /// Texts point into the file, the others into the patient that is being built.
-  using Decoded = std::variant<std::monostate, std::string_view, foundation::Date, MeasurementsRecord,
-                               Measurements, const NCRecord*>;
+  /// What the objects of one kind were decoded to, by label. None of a kind stands in another of it, so they are complete
+  /// in the order of their labels.
+  template <class Value>
+  class Decoded {
+   public:
+    void keep(const archive::ObjectValue& object, const Value& value) {
+      values_.push_back({object.label, value});
+    }
+    /// Only of an object that was kept.
+    const Value& at(const archive::ObjectValue& reference) const {
+      const auto found = std::ranges::lower_bound(values_, reference.label, {}, &Labelled::label);
+      return values_.at(static_cast<std::size_t>(found - values_.begin())).value;
+    }
+
+   private:
+    struct Labelled {
+      archive::Label label;
+      Value value;
+    };
+    std::vector<Labelled> values_;
+  };
 
   /// What may stand where an object is decoded.
   struct Expected {
@@ -72,9 +88,6 @@ class Unarchiver {
   archive::ObjectValue takeObject(Expected& expected);
   [[noreturn]] void refuse(const archive::ObjectValue& object, const Expected& expected,
                            const char* reason) const;
-  void keep(const archive::ObjectValue& object, Decoded decoded);
-  template <class Value>
-  const Value& decodedAt(const archive::ObjectValue& reference) const;
   void chargeForCopy(const archive::ObjectValue& reference, std::size_t bytes);
   std::int32_t takeCount();
   std::unique_ptr<NCRecord> decodeExamination();
@@ -82,7 +95,12 @@ class Unarchiver {
 
   std::size_t size_;
   archive::TypedStreamReader reader_;
-  std::deque<Decoded> decoded_;  // by label
+  // Texts point into the file, the last two into the patient that is being built.
+  Decoded<std::string_view> texts_;
+  Decoded<foundation::Date> dates_;
+  Decoded<MeasurementsRecord> records_;
+  Decoded<std::span<const MeasurementsRecord>> arrays_;
+  Decoded<const NCRecord*> keptExaminations_;
   Expected patient_{{class_name::patientRecord, class_name::patientRecord}, "a PatientRecord"};
   Expected string_{{class_name::string, class_name::mutableString}, "a string or nil"};
   Expected date_{{class_name::date, class_name::date}, "a date or nil"};
