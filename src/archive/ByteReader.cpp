@@ -20,13 +20,14 @@ std::string describeTag(int head) {
 
 }  // namespace
 
+void ByteReader::refuseShort(std::uint64_t length, std::string_view wanted) const {
+  refuse(position(), wanted,
+         left() == 0 ? "the file ends here"
+                     : "only " + std::to_string(left()) + " of its " + counted(length, "byte") + " are left");
+}
+
 std::span<const std::byte> ByteReader::takeBytes(std::uint64_t length, std::string_view wanted) {
-  if (length > left()) {
-    refuse(position(), wanted,
-           left() == 0
-               ? "the file ends here"
-               : "only " + std::to_string(left()) + " of its " + counted(length, "byte") + " are left");
-  }
+  if (length > left()) refuseShort(length, wanted);
   pass(static_cast<std::size_t>(length));
   return {at_ - length, at_};
 }

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <algorithm>
+#include <array>
+#include <bit>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -21,9 +24,9 @@ class ByteReader {
   explicit ByteReader(std::span<const std::byte> bytes)
       : begin_(bytes.data()), at_(begin_), end_(begin_ + bytes.size()) {}
 
-  ByteOrder order() const { return order_; }
+  ByteOrder order() const { return isTurned_ ? kOther : kOwn; }
   /// Little before the first call.
-  void setOrder(ByteOrder order) { order_ = order; }
+  void setOrder(ByteOrder order) { isTurned_ = order != kOwn; }
 
   /// The bytes before the next one.
   std::size_t position() const { return static_cast<std::size_t>(at_ - begin_); }
@@ -45,7 +48,8 @@ class ByteReader {
   /// The next bytes as a number of that many, in the stream's order.
   template <class Bits>
   Bits takeFixed(std::string_view wanted) {
-    takeBytes(sizeof(Bits), wanted);
+    if (left() < sizeof(Bits)) refuseShort(sizeof(Bits), wanted);
+    pass(sizeof(Bits));
     return fixedBehind<Bits>();
   }
   /// A number in whichever form it stands: its head alone, or a tag and two, four or eight bytes.
@@ -67,27 +71,23 @@ class ByteReader {
   /// The bytes passed last, as a number.
   template <class Bits>
   Bits fixedBehind() const {
-    const std::byte* last = at_ - 1;
-    const std::byte* first = at_ - sizeof(Bits);
-    Bits bits = 0;
-    // Two plain loops, each of which compilers know as one load.
-    if (order_ == ByteOrder::little) {
-      for (std::size_t i = 0; i < sizeof bits; ++i) {
-        bits |= static_cast<Bits>(std::to_integer<Bits>(first[i]) << (8 * i));
-      }
-    } else {
-      for (std::size_t i = 0; i < sizeof bits; ++i) {
-        bits |= static_cast<Bits>(std::to_integer<Bits>(*(last - i)) << (8 * i));
-      }
-    }
-    return bits;
+    std::array<std::byte, sizeof(Bits)> bytes{};
+    std::copy(at_ - sizeof(Bits), at_, bytes.begin());
+    if (isTurned_) std::ranges::reverse(bytes);
+    return std::bit_cast<Bits>(bytes);
   }
 
  private:
+  [[noreturn]] void refuseShort(std::uint64_t length, std::string_view wanted) const;
+
   const std::byte* begin_;
   const std::byte* at_;
   const std::byte* end_;
-  ByteOrder order_ = ByteOrder::little;
+  // The order of this machine, and the other.
+  static constexpr ByteOrder kOwn =
+      std::endian::native == std::endian::big ? ByteOrder::big : ByteOrder::little;
+  static constexpr ByteOrder kOther = kOwn == ByteOrder::big ? ByteOrder::little : ByteOrder::big;
+  bool isTurned_ = kOwn != ByteOrder::little;
 };
 
 }  // namespace nascor::archive

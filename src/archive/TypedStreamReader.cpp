@@ -5,11 +5,16 @@
 
 namespace nascor::archive {
 
-TypedStreamReader::TypedStreamReader(std::span<const std::byte> bytes) : bytes_(bytes) {
+namespace {
+
+/// In documents. What a stream has more labels, it makes room for in time.
+constexpr std::size_t kBytesPerLabel = 16;
+
+}  // namespace
+
+TypedStreamReader::TypedStreamReader(std::span<const std::byte> bytes)
+    : bytes_(bytes), labels_(bytes.size() / kBytesPerLabel) {
   plainHeads_.fill(kNoHead);
-  // As many as documents have. What a stream takes more, it takes in time.
-  constexpr std::size_t kBytesPerLabel = 16;
-  labels_.reserve(bytes.size() / kBytesPerLabel);
   readHeader();
 }
 
@@ -88,22 +93,14 @@ std::optional<std::size_t> TypedStreamReader::takeShared(std::string_view wanted
       bytes_.pass(1);
       const auto text = bytes_.takeText(wanted);
       if (!text) refuse(begin, wanted, "its text is nil");
-      strings_.push_back({.text = *text, .types = {}, .parsed = false, .namesAClass = false});
+      strings_.push_back({.text = *text, .types = {}, .parsed = false, .cls = std::nullopt});
       return strings_.size() - 1;
     }
     default: return bytes_.takeNumberOf("string", strings_.size(), wanted);
   }
 }
 
-inline Label TypedStreamReader::takeLabel(LabelKind kind, std::string_view wanted) {
-  // Nearly every label is one byte.
-  if (bytesLeft() > 0) {
-    const auto label = static_cast<Label>(bytes_.headAhead(0)) - static_cast<Label>(kFirstNumber);
-    if (label < labels_.size() && labels_[label].kind == kind) {
-      bytes_.pass(1);
-      return label;
-    }
-  }
+Label TypedStreamReader::takeLabel(LabelKind kind, std::string_view wanted) {
   const std::size_t begin = offset();
   const Label label = bytes_.takeNumberOf("label", labels_.size(), wanted);
   if (labels_[label].kind != kind) refuse(begin, wanted, describeLabel(label) + " stands here");
@@ -125,12 +122,9 @@ ClassValue TypedStreamReader::takeClass(std::string_view wanted) {
     if (value.newRecords == kDepthLimit) {
       refuse(begin, wanted, "more than " + counted(kDepthLimit, "class record") + " stand in a chain");
     }
-    const Label label = labels_.size();
-    labels_.push_back({.kind = LabelKind::cls, .complete = true, .about = classRecords_.size()});
+    const Label label = newLabel(LabelKind::cls, classRecords_.size());
     classRecords_.push_back({.name = *name, .version = version, .superclass = std::nullopt});
-    // Only once for each text: a short file can name one long text very often, and looking it up takes its
-    // length.
-    if (!std::exchange(strings_[*name].namesAClass, true)) classes_.try_emplace(strings_[*name].text, label);
+    if (!strings_[*name].cls) strings_[*name].cls = label;
     if (value.newRecords == 0) {
       value.label = label;
     } else {
@@ -161,11 +155,9 @@ const TypeNode& TypedStreamReader::dueOf(std::string_view codes, std::string_vie
   return *type;
 }
 
-void TypedStreamReader::checkDepth() const {
-  if (walk_.atDepthLimit()) {
-    throw FormatError(
-        offset(), "objects, arrays and structures nest more than " + std::to_string(kDepthLimit) + " deep");
-  }
+void TypedStreamReader::refuseDepth() const {
+  throw FormatError(offset(),
+                    "objects, arrays and structures nest more than " + std::to_string(kDepthLimit) + " deep");
 }
 
 std::int64_t TypedStreamReader::readInteger() {
@@ -186,19 +178,19 @@ std::int64_t TypedStreamReader::readInteger() {
   return value;
 }
 
-double TypedStreamReader::readReal() {
-  const TypeNode& type = dueOf("fd", "a real");
-  const bool isSingle = type.code == 'f';
-  double value = 0;
+inline double TypedStreamReader::realOfType(char code) {
+  const bool isSingle = code == 'f';
   if (!bytes_.tookHead(kRealTag)) {
     // A single-precision real is one in whichever form it is written.
     const std::int64_t whole = bytes_.takeNumber("a real");
-    value = isSingle ? static_cast<double>(static_cast<float>(whole)) : static_cast<double>(whole);
-  } else if (isSingle) {
-    value = std::bit_cast<float>(bytes_.takeFixed<std::uint32_t>("a real"));
-  } else {
-    value = std::bit_cast<double>(bytes_.takeFixed<std::uint64_t>("a real"));
+    return isSingle ? static_cast<double>(static_cast<float>(whole)) : static_cast<double>(whole);
   }
+  if (isSingle) return std::bit_cast<float>(bytes_.takeFixed<std::uint32_t>("a real"));
+  return std::bit_cast<double>(bytes_.takeFixed<std::uint64_t>("a real"));
+}
+
+double TypedStreamReader::readReal() {
+  const double value = realOfType(dueOf("fd", "a real").code);
   walk_.passValue();
   return value;
 }
@@ -224,9 +216,8 @@ CStringValue TypedStreamReader::readCString() {
       bytes_.pass(1);
       const auto number = takeShared(kWanted);
       if (!number) refuse(value.offset, kWanted, "its text is nil");
-      value.label = labels_.size();
+      value.label = newLabel(LabelKind::cString, *number);
       value.fresh = true;
-      labels_.push_back({.kind = LabelKind::cString, .complete = true, .about = *number});
       break;
     }
     default: value.label = takeLabel(LabelKind::cString, kWanted);
@@ -289,11 +280,10 @@ ObjectValue TypedStreamReader::objectThatIsDue(bool isOfItsGroup) {
       checkDepth();
       bytes_.pass(1);
       value.kind = ObjectValue::Kind::fresh;
-      value.label = labels_.size();
       value.complete = false;
       // The object is numbered before its class, and the class stands before anything can refer to the
       // object.
-      labels_.push_back({.kind = LabelKind::object, .complete = false, .about = kNoClassYet});
+      value.label = newLabel(LabelKind::object, kNoLabel);
       value.cls = takeClass("the class of an object");
       if (!value.cls.label) refuse(value.cls.offset, "the class of an object", "nil stands here");
       labels_[value.label].about = *value.cls.label;
@@ -310,15 +300,10 @@ ObjectValue TypedStreamReader::objectThatIsDue(bool isOfItsGroup) {
   }
 }
 
-void TypedStreamReader::endObject() {
-  const Label label = walk_.leaveObject();
-  if (bytes_.tookHead(kEndTag)) {
-    labels_[label].complete = true;
-    return;
-  }
-  const auto wanted = [&] { return "the end of " + describeLabel(label); };
-  if (bytesLeft() == 0) refuse(offset(), wanted(), "the file ends here");
-  refuse(offset(), wanted(), "more values follow");
+void TypedStreamReader::refuseEnd(Label label) const {
+  const std::string wanted = "the end of " + describeLabel(label);
+  if (bytesLeft() == 0) refuse(offset(), wanted, "the file ends here");
+  refuse(offset(), wanted, "more values follow");
 }
 
 // ---- Groups of one value. Nearly all are of a type that was met before and hold a value in one of its short forms; these
@@ -335,14 +320,18 @@ std::int32_t TypedStreamReader::takeInt() {
 }
 
 double TypedStreamReader::takeOtherFloat() {
+  if (plainGroupFollows('f', 0)) {
+    bytes_.pass(1);
+    return realOfType('f');
+  }
   expectGroup("f");
   return readReal();
 }
 
 double TypedStreamReader::takeDouble() {
-  if (plainGroupFollows('d', 1 + sizeof(double)) && bytes_.headAhead(1) == kRealTag) {
-    bytes_.pass(2 + sizeof(double));
-    return std::bit_cast<double>(bytes_.fixedBehind<std::uint64_t>());
+  if (plainGroupFollows('d', 0)) {
+    bytes_.pass(1);
+    return realOfType('d');
   }
   expectGroup("d");
   return readReal();
@@ -360,7 +349,7 @@ std::optional<std::string_view> TypedStreamReader::takeString() {
   return readString();
 }
 
-ObjectValue TypedStreamReader::takeObject() {
+ObjectValue TypedStreamReader::takeOtherObject() {
   if (plainGroupFollows('@', 0)) {
     bytes_.pass(1);
     return objectThatIsDue(true);
@@ -372,9 +361,10 @@ ObjectValue TypedStreamReader::takeObject() {
 // ---- What is known
 
 std::optional<std::int64_t> TypedStreamReader::versionForClassName(std::string_view name) const {
-  const auto found = classes_.find(name);
-  if (found == classes_.end()) return std::nullopt;
-  return classVersion(found->second);
+  for (const SharedString& string : strings_) {
+    if (string.cls && string.text == name) return classVersion(*string.cls);
+  }
+  return std::nullopt;
 }
 
 std::string TypedStreamReader::describe(const ObjectValue& object) const {
@@ -390,7 +380,7 @@ std::string TypedStreamReader::describeLabel(Label label) const {
     case LabelKind::cString: return "C string " + number;
     default:
       return "object " + number + " (" +
-             (entry.about == kNoClassYet ? "of no class yet" : printable(className(entry.about))) + ")";
+             (entry.about == kNoLabel ? "of no class yet" : printable(className(entry.about))) + ")";
   }
 }
 

@@ -10,12 +10,12 @@
 #include <span>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
 #include "archive/ByteReader.h"
 #include "archive/Encoding.h"
 #include "archive/FormatError.h"
+#include "archive/Pile.h"
 #include "archive/TypeString.h"
 #include "archive/ValueWalk.h"
 
@@ -114,7 +114,11 @@ class TypedStreamReader {
   /// Type @. Groups follow when it is fresh, until endObject().
   ObjectValue beginObject();
   /// Ends the innermost open object, which must have no groups left.
-  void endObject();
+  void endObject() {
+    const Label label = walk_.leaveObject();
+    if (!bytes_.tookHead(kEndTag)) refuseEnd(label);
+    labels_[label].complete = true;
+  }
 
   /// @}
   /// @name One group with one value, the usual case in documents
@@ -122,14 +126,35 @@ class TypedStreamReader {
 
   std::int32_t takeInt();  ///< A group of type i.
   double takeFloat() {     ///< A group of type f, widened.
-    if (!plainGroupFollows('f', 1 + sizeof(float)) || bytes_.headAhead(1) != kRealTag)
-      return takeOtherFloat();
-    bytes_.pass(2 + sizeof(float));
-    return std::bit_cast<float>(bytes_.fixedBehind<std::uint32_t>());
+    if (!plainGroupFollows('f', 1 + sizeof(float))) return takeOtherFloat();
+    const int head = bytes_.headAhead(1);
+    if (head == kRealTag) {
+      bytes_.pass(2 + sizeof(float));
+      return std::bit_cast<float>(bytes_.fixedBehind<std::uint32_t>());
+    }
+    if (!isNumber(head)) return takeOtherFloat();
+    bytes_.pass(2);
+    return head;
   }
   double takeDouble();                           ///< A group of type d.
   std::optional<std::string_view> takeString();  ///< A group of type +, empty for nil.
-  ObjectValue takeObject();                      ///< A group of type @; groups follow when it is fresh.
+  /// A group of type @; groups follow when it is fresh.
+  ObjectValue takeObject() {
+    // Nearly every object is new, and of a class seen before.
+    if (!plainGroupFollows('@', 2) || bytes_.headAhead(1) != kNewTag || walk_.atDepthLimit()) {
+      return takeOtherObject();
+    }
+    const Label cls = labelOf(bytes_.headAhead(2), LabelKind::cls);
+    if (cls == kNoLabel) return takeOtherObject();
+    bytes_.pass(3);
+    const Label label = newLabel(LabelKind::object, cls);
+    walk_.enterObjectOfItsGroup(label);
+    return {.offset = offset() - 2,
+            .kind = ObjectValue::Kind::fresh,
+            .label = label,
+            .cls = {.offset = offset() - 1, .label = cls, .newRecords = 0},
+            .complete = false};
+  }
 
   /// @}
   /// @name What is known so far; labels come from values read
@@ -151,16 +176,16 @@ class TypedStreamReader {
   /// @}
 
  private:
+  static constexpr Label kNoLabel = std::numeric_limits<Label>::max();
   enum class LabelKind : std::uint8_t { object, cls, cString };
   /// Small, since there may be one for every two bytes of a stream.
   struct LabelEntry {
     LabelKind kind;
     bool complete;  // objects
-    // The class of an object, kNoClassYet while that is being read; the number of a class among classRecords_; the text of a
+    // The class of an object, kNoLabel while that is being read; the number of a class among classRecords_; the text of a
     // C string, as a number of strings_.
     std::size_t about;
   };
-  static constexpr Label kNoClassYet = std::numeric_limits<Label>::max();
   struct ClassRecord {
     std::size_t name;  // as a number of strings_
     std::int64_t version;
@@ -169,8 +194,8 @@ class TypedStreamReader {
   struct SharedString {
     std::string_view text;
     std::vector<TypeNode> types;
-    bool parsed;       // types are those of the text
-    bool namesAClass;  // and stands in classes_
+    bool parsed;               // types are those of the text
+    std::optional<Label> cls;  // the first class of that name
   };
 
   // `wanted` is what the caller expected, in words ("an object"), for the message.
@@ -186,10 +211,27 @@ class TypedStreamReader {
            bytes_.headAhead(0) == plainHeads_[static_cast<std::size_t>(code)];
   }
   double takeOtherFloat();
+  double realOfType(char code);
+  ObjectValue takeOtherObject();
+  Label newLabel(LabelKind kind, std::size_t about) {
+    const Label label = labels_.size();
+    labels_.added() = {.kind = kind, .complete = kind != LabelKind::object, .about = about};
+    return label;
+  }
+  /// The label of that kind whose number is `head`; kNoLabel where there is none.
+  Label labelOf(int head, LabelKind kind) const {
+    // A head that is no number wraps to a label that nothing has.
+    const auto label = static_cast<Label>(head) - static_cast<Label>(kFirstNumber);
+    return label < labels_.size() && labels_[label].kind == kind ? label : kNoLabel;
+  }
   const ClassRecord& recordOf(Label cls) const { return classRecords_[labels_[cls].about]; }
 
   const TypeNode& dueOf(std::string_view codes, std::string_view wanted) const;
-  void checkDepth() const;
+  [[noreturn]] void refuseEnd(Label label) const;
+  void checkDepth() const {
+    if (walk_.atDepthLimit()) refuseDepth();
+  }
+  [[noreturn]] void refuseDepth() const;
   std::string describeLabel(Label label) const;
 
   ByteReader bytes_;
@@ -199,9 +241,8 @@ class TypedStreamReader {
   // By the code of a type: the head that stands for it, once it has been the whole of a group's types.
   static constexpr std::int16_t kNoHead = std::numeric_limits<std::int16_t>::max();
   std::array<std::int16_t, 128> plainHeads_;
-  std::vector<LabelEntry> labels_;
+  Pile<LabelEntry> labels_;
   std::deque<ClassRecord> classRecords_;  // a deque, since a vector that grows takes three times its size
-  std::unordered_map<std::string_view, Label> classes_;  // the first record of each name
 };
 
 }  // namespace nascor::archive

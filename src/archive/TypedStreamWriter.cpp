@@ -6,6 +6,7 @@
 #include <limits>
 #include <stdexcept>
 #include <type_traits>
+#include <utility>
 
 namespace nascor::archive {
 namespace {
@@ -15,31 +16,9 @@ bool fits(std::int64_t value) {
   return value >= std::numeric_limits<Integer>::min() && value <= std::numeric_limits<Integer>::max();
 }
 
-/// Whole numbers of 32 bits are written as integers, whatever the width of the real. The border is that of
-/// the conversion to a 32-bit integer, with which the value is compared; a NaN fails every comparison.
-template <class Real>
-bool isWrittenAsInteger(Real value) {
-  constexpr Real kBorder = 2147483648.0;
-  return value >= -kBorder && value < kBorder && value == static_cast<Real>(static_cast<std::int32_t>(value));
-}
+}  // namespace
 
-/// No number takes more bytes than its head and eight, whether it is whole or real.
-constexpr std::size_t kLongestNumber = 9;
-
-// Each writes where it is told, which has room, and returns where it ended.
-
-std::byte* writtenByte(std::byte* to, int value) {
-  *to = static_cast<std::byte>(static_cast<unsigned char>(value));
-  return to + 1;
-}
-
-template <class Bits>
-std::byte* writtenFixed(std::byte* to, Bits bits) {
-  for (std::size_t i = 0; i < sizeof bits; ++i) to[i] = static_cast<std::byte>(bits >> (8 * i) & 0xffU);
-  return to + sizeof bits;
-}
-
-[[gnu::noinline]] std::byte* writtenLongNumber(std::byte* to, std::int64_t value) {
+std::byte* writtenLongNumber(std::byte* to, std::int64_t value) {
   if (fits<std::int16_t>(value))
     return writtenFixed(writtenByte(to, kInt16Tag), static_cast<std::uint16_t>(value));
   if (fits<std::int32_t>(value))
@@ -47,22 +26,11 @@ std::byte* writtenFixed(std::byte* to, Bits bits) {
   return writtenFixed(writtenByte(to, kInt64Tag), static_cast<std::uint64_t>(value));
 }
 
-std::byte* writtenNumber(std::byte* to, std::int64_t value) {
-  const bool isHead = value >= kFirstNumber && value <= std::numeric_limits<std::int8_t>::max();
-  return isHead ? writtenByte(to, static_cast<int>(value)) : writtenLongNumber(to, value);
-}
-
-template <class Real>
-std::byte* writtenReal(std::byte* to, Real value) {
-  using Bits = std::conditional_t<sizeof(Real) == 4, std::uint32_t, std::uint64_t>;
-  if (isWrittenAsInteger(value)) return writtenNumber(to, static_cast<std::int64_t>(value));
-  return writtenFixed(writtenByte(to, kRealTag), std::bit_cast<Bits>(value));
-}
-
-}  // namespace
-
 TypedStreamWriter::TypedStreamWriter(std::int64_t systemVersion) {
   plainHeads_.fill(kNilTag);
+  constexpr std::size_t kUsual = 16;  // strings, and classes, of a document
+  byText_.reserve(kUsual);
+  notObjects_.reserve(kUsual);
   appendNumber(kStreamerVersion);
   appendUnshared(kLittleEndianSignature);
   appendNumber(systemVersion);
@@ -71,7 +39,7 @@ TypedStreamWriter::TypedStreamWriter(std::int64_t systemVersion) {
 // ---- Bytes and numbers
 
 [[gnu::noinline]] void TypedStreamWriter::grow(std::size_t size) {
-  constexpr std::size_t kLeast = 1024;
+  constexpr std::size_t kLeast = 4096;
   const auto used = static_cast<std::size_t>(at_ - bytes_.get());
   const std::size_t room = std::max(kLeast, 2 * (used + size));
   // NOLINTNEXTLINE(*-avoid-c-arrays): room that is not cleared before it is written
@@ -97,42 +65,56 @@ void TypedStreamWriter::appendUnshared(std::string_view text) {
   appendBytes(std::as_bytes(std::span(text)));
 }
 
-TypedStreamWriter::SharedString& TypedStreamWriter::appendShared(std::string_view text) {
-  if (const auto known = stringNumbers_.find(text); known != stringNumbers_.end()) {
-    appendLabel(known->second);
-    return strings_[known->second];
+/// The shared string of that text. A new one has the next number and must be written next.
+TypedStreamWriter::SharedString& TypedStreamWriter::sharedString(std::string_view text) {
+  const auto isBefore = [](const SharedString* one, std::string_view other) {
+    return one->text.size() != other.size() ? one->text.size() < other.size() : one->text < other;
+  };
+  const auto place = std::lower_bound(byText_.begin(), byText_.end(), text, isBefore);
+  if (place != byText_.end() && (*place)->text == text) return **place;
+  strings_.push_back({.text = std::string(text), .number = strings_.size()});
+  return **byText_.insert(place, &strings_.back());
+}
+
+void TypedStreamWriter::appendShared(SharedString& string) {
+  if (std::exchange(string.isWritten, true)) {
+    appendLabel(string.number);
+  } else {
+    appendByte(kNewTag);
+    appendUnshared(string.text);
   }
-  appendByte(kNewTag);
-  appendUnshared(text);
-  strings_.push_back({.text = std::string(text), .types = {}});
-  stringNumbers_.emplace(strings_.back().text, strings_.size() - 1);
-  return strings_.back();
+}
+
+TypedStreamWriter::SharedString& TypedStreamWriter::appendShared(std::string_view text) {
+  SharedString& string = sharedString(text);
+  appendShared(string);
+  return string;
 }
 
 /// The label of the class; nothing for nil.
 std::optional<Label> TypedStreamWriter::appendClass(const ClassDescription* cls) {
   std::optional<Label> label;
   for (; cls != nullptr; cls = cls->superclass) {
-    const auto known = std::ranges::find(classes_, cls->name, &std::pair<std::string, Label>::first);
-    if (known != classes_.end()) {
-      appendLabel(known->second);
-      return label.value_or(known->second);
+    SharedString& name = sharedString(cls->name);
+    if (name.cls) {
+      appendLabel(*name.cls);
+      return label.value_or(*name.cls);
     }
-    if (!label) label = labels_.size();
-    classes_.emplace_back(cls->name, labels_.size());
     appendByte(kNewTag);
-    appendShared(cls->name);
+    appendShared(name);
     appendNumber(cls->version);
-    labels_.push_back('#');
+    name.cls = nextLabel_;
+    if (!label) label = nextLabel_;
+    notObjects_.emplace_back(nextLabel_++, '#');
   }
   appendByte(kNilTag);
   return label;
 }
 
-/// The label of an object that begins here. It is numbered before its class.
-inline Label TypedStreamWriter::numberedObject() {
-  labels_.push_back('@');
-  return labels_.size() - 1;
+/// The type code of what has that label: '@', '#' or '*'.
+char TypedStreamWriter::kindOf(Label label) const {
+  const auto other = std::ranges::lower_bound(notObjects_, label, {}, &std::pair<Label, char>::first);
+  return other != notObjects_.end() && other->first == label ? other->second : '@';
 }
 
 // ---- Groups and values
@@ -198,9 +180,9 @@ Label TypedStreamWriter::writeCString(std::string_view text) {
   dueOf("*");
   appendByte(kNewTag);
   appendShared(text);
-  labels_.push_back('*');
+  notObjects_.emplace_back(nextLabel_, '*');
   walk_.passValue();
-  return labels_.size() - 1;
+  return nextLabel_++;
 }
 
 void TypedStreamWriter::writeClass(const ClassDescription& cls) {
@@ -232,7 +214,7 @@ void TypedStreamWriter::beginStructure() {
 Label TypedStreamWriter::beginObject(const ClassDescription& cls) {
   dueOf("@");
   appendByte(kNewTag);
-  const Label label = numberedObject();
+  const Label label = nextLabel_++;  // before its class
   appendClass(&cls);
   walk_.enterObject(label);
   return label;
@@ -251,7 +233,7 @@ void TypedStreamWriter::writeNil() {
 
 void TypedStreamWriter::writeReference(Label label) {
   const TypeNode& type = dueOf("@*");
-  if (label >= labels_.size() || labels_[label] != type.code) {
+  if (label >= nextLabel_ || kindOf(label) != type.code) {
     throw std::logic_error("label " + std::to_string(label) + " is not " + describeTypes(type.text));
   }
   appendLabel(label);
@@ -260,13 +242,9 @@ void TypedStreamWriter::writeReference(Label label) {
 
 // ---- Groups of one value. They are complete as soon as they begin, so the walk need not open them.
 
-/// What follows a type that stands alone: the mark of something new and a number, or a number.
-constexpr std::size_t kLongestPlainValue = 1 + kLongestNumber;
-
 [[gnu::noinline]] std::byte* TypedStreamWriter::beginOtherPlainGroup(char type) {
-  appendShared({&type, 1});
-  const std::size_t number = stringNumbers_.at({&type, 1});
-  const std::int64_t head = static_cast<std::int64_t>(number) + kFirstNumber;
+  const SharedString& shared = appendShared({&type, 1});
+  const std::int64_t head = static_cast<std::int64_t>(shared.number) + kFirstNumber;
   if (head <= std::numeric_limits<std::int8_t>::max()) {
     plainHeads_.at(static_cast<std::size_t>(type)) = static_cast<std::int8_t>(head);
   }
@@ -289,7 +267,8 @@ void TypedStreamWriter::putDouble(double value) { at_ = writtenReal(beginPlainGr
 
 void TypedStreamWriter::putString(std::string_view text) {
   at_ = writtenNumber(beginPlainGroup('+'), static_cast<std::int64_t>(text.size()));
-  appendBytes(std::as_bytes(std::span(text)));
+  std::ranges::copy(std::as_bytes(std::span(text)), roomFor(text.size()));
+  at_ += text.size();
 }
 
 Label TypedStreamWriter::putObject(const ClassDescription& cls) {
@@ -297,16 +276,19 @@ Label TypedStreamWriter::putObject(const ClassDescription& cls) {
   return putObject(unknown);
 }
 
-Label TypedStreamWriter::putObject(WrittenClass& cls) {
+[[gnu::noinline]] Label TypedStreamWriter::putFirstObject(WrittenClass& cls) {
   at_ = writtenByte(beginPlainGroup('@'), kNewTag);
-  const Label label = numberedObject();
-  if (cls.label) {
-    at_ = writtenNumber(at_, static_cast<std::int64_t>(*cls.label) + kFirstNumber);
-  } else {
-    cls.label = appendClass(cls.description);
-  }
+  const Label label = nextLabel_++;  // before its class
+  cls.label = appendClass(cls.description);
   walk_.enterObjectOfItsGroup(label);
   return label;
+}
+
+Label TypedStreamWriter::putObjectOf(Label cls) {
+  std::byte* to = writtenByte(beginPlainGroup('@'), kNewTag);
+  at_ = writtenNumber(to, static_cast<std::int64_t>(cls) + kFirstNumber);
+  walk_.enterObjectOfItsGroup(nextLabel_);
+  return nextLabel_++;
 }
 
 void TypedStreamWriter::putNil() { at_ = writtenByte(beginPlainGroup('@'), kNilTag); }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <concepts>
 #include <cstddef>
 #include <cstdint>
 #include <deque>
@@ -9,13 +10,13 @@
 #include <span>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <utility>
 #include <vector>
 
 #include "archive/Encoding.h"
 #include "archive/TypeString.h"
 #include "archive/ValueWalk.h"
+#include "archive/WrittenNumber.h"
 
 namespace nascor::archive {
 
@@ -78,12 +79,27 @@ class TypedStreamWriter {
   /// @name One group with one value, the usual case in documents
   /// @{
 
-  void putInt(std::int32_t value);               ///< A group of type i.
-  void putFloat(float value);                    ///< A group of type f.
+  void putInt(std::int32_t value);  ///< A group of type i.
+  void putFloat(float value);       ///< A group of type f.
+  /// A group of type f for each.
+  template <std::same_as<float>... Floats>
+  void putFloats(Floats... values) {
+    const int head = plainHeads_['f'];
+    if (head == kNilTag || !walk_.betweenGroups()) {
+      (putFloat(values), ...);
+      return;
+    }
+    std::byte* to = roomFor(sizeof...(values) * (1 + kLongestNumber));
+    ((to = writtenReal(writtenByte(to, head), values)), ...);
+    at_ = to;
+  }
   void putDouble(double value);                  ///< A group of type d.
   void putString(std::string_view text);         ///< A group of type +.
   Label putObject(const ClassDescription& cls);  ///< A group of type @; groups follow until endObject().
-  Label putObject(WrittenClass& cls);
+  Label putObject(WrittenClass& cls) {
+    if (!cls.label) return putFirstObject(cls);
+    return putObjectOf(*cls.label);
+  }
   void putNil();                   ///< A group of type @ with nil.
   void putReference(Label label);  ///< A group of type @.
 
@@ -95,8 +111,14 @@ class TypedStreamWriter {
  private:
   struct SharedString {
     std::string text;
-    std::vector<TypeNode> types;  // empty until first used as a type string
+    std::size_t number;
+    bool isWritten = false;
+    std::vector<TypeNode> types{};  // empty until first used as a type string
+    std::optional<Label> cls{};     // of the class of that name
   };
+
+  /// What follows a type that stands alone: the mark of something new and a number, or a number.
+  static constexpr std::size_t kLongestPlainValue = 1 + kLongestNumber;
 
   const TypeNode& dueOf(std::string_view codes) const;
   std::byte* beginPlainGroup(char type);
@@ -111,21 +133,26 @@ class TypedStreamWriter {
   void appendNumber(std::int64_t value);
   void appendLabel(std::size_t number) { appendNumber(static_cast<std::int64_t>(number) + kFirstNumber); }
   void appendUnshared(std::string_view text);
+  SharedString& sharedString(std::string_view text);
+  void appendShared(SharedString& string);
   SharedString& appendShared(std::string_view text);
   std::optional<Label> appendClass(const ClassDescription* cls);
-  Label numberedObject();
+  char kindOf(Label label) const;
+  Label putFirstObject(WrittenClass& cls);
+  Label putObjectOf(Label cls);
 
   // NOLINTNEXTLINE(*-avoid-c-arrays): room that is not cleared before it is written
-  std::unique_ptr<std::byte[]> bytes_;
-  std::byte* at_ = nullptr;   // where the next byte is written
-  std::byte* end_ = nullptr;  // of the room
+  std::unique_ptr<std::byte[]> bytes_;  // written up to at_
+  std::byte* at_ = nullptr;
+  std::byte* end_ = nullptr;
   ValueWalk walk_;
-  std::deque<SharedString> strings_;  // a deque, since the walk and the map point into it while it grows
-  std::unordered_map<std::string_view, std::size_t> stringNumbers_;
+  std::deque<SharedString> strings_;   // a deque, since the walk points into it while it grows
+  std::vector<SharedString*> byText_;  // the same, sorted
   // By the code of a type: the head that stands for it, once it has been the whole of a group's types; kNilTag before.
   std::array<std::int8_t, 128> plainHeads_;
-  std::vector<std::pair<std::string, Label>> classes_;  // no document has more than a handful
-  std::vector<char> labels_;                            // the type code of each: '@', '#' or '*'
+  Label nextLabel_ = 0;
+  std::vector<std::pair<Label, char>>
+      notObjects_;  // the labels of classes '#' and C strings '*', in their order
 };
 
 }  // namespace nascor::archive

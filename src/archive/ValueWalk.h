@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "archive/Encoding.h"
+#include "archive/Pile.h"
 #include "archive/TypeString.h"
 
 namespace nascor::archive {
@@ -40,7 +41,12 @@ class ValueWalk {
   void passValue();               ///< Goes over the value that is due. Only when one is.
   void enterObject(Label label);  ///< Goes into the object that is due; its groups follow. Only when one is.
   /// Goes into an object that is the whole of its group. Only betweenGroups().
-  void enterObjectOfItsGroup(Label label) { open({Kind::object, nullptr, nullptr, label}); }
+  void enterObjectOfItsGroup(Label label) {
+    around_.added() = innermost_;
+    innermost_.kind = Kind::object;
+    innermost_.count = label;
+    ++depth_;
+  }
   /// Leaves the innermost open object and returns its label.
   Label leaveObject() {
     requireBetweenGroups();
@@ -55,7 +61,7 @@ class ValueWalk {
   void leaveStructure() { leave(Kind::structure); }
 
  private:
-  enum class Kind : std::uint8_t { group, array, structure, object };
+  enum class Kind : std::uint64_t { group, array, structure, object };
   struct Frame {
     Kind kind;
     const TypeNode* next;  // the next type; an array stays at its element
@@ -66,20 +72,19 @@ class ValueWalk {
   [[noreturn]] static void refuse();
   [[noreturn]] static void refuseToLeave();
   void open(const Frame& frame) {
-    around_.push_back(innermost_);
+    around_.added() = innermost_;
     innermost_ = frame;
     depth_ += frame.kind == Kind::group ? 0 : 1;
   }
   void close() {
     depth_ -= innermost_.kind == Kind::group ? 0 : 1;
-    innermost_ = around_.back();
-    around_.pop_back();
+    innermost_ = around_.pop();
   }
   void leave(Kind kind);
 
   Frame innermost_{Kind::object, nullptr, nullptr,
-                   0};         // at first the stream itself, which holds groups as an object does
-  std::vector<Frame> around_;  // what holds it, the stream first
+                   0};  // at first the stream itself, which holds groups as an object does
+  Pile<Frame> around_;  // what holds it, the stream first
   std::size_t depth_ = 0;
 };
 

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <vector>
 
 namespace nascor::foundation {
@@ -77,6 +78,13 @@ void removeLastCharacter(std::string& text) {
 }
 
 bool isValidUtf8(std::string_view bytes) {
+  // Most texts are ASCII, which is seen eight characters at a time.
+  std::uint64_t eight = 0;
+  while (bytes.size() >= sizeof eight) {
+    std::memcpy(&eight, bytes.data(), sizeof eight);
+    if ((eight & 0x8080808080808080U) != 0) break;
+    bytes.remove_prefix(sizeof eight);
+  }
   while (!bytes.empty()) {
     const std::size_t length = characterLength(bytes);
     if (length == 0) return false;

@@ -36,6 +36,14 @@ std::vector<std::byte> Archiver::finish() && { return std::move(writer_).finish(
 
 void Archiver::encodeInteger(std::int64_t value) { writer_.putInt(foundation::low32Bits(value)); }
 
+void Archiver::encodeFloat(double value) { writer_.putFloat(foundation::narrowedToFloat(value)); }
+
+void Archiver::encodeLengths(const calc::Biometry& lengths) {
+  using foundation::narrowedToFloat;
+  writer_.putFloats(narrowedToFloat(lengths.bpd), narrowedToFloat(lengths.hc), narrowedToFloat(lengths.ac),
+                    narrowedToFloat(lengths.fl));
+}
+
 void Archiver::encodeString(const std::optional<std::string_view>& text) {
   if (!text) {
     writer_.putNil();

@@ -6,7 +6,6 @@
 #include <vector>
 
 #include "archive/TypedStreamWriter.h"
-#include "foundation/ConvertInteger.h"
 #include "model/ClassNames.h"
 #include "model/PatientRecord.h"
 
@@ -24,9 +23,9 @@ class Archiver {
   /// The whole file. Call it last.
   std::vector<std::byte> finish() &&;
 
-  void encodeInteger(std::int64_t value);  ///< its low 32 bits
-  /// The nearest single-precision number.
-  void encodeFloat(double value) { writer_.putFloat(foundation::narrowedToFloat(value)); }
+  void encodeInteger(std::int64_t value);             ///< its low 32 bits
+  void encodeFloat(double value);                     ///< the nearest single-precision number
+  void encodeLengths(const calc::Biometry& lengths);  ///< the same of each of the four
   void encodeString(const std::optional<std::string_view>& text);
   void encodeDate(const std::optional<foundation::Date>& date);
   void encodeExaminations(const PatientRecord::Examinations& examinations);

@@ -41,20 +41,13 @@ double MeasurementsRecord::estimatedFetalWeightShepard() const {
   return calc::estimatedFetalWeightShepard(measured_);
 }
 
-void MeasurementsRecord::encodeWithCoder(Archiver& coder) const {
-  coder.encodeFloat(bpd());
-  coder.encodeFloat(hc());
-  coder.encodeFloat(ac());
-  coder.encodeFloat(fl());
-}
+void MeasurementsRecord::encodeWithCoder(Archiver& coder) const { coder.encodeLengths(measured_); }
 
 MeasurementsRecord MeasurementsRecord::initWithCoder(Unarchiver& coder) {
-  MeasurementsRecord record;
-  record.setBPD(coder.decodeFloat());
-  record.setHC(coder.decodeFloat());
-  record.setAC(coder.decodeFloat());
-  record.setFL(coder.decodeFloat());
-  return record;
+  return MeasurementsRecord({.bpd = coder.decodeFloat(),
+                             .hc = coder.decodeFloat(),
+                             .ac = coder.decodeFloat(),
+                             .fl = coder.decodeFloat()});
 }
 
 }  // namespace nascor::model

@@ -51,9 +51,9 @@ void NCRecord::encodeWithCoder(Archiver& coder) const {
 
 NCRecord NCRecord::initWithCoder(Unarchiver& coder) {
   NCRecord record;
-  record.setNote(coder.decodeString());
-  record.setExamDate(coder.decodeDate());
-  if (coder.versionForClassName(class_name::ncRecord) != 0) {
+  record.itsNote_ = coder.decodeString();
+  record.examDate_ = coder.decodeDate();
+  if (coder.ncRecordVersion() != 0) {
     record.measurements_ = coder.decodeMeasurements();
   } else {
     record.measurements_.push_back(MeasurementsRecord::initWithCoder(coder));

@@ -32,6 +32,18 @@ std::int64_t Unarchiver::versionForClassName(std::string_view name) const {
   return reader_.versionForClassName(name).value_or(0);
 }
 
+std::int64_t Unarchiver::ncRecordVersion() {
+  if (!ncRecordVersion_) ncRecordVersion_ = versionForClassName(class_name::ncRecord);
+  return *ncRecordVersion_;
+}
+
+ObjectValue Unarchiver::takeObject(Expected& expected) {
+  const ObjectValue object = reader_.takeObject();
+  const bool isUsual = object.isFresh() && *object.cls.label == expected.fitting;
+  if (!isUsual) check(object, expected);
+  return object;
+}
+
 std::int64_t Unarchiver::decodeInteger() { return reader_.takeInt(); }
 
 std::optional<std::string> Unarchiver::decodeString() {
@@ -75,7 +87,10 @@ PatientRecord::Examinations Unarchiver::decodeExaminations() {
     return examinations;
   }
   // The first array of a file: nothing before it could be referred to.
-  for (std::int32_t left = takeCount(); left > 0; --left) examinations.push_back(decodeExamination());
+  std::int32_t left = takeCount();
+  // A file may state any count.
+  examinations.reserve(std::min(static_cast<std::size_t>(left), size_ / kBytesPerExamination));
+  for (; left > 0; --left) examinations.push_back(decodeExamination());
   reader_.endObject();
   return examinations;
 }
@@ -133,17 +148,15 @@ MeasurementsRecord Unarchiver::decodeMeasurementsRecord() {
   return record;
 }
 
-ObjectValue Unarchiver::takeObject(Expected& expected) {
-  const ObjectValue object = reader_.takeObject();
-  if (object.isNil()) return object;
-  if (object.cls.label != expected.fitting) {
+void Unarchiver::check(const ObjectValue& object, Expected& expected) const {
+  if (object.isNil()) return;
+  if (*object.cls.label != expected.fitting) {
     const auto& names = expected.classNames;
     if (std::ranges::find(names, reader_.classNameOf(object)) == names.end())
       refuse(object, expected, " stands here");
-    expected.fitting = object.cls.label;
+    expected.fitting = *object.cls.label;
   }
   if (object.isReference() && !object.complete) refuse(object, expected, " would contain itself");
-  return object;
 }
 
 void Unarchiver::refuse(const ObjectValue& object, const Expected& expected, const char* reason) const {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <limits>
 #include <optional>
 #include <span>
 #include <string>
@@ -44,6 +45,8 @@ class Unarchiver {
 
   /// The version that the file records for a class; 0 for a class that it does not name.
   std::int64_t versionForClassName(std::string_view name) const;
+  /// That of NCRecord, of which one has been begun.
+  std::int64_t ncRecordVersion();
 
   std::int64_t decodeInteger();
   double decodeFloat() { return reader_.takeFloat(); }
@@ -60,13 +63,13 @@ class Unarchiver {
   template <class Value>
   class Decoded {
    public:
+    explicit Decoded(std::size_t expected) : values_(expected) {}
     void keep(const archive::ObjectValue& object, const Value& value) {
-      values_.push_back({object.label, value});
+      values_.added() = {object.label, value};
     }
     /// Only of an object that was kept.
     const Value& at(const archive::ObjectValue& reference) const {
-      const auto found = std::ranges::lower_bound(values_, reference.label, {}, &Labelled::label);
-      return values_.at(static_cast<std::size_t>(found - values_.begin())).value;
+      return std::ranges::lower_bound(values_, reference.label, {}, &Labelled::label)->value;
     }
 
    private:
@@ -74,18 +77,19 @@ class Unarchiver {
       archive::Label label;
       Value value;
     };
-    std::vector<Labelled> values_;
+    archive::Pile<Labelled> values_;
   };
 
   /// What may stand where an object is decoded.
   struct Expected {
     std::array<std::string_view, 2> classNames;  ///< twice the same where there is one
     std::string_view wanted;
-    std::optional<archive::Label>
-        fitting{};  ///< the class that fitted last, so that its name is compared once
+    /// The class that fitted last, so that its name is compared once; at first none.
+    archive::Label fitting = std::numeric_limits<archive::Label>::max();
   };
 
   archive::ObjectValue takeObject(Expected& expected);
+  void check(const archive::ObjectValue& object, Expected& expected) const;
   [[noreturn]] void refuse(const archive::ObjectValue& object, const Expected& expected,
                            const char* reason) const;
   void chargeForCopy(const archive::ObjectValue& reference, std::size_t bytes);
@@ -95,12 +99,15 @@ class Unarchiver {
 
   std::size_t size_;
   archive::TypedStreamReader reader_;
-  // Texts point into the file, the last two into the patient that is being built.
-  Decoded<std::string_view> texts_;
-  Decoded<foundation::Date> dates_;
-  Decoded<MeasurementsRecord> records_;
-  Decoded<std::span<const MeasurementsRecord>> arrays_;
-  Decoded<const NCRecord*> keptExaminations_;
+  // Texts point into the file, the last two into the patient that is being built. Room for as many as a file of this length
+  // usually has; what it has more of, it gets in time.
+  static constexpr std::size_t kBytesPerExamination = 128;
+  static constexpr std::size_t kBytesPerRecord = 28;
+  Decoded<std::string_view> texts_{size_ / kBytesPerExamination};
+  Decoded<foundation::Date> dates_{size_ / kBytesPerExamination};
+  Decoded<MeasurementsRecord> records_{size_ / kBytesPerRecord};
+  Decoded<std::span<const MeasurementsRecord>> arrays_{size_ / kBytesPerExamination};
+  Decoded<const NCRecord*> keptExaminations_{size_ / kBytesPerExamination};
   Expected patient_{{class_name::patientRecord, class_name::patientRecord}, "a PatientRecord"};
   Expected string_{{class_name::string, class_name::mutableString}, "a string or nil"};
   Expected date_{{class_name::date, class_name::date}, "a date or nil"};
@@ -109,6 +116,7 @@ class Unarchiver {
   Expected measurements_{{class_name::array, class_name::mutableArray}, "an array of measurements or nil"};
   Expected measurementsRecord_{{class_name::measurementsRecord, class_name::measurementsRecord},
                                "a MeasurementsRecord"};
+  std::optional<std::int64_t> ncRecordVersion_;  // that of the first class record, whatever follows
   std::size_t copiedBytes_ = 0;
   ArchiveFacts facts_;
 };
