@@ -8,7 +8,8 @@
 namespace nascor::calc {
 
 double zScore(const ReferenceTable& table, double value, double age) {
-  return zScore(value, meanForGestation(table, age), sdForGestation(table, age));
+  const auto [mean, sd] = meanAndSDForGestation(table, age);
+  return zScore(value, mean, sd);
 }
 
 double centileOfZ(double z) {

@@ -1,33 +1,41 @@
 #include "calc/LookUp.h"
 
-#include <algorithm>
+#include <cstddef>
 
 namespace nascor::calc {
 namespace {
 
-/// The first row that is not before `gestation`; the number of rows where there is none. With a row for each week, the weeks
-/// since the first row lead there at once; in another table the neighbours are looked at.
-std::size_t rowForGestation(const ReferenceTable& table, double gestation) {
-  if (!(gestation <= table.back().observation())) return table.size();
-  const double weeks = gestation - table.front().observation();
-  if (weeks <= 0.0) return 0;
-  std::size_t i = std::min(static_cast<std::size_t>(weeks), table.size() - 1);
-  while (table[i].observation() < gestation) ++i;
-  while (table[i - 1].observation() >= gestation) --i;
-  return i;
+/// The place of an age in a table: in a row, or some way from that row to the next.
+struct Place {
+  const DatabaseRecord* row;  ///< null on an empty table and for an age of exactly 0.0
+  bool isBetween;
+  double part;  ///< of the way to the next row
+};
+
+/// With a row for each week, the weeks since the first row lead to the age at once; in another table the neighbours are looked
+/// at.
+Place placeOf(const ReferenceTable& table, double gestation) {
+  if (gestation == 0.0 || table.empty()) return {nullptr, false, 0.0};
+  const DatabaseRecord* const first = table.data();
+  const DatabaseRecord* const last = first + (table.size() - 1);
+  if (!(gestation <= last->observation())) return {last, false, 0.0};
+  const double weeks = gestation - first->observation();
+  if (weeks <= 0.0) return {first, false, 0.0};
+
+  // The first row that is not before the age. There is one, and it is not the first.
+  const DatabaseRecord* after =
+      weeks < static_cast<double>(last - first) ? first + static_cast<std::ptrdiff_t>(weeks) : last;
+  while (after->observation() < gestation) ++after;
+  while (after[-1].observation() >= gestation) --after;
+  const DatabaseRecord* const before = after - 1;
+  return {before, true, (gestation - before->observation()) / (after->observation() - before->observation())};
 }
 
-double interpolated(const ReferenceTable& table, double gestation, double (DatabaseRecord::*column)() const) {
-  if (gestation == 0.0 || table.empty()) return 0.0;
-  const std::size_t i = rowForGestation(table, gestation);
-  if (i == table.size()) return (table.back().*column)();
-  if (i == 0) return (table.front().*column)();
-
-  const DatabaseRecord& before = table[i - 1];
-  const DatabaseRecord& after = table[i];
-  return (before.*column)() + (gestation - before.observation()) /
-                                  (after.observation() - before.observation()) *
-                                  ((after.*column)() - (before.*column)());
+template <double (DatabaseRecord::*kColumn)() const>
+double valueAt(const Place& place) {
+  if (place.row == nullptr) return 0.0;
+  const double before = (place.row->*kColumn)();
+  return place.isBetween ? before + place.part * ((place.row[1].*kColumn)() - before) : before;
 }
 
 /// The first row whose mean is not below `value`; the last one where there is none, without a look at its mean.
@@ -53,11 +61,16 @@ double gestationForMeasurement(const ReferenceTable& table, double value) {
 }
 
 double meanForGestation(const ReferenceTable& table, double gestation) {
-  return interpolated(table, gestation, &DatabaseRecord::mean);
+  return valueAt<&DatabaseRecord::mean>(placeOf(table, gestation));
 }
 
 double sdForGestation(const ReferenceTable& table, double gestation) {
-  return interpolated(table, gestation, &DatabaseRecord::sd);
+  return valueAt<&DatabaseRecord::sd>(placeOf(table, gestation));
+}
+
+MeanAndSD meanAndSDForGestation(const ReferenceTable& table, double gestation) {
+  const Place place = placeOf(table, gestation);
+  return {.mean = valueAt<&DatabaseRecord::mean>(place), .sd = valueAt<&DatabaseRecord::sd>(place)};
 }
 
 BeyondTable weekBeyondTable(const ReferenceTable& table, double gestation) {

@@ -19,6 +19,14 @@ double meanForGestation(const ReferenceTable& table, double gestation);
 /// The standard deviation at `gestation` weeks, by the same rules.
 double sdForGestation(const ReferenceTable& table, double gestation);
 
+struct MeanAndSD {
+  double mean;
+  double sd;
+};
+
+/// Both, for about the price of one.
+MeanAndSD meanAndSDForGestation(const ReferenceTable& table, double gestation);
+
 /// Where a look-up leaves its table, and which week it then answers from.
 enum class BeyondTable { no, before, after };
 

@@ -12,7 +12,8 @@ bool projectionIsShown(double ageAtLastExam, double plannedGestation) {
 
 double projectedValue(const ReferenceTable& table, double value, double age, double plannedGestation) {
   const double z = value != 0.0 ? zScore(table, value, age) : 0.0;
-  return meanForGestation(table, plannedGestation) + z * sdForGestation(table, plannedGestation);
+  const auto [mean, sd] = meanAndSDForGestation(table, plannedGestation);
+  return mean + z * sd;
 }
 
 }  // namespace nascor::calc

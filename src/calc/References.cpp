@@ -42,9 +42,8 @@ const ReferenceTable& tableOf(Quantity quantity) {
 
 template <std::int64_t Standard>
 Population standardPopulation(Quantity quantity, double week) {
-  const ReferenceTable& table = tableOf<Standard>(quantity);
-  return Population(
-      NormalPopulation{.mean = meanForGestation(table, week), .sd = sdForGestation(table, week)});
+  const auto [mean, sd] = meanAndSDForGestation(tableOf<Standard>(quantity), week);
+  return Population(NormalPopulation{.mean = mean, .sd = sd});
 }
 
 /// On the line through two points; at an end exactly that end.

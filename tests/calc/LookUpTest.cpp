@@ -205,6 +205,9 @@ void expectWhatAScanFinds(const ReferenceTable& table, const std::string& name) 
         << name << " at " << gestation;
     EXPECT_TRUE(isExactly(sdForGestation(table, gestation), byScan(table, gestation, &DatabaseRecord::sd)))
         << name << " at " << gestation;
+    const auto [mean, sd] = meanAndSDForGestation(table, gestation);
+    EXPECT_TRUE(isExactly(mean, meanForGestation(table, gestation))) << name << " at " << gestation;
+    EXPECT_TRUE(isExactly(sd, sdForGestation(table, gestation))) << name << " at " << gestation;
   }
 }
 
