@@ -17,6 +17,7 @@
 #include <benchmark/benchmark.h>
 #endif
 
+#include "baselines/PlainPatient.h"
 #include "calc/LookUp.h"
 #include "model/PatientFile.h"
 #include "rows/Calculation.h"
@@ -48,6 +49,23 @@ model::PatientRecord largePatient() {
   return patient;
 }
 
+/// The same in records that only hold values, for the other formats.
+bench::PlainPatient plain(const model::PatientRecord& patient) {
+  bench::PlainPatient same{.maternalID = patient.maternalIDString(),
+                           .edd = patient.edd()->secondsSince2001,
+                           .examinations = {},
+                           .numberOfFetuses = patient.numberOfFetuses()};
+  for (const auto& examination : patient.ncRecordsArray()) {
+    bench::PlainExamination& one = same.examinations.emplace_back();
+    one.note = examination->note();
+    one.examDate = examination->examDate()->secondsSince2001;
+    for (const model::MeasurementsRecord& fetus : examination->measurements()) {
+      one.measurements.push_back({.bpd = fetus.bpd(), .hc = fetus.hc(), .ac = fetus.ac(), .fl = fetus.fl()});
+    }
+  }
+  return same;
+}
+
 /// Ages and lengths as machines print them.
 std::string table(std::size_t rows) {
   std::string text = "id,ga_weeks,bpd_mm,hc_mm,ac_mm,fl_mm\n";
@@ -61,10 +79,26 @@ std::string table(std::size_t rows) {
   return text;
 }
 
+double byScan(const calc::ReferenceTable& rows, double age, double (calc::DatabaseRecord::*column)() const) {
+  if (age == 0.0 || rows.empty()) return 0.0;
+  std::size_t i = 0;
+  while (i < rows.size() && !(rows[i].observation() >= age)) ++i;
+  if (i == rows.size()) return (rows.back().*column)();
+  if (i == 0) return (rows.front().*column)();
+  const calc::DatabaseRecord& before = rows[i - 1];
+  const calc::DatabaseRecord& after = rows[i];
+  return (before.*column)() + (age - before.observation()) / (after.observation() - before.observation()) *
+                                  ((after.*column)() - (before.*column)());
+}
+
 /// What a figure measures; the number keeps the work from being left out.
 class Work {
  public:
-  Work() : patient_(largePatient()), bytes_(model::archivedPatient(patient_)), table_(table(1000)) {
+  Work()
+      : patient_(largePatient()),
+        plain_(plain(patient_)),
+        bytes_(model::archivedPatient(patient_)),
+        table_(table(1000)) {
     calc::appendStandard(reference_, 0, calc::Measurement::hc);
     for (std::size_t i = 0; i < ages_.size(); ++i)
       ages_.at(i) = 11.0 + static_cast<double>(i * 37 % 256) * 0.125;
@@ -75,11 +109,35 @@ class Work {
   double decode() {
     return static_cast<double>(model::unarchivedPatient(bytes_).patient->ncRecordsArray().size());
   }
+#ifdef NASCOR_PROTOBUF
+  double encodeProtobuf() { return static_cast<double>(bench::encodedByProtobuf(plain_).size()); }
+  double decodeProtobuf() {
+    static const std::string kBytes = bench::encodedByProtobuf(plain_);
+    return static_cast<double>(bench::decodedByProtobuf(kBytes).examinations.size());
+  }
+#endif
+#ifdef NASCOR_BOOST
+  double encodeBoost() { return static_cast<double>(bench::encodedByBoost(plain_).size()); }
+  double decodeBoost() {
+    static const std::string kBytes = bench::encodedByBoost(plain_);
+    return static_cast<double>(bench::decodedByBoost(kBytes).examinations.size());
+  }
+#endif
   /// Means and deviations at 256 ages.
   double lookUp() {
     double sum = 0.0;
     for (const double age : ages_) {
-      sum += calc::meanForGestation(reference_, age) + calc::sdForGestation(reference_, age);
+      const auto [mean, sd] = calc::meanAndSDForGestation(reference_, age);
+      sum += mean + sd;
+    }
+    return sum;
+  }
+  /// The same by the definition, row after row, as LookUpTest.cpp has it.
+  double scan() {
+    double sum = 0.0;
+    for (const double age : ages_) {
+      sum += byScan(reference_, age, &calc::DatabaseRecord::mean) +
+             byScan(reference_, age, &calc::DatabaseRecord::sd);
     }
     return sum;
   }
@@ -100,6 +158,7 @@ class Work {
 
  private:
   model::PatientRecord patient_;
+  bench::PlainPatient plain_;
   std::vector<std::byte> bytes_;
   std::string table_;
   calc::ReferenceTable reference_;
@@ -110,11 +169,20 @@ struct Figure {
   const char* name;
   double (Work::*run)();
 };
-constexpr std::array<Figure, 5> kFigures{{{"nothing", &Work::nothing},
-                                          {"encode", &Work::encode},
-                                          {"decode", &Work::decode},
-                                          {"look-up", &Work::lookUp},
-                                          {"calc", &Work::calculate}}};
+constexpr std::array kFigures{Figure{"nothing", &Work::nothing},
+                              Figure{"encode", &Work::encode},
+                              Figure{"decode", &Work::decode},
+#ifdef NASCOR_PROTOBUF
+                              Figure{"encode-protobuf", &Work::encodeProtobuf},
+                              Figure{"decode-protobuf", &Work::decodeProtobuf},
+#endif
+#ifdef NASCOR_BOOST
+                              Figure{"encode-boost", &Work::encodeBoost},
+                              Figure{"decode-boost", &Work::decodeBoost},
+#endif
+                              Figure{"look-up", &Work::lookUp},
+                              Figure{"scan", &Work::scan},
+                              Figure{"calc", &Work::calculate}};
 
 int count(std::string_view name, long times) {
   Work work;
