@@ -67,7 +67,7 @@ std::size_t TypedStreamReader::takeGroupTypes(std::string_view wanted) {
     types.parsed = true;
     const std::int64_t head = static_cast<std::int64_t>(*number) + kFirstNumber;
     if (types.text.size() == 1 && head <= std::numeric_limits<std::int8_t>::max()) {
-      plainHeads_.at(static_cast<std::size_t>(types.text.front())) = static_cast<std::int16_t>(head);
+      plainHeads_.at(static_cast<unsigned char>(types.text.front())) = static_cast<std::int16_t>(head);
     }
   }
   return *number;

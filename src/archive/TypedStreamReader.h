@@ -208,7 +208,7 @@ class TypedStreamReader {
   /// Whether a group of this type alone begins here, with at least `size` bytes behind its head.
   bool plainGroupFollows(char code, std::size_t size) const {
     return bytesLeft() > size && walk_.betweenGroups() &&
-           bytes_.headAhead(0) == plainHeads_[static_cast<std::size_t>(code)];
+           bytes_.headAhead(0) == plainHeads_[static_cast<unsigned char>(code)];
   }
   double takeOtherFloat();
   double realOfType(char code);

@@ -246,7 +246,7 @@ void TypedStreamWriter::writeReference(Label label) {
   const SharedString& shared = appendShared({&type, 1});
   const std::int64_t head = static_cast<std::int64_t>(shared.number) + kFirstNumber;
   if (head <= std::numeric_limits<std::int8_t>::max()) {
-    plainHeads_.at(static_cast<std::size_t>(type)) = static_cast<std::int8_t>(head);
+    plainHeads_.at(static_cast<unsigned char>(type)) = static_cast<std::int8_t>(head);
   }
   return roomFor(kLongestPlainValue);
 }
@@ -254,7 +254,7 @@ void TypedStreamWriter::writeReference(Label label) {
 /// Writes the type, and returns where its value may be written.
 inline std::byte* TypedStreamWriter::beginPlainGroup(char type) {
   walk_.requireBetweenGroups();
-  const int head = plainHeads_[static_cast<std::size_t>(type)];
+  const int head = plainHeads_[static_cast<unsigned char>(type)];
   if (head == kNilTag) return beginOtherPlainGroup(type);
   return writtenByte(roomFor(1 + kLongestPlainValue), head);
 }
