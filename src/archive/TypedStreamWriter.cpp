@@ -246,7 +246,7 @@ void TypedStreamWriter::writeReference(Label label) {
   const SharedString& shared = appendShared({&type, 1});
   const std::int64_t head = static_cast<std::int64_t>(shared.number) + kFirstNumber;
   if (head <= std::numeric_limits<std::int8_t>::max()) {
-    plainHeads_.at(static_cast<unsigned char>(type)) = static_cast<std::int8_t>(head);
+    plainHeads_.at(static_cast<unsigned char>(type)) = static_cast<std::int16_t>(head);
   }
   return roomFor(kLongestPlainValue);
 }

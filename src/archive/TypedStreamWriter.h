@@ -149,7 +149,7 @@ class TypedStreamWriter {
   std::deque<SharedString> strings_;   // a deque, since the walk points into it while it grows
   std::vector<SharedString*> byText_;  // the same, sorted
   // By the code of a type: the head that stands for it, once it has been the whole of a group's types; kNilTag before.
-  std::array<std::int8_t, 128> plainHeads_;
+  std::array<std::int16_t, 128> plainHeads_;
   Label nextLabel_ = 0;
   std::vector<std::pair<Label, char>>
       notObjects_;  // the labels of classes '#' and C strings '*', in their order
