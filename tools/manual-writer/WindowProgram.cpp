@@ -1,4 +1,4 @@
-#include "manual/WindowProgram.h"
+#include "manual_writer/WindowProgram.h"
 
 #include "foundation/ProgramVersion.h"
 #include "program/OptionTexts.h"

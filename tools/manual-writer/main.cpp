@@ -11,7 +11,7 @@
 #include "manual/Completion.h"
 #include "manual/ManualPage.h"
 #ifdef NASCOR_WINDOW
-#include "manual/WindowProgram.h"
+#include "manual_writer/WindowProgram.h"
 #endif
 
 namespace {
