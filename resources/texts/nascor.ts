@@ -888,6 +888,34 @@
         <source>median</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>z</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>BPD</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>HC</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>AC</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>FL</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>EFW</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>CRL</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>FieldBinding</name>
@@ -994,10 +1022,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source> of the report is:</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Please choose</source>
         <translation type="unfinished"></translation>
     </message>
@@ -1011,6 +1035,10 @@
     </message>
     <message>
         <source>Import Report of %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of the report is:</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1466,6 +1494,18 @@
     </message>
     <message>
         <source>Report F&amp;older...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Translated by machine, not yet reviewed by a clinician.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Undo %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Redo %1</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -2416,6 +2456,154 @@
     </message>
     <message>
         <source>Fetched report %ld</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>EDD</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Last period</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Weight</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gravidity</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The reference ID of the report has characters that cannot be read.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The report does not say of which patient it is.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The document does not say of which patient it is.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The report is of another patient than the document.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fetus without an ID</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fetus</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>is added</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>is there already</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>is not taken: another value stands</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>is not taken: beyond what can be typed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>is left out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fetuses</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>is compared only</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>from the last period</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>replaces the established EDD</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>is not taken: the established EDD stays</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Which fetus is it?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>is entered in EDD from CRL</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>is not stored; can be entered in EDD from CRL</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>is not taken:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The report is of %ld fetuses, the document of %ld. Please leave out the others, or cancel and add a fetus.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Please choose for each fetus which one it is.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Two fetuses of the report cannot be the same one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The reports are of several patients. Please import those of each patient alone.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Please say whether the report is of this patient.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The document has a number of fetuses that no report fits.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is nothing to be added.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>BPD</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>HC</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>AC</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>FL</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>CRL</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

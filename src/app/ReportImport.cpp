@@ -31,6 +31,12 @@ constexpr std::size_t keyOfLength(std::size_t fetus, std::size_t term) {
   return kFirstLength + fetus * kLengthTerms.size() + term;
 }
 
+/// The names of `kLengthTerms`.
+constexpr std::array kLengthNames{translatable("ReportImport", "BPD"), translatable("ReportImport", "HC"),
+                                  translatable("ReportImport", "AC"), translatable("ReportImport", "FL"),
+                                  translatable("ReportImport", "CRL")};
+static_assert(kLengthNames.size() == kLengthTerms.size());
+
 std::string_view howChosen(std::string_view chosen) {
   if (chosen == "flagged") return translatable("ReportImport", "chosen at the machine");
   if (chosen == "mean") return translatable("ReportImport", "mean");
@@ -56,7 +62,7 @@ ReportImport::ReportImport(NCDocument& document, std::vector<Findings> reports)
   foresee();
 }
 
-std::string ReportImport::text(std::string_view key) const {
+std::string ReportImport::inWords(std::string_view key) const {
   return document_.services().localizer.text("ReportImport", key);
 }
 
@@ -71,11 +77,12 @@ std::string ReportImport::numberText(std::string number) const {
 
 std::string ReportImport::labelOf(const std::string& what) const {
   const auto term = std::ranges::find(kLengthTerms, what, &exchange::LengthTerm::key);
-  if (term != kLengthTerms.end()) return std::string(term->label);
-  if (what == "edd") return text(translatable("ReportImport", "EDD"));
-  if (what == "lmp") return text(translatable("ReportImport", "Last period"));
-  if (what == "efw") return text(translatable("ReportImport", "Weight"));
-  if (what == "gravida") return text(translatable("ReportImport", "Gravidity"));
+  if (term != kLengthTerms.end())
+    return inWords(kLengthNames.at(static_cast<std::size_t>(term - kLengthTerms.begin())));
+  if (what == "edd") return inWords(translatable("ReportImport", "EDD"));
+  if (what == "lmp") return inWords(translatable("ReportImport", "Last period"));
+  if (what == "efw") return inWords(translatable("ReportImport", "Weight"));
+  if (what == "gravida") return inWords(translatable("ReportImport", "Gravidity"));
   return foundation::shownLine(what);
 }
 
@@ -95,19 +102,21 @@ void ReportImport::findPatient() {
     switch (exchange::patientDoubt(report, takesPatient && reports_.size() == 1, expected)) {
       case PatientDoubt::none: continue;
       case PatientDoubt::isUnreadable:
-        patientDoubt_ = text(translatable(
+        patientDoubt_ = inWords(translatable(
             "ReportImport", "The reference ID of the report has characters that cannot be read."));
         continue;
       case PatientDoubt::reportNamesNobody:
-        patientDoubt_ = text(translatable("ReportImport", "The report does not say of which patient it is."));
+        patientDoubt_ =
+            inWords(translatable("ReportImport", "The report does not say of which patient it is."));
         continue;
       case PatientDoubt::documentNamesNobody:
         patientDoubt_ =
-            text(translatable("ReportImport", "The document does not say of which patient it is."));
+            inWords(translatable("ReportImport", "The document does not say of which patient it is."));
         continue;
       case PatientDoubt::isAnother: break;
     }
-    patientDoubt_ = text(translatable("ReportImport", "The report is of another patient than the document."));
+    patientDoubt_ =
+        inWords(translatable("ReportImport", "The report is of another patient than the document."));
     return;  // nothing is worse
   }
 }
@@ -128,11 +137,11 @@ void ReportImport::findFetuses() {
     for (const FetusFindings& found : report.fetuses) {
       const std::string id = found.id.value_or("");
       if (std::ranges::find(fetuses_, id, &Fetus::id) != fetuses_.end()) continue;
-      fetuses_.push_back(
-          {.id = id,
-           .name = id.empty() ? text(translatable("ReportImport", "Fetus without an ID"))
-                              : text(translatable("ReportImport", "Fetus")) + " " + foundation::shownLine(id),
-           .place = std::nullopt});
+      fetuses_.push_back({.id = id,
+                          .name = id.empty() ? inWords(translatable("ReportImport", "Fetus without an ID"))
+                                             : inWords(translatable("ReportImport", "Fetus")) + " " +
+                                                   foundation::shownLine(id),
+                          .place = std::nullopt});
     }
   }
   // Reports may name the same twins differently. Only where each says how many there are is that known.
@@ -263,7 +272,7 @@ ReportImport::Row& ReportImport::addRow(std::size_t report, std::size_t value, c
 }
 
 void ReportImport::addRemark(std::size_t report, const std::string& fetus, const std::string& sentence) {
-  Row& row = addRow(report, 0, fetus, text(translatable("ReportImport", "Note")));
+  Row& row = addRow(report, 0, fetus, inWords(translatable("ReportImport", "Note")));
   row.outcome = foundation::shownLine(sentence);
   row.isWarning = true;
 }
@@ -271,16 +280,18 @@ void ReportImport::addRemark(std::size_t report, const std::string& fetus, const
 void ReportImport::tellFate(Row& row, Fate fate) {
   switch (fate) {
     case Fate::stored:
-      row.outcome = text(translatable("ReportImport", "is added"));
+      row.outcome = inWords(translatable("ReportImport", "is added"));
       row.canBeChosen = row.isChosen = true;
       storesAnything_ = true;
       return;
-    case Fate::isThereAlready: row.outcome = text(translatable("ReportImport", "is there already")); return;
+    case Fate::isThereAlready:
+      row.outcome = inWords(translatable("ReportImport", "is there already"));
+      return;
     case Fate::otherStays:
-      row.outcome = text(translatable("ReportImport", "is not taken: another value stands"));
+      row.outcome = inWords(translatable("ReportImport", "is not taken: another value stands"));
       break;
     case Fate::isBeyondBounds:
-      row.outcome = text(translatable("ReportImport", "is not taken: beyond what can be typed"));
+      row.outcome = inWords(translatable("ReportImport", "is not taken: beyond what can be typed"));
       break;
     case Fate::isNeverStored: break;
   }
@@ -288,7 +299,7 @@ void ReportImport::tellFate(Row& row, Fate fate) {
 }
 
 void ReportImport::tellUnwanted(Row& row) {
-  row.outcome = text(translatable("ReportImport", "is left out"));
+  row.outcome = inWords(translatable("ReportImport", "is left out"));
   row.canBeChosen = true;
 }
 
@@ -304,7 +315,7 @@ void ReportImport::addRows(std::size_t report, const Wanted& wanted, const excha
   if (findings.edd) addEDD(report, stored);
   if (findings.gravida) addGravida(report, stored);
   if (findings.numberOfFetuses && *findings.numberOfFetuses != count_) {
-    Row& row = addRow(report, 0, "", text(translatable("ReportImport", "Fetuses")));
+    Row& row = addRow(report, 0, "", inWords(translatable("ReportImport", "Fetuses")));
     row.reported = std::to_string(*findings.numberOfFetuses);
     row.standing = std::to_string(count_);
     tellFate(row, Fate::otherStays);
@@ -316,9 +327,9 @@ void ReportImport::addRows(std::size_t report, const Wanted& wanted, const excha
       if (found.lengths.at(term)) addLength(report, wanted, stored, i, term);
     }
     if (found.efw) {
-      Row& row = addRow(report, 0, fetus.name, text(translatable("ReportImport", "Weight")));
+      Row& row = addRow(report, 0, fetus.name, inWords(translatable("ReportImport", "Weight")));
       row.reported = foundation::fieldText(*found.efw, 0, '.') + " g";
-      row.outcome = text(translatable("ReportImport", "is compared only"));
+      row.outcome = inWords(translatable("ReportImport", "is compared only"));
     }
   }
   for (const std::string& warning : findings.warnings) addRemark(report, "", capitalised(warning) + ".");
@@ -326,10 +337,10 @@ void ReportImport::addRows(std::size_t report, const Wanted& wanted, const excha
 }
 
 void ReportImport::addEDD(std::size_t report, const exchange::Stored* stored) {
-  Row& row = addRow(report, kEDD, "", text(translatable("ReportImport", "EDD")));
+  Row& row = addRow(report, kEDD, "", inWords(translatable("ReportImport", "EDD")));
   row.reported = dayText(reports_[report].edd);
   if (reports_[report].eddFrom == "lmp")
-    row.reported += " (" + text(translatable("ReportImport", "from the last period")) + ")";
+    row.reported += " (" + inWords(translatable("ReportImport", "from the last period")) + ")";
   if (!stored) return;
   if (!stored->edd) {
     tellUnwanted(row);
@@ -341,12 +352,12 @@ void ReportImport::addEDD(std::size_t report, const exchange::Stored* stored) {
   const bool isReplaced = stored->edd->fate == Fate::stored && wanted_.contains(row.key);
   if (stored->edd->fate != Fate::otherStays && !isReplaced) return;
   offer(row);
-  row.outcome = isReplaced ? text(translatable("ReportImport", "replaces the established EDD"))
-                           : text(translatable("ReportImport", "is not taken: the established EDD stays"));
+  row.outcome = isReplaced ? inWords(translatable("ReportImport", "replaces the established EDD"))
+                           : inWords(translatable("ReportImport", "is not taken: the established EDD stays"));
 }
 
 void ReportImport::addGravida(std::size_t report, const exchange::Stored* stored) {
-  Row& row = addRow(report, kGravida, "", text(translatable("ReportImport", "Gravidity")));
+  Row& row = addRow(report, kGravida, "", inWords(translatable("ReportImport", "Gravidity")));
   row.reported = std::to_string(*reports_[report].gravida);
   if (!stored) return;
   if (!stored->gravida) {
@@ -361,15 +372,15 @@ void ReportImport::addLength(std::size_t report, const Wanted& wanted, const exc
                              std::size_t fetus, std::size_t term) {
   const FetusFindings& found = reports_[report].fetuses[fetus];
   const Fetus& known = fetuses_[fetusOf(found)];
-  Row& row = addRow(report, keyOfLength(fetus, term), known.name, std::string(kLengthTerms.at(term).label));
+  Row& row = addRow(report, keyOfLength(fetus, term), known.name, inWords(kLengthNames.at(term)));
   row.reported = numberText(exchange::shortestSingleText(found.lengths.at(term)->mm)) + " mm";
   const std::string_view how = howChosen(found.lengths.at(term)->chosen);
-  if (!how.empty()) row.reported += " (" + text(how) + ")";
+  if (!how.empty()) row.reported += " (" + inWords(how) + ")";
   if (!stored) return;
   const auto place = std::ranges::find(wanted.fetuses, fetus);
   if (place == wanted.fetuses.end()) {
-    row.outcome = known.isLeftOut ? text(translatable("ReportImport", "is left out"))
-                                  : text(translatable("ReportImport", "Which fetus is it?"));
+    row.outcome = known.isLeftOut ? inWords(translatable("ReportImport", "is left out"))
+                                  : inWords(translatable("ReportImport", "Which fetus is it?"));
     row.isWarning = !known.isLeftOut;
     return;
   }
@@ -386,9 +397,9 @@ void ReportImport::addLength(std::size_t report, const Wanted& wanted, const exc
   tellFate(row, outcome->fate);
   if (outcome->fate == Fate::isNeverStored) {
     offer(row);
-    row.outcome = row.isChosen
-                      ? text(translatable("ReportImport", "is entered in EDD from CRL"))
-                      : text(translatable("ReportImport", "is not stored; can be entered in EDD from CRL"));
+    row.outcome =
+        row.isChosen ? inWords(translatable("ReportImport", "is entered in EDD from CRL"))
+                     : inWords(translatable("ReportImport", "is not stored; can be entered in EDD from CRL"));
     if (!row.isChosen) return;
     storesAnything_ = true;
     imported_.crl = found.lengths.at(term)->mm;
@@ -412,7 +423,7 @@ void ReportImport::addNotTaken(std::size_t report, const exchange::NotTaken& not
         numberText(foundation::shortestText(*notTaken.value)) + " " + foundation::shownLine(notTaken.unit);
   }
   row.outcome =
-      text(translatable("ReportImport", "is not taken:")) + " " + foundation::shownLine(notTaken.why);
+      inWords(translatable("ReportImport", "is not taken:")) + " " + foundation::shownLine(notTaken.why);
 }
 
 std::string ReportImport::findObstacleOfFetuses(const Findings& report) const {
@@ -423,7 +434,7 @@ std::string ReportImport::findObstacleOfFetuses(const Findings& report) const {
   }
   if (std::ssize(wanted) > count_) {
     return foundation::format(
-        text(
+        inWords(
             translatable("ReportImport",
                          "The report is of %ld fetuses, the document of %ld. Please leave out the others, or "
                          "cancel and add a fetus.")),
@@ -432,25 +443,25 @@ std::string ReportImport::findObstacleOfFetuses(const Findings& report) const {
   std::set<std::int64_t> taken;
   for (const Fetus* fetus : wanted) {
     if (!fetus->place)
-      return text(translatable("ReportImport", "Please choose for each fetus which one it is."));
+      return inWords(translatable("ReportImport", "Please choose for each fetus which one it is."));
     if (!taken.insert(*fetus->place).second)
-      return text(translatable("ReportImport", "Two fetuses of the report cannot be the same one."));
+      return inWords(translatable("ReportImport", "Two fetuses of the report cannot be the same one."));
   }
   return {};
 }
 
 std::string ReportImport::findObstacle() const {
   if (areOfSeveralPatients_)
-    return text(translatable(
+    return inWords(translatable(
         "ReportImport", "The reports are of several patients. Please import those of each patient alone."));
   if (!patientDoubt_.empty() && !isPatientConfirmed_)
-    return text(translatable("ReportImport", "Please say whether the report is of this patient."));
+    return inWords(translatable("ReportImport", "Please say whether the report is of this patient."));
   if (placeNames().empty())
-    return text(translatable("ReportImport", "The document has a number of fetuses that no report fits."));
+    return inWords(translatable("ReportImport", "The document has a number of fetuses that no report fits."));
   for (const Findings& report : reports_) {
     if (std::string obstacle = findObstacleOfFetuses(report); !obstacle.empty()) return obstacle;
   }
-  if (!storesAnything_) return text(translatable("ReportImport", "There is nothing to be added."));
+  if (!storesAnything_) return inWords(translatable("ReportImport", "There is nothing to be added."));
   return {};
 }
 

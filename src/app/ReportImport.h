@@ -118,7 +118,7 @@ class ReportImport {
   std::string labelOf(const std::string& what) const;
   /// A number without a locale as the user writes numbers.
   std::string numberText(std::string number) const;
-  std::string text(std::string_view key) const;
+  std::string inWords(std::string_view key) const;
 
   NCDocument& document_;
   std::vector<exchange::Findings> reports_;

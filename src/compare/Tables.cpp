@@ -143,9 +143,16 @@ Table ratiosTable(const Ratios& ratios, const CellWriter& writer) {
               .columns = {{.title = writer.text("Compare", "Ratio")},
                           {.title = writer.text("Compare", "Value"), .isNumber = true}},
               .rows = {}};
-  for (const auto& [name, ratio] : {std::pair{"HC/AC", ratios.hcToAC}, std::pair{"FL/AC", ratios.flToAC},
-                                    std::pair{"FL/BPD", ratios.flToBPD}}) {
-    table.rows.push_back({.cells = {label(name), writer.number(ratio, kRatioDecimals)}});
+  struct Named {
+    Quantity above;
+    Quantity below;
+    std::optional<double> value;
+  };
+  for (const auto& [above, below, value] :
+       {Named{Quantity::hc, Quantity::ac, ratios.hcToAC}, Named{Quantity::fl, Quantity::ac, ratios.flToAC},
+        Named{Quantity::fl, Quantity::bpd, ratios.flToBPD}}) {
+    table.rows.push_back({.cells = {label(writer.name(above) + "/" + writer.name(below)),
+                                    writer.number(value, kRatioDecimals)}});
     addMethod(table.rows.back(), Method{.kind = Method::Kind::quotient});
   }
   return table;

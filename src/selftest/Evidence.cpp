@@ -58,10 +58,14 @@ Words wordsOf(Question question) {
   constexpr std::string_view kValue = translatable("Evidence", "value");
   constexpr std::string_view kMean = translatable("Evidence", "mean");
   constexpr std::string_view kSD = translatable("Evidence", "SD");
+  constexpr std::string_view kZ = translatable("Evidence", "z");
   constexpr std::string_view kCentile = translatable("Evidence", "centile");
   switch (question) {
-    case Question::weight: return {{"BPD", "HC", "AC", "FL"}, "EFW"};
-    case Question::crlAge: return {{"CRL"}, kWeek};
+    case Question::weight:
+      return {{translatable("Evidence", "BPD"), translatable("Evidence", "HC"),
+               translatable("Evidence", "AC"), translatable("Evidence", "FL")},
+              translatable("Evidence", "EFW")};
+    case Question::crlAge: return {{translatable("Evidence", "CRL")}, kWeek};
     case Question::rowMean:
     case Question::lookUpMean: return {{kWeek}, kMean};
     case Question::rowSD:
@@ -69,9 +73,9 @@ Words wordsOf(Question question) {
     case Question::lookUpGestation: return {{kMean}, kWeek};
     case Question::projection: return {{kValue, kWeek, translatable("Evidence", "planned week")}, kValue};
     case Question::median: return {{kWeek}, translatable("Evidence", "median")};
-    case Question::z: return {{kWeek, kValue}, "z"};
+    case Question::z: return {{kWeek, kValue}, kZ};
     case Question::centile: return {{kWeek, kValue}, kCentile};
-    case Question::valueAtZ: return {{kWeek, "z"}, kValue};
+    case Question::valueAtZ: return {{kWeek, kZ}, kValue};
     case Question::valueAtCentile: return {{kWeek, kCentile}, kValue};
     case Question::weekOfMedian: return {{translatable("Evidence", "median")}, kWeek};
     default: return {{}, kValue};
@@ -119,13 +123,16 @@ std::string questionText(const Example& example, const Localizer& localizer) {
   const Words words = wordsOf(example.question);
   std::string text;
   if (isAboutReference(example.question)) {
+    std::string name;
     for (const char letter : calc::nameOf(calc::kQuantities.at(example.quantity)))
-      text += static_cast<char>(letter - 'a' + 'A');
-    text += ", ";
+      name += static_cast<char>(letter - 'a' + 'A');
+    text = localizer.text("Evidence", name) + ", ";
   }
   for (std::size_t i = 0; i < words.given.size() && !words.given.at(i).empty(); ++i) {
     text.append(i == 0 ? "" : ", ").append(localizer.text("Evidence", words.given.at(i)));
-    text.append(" ").append(foundation::shortestText(example.given.at(i)));
+    std::string given = foundation::shortestText(example.given.at(i));
+    std::ranges::replace(given, '.', localizer.decimalSign());
+    text.append(" ").append(given);
   }
   return text.append(": ").append(localizer.text("Evidence", words.asked));
 }

@@ -485,27 +485,6 @@ TEST_F(TheDocumentWindow, showsBesideALengthWhatItMeans) {
   EXPECT_EQ(label("bpdSign"), "");
 }
 
-TEST_F(TheDocumentWindow, hasEveryMenuAndItemOnTheKeyboard) {
-  open(twins());
-  QStringList letters;
-  for (const QAction* menu : front().menuBar()->actions()) {
-    EXPECT_FALSE(QKeySequence::mnemonic(menu->text()).isEmpty()) << menu->text().toStdString();
-    letters << QKeySequence::mnemonic(menu->text()).toString();
-    QStringList items;
-    for (const QAction* item : menu->menu()->actions()) {
-      if (item->isSeparator() || !item->isVisible()) continue;
-      EXPECT_FALSE(QKeySequence::mnemonic(item->text()).isEmpty()) << item->text().toStdString();
-      items << QKeySequence::mnemonic(item->text()).toString();
-    }
-    EXPECT_EQ(items.removeDuplicates(), 0) << menu->text().toStdString();
-  }
-  for (const QLabel* fieldLabel : widget<QWidget>("patientPanel").findChildren<QLabel*>()) {
-    const QKeySequence mnemonic = QKeySequence::mnemonic(fieldLabel->text());
-    if (!mnemonic.isEmpty()) letters << mnemonic.toString();
-  }
-  EXPECT_EQ(letters.removeDuplicates(), 0);
-}
-
 TEST_F(TheDocumentWindow, hasNoKeyThatATextKeepsForItself) {
   open(twins());
   const QStringList editing{"undoAction", "redoAction",  "cutAction",

@@ -1,4 +1,4 @@
-// A walk over everything that is shown: in light and dark, with texts as they are and with longer ones.
+// A walk over everything that is shown: in light and dark, with texts as they are, with longer ones and in every language.
 #include <QDialog>
 #include <QDir>
 #include <QFileDialog>
@@ -51,20 +51,42 @@ double contrast(const QColor& a, const QColor& b) {
 }
 
 struct Look {
-  const char* name;
+  std::string name;
   bool isDark;
-  bool isLong;
+  bool isLong = false;
+  std::string language = "en";
+  bool isFromRight = false;
 };
 
-class EveryWidget : public WindowTest, public testing::WithParamInterface<Look> {
+/// Light and dark, in English and with longer texts, from right to left, and in every other language.
+std::vector<Look> looks() {
+  std::vector<Look> all{{.name = "light", .isDark = false},
+                        {.name = "dark", .isDark = true},
+                        {.name = "lightLong", .isDark = false, .isLong = true},
+                        {.name = "darkLong", .isDark = true, .isLong = true},
+                        {.name = "lightFromRight", .isDark = false, .isFromRight = true}};
+  for (const std::string& language : languages()) {
+    if (language == "en") continue;
+    all.push_back({.name = "light_" + language, .isDark = false, .language = language});
+    all.push_back({.name = "dark_" + language, .isDark = true, .language = language});
+  }
+  return all;
+}
+
+class EveryWidget : Speaking, public WindowTest, public testing::WithParamInterface<Look> {
  protected:
-  EveryWidget() : oldPalette(QApplication::palette()) {
+  EveryWidget()
+      : Speaking(GetParam().language),
+        WindowTest(localeOf(GetParam().language)),
+        oldPalette(QApplication::palette()) {
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     QApplication::setPalette(GetParam().isDark ? darkPalette() : QApplication::style()->standardPalette());
     if (GetParam().isLong) QCoreApplication::installTranslator(&longer);
+    if (GetParam().isFromRight) QApplication::setLayoutDirection(Qt::RightToLeft);
   }
   ~EveryWidget() override {
     QCoreApplication::removeTranslator(&longer);
+    QApplication::setLayoutDirection(Qt::LeftToRight);
     QApplication::setPalette(oldPalette);
   }
 
@@ -129,7 +151,7 @@ class EveryWidget : public WindowTest, public testing::WithParamInterface<Look> 
     const QString pictures = QStringLiteral(NASCOR_ARTEFACTS "/") + QFontInfo(shown.font()).family();
     QDir().mkpath(pictures);
     const QString path = (pictures + QStringLiteral("/%1-%2-%3x%4@%5.png"))
-                             .arg(QLatin1String(what), QLatin1String(GetParam().name))
+                             .arg(QLatin1String(what), QString::fromStdString(GetParam().name))
                              .arg(shown.width())
                              .arg(shown.height())
                              .arg(shown.devicePixelRatio());
@@ -332,10 +354,8 @@ TEST(TheDefaultFont, isTheOneThatTheTestsBring) {
             family.isEmpty() ? "DejaVu Sans" : family.toStdString());
 }
 
-INSTANTIATE_TEST_SUITE_P(looks, EveryWidget,
-                         testing::Values(Look{"light", false, false}, Look{"dark", true, false},
-                                         Look{"lightLong", false, true}, Look{"darkLong", true, true}),
-                         [](const auto& row) { return std::string(row.param.name); });
+INSTANTIATE_TEST_SUITE_P(looks, EveryWidget, testing::ValuesIn(looks()),
+                         [](const auto& row) { return row.param.name; });
 
 }  // namespace
 }  // namespace nascor::tests

@@ -25,10 +25,13 @@
 
 namespace nascor::tests {
 
-/// The platform with preferences in memory, a clock that stands, and the United States' ways of writing.
+/// The platform with preferences in memory, a clock that stands, and the United States' ways of writing, if no others are told.
 class TestPlatform {
  public:
-  TestPlatform() { app::NCAppController(services(), documents).awakeFromNib(); }
+  explicit TestPlatform(const QLocale& locale = QLocale(QLocale::English, QLocale::UnitedStates))
+      : localizer(locale) {
+    app::NCAppController(services(), documents).awakeFromNib();
+  }
 
   foundation::Services services() { return servicesWith(files); }
   foundation::Services servicesWith(foundation::FileStore& store) {
@@ -47,7 +50,7 @@ class TestPlatform {
 
   FixedClock clock{foundation::Date{816948000.0}};  // 2026-11-21 10:00 UTC
   posix::PosixCalendar calendar;
-  qt::QtLocalizer localizer{QLocale(QLocale::English, QLocale::UnitedStates)};
+  qt::QtLocalizer localizer;
   MemoryUserDefaults defaults;
   QTemporaryDir documentsFolder;
   posix::PosixFileStore files{documentsFolder.path().toStdString()};

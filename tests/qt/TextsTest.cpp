@@ -15,9 +15,9 @@
 
 #include "WindowTest.h"
 #include "app/NCDocument.h"
+#include "base/Translation.h"
 #include "calc/Publications.h"
 #include "calc/References.h"
-#include "program/Application.h"
 
 namespace nascor::tests {
 namespace {

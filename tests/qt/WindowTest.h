@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QDir>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -13,11 +14,13 @@
 #include <QTest>
 #include <QTimer>
 #include <QToolButton>
+#include <QTranslator>
 #include <functional>
 #include <string>
 #include <vector>
 
 #include "Sample.h"
+#include "base/Translation.h"
 #include "program/DocumentApplication.h"
 #include "window/FieldEdit.h"
 
@@ -31,10 +34,45 @@ struct Asked {
   std::string details;
 };
 
+/// How one writes in that language, in English as in the United States.
+inline QLocale localeOf(const std::string& language) {
+  return language == "en" ? QLocale(QLocale::English, QLocale::UnitedStates)
+                          : QLocale(QString::fromStdString(language));
+}
+
+/// While it lives, the application speaks one of the languages that it comes with, "en" among them, and writes as one does there.
+class Speaking {
+ public:
+  explicit Speaking(const std::string& language) : before_(QLocale()) {
+    if (language == "en") return;
+    EXPECT_TRUE(
+        qt::installTranslation({QString::fromStdString(language)}, QStringLiteral(NASCOR_SHIPPED_TEXTS)));
+    QLocale::setDefault(localeOf(language));
+  }
+  Speaking(const Speaking&) = delete;
+  Speaking& operator=(const Speaking&) = delete;
+  ~Speaking() {
+    for (QTranslator* each : qApp->findChildren<QTranslator*>()) delete each;
+    QLocale::setDefault(before_);
+  }
+
+ private:
+  QLocale before_;
+};
+
+/// All languages that the application comes with.
+inline std::vector<std::string> languages() {
+  std::vector<std::string> found{"en"};
+  for (const QString& name :
+       QDir(QStringLiteral(NASCOR_TEXTS)).entryList({QStringLiteral("nascor_*.ts")}, QDir::Files, QDir::Name))
+    found.push_back(name.mid(7).chopped(3).toStdString());
+  return found;
+}
+
 /// The application with its windows, the preferences in memory, and documents in a folder of its own.
 class WindowTest : public testing::Test {
  protected:
-  WindowTest() {
+  explicit WindowTest(const QLocale& locale = localeOf("en")) : platform(locale) {
     // Presses the next button that a test wants in whatever box is open. Off-screen nobody else would.
     boxes.setInterval(1);
     QObject::connect(&boxes, &QTimer::timeout, [this] { answerBox(); });

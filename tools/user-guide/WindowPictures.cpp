@@ -10,7 +10,9 @@
 #include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTimer>
+#include <algorithm>
 #include <stdexcept>
+#include <string>
 #include <string_view>
 
 #include "base/QtLocalizer.h"
@@ -19,7 +21,9 @@
 #include "foundation/Log.h"
 #include "foundation/NotificationCenter.h"
 #include "foundation/Services.h"
+#include "foundation/ShortDate.h"
 #include "foundation/UserDefaults.h"
+#include "model/PatientPage.h"
 #include "posix/PosixCalendar.h"
 #include "posix/PosixFileStore.h"
 #include "program/DocumentApplication.h"
@@ -76,9 +80,11 @@ QImage imageOf(QWidget& widget) {
 }  // namespace
 
 struct WindowPictures::Application {
+  explicit Application(const QLocale& locale) : localizer(locale) {}
+
   StandingClock clock;
   posix::PosixCalendar calendar;
-  qt::QtLocalizer localizer{QLocale(QLocale::English, QLocale::UnitedStates)};
+  qt::QtLocalizer localizer;
   FreshDefaults defaults;
   QTemporaryDir folder;
   posix::PosixFileStore files{folder.path().toStdString()};
@@ -114,11 +120,11 @@ struct WindowPictures::Application {
     return *found;
   }
   /// As if the user had typed it.
-  static void type(const QWidget& window, const char* field, const char* text) {
+  static void type(const QWidget& window, const char* field, const std::string& text) {
     auto& edit = part<QLineEdit>(window, QLatin1String(field));
     edit.setFocus();
     edit.selectAll();
-    edit.insert(QLatin1String(text));
+    edit.insert(qt::fromUtf8(text));
     settle();
   }
   /// The dialog that the action opens beside the window.
@@ -142,18 +148,15 @@ struct WindowPictures::Application {
     return image;
   }
 
-  QImage page(const QString& name) {
+  QImage page(const std::string& word) {
+    const auto* const facts = std::ranges::find(model::kPatientPages, word, &model::PatientPageFacts::word);
+    if (facts == model::kPatientPages.end()) throw std::runtime_error("there is no page " + word);
     qt::DocumentWindow& window = open("singleton.nascor");
     auto& tabs = part<QTabWidget>(window, QStringLiteral("tabView"));
-    for (int i = 0; i < tabs.count(); ++i) {
-      if (tabs.tabText(i).compare(name, Qt::CaseInsensitive) != 0) continue;
-      tabs.setCurrentIndex(i);
-      settle();
-      auto& view = dynamic_cast<qt::PageView&>(*tabs.widget(i));
-      return imageOf(view).copy(
-          QRectF(view.paper().topLeft() * kScale, view.paper().size() * kScale).toRect());
-    }
-    throw std::runtime_error("there is no page " + name.toStdString());
+    tabs.setCurrentIndex(static_cast<int>(facts->page));
+    settle();
+    auto& view = dynamic_cast<qt::PageView&>(*tabs.currentWidget());
+    return imageOf(view).copy(QRectF(view.paper().topLeft() * kScale, view.paper().size() * kScale).toRect());
   }
   QImage question() {
     qt::DocumentWindow& window = open("singleton.nascor");
@@ -170,7 +173,8 @@ struct WindowPictures::Application {
   }
 };
 
-WindowPictures::WindowPictures(const QString& samples) : application_(std::make_unique<Application>()) {
+WindowPictures::WindowPictures(const QString& samples, const QLocale& locale)
+    : application_(std::make_unique<Application>(locale)) {
   // Copies: who builds may have the samples open, which would be asked about here.
   for (const QFileInfo& sample : QDir(samples).entryInfoList(QDir::Files))
     QFile::copy(sample.filePath(), application_->samples.filePath(sample.fileName()));
@@ -192,13 +196,15 @@ QImage WindowPictures::picture(const QString& name) {
       {QStringLiteral("dialog-lmp"),
        [&] {
          QDialog& dialog = Application::dialog(shown.open("no-edd.nascor"), "eddFromLMPAction", "lmpWindow");
-         Application::type(dialog, "lmpWindowLMP", "7/4/2026");
+         Application::type(dialog, "lmpWindowLMP",
+                           foundation::shortDateText({.year = 2026, .month = 7, .day = 4},
+                                                     shown.localizer.shortDateForm()));
          return imageOf(dialog);
        }},
       {QStringLiteral("dialog-crl"),
        [&] {
          QDialog& dialog = Application::dialog(shown.open("no-edd.nascor"), "eddFromCRLAction", "crlWindow");
-         Application::type(dialog, "crlWindowCRL", "45.0");
+         Application::type(dialog, "crlWindowCRL", std::string("45") + shown.localizer.decimalSign() + "0");
          return imageOf(dialog);
        }},
       {QStringLiteral("dialog-measurements"),
@@ -220,7 +226,7 @@ QImage WindowPictures::picture(const QString& name) {
          return Application::modal(shown.open("singleton.nascor"), QStringLiteral("exportSettingsAction"));
        }}};
   if (const auto found = makers.find(name); found != makers.end()) return found->second();
-  if (name.startsWith(QLatin1String("page-"))) return shown.page(name.mid(5));
+  if (name.startsWith(QLatin1String("page-"))) return shown.page(name.mid(5).toStdString());
   throw std::runtime_error("there is no picture " + name.toStdString());
 }
 

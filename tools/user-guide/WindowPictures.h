@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QImage>
+#include <QLocale>
 #include <QString>
 #include <functional>
 #include <map>
@@ -12,8 +13,8 @@ namespace nascor::user_guide {
 /// "page-NAME" and "dialog-NAME".
 class WindowPictures {
  public:
-  /// The patients on show are those of the folder `samples`.
-  explicit WindowPictures(const QString& samples);
+  /// The patients on show are those of the folder `samples`, dates and numbers as `locale` has them.
+  WindowPictures(const QString& samples, const QLocale& locale);
   ~WindowPictures();
 
   /// Throws std::runtime_error when there is no such picture.

@@ -9,6 +9,7 @@
 #include <map>
 #include <stdexcept>
 
+#include "base/Translation.h"
 #include "program/Application.h"
 #include "user-guide/WindowPictures.h"
 
@@ -35,8 +36,9 @@ QByteArray pngOf(const QImage& picture) {
 
 /// Writes each picture that the guide shows as FOLDER/NAME.png, and last FOLDER/pictures.css with their widths in units of
 /// the window, 16 to the em. Touches no file when all hold these bytes already.
-void writePictures(const QString& guide, const QString& samples, const QString& folder) {
-  WindowPictures pictures(samples);
+void writePictures(const QString& guide, const QString& samples, const QString& folder,
+                   const QLocale& locale) {
+  WindowPictures pictures(samples, locale);
   std::map<QString, QByteArray> files;
   QByteArray css;
   static const QRegularExpression shown(QStringLiteral(R"(!\[[^\]]*\]\(guide/([\w-]+)\.png\))"));
@@ -69,19 +71,29 @@ int main(int argc, char** argv) {
   qputenv("XDG_RUNTIME_DIR", home.path().toUtf8());
   qputenv("TZ", "UTC");
   qunsetenv("QT_SCALE_FACTOR");
-  QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
   nascor::qt::Application application(argc, argv);
   const QStringList arguments = nascor::qt::Application::arguments();
-  if (arguments.size() != 4) {
-    std::fputs("usage: nascor-window-pictures GUIDE.md SAMPLES FOLDER\n", stderr);
+  if (arguments.size() != 4 && arguments.size() != 6) {
+    std::fputs("usage: nascor-window-pictures GUIDE.md SAMPLES FOLDER [LANGUAGE TEXTS]\n", stderr);
     return 2;
   }
+  QLocale locale(QLocale::English, QLocale::UnitedStates);
+  if (arguments.size() == 6) {
+    locale = QLocale(arguments.at(4));
+    if (!nascor::qt::installTranslation({arguments.at(4)}, arguments.at(5))) {
+      std::fputs(
+          qUtf8Printable(QStringLiteral("nascor-window-pictures: no texts of %1\n").arg(arguments.at(4))),
+          stderr);
+      return 1;
+    }
+  }
+  QLocale::setDefault(locale);
   if (const QString sentence = nascor::qt::missingFontSentence(); !sentence.isEmpty()) {
     std::fprintf(stderr, "%s\n", qUtf8Printable(sentence));
     return 1;
   }
   try {
-    writePictures(arguments.at(1), arguments.at(2), arguments.at(3));
+    writePictures(arguments.at(1), arguments.at(2), arguments.at(3), locale);
   } catch (const std::exception& error) {
     std::fprintf(stderr, "nascor-window-pictures: %s\n", error.what());
     return 1;

@@ -17,6 +17,7 @@
 
 #include "base/AbandonedAction.h"
 #include "base/Introduction.h"
+#include "base/Translation.h"
 #include "bus/ApplicationService.h"
 #include "bus/BusObjects.h"
 #include "posix/CoreDumps.h"

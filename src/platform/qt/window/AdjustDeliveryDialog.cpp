@@ -26,6 +26,11 @@ AdjustDeliveryDialog::AdjustDeliveryDialog(app::NCDocument& document, const foun
   const int room = fontMetrics().horizontalAdvance(longestDateText(services.localizer));
   ui_->adjustEDDLongForm->setMinimumWidth(room);
   ui_->adjustDeliverOnLongForm->setMinimumWidth(room);
+  // A line edit asks for the width of seventeen letters, and takes next to none where there is less.
+  constexpr int kMargins = 12;
+  const int typed = fontMetrics().horizontalAdvance(exampleDateText(services.localizer)) + kMargins;
+  ui_->adjustEDDField->setMinimumWidth(typed);
+  ui_->adjustDeliverOnField->setMinimumWidth(typed);
   for (QLineEdit* edit : {ui_->adjustEDDField, ui_->adjustDeliverOnField, ui_->adjustDeliverAtField}) {
     keep(bindReadOnly(*edit, fieldFor(*edit)));
     connect(edit, &QLineEdit::textChanged, this, [this] { refresh(); });

@@ -99,12 +99,12 @@ EditMenu::EditMenu(QWidget& window, QMenu& menu, Items items, Step undo, Step re
 }
 
 void EditMenu::showSteps() {
-  const auto show = [this](QAction& item, const QString& word, const Step& step) {
+  const auto show = [this](QAction& item, const QString& word, const QString& withName, const Step& step) {
     const auto name = isInEdit(window_.focusWidget()) ? std::nullopt : step.name();
-    item.setText(name ? word + u' ' + fromUtf8(*name) : word);
+    item.setText(name ? withName.arg(fromUtf8(*name)) : word);
   };
-  show(items_.undo, said("MyDocument", "&Undo"), undo_);
-  show(items_.redo, said("MyDocument", "&Redo"), redo_);
+  show(items_.undo, said("MyDocument", "&Undo"), said("MyDocument", "&Undo %1"), undo_);
+  show(items_.redo, said("MyDocument", "&Redo"), said("MyDocument", "&Redo %1"), redo_);
 }
 
 void EditMenu::validate() {

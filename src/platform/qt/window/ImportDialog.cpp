@@ -180,7 +180,7 @@ void ImportDialog::addFetuses(QVBoxLayout& layout) {
   auto* form = new QFormLayout;
   form->setFieldGrowthPolicy(QFormLayout::FieldsStayAtSizeHint);
   for (std::size_t i = 0; i < fetuses.size(); ++i) {
-    auto* label = new QLabel(fromUtf8(fetuses[i].name) + said("ImportDialog", " of the report is:"));
+    auto* label = new QLabel(said("ImportDialog", "%1 of the report is:").arg(fromUtf8(fetuses[i].name)));
     label->setTextFormat(Qt::PlainText);
     QComboBox* choice = choiceOf(i);
     label->setBuddy(choice);

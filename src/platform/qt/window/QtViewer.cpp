@@ -8,16 +8,27 @@
 #include <QUrl>
 
 #include "base/Text.h"
+#include "base/Translation.h"
 
 namespace nascor::qt {
 namespace {
 
-/// The file itself or, where only that is there, the HTML beside it of the same name.
+/// The file as the build has made it for this user: in the folder of the language that is spoken, else here; with its own
+/// name, else as HTML. The file itself where there is none of them.
 QUrl asBuilt(const QUrl& target) {
-  if (!target.isLocalFile() || QFile::exists(target.toLocalFile())) return target;
+  if (!target.isLocalFile()) return target;
   const QFileInfo file(target.toLocalFile());
-  const QString html = file.path() + u'/' + file.completeBaseName() + QStringLiteral(".html");
-  return QFile::exists(html) ? QUrl::fromLocalFile(html) : target;
+  const QString html = file.completeBaseName() + QStringLiteral(".html");
+  QStringList folders{file.path()};
+  if (const QString language = spokenLanguage(); !language.isEmpty())
+    folders.prepend(file.path() + u'/' + language);
+  for (const QString& folder : folders) {
+    for (const QString& name : {file.fileName(), html}) {
+      const QString path = folder + u'/' + name;
+      if (QFile::exists(path)) return QUrl::fromLocalFile(path);
+    }
+  }
+  return target;
 }
 
 }  // namespace

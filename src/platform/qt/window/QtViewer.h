@@ -8,8 +8,9 @@
 
 namespace nascor::qt {
 
-/// The program that the desktop has for a URL. A build without a maker of PDF has its documents as HTML alone: a local file
-/// that is missing gives way to the HTML beside it of the same name.
+/// The program that the desktop has for a URL. A local file gives way to the one of its name in the folder of the language
+/// that is spoken, "fr" beside it; and where neither is there, since a build without a maker of PDF has its documents as
+/// HTML alone, to the HTML of its name.
 class QtViewer final : public framework::Viewer {
  public:
   bool open(const std::string& url) override;

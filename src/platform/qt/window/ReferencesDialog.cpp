@@ -66,7 +66,12 @@ std::optional<Method> methodOf(const QUrl& link) {
 
 QString heading(const QString& text) { return QStringLiteral("<h3>%1</h3>").arg(text.toHtmlEscaped()); }
 
-QString equationsText(const selftest::Evidence& evidence) {
+/// All digits, with the user's decimal sign.
+QString numberText(double value, const foundation::Localizer& localizer) {
+  return fromUtf8(foundation::shortestText(value)).replace(u'.', QLatin1Char(localizer.decimalSign()));
+}
+
+QString equationsText(const selftest::Evidence& evidence, const foundation::Localizer& localizer) {
   QString text;
   for (const auto& [gives, equation] : evidence.equations)
     text += QStringLiteral("<p><code>%1 = %2</code></p>").arg(escaped(gives), escaped(equation));
@@ -86,8 +91,7 @@ QString equationsText(const selftest::Evidence& evidence) {
   for (const auto& [week, mean, sd] : evidence.rows) {
     text += QStringLiteral(
                 "<tr><td align=\"right\">%1</td><td align=\"right\">%2</td><td align=\"right\">%3</td></tr>")
-                .arg(QString::number(week), escaped(foundation::shortestText(mean)),
-                     escaped(foundation::shortestText(sd)));
+                .arg(QString::number(week), numberText(mean, localizer), numberText(sd, localizer));
   }
   return text + QStringLiteral("</table>");
 }
@@ -107,11 +111,11 @@ QString examplesText(const std::vector<selftest::Example>& examples, const found
     text += QStringLiteral("<th align=\"left\">%1</th>").arg(title.toHtmlEscaped());
   text += QStringLiteral("</tr>");
   for (const selftest::Example& example : examples) {
-    text += QStringLiteral(
-                "<tr><td>%1</td><td align=\"right\">%2</td><td align=\"right\">%3</td><td>%4</td></tr>")
-                .arg(escaped(selftest::questionText(example, localizer)),
-                     escaped(foundation::shortestText(example.expected)),
-                     escaped(foundation::shortestText(selftest::answerTo(example))), escaped(example.source));
+    text +=
+        QStringLiteral(
+            "<tr><td>%1</td><td align=\"right\">%2</td><td align=\"right\">%3</td><td>%4</td></tr>")
+            .arg(escaped(selftest::questionText(example, localizer)), numberText(example.expected, localizer),
+                 numberText(selftest::answerTo(example), localizer), escaped(example.source));
   }
   return text + QStringLiteral("</table>");
 }
@@ -176,14 +180,13 @@ QString evidenceText(const Method& method, const foundation::Localizer& localize
                          .toHtmlEscaped());
   text +=
       heading(evidence.rows.empty() ? said("References", "Formula") : said("References", "Printed table"));
-  text += equationsText(evidence);
+  text += equationsText(evidence, localizer);
   if (evidence.first && evidence.last) {
     const bool isLength = method.kind == Method::Kind::crlFormula;
     text += heading(said("References", "Range"));
     text += QStringLiteral("<p>%1</p>")
                 .arg((isLength ? said("References", "%1 to %2 mm") : said("References", "%1 to %2 weeks"))
-                         .arg(fromUtf8(foundation::shortestText(*evidence.first)),
-                              fromUtf8(foundation::shortestText(*evidence.last))));
+                         .arg(numberText(*evidence.first, localizer), numberText(*evidence.last, localizer)));
   }
   if (!evidence.assumes.empty()) {
     text += heading(said("References", "Assumes"));
