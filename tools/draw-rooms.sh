@@ -4,4 +4,4 @@ set -euo pipefail
 new="$(mktemp)"
 trap 'rm -f "$new"' EXIT
 awk -f "$(dirname "${BASH_SOURCE[0]}")/rooms.awk" "$1" | dot -Tsvg >"$new"
-cp "$new" "$2"
+cat "$new" >"$2"
