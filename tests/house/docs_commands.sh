@@ -1,4 +1,4 @@
-# Every command that the pages of docs show behind "$ " works as it is written, and says what stands under it. A line
+# Every command that README.md and the pages of docs show behind "$ " works as it is written, and says what stands under it. A line
 # "..." stands for any lines. The commands of a page run one after the other in one shell, in a folder with the files
 # that the page speaks of.
 . "$(dirname "$0")/common.sh" "$@"
@@ -67,14 +67,15 @@ page() {
     elif [[ -n "$command" ]]; then
       shown+="${line:4}"$'\n'
     fi
-  done <"$root/docs/$1"
+  done <"$root/$1"
   [[ -z "$command" ]] || try "$1" "$command" "${shown%%+($'\n')}"
 }
 
 shopt -s extglob
 files
 set +e
-page command-line.md
+page README.md
+page docs/command-line.md
 if [[ -x "$build/bin/nascor" ]] && type -P gdbus dbus-daemon >/dev/null; then
   # A bus of the test's own, which starts the application as an installed one would be.
   mkdir -p "$work/share/dbus-1/services"
@@ -84,11 +85,16 @@ if [[ -x "$build/bin/nascor" ]] && type -P gdbus dbus-daemon >/dev/null; then
   { read -r DBUS_SESSION_BUS_ADDRESS; read -r bus; } < <(
     dbus-daemon --session --fork --print-address=1 --print-pid=1 2>>"$work/bus.log")
   export DBUS_SESSION_BUS_ADDRESS
-  page scripting.md
+  page docs/scripting.md
   nascor="$(gdbus call --session --dest org.freedesktop.DBus --object-path /org/freedesktop/DBus \
     --method org.freedesktop.DBus.GetConnectionUnixProcessID org.nascor.Nascor | tr -dc '0-9 ' | sed 's/.*32 //')"
   kill "$nascor" "$bus"
 fi
-shown="$(cat "$root"/docs/{command-line,scripting}.md | grep -c '^    \$ ')"
+pages=(README.md docs/command-line.md docs/scripting.md)
+cd "$root"
+shown="$(cat "${pages[@]}" | grep -c '^    \$ ')"
 ((checks == shown)) || [[ -z "${nascor:-}" ]] || wrong "Of $shown commands $checks were tried."
+for other in $(grep -lE '^    \$ ' -- *.md docs/*.md docs/*/*.md resources/guide/*.md); do
+  [[ " ${pages[*]} " == *" $other "* ]] || wrong "$other shows commands, and nothing tries them."
+done
 conclude
