@@ -8,7 +8,7 @@ work="$(mktemp -d)"
 trap 'rm -rf "$work"' EXIT
 printf '#pragma once\n' >"$work/own.h"
 modules=()
-mapfile -t modules < <(find "$build/lib" -name 'nascor-*.so' | sort)
+mapfile -t modules < <(find "$build" -path '*/nascor/nascor-*.so' | sort)
 write() { env "${@:2}" "$root/tools/sbom.sh" 1.2.3 "$1" --header own 4.5 "$work/own.h" "${programs[@]}" --loads "${modules[@]}"; }
 programs=("$@")
 expect() {
