@@ -82,7 +82,9 @@ note_parts() {
     else
       name="$(basename "$(realpath "$path")")"
       part_of[$path]="${name%%.so*}"
-      printf 'library\t%s\t%s\t\tname unknown\t\n' "${name%%.so*}" "${name#*.so.}"
+      has=unknown
+      [[ "$name" != *.so.* ]] || has="${name#*.so.}"
+      printf 'library\t%s\t%s\t\tname unknown\t\n' "${name%%.so*}" "$has"
     fi
     name="$(basename "$path")"
     printf 'file\t%s\t%s\n' "${part_of[$path]}" "${header_of[$path]:+headers of }${header_of[$path]:-$name}"

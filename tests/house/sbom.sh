@@ -22,6 +22,16 @@ expect "The same programs give another bill" cmp "$work/one" "$work/two"
 write "$work/three" -u SOURCE_DATE_EPOCH
 expect "Without SOURCE_DATE_EPOCH more than the time is different" cmp <(grep -v timestamp "$work/one") "$work/three"
 
+# Where there is no dpkg, each library stands for itself.
+mkdir "$work/bin"
+for tool in awk basename bash cp cut date env grep ldd mktemp readelf realpath rm sed sha256sum sort; do
+  ln -s "$(type -P "$tool")" "$work/bin/$tool"
+done
+write "$work/other" PATH="$work/bin"
+part="$(grep -A1 '"bom-ref": "libstdc++"' "$work/other" || true)"
+expect "Without dpkg the library of C++ has no version of its own: $part" grep -qE '"version": "6\.[0-9.]+"' <<<"$part"
+expect "Without dpkg there are packages" [ "$(grep -c purl "$work/other")" = 0 ]
+
 said="$("$root/tools/sbom.sh" 1.2.3 "$work/none" "$work/gone" 2>&1)" && wrong "A program that is not there is no error"
 expect "A program that is not there is not named: $said" [ "$said" = "sbom: There is no $work/gone." ]
 expect "Half a bill was written" [ ! -e "$work/none" ]
