@@ -67,7 +67,7 @@ int main(int argc, char** argv) {
   try {
     for (const bool isDark : {false, true}) {
       if (isDark) QApplication::setPalette(darkPalette());
-      nascor::user_guide::WindowPictures pictures(arguments.at(1));
+      nascor::user_guide::WindowPictures pictures(arguments.at(1), QLocale());
       write(pictures.picture(QStringLiteral("window")),
             arguments.at(2) +
                 (isDark ? QStringLiteral("/window-dark.png") : QStringLiteral("/window-light.png")));
