@@ -21,6 +21,8 @@ QPalette darkPalette() {
   palette.setColor(QPalette::Base, QColor(0x20, 0x20, 0x20));
   palette.setColor(QPalette::Highlight, QColor(0x2a, 0x60, 0xa8));
   palette.setColor(QPalette::HighlightedText, Qt::white);
+  for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+    palette.setColor(QPalette::Disabled, role, QColor(0x8c, 0x8c, 0x8c));
   return palette;
 }
 
