@@ -186,7 +186,8 @@ class PlainLoop {
 
 /// Reads them as the program does.
 Sum readByProgram(const std::string& folder, bool isDecoded) {
-  cli::Console console;
+  const foundation::EnglishLocalizer english;
+  cli::Console console(english);
   const auto source = cli::namedDocuments(console, {.paths = {folder}, .listPath = {}});
   Sum sum;
   while (auto pending = source->next()) {
@@ -203,7 +204,8 @@ Sum readByProgram(const std::string& folder, bool isDecoded) {
 }
 
 void writeFlat(const std::string& from, const std::string& to) {
-  cli::Console console;
+  const foundation::EnglishLocalizer english;
+  cli::Console console(english);
   const auto source = cli::namedDocuments(console, {.paths = {from}, .listPath = {}});
   while (auto pending = source->next()) {
     const std::filesystem::path path = to + pending->name.substr(from.size());

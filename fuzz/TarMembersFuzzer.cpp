@@ -14,7 +14,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   constexpr std::size_t kPiece = 600;
   std::span<const char> left(reinterpret_cast<const char*>(data), size);
   nascor::tar::TarReader reader(
-      [&]() -> std::variant<std::span<const char>, std::string> {
+      [&]() -> std::variant<std::span<const char>, nascor::foundation::Sentence> {
         const auto piece = left.first(std::min(kPiece, left.size()));
         left = left.subspan(piece.size());
         return piece;

@@ -179,6 +179,1227 @@
     </message>
 </context>
 <context>
+    <name>CommandHelp</name>
+    <message>
+        <source>growth standards by number or name, intergrowth-2014, with commas between; without it all four</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>one weight, by number or name, instead of all eight</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>only these columns, of the input or computed, in this order</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>what is computed with one decimal, z-scores with three</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Weights, means and z-scores beside the columns of a CSV table on standard input.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The first line names the columns; those that count are ga_weeks or ga, bpd_mm or bpd, hc_mm or
+hc, ac_mm or ac, fl_mm or fl, in any order. All columns of the table stay as they came. Behind
+them stand
+  efw_0_g,...,efw_7_g,westerway_bpd_mean_mm,westerway_bpd_sd_mm,westerway_bpd_z,...,cfef_fl_z
+  warning,error
+An empty cell, 0, nan and NA are not measured. What is no number (45mm, 45,2) is named in error
+and, with its line, on standard error; nothing is computed in that row, the others go on, and
+the status is 1. Memory does not grow with the table.
+Texts stay as they are. A spreadsheet runs cells that begin with &apos;=&apos;: import them as text.
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a document; - is standard input</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>one JSON object a document, on a line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>say ok where there is nothing to say</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reads each document whole and names every oddity in it, one a line.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An oddity is accepted everywhere else: a count that disagrees, a date that is missing, a length beyond
+what can be typed, an old class version. It leaves the exit status at 0; a file that cannot be read
+makes it 1. Keys of the JSON: file, and oddities, an array of objects with kind, examination, fetus,
+text.
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not a medical device. Not validated for clinical use.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>this text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>usage: %1
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Commands:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Obstetric ultrasound biometry for shells and scripts.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lengths are in millimetres, weights in grams, ages in weeks after the last menstrual period.
+A FILE or a value of - is standard input. No question is ever asked.
+Exit status: 0 all well, 1 some input was bad, 2 wrong usage.
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>this text; help COMMAND explains one command</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>this text; behind a command, that command&apos;s help</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the version of the program</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>what follows is no option</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>one object a document, examination and fetus, on a line: unrounded numbers</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Each length and weight by every reference and formula, ratios, twins, growth.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Examinations and fetuses count from 0. Difference is that from the weight by the document&apos;s formula.
+Age is that of which the value is the median of the reference; outside its weeks a dash. Discordance
+is the share, of the heaviest fetus, by which the lightest weighs less. Growth is that since the
+examination before which has the length; the change of z is by the document&apos;s standard. Centiles of
+weights are those of references; the error of a formula is no population.
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Each document as JSON: every field that it holds, one object on a line.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keys: maternalIDString, edd, eddISO, standard, fetalWeightStandard, numberOfFetuses,
+extrapolatedGestation (weeks), crlStandard, gravida, and examinations, an array of objects with note,
+examDate, examDateISO and measurements, an array of objects with bpd, hc, ac and fl (mm; 0 = not
+measured). Dates are seconds since 2001-01-01 UTC; beside each stands its local time as ISO text.
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a document as JSON; - is standard input</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>where to write it, as a whole or not at all; without it, or -, to standard output</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A document from JSON.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reads what json prints: maternalIDString, edd, standard, fetalWeightStandard, numberOfFetuses,
+extrapolatedGestation (weeks), crlStandard, gravida, and examinations, an array of objects with
+note, examDate and measurements, an array of objects with bpd, hc, ac and fl (mm). Every key may be
+missing; an unknown one is an error. A date is a number of
+seconds since 2001-01-01 UTC, an ISO date (2027-04-10 is local midnight), an ISO date and time, or
+null. Lengths are stored in single precision, whole numbers in 32 bits.
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>any typed stream; - is standard input</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>one JSON object a stream, on a line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All that a typed stream holds, as a tree; of any program, not only documents.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Each line begins with the byte at which the value begins. Keys of the JSON: byte_order,
+system_version, and groups, an array of objects with types and values; docs/json.md lists the values.
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the folder for the files, which is made when it is missing; - is standard output, for one file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>what is written; without this option PDF</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>all, or first, last, numbers from 0 to 6 and names, with commas between</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>one fetus, the first is 1; without this option all</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>centile lines of a reference of &quot;nascor-cli reference&quot; over the charts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a line from mark to mark of each fetus</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>leave files that are there as they are, and say so</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>leave off what stands under each page</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>FHIR as one resource a line, of all documents, on standard output</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Writes the pages of each document, or its numbers for other programs.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Names of pages: %1 (0 to %2), in letters of any size.
+As PDF all pages of a document are one file; else each is a file of its own.
+Files of the same names are replaced, but with --no-clobber.
+sr: a DICOM structured report (Comprehensive SR) for each examination, &quot;NAME 1.dcm&quot;, ...
+fhir: a FHIR R4 bundle for each document, NAME.json; with --ndjson lines on standard output.
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>biparietal diameter</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>head circumference</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>abdominal circumference</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>femur length</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>an array of eight numbers, by identifier of the formula</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The estimated weight of one fetus by each of the eight formulas, in grams.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A length that is not given is 0, which means not measured. Where a formula needs it, the weight is
+a dash (0 in JSON). An improbable length is named on standard error.
+The formulas, by identifier: 0 Hadlock 1 (HC/AC/FL), 1 Hadlock 2 (AC/FL),
+2 Hadlock 3 (BPD/AC/FL), 3 Hadlock 4 (BPD/HC/AC/FL), 4 Campbell (AC), 5 Combs (HC/AC/FL),
+6 Ott (HC/AC/FL), 7 Shepard (BPD/AC).
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>crown-rump lengths; - reads lengths from standard input, one a line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>an array of four numbers a length, each on a line of its own</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The menstrual age at each crown-rump length by each of the four formulas, in weeks.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>One line a length, columns separated by tabs. Outside the range of a formula the age is a dash (0 in
+JSON). A line of standard input that is no number is answered by nan (null in JSON).
+A length that no formula dates is named on standard error, of standard input the first one.
+The formulas, by identifier: 0 Hadlock (1992), 2 to 120 mm; 1 Nelson (1981), 6.7 to 82.4 mm
+(no second source has it; 9 days more than Hadlock (1992) at 7 mm, 3 days more at 20 mm);
+2 Robinson (1975), 7 to 79.6 mm; 3 Westerway (2000), 2 to 87 mm.
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a DICOM report, a FHIR bundle of this program, or a CSV table of examinations; - is standard input</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>store what was found in a new document</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>add what was found to a document</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the reports are of the patient of this reference ID, whatever they say</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the fetus that the reports call ID is fetus N of the document; once for each</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the report&apos;s EDD takes the place of the document&apos;s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What reports of ultrasound machines and tables hold, as JSON; stored only on demand.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>One object a report, of a table one for each patient and day: file, patientID, examDate, edd,
+eddFrom, gravida, numberOfFetuses, fetuses (id, bpd, hc, ac, fl and crl in mm, efw in g, chosen),
+notTaken, warnings.
+A table has the columns that rows writes: exam_date, any of bpd_mm, hc_mm, ac_mm and fl_mm, and,
+where it has them, reference_id, fetus (from 0) or fetus_number (from 1), edd, gravida and
+number_of_fetuses. When a row does not fit, nothing of the table is printed or stored.
+Nothing is stored when patient or fetus are in doubt, and nothing that stands is overwritten.
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the index</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a JSON object a line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the documents, *.nascor in it and in the folders in it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the index, made where there is none</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the counts as a JSON object</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keeps what the documents of a folder say in a database, for due and search.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only documents that are new or have changed are read; those that are gone leave the index. A run that
+is ended in the middle, however that happens, leaves an index that the next run completes.
+The file is an SQLite database that its owner alone can read: it holds reference IDs, notes and names
+of files. Its tables documents and rows may be read by other programs.
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the first day, such as 2027-04-10; without it today</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>how many days behind that; without it 28</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>only with an AC, the last of one fetus, whose z-score is below this</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Who is due, from an index: by EDD, with the last examination and the lowest AC.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>AC z is the lowest, over the fetuses, of the z-score of the last AC that was measured, by the growth
+standard of the document. It lists what the index held when it was last brought up to date.
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>three characters or more of a reference ID or of a file&apos;s path; large or small</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not more than so many; without it 100</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Documents by a part of their reference ID or name, from an index.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>one digit behind the point, in JSON too</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a recovery file, as the list names it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>where to write the document, as a whole or not at all</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unsaved changes that the application kept: a list, or one of them as a document.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The list has one JSON object a line: recovery (the file), document (the path of the document&apos;s own
+file; null when it was never saved), patient, saved (seconds since 2001-01-01 UTC), fetuses,
+examinations, and differs, the keys of json that the saved document holds otherwise. It also names
+what running applications keep. A recovery file is a document: json, report and check read it. It
+stays where it is until the application has offered it.
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a reference, by its name; without it all are listed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>one of bpd, hc, ac, fl, efw that the reference has</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the age in weeks</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a length in mm, or a weight in g: its z and centile</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a centile between 0 and 100: its value and z</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a z-score: its value and centile</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>one object a line; what a reference cannot say is null</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Where a value lies in a published population; which populations there are.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>One of W, V, P and Z may be -: then numbers are read from standard input, one a line, and each is
+answered. Nothing is extrapolated: outside the weeks of a reference all numbers are missing, and
+the answer says which weeks there are. who-2017 is made of curves: it has no z, and knows no more
+than &lt;1 and &gt;99 beyond the outermost. A weight&apos;s centile is that of the reference, never of the
+error of a formula.
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>one JSON object a document, on a line: unrounded numbers, the texts beside them</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The tabular report of each document: every fetus, every examination, the projection.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Date and Menstrual Age are those of the last examination. Days are those of the local time zone. The
+projection is there when the last examination lies from 30 weeks to the planned delivery. Keys of
+the JSON, among others: file, maternalIDString, edd, fetuses, in each examinations (age in weeks;
+bpd, hc, ac, fl in mm; efw in g) and projected; docs/json.md lists them all.
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a document, or a folder with documents in it; - is a document on standard input</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>more names of files and folders, one a line; - is standard input</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the names of --files-from end with NUL instead</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the documents in a tar archive, plain, gzip or zstd; - is standard input</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>growth standards by number or name, intergrowth-2014, with commas between; or all four</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>only these columns, in this order, with commas between</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>one decimal, for z-scores three</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>comma-separated values, or a JSON object a line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>leave off the line with the names of the columns</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>reference ID, note and names of files too</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>in the column file the place of the document, or its name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>days to the EDD in place of the dates</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the zone whose days are meant, such as Europe/Paris</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>stop at the first document that cannot be read</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>work on so many documents at a time; the output is the same</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A row for each fetus at each examination: age, lengths, weights, z-scores; for statistics.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Of a folder all *.nascor are taken, and those of the folders in it. Columns:
+  file,exam,fetus,exam_date,edd,ga_weeks,bpd_mm,hc_mm,ac_mm,fl_mm,efw_0_g,...,efw_7_g
+  standard,bpd_mean_mm,bpd_sd_mm,bpd_z,...,fl_z        by each document&apos;s own standard, or
+  westerway_bpd_mean_mm,...                            by each of --standard
+  reference_id,note                                    with --identify
+  warning,error
+file counts the documents from 0, exam and fetus what they hold. A cell is empty where nothing was
+measured or nothing can be computed. warning names what is improbable. A document that cannot be
+read has a row with file and error; the others go on, and the status is 1.
+
+Privacy: documents are named after patients. Without --identify no cell holds a reference ID, a
+note or (unless --file path is given) the name of a file. Standard error names files in any case,
+for the person at the terminal: do not keep it with the rows. Notes may hold dates
+in their text: --relative-dates with --identify leaves them as they are.
+Texts stand in CSV as they are. A spreadsheet runs cells that begin with &apos;=&apos;: import names,
+reference IDs and notes as text.
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>one object a group, on a line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Works examples with known results out again: formulas, standards, references, dating.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A line a group: its name, how many values it has, how many of them differ; the last line is the total.
+The values are printed ones, held against the program at their own precision, and others that were
+worked out apart from the program. The status is 1 when one differs.
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>what is wanted of the server</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a DICOM report to send; - is standard input</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the server: a name or an IPv4 address</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>its port</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>its application entity title</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>that of this program; without this option NASCOR</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>speak encrypted, to a server whose certificate comes from this authority (PEM)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the certificate of this program, for servers that ask for one (PEM)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the key of that certificate, without a password (PEM)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>for the whole of one connection, 1 to 3600; without this option 30</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>find, fetch: the reports of this reference ID</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>find, fetch: those of this study</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>find, fetch: of studies of this day (2026-11-23) and later</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>find, fetch: of studies of this day and earlier</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>fetch: the folder for the files, which is made when it is missing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fetches reports from a DICOM server, and sends reports to it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>echo asks whether the server answers. find lists its reports, an object a line: patientID, studyDate,
+study, series, instance. fetch writes them as INSTANCE.dcm, never over a file that is there, and needs a
+patient or a study. send sends files that &quot;export --format sr&quot; or a machine wrote.
+No other command uses the network, and this one speaks to the server of its options alone.
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Growth standards (N):
+%1
+Weight formulas (K):
+%2
+The number or the name, in letters of any size.
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>growth standard, see below</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>one of bpd, hc, ac, fl, efw; without it the four lengths</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>weight formula, see below; needed for efw</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>rows [week, mean, sd]; without --measurement an object of such rows by measurement</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A reference table: mean and standard deviation at each week, in mm or g.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1
+The mean weight is that of a fetus whose four lengths are the means. Its standard deviation is the
+error of the formula, not the spread of a population; 0 where none is published.
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>one of bpd, hc, ac, fl, efw</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the mean at W weeks</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the standard deviation at W weeks</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the age in weeks of which MM (grams for efw) is the mean</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the same number as JSON</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>One look-up in a reference table, between whole weeks by linear interpolation.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The value may be -: then values are read from standard input, one a line, and answered one a line; a
+line that is no number is answered by nan (null in JSON). Nothing is extrapolated: beyond the table
+its first or last week counts, and standard error says so (of standard input once).
+
+%1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the paper of a PDF; without this option A4</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>who examined</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a line at the head of each fetus; once for each line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A summary for the records: a page or two a fetus, typeset, or as HTML.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>EDD, measurements with z and centile by the growth standard, weights, growth, small charts, notes,
+and the sources of all that was used. Each document is one file, &quot;NAME - Summary.pdf&quot;.
+Files of the same names are replaced, but with --no-clobber. SOURCE_DATE_EPOCH, in seconds since
+1970, takes the place of the present moment.
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>line %1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is no header</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is no column %1: never measured</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--columns: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>is a database of another program</source>
+        <extracomment>Behind the name of a file, as are the next ones.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>was made by another version of this program: remove it, and make it anew</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>is the index of %1, not of %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>is no index of this program</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--%1 takes no value</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is missing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is one argument too many</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is no command &quot;%1&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is no option &quot;%1&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: 1 required  missing</source>
+        <extracomment>An option stands there without its value.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: At Most 1 required but received %2</source>
+        <extracomment>An option that may stand there once stands there %2 times.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>help explains one command</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a command is missing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>standard output: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is not enough memory</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>standard input</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>warning</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a document is no text for a terminal; give --out FILE or send standard output to a file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>written, but it may not outlast a power cut: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>holds no patient</source>
+        <extracomment>Behind the name of a file.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--fetus: expected all or a number from 1 to 5</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--out is missing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--format: expected pdf, png, svg, sr or fhir</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--ndjson is for --format fhir</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--pages: expected all, first, last, a number from 0 to %1 or a name, but &quot;%2&quot; stands here</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--out - takes the pages of one document</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>pages are no text for a terminal; give --out DIR or send standard output to a file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1; the pages are painted by this program</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--format: expected sr or fhir; pages are painted by the application, which is not built here</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a length is missing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no formula dates %1 mm; they reach from %2 to %3 mm</source>
+        <extracomment>Crown-rump lengths.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--fetus: expected ID=N with a number from 1 to 5, but &quot;%1&quot; stands here</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--patient takes a reference ID, and an empty one is none</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--patient takes a reference ID of UTF-8 text in one line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--fetus: &quot;%1&quot; is given two numbers</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>is of patient &quot;%1&quot;, others are of &quot;%2&quot;; nothing is stored. Please import those of each patient alone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it is there already, and stays as it is</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--out and --into are two ways to store</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 takes a file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the same holds for %1 more of the input</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--db is missing: the file of the index</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a whole number from 0</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a day such as 2027-04-10</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>three characters or more</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there are more than %1: a longer text, or --limit, shows them</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>longer than 1 GiB, which no document is</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>line %1: expected a decimal number, but &quot;%2&quot; stands here</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>expected bpd, hc, ac, fl or efw as the measurement, but &quot;%1&quot; was given</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: expected %2, but &quot;%3&quot; was given</source>
+        <extracomment>%1 is an option or an operand, %2 what it takes, %3 what was typed.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a decimal number</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the reference ID has a character that a DICOM report cannot hold</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the reference ID is longer than the 64 characters of a DICOM report</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>cannot be written: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--%1 is for pages, not for --format %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--ndjson writes to standard output, and takes no --out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--out is missing, or no folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it holds no examination, and nothing is written</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--out needs the recovery file to write; recover alone lists them</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>give --out DOCUMENT, where to write the document</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a number above 0</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a number between 0 and 100, both excluded</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 tells nothing of %2; it has %3</source>
+        <extracomment>%1 is a reference, %2 a measurement, %3 a list of measurements.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--week is missing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--value, --centile and --z exclude each other</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--week and --%1 cannot both be -</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>expected %1, but %2 was given</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>NAME is missing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MEASURE is missing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: fmf-2018 is not offered, because its formula was not held against its printed table</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--standard: %1 has no mean and SD of the four lengths</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--standard: &quot;%1&quot; stands there twice</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--columns: a name is empty</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--columns: &quot;%1&quot; stands there twice</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--columns: there is no column &quot;%1&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--columns: %1 needs --identify</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--columns: %1 is a date, which --relative-dates leaves out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--columns: %1 needs --relative-dates</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--file: expected number or path</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--format: expected csv or jsonl</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a whole number above 0</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--null needs --files-from</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--tar stands alone, without PATH and --files-from</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>standard input (-) can be read once only</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a PATH, --files-from or --tar is missing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--time-zone: this system knows no zone &quot;%1&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of %2 values differ</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--%1: expected a day like 2026-11-23, but &quot;%2&quot; stands here</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--patient: the reference ID is empty</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--study: the UID is empty</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>has no such report</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>is not sent, because the server did not answer before</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>is not sent: %1 %2</source>
+        <extracomment>%1 is the address of a server, %2 what is wrong with it: &quot;... is not sent: host:104 does not answer&quot;.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--%1 is not for %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 takes no FILE</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>fetch needs --patient or --study</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--out takes a folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>expected echo, find, fetch or send</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>is not contacted: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the connection is not encrypted: what goes over it can be read on its way; see --ca</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>efw needs --formula</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 lies beyond the table, whose first week, %2, counts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 lies beyond the table, whose last week, %2, counts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--mean, --sd and --gestation exclude each other</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>one of --mean, --sd and --gestation is missing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1; did you mean &quot;%2&quot;?</source>
+        <extracomment>%1 is a sentence, %2 what may have been meant.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>SOURCE_DATE_EPOCH: expected whole seconds since 1970</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--paper: expected a4 or letter</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>cannot be put on paper: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--format: expected pdf or html</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--out - takes the summary of one document</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a PDF is no text for a terminal; give --out DIR or send standard output to a file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it has no such fetus</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 or a whole number from 0 to %2</source>
+        <extracomment>%1 is a list of names.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: expected one of %2, but &quot;%3&quot; was given</source>
+        <extracomment>%1 is an option or an operand, %2 a list of names.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>Compare</name>
     <message>
         <source>BPD</source>
@@ -605,6 +1826,14 @@
     </message>
     <message>
         <source>The file of this document cannot be read:</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Counting</name>
+    <message>
+        <source>1</source>
+        <extracomment>The counts that go with the form for one, with blanks between: &quot;1&quot; in English and German (&quot;1 byte&quot;, &quot;0 bytes&quot;), &quot;0 1&quot; in French.</extracomment>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1039,6 +2268,46 @@
     </message>
     <message>
         <source>%1 of the report is:</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Improbable</name>
+    <message>
+        <source>%1 %2 mm is outside %3 to %4 mm</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 %2 mm is shorter than where any growth standard begins; lengths are in mm</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 %2 mm is more than 4 SD below the mean of the growth standard at this age</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 %2 mm is more than 4 SD above the mean of the growth standard at this age</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 %2 mm is below nine tenths of pi times the BPD, %3 mm</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 %2 mm is improbable</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>its age, %1, is above 45 weeks</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it is %1 day before the last period</source>
+        <extracomment>&quot;It&quot; is an examination.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it is %1 days before the last period</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -2163,6 +3432,68 @@
     </message>
 </context>
 <context>
+    <name>Reading</name>
+    <message>
+        <source>the header has none of the columns ga_weeks, bpd_mm, hc_mm, ac_mm and fl_mm</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the column %1 is one of those that are computed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is no column of the input and none that is computed</source>
+        <extracomment>%1 stands in quotation marks.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 or %2</source>
+        <extracomment>Two names of one column.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the row that begins here is longer than 4 MiB; a quotation mark may never close</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a quotation mark that opens here never closes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>text stands behind a closing quotation mark</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the column %1 stands twice in the header</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the columns %1 and %2 are one</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the header has %1 cells, this row %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2 is no number</source>
+        <extracomment>%1 is a column, %2 what stands in it, in quotation marks.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>cannot be read</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>longer than 256 MiB, which no document is</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the tar archive ends before its end mark</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>Recovery</name>
     <message>
         <source>Reference ID</source>
@@ -3093,6 +4424,67 @@
     </message>
     <message>
         <source>No folder was chosen</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Writing</name>
+    <message>
+        <source>January</source>
+        <extracomment>A month as it stands in a day, &quot;4 January 2027&quot;.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>February</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>March</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>April</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>May</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>June</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>July</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>August</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>September</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>October</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>November</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>December</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 %2 %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>.</source>
+        <extracomment>The decimal sign: a point or a comma.</extracomment>
         <translation type="unfinished"></translation>
     </message>
 </context>

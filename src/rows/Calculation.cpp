@@ -5,6 +5,8 @@
 
 namespace nascor::rows {
 
+using foundation::Sentence;
+
 namespace {
 
 std::vector<std::string> textsOf(std::span<const CsvCell> cells) {
@@ -27,7 +29,8 @@ Calculation::Calculation(std::span<const CsvCell> header, const Choice& choice,
 Calculation::Places Calculation::measuredPlaces(std::span<const CsvCell> header) {
   Places places = placesOf(kMeasuredColumns, header);
   if (std::ranges::none_of(places, &std::optional<std::size_t>::has_value)) {
-    throw HeaderError("the header has none of the columns ga_weeks, bpd_mm, hc_mm, ac_mm and fl_mm");
+    throw HeaderError(
+        Sentence("Reading", "the header has none of the columns ga_weeks, bpd_mm, hc_mm, ac_mm and fl_mm"));
   }
   return places;
 }
@@ -44,7 +47,8 @@ std::vector<Column> Calculation::chosenColumns(const std::vector<std::string>& i
   const std::vector<Column> computed = everyComputedColumn();
   for (const Column& column : computed) {
     if (std::ranges::find(inputNames, column.name) != inputNames.end()) {
-      throw HeaderError("the column " + column.name + " is one of those that are computed");
+      throw HeaderError(
+          Sentence("Reading", "the column %1 is one of those that are computed").with(column.name));
     }
   }
 
@@ -61,23 +65,27 @@ std::vector<Column> Calculation::chosenColumns(const std::vector<std::string>& i
     } else if (found != computed.end()) {
       columns.push_back(*found);
     } else {
-      throw UnknownColumn(inQuotes(name) + " is no column of the input and none that is computed");
+      //: %1 stands in quotation marks.
+      throw UnknownColumn(
+          Sentence("Reading", "%1 is no column of the input and none that is computed").with(inQuotes(name)));
     }
   }
   return columns;
 }
 
-std::vector<std::string> Calculation::missingColumns() const {
-  std::vector<std::string> missing;
+std::vector<Sentence> Calculation::missingColumns() const {
+  std::vector<Sentence> missing;
   for (std::size_t i = 0; i < places_.size(); ++i) {
-    if (!places_[i]) missing.push_back(namesOf(kMeasuredColumns.at(i)));
+    const InputColumn& column = kMeasuredColumns.at(i);
+    //: Two names of one column.
+    if (!places_[i]) missing.push_back(Sentence("Reading", "%1 or %2").with(column.name, column.shortName));
   }
   return missing;
 }
 
-std::string Calculation::read(std::span<const CsvCell> record, Row& row) const {
-  if (record.size() != inputNames_.size()) return cellCountFault(inputNames_.size(), record.size());
-  std::string wrong;
+std::optional<Sentence> Calculation::read(std::span<const CsvCell> record, Row& row) const {
+  if (record.size() != inputNames_.size()) return cellCountSentence(inputNames_.size(), record.size());
+  std::vector<Sentence> wrong;
   std::array<double, kMeasuredColumns.size()> numbers{};
   for (std::size_t i = 0; i < numbers.size(); ++i) {
     if (!places_[i]) continue;
@@ -86,17 +94,17 @@ std::string Calculation::read(std::span<const CsvCell> record, Row& row) const {
     if (number) {
       numbers[i] = *number;
     } else {
-      if (!wrong.empty()) wrong += "; ";
-      wrong += numberFault(inputNames_[*places_[i]], textOf(cell));
+      wrong.push_back(numberSentence(inputNames_[*places_[i]], textOf(cell)));
     }
   }
   const auto [age, bpd, hc, ac, fl] = numbers;
   row.age = age;
   row.lengths = {.bpd = bpd, .hc = hc, .ac = ac, .fl = fl};
-  return wrong;
+  if (wrong.empty()) return std::nullopt;
+  return Sentence::joined(std::move(wrong), "; ");
 }
 
-std::string Calculation::append(std::string& out, std::span<const CsvCell> record) {
+std::optional<Sentence> Calculation::append(std::string& out, std::span<const CsvCell> record) {
   for (const Column& column : columns_) {
     if (column.content != Content::kept) continue;
     const auto i = static_cast<std::size_t>(column.number);
@@ -108,8 +116,9 @@ std::string Calculation::append(std::string& out, std::span<const CsvCell> recor
     }
   }
   Row row{.kept = kept_};
-  std::string wrong = read(record, row);
-  row.error = wrong;
+  auto wrong = read(record, row);
+  const std::string error = wrong ? english(*wrong) : std::string();
+  row.error = error;
   format_.append(out, row);
   return wrong;
 }

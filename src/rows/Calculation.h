@@ -3,11 +3,11 @@
 #include <cstddef>
 #include <optional>
 #include <span>
-#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "foundation/Sentence.h"
 #include "rows/Columns.h"
 #include "rows/CsvReader.h"
 #include "rows/InputColumns.h"
@@ -16,9 +16,9 @@
 namespace nascor::rows {
 
 /// A column was asked for that there is not.
-class UnknownColumn : public std::runtime_error {
+class UnknownColumn : public foundation::SpokenError {
  public:
-  using std::runtime_error::runtime_error;
+  using SpokenError::SpokenError;
 };
 
 /// Weights, means, standard deviations and z-scores beside the columns of a CSV table: each record in, a row out.
@@ -30,13 +30,13 @@ class Calculation {
               const std::optional<std::vector<std::string>>& names, bool isFixed);
 
   /// Names of columns that the input lacks, as they could have been: "bpd_mm or bpd". What they hold was never measured.
-  std::vector<std::string> missingColumns() const;
+  std::vector<foundation::Sentence> missingColumns() const;
 
   void appendHeader(std::string& out) const { format_.appendHeader(out); }
 
-  /// Appends the row of a record. What is wrong with the record, in one line; empty where all is well. Then nothing is
-  /// computed, and the row says it too.
-  std::string append(std::string& out, std::span<const CsvCell> record);
+  /// Appends the row of a record. What is wrong with the record; nothing where all is well. Then nothing is
+  /// computed, and the row says it too, in English.
+  std::optional<foundation::Sentence> append(std::string& out, std::span<const CsvCell> record);
 
  private:
   /// Where the columns of `kMeasuredColumns` stand in the input.
@@ -46,7 +46,7 @@ class Calculation {
   static std::vector<Column> chosenColumns(const std::vector<std::string>& inputNames,
                                            std::span<const CsvCell> header, const Choice& choice,
                                            const std::optional<std::vector<std::string>>& names);
-  std::string read(std::span<const CsvCell> record, Row& row) const;
+  std::optional<foundation::Sentence> read(std::span<const CsvCell> record, Row& row) const;
 
   std::vector<std::string> inputNames_;
   Places places_;

@@ -7,6 +7,8 @@
 
 namespace nascor::rows {
 
+using foundation::Sentence;
+
 namespace {
 
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
@@ -59,7 +61,9 @@ CsvReader::Next CsvReader::next() {
   if (readRecord()) return cells_.empty() ? Next::end : Next::record;
   cells_.clear();
   if (bytes_.size() - at_ > kLongestRecord) {
-    throw CsvError(line_, "the row that begins here is longer than 4 MiB; a quotation mark may never close");
+    throw CsvError(
+        line_, Sentence("Reading",
+                        "the row that begins here is longer than 4 MiB; a quotation mark may never close"));
   }
   return Next::more;
 }
@@ -85,7 +89,7 @@ std::optional<CsvReader::Found> CsvReader::quotedCell(std::size_t begin, std::ui
   const std::size_t end = endOfQuoted(begin);
   if (end == kNone) {
     if (!isFinished_) return std::nullopt;
-    throw CsvError(line, "a quotation mark that opens here never closes");
+    throw CsvError(line, Sentence("Reading", "a quotation mark that opens here never closes"));
   }
   const CsvCell cell{bytes.substr(begin, end - begin), true, false};
   std::size_t behind = end;
@@ -93,7 +97,8 @@ std::optional<CsvReader::Found> CsvReader::quotedCell(std::size_t begin, std::ui
   if (behind == bytes.size() && !isFinished_) return std::nullopt;
   if (behind == bytes.size() || bytes[behind] == '\n') return Found{cell, behind, true};
   if (bytes[end] != ',')
-    throw CsvError(line + linesIn(cell.text), "text stands behind a closing quotation mark");
+    throw CsvError(line + linesIn(cell.text),
+                   Sentence("Reading", "text stands behind a closing quotation mark"));
   return Found{cell, end, false};
 }
 

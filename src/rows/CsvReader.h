@@ -4,17 +4,20 @@
 #include <cstdint>
 #include <optional>
 #include <span>
-#include <stdexcept>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
+
+#include "foundation/Sentence.h"
 
 namespace nascor::rows {
 
 /// What was read is no CSV. Reading cannot go on: where the next record begins is not known.
-class CsvError : public std::runtime_error {
+class CsvError : public foundation::SpokenError {
  public:
-  CsvError(std::uint64_t line, const std::string& sentence) : std::runtime_error(sentence), line_(line) {}
+  CsvError(std::uint64_t line, foundation::Sentence sentence)
+      : SpokenError(std::move(sentence)), line_(line) {}
 
   /// The physical line, from 1.
   std::uint64_t line() const { return line_; }

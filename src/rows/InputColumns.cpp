@@ -9,6 +9,8 @@
 
 namespace nascor::rows {
 
+using foundation::Sentence;
+
 namespace {
 
 std::string_view withoutBlanks(std::string_view text) {
@@ -54,8 +56,9 @@ std::vector<std::optional<std::size_t>> placesOf(std::span<const InputColumn> co
     auto& found = places[static_cast<std::size_t>(column - columns.begin())];
     if (found) {
       const std::string first = textOf(header[*found]);
-      throw HeaderError(first == name ? "the column " + first + " stands twice in the header"
-                                      : "the columns " + first + " and " + std::string(name) + " are one");
+      throw HeaderError(first == name
+                            ? Sentence("Reading", "the column %1 stands twice in the header").with(first)
+                            : Sentence("Reading", "the columns %1 and %2 are one").with(first, name));
     }
     found = place;
   }
@@ -103,11 +106,20 @@ std::optional<double> measuredFromOtherText(std::string_view text) {
 }
 
 std::string cellCountFault(std::size_t header, std::size_t row) {
-  return "the header has " + std::to_string(header) + " cells, this row " + std::to_string(row);
+  return english(cellCountSentence(header, row));
+}
+
+Sentence cellCountSentence(std::size_t header, std::size_t row) {
+  return Sentence("Reading", "the header has %1 cells, this row %2").with(header, row);
 }
 
 std::string numberFault(const std::string& column, const std::string& text) {
-  return column + ": " + inQuotes(text) + " is no number";
+  return english(numberSentence(column, text));
+}
+
+Sentence numberSentence(const std::string& column, const std::string& text) {
+  //: %1 is a column, %2 what stands in it, in quotation marks.
+  return Sentence("Reading", "%1: %2 is no number").with(column, inQuotes(text));
 }
 
 std::string inQuotes(const std::string& text) { return '"' + shown(text) + '"'; }

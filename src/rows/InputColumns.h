@@ -4,11 +4,11 @@
 #include <cstddef>
 #include <optional>
 #include <span>
-#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "foundation/Sentence.h"
 #include "rows/CsvReader.h"
 
 namespace nascor::rows {
@@ -16,9 +16,11 @@ namespace nascor::rows {
 // What a table from elsewhere says, and the words for what it does not: for every reader of tables alike.
 
 /// The header of a table does not say where that is which is looked for, or names a column as the output does.
-class HeaderError : public std::runtime_error {
+class HeaderError : public foundation::SpokenError {
  public:
-  using std::runtime_error::runtime_error;
+  using SpokenError::SpokenError;
+  /// In English.
+  explicit HeaderError(const std::string& sentence) : SpokenError(foundation::Sentence::verbatim(sentence)) {}
 };
 
 /// A column that is looked for, under either name.
@@ -56,9 +58,13 @@ inline std::optional<double> measuredFromText(std::string_view text) {
 }
 
 /// A row that is shorter or longer than its header.
+foundation::Sentence cellCountSentence(std::size_t header, std::size_t row);
+/// The same in English.
 std::string cellCountFault(std::size_t header, std::size_t row);
 
 /// What `measuredFromText` makes nothing of.
+foundation::Sentence numberSentence(const std::string& column, const std::string& text);
+/// The same in English.
 std::string numberFault(const std::string& column, const std::string& text);
 
 /// The text for a message: in one line, no more than its beginning, in quotation marks.

@@ -94,7 +94,7 @@ void readTable(std::string_view text) {
 
 void readArchive(std::string_view text) {
   tar::TarReader reader(
-      [left = text]() mutable -> std::variant<std::span<const char>, std::string> {
+      [left = text]() mutable -> std::variant<std::span<const char>, foundation::Sentence> {
         return std::span<const char>(std::exchange(left, {}));
       },
       ".nascor");

@@ -47,7 +47,8 @@ Told toldOf(const std::vector<selftest::Example>& examples) {
   Told told;
   testing::internal::CaptureStdout();
   testing::internal::CaptureStderr();
-  cli::Console console;
+  const foundation::EnglishLocalizer english;
+  cli::Console console(english);
   cli::printSelfTest(examples, false, console);
   console.flush();
   told.allWell = console.allWell();

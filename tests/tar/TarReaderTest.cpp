@@ -30,7 +30,7 @@ struct Read {
 Read read(const std::string& bytes, std::size_t piece) {
   std::size_t at = 0;
   TarReader reader(
-      [&]() -> std::variant<std::span<const char>, std::string> {
+      [&]() -> std::variant<std::span<const char>, foundation::Sentence> {
         const std::size_t count = std::min(piece, bytes.size() - at);
         const auto span = std::span(bytes).subspan(at, count);
         at += count;
@@ -42,10 +42,10 @@ Read read(const std::string& bytes, std::size_t piece) {
     if (const auto* contents = std::get_if<std::vector<std::byte>>(&member->contents)) {
       result.whole.emplace_back(member->name, textOf(*contents));
     } else {
-      result.broken.emplace_back(member->name, std::get<std::string>(member->contents));
+      result.broken.emplace_back(member->name, english(std::get<foundation::Sentence>(member->contents)));
     }
   }
-  result.complaint = reader.complaint();
+  if (reader.complaint()) result.complaint = english(*reader.complaint());
   return result;
 }
 

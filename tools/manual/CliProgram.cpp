@@ -12,7 +12,7 @@ Command described(const cli::Command& command) {
   Command out{.name = std::string(command.name),
               .usage = std::string(command.usage),
               .summary = std::string(command.summary),
-              .details = command.details,
+              .details = english(command.details),
               .operands = {},
               .options = {}};
   for (const cli::OperandSpec& each : command.operands)

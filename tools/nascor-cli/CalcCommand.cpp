@@ -12,8 +12,8 @@ namespace nascor::cli {
 
 namespace {
 
-std::string atLine(std::uint64_t line, const std::string& sentence) {
-  return "line " + std::to_string(line) + ": " + sentence;
+Sentence atLine(std::uint64_t line, const Sentence& sentence) {
+  return Sentence("CommandLine", "line %1: %2").with(line, sentence);
 }
 
 /// The records of standard input.
@@ -27,7 +27,7 @@ class Records {
       const auto next = reader_.next();
       if (next != rows::CsvReader::Next::more) return next == rows::CsvReader::Next::record;
       const auto piece = input_.next();
-      if (const auto* error = std::get_if<std::string>(&piece)) throw rows::CsvError(0, *error);
+      if (const auto* error = std::get_if<Sentence>(&piece)) throw rows::CsvError(0, *error);
       const auto bytes = std::get<0>(piece);
       bytes.empty() ? reader_.finish() : reader_.read(bytes);
     }
@@ -55,26 +55,27 @@ class CalcRun {
     try {
       Records records(console_);
       if (!records.next()) {
-        console_.complain(kInput, "there is no header");
+        console_.complain(kInput, Sentence("CommandLine", "there is no header"));
         return;
       }
       rows::Calculation calculation(records.cells(), choice_, names_, isFixed_);
-      for (const std::string& column : calculation.missingColumns()) {
-        console_.warn(kInput, "there is no column " + column + ": never measured");
+      for (const Sentence& column : calculation.missingColumns()) {
+        console_.warn(kInput, Sentence("CommandLine", "there is no column %1: never measured").with(column));
       }
       calculation.appendHeader(console_.out());
       console_.linesDone();
       while (records.next()) {
-        const std::string wrong = calculation.append(console_.out(), records.cells());
+        const auto wrong = calculation.append(console_.out(), records.cells());
         console_.linesDone();
-        if (!wrong.empty()) console_.complain(kInput, atLine(records.line(), wrong));
+        if (wrong) console_.complain(kInput, atLine(records.line(), *wrong));
       }
     } catch (const rows::HeaderError& error) {
-      console_.complain(kInput, error.what());
+      console_.complain(kInput, error.sentence());
     } catch (const rows::UnknownColumn& error) {
-      throw UsageError(std::string("--columns: ") + error.what());
+      throw UsageError(Sentence("CommandLine", "--columns: %1").with(error.sentence()));
     } catch (const rows::CsvError& error) {
-      console_.complain(kInput, error.line() == 0 ? error.what() : atLine(error.line(), error.what()));
+      console_.complain(kInput,
+                        error.line() == 0 ? error.sentence() : atLine(error.line(), error.sentence()));
     }
   }
 
@@ -98,16 +99,21 @@ void runCalc(const Arguments& arguments, Console& console) {
 Command calcCommand() {
   static constexpr std::array<OptionSpec, 4> kOptions{{
       {"standard", "LIST",
-       "growth standards by number or name, intergrowth-2014, with commas between; without it all four"},
-      {"formula", "N", "one weight, by number or name, instead of all eight"},
-      {"columns", "LIST", "only these columns, of the input or computed, in this order"},
-      {"fixed", "", "what is computed with one decimal, z-scores with three"},
+       translatable(
+           "CommandHelp",
+           "growth standards by number or name, intergrowth-2014, with commas between; without it all four")},
+      {"formula", "N", translatable("CommandHelp", "one weight, by number or name, instead of all eight")},
+      {"columns", "LIST",
+       translatable("CommandHelp", "only these columns, of the input or computed, in this order")},
+      {"fixed", "", translatable("CommandHelp", "what is computed with one decimal, z-scores with three")},
   }};
   return {
       .name = "calc",
       .usage = "[--standard LIST] [--formula N] [--columns LIST] [--fixed] <TABLE.csv",
-      .summary = "Weights, means and z-scores beside the columns of a CSV table on standard input.",
-      .details =
+      .summary = translatable(
+          "CommandHelp", "Weights, means and z-scores beside the columns of a CSV table on standard input."),
+      .details = Sentence(
+          "CommandHelp",
           "The first line names the columns; those that count are ga_weeks or ga, bpd_mm or bpd, hc_mm or\n"
           "hc, ac_mm or ac, fl_mm or fl, in any order. All columns of the table stay as they came. Behind\n"
           "them stand\n"
@@ -116,7 +122,7 @@ Command calcCommand() {
           "An empty cell, 0, nan and NA are not measured. What is no number (45mm, 45,2) is named in error\n"
           "and, with its line, on standard error; nothing is computed in that row, the others go on, and\n"
           "the status is 1. Memory does not grow with the table.\n"
-          "Texts stay as they are. A spreadsheet runs cells that begin with '=': import them as text.\n",
+          "Texts stay as they are. A spreadsheet runs cells that begin with '=': import them as text.\n"),
       .operands = {},
       .options = kOptions,
       .run = runCalc};

@@ -51,22 +51,24 @@ void runCheck(const Arguments& arguments, Console& console) {
 
 Command checkCommand() {
   static constexpr std::array<OperandSpec, 1> kOperands{
-      {{"FILE...", "a document; - is standard input", true}}};
+      {{"FILE...", translatable("CommandHelp", "a document; - is standard input"), true}}};
   static constexpr std::array<OptionSpec, 2> kOptions{{
-      {"json", "", "one JSON object a document, on a line"},
-      {"verbose", "", "say ok where there is nothing to say"},
+      {"json", "", translatable("CommandHelp", "one JSON object a document, on a line")},
+      {"verbose", "", translatable("CommandHelp", "say ok where there is nothing to say")},
   }};
   return {.name = "check",
           .usage = "FILE... [--json | --verbose]",
-          .summary = "Reads each document whole and names every oddity in it, one a line.",
-          .details =
+          .summary = translatable("CommandHelp",
+                                  "Reads each document whole and names every oddity in it, one a line."),
+          .details = Sentence(
+              "CommandHelp",
               "An oddity is accepted everywhere else: a count that disagrees, a date that is missing, a "
               "length beyond\n"
               "what can be typed, an old class version. It leaves the exit status at 0; a file that cannot "
               "be read\n"
               "makes it 1. Keys of the JSON: file, and oddities, an array of objects with kind, examination, "
               "fetus,\n"
-              "text.\n",
+              "text.\n"),
           .operands = kOperands,
           .options = kOptions,
           .run = runCheck};

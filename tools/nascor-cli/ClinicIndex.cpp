@@ -14,6 +14,7 @@
 #include "calc/LookUp.h"
 #include "cli_commands/DocumentSource.h"
 #include "cli_commands/Documents.h"
+#include "cli_commands/Input.h"
 #include "foundation/IsoDate.h"
 #include "posix/FolderWalk.h"
 #include "posix/PosixCalendar.h"
@@ -131,7 +132,7 @@ std::string withSlash(std::string folder) {
 /// meets its own, and neither list is held.
 class ClinicIndex::Update {
  public:
-  using Complain = std::function<void(const std::string&, const std::string&)>;
+  using Complain = std::function<void(const std::string&, const Sentence&)>;
 
   Update(Database& database, Database& known, std::string folder, const Complain& complain)
       : database_(database),
@@ -164,7 +165,7 @@ class ClinicIndex::Update {
       if (found->error.empty()) {
         meet(found->path);
       } else {
-        complain_(found->path, found->error);
+        complain_(found->path, Sentence::ofSystem(found->error));
         passOver(withSlash(found->path));
       }
     }
@@ -243,18 +244,19 @@ class ClinicIndex::Update {
     auto contents = posix::PosixFileStore().contents(path);
     if (const auto* error = std::get_if<foundation::FileError>(&contents)) {
       // It may be readable tomorrow with the same times.
-      return addUnreadable(path, name, stamp.starts_with('?') ? stamp : doubtful(stamp), error->reason);
+      return addUnreadable(path, name, stamp.starts_with('?') ? stamp : doubtful(stamp), reasonOf(*error));
     }
     const auto document = documentFrom(std::get<0>(contents));
-    if (const auto* sentence = std::get_if<std::string>(&document))
+    if (const auto* sentence = std::get_if<Sentence>(&document))
       return addUnreadable(path, name, stamp, *sentence);
     addPatient(name, stamp, *std::get<0>(document).patient);
   }
 
   void addUnreadable(const std::string& path, std::string_view name, const std::string& stamp,
-                     const std::string& sentence) {
+                     const Sentence& sentence) {
     complain_(path, sentence);
-    addDocument_.bind(1, name).bind(2, stamp).bind(3, std::string_view(sentence));
+    // Other programs read the index: it is the same in every language.
+    addDocument_.bind(1, name).bind(2, stamp).bind(3, std::string_view(english(sentence)));
     for (int parameter = 4; parameter <= 11; ++parameter) addDocument_.bindNull(parameter);
     addedDocument();
   }
@@ -358,12 +360,16 @@ ClinicIndex::ClinicIndex(const std::string& database, const std::string& folder)
     : path_(database), folder_(folder), database_(database, Database::Access::write) {
   const std::int64_t application = integerOf(database_, "PRAGMA application_id");
   const std::int64_t tables = integerOf(database_, "SELECT count(*) FROM sqlite_schema");
-  if (application != kApplication && tables > 0) throw IndexError("is a database of another program");
+  if (application != kApplication && tables > 0) {
+    //: Behind the name of a file, as are the next ones.
+    throw IndexError(Sentence("CommandLine", "is a database of another program"));
+  }
   database_.execute("PRAGMA journal_mode = WAL; PRAGMA synchronous = NORMAL;");
   std::error_code error;
   const std::string absolute = std::filesystem::canonical(folder, error).string();
   if (tables > 0 && integerOf(database_, "PRAGMA user_version") != kVersion) {
-    throw IndexError("was made by another version of this program: remove it, and make it anew");
+    throw IndexError(
+        Sentence("CommandLine", "was made by another version of this program: remove it, and make it anew"));
   }
   const std::string zone = zoneText(posix::PosixCalendar());
   if (tables == 0) {
@@ -375,7 +381,8 @@ ClinicIndex::ClinicIndex(const std::string& database, const std::string& folder)
     return;
   }
   if (const auto indexed = about(database_, "folder"); indexed != absolute && !absolute.empty()) {
-    throw IndexError("is the index of " + indexed.value_or("no folder") + ", not of " + absolute);
+    const Sentence named = indexed ? Sentence::verbatim(*indexed) : Sentence("CommandLine", "no folder");
+    throw IndexError(Sentence("CommandLine", "is the index of %1, not of %2").with(named, absolute));
   }
   if (about(database_, "zone") != zone) {
     database_.execute("BEGIN IMMEDIATE; UPDATE documents SET stamp = '';");
@@ -385,7 +392,7 @@ ClinicIndex::ClinicIndex(const std::string& database, const std::string& folder)
 }
 
 IndexChanges ClinicIndex::bringUpToDate(
-    const std::function<void(const std::string&, const std::string&)>& complain) {
+    const std::function<void(const std::string&, const Sentence&)>& complain) {
   Database known(path_, Database::Access::read);
   IndexChanges changes = Update(database_, known, folder_, complain).run();
   changes.unreadable = integerOf(database_, "SELECT count(*) FROM documents WHERE error IS NOT NULL");
@@ -415,9 +422,10 @@ std::string dayText(const foundation::CivilDay& day, const foundation::Calendar&
 
 IndexQueries::IndexQueries(const std::string& database) : database_(database, Database::Access::read) {
   if (integerOf(database_, "PRAGMA application_id") != kApplication)
-    throw IndexError("is no index of this program");
+    throw IndexError(Sentence("CommandLine", "is no index of this program"));
   if (integerOf(database_, "PRAGMA user_version") != kVersion) {
-    throw IndexError("was made by another version of this program: remove it, and make it anew");
+    throw IndexError(
+        Sentence("CommandLine", "was made by another version of this program: remove it, and make it anew"));
   }
 }
 

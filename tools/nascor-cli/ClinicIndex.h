@@ -4,21 +4,21 @@
 #include <cstdint>
 #include <functional>
 #include <optional>
-#include <stdexcept>
 #include <string>
 #include <vector>
 
 #include "calc/Standards.h"
 #include "foundation/Calendar.h"
+#include "foundation/Sentence.h"
 #include "model/PatientRecord.h"
 #include "sqlite/Database.h"
 
 namespace nascor::cli {
 
 /// The database is no index of this program, or one of another folder: a sentence.
-class IndexError : public std::runtime_error {
+class IndexError : public foundation::SpokenError {
  public:
-  using std::runtime_error::runtime_error;
+  using SpokenError::SpokenError;
 };
 
 /// What happened to the documents of a folder since the index was last brought up to date.
@@ -42,7 +42,8 @@ class ClinicIndex {
 
   /// Reads what is new or has changed, and forgets what is gone. What cannot be read is told to `complain`: a path and a
   /// sentence. What stands in a folder that cannot be read stays as it was.
-  IndexChanges bringUpToDate(const std::function<void(const std::string&, const std::string&)>& complain);
+  IndexChanges bringUpToDate(
+      const std::function<void(const std::string&, const foundation::Sentence&)>& complain);
 
  private:
   class Update;

@@ -3,19 +3,22 @@
 #include <map>
 #include <optional>
 #include <span>
-#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "cli_commands/Console.h"
+#include "foundation/Localizer.h"
+#include "foundation/Sentence.h"
 
 namespace nascor::cli {
 
+using foundation::translatable;
+
 /// The command was called wrongly. Ends the program with status 2, the sentence and a line on the right usage.
-class UsageError : public std::runtime_error {
+class UsageError : public foundation::SpokenError {
  public:
-  using std::runtime_error::runtime_error;
+  using SpokenError::SpokenError;
 };
 
 /// What stands behind the name of a command on the command line, as the texts that were typed.
@@ -28,6 +31,8 @@ struct Arguments {
   bool has(std::string_view name) const { return options.contains(name); }
   std::optional<std::string> option(std::string_view name) const;
 };
+
+// What stands here as `help` and `summary` is a key of the table "CommandHelp".
 
 struct OptionSpec {
   std::string_view name;   ///< without the dashes
@@ -50,7 +55,7 @@ struct Command {
   std::string_view name;
   std::string_view usage;  ///< what follows the name
   std::string_view summary;
-  std::string details;  ///< more paragraphs of help
+  Sentence details;  ///< more paragraphs of help
   std::span<const OperandSpec> operands;
   std::span<const OptionSpec> options;
   /// Throws UsageError for values that are not what help asks for. Input that turns out bad is told to the console.

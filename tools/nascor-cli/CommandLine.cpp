@@ -18,19 +18,23 @@ namespace nascor::cli {
 namespace {
 
 constexpr std::string_view kProgram = "nascor-cli";
-constexpr std::string_view kNotAMedicalDevice = "Not a medical device. Not validated for clinical use.";
+constexpr std::string_view kHelp = "CommandHelp";
+constexpr std::string_view kNotAMedicalDevice =
+    translatable("CommandHelp", "Not a medical device. Not validated for clinical use.");
+constexpr std::string_view kThisText = translatable("CommandHelp", "this text");
 constexpr int kAllWell = 0;
 constexpr int kBadInput = 1;
 constexpr int kWrongUsage = 2;
 
-std::string usageOf(const Command& command) {
-  return "usage: " + std::string(kProgram) + " " + std::string(command.name) + " " +
-         std::string(command.usage) + "\n";
+Sentence usageLine(const std::string& how) { return Sentence("CommandHelp", "usage: %1\n").with(how); }
+
+Sentence usageOf(const Command& command) {
+  return usageLine(std::string(kProgram).append(" ").append(command.name).append(" ").append(command.usage));
 }
 
-std::string usage() {
+Sentence usage() {
   const GeneralHelp general = generalHelp();
-  return "usage: " + std::string(general.program) + " " + std::string(general.usage) + "\n";
+  return usageLine(std::string(general.program).append(" ").append(general.usage));
 }
 
 std::string padded(std::string text, std::size_t width) {
@@ -39,21 +43,22 @@ std::string padded(std::string text, std::size_t width) {
 }
 
 /// Two columns: a term and what it means.
-std::string listed(const std::vector<std::pair<std::string, std::string_view>>& terms) {
+std::string listed(const std::vector<std::pair<std::string, std::string_view>>& terms,
+                   const foundation::Localizer& localizer) {
   std::size_t width = 0;
   for (const auto& [term, meaning] : terms) width = std::max(width, term.size());
   std::string text;
   for (const auto& [term, meaning] : terms)
-    text += "  " + padded(term, width + 2) + std::string(meaning) + "\n";
+    text += "  " + padded(term, width + 2) + localizer.text(kHelp, meaning) + "\n";
   return text;
 }
 
-std::string version() {
+std::string version(const foundation::Localizer& localizer) {
   return std::string(kProgram).append(" ").append(foundation::programVersion()) + "\n" +
-         std::string(kNotAMedicalDevice) + "\n";
+         localizer.text(kHelp, kNotAMedicalDevice) + "\n";
 }
 
-std::string help() {
+std::string help(const foundation::Localizer& localizer) {
   const GeneralHelp general = generalHelp();
   std::vector<std::pair<std::string, std::string_view>> terms;
   for (const Command& command : commands()) terms.emplace_back(command.name, command.summary);
@@ -64,12 +69,13 @@ std::string help() {
     for (const std::string_view name : names) term.append(term.empty() ? "" : ", ").append(name);
     options.emplace_back(term, meaning);
   }
-  return usage() + "\n" + std::string(general.summary) + "\n" + std::string(kNotAMedicalDevice) +
-         "\n\nCommands:\n" + listed(terms) + "\nOptions:\n" + listed(options) + "\n" +
-         std::string(general.rules);
+  return said(usage(), localizer) + "\n" + localizer.text(kHelp, general.summary) + "\n" +
+         localizer.text(kHelp, kNotAMedicalDevice) + "\n\n" + localizer.text("CommandHelp", "Commands:") +
+         "\n" + listed(terms, localizer) + "\n" + localizer.text("CommandHelp", "Options:") + "\n" +
+         listed(options, localizer) + "\n" + localizer.text(kHelp, general.rules);
 }
 
-std::string helpOn(const Command& command) {
+std::string helpOn(const Command& command, const foundation::Localizer& localizer) {
   std::vector<std::pair<std::string, std::string_view>> operands;
   for (const OperandSpec& operand : command.operands) operands.emplace_back(operand.name, operand.help);
   std::vector<std::pair<std::string, std::string_view>> options;
@@ -78,10 +84,12 @@ std::string helpOn(const Command& command) {
     if (!option.value.empty()) term += " " + std::string(option.value);
     options.emplace_back(term, option.help);
   }
-  options.emplace_back("--help, -h", "this text");
-  return usageOf(command) + "\n" + std::string(command.summary) + "\n" + std::string(kNotAMedicalDevice) +
-         "\n" + (operands.empty() ? "" : "\n" + listed(operands)) + "\nOptions:\n" + listed(options) +
-         (command.details.empty() ? "" : "\n" + command.details);
+  options.emplace_back("--help, -h", kThisText);
+  return said(usageOf(command), localizer) + "\n" + localizer.text(kHelp, command.summary) + "\n" +
+         localizer.text(kHelp, kNotAMedicalDevice) + "\n" +
+         (operands.empty() ? "" : "\n" + listed(operands, localizer)) + "\n" +
+         localizer.text("CommandHelp", "Options:") + "\n" + listed(options, localizer) +
+         (command.details.isEmpty() ? "" : "\n" + said(command.details, localizer));
 }
 
 /// A command as the parser knows it.
@@ -115,7 +123,7 @@ class Parser {
       const OptionSpec& spec = command_->options[i];
       const std::string value = options_[i]->results().back();
       if (spec.value.empty() && value != "true") {
-        throw UsageError("--" + std::string(spec.name) + " takes no value");
+        throw UsageError(Sentence("CommandLine", "--%1 takes no value").with(spec.name));
       }
       arguments.options.emplace(spec.name, value);
       if (!spec.value.empty()) arguments.repeated.emplace(spec.name, options_[i]->results());
@@ -123,10 +131,11 @@ class Parser {
     const auto specs = command_->operands;
     const std::size_t given = arguments.operands.size();
     if (given < specs.size() && !specs[given].isOptional)
-      throw UsageError(std::string(specs[given].name) + " is missing");
+      throw UsageError(Sentence("CommandLine", "%1 is missing").with(specs[given].name));
     const bool anyNumber = !specs.empty() && specs.back().repeated;
     if (given > specs.size() && !anyNumber) {
-      throw UsageError("\"" + oneLine(arguments.operands[specs.size()]) + "\" is one argument too many");
+      const std::string extra = oneLine(arguments.operands[specs.size()]);
+      throw UsageError(Sentence("CommandLine", "\"%1\" is one argument too many").with(extra));
     }
     return arguments;
   }
@@ -143,13 +152,13 @@ bool isCommand(std::string_view name) {
 }
 
 /// The sentence about what the parser could not place: a command, else the first option.
-std::string unknownArgument(const std::vector<std::string>& remaining, const Command* chosen) {
+Sentence unknownArgument(const std::vector<std::string>& remaining, const Command* chosen) {
   const auto isOption = [](const std::string& text) { return text.starts_with('-'); };
   if (!chosen && std::ranges::any_of(remaining, std::not_fn(isOption))) {
     std::vector<std::string> names{"help"};
     for (const Command& command : commands()) names.emplace_back(command.name);
     const std::string& word = *std::ranges::find_if_not(remaining, isOption);
-    return "there is no command \"" + word + "\"" + didYouMean(word, names);
+    return didYouMean(Sentence("CommandLine", "there is no command \"%1\"").with(word), word, names);
   }
   std::vector<std::string> names{"--help"};
   if (chosen) {
@@ -160,12 +169,29 @@ std::string unknownArgument(const std::vector<std::string>& remaining, const Com
   const auto unknown = std::ranges::find_if(remaining, isOption);
   const std::string option =
       unknown == remaining.end() ? std::string() : unknown->substr(0, unknown->find('='));
-  return "there is no option \"" + option + "\"" + didYouMean(option, names);
+  return didYouMean(Sentence("CommandLine", "there is no option \"%1\"").with(option), option, names);
 }
 
-int wrongUsage(std::string_view sentence, const std::string& usageLine) {
-  Console::writeError(std::string(kProgram) + ": " + oneLine(sentence) + "\n" + usageLine);
+int wrongUsage(const Sentence& sentence, const std::string& usage, const foundation::Localizer& localizer) {
+  Console::writeError(std::string(kProgram) + ": " + oneLine(said(sentence, localizer)) + "\n" + usage);
   return kWrongUsage;
+}
+
+/// What the parser says, word by word: it knows no other language.
+Sentence parsersSentence(const std::string& text) {
+  constexpr std::string_view kMissing = ": 1 required  missing";
+  constexpr std::string_view kSeveral = ": At Most 1 required but received ";
+  if (text.ends_with(kMissing)) {
+    //: An option stands there without its value.
+    return Sentence("CommandLine", "%1: 1 required  missing")
+        .with(text.substr(0, text.size() - kMissing.size()));
+  }
+  if (const std::size_t at = text.find(kSeveral); at != std::string::npos) {
+    //: An option that may stand there once stands there %2 times.
+    return Sentence("CommandLine", "%1: At Most 1 required but received %2")
+        .with(text.substr(0, at), text.substr(at + kSeveral.size()));
+  }
+  return Sentence::verbatim(text);
 }
 
 /// What was typed behind the program's name, the last first as the parser wants it. It knows a negative number only by the
@@ -195,40 +221,46 @@ int parseAndRun(int argc, char** argv, Console& console) {
   std::vector<Parser> parsers;
   for (const Command& command : commands()) parsers.emplace_back(app, command);
   const auto chosen = [&] { return std::ranges::find_if(parsers, &Parser::isChosen); };
+  const foundation::Localizer& localizer = console.localizer();
+  const auto wrong = [&](const Sentence& sentence) {
+    const bool isAnyChosen = chosen() != parsers.end();
+    return wrongUsage(sentence, said(isAnyChosen ? usageOf(chosen()->command()) : usage(), localizer),
+                      localizer);
+  };
 
   std::vector<std::string> arguments(argv + 1, argv + argc);
   if (!arguments.empty() && arguments.front() == "help") {
     // Help on a command is that command's own.
     arguments.erase(arguments.begin());
-    if (arguments.size() > 1) return wrongUsage("help explains one command", usage());
+    if (arguments.size() > 1) return wrong(Sentence("CommandLine", "help explains one command"));
     if (!arguments.empty() && !isCommand(arguments.front()))
-      return wrongUsage(unknownArgument(arguments, nullptr), usage());
+      return wrong(unknownArgument(arguments, nullptr));
     arguments.emplace_back("--help");
   }
   try {
     app.parse(reversedArguments(std::move(arguments)));
     if (versionFlag->count() > 0) {
-      console.out() += version();
+      console.out() += version(localizer);
       console.flush();
       return kAllWell;
     }
-    if (chosen() == parsers.end()) return wrongUsage("a command is missing", help());
+    if (chosen() == parsers.end())
+      return wrongUsage(Sentence("CommandLine", "a command is missing"), help(localizer), localizer);
     chosen()->command().run(chosen()->arguments(), console);
     console.flush();
     return console.allWell() ? kAllWell : kBadInput;
   } catch (const CLI::CallForHelp&) {
-    console.out() += chosen() == parsers.end() ? help() : helpOn(chosen()->command());
+    console.out() += chosen() == parsers.end() ? help(localizer) : helpOn(chosen()->command(), localizer);
     console.flush();
     return kAllWell;
   } catch (const CLI::ExtrasError&) {
     const bool isAnyChosen = chosen() != parsers.end();
     const Command* command = isAnyChosen ? &chosen()->command() : nullptr;
-    return wrongUsage(unknownArgument(isAnyChosen ? chosen()->remaining() : app.remaining(), command),
-                      command ? usageOf(*command) : usage());
+    return wrong(unknownArgument(isAnyChosen ? chosen()->remaining() : app.remaining(), command));
   } catch (const CLI::ParseError& error) {
-    return wrongUsage(error.what(), chosen() == parsers.end() ? usage() : usageOf(chosen()->command()));
+    return wrong(parsersSentence(error.what()));
   } catch (const UsageError& error) {
-    return wrongUsage(error.what(), usageOf(chosen()->command()));
+    return wrong(error.sentence());
   }
 }
 
@@ -241,35 +273,37 @@ std::string placeOf(const foundation::SourceLocation& where) {
 GeneralHelp generalHelp() {
   return {.program = kProgram,
           .usage = "COMMAND [ARGUMENT...]",
-          .summary = "Obstetric ultrasound biometry for shells and scripts.",
-          .rules =
+          .summary = translatable("CommandHelp", "Obstetric ultrasound biometry for shells and scripts."),
+          .rules = translatable(
+              "CommandHelp",
               "Lengths are in millimetres, weights in grams, ages in weeks after the last menstrual period.\n"
               "A FILE or a value of - is standard input. No question is ever asked.\n"
-              "Exit status: 0 all well, 1 some input was bad, 2 wrong usage.\n",
-          .helpOfHelp = "this text; help COMMAND explains one command",
-          .options = {{{"--help", "-h"}, "this text; behind a command, that command's help"},
-                      {{"--version"}, "the version of the program"},
-                      {{"--"}, "what follows is no option"}}};
+              "Exit status: 0 all well, 1 some input was bad, 2 wrong usage.\n"),
+          .helpOfHelp = translatable("CommandHelp", "this text; help COMMAND explains one command"),
+          .options = {{{"--help", "-h"},
+                       translatable("CommandHelp", "this text; behind a command, that command's help")},
+                      {{"--version"}, translatable("CommandHelp", "the version of the program")},
+                      {{"--"}, translatable("CommandHelp", "what follows is no option")}}};
 }
 
-int runCommandLine(int argc, char** argv) {
-  Console console;
-  std::string sentence;
+int runCommandLine(int argc, char** argv, const foundation::Localizer& localizer) {
+  Console console(localizer);
+  Sentence sentence;
   try {
     return parseAndRun(argc, argv, console);
   } catch (const OutputError& error) {
     if (error.readerIsGone()) return kBadInput;
-    sentence = std::string("standard output: ") + error.what();
+    sentence = Sentence("CommandLine", "standard output: %1").with(error.sentence());
   } catch (const foundation::RangeError& error) {
-    sentence = error.what() + placeOf(error.where());
+    sentence = Sentence::verbatim(error.what() + placeOf(error.where()));
   } catch (const foundation::AssertionFailure& error) {
-    sentence = error.what();
+    sentence = Sentence::verbatim(error.what());
   } catch (const std::bad_alloc&) {
-    sentence = "there is not enough memory";
+    sentence = Sentence("CommandLine", "there is not enough memory");
   } catch (const std::exception& error) {
-    sentence = error.what();
+    sentence = foundation::sentenceOf(error);
   }
-  Console::writeError(std::string(kProgram) + ": " + oneLine(sentence) + "\n");
+  Console::writeError(std::string(kProgram) + ": " + oneLine(said(sentence, localizer)) + "\n");
   return kBadInput;
 }
 

@@ -4,13 +4,16 @@
 #include <utility>
 #include <vector>
 
+#include "foundation/Localizer.h"
+
 namespace nascor::cli {
 
 /// Reads the command line, runs one command and answers the exit status: 0 all well, 1 some input was bad, 2 wrong
-/// usage. Every exception ends here, as a sentence on standard error.
-int runCommandLine(int argc, char** argv);
+/// usage. Every exception ends here, as a sentence on standard error. Help and sentences are those of `localizer`; numbers,
+/// tables and JSON are the same in every language.
+int runCommandLine(int argc, char** argv, const foundation::Localizer& localizer);
 
-/// What help says of the program itself, beside its commands.
+/// What help says of the program itself, beside its commands. Sentences are keys of the table "CommandHelp".
 struct GeneralHelp {
   std::string_view program;
   std::string_view usage;    ///< what follows the name

@@ -254,13 +254,17 @@ void runCompare(const Arguments& arguments, Console& console) {
 
 Command compareCommand() {
   static constexpr std::array<OperandSpec, 1> kOperands{
-      {{"FILE...", "a document; - is standard input", true}}};
+      {{"FILE...", translatable("CommandHelp", "a document; - is standard input"), true}}};
   static constexpr std::array<OptionSpec, 1> kOptions{
-      {{"json", "", "one object a document, examination and fetus, on a line: unrounded numbers"}}};
+      {{"json", "",
+        translatable("CommandHelp",
+                     "one object a document, examination and fetus, on a line: unrounded numbers")}}};
   return {.name = "compare",
           .usage = "FILE... [--json]",
-          .summary = "Each length and weight by every reference and formula, ratios, twins, growth.",
-          .details =
+          .summary = translatable(
+              "CommandHelp", "Each length and weight by every reference and formula, ratios, twins, growth."),
+          .details = Sentence(
+              "CommandHelp",
               "Examinations and fetuses count from 0. Difference is that from the weight by the document's "
               "formula.\n"
               "Age is that of which the value is the median of the reference; outside its weeks a dash. "
@@ -269,7 +273,7 @@ Command compareCommand() {
               "the\n"
               "examination before which has the length; the change of z is by the document's standard. "
               "Centiles of\n"
-              "weights are those of references; the error of a formula is no population.\n",
+              "weights are those of references; the error of a formula is no population.\n"),
           .operands = kOperands,
           .options = kOptions,
           .run = runCompare};

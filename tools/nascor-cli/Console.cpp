@@ -49,7 +49,8 @@ void writeOutput(std::string_view bytes) {
 
 }  // namespace
 
-Console::Console() : outputIsTerminal_(::isatty(STDOUT_FILENO) == 1) {}
+Console::Console(const foundation::Localizer& localizer)
+    : localizer_(localizer), outputIsTerminal_(::isatty(STDOUT_FILENO) == 1) {}
 
 bool Console::errorsAloneAreSeen() const { return !outputIsTerminal_ && ::isatty(STDERR_FILENO) == 1; }
 
@@ -84,15 +85,17 @@ void Console::writeBytes(std::span<const std::byte> bytes) {
   writeOutput({reinterpret_cast<const char*>(bytes.data()), bytes.size()});
 }
 
-void Console::complain(std::string_view source, std::string_view sentence) {
+void Console::complain(std::string_view source, const Sentence& sentence) {
   allWell_ = false;
   warn(source, sentence);
 }
 
-void Console::warn(std::string_view source, std::string_view sentence) {
+void Console::warn(std::string_view source, const Sentence& sentence) {
   // In the order of events, where both go to the same place.
   flush();
-  writeError(oneLine(source) + ": " + oneLine(sentence) + "\n");
+  const bool isName = source != kStandardInput && source != kWarning;
+  const std::string shown = isName ? std::string(source) : localizer_.text("CommandLine", source);
+  writeError(oneLine(shown) + ": " + oneLine(said(sentence, localizer_)) + "\n");
 }
 
 void Console::writeError(std::string_view text) { writeAll(STDERR_FILENO, text); }

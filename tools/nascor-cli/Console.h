@@ -2,19 +2,24 @@
 
 #include <cstddef>
 #include <span>
-#include <stdexcept>
 #include <string>
 #include <string_view>
 
+#include "foundation/Localizer.h"
+#include "foundation/Sentence.h"
 #include "foundation/Utf8.h"
 
 namespace nascor::cli {
 
+using foundation::oneLine;
+using foundation::Sentence;
+
 /// Standard output could not be written. Ends the program with status 1.
-class OutputError : public std::runtime_error {
+class OutputError : public foundation::SpokenError {
  public:
+  /// `reason` is the system's.
   OutputError(const std::string& reason, bool readerIsGone)
-      : std::runtime_error(reason), readerIsGone_(readerIsGone) {}
+      : SpokenError(Sentence::ofSystem(reason)), readerIsGone_(readerIsGone) {}
 
   /// The program at the other end of the pipe has ended. That is its right and needs no words.
   bool readerIsGone() const { return readerIsGone_; }
@@ -23,12 +28,18 @@ class OutputError : public std::runtime_error {
   bool readerIsGone_;
 };
 
-using foundation::oneLine;
+/// How messages name an input that has no name. It is the same in JSON, and translated on standard error.
+inline constexpr std::string_view kStandardInput = foundation::translatable("CommandLine", "standard input");
+/// What stands where the source of a warning would, when it is about what was typed.
+inline constexpr std::string_view kWarning = foundation::translatable("CommandLine", "warning");
 
-/// Standard output and standard error.
+/// Standard output, which is the same in every language but for help, and standard error, which speaks the user's.
 class Console {
  public:
-  Console();
+  /// `localizer` lives as long as this.
+  explicit Console(const foundation::Localizer& localizer);
+
+  const foundation::Localizer& localizer() const { return localizer_; }
 
   /// What goes to standard output next. Append whole lines, and call `lineDone` after them.
   std::string& out() { return out_; }
@@ -49,10 +60,10 @@ class Console {
   void writeBytes(std::span<const std::byte> bytes);
 
   /// A bad input, in one line on standard error: "SOURCE: SENTENCE". The exit status will be 1.
-  void complain(std::string_view source, std::string_view sentence);
+  void complain(std::string_view source, const Sentence& sentence);
 
   /// The same for something worth knowing that spoils nothing.
-  void warn(std::string_view source, std::string_view sentence);
+  void warn(std::string_view source, const Sentence& sentence);
 
   /// Text for standard error as it stands. Nothing can be done when that fails.
   static void writeError(std::string_view text);
@@ -70,6 +81,7 @@ class Console {
   bool allWell() const { return allWell_; }
 
  private:
+  const foundation::Localizer& localizer_;
   std::string out_;
   bool outputIsTerminal_;
   bool allWell_ = true;

@@ -30,7 +30,8 @@ void runMake(const Arguments& arguments, Console& console) {
   const std::string target = arguments.option("out").value_or("-");
   if (target == "-" && console.outputIsTerminal()) {
     throw UsageError(
-        "a document is no text for a terminal; give --out FILE or send standard output to a file");
+        Sentence("CommandLine",
+                 "a document is no text for a terminal; give --out FILE or send standard output to a file"));
   }
   const auto contents = contentsOf(path, console);
   if (!contents) return;
@@ -40,10 +41,11 @@ void runMake(const Arguments& arguments, Console& console) {
     const std::string_view text(reinterpret_cast<const char*>(contents->data()), contents->size());
     document = model::patientFromJson(text, posix::PosixCalendar());
   } catch (const model::JsonDocumentError& error) {
-    console.complain(nameOf(path), error.what());
+    console.complain(nameOf(path), foundation::sentenceOf(error));
     return;
   }
-  for (const std::string& warning : document.warnings) console.warn(nameOf(path), warning);
+  for (const std::string& warning : document.warnings)
+    console.warn(nameOf(path), Sentence::verbatim(warning));
 
   const auto bytes = model::archivedPatient(*document.patient);
   if (target == "-") {
@@ -73,12 +75,12 @@ void runDump(const Arguments& arguments, Console& console) {
       asJson ? archive::dumpAsJsonInPieces(*contents, take) : archive::dumpAsTextInPieces(*contents, take);
       console.lineDone();
     } catch (const archive::FormatError& error) {
-      console.complain(nameOf(path), error.what());
+      console.complain(nameOf(path), foundation::sentenceOf(error));
     }
   }
 }
 
-constexpr std::string_view kDocument = "a document; - is standard input";
+constexpr std::string_view kDocument = translatable("CommandHelp", "a document; - is standard input");
 
 }  // namespace
 
@@ -87,14 +89,16 @@ Command jsonCommand() {
   return {
       .name = "json",
       .usage = "FILE...",
-      .summary = "Each document as JSON: every field that it holds, one object on a line.",
-      .details =
+      .summary = translatable("CommandHelp",
+                              "Each document as JSON: every field that it holds, one object on a line."),
+      .details = Sentence(
+          "CommandHelp",
           "Keys: maternalIDString, edd, eddISO, standard, fetalWeightStandard, numberOfFetuses,\n"
           "extrapolatedGestation (weeks), crlStandard, gravida, and examinations, an array of objects with "
           "note,\n"
           "examDate, examDateISO and measurements, an array of objects with bpd, hc, ac and fl (mm; 0 = not\n"
           "measured). Dates are seconds since 2001-01-01 UTC; beside each stands its local time as ISO "
-          "text.\n",
+          "text.\n"),
       .operands = kOperands,
       .options = {},
       .run = runJson};
@@ -102,14 +106,17 @@ Command jsonCommand() {
 
 Command makeCommand() {
   static constexpr std::array<OperandSpec, 1> kOperands{
-      {{"FILE.json", "a document as JSON; - is standard input"}}};
+      {{"FILE.json", translatable("CommandHelp", "a document as JSON; - is standard input")}}};
   static constexpr std::array<OptionSpec, 1> kOptions{
-      {{"out", "FILE", "where to write it, as a whole or not at all; without it, or -, to standard output"}}};
+      {{"out", "FILE",
+        translatable("CommandHelp",
+                     "where to write it, as a whole or not at all; without it, or -, to standard output")}}};
   return {
       .name = "make",
       .usage = "FILE.json [--out FILE]",
-      .summary = "A document from JSON.",
-      .details =
+      .summary = translatable("CommandHelp", "A document from JSON."),
+      .details = Sentence(
+          "CommandHelp",
           "Reads what json prints: maternalIDString, edd, standard, fetalWeightStandard, numberOfFetuses,\n"
           "extrapolatedGestation (weeks), crlStandard, gravida, and examinations, an array of objects with\n"
           "note, examDate and measurements, an array of objects with bpd, hc, ac and fl (mm). Every key may "
@@ -117,7 +124,7 @@ Command makeCommand() {
           "missing; an unknown one is an error. A date is a number of\n"
           "seconds since 2001-01-01 UTC, an ISO date (2027-04-10 is local midnight), an ISO date and "
           "time, or\n"
-          "null. Lengths are stored in single precision, whole numbers in 32 bits.\n",
+          "null. Lengths are stored in single precision, whole numbers in 32 bits.\n"),
       .operands = kOperands,
       .options = kOptions,
       .run = runMake};
@@ -125,15 +132,18 @@ Command makeCommand() {
 
 Command dumpCommand() {
   static constexpr std::array<OperandSpec, 1> kOperands{
-      {{"FILE...", "any typed stream; - is standard input", true}}};
-  static constexpr std::array<OptionSpec, 1> kOptions{{{"json", "", "one JSON object a stream, on a line"}}};
+      {{"FILE...", translatable("CommandHelp", "any typed stream; - is standard input"), true}}};
+  static constexpr std::array<OptionSpec, 1> kOptions{
+      {{"json", "", translatable("CommandHelp", "one JSON object a stream, on a line")}}};
   return {.name = "dump",
           .usage = "FILE... [--json]",
-          .summary = "All that a typed stream holds, as a tree; of any program, not only documents.",
-          .details =
+          .summary = translatable(
+              "CommandHelp", "All that a typed stream holds, as a tree; of any program, not only documents."),
+          .details = Sentence(
+              "CommandHelp",
               "Each line begins with the byte at which the value begins. Keys of the JSON: byte_order,\n"
               "system_version, and groups, an array of objects with types and values; docs/json.md lists the "
-              "values.\n",
+              "values.\n"),
           .operands = kOperands,
           .options = kOptions,
           .run = runDump};

@@ -3,6 +3,7 @@
 #include <ctime>
 #include <utility>
 
+#include "cli_commands/Input.h"
 #include "foundation/HolderText.h"
 #include "posix/PosixCalendar.h"
 
@@ -27,8 +28,8 @@ DocumentFile::DocumentFile(std::string path, Console& console) : path_(std::move
     if (std::exchange(process, claim.holder->process) != claim.holder->process) tries = 0;
     if (++tries == kMostTriesWithOne) {
       isOurs_ = false;
-      console_.complain(path_, foundation::heldSentence(*claim.holder, posix::PosixCalendar(),
-                                                        foundation::EnglishLocalizer()));
+      console_.complain(path_, Sentence::verbatim(foundation::heldSentence(
+                                   *claim.holder, posix::PosixCalendar(), console_.localizer())));
       return;
     }
     ::nanosleep(&kPause, nullptr);
@@ -43,9 +44,11 @@ void DocumentFile::writeExpected(std::span<const std::byte> bytes, const foundat
 
 void DocumentFile::tell(const std::optional<FileError>& error) {
   if (!error) return;
-  console_.complain(path_, error->kind == FileError::Kind::isWritten
-                               ? "written, but it may not outlast a power cut: " + error->reason
-                               : error->reason);
+  const Sentence reason = reasonOf(*error);
+  console_.complain(
+      path_, error->kind == FileError::Kind::isWritten
+                 ? Sentence("CommandLine", "written, but it may not outlast a power cut: %1").with(reason)
+                 : reason);
 }
 
 }  // namespace nascor::cli

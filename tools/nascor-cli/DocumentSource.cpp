@@ -43,12 +43,12 @@ class NameList {
     }
   }
 
-  const std::optional<std::string>& error() const { return error_; }
+  const std::optional<Sentence>& error() const { return error_; }
 
  private:
   bool read() {
     auto piece = input_.next();
-    if (auto* error = std::get_if<std::string>(&piece)) error_ = std::move(*error);
+    if (auto* error = std::get_if<Sentence>(&piece)) error_ = std::move(*error);
     if (!error_) piece_ = std::get<0>(piece);
     return !piece_.empty();
   }
@@ -56,7 +56,7 @@ class NameList {
   InputStream input_;
   char end_;
   std::span<const char> piece_;
-  std::optional<std::string> error_;
+  std::optional<Sentence> error_;
 };
 
 class NamedDocuments final : public DocumentSource {
@@ -101,7 +101,7 @@ class NamedDocuments final : public DocumentSource {
         .name = std::move(found.path), .place = place_++, .from = PendingDocument::From::folder};
     if (!found.error.empty()) {
       document.from = PendingDocument::From::here;
-      document.contents = std::move(found.error);
+      document.contents = Sentence::ofSystem(std::move(found.error));
     }
     return document;
   }
@@ -163,14 +163,14 @@ std::unique_ptr<DocumentSource> documentsInTar(Console& console, const std::stri
   return std::make_unique<DocumentsInTar>(console, path);
 }
 
-std::variant<std::vector<std::byte>, std::string> contentsOf(PendingDocument document) {
+std::variant<std::vector<std::byte>, Sentence> contentsOf(PendingDocument document) {
   if (document.from == PendingDocument::From::here) return std::move(document.contents);
   using posix::PosixFileStore;
   auto contents = document.from == PendingDocument::From::folder
                       ? PosixFileStore::contentsOfListed(document.name)
                       : PosixFileStore({}, PosixFileStore::Pipes::areRead).contents(document.name);
   if (auto* bytes = std::get_if<std::vector<std::byte>>(&contents)) return std::move(*bytes);
-  return std::get<foundation::FileError>(contents).reason;
+  return reasonOf(std::get<foundation::FileError>(contents));
 }
 
 }  // namespace nascor::cli

@@ -26,8 +26,8 @@ struct PendingDocument {
   std::string name;         ///< as it was given; a path for the two above
   std::uint64_t place = 0;  ///< among the documents of the run, from 0
   From from = From::here;
-  /// The bytes, or why they cannot be had: a sentence.
-  std::variant<std::vector<std::byte>, std::string> contents{};
+  /// The bytes, or why they cannot be had.
+  std::variant<std::vector<std::byte>, Sentence> contents{};
 };
 
 /// The documents of a run, one after the other.
@@ -41,7 +41,7 @@ class DocumentSource {
   /// What is wrong with the list or the archive itself.
   struct Complaint {
     std::string source;
-    std::string sentence;
+    Sentence sentence;
   };
   /// After the end; nothing where all is well.
   virtual std::optional<Complaint> complaint() const = 0;
@@ -64,7 +64,7 @@ std::unique_ptr<DocumentSource> namedDocuments(Console& console, Names names);
 /// The documents in a tar archive; "-" is standard input.
 std::unique_ptr<DocumentSource> documentsInTar(Console& console, const std::string& path);
 
-/// The bytes of a document, or why they cannot be had: a sentence. Any thread may call it.
-std::variant<std::vector<std::byte>, std::string> contentsOf(PendingDocument document);
+/// The bytes of a document, or why they cannot be had. Any thread may call it.
+std::variant<std::vector<std::byte>, Sentence> contentsOf(PendingDocument document);
 
 }  // namespace nascor::cli

@@ -5,13 +5,14 @@
 
 namespace nascor::cli {
 
-std::variant<model::UnarchivedPatient, std::string> documentFrom(std::span<const std::byte> bytes) {
+std::variant<model::UnarchivedPatient, Sentence> documentFrom(std::span<const std::byte> bytes) {
   try {
     auto document = model::unarchivedPatient(bytes);
     if (document.patient) return document;
-    return "holds no patient";
+    //: Behind the name of a file.
+    return Sentence("CommandLine", "holds no patient");
   } catch (const archive::FormatError& error) {
-    return model::refusalText(error);
+    return Sentence::verbatim(model::refusalText(error));
   }
 }
 
@@ -20,7 +21,7 @@ std::optional<model::UnarchivedPatient> documentIn(const std::string& path, Cons
   if (!bytes) return std::nullopt;
   auto document = documentFrom(*bytes);
   if (auto* read = std::get_if<model::UnarchivedPatient>(&document)) return std::move(*read);
-  console.complain(nameOf(path), std::get<std::string>(document));
+  console.complain(nameOf(path), std::get<Sentence>(document));
   return std::nullopt;
 }
 

@@ -12,7 +12,7 @@
 namespace nascor::cli {
 
 /// The document in bytes, with its patient; or why it is none, in a sentence.
-std::variant<model::UnarchivedPatient, std::string> documentFrom(std::span<const std::byte> bytes);
+std::variant<model::UnarchivedPatient, Sentence> documentFrom(std::span<const std::byte> bytes);
 
 /// The document in a file, or in standard input for "-"; its patient is there. When it cannot be read, or holds no
 /// patient: a complaint, and nothing.

@@ -32,7 +32,8 @@ std::string namesOfPages() {
 
 void checkFetus(std::string_view fetus) {
   const bool isNumber = fetus.size() == 1 && fetus[0] >= '1' && fetus[0] <= '5';
-  if (fetus != "all" && !isNumber) throw UsageError("--fetus: expected all or a number from 1 to 5");
+  if (fetus != "all" && !isNumber)
+    throw UsageError(Sentence("CommandLine", "--fetus: expected all or a number from 1 to 5"));
 }
 
 /// The application, which paints. It lies beside this program, which starts in a hundredth of the time without loading windows.
@@ -44,22 +45,26 @@ std::string painter() {
 
 void exportPages(const std::string& format, const Arguments& arguments, Console& console) {
   const auto folder = arguments.option("out");
-  if (!folder || folder->empty()) throw UsageError("--out is missing");
+  if (!folder || folder->empty()) throw UsageError(Sentence("CommandLine", "--out is missing"));
   if (std::ranges::find(kFormats, format) == kFormats.end())
-    throw UsageError("--format: expected pdf, png, svg, sr or fhir");
-  if (arguments.has("ndjson")) throw UsageError("--ndjson is for --format fhir");
+    throw UsageError(Sentence("CommandLine", "--format: expected pdf, png, svg, sr or fhir"));
+  if (arguments.has("ndjson")) throw UsageError(Sentence("CommandLine", "--ndjson is for --format fhir"));
   const std::string pages = arguments.option("pages").value_or("all");
   if (const auto refused = model::chosenPages(pages).refused) {
-    throw UsageError("--pages: expected all, first, last, a number from 0 to " + lastPageNumber() +
-                     " or a name, but \"" + *refused + "\" stands here");
+    throw UsageError(
+        Sentence("CommandLine",
+                 "--pages: expected all, first, last, a number from 0 to %1 or a name, but \"%2\" "
+                 "stands here")
+            .with(lastPageNumber(), *refused));
   }
   const std::string fetus = inSmallLetters(arguments.option("fetus").value_or("all"));
   checkFetus(fetus);
 
   if (*folder == "-" && arguments.operands.size() > 1)
-    throw UsageError("--out - takes the pages of one document");
+    throw UsageError(Sentence("CommandLine", "--out - takes the pages of one document"));
   if (*folder == "-" && console.outputIsTerminal())
-    throw UsageError("pages are no text for a terminal; give --out DIR or send standard output to a file");
+    throw UsageError(Sentence(
+        "CommandLine", "pages are no text for a terminal; give --out DIR or send standard output to a file"));
 
   const std::string program = painter();
   std::vector<std::string> words{program, "--quiet", "--write-pages", *folder,   "--format",
@@ -80,8 +85,9 @@ void exportPages(const std::string& format, const Arguments& arguments, Console&
   for (std::string& word : words) pointers.push_back(word.data());
   pointers.push_back(nullptr);
   ::execv(program.c_str(), pointers.data());
+  const Sentence reason = Sentence::ofSystem(std::generic_category().message(errno));
   console.complain(program,
-                   std::generic_category().message(errno) + "; the pages are painted by this program");
+                   Sentence("CommandLine", "%1; the pages are painted by this program").with(reason));
 }
 
 #ifdef NASCOR_PAGES
@@ -94,8 +100,9 @@ void runExport(const Arguments& arguments, Console& console) {
   const std::string format = inSmallLetters(arguments.option("format").value_or("pdf"));
   if (format == "sr" || format == "fhir") return exportRecords(format, arguments, console);
   if (!kHasPages)
-    throw UsageError(
-        "--format: expected sr or fhir; pages are painted by the application, which is not built here");
+    throw UsageError(Sentence(
+        "CommandLine",
+        "--format: expected sr or fhir; pages are painted by the application, which is not built here"));
   exportPages(format, arguments, console);
 }
 
@@ -103,33 +110,45 @@ void runExport(const Arguments& arguments, Console& console) {
 
 Command exportCommand() {
   static constexpr std::array<OperandSpec, 1> kOperands{
-      {{"FILE...", "a document; - is standard input", true}}};
+      {{"FILE...", translatable("CommandHelp", "a document; - is standard input"), true}}};
   static_assert(model::kPatientPages.size() == 7, "the help of --pages says 0 to 6");
   static constexpr std::array<OptionSpec, 9> kOptions{{
       {"out", "DIR",
-       "the folder for the files, which is made when it is missing; - is standard output, for one file"},
-      {"format", "pdf|png|svg|sr|fhir", "what is written; without this option PDF"},
-      {"pages", "PAGES", "all, or first, last, numbers from 0 to 6 and names, with commas between"},
-      {"fetus", "all|N", "one fetus, the first is 1; without this option all"},
-      {"overlay", "REFERENCE", "centile lines of a reference of \"nascor-cli reference\" over the charts"},
-      {"join-marks", "", "a line from mark to mark of each fetus"},
-      {"no-clobber", "", "leave files that are there as they are, and say so"},
-      {"no-foot", "", "leave off what stands under each page"},
-      {"ndjson", "", "FHIR as one resource a line, of all documents, on standard output"},
+       translatable(
+           "CommandHelp",
+           "the folder for the files, which is made when it is missing; - is standard output, for one file")},
+      {"format", "pdf|png|svg|sr|fhir",
+       translatable("CommandHelp", "what is written; without this option PDF")},
+      {"pages", "PAGES",
+       translatable("CommandHelp",
+                    "all, or first, last, numbers from 0 to 6 and names, with commas between")},
+      {"fetus", "all|N", translatable("CommandHelp", "one fetus, the first is 1; without this option all")},
+      {"overlay", "REFERENCE",
+       translatable("CommandHelp",
+                    "centile lines of a reference of \"nascor-cli reference\" over the charts")},
+      {"join-marks", "", translatable("CommandHelp", "a line from mark to mark of each fetus")},
+      {"no-clobber", "", translatable("CommandHelp", "leave files that are there as they are, and say so")},
+      {"no-foot", "", translatable("CommandHelp", "leave off what stands under each page")},
+      {"ndjson", "",
+       translatable("CommandHelp", "FHIR as one resource a line, of all documents, on standard output")},
   }};
   return {
       .name = "export",
       .usage =
           "FILE... --out DIR [--format pdf|png|svg|sr|fhir] [--pages PAGES] [--fetus all|N] "
           "[--overlay REFERENCE] [--join-marks] [--no-clobber] [--no-foot] [--ndjson]",
-      .summary = "Writes the pages of each document, or its numbers for other programs.",
+      .summary = translatable("CommandHelp",
+                              "Writes the pages of each document, or its numbers for other programs."),
       .details =
-          "Names of pages: " + namesOfPages() + " (0 to " + lastPageNumber() +
-          "), in letters of any size.\n"
-          "As PDF all pages of a document are one file; else each is a file of its own.\n"
-          "Files of the same names are replaced, but with --no-clobber.\n"
-          "sr: a DICOM structured report (Comprehensive SR) for each examination, \"NAME 1.dcm\", ...\n"
-          "fhir: a FHIR R4 bundle for each document, NAME.json; with --ndjson lines on standard output.\n",
+          Sentence(
+              "CommandHelp",
+              "Names of pages: %1 (0 to %2), in letters of any size.\n"
+              "As PDF all pages of a document are one file; else each is a file of its own.\n"
+              "Files of the same names are replaced, but with --no-clobber.\n"
+              "sr: a DICOM structured report (Comprehensive SR) for each examination, \"NAME 1.dcm\", ...\n"
+              "fhir: a FHIR R4 bundle for each document, NAME.json; with --ndjson lines on standard "
+              "output.\n")
+              .with(namesOfPages(), lastPageNumber()),
       .operands = kOperands,
       .options = kOptions,
       .run = runExport};

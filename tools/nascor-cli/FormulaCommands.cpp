@@ -32,7 +32,7 @@ void runWeight(const Arguments& arguments, Console& console) {
     measured.*calc::memberFor(measurement) =
         requiredNumber("--" + std::string(calc::nameOf(measurement)), *value);
   }
-  if (!anyGiven) throw UsageError("a length is missing");
+  if (!anyGiven) throw UsageError(Sentence("CommandLine", "a length is missing"));
   for (const calc::Measurement measurement : calc::kMeasurements) {
     // No age is known here, and so no standard to be far from.
     for (const calc::Improbable what : calc::improbableLength(measurement, measured, 0.0, {}))
@@ -80,14 +80,15 @@ void answerCRL(std::optional<double> crl, bool asJson, const Digits& digits, Con
 }
 
 /// A sentence where no formula dates that length.
-std::optional<std::string> undatedText(double crl) {
+std::optional<Sentence> undatedText(double crl) {
   const auto formulas = calc::crlFormulas();
   const auto dates = [crl](const calc::CRLFormula& formula) { return formula.menstrualAge(crl) != 0.0; };
   if (std::ranges::any_of(formulas, dates)) return std::nullopt;
   const double least = std::ranges::min(formulas, {}, &calc::CRLFormula::least).least;
   const double greatest = std::ranges::max(formulas, {}, &calc::CRLFormula::greatest).greatest;
-  return "no formula dates " + shortestText(crl) + " mm; they reach from " + shortestText(least) + " to " +
-         shortestText(greatest) + " mm";
+  //: Crown-rump lengths.
+  return Sentence("CommandLine", "no formula dates %1 mm; they reach from %2 to %3 mm")
+      .with(shortestText(crl), shortestText(least), shortestText(greatest));
 }
 
 void printCRLTitles(Console& console) {
@@ -130,23 +131,25 @@ void runCRL(const Arguments& arguments, Console& console) {
 
 Command weightCommand() {
   static constexpr std::array<OptionSpec, 6> kOptions{{
-      {"bpd", "MM", "biparietal diameter"},
-      {"hc", "MM", "head circumference"},
-      {"ac", "MM", "abdominal circumference"},
-      {"fl", "MM", "femur length"},
+      {"bpd", "MM", translatable("CommandHelp", "biparietal diameter")},
+      {"hc", "MM", translatable("CommandHelp", "head circumference")},
+      {"ac", "MM", translatable("CommandHelp", "abdominal circumference")},
+      {"fl", "MM", translatable("CommandHelp", "femur length")},
       kFixedOption,
-      {"json", "", "an array of eight numbers, by identifier of the formula"},
+      {"json", "", translatable("CommandHelp", "an array of eight numbers, by identifier of the formula")},
   }};
   return {.name = "weight",
           .usage = "[--bpd MM] [--hc MM] [--ac MM] [--fl MM] [--fixed] [--json]",
-          .summary = "The estimated weight of one fetus by each of the eight formulas, in grams.",
-          .details =
+          .summary = translatable(
+              "CommandHelp", "The estimated weight of one fetus by each of the eight formulas, in grams."),
+          .details = Sentence(
+              "CommandHelp",
               "A length that is not given is 0, which means not measured. Where a formula needs it, the "
               "weight is\n"
               "a dash (0 in JSON). An improbable length is named on standard error.\n"
               "The formulas, by identifier: 0 Hadlock 1 (HC/AC/FL), 1 Hadlock 2 (AC/FL),\n"
               "2 Hadlock 3 (BPD/AC/FL), 3 Hadlock 4 (BPD/HC/AC/FL), 4 Campbell (AC), 5 Combs (HC/AC/FL),\n"
-              "6 Ott (HC/AC/FL), 7 Shepard (BPD/AC).\n",
+              "6 Ott (HC/AC/FL), 7 Shepard (BPD/AC).\n"),
           .operands = {},
           .options = kOptions,
           .run = runWeight};
@@ -154,20 +157,27 @@ Command weightCommand() {
 
 Command crlCommand() {
   static constexpr std::array<OperandSpec, 1> kOperands{
-      {{"MM...", "crown-rump lengths; - reads lengths from standard input, one a line", true, true}}};
+      {{"MM...",
+        translatable("CommandHelp", "crown-rump lengths; - reads lengths from standard input, one a line"),
+        true, true}}};
   static constexpr std::array<OptionSpec, 2> kOptions{
-      {kFixedOption, {"json", "", "an array of four numbers a length, each on a line of its own"}}};
+      {kFixedOption,
+       {"json", "",
+        translatable("CommandHelp", "an array of four numbers a length, each on a line of its own")}}};
   return {.name = "crl",
           .usage = "MM... [--fixed] [--json]",
-          .summary = "The menstrual age at each crown-rump length by each of the four formulas, in weeks.",
-          .details =
+          .summary = translatable(
+              "CommandHelp",
+              "The menstrual age at each crown-rump length by each of the four formulas, in weeks."),
+          .details = Sentence(
+              "CommandHelp",
               "One line a length, columns separated by tabs. Outside the range of a formula the age is a "
               "dash (0 in\n"
               "JSON). A line of standard input that is no number is answered by nan (null in JSON).\n"
               "A length that no formula dates is named on standard error, of standard input the first one.\n"
               "The formulas, by identifier: 0 Hadlock (1992), 2 to 120 mm; 1 Nelson (1981), 6.7 to 82.4 mm\n"
               "(no second source has it; 9 days more than Hadlock (1992) at 7 mm, 3 days more at 20 mm);\n"
-              "2 Robinson (1975), 7 to 79.6 mm; 3 Westerway (2000), 2 to 87 mm.\n",
+              "2 Robinson (1975), 7 to 79.6 mm; 3 Westerway (2000), 2 to 87 mm.\n"),
           .operands = kOperands,
           .options = kOptions,
           .run = runCRL};

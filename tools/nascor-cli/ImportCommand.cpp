@@ -33,7 +33,9 @@ std::pair<std::string, std::int64_t> fetusPlaceIn(const std::string& text) {
   const auto [end, error] = std::from_chars(number.data(), number.data() + number.size(), place);
   const bool isNumber = error == std::errc() && end == number.data() + number.size();
   if (!isNumber || place < calc::kFewestFetuses || place > calc::kMostFetuses)
-    throw UsageError("--fetus: expected ID=N with a number from 1 to 5, but \"" + text + "\" stands here");
+    throw UsageError(
+        Sentence("CommandLine", "--fetus: expected ID=N with a number from 1 to 5, but \"%1\" stands here")
+            .with(text));
   return {text.substr(0, equals), place - 1};
 }
 
@@ -42,10 +44,11 @@ std::optional<std::string> patientIn(const Arguments& arguments) {
   const auto typed = arguments.option("patient");
   if (!typed) return std::nullopt;
   const std::string id(exchange::withoutBlanks(*typed));
-  if (id.empty()) throw UsageError("--patient takes a reference ID, and an empty one is none");
+  if (id.empty())
+    throw UsageError(Sentence("CommandLine", "--patient takes a reference ID, and an empty one is none"));
   const bool hasControls = std::ranges::any_of(id, [](unsigned char c) { return c < ' ' || c == 0x7F; });
   if (!foundation::isValidUtf8(id) || hasControls)
-    throw UsageError("--patient takes a reference ID of UTF-8 text in one line");
+    throw UsageError(Sentence("CommandLine", "--patient takes a reference ID of UTF-8 text in one line"));
   return id;
 }
 
@@ -57,7 +60,8 @@ exchange::Confirmation confirmationIn(const Arguments& arguments) {
   for (const std::string& text : fetuses->second) {
     const auto [id, place] = fetusPlaceIn(text);
     const auto [found, isNew] = confirmation.fetusPlaces.emplace(id, place);
-    if (!isNew && found->second != place) throw UsageError("--fetus: \"" + id + "\" is given two numbers");
+    if (!isNew && found->second != place)
+      throw UsageError(Sentence("CommandLine", "--fetus: \"%1\" is given two numbers").with(id));
   }
   return confirmation;
 }
@@ -86,7 +90,7 @@ FoundInAll findAndPrint(const std::vector<std::string>& files, Console& console)
     }
     auto reports = reports::findingsIn(*bytes);
     if (const auto* sentences = std::get_if<std::vector<std::string>>(&reports)) {
-      for (const std::string& why : *sentences) console.complain(nameOf(file), why);
+      for (const std::string& why : *sentences) console.complain(nameOf(file), Sentence::verbatim(why));
       found.isWhole = false;
       continue;
     }
@@ -101,7 +105,7 @@ FoundInAll findAndPrint(const std::vector<std::string>& files, Console& console)
 }
 
 /// Why files do not go into one document together: they name different patients. Each is of one.
-std::optional<std::string> severalPatients(const std::vector<Found>& all) {
+std::optional<Sentence> severalPatients(const std::vector<Found>& all) {
   std::set<std::string> named;
   for (const Found& found : all) {
     const auto first = std::ranges::find_if(
@@ -109,8 +113,11 @@ std::optional<std::string> severalPatients(const std::vector<Found>& all) {
     if (first != found.findings.end()) named.insert(*first->patientID);
   }
   if (named.size() < 2) return std::nullopt;
-  return "is of patient \"" + *named.rbegin() + "\", others are of \"" + *named.begin() +
-         "\"; nothing is stored. Please import those of each patient alone";
+  return Sentence(
+             "CommandLine",
+             "is of patient \"%1\", others are of \"%2\"; nothing is stored. Please import those of each "
+             "patient alone")
+      .with(*named.rbegin(), *named.begin());
 }
 
 /// What findings are stored in, and what its file holds.
@@ -127,13 +134,13 @@ std::optional<Stored> documentFor(const Arguments& arguments, Console& console) 
     auto document = documentFrom(*contents);
     if (auto* read = std::get_if<model::UnarchivedPatient>(&document))
       return Stored{.document = std::move(*read), .contents = *contents};
-    console.complain(nameOf(*into), std::get<std::string>(document));
+    console.complain(nameOf(*into), std::get<Sentence>(document));
     return std::nullopt;
   }
   const std::string out = arguments.option("out").value_or("");
   std::error_code ignored;
   if (std::filesystem::symlink_status(out, ignored).type() != std::filesystem::file_type::not_found) {
-    console.complain(out, "it is there already, and stays as it is");
+    console.complain(out, Sentence("CommandLine", "it is there already, and stays as it is"));
     return std::nullopt;
   }
   model::UnarchivedPatient document{.patient = std::make_unique<model::PatientRecord>(), .facts = {}};
@@ -167,7 +174,7 @@ void store(const std::vector<Found>& all, const Arguments& arguments, Console& c
   for (const Found& found : all) {
     const std::string file = nameOf(found.file);
     const auto refuse = [&](const std::string& why) {
-      console.complain(file, why);
+      console.complain(file, Sentence::verbatim(why));
       isRefused = true;
     };
     if (const auto why = exchange::severalPatientsFault(found.findings)) {
@@ -186,17 +193,17 @@ void store(const std::vector<Found>& all, const Arguments& arguments, Console& c
     }
   }
   if (isRefused) return;
-  for (const auto& [file, warning] : warnings) console.warn(file, warning);
+  for (const auto& [file, warning] : warnings) console.warn(file, Sentence::verbatim(warning));
   document.writeExpected(model::archivedPatient(patient), stored->contents);
 }
 
 void runImport(const Arguments& arguments, Console& console) {
   const bool isStored = arguments.has("out") || arguments.has("into");
   if (arguments.has("out") && arguments.has("into"))
-    throw UsageError("--out and --into are two ways to store");
+    throw UsageError(Sentence("CommandLine", "--out and --into are two ways to store"));
   for (const char* name : {"out", "into"}) {
     if (arguments.has(name) && (arguments.option(name)->empty() || *arguments.option(name) == "-"))
-      throw UsageError("--" + std::string(name) + " takes a file");
+      throw UsageError(Sentence("CommandLine", "%1 takes a file").with("--" + std::string(name)));
   }
   // What is wrong with it is said before anything is printed.
   static_cast<void>(confirmationIn(arguments));
@@ -211,21 +218,29 @@ void runImport(const Arguments& arguments, Console& console) {
 Command importCommand() {
   static constexpr std::array<OperandSpec, 1> kOperands{
       {{"FILE...",
-        "a DICOM report, a FHIR bundle of this program, or a CSV table of examinations; - is standard input",
+        translatable("CommandHelp",
+                     "a DICOM report, a FHIR bundle of this program, or a CSV table of examinations; - is "
+                     "standard input"),
         true}}};
   static constexpr std::array<OptionSpec, 5> kOptions{{
-      {"out", "FILE", "store what was found in a new document"},
-      {"into", "FILE", "add what was found to a document"},
-      {"patient", "ID", "the reports are of the patient of this reference ID, whatever they say"},
-      {"fetus", "ID=N", "the fetus that the reports call ID is fetus N of the document; once for each", false,
-       true},
-      {"edd", "", "the report's EDD takes the place of the document's"},
+      {"out", "FILE", translatable("CommandHelp", "store what was found in a new document")},
+      {"into", "FILE", translatable("CommandHelp", "add what was found to a document")},
+      {"patient", "ID",
+       translatable("CommandHelp", "the reports are of the patient of this reference ID, whatever they say")},
+      {"fetus", "ID=N",
+       translatable("CommandHelp",
+                    "the fetus that the reports call ID is fetus N of the document; once for each"),
+       false, true},
+      {"edd", "", translatable("CommandHelp", "the report's EDD takes the place of the document's")},
   }};
   return {
       .name = "import",
       .usage = "FILE... [--out FILE | --into FILE] [--patient ID] [--fetus ID=N]... [--edd]",
-      .summary = "What reports of ultrasound machines and tables hold, as JSON; stored only on demand.",
-      .details =
+      .summary = translatable(
+          "CommandHelp",
+          "What reports of ultrasound machines and tables hold, as JSON; stored only on demand."),
+      .details = Sentence(
+          "CommandHelp",
           "One object a report, of a table one for each patient and day: file, patientID, examDate, edd,\n"
           "eddFrom, gravida, numberOfFetuses, fetuses (id, bpd, hc, ac, fl and crl in mm, efw in g, "
           "chosen),\n"
@@ -233,7 +248,7 @@ Command importCommand() {
           "A table has the columns that rows writes: exam_date, any of bpd_mm, hc_mm, ac_mm and fl_mm, and,\n"
           "where it has them, reference_id, fetus (from 0) or fetus_number (from 1), edd, gravida and\n"
           "number_of_fetuses. When a row does not fit, nothing of the table is printed or stored.\n"
-          "Nothing is stored when patient or fetus are in doubt, and nothing that stands is overwritten.\n",
+          "Nothing is stored when patient or fetus are in doubt, and nothing that stands is overwritten.\n"),
       .operands = kOperands,
       .options = kOptions,
       .run = runImport};

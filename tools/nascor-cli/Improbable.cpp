@@ -24,43 +24,56 @@ std::string lengthText(double millimetres) {
 
 }  // namespace
 
-std::string improbableText(Improbable what, calc::Measurement measurement, const calc::Biometry& lengths) {
-  const std::string length = inCapitals(calc::nameOf(measurement)) + " " +
-                             lengthText(lengths.*calc::memberFor(measurement)) + " mm is ";
+Sentence improbableText(Improbable what, calc::Measurement measurement, const calc::Biometry& lengths) {
+  const std::string name = inCapitals(calc::nameOf(measurement));
+  const std::string length = lengthText(lengths.*calc::memberFor(measurement));
   switch (what) {
     case Improbable::outsideBounds: {
       const auto bounds = calc::editingBounds(measurement);
-      return length + "outside " + shortestText(bounds.least) + " to " + shortestText(bounds.greatest) +
-             " mm";
+      return Sentence("Improbable", "%1 %2 mm is outside %3 to %4 mm")
+          .with(name, length, shortestText(bounds.least), shortestText(bounds.greatest));
     }
     case Improbable::shorterThanAnywhere:
-      return length + "shorter than where any growth standard begins; lengths are in mm";
+      return Sentence("Improbable",
+                      "%1 %2 mm is shorter than where any growth standard begins; lengths are in mm")
+          .with(name, length);
     case Improbable::farBelowStandard:
-      return length + "more than 4 SD below the mean of the growth standard at this age";
+      return Sentence("Improbable",
+                      "%1 %2 mm is more than 4 SD below the mean of the growth standard at this age")
+          .with(name, length);
     case Improbable::farAboveStandard:
-      return length + "more than 4 SD above the mean of the growth standard at this age";
+      return Sentence("Improbable",
+                      "%1 %2 mm is more than 4 SD above the mean of the growth standard at this age")
+          .with(name, length);
     case Improbable::headTooSmall:
-      return length + "below nine tenths of pi times the BPD, " + lengthText(lengths.bpd) + " mm";
-    default: return length + "improbable";
+      return Sentence("Improbable", "%1 %2 mm is below nine tenths of pi times the BPD, %3 mm")
+          .with(name, length, lengthText(lengths.bpd));
+    default: return Sentence("Improbable", "%1 %2 mm is improbable").with(name, length);
   }
 }
 
-std::string improbableText(Improbable what, double age) {
+Sentence improbableText(Improbable what, double age) {
   if (what == Improbable::beforeLastPeriod) {
     const double days = std::round(-age * 7.0);
-    return "it is " + shortestText(days) + (days == 1.0 ? " day" : " days") + " before the last period";
+    const std::string text = shortestText(days);
+    //: "It" is an examination.
+    const auto one = Sentence("Improbable", "it is %1 day before the last period");
+    const auto many = Sentence("Improbable", "it is %1 days before the last period");
+    return Sentence::counted(days == 1.0 ? 1 : 2, one.with(text), many.with(text));
   }
-  return "its age, " + calc::gestationText(age, foundation::EnglishLocalizer()) + ", is above 45 weeks";
+  return Sentence("Improbable", "its age, %1, is above 45 weeks")
+      .with(calc::gestationText(age, foundation::EnglishLocalizer()));
 }
 
-void warn(Console& console, const std::string& sentence) { console.warn("warning", sentence); }
+void warn(Console& console, const Sentence& sentence) { console.warn(kWarning, sentence); }
 
-void StreamWarnings::add(const std::string& sentence) {
+void StreamWarnings::add(const Sentence& sentence) {
   if (count_++ == 0) warn(console_, sentence);
 }
 
 void StreamWarnings::end() {
-  if (count_ > 1) warn(console_, "the same holds for " + std::to_string(count_ - 1) + " more of the input");
+  if (count_ < 2) return;
+  warn(console_, Sentence("CommandLine", "the same holds for %1 more of the input").with(count_ - 1));
 }
 
 }  // namespace nascor::cli

@@ -20,12 +20,12 @@ namespace {
 
 constexpr std::int64_t kUsualDays = 28;
 constexpr std::int64_t kUsualMost = 100;
-constexpr OptionSpec kDatabase{"db", "FILE", "the index"};
-constexpr OptionSpec kJson{"json", "", "a JSON object a line"};
+constexpr OptionSpec kDatabase{"db", "FILE", translatable("CommandHelp", "the index")};
+constexpr OptionSpec kJson{"json", "", translatable("CommandHelp", "a JSON object a line")};
 
 std::string databaseOf(const Arguments& arguments) {
   const auto path = arguments.option("db");
-  if (!path) throw UsageError("--db is missing: the file of the index");
+  if (!path) throw UsageError(Sentence("CommandLine", "--db is missing: the file of the index"));
   return *path;
 }
 
@@ -33,7 +33,8 @@ std::int64_t wholeNumberOf(const Arguments& arguments, std::string_view name, st
   const auto text = arguments.option(name);
   if (!text) return usual;
   const auto number = wholeTextAs<std::int64_t>(*text);
-  if (!number || *number < 0) refuseValue("--" + std::string(name), "a whole number from 0", *text);
+  if (!number || *number < 0)
+    refuseValue("--" + std::string(name), Sentence("CommandLine", "a whole number from 0"), *text);
   return std::min(*number, std::int64_t{10'000'000});
 }
 
@@ -42,7 +43,7 @@ foundation::CivilDay dayOf(const Arguments& arguments) {
   const auto text = arguments.option("from");
   const auto date = text ? foundation::dateFromIsoText(*text, calendar) : posix::SystemClock().now();
   const auto day = date ? foundation::localDay(*date, calendar) : std::nullopt;
-  if (!day) refuseValue("--from", "a day such as 2027-04-10", text.value_or(""));
+  if (!day) refuseValue("--from", Sentence("CommandLine", "a day such as 2027-04-10"), text.value_or(""));
   return *day;
 }
 
@@ -52,9 +53,9 @@ void withDatabase(const std::string& path, Console& console, Work work) {
   try {
     work();
   } catch (const sqlite::DatabaseError& error) {
-    console.complain(path, error.what());
+    console.complain(path, foundation::sentenceOf(error));
   } catch (const IndexError& error) {
-    console.complain(path, error.what());
+    console.complain(path, error.sentence());
   }
 }
 
@@ -125,13 +126,14 @@ void runIndex(const Arguments& arguments, Console& console) {
   const std::string& folder = arguments.operands.front();
   std::error_code error;
   if (!std::filesystem::is_directory(folder, error)) {
-    console.complain(folder, error ? error.message() : std::generic_category().message(ENOTDIR));
+    const std::string reason = error ? error.message() : std::generic_category().message(ENOTDIR);
+    console.complain(folder, Sentence::ofSystem(reason));
     return;
   }
   withDatabase(path, console, [&] {
     ClinicIndex index(path, folder);
     const IndexChanges changes = index.bringUpToDate(
-        [&](const std::string& file, const std::string& sentence) { console.complain(file, sentence); });
+        [&](const std::string& file, const Sentence& sentence) { console.complain(file, sentence); });
     const std::array<std::pair<const char*, std::int64_t>, 5> counts{{{"documents", changes.documents},
                                                                       {"added", changes.added},
                                                                       {"changed", changes.changed},
@@ -170,7 +172,8 @@ void runSearch(const Arguments& arguments, Console& console) {
   constexpr std::size_t kLeast = 3;
   const std::string path = databaseOf(arguments);
   const std::string& text = arguments.operands.front();
-  if (foundation::codePoints(text) < kLeast) refuseValue("TEXT", "three characters or more", text);
+  if (foundation::codePoints(text) < kLeast)
+    refuseValue("TEXT", Sentence("CommandLine", "three characters or more"), text);
   const std::int64_t most = wholeNumberOf(arguments, "limit", kUsualMost);
   withDatabase(path, console, [&] {
     Answers answers(arguments, console);
@@ -179,8 +182,9 @@ void runSearch(const Arguments& arguments, Console& console) {
       if (answers.count() < most) {
         answers.add(document);
       } else {
-        console.warn(
-            path, "there are more than " + std::to_string(most) + ": a longer text, or --limit, shows them");
+        console.warn(path,
+                     Sentence("CommandLine", "there are more than %1: a longer text, or --limit, shows them")
+                         .with(most));
       }
     });
     answers.print();
@@ -191,19 +195,23 @@ void runSearch(const Arguments& arguments, Console& console) {
 
 Command indexCommand() {
   static constexpr std::array<OperandSpec, 1> kOperands{
-      {{.name = "FOLDER", .help = "the documents, *.nascor in it and in the folders in it"}}};
+      {{.name = "FOLDER",
+        .help = translatable("CommandHelp", "the documents, *.nascor in it and in the folders in it")}}};
   static constexpr std::array<OptionSpec, 2> kOptions{
-      {{"db", "FILE", "the index, made where there is none"}, {"json", "", "the counts as a JSON object"}}};
+      {{"db", "FILE", translatable("CommandHelp", "the index, made where there is none")},
+       {"json", "", translatable("CommandHelp", "the counts as a JSON object")}}};
   return {.name = "index",
           .usage = "FOLDER --db FILE [--json]",
-          .summary = "Keeps what the documents of a folder say in a database, for due and search.",
-          .details =
+          .summary = translatable(
+              "CommandHelp", "Keeps what the documents of a folder say in a database, for due and search."),
+          .details = Sentence(
+              "CommandHelp",
               "Only documents that are new or have changed are read; those that are gone leave the index. A "
               "run that\n"
               "is ended in the middle, however that happens, leaves an index that the next run completes.\n"
               "The file is an SQLite database that its owner alone can read: it holds reference IDs, notes "
               "and names\n"
-              "of files. Its tables documents and rows may be read by other programs.\n",
+              "of files. Its tables documents and rows may be read by other programs.\n"),
           .operands = kOperands,
           .options = kOptions,
           .run = runIndex};
@@ -212,31 +220,40 @@ Command indexCommand() {
 Command dueCommand() {
   static constexpr std::array<OptionSpec, 5> kOptions{
       {kDatabase,
-       {"from", "DAY", "the first day, such as 2027-04-10; without it today"},
-       {"days", "N", "how many days behind that; without it 28"},
-       {"ac-below", "Z", "only with an AC, the last of one fetus, whose z-score is below this"},
+       {"from", "DAY", translatable("CommandHelp", "the first day, such as 2027-04-10; without it today")},
+       {"days", "N", translatable("CommandHelp", "how many days behind that; without it 28")},
+       {"ac-below", "Z",
+        translatable("CommandHelp", "only with an AC, the last of one fetus, whose z-score is below this")},
        kJson}};
-  return {.name = "due",
-          .usage = "--db FILE [--from DAY] [--days N] [--ac-below Z] [--json]",
-          .summary = "Who is due, from an index: by EDD, with the last examination and the lowest AC.",
-          .details =
-              "AC z is the lowest, over the fetuses, of the z-score of the last AC that was measured, by the "
-              "growth\n"
-              "standard of the document. It lists what the index held when it was last brought up to date.\n",
-          .operands = {},
-          .options = kOptions,
-          .run = runDue};
+  return {
+      .name = "due",
+      .usage = "--db FILE [--from DAY] [--days N] [--ac-below Z] [--json]",
+      .summary = translatable(
+          "CommandHelp", "Who is due, from an index: by EDD, with the last examination and the lowest AC."),
+      .details = Sentence(
+          "CommandHelp",
+          "AC z is the lowest, over the fetuses, of the z-score of the last AC that was measured, by the "
+          "growth\n"
+          "standard of the document. It lists what the index held when it was last brought up to date.\n"),
+      .operands = {},
+      .options = kOptions,
+      .run = runDue};
 }
 
 Command searchCommand() {
   static constexpr std::array<OperandSpec, 1> kOperands{
       {{.name = "TEXT",
-        .help = "three characters or more of a reference ID or of a file's path; large or small"}}};
+        .help =
+            translatable("CommandHelp",
+                         "three characters or more of a reference ID or of a file's path; large or small")}}};
   static constexpr std::array<OptionSpec, 3> kOptions{
-      {kDatabase, {"limit", "N", "not more than so many; without it 100"}, kJson}};
+      {kDatabase,
+       {"limit", "N", translatable("CommandHelp", "not more than so many; without it 100")},
+       kJson}};
   return {.name = "search",
           .usage = "TEXT --db FILE [--limit N] [--json]",
-          .summary = "Documents by a part of their reference ID or name, from an index.",
+          .summary = translatable("CommandHelp",
+                                  "Documents by a part of their reference ID or name, from an index."),
           .details = {},
           .operands = kOperands,
           .options = kOptions,

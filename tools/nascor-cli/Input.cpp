@@ -15,15 +15,13 @@ namespace nascor::cli {
 
 namespace {
 
-constexpr std::string_view kStandardInput = "standard input";
-
 /// Hands on standard input piece by piece, until `use` wants no more. Why it cannot be read, if so.
-std::optional<std::string> readStandardInput(Console& console,
-                                             const std::function<bool(std::span<const char>)>& use) {
+std::optional<Sentence> readStandardInput(Console& console,
+                                          const std::function<bool(std::span<const char>)>& use) {
   InputStream input(console, "-");
   for (;;) {
     const auto piece = input.next();
-    if (const auto* error = std::get_if<std::string>(&piece)) return *error;
+    if (const auto* error = std::get_if<Sentence>(&piece)) return *error;
     const auto bytes = std::get<0>(piece);
     if (bytes.empty() || !use(bytes)) return std::nullopt;
   }
@@ -41,24 +39,24 @@ std::string_view withoutBlanks(std::string_view text) {
 InputStream::InputStream(Console& console, const std::string& path)
     : console_(console),
       descriptor_(path == "-" ? STDIN_FILENO : ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NOCTTY)),
-      error_(descriptor_ < 0 ? std::generic_category().message(errno) : ""),
+      error_(Sentence::ofSystem(descriptor_ < 0 ? std::generic_category().message(errno) : "")),
       piece_(std::size_t{1} << 16) {}
 
 InputStream::~InputStream() {
   if (descriptor_ > STDIN_FILENO) ::close(descriptor_);
 }
 
-std::variant<std::span<const char>, std::string> InputStream::next() {
+std::variant<std::span<const char>, Sentence> InputStream::next() {
   if (descriptor_ < 0) return error_;
   console_.flush();
   for (;;) {
     const ssize_t count = ::read(descriptor_, piece_.data(), piece_.size());
     if (count >= 0) return std::span<const char>(piece_.data(), static_cast<std::size_t>(count));
-    if (errno != EINTR) return std::generic_category().message(errno);
+    if (errno != EINTR) return Sentence::ofSystem(std::generic_category().message(errno));
   }
 }
 
-std::variant<std::vector<std::byte>, std::string> standardInput(Console& console) {
+std::variant<std::vector<std::byte>, Sentence> standardInput(Console& console) {
   // An endless input must end before the machine's memory does. No document comes near this.
   constexpr std::size_t kMost = std::size_t{1} << 30;
   std::vector<std::byte> bytes;
@@ -68,9 +66,11 @@ std::variant<std::vector<std::byte>, std::string> standardInput(Console& console
     return bytes.size() <= kMost;
   });
   if (error) return std::move(*error);
-  if (bytes.size() > kMost) return "longer than 1 GiB, which no document is";
+  if (bytes.size() > kMost) return Sentence("CommandLine", "longer than 1 GiB, which no document is");
   return bytes;
 }
+
+Sentence reasonOf(const foundation::FileError& error) { return Sentence::ofSystem(error.reason); }
 
 std::string nameOf(const std::string& path) { return path == "-" ? std::string(kStandardInput) : path; }
 
@@ -78,12 +78,12 @@ std::optional<std::vector<std::byte>> contentsOf(const std::string& path, Consol
   if (path != "-") {
     auto contents = posix::PosixFileStore({}, posix::PosixFileStore::Pipes::areRead).contents(path);
     if (auto* bytes = std::get_if<std::vector<std::byte>>(&contents)) return std::move(*bytes);
-    console.complain(path, std::get<foundation::FileError>(contents).reason);
+    console.complain(path, reasonOf(std::get<foundation::FileError>(contents)));
     return std::nullopt;
   }
   auto contents = standardInput(console);
   if (auto* bytes = std::get_if<std::vector<std::byte>>(&contents)) return std::move(*bytes);
-  console.complain(kStandardInput, std::get<std::string>(contents));
+  console.complain(kStandardInput, std::get<Sentence>(contents));
   return std::nullopt;
 }
 
@@ -98,9 +98,9 @@ void forEachNumberOfInput(Console& console, const std::function<void(std::option
     const std::string_view text = withoutBlanks(line);
     const auto number = line.size() < kLongestLine ? numberFromText(text) : std::nullopt;
     if (!number) {
-      console.complain(kStandardInput, "line " + std::to_string(lineNumber) +
-                                           ": expected a decimal number, but \"" +
-                                           std::string(text.substr(0, kShown)) + "\" stands here");
+      console.complain(kStandardInput,
+                       Sentence("CommandLine", "line %1: expected a decimal number, but \"%2\" stands here")
+                           .with(lineNumber, text.substr(0, kShown)));
     }
     use(number);
     line.clear();

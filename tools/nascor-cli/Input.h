@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "cli_commands/Console.h"
+#include "foundation/FileStore.h"
 
 namespace nascor::cli {
 
@@ -25,18 +26,21 @@ class InputStream {
   InputStream(const InputStream&) = delete;
   InputStream& operator=(const InputStream&) = delete;
 
-  /// The next piece, valid until the next call; none at the end. Or why it cannot be read, in the system's words.
-  std::variant<std::span<const char>, std::string> next();
+  /// The next piece, valid until the next call; none at the end. Or why it cannot be read.
+  std::variant<std::span<const char>, Sentence> next();
 
  private:
   Console& console_;
   int descriptor_;
-  std::string error_;
+  Sentence error_;
   std::vector<char> piece_;
 };
 
+/// Why a file could not be read or written, as `Console` tells it.
+Sentence reasonOf(const foundation::FileError& error);
+
 /// All of standard input, or why it cannot be read.
-std::variant<std::vector<std::byte>, std::string> standardInput(Console& console);
+std::variant<std::vector<std::byte>, Sentence> standardInput(Console& console);
 
 /// The whole file, or all of standard input for "-". When it cannot be read: a complaint, and nothing.
 std::optional<std::vector<std::byte>> contentsOf(const std::string& path, Console& console);

@@ -27,10 +27,11 @@ std::optional<std::int64_t> identifierIn(std::string_view text, std::span<const 
 std::int64_t requiredIdentifier(std::string_view what, const std::string& text,
                                 std::span<const std::string_view> names) {
   if (const auto identifier = identifierIn(text, names)) return *identifier;
-  std::string expected;
-  for (const std::string_view name : names) expected.append(name).append(", ");
-  expected.replace(expected.size() - 2, 2, " or ");
-  refuseValue(what, expected + "a whole number from 0 to " + std::to_string(names.size() - 1), text);
+  std::string listed;
+  for (const std::string_view name : names) listed.append(listed.empty() ? "" : ", ").append(name);
+  //: %1 is a list of names.
+  const auto expected = Sentence("CommandLine", "%1 or a whole number from 0 to %2");
+  refuseValue(what, expected.with(listed, names.size() - 1), text);
 }
 
 }  // namespace
@@ -75,8 +76,9 @@ Measure requiredMeasure(const std::string& text) {
     if (name == calc::nameOf(measurement)) return {measurement};
   }
   if (name == kWeightName) return {};
-  throw UsageError("expected bpd, hc, ac, fl or efw as the measurement, but \"" + oneLine(text) +
-                   "\" was given");
+  throw UsageError(
+      Sentence("CommandLine", "expected bpd, hc, ac, fl or efw as the measurement, but \"%1\" was given")
+          .with(oneLine(text)));
 }
 
 }  // namespace nascor::cli

@@ -6,9 +6,10 @@
 
 namespace nascor::cli {
 
-void refuseValue(std::string_view what, const std::string& expected, const std::string& text) {
-  throw UsageError(std::string(what) + ": expected " + expected + ", but \"" + oneLine(text) +
-                   "\" was given");
+void refuseValue(std::string_view what, const Sentence& expected, const std::string& text) {
+  //: %1 is an option or an operand, %2 what it takes, %3 what was typed.
+  throw UsageError(
+      Sentence("CommandLine", "%1: expected %2, but \"%3\" was given").with(what, expected, oneLine(text)));
 }
 
 std::optional<double> numberFromText(std::string_view text) {
@@ -18,7 +19,7 @@ std::optional<double> numberFromText(std::string_view text) {
 
 double requiredNumber(std::string_view what, const std::string& text) {
   const auto value = numberFromText(text);
-  if (!value) refuseValue(what, "a decimal number", text);
+  if (!value) refuseValue(what, Sentence("CommandLine", "a decimal number"), text);
   return *value;
 }
 

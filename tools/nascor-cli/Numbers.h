@@ -21,7 +21,7 @@ std::optional<Number> wholeTextAs(std::string_view text) {
 }
 
 /// Throws the UsageError "WHAT: expected EXPECTED, but "TEXT" was given".
-[[noreturn]] void refuseValue(std::string_view what, const std::string& expected, const std::string& text);
+[[noreturn]] void refuseValue(std::string_view what, const Sentence& expected, const std::string& text);
 
 /// A decimal number, all of `text`: digits, a point, an exponent, a sign. Nothing for hexadecimals, decimal commas,
 /// blanks, words, and numbers beyond the range of a double.
@@ -45,6 +45,7 @@ class Digits {
 };
 
 /// The option that `Digits` reads.
-inline constexpr OptionSpec kFixedOption{"fixed", "", "one digit behind the point, in JSON too"};
+inline constexpr OptionSpec kFixedOption{
+    "fixed", "", translatable("CommandHelp", "one digit behind the point, in JSON too")};
 
 }  // namespace nascor::cli

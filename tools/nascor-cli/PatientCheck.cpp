@@ -109,7 +109,7 @@ class Check {
       add("order", "it is earlier than the one before it");
     }
     const double age = ageAt(examination);
-    if (const auto what = calc::improbableAge(age)) add(kindOf(*what), improbableText(*what, age));
+    if (const auto what = calc::improbableAge(age)) add(kindOf(*what), english(improbableText(*what, age)));
     const auto& measurements = examination.measurements();
     if (!std::cmp_equal(measurements.size(), patient_.numberOfFetuses())) {
       add("fetusCount", "it has " + counted(measurements.size(), "fetus", "fetuses") + ", the patient " +
@@ -121,7 +121,7 @@ class Check {
       for (const calc::Measurement measurement : calc::kMeasurements) {
         for (const calc::Improbable what :
              calc::improbableLength(measurement, lengths, age, tableOf(measurement))) {
-          add(kindOf(what), improbableText(what, measurement, lengths));
+          add(kindOf(what), english(improbableText(what, measurement, lengths)));
         }
       }
     }

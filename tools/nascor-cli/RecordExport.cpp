@@ -18,27 +18,26 @@ namespace {
 
 using exchange::OutgoingExamination;
 
-/// Why the reference ID cannot stand in a report; empty when it can.
-std::string faultOf(const std::string& patientID) {
+/// Why the reference ID cannot stand in a report; nothing when it can.
+std::optional<Sentence> faultOf(const std::string& patientID) {
   constexpr std::size_t kLongest = 64;
   const auto isRefused = [](char byte) { return static_cast<unsigned char>(byte) < 0x20 || byte == '\\'; };
   if (std::ranges::any_of(patientID, isRefused))
-    return "the reference ID has a character that a DICOM report cannot hold";
-  return foundation::codePoints(patientID) > kLongest
-             ? "the reference ID is longer than the 64 characters of a DICOM report"
-             : "";
+    return Sentence("CommandLine", "the reference ID has a character that a DICOM report cannot hold");
+  if (foundation::codePoints(patientID) <= kLongest) return std::nullopt;
+  return Sentence("CommandLine", "the reference ID is longer than the 64 characters of a DICOM report");
 }
 
 void writeReports(const std::string& file, const std::string& name,
                   std::span<const OutgoingExamination> examinations, Target& target, Console& console) {
   const auto files = reports::reportFiles();
   if (const auto* why = std::get_if<std::string>(&files))
-    return console.complain(nameOf(file), "cannot be written: " + *why);
+    return console.complain(nameOf(file), Sentence("CommandLine", "cannot be written: %1").with(*why));
   for (std::size_t i = 0; i < examinations.size(); ++i) {
-    if (const auto fault = faultOf(examinations[i].patientID); !fault.empty())
-      return console.complain(nameOf(file), fault);
+    if (const auto fault = faultOf(examinations[i].patientID)) return console.complain(nameOf(file), *fault);
     const auto bytes = std::get<exchange::ReportFiles*>(files)->write(reportOf(examinations[i]));
-    if (const auto* why = std::get_if<std::string>(&bytes)) return console.complain(nameOf(file), *why);
+    if (const auto* why = std::get_if<std::string>(&bytes))
+      return console.complain(nameOf(file), Sentence::verbatim(*why));
     target.write(name + " " + std::to_string(i + 1) + ".dcm", std::get<std::vector<std::byte>>(bytes));
   }
 }
@@ -46,13 +45,16 @@ void writeReports(const std::string& file, const std::string& name,
 void check(const std::string& format, const Arguments& arguments) {
   for (const char* option : {"pages", "fetus", "overlay", "join-marks", "no-foot"}) {
     if (arguments.has(option))
-      throw UsageError("--" + std::string(option) + " is for pages, not for --format " + format);
+      throw UsageError(
+          Sentence("CommandLine", "--%1 is for pages, not for --format %2").with(option, format));
   }
   const bool isLines = arguments.has("ndjson");
-  if (isLines && format != "fhir") throw UsageError("--ndjson is for --format fhir");
+  if (isLines && format != "fhir") throw UsageError(Sentence("CommandLine", "--ndjson is for --format fhir"));
   const std::string folder = arguments.option("out").value_or("");
-  if (isLines && !folder.empty()) throw UsageError("--ndjson writes to standard output, and takes no --out");
-  if (!isLines && (folder.empty() || folder == "-")) throw UsageError("--out is missing, or no folder");
+  if (isLines && !folder.empty())
+    throw UsageError(Sentence("CommandLine", "--ndjson writes to standard output, and takes no --out"));
+  if (!isLines && (folder.empty() || folder == "-"))
+    throw UsageError(Sentence("CommandLine", "--out is missing, or no folder"));
 }
 
 }  // namespace
@@ -67,9 +69,11 @@ void exportRecords(const std::string& format, const Arguments& arguments, Consol
     if (!document) continue;
     const auto examinations = exchange::outgoingExaminations(*document->patient, calendar);
     const std::string name = target.nameFor(file);
-    if (examinations.empty()) console.warn(nameOf(file), "it holds no examination, and nothing is written");
+    if (examinations.empty())
+      console.warn(nameOf(file), Sentence("CommandLine", "it holds no examination, and nothing is written"));
     for (const OutgoingExamination& examination : examinations) {
-      for (const std::string& warning : examination.warnings) console.warn(nameOf(file), warning);
+      for (const std::string& warning : examination.warnings)
+        console.warn(nameOf(file), Sentence::verbatim(warning));
     }
     if (examinations.empty()) continue;
     if (format == "sr") {

@@ -60,16 +60,18 @@ void list(Console& console) {
 void runRecover(const Arguments& arguments, Console& console) {
   const auto target = arguments.option("out");
   if (arguments.operands.empty()) {
-    if (target) throw UsageError("--out needs the recovery file to write; recover alone lists them");
+    if (target)
+      throw UsageError(
+          Sentence("CommandLine", "--out needs the recovery file to write; recover alone lists them"));
     list(console);
     return;
   }
-  if (!target) throw UsageError("give --out DOCUMENT, where to write the document");
+  if (!target) throw UsageError(Sentence("CommandLine", "give --out DOCUMENT, where to write the document"));
   const std::string& path = arguments.operands[0];
   const auto contents = contentsOf(path, console);
   if (!contents) return;
   const auto document = documentFrom(*contents);
-  if (const auto* sentence = std::get_if<std::string>(&document)) {
+  if (const auto* sentence = std::get_if<Sentence>(&document)) {
     console.complain(nameOf(path), *sentence);
     return;
   }
@@ -81,24 +83,30 @@ void runRecover(const Arguments& arguments, Console& console) {
 
 Command recoverCommand() {
   static constexpr std::array<OperandSpec, 1> kOperands{
-      {{.name = "FILE", .help = "a recovery file, as the list names it", .isOptional = true}}};
+      {{.name = "FILE",
+        .help = translatable("CommandHelp", "a recovery file, as the list names it"),
+        .isOptional = true}}};
   static constexpr std::array<OptionSpec, 1> kOptions{
-      {{"out", "DOCUMENT", "where to write the document, as a whole or not at all"}}};
-  return {.name = "recover",
-          .usage = "[FILE --out DOCUMENT]",
-          .summary = "Unsaved changes that the application kept: a list, or one of them as a document.",
-          .details =
-              "The list has one JSON object a line: recovery (the file), document (the path of the "
-              "document's own\n"
-              "file; null when it was never saved), patient, saved (seconds since 2001-01-01 UTC), fetuses,\n"
-              "examinations, and differs, the keys of json that the saved document holds otherwise. It also "
-              "names\n"
-              "what running applications keep. A recovery file is a document: json, report and check read "
-              "it. It\n"
-              "stays where it is until the application has offered it.\n",
-          .operands = kOperands,
-          .options = kOptions,
-          .run = runRecover};
+      {{"out", "DOCUMENT",
+        translatable("CommandHelp", "where to write the document, as a whole or not at all")}}};
+  return {
+      .name = "recover",
+      .usage = "[FILE --out DOCUMENT]",
+      .summary = translatable(
+          "CommandHelp", "Unsaved changes that the application kept: a list, or one of them as a document."),
+      .details = Sentence(
+          "CommandHelp",
+          "The list has one JSON object a line: recovery (the file), document (the path of the "
+          "document's own\n"
+          "file; null when it was never saved), patient, saved (seconds since 2001-01-01 UTC), fetuses,\n"
+          "examinations, and differs, the keys of json that the saved document holds otherwise. It also "
+          "names\n"
+          "what running applications keep. A recovery file is a document: json, report and check read "
+          "it. It\n"
+          "stays where it is until the application has offered it.\n"),
+      .operands = kOperands,
+      .options = kOptions,
+      .run = runRecover};
 }
 
 }  // namespace nascor::cli

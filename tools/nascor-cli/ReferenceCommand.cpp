@@ -99,10 +99,10 @@ struct Number {
 };
 
 /// What is wrong with a number, as it goes on behind "expected ".
-std::optional<std::string> refusal(Given given, double number) {
-  if (given == Given::value && !(number > 0.0)) return "a number above 0";
+std::optional<Sentence> refusal(Given given, double number) {
+  if (given == Given::value && !(number > 0.0)) return Sentence("CommandLine", "a number above 0");
   if (given == Given::centile && !(number > 0.0 && number < 100.0))
-    return "a number between 0 and 100, both excluded";
+    return Sentence("CommandLine", "a number between 0 and 100, both excluded");
   return std::nullopt;
 }
 
@@ -210,8 +210,9 @@ Quantity quantityIn(const Reference& reference, const std::string& text) {
   const Measure measure = requiredMeasure(text);
   const Quantity quantity = measure.length ? calc::quantityOf(*measure.length) : Quantity::efw;
   if (!calc::covers(reference, quantity)) {
-    throw UsageError(std::string(reference.name) + " tells nothing of " +
-                     std::string(calc::nameOf(quantity)) + "; it has " + quantityNames(reference));
+    //: %1 is a reference, %2 a measurement, %3 a list of measurements.
+    throw UsageError(Sentence("CommandLine", "%1 tells nothing of %2; it has %3")
+                         .with(reference.name, calc::nameOf(quantity), quantityNames(reference)));
   }
   return quantity;
 }
@@ -224,16 +225,17 @@ struct Asked {
 };
 
 Asked askedIn(const Arguments& arguments) {
-  if (!arguments.has("week")) throw UsageError("--week is missing");
+  if (!arguments.has("week")) throw UsageError(Sentence("CommandLine", "--week is missing"));
   Asked asked{.week = numberIn(arguments, "week", Given::nothing)};
   for (const auto& [option, given] : kGiven) {
     if (!arguments.has(option)) continue;
-    if (asked.given != Given::nothing) throw UsageError("--value, --centile and --z exclude each other");
+    if (asked.given != Given::nothing)
+      throw UsageError(Sentence("CommandLine", "--value, --centile and --z exclude each other"));
     asked.given = given;
     asked.other = numberIn(arguments, option, given);
   }
   if (asked.given != Given::nothing && !asked.week.number && !asked.other.number)
-    throw UsageError("--week and --" + std::string(asked.other.option) + " cannot both be -");
+    throw UsageError(Sentence("CommandLine", "--week and --%1 cannot both be -").with(asked.other.option));
   return asked;
 }
 
@@ -243,8 +245,10 @@ void answerInput(const Question& question, const Asked& asked, bool asJson, Cons
     Answer answer{.warning = "the line of input is no number"};
     const Given given = asked.week.number ? asked.given : Given::nothing;
     if (const auto expected = number ? refusal(given, *number) : std::nullopt) {
-      answer.warning = "expected " + *expected + ", but " + shortestText(*number) + " was given";
-      console.complain(nameOf("-"), answer.warning);
+      const auto sentence =
+          Sentence("CommandLine", "expected %1, but %2 was given").with(*expected, shortestText(*number));
+      answer.warning = english(sentence);
+      console.complain(nameOf("-"), sentence);
     } else if (number) {
       answer = asked.week.number ? answerTo(question, *asked.week.number, *number)
                                  : answerTo(question, *number, asked.other.number.value_or(0.0));
@@ -266,12 +270,12 @@ void runReference(const Arguments& arguments, Console& console) {
   if (arguments.operands.empty()) {
     const auto isNumber = [&](const char* option) { return arguments.has(option); };
     if (std::ranges::any_of(std::array{"week", "value", "centile", "z"}, isNumber))
-      throw UsageError("NAME is missing");
+      throw UsageError(Sentence("CommandLine", "NAME is missing"));
     listReferences(asJson, console);
     return;
   }
   const Reference& reference = requiredReference("NAME", arguments.operands[0]);
-  if (arguments.operands.size() == 1) throw UsageError("MEASURE is missing");
+  if (arguments.operands.size() == 1) throw UsageError(Sentence("CommandLine", "MEASURE is missing"));
   Question question{.reference = &reference,
                     .quantity = quantityIn(reference, arguments.operands[1]),
                     .given = Given::nothing};
@@ -296,22 +300,27 @@ void runReference(const Arguments& arguments, Console& console) {
 
 Command referenceCommand() {
   static constexpr std::array<OperandSpec, 2> kOperands{
-      {{.name = "NAME", .help = "a reference, by its name; without it all are listed", .isOptional = true},
+      {{.name = "NAME",
+        .help = translatable("CommandHelp", "a reference, by its name; without it all are listed"),
+        .isOptional = true},
        {.name = "MEASURE",
-        .help = "one of bpd, hc, ac, fl, efw that the reference has",
+        .help = translatable("CommandHelp", "one of bpd, hc, ac, fl, efw that the reference has"),
         .isOptional = true}}};
   static constexpr std::array<OptionSpec, 5> kOptions{{
-      {"week", "W", "the age in weeks"},
-      {"value", "V", "a length in mm, or a weight in g: its z and centile", true},
-      {"centile", "P", "a centile between 0 and 100: its value and z", true},
-      {"z", "Z", "a z-score: its value and centile", true},
-      {"json", "", "one object a line; what a reference cannot say is null"},
+      {"week", "W", translatable("CommandHelp", "the age in weeks")},
+      {"value", "V", translatable("CommandHelp", "a length in mm, or a weight in g: its z and centile"),
+       true},
+      {"centile", "P", translatable("CommandHelp", "a centile between 0 and 100: its value and z"), true},
+      {"z", "Z", translatable("CommandHelp", "a z-score: its value and centile"), true},
+      {"json", "", translatable("CommandHelp", "one object a line; what a reference cannot say is null")},
   }};
   return {
       .name = "reference",
       .usage = "[NAME MEASURE --week W [--value V | --centile P | --z Z]] [--json]",
-      .summary = "Where a value lies in a published population; which populations there are.",
-      .details =
+      .summary = translatable("CommandHelp",
+                              "Where a value lies in a published population; which populations there are."),
+      .details = Sentence(
+          "CommandHelp",
           "One of W, V, P and Z may be -: then numbers are read from standard input, one a line, and each "
           "is\n"
           "answered. Nothing is extrapolated: outside the weeks of a reference all numbers are missing, "
@@ -320,7 +329,7 @@ Command referenceCommand() {
           "more\n"
           "than <1 and >99 beyond the outermost. A weight's centile is that of the reference, never of "
           "the\n"
-          "error of a formula.\n",
+          "error of a formula.\n"),
       .operands = kOperands,
       .options = kOptions,
       .run = runReference};

@@ -44,8 +44,10 @@ const calc::Reference& requiredReference(std::string_view what, const std::strin
   const std::string name = inSmallLetters(text);
   if (const calc::Reference* reference = calc::referenceNamed(name)) return *reference;
   if (name == "fmf-2018") {
-    throw UsageError(std::string(what) +
-                     ": fmf-2018 is not offered, because its formula was not held against its printed table");
+    throw UsageError(
+        Sentence("CommandLine",
+                 "%1: fmf-2018 is not offered, because its formula was not held against its printed table")
+            .with(what));
   }
   std::vector<std::string> names;
   std::string expected;
@@ -53,8 +55,9 @@ const calc::Reference& requiredReference(std::string_view what, const std::strin
     names.emplace_back(reference.name);
     expected += (expected.empty() ? "" : ", ") + names.back();
   }
-  throw UsageError(std::string(what) + ": expected one of " + expected + ", but \"" + oneLine(text) +
-                   "\" was given" + didYouMean(name, names));
+  //: %1 is an option or an operand, %2 a list of names.
+  const auto sentence = Sentence("CommandLine", "%1: expected one of %2, but \"%3\" was given");
+  throw UsageError(didYouMean(sentence.with(what, expected, oneLine(text)), name, names));
 }
 
 }  // namespace nascor::cli

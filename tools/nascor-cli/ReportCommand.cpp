@@ -255,20 +255,25 @@ void runReport(const Arguments& arguments, Console& console) {
 
 Command reportCommand() {
   static constexpr std::array<OperandSpec, 1> kOperands{
-      {{"FILE...", "a document; - is standard input", true}}};
+      {{"FILE...", translatable("CommandHelp", "a document; - is standard input"), true}}};
   static constexpr std::array<OptionSpec, 1> kOptions{
-      {{"json", "", "one JSON object a document, on a line: unrounded numbers, the texts beside them"}}};
+      {{"json", "",
+        translatable("CommandHelp",
+                     "one JSON object a document, on a line: unrounded numbers, the texts beside them")}}};
   return {.name = "report",
           .usage = "FILE... [--json]",
-          .summary = "The tabular report of each document: every fetus, every examination, the projection.",
-          .details =
+          .summary = translatable(
+              "CommandHelp",
+              "The tabular report of each document: every fetus, every examination, the projection."),
+          .details = Sentence(
+              "CommandHelp",
               "Date and Menstrual Age are those of the last examination. Days are those of the local time "
               "zone. The\n"
               "projection is there when the last examination lies from 30 weeks to the planned delivery. "
               "Keys of\n"
               "the JSON, among others: file, maternalIDString, edd, fetuses, in each examinations (age in "
               "weeks;\n"
-              "bpd, hc, ac, fl in mm; efw in g) and projected; docs/json.md lists them all.\n",
+              "bpd, hc, ac, fl in mm; efw in g) and projected; docs/json.md lists them all.\n"),
           .operands = kOperands,
           .options = kOptions,
           .run = runReport};

@@ -25,7 +25,8 @@ std::int64_t requiredBlock(const std::string& text) {
   const auto found = std::ranges::find(all, inSmallLetters(text), &calc::Reference::name);
   if (found == all.end()) return requiredStandard("--standard", text);
   if (!rows::hasBlock(*found))
-    throw UsageError("--standard: " + std::string(found->name) + " has no mean and SD of the four lengths");
+    throw UsageError(
+        Sentence("CommandLine", "--standard: %1 has no mean and SD of the four lengths").with(found->name));
   return found - all.begin();
 }
 
@@ -39,7 +40,7 @@ std::vector<std::int64_t> chosenStandards(const Arguments& arguments) {
   for (const std::string& part : partsOf(*list)) {
     const std::int64_t standard = requiredBlock(part);
     if (std::ranges::find(standards, standard) != standards.end()) {
-      throw UsageError("--standard: \"" + part + "\" stands there twice");
+      throw UsageError(Sentence("CommandLine", "--standard: \"%1\" stands there twice").with(part));
     }
     standards.push_back(standard);
   }
@@ -57,9 +58,9 @@ std::optional<std::vector<std::string>> chosenColumnNames(const Arguments& argum
   if (!list) return std::nullopt;
   std::vector<std::string> names = partsOf(*list);
   for (auto name = names.begin(); name != names.end(); ++name) {
-    if (name->empty()) throw UsageError("--columns: a name is empty");
+    if (name->empty()) throw UsageError(Sentence("CommandLine", "--columns: a name is empty"));
     if (std::find(names.begin(), name, *name) != name) {
-      throw UsageError("--columns: \"" + *name + "\" stands there twice");
+      throw UsageError(Sentence("CommandLine", "--columns: \"%1\" stands there twice").with(*name));
     }
   }
   return names;

@@ -43,14 +43,17 @@ std::vector<rows::Column> columnsOf(const rows::Choice& choice,
       continue;
     }
     const auto other = std::ranges::find(others, name, &rows::Column::name);
-    if (other == others.end()) throw UsageError("--columns: there is no column \"" + name + "\"");
+    if (other == others.end())
+      throw UsageError(Sentence("CommandLine", "--columns: there is no column \"%1\"").with(name));
     using enum rows::Content;
     if (other->content == referenceID || other->content == note) {
-      throw UsageError("--columns: " + name + " needs --identify");
+      throw UsageError(Sentence("CommandLine", "--columns: %1 needs --identify").with(name));
     }
-    throw UsageError("--columns: " + name +
-                     (choice.datesAreRelative ? " is a date, which --relative-dates leaves out"
-                                              : " needs --relative-dates"));
+    const Sentence why =
+        choice.datesAreRelative
+            ? Sentence("CommandLine", "--columns: %1 is a date, which --relative-dates leaves out")
+            : Sentence("CommandLine", "--columns: %1 needs --relative-dates");
+    throw UsageError(why.with(name));
   }
   return columns;
 }
@@ -58,13 +61,15 @@ std::vector<rows::Column> columnsOf(const rows::Choice& choice,
 bool namesFiles(const Arguments& arguments) {
   const auto kind = arguments.option("file");
   if (!kind) return arguments.has("identify");
-  if (*kind != "number" && *kind != "path") throw UsageError("--file: expected number or path");
+  if (*kind != "number" && *kind != "path")
+    throw UsageError(Sentence("CommandLine", "--file: expected number or path"));
   return *kind == "path";
 }
 
 rows::Style styleOf(const Arguments& arguments) {
   const std::string format = arguments.option("format").value_or("csv");
-  if (format != "csv" && format != "jsonl") throw UsageError("--format: expected csv or jsonl");
+  if (format != "csv" && format != "jsonl")
+    throw UsageError(Sentence("CommandLine", "--format: expected csv or jsonl"));
   return format == "csv" ? rows::Style::csv : rows::Style::jsonLines;
 }
 
@@ -73,7 +78,7 @@ std::size_t jobsOf(const Arguments& arguments) {
   if (!text) return 1;
   const auto jobs = wholeTextAs<std::size_t>(*text);
   if (!jobs || *jobs == 0) {
-    throw UsageError("--jobs: expected a whole number above 0, but \"" + *text + "\" was given");
+    refuseValue("--jobs", Sentence("CommandLine", "a whole number above 0"), *text);
   }
   return std::min(*jobs, kMostJobs);
 }
@@ -98,14 +103,16 @@ RowsOptions optionsOf(const Arguments& arguments) {
 std::optional<Names> namesOf(const Arguments& arguments) {
   const auto list = arguments.option("files-from");
   const auto& paths = arguments.operands;
-  if (arguments.has("null") && !list) throw UsageError("--null needs --files-from");
+  if (arguments.has("null") && !list) throw UsageError(Sentence("CommandLine", "--null needs --files-from"));
   if (arguments.has("tar")) {
-    if (list || !paths.empty()) throw UsageError("--tar stands alone, without PATH and --files-from");
+    if (list || !paths.empty())
+      throw UsageError(Sentence("CommandLine", "--tar stands alone, without PATH and --files-from"));
     return std::nullopt;
   }
   const auto inputs = std::ranges::count(paths, "-") + (list == "-" ? 1 : 0);
-  if (inputs > 1) throw UsageError("standard input (-) can be read once only");
-  if (paths.empty() && !list) throw UsageError("a PATH, --files-from or --tar is missing");
+  if (inputs > 1) throw UsageError(Sentence("CommandLine", "standard input (-) can be read once only"));
+  if (paths.empty() && !list)
+    throw UsageError(Sentence("CommandLine", "a PATH, --files-from or --tar is missing"));
   return Names{.paths = paths, .listPath = list, .listEnd = arguments.has("null") ? '\0' : '\n'};
 }
 
@@ -118,7 +125,7 @@ struct Batch {
 struct Complaint {
   std::size_t at;  // of the rows
   std::string source;
-  std::string sentence;
+  Sentence sentence;
 };
 
 /// What came of a batch.
@@ -143,7 +150,8 @@ class ProgressLine {
  public:
   ProgressLine(const Console& console, std::optional<std::uint64_t> total)
       : isShown_(console.errorsAloneAreSeen()),
-        progress_(static_cast<std::int64_t>(total.value_or(0)), now()) {}
+        progress_(static_cast<std::int64_t>(total.value_or(0)), now()),
+        localizer_(console.localizer()) {}
   ProgressLine(const ProgressLine&) = delete;
   ProgressLine& operator=(const ProgressLine&) = delete;
   ~ProgressLine() { wipe(); }
@@ -153,7 +161,7 @@ class ProgressLine {
     done_ += static_cast<std::int64_t>(documents);
     progress_.set(done_, now());
     if (!progress_.isDue()) return;
-    Console::writeError(progress_.line(english_));
+    Console::writeError(progress_.line(localizer_));
     isThere_ = true;
   }
 
@@ -171,7 +179,7 @@ class ProgressLine {
   bool isThere_ = false;
   std::int64_t done_ = 0;
   foundation::Progress progress_;
-  foundation::EnglishLocalizer english_;
+  const foundation::Localizer& localizer_;
 };
 
 class RowsRun {
@@ -251,7 +259,7 @@ class RowsRun {
       const rows::DocumentName document{.name = path, .place = pending.place};
       const auto sentence = appendRows(finished.rows, std::move(pending), document);
       if (!sentence) continue;
-      const std::string shown = foundation::oneLine(*sentence);
+      const std::string shown = foundation::oneLine(english(*sentence));
       rows::appendErrorRow(finished.rows, options_.choice.identified ? shown : withoutQuotes(shown), document,
                            format_);
       finished.complaints.push_back({finished.rows.size(), path, *sentence});
@@ -262,12 +270,12 @@ class RowsRun {
   }
 
   /// Why there are no rows of a document.
-  std::optional<std::string> appendRows(std::string& out, PendingDocument pending,
-                                        const rows::DocumentName& name) const {
+  std::optional<Sentence> appendRows(std::string& out, PendingDocument pending,
+                                     const rows::DocumentName& name) const {
     const auto bytes = contentsOf(std::move(pending));
-    if (const auto* sentence = std::get_if<std::string>(&bytes)) return *sentence;
+    if (const auto* sentence = std::get_if<Sentence>(&bytes)) return *sentence;
     const auto document = documentFrom(std::get<0>(bytes));
-    if (const auto* sentence = std::get_if<std::string>(&document)) return *sentence;
+    if (const auto* sentence = std::get_if<Sentence>(&document)) return *sentence;
     rows::appendPatientRows(out, *std::get<0>(document).patient, name, format_, calendar_);
     return std::nullopt;
   }
@@ -300,7 +308,7 @@ void runRows(const Arguments& arguments, Console& console) {
   RowsOptions options = optionsOf(arguments);
   const auto names = namesOf(arguments);
   if (const auto zone = arguments.option("time-zone"); zone && !posix::chooseTimeZone(*zone)) {
-    throw UsageError("--time-zone: this system knows no zone \"" + *zone + "\"");
+    throw UsageError(Sentence("CommandLine", "--time-zone: this system knows no zone \"%1\"").with(*zone));
   }
   Console::endOnInterrupt();
   const bool isCounted = names && console.errorsAloneAreSeen();
@@ -315,32 +323,45 @@ void runRows(const Arguments& arguments, Console& console) {
 Command rowsCommand() {
   static constexpr std::array<OperandSpec, 1> kOperands{
       {{.name = "PATH...",
-        .help = "a document, or a folder with documents in it; - is a document on standard input",
+        .help = translatable(
+            "CommandHelp", "a document, or a folder with documents in it; - is a document on standard input"),
         .repeated = true,
         .isOptional = true}}};
   static constexpr std::array<OptionSpec, 15> kOptions{{
-      {"files-from", "FILE", "more names of files and folders, one a line; - is standard input"},
-      {"null", "", "the names of --files-from end with NUL instead"},
-      {"tar", "FILE", "the documents in a tar archive, plain, gzip or zstd; - is standard input"},
+      {"files-from", "FILE",
+       translatable("CommandHelp", "more names of files and folders, one a line; - is standard input")},
+      {"null", "", translatable("CommandHelp", "the names of --files-from end with NUL instead")},
+      {"tar", "FILE",
+       translatable("CommandHelp",
+                    "the documents in a tar archive, plain, gzip or zstd; - is standard input")},
       {"standard", "LIST",
-       "growth standards by number or name, intergrowth-2014, with commas between; or all four"},
-      {"formula", "N", "one weight, by number or name, instead of all eight"},
-      {"columns", "LIST", "only these columns, in this order, with commas between"},
-      {"fixed", "", "one decimal, for z-scores three"},
-      {"format", "csv|jsonl", "comma-separated values, or a JSON object a line"},
-      {"no-header", "", "leave off the line with the names of the columns"},
-      {"identify", "", "reference ID, note and names of files too"},
-      {"file", "number|path", "in the column file the place of the document, or its name"},
-      {"relative-dates", "", "days to the EDD in place of the dates"},
-      {"time-zone", "NAME", "the zone whose days are meant, such as Europe/Paris"},
-      {"strict", "", "stop at the first document that cannot be read"},
-      {"jobs", "N", "work on so many documents at a time; the output is the same"},
+       translatable(
+           "CommandHelp",
+           "growth standards by number or name, intergrowth-2014, with commas between; or all four")},
+      {"formula", "N", translatable("CommandHelp", "one weight, by number or name, instead of all eight")},
+      {"columns", "LIST",
+       translatable("CommandHelp", "only these columns, in this order, with commas between")},
+      {"fixed", "", translatable("CommandHelp", "one decimal, for z-scores three")},
+      {"format", "csv|jsonl", translatable("CommandHelp", "comma-separated values, or a JSON object a line")},
+      {"no-header", "", translatable("CommandHelp", "leave off the line with the names of the columns")},
+      {"identify", "", translatable("CommandHelp", "reference ID, note and names of files too")},
+      {"file", "number|path",
+       translatable("CommandHelp", "in the column file the place of the document, or its name")},
+      {"relative-dates", "", translatable("CommandHelp", "days to the EDD in place of the dates")},
+      {"time-zone", "NAME",
+       translatable("CommandHelp", "the zone whose days are meant, such as Europe/Paris")},
+      {"strict", "", translatable("CommandHelp", "stop at the first document that cannot be read")},
+      {"jobs", "N",
+       translatable("CommandHelp", "work on so many documents at a time; the output is the same")},
   }};
   return {
       .name = "rows",
       .usage = "[PATH...] [--files-from FILE [--null] | --tar FILE] [OPTION...]",
-      .summary = "A row for each fetus at each examination: age, lengths, weights, z-scores; for statistics.",
-      .details =
+      .summary = translatable(
+          "CommandHelp",
+          "A row for each fetus at each examination: age, lengths, weights, z-scores; for statistics."),
+      .details = Sentence(
+          "CommandHelp",
           "Of a folder all *.nascor are taken, and those of the folders in it. Columns:\n"
           "  file,exam,fetus,exam_date,edd,ga_weeks,bpd_mm,hc_mm,ac_mm,fl_mm,efw_0_g,...,efw_7_g\n"
           "  standard,bpd_mean_mm,bpd_sd_mm,bpd_z,...,fl_z        by each document's own standard, or\n"
@@ -357,7 +378,7 @@ Command rowsCommand() {
           "for the person at the terminal: do not keep it with the rows. Notes may hold dates\n"
           "in their text: --relative-dates with --identify leaves them as they are.\n"
           "Texts stand in CSV as they are. A spreadsheet runs cells that begin with '=': import names,\n"
-          "reference IDs and notes as text.\n",
+          "reference IDs and notes as text.\n"),
       .operands = kOperands,
       .options = kOptions,
       .run = runRows};

@@ -32,23 +32,27 @@ void printSelfTest(std::span<const selftest::Example> examples, bool asJson, Con
   }
   const auto& total = results.back();
   if (total.differences > 0) {
-    console.complain("self-test", std::to_string(total.differences) + " of " + std::to_string(total.values) +
-                                      " values differ");
+    console.complain("self-test",
+                     Sentence("CommandLine", "%1 of %2 values differ").with(total.differences, total.values));
   }
 }
 
 Command selfTestCommand() {
-  static constexpr std::array<OptionSpec, 1> kOptions{{{"json", "", "one object a group, on a line"}}};
+  static constexpr std::array<OptionSpec, 1> kOptions{
+      {{"json", "", translatable("CommandHelp", "one object a group, on a line")}}};
   return {
       .name = "self-test",
       .usage = "[--json]",
-      .summary = "Works examples with known results out again: formulas, standards, references, dating.",
-      .details =
+      .summary = translatable(
+          "CommandHelp",
+          "Works examples with known results out again: formulas, standards, references, dating."),
+      .details = Sentence(
+          "CommandHelp",
           "A line a group: its name, how many values it has, how many of them differ; the last line is the "
           "total.\n"
           "The values are printed ones, held against the program at their own precision, and others that "
           "were\n"
-          "worked out apart from the program. The status is 1 when one differs.\n",
+          "worked out apart from the program. The status is 1 when one differs.\n"),
       .operands = {},
       .options = kOptions,
       .run = runSelfTest};

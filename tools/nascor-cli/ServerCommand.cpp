@@ -34,7 +34,8 @@ int numberIn(const std::string& text) {
 
 std::string required(const Arguments& arguments, std::string_view name) {
   const auto value = arguments.option(name);
-  if (!value || value->empty()) throw UsageError("--" + std::string(name) + " is missing");
+  if (!value || value->empty())
+    throw UsageError(Sentence("CommandLine", "%1 is missing").with("--" + std::string(name)));
   return *value;
 }
 
@@ -49,7 +50,7 @@ ServerAddress addressIn(const Arguments& arguments) {
     address.tls = exchange::TlsSettings{.authorityFile = arguments.option("ca").value_or(""),
                                         .certificateFile = arguments.option("cert").value_or(""),
                                         .keyFile = arguments.option("key").value_or("")};
-  if (const auto fault = faultOf(address)) throw UsageError(*fault);
+  if (const auto fault = faultOf(address)) throw UsageError(Sentence::verbatim(*fault));
   return address;
 }
 
@@ -68,8 +69,8 @@ std::string dayIn(const Arguments& arguments, std::string_view name) {
     }
   }
   if (!isForm || !exchange::dayFromDigits(digits))
-    throw UsageError("--" + std::string(name) + ": expected a day like 2026-11-23, but \"" + *text +
-                     "\" stands here");
+    throw UsageError(Sentence("CommandLine", "--%1: expected a day like 2026-11-23, but \"%2\" stands here")
+                         .with(name, *text));
   return digits;
 }
 
@@ -80,9 +81,10 @@ ReportQuery queryIn(const Arguments& arguments) {
                     .lastDay = dayIn(arguments, "to")};
   // No patient is no wish for every patient.
   if (arguments.has("patient") && query.patientID.empty())
-    throw UsageError("--patient: the reference ID is empty");
-  if (arguments.has("study") && query.study.empty()) throw UsageError("--study: the UID is empty");
-  if (const auto fault = faultOf(query)) throw UsageError(*fault);
+    throw UsageError(Sentence("CommandLine", "--patient: the reference ID is empty"));
+  if (arguments.has("study") && query.study.empty())
+    throw UsageError(Sentence("CommandLine", "--study: the UID is empty"));
+  if (const auto fault = faultOf(query)) throw UsageError(Sentence::verbatim(*fault));
   return query;
 }
 
@@ -117,7 +119,8 @@ struct Call {
 };
 
 void echo(ReportServer& server, const Call& call) {
-  if (const auto why = server.echo(call.address)) return call.console.complain(placeOf(call.address), *why);
+  if (const auto why = server.echo(call.address))
+    return call.console.complain(placeOf(call.address), Sentence::verbatim(*why));
   call.console.out() += placeOf(call.address) + " answers as " + call.address.serverTitle;
   if (call.address.tls) call.console.out() += ", encrypted";
   call.console.lineDone();
@@ -126,7 +129,7 @@ void echo(ReportServer& server, const Call& call) {
 void find(ReportServer& server, const Call& call) {
   const auto found = server.find(call.address, queryIn(call.arguments));
   if (const auto* why = std::get_if<std::string>(&found))
-    return call.console.complain(placeOf(call.address), *why);
+    return call.console.complain(placeOf(call.address), Sentence::verbatim(*why));
   const auto& [places, warnings] = std::get<exchange::FoundReports>(found);
   for (const ReportPlace& place : places) {
     foundation::JsonText json(call.console.out());
@@ -135,7 +138,8 @@ void find(ReportServer& server, const Call& call) {
     json.endObject();
     call.console.lineDone();
   }
-  for (const std::string& warning : warnings) call.console.warn(placeOf(call.address), warning);
+  for (const std::string& warning : warnings)
+    call.console.warn(placeOf(call.address), Sentence::verbatim(warning));
 }
 
 void fetch(ReportServer& server, const Call& call) {
@@ -144,18 +148,20 @@ void fetch(ReportServer& server, const Call& call) {
   const auto fetched = server.fetch(call.address, query);
   Console& console = call.console;
   const std::string from = placeOf(call.address);
-  if (const auto* why = std::get_if<std::string>(&fetched)) return console.complain(from, *why);
+  if (const auto* why = std::get_if<std::string>(&fetched))
+    return console.complain(from, Sentence::verbatim(*why));
   const auto& [reports, warnings] = std::get<exchange::FetchedReports>(fetched);
   std::error_code error;
   if (!reports.empty()) std::filesystem::create_directories(folder, error);
-  if (error) return console.complain(folder.string(), error.message());
+  if (error) return console.complain(folder.string(), Sentence::ofSystem(error.message()));
   posix::PosixFileStore store;
   for (const exchange::FetchedReport& report : reports) {
     const std::string path = (folder / (report.place.instance + ".dcm")).string();
     if (const auto problem = store.replaceExpected(path, report.file, std::nullopt)) {
       using enum foundation::FileError::Kind;
-      console.complain(
-          path, problem->kind == isChanged ? "it is there already, and stays as it is" : problem->reason);
+      console.complain(path, problem->kind == isChanged
+                                 ? Sentence("CommandLine", "it is there already, and stays as it is")
+                                 : reasonOf(*problem));
       continue;
     }
     foundation::JsonText json(console.out());
@@ -165,15 +171,17 @@ void fetch(ReportServer& server, const Call& call) {
     json.endObject();
     console.lineDone();
   }
-  for (const std::string& warning : warnings) console.complain(from, warning);
-  if (reports.empty() && warnings.empty()) console.complain(from, "has no such report");
+  for (const std::string& warning : warnings) console.complain(from, Sentence::verbatim(warning));
+  if (reports.empty() && warnings.empty())
+    console.complain(from, Sentence("CommandLine", "has no such report"));
 }
 
 void send(ReportServer& server, const Call& call) {
   bool isOver = false;
   for (const std::string& file : call.files) {
     if (isOver) {
-      call.console.complain(nameOf(file), "is not sent, because the server did not answer before");
+      call.console.complain(nameOf(file),
+                            Sentence("CommandLine", "is not sent, because the server did not answer before"));
       continue;
     }
     const auto bytes = contentsOf(file, call.console);
@@ -182,7 +190,9 @@ void send(ReportServer& server, const Call& call) {
       isOver = fault->isOfServer;
       call.console.complain(
           nameOf(file),
-          isOver ? "is not sent: " + placeOf(call.address) + " " + fault->sentence : fault->sentence);
+          //: %1 is the address of a server, %2 what is wrong with it: "... is not sent: host:104 does not answer".
+          isOver ? Sentence("CommandLine", "is not sent: %1 %2").with(placeOf(call.address), fault->sentence)
+                 : Sentence::verbatim(fault->sentence));
       continue;
     }
     foundation::JsonText json(call.console.out());
@@ -214,30 +224,34 @@ const std::vector<Action>& actions() {
 void check(const Action& action, const Arguments& arguments) {
   for (const std::string_view option : {"patient", "study", "from", "to", "out"}) {
     if (arguments.has(option) && std::ranges::find(action.options, option) == action.options.end())
-      throw UsageError("--" + std::string(option) + " is not for " + std::string(action.name));
+      throw UsageError(Sentence("CommandLine", "--%1 is not for %2").with(option, action.name));
   }
   const bool takesFiles = action.name == "send";
   if (takesFiles != (arguments.operands.size() > 1))
-    throw UsageError(takesFiles ? "FILE... is missing" : std::string(action.name) + " takes no FILE");
+    throw UsageError(takesFiles ? Sentence("CommandLine", "%1 is missing").with("FILE...")
+                                : Sentence("CommandLine", "%1 takes no FILE").with(action.name));
   static_cast<void>(queryIn(arguments));
   if (action.name != "fetch") return;
   if (!arguments.has("patient") && !arguments.has("study"))
-    throw UsageError("fetch needs --patient or --study");
-  if (required(arguments, "out") == "-") throw UsageError("--out takes a folder");
+    throw UsageError(Sentence("CommandLine", "fetch needs --patient or --study"));
+  if (required(arguments, "out") == "-") throw UsageError(Sentence("CommandLine", "--out takes a folder"));
 }
 
 void runServer(const Arguments& arguments, Console& console) {
   const std::string name = inSmallLetters(arguments.operands.front());
   const auto action = std::ranges::find(actions(), name, &Action::name);
-  if (action == actions().end()) throw UsageError("expected echo, find, fetch or send");
+  if (action == actions().end())
+    throw UsageError(Sentence("CommandLine", "expected echo, find, fetch or send"));
   check(*action, arguments);
   const ServerAddress address = addressIn(arguments);
   const auto server = reports::reportServer();
   if (const auto* why = std::get_if<std::string>(&server))
-    return console.complain(placeOf(address), "is not contacted: " + *why);
+    return console.complain(placeOf(address), Sentence("CommandLine", "is not contacted: %1").with(*why));
   if (!address.tls)
-    console.warn(placeOf(address),
-                 "the connection is not encrypted: what goes over it can be read on its way; see --ca");
+    console.warn(
+        placeOf(address),
+        Sentence("CommandLine",
+                 "the connection is not encrypted: what goes over it can be read on its way; see --ca"));
   action->run(*std::get<ReportServer*>(server),
               {.arguments = arguments,
                .address = address,
@@ -249,39 +263,48 @@ void runServer(const Arguments& arguments, Console& console) {
 
 Command serverCommand() {
   static constexpr std::array<OperandSpec, 2> kOperands{
-      {{"echo|find|fetch|send", "what is wanted of the server"},
-       {"FILE...", "a DICOM report to send; - is standard input", true, false, true}}};
+      {{"echo|find|fetch|send", translatable("CommandHelp", "what is wanted of the server")},
+       {"FILE...", translatable("CommandHelp", "a DICOM report to send; - is standard input"), true, false,
+        true}}};
   static constexpr std::array<OptionSpec, 13> kOptions{{
-      {"host", "HOST", "the server: a name or an IPv4 address"},
-      {"port", "N", "its port"},
-      {"called", "TITLE", "its application entity title"},
-      {"calling", "TITLE", "that of this program; without this option NASCOR"},
-      {"ca", "FILE", "speak encrypted, to a server whose certificate comes from this authority (PEM)"},
-      {"cert", "FILE", "the certificate of this program, for servers that ask for one (PEM)"},
-      {"key", "FILE", "the key of that certificate, without a password (PEM)"},
-      {"timeout", "SECONDS", "for the whole of one connection, 1 to 3600; without this option 30"},
-      {"patient", "ID", "find, fetch: the reports of this reference ID"},
-      {"study", "UID", "find, fetch: those of this study"},
-      {"from", "DAY", "find, fetch: of studies of this day (2026-11-23) and later"},
-      {"to", "DAY", "find, fetch: of studies of this day and earlier"},
-      {"out", "DIR", "fetch: the folder for the files, which is made when it is missing"},
+      {"host", "HOST", translatable("CommandHelp", "the server: a name or an IPv4 address")},
+      {"port", "N", translatable("CommandHelp", "its port")},
+      {"called", "TITLE", translatable("CommandHelp", "its application entity title")},
+      {"calling", "TITLE", translatable("CommandHelp", "that of this program; without this option NASCOR")},
+      {"ca", "FILE",
+       translatable("CommandHelp",
+                    "speak encrypted, to a server whose certificate comes from this authority (PEM)")},
+      {"cert", "FILE",
+       translatable("CommandHelp", "the certificate of this program, for servers that ask for one (PEM)")},
+      {"key", "FILE", translatable("CommandHelp", "the key of that certificate, without a password (PEM)")},
+      {"timeout", "SECONDS",
+       translatable("CommandHelp", "for the whole of one connection, 1 to 3600; without this option 30")},
+      {"patient", "ID", translatable("CommandHelp", "find, fetch: the reports of this reference ID")},
+      {"study", "UID", translatable("CommandHelp", "find, fetch: those of this study")},
+      {"from", "DAY",
+       translatable("CommandHelp", "find, fetch: of studies of this day (2026-11-23) and later")},
+      {"to", "DAY", translatable("CommandHelp", "find, fetch: of studies of this day and earlier")},
+      {"out", "DIR",
+       translatable("CommandHelp", "fetch: the folder for the files, which is made when it is missing")},
   }};
-  return {.name = "server",
-          .usage =
-              "echo|find|fetch|send [FILE...] --host HOST --port N --called TITLE [--calling TITLE] "
-              "[--ca FILE [--cert FILE --key FILE]] [--timeout SECONDS] [--patient ID] [--study UID] "
-              "[--from DAY] [--to DAY] [--out DIR]",
-          .summary = "Fetches reports from a DICOM server, and sends reports to it.",
-          .details =
-              "echo asks whether the server answers. find lists its reports, an object a line: patientID, "
-              "studyDate,\n"
-              "study, series, instance. fetch writes them as INSTANCE.dcm, never over a file that is there, "
-              "and needs a\n"
-              "patient or a study. send sends files that \"export --format sr\" or a machine wrote.\n"
-              "No other command uses the network, and this one speaks to the server of its options alone.\n",
-          .operands = kOperands,
-          .options = kOptions,
-          .run = runServer};
+  return {
+      .name = "server",
+      .usage =
+          "echo|find|fetch|send [FILE...] --host HOST --port N --called TITLE [--calling TITLE] "
+          "[--ca FILE [--cert FILE --key FILE]] [--timeout SECONDS] [--patient ID] [--study UID] "
+          "[--from DAY] [--to DAY] [--out DIR]",
+      .summary = translatable("CommandHelp", "Fetches reports from a DICOM server, and sends reports to it."),
+      .details = Sentence(
+          "CommandHelp",
+          "echo asks whether the server answers. find lists its reports, an object a line: patientID, "
+          "studyDate,\n"
+          "study, series, instance. fetch writes them as INSTANCE.dcm, never over a file that is there, "
+          "and needs a\n"
+          "patient or a study. send sends files that \"export --format sr\" or a machine wrote.\n"
+          "No other command uses the network, and this one speaks to the server of its options alone.\n"),
+      .operands = kOperands,
+      .options = kOptions,
+      .run = runServer};
 }
 
 }  // namespace nascor::cli

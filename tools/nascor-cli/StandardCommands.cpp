@@ -58,7 +58,7 @@ std::optional<std::int64_t> formulaIn(const Arguments& arguments) {
 Quantity quantityOf(std::int64_t standard, const std::string& name, std::optional<std::int64_t> formula) {
   const Measure measure = requiredMeasure(name);
   if (measure.length) return lengthOf(standard, *measure.length);
-  if (!formula) throw UsageError("efw needs --formula");
+  if (!formula) throw UsageError(Sentence("CommandLine", "efw needs --formula"));
   return weightOf(standard, *formula);
 }
 
@@ -137,13 +137,15 @@ constexpr std::array<Question, 3> kQuestions{
      {"gestation", calc::gestationForMeasurement, calc::valueBeyondTable}}};
 
 /// A sentence where another week of the table stands in for what was asked.
-std::optional<std::string> beyondText(const Question& asked, const Quantity& quantity, double value) {
+std::optional<Sentence> beyondText(const Question& asked, const Quantity& quantity, double value) {
   const auto beyond = asked.beyond(quantity.table, value);
   if (beyond == calc::BeyondTable::no) return std::nullopt;
   const bool isBefore = beyond == calc::BeyondTable::before;
   const auto& row = isBefore ? quantity.table.front() : quantity.table.back();
-  return shortestText(value) + " lies beyond the table, whose " + (isBefore ? "first" : "last") + " week, " +
-         shortestText(row.observation()) + ", counts";
+  const Sentence sentence =
+      isBefore ? Sentence("CommandLine", "%1 lies beyond the table, whose first week, %2, counts")
+               : Sentence("CommandLine", "%1 lies beyond the table, whose last week, %2, counts");
+  return sentence.with(shortestText(value), shortestText(row.observation()));
 }
 
 void runLookup(const Arguments& arguments, Console& console) {
@@ -152,10 +154,10 @@ void runLookup(const Arguments& arguments, Console& console) {
   const Question* asked = nullptr;
   for (const Question& question : kQuestions) {
     if (!arguments.has(question.option)) continue;
-    if (asked) throw UsageError("--mean, --sd and --gestation exclude each other");
+    if (asked) throw UsageError(Sentence("CommandLine", "--mean, --sd and --gestation exclude each other"));
     asked = &question;
   }
-  if (!asked) throw UsageError("one of --mean, --sd and --gestation is missing");
+  if (!asked) throw UsageError(Sentence("CommandLine", "one of --mean, --sd and --gestation is missing"));
 
   const bool asJson = arguments.has("json");
   const Digits digits(arguments);
@@ -188,9 +190,8 @@ void runLookup(const Arguments& arguments, Console& console) {
 
 /// One line a fact: its number, its name, its label.
 template <class Facts>
-std::string numbered(std::string_view title, Facts facts,
-                     std::string_view std::remove_cvref_t<decltype(facts[0])>::*label) {
-  std::string text = std::string(title) + "\n";
+std::string numbered(Facts facts, std::string_view std::remove_cvref_t<decltype(facts[0])>::*label) {
+  std::string text;
   std::size_t identifier = 0;
   for (const auto& fact : facts) {
     std::string name(fact.name);
@@ -200,58 +201,78 @@ std::string numbered(std::string_view title, Facts facts,
   return text;
 }
 
-std::string identifiers() {
-  return numbered("Growth standards (N):", calc::growthStandards(), &calc::GrowthStandard::label) + "\n" +
-         numbered("Weight formulas (K):", calc::weightFormulas(), &calc::WeightFormula::longLabel) +
-         "\nThe number or the name, in letters of any size.\n";
+Sentence identifiers() {
+  return Sentence("CommandHelp",
+                  "Growth standards (N):\n"
+                  "%1\n"
+                  "Weight formulas (K):\n"
+                  "%2\n"
+                  "The number or the name, in letters of any size.\n")
+      .with(numbered(calc::growthStandards(), &calc::GrowthStandard::label),
+            numbered(calc::weightFormulas(), &calc::WeightFormula::longLabel));
 }
 
 }  // namespace
 
 Command standardCommand() {
-  static constexpr std::array<OperandSpec, 1> kOperands{{{"N", "growth standard, see below"}}};
+  static constexpr std::array<OperandSpec, 1> kOperands{
+      {{"N", translatable("CommandHelp", "growth standard, see below")}}};
   static constexpr std::array<OptionSpec, 4> kOptions{{
-      {"measurement", "M", "one of bpd, hc, ac, fl, efw; without it the four lengths"},
-      {"formula", "K", "weight formula, see below; needed for efw"},
+      {"measurement", "M",
+       translatable("CommandHelp", "one of bpd, hc, ac, fl, efw; without it the four lengths")},
+      {"formula", "K", translatable("CommandHelp", "weight formula, see below; needed for efw")},
       kFixedOption,
-      {"json", "", "rows [week, mean, sd]; without --measurement an object of such rows by measurement"},
+      {"json", "",
+       translatable("CommandHelp",
+                    "rows [week, mean, sd]; without --measurement an object of such rows by measurement")},
   }};
-  return {.name = "standard",
-          .usage = "N [--measurement M] [--formula K] [--fixed] [--json]",
-          .summary = "A reference table: mean and standard deviation at each week, in mm or g.",
-          .details = identifiers() +
-                     "\nThe mean weight is that of a fetus whose four lengths are the means. Its standard "
-                     "deviation is the\n"
-                     "error of the formula, not the spread of a population; 0 where none is published.\n",
-          .operands = kOperands,
-          .options = kOptions,
-          .run = runStandard};
+  return {
+      .name = "standard",
+      .usage = "N [--measurement M] [--formula K] [--fixed] [--json]",
+      .summary = translatable("CommandHelp",
+                              "A reference table: mean and standard deviation at each week, in mm or g."),
+      .details =
+          Sentence("CommandHelp",
+                   "%1\nThe mean weight is that of a fetus whose four lengths are the means. Its standard "
+                   "deviation is the\n"
+                   "error of the formula, not the spread of a population; 0 where none is published.\n")
+              .with(identifiers()),
+      .operands = kOperands,
+      .options = kOptions,
+      .run = runStandard};
 }
 
 Command lookupCommand() {
   static constexpr std::array<OperandSpec, 2> kOperands{
-      {{"N", "growth standard, see below"}, {"M", "one of bpd, hc, ac, fl, efw"}}};
+      {{"N", translatable("CommandHelp", "growth standard, see below")},
+       {"M", translatable("CommandHelp", "one of bpd, hc, ac, fl, efw")}}};
   static constexpr std::array<OptionSpec, 6> kOptions{{
-      {"mean", "W", "the mean at W weeks"},
-      {"sd", "W", "the standard deviation at W weeks"},
-      {"gestation", "MM", "the age in weeks of which MM (grams for efw) is the mean"},
-      {"formula", "K", "weight formula, see below; needed for efw"},
+      {"mean", "W", translatable("CommandHelp", "the mean at W weeks")},
+      {"sd", "W", translatable("CommandHelp", "the standard deviation at W weeks")},
+      {"gestation", "MM",
+       translatable("CommandHelp", "the age in weeks of which MM (grams for efw) is the mean")},
+      {"formula", "K", translatable("CommandHelp", "weight formula, see below; needed for efw")},
       kFixedOption,
-      {"json", "", "the same number as JSON"},
+      {"json", "", translatable("CommandHelp", "the same number as JSON")},
   }};
-  return {.name = "lookup",
-          .usage = "N M (--mean W | --sd W | --gestation MM) [--formula K] [--fixed] [--json]",
-          .summary = "One look-up in a reference table, between whole weeks by linear interpolation.",
-          .details =
+  return {
+      .name = "lookup",
+      .usage = "N M (--mean W | --sd W | --gestation MM) [--formula K] [--fixed] [--json]",
+      .summary = translatable(
+          "CommandHelp", "One look-up in a reference table, between whole weeks by linear interpolation."),
+      .details =
+          Sentence(
+              "CommandHelp",
               "The value may be -: then values are read from standard input, one a line, and answered one a "
               "line; a\n"
               "line that is no number is answered by nan (null in JSON). Nothing is extrapolated: beyond the "
               "table\n"
-              "its first or last week counts, and standard error says so (of standard input once).\n\n" +
-              identifiers(),
-          .operands = kOperands,
-          .options = kOptions,
-          .run = runLookup};
+              "its first or last week counts, and standard error says so (of standard input once).\n\n"
+              "%1")
+              .with(identifiers()),
+      .operands = kOperands,
+      .options = kOptions,
+      .run = runLookup};
 }
 
 }  // namespace nascor::cli

@@ -31,7 +31,8 @@ std::size_t distanceBetween(std::string_view from, std::string_view to) {
 
 }  // namespace
 
-std::string didYouMean(std::string_view word, std::span<const std::string> names) {
+foundation::Sentence didYouMean(const foundation::Sentence& sentence, std::string_view word,
+                                std::span<const std::string> names) {
   // Longer than any name; the work grows with the length.
   constexpr std::size_t kLongestWord = 40;
   // Of an option the dashes are no letters.
@@ -40,7 +41,7 @@ std::string didYouMean(std::string_view word, std::span<const std::string> names
     return text;
   };
   const std::string_view typed = letters(word);
-  if (typed.empty() || word.size() > kLongestWord) return {};
+  if (typed.empty() || word.size() > kLongestWord) return sentence;
 
   const std::string* nearest = nullptr;
   // One letter alone is like nothing but itself.
@@ -57,7 +58,9 @@ std::string didYouMean(std::string_view word, std::span<const std::string> names
         names, [&](const std::string& name) { return letters(name).starts_with(typed); });
     if (longer != names.end()) nearest = &*longer;
   }
-  return nearest ? "; did you mean \"" + *nearest + "\"?" : std::string();
+  if (!nearest) return sentence;
+  //: %1 is a sentence, %2 what may have been meant.
+  return foundation::Sentence("CommandLine", "%1; did you mean \"%2\"?").with(sentence, *nearest);
 }
 
 }  // namespace nascor::cli

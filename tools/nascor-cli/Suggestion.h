@@ -4,10 +4,13 @@
 #include <string>
 #include <string_view>
 
+#include "foundation/Sentence.h"
+
 namespace nascor::cli {
 
-/// `; did you mean "NAME"?` for the one of `names` that `word` is most like, the first of equals; empty when it is like
+/// `SENTENCE; did you mean "NAME"?` for the one of `names` that `word` is most like, the first of equals; `sentence` alone when it is like
 /// none: a third of its letters and more are wrong, and no name begins with it.
-std::string didYouMean(std::string_view word, std::span<const std::string> names);
+foundation::Sentence didYouMean(const foundation::Sentence& sentence, std::string_view word,
+                                std::span<const std::string> names);
 
 }  // namespace nascor::cli

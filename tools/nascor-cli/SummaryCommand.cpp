@@ -33,7 +33,7 @@ class SummaryClock final : public foundation::Clock {
     constexpr std::int64_t kGreatest = 253402300799;  // the end of the year 9999
     if (error != std::errc() || end != seconds.data() + seconds.size() || since1970 < 0 ||
         since1970 > kGreatest)
-      throw UsageError("SOURCE_DATE_EPOCH: expected whole seconds since 1970");
+      throw UsageError(Sentence("CommandLine", "SOURCE_DATE_EPOCH: expected whole seconds since 1970"));
     constexpr std::int64_t kFrom1970To2001 = 978307200;
     now_ = {static_cast<double>(since1970 - kFrom1970To2001)};
   }
@@ -48,14 +48,14 @@ summary::Paper paperIn(const Arguments& arguments) {
   const std::string name = inSmallLetters(arguments.option("paper").value_or("a4"));
   if (name == "a4") return {};
   if (name == "letter") return {.width = 612.0, .height = 792.0};
-  throw UsageError("--paper: expected a4 or letter");
+  throw UsageError(Sentence("CommandLine", "--paper: expected a4 or letter"));
 }
 
 std::optional<std::size_t> fetusIn(const Arguments& arguments) {
   const std::string fetus = inSmallLetters(arguments.option("fetus").value_or("all"));
   if (fetus == "all") return std::nullopt;
   if (fetus.size() != 1 || fetus[0] < '1' || fetus[0] > '5')
-    throw UsageError("--fetus: expected all or a number from 1 to 5");
+    throw UsageError(Sentence("CommandLine", "--fetus: expected all or a number from 1 to 5"));
   return static_cast<std::size_t>(fetus[0] - '1');
 }
 
@@ -67,48 +67,53 @@ summary::Details detailsIn(const Arguments& arguments) {
 }
 
 /// The summary as a file of that format; a text says why there is none.
-std::variant<std::vector<std::byte>, std::string> fileOf(const summary::Summary& summary, bool isHtml,
-                                                         const summary::Paper& paper) {
+std::variant<std::vector<std::byte>, Sentence> fileOf(const summary::Summary& summary, bool isHtml,
+                                                      const summary::Paper& paper) {
   if (isHtml) {
     const std::string text = summary::htmlText(summary);
     const auto bytes = std::as_bytes(std::span(text));
     return std::vector<std::byte>(bytes.begin(), bytes.end());
   }
   const auto typesetter = typesetting::typesetter();
-  if (const auto* why = std::get_if<std::string>(&typesetter)) return "cannot be put on paper: " + *why;
-  return std::get<summary::Typesetter*>(typesetter)->pdf(summary, paper);
+  if (const auto* why = std::get_if<std::string>(&typesetter))
+    return Sentence("CommandLine", "cannot be put on paper: %1").with(*why);
+  auto pdf = std::get<summary::Typesetter*>(typesetter)->pdf(summary, paper);
+  if (auto* why = std::get_if<std::string>(&pdf)) return Sentence::verbatim(std::move(*why));
+  return std::get<std::vector<std::byte>>(std::move(pdf));
 }
 
 void runSummary(const Arguments& arguments, Console& console) {
   const auto folder = arguments.option("out");
-  if (!folder || folder->empty()) throw UsageError("--out is missing");
+  if (!folder || folder->empty()) throw UsageError(Sentence("CommandLine", "--out is missing"));
   const std::string format = inSmallLetters(arguments.option("format").value_or("pdf"));
-  if (format != "pdf" && format != "html") throw UsageError("--format: expected pdf or html");
+  if (format != "pdf" && format != "html")
+    throw UsageError(Sentence("CommandLine", "--format: expected pdf or html"));
   const summary::Paper paper = paperIn(arguments);
   const auto fetus = fetusIn(arguments);
   const summary::Details details = detailsIn(arguments);
   const bool isStandardOutput = *folder == "-";
   if (isStandardOutput && arguments.operands.size() > 1)
-    throw UsageError("--out - takes the summary of one document");
+    throw UsageError(Sentence("CommandLine", "--out - takes the summary of one document"));
   if (isStandardOutput && format == "pdf" && console.outputIsTerminal())
-    throw UsageError("a PDF is no text for a terminal; give --out DIR or send standard output to a file");
+    throw UsageError(Sentence(
+        "CommandLine", "a PDF is no text for a terminal; give --out DIR or send standard output to a file"));
 
   const SummaryClock clock;
   const posix::PosixCalendar calendar;
-  const foundation::EnglishLocalizer localizer;
   Target target(*folder, arguments.has("no-clobber"), console);
   for (const std::string& file : arguments.operands) {
     const auto document = documentIn(file, console);
     if (!document) continue;
     const std::string name = target.nameFor(file) + " - Summary." + format;
-    const summary::Summary summary = summary::summaryOf(
-        *document->patient, details, {.clock = clock, .calendar = calendar, .localizer = localizer}, fetus);
+    const summary::Summary summary =
+        summary::summaryOf(*document->patient, details,
+                           {.clock = clock, .calendar = calendar, .localizer = console.localizer()}, fetus);
     if (summary.fetuses.empty()) {
-      console.complain(nameOf(file), "it has no such fetus");
+      console.complain(nameOf(file), Sentence("CommandLine", "it has no such fetus"));
       continue;
     }
     const auto bytes = fileOf(summary, format == "html", paper);
-    if (const auto* why = std::get_if<std::string>(&bytes)) {
+    if (const auto* why = std::get_if<Sentence>(&bytes)) {
       console.complain(nameOf(file), *why);
     } else if (isStandardOutput) {
       console.writeBytes(std::get<std::vector<std::byte>>(bytes));
@@ -122,29 +127,34 @@ void runSummary(const Arguments& arguments, Console& console) {
 
 Command summaryCommand() {
   static constexpr std::array<OperandSpec, 1> kOperands{
-      {{"FILE...", "a document; - is standard input", true}}};
+      {{"FILE...", translatable("CommandHelp", "a document; - is standard input"), true}}};
   static constexpr std::array<OptionSpec, 7> kOptions{{
       {"out", "DIR",
-       "the folder for the files, which is made when it is missing; - is standard output, for one file"},
-      {"format", "pdf|html", "what is written; without this option PDF"},
-      {"paper", "a4|letter", "the paper of a PDF; without this option A4"},
-      {"fetus", "all|N", "one fetus, the first is 1; without this option all"},
-      {"examiner", "NAME", "who examined"},
-      {"letterhead", "LINE", "a line at the head of each fetus; once for each line", false, true},
-      {"no-clobber", "", "leave files that are there as they are, and say so"},
+       translatable(
+           "CommandHelp",
+           "the folder for the files, which is made when it is missing; - is standard output, for one file")},
+      {"format", "pdf|html", translatable("CommandHelp", "what is written; without this option PDF")},
+      {"paper", "a4|letter", translatable("CommandHelp", "the paper of a PDF; without this option A4")},
+      {"fetus", "all|N", translatable("CommandHelp", "one fetus, the first is 1; without this option all")},
+      {"examiner", "NAME", translatable("CommandHelp", "who examined")},
+      {"letterhead", "LINE",
+       translatable("CommandHelp", "a line at the head of each fetus; once for each line"), false, true},
+      {"no-clobber", "", translatable("CommandHelp", "leave files that are there as they are, and say so")},
   }};
   return {
       .name = "summary",
       .usage =
           "FILE... --out DIR [--format pdf|html] [--paper a4|letter] [--fetus all|N] [--examiner NAME] "
           "[--letterhead LINE]... [--no-clobber]",
-      .summary = "A summary for the records: a page or two a fetus, typeset, or as HTML.",
-      .details =
+      .summary = translatable("CommandHelp",
+                              "A summary for the records: a page or two a fetus, typeset, or as HTML."),
+      .details = Sentence(
+          "CommandHelp",
           "EDD, measurements with z and centile by the growth standard, weights, growth, small charts, "
           "notes,\n"
           "and the sources of all that was used. Each document is one file, \"NAME - Summary.pdf\".\n"
           "Files of the same names are replaced, but with --no-clobber. SOURCE_DATE_EPOCH, in seconds since\n"
-          "1970, takes the place of the present moment.\n",
+          "1970, takes the place of the present moment.\n"),
       .operands = kOperands,
       .options = kOptions,
       .run = runSummary};

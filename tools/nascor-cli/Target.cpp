@@ -3,6 +3,8 @@
 #include <filesystem>
 #include <system_error>
 
+#include "cli_commands/Input.h"
+
 namespace nascor::cli {
 
 std::string Target::nameFor(const std::string& path) {
@@ -16,11 +18,11 @@ std::string Target::nameFor(const std::string& path) {
 void Target::write(const std::string& name, std::span<const std::byte> bytes) {
   std::error_code error;
   std::filesystem::create_directories(folder_, error);
-  if (error) return console_->complain(folder_, error.message());
+  if (error) return console_->complain(folder_, Sentence::ofSystem(error.message()));
   const std::string path = (std::filesystem::path(folder_) / name).string();
   if (keepsOld_ && store_.exists(path))
-    return console_->warn(path, "it is there already, and stays as it is");
-  if (const auto problem = store_.replaceContents(path, bytes)) console_->complain(path, problem->reason);
+    return console_->warn(path, Sentence("CommandLine", "it is there already, and stays as it is"));
+  if (const auto problem = store_.replaceContents(path, bytes)) console_->complain(path, reasonOf(*problem));
 }
 
 }  // namespace nascor::cli

@@ -12,6 +12,8 @@
 
 namespace nascor::tar {
 
+using foundation::Sentence;
+
 namespace {
 
 using Archive = std::unique_ptr<struct archive, int (*)(struct archive*)>;
@@ -23,9 +25,10 @@ constexpr std::int64_t kEndMark = 2 * kBlock;
 /// No document comes near this.
 constexpr std::size_t kLongestMember = std::size_t{1} << 28;
 
-std::string errorOf(struct archive* archive) {
+/// In the words of the library.
+Sentence errorOf(struct archive* archive) {
   const char* text = ::archive_error_string(archive);
-  return text ? text : "cannot be read";
+  return text ? Sentence::verbatim(text) : Sentence("Reading", "cannot be read");
 }
 
 }  // namespace
@@ -69,8 +72,8 @@ class TarReader::Stream {
   /// Bytes of the archive so far, without compression.
   std::int64_t count() const { return count_; }
 
-  /// Why the bytes themselves cannot be read; empty where they can.
-  const std::string& sentence() const { return sentence_; }
+  /// Why the bytes themselves cannot be read; nothing where they can.
+  const std::optional<Sentence>& sentence() const { return sentence_; }
 
   /// Throws what the source threw: the library between us knows no exceptions.
   void rethrow() {
@@ -83,15 +86,16 @@ class TarReader::Stream {
   }
   static ssize_t readBytes(struct archive* members, void* self, const void** bytes) {
     const ssize_t count = static_cast<Stream*>(self)->take(bytes);
-    if (count < 0) ::archive_set_error(members, EIO, "%s", static_cast<Stream*>(self)->sentence_.c_str());
+    if (count < 0) ::archive_set_error(members, EIO, "cannot be read");
     return count;
   }
 
   ssize_t takeSource(const void** bytes) {
     try {
       const auto piece = source_();
-      if (const auto* sentence = std::get_if<std::string>(&piece)) {
-        ::archive_set_error(bytes_.get(), EIO, "%s", sentence->c_str());
+      if (const auto* sentence = std::get_if<Sentence>(&piece)) {
+        sentence_ = *sentence;
+        ::archive_set_error(bytes_.get(), EIO, "cannot be read");
         return -1;
       }
       *bytes = std::get<0>(piece).data();
@@ -125,7 +129,7 @@ class TarReader::Stream {
   }
 
   bool failed() {
-    if (sentence_.empty()) sentence_ = errorOf(bytes_.get());
+    if (!sentence_) sentence_ = errorOf(bytes_.get());
     return false;
   }
 
@@ -135,7 +139,7 @@ class TarReader::Stream {
   struct archive_entry* entry_ = nullptr;
   std::int64_t count_ = 0;
   bool isEmpty_ = false;
-  std::string sentence_;
+  std::optional<Sentence> sentence_;
   std::exception_ptr thrown_;
 };
 
@@ -148,9 +152,7 @@ TarReader::TarReader(Source source, std::string suffix)
 
 TarReader::~TarReader() = default;
 
-std::string TarReader::sentence() const {
-  return stream_->sentence().empty() ? errorOf(stream_->members()) : stream_->sentence();
-}
+Sentence TarReader::sentence() const { return stream_->sentence().value_or(errorOf(stream_->members())); }
 
 std::optional<Member> TarReader::next() {
   while (!isAtEnd_) {
@@ -179,7 +181,7 @@ std::optional<Member> TarReader::next() {
   return std::nullopt;
 }
 
-std::variant<std::vector<std::byte>, std::string> TarReader::contents() {
+std::variant<std::vector<std::byte>, Sentence> TarReader::contents() {
   std::vector<std::byte> bytes;
   for (;;) {
     const void* piece = nullptr;
@@ -196,7 +198,7 @@ std::variant<std::vector<std::byte>, std::string> TarReader::contents() {
     // A file with holes has bytes of zero between its blocks.
     const auto begin = static_cast<std::uint64_t>(std::max<std::int64_t>(offset, 0));
     if (begin > kLongestMember || size > kLongestMember - begin) {
-      return "longer than 256 MiB, which no document is";
+      return Sentence("Reading", "longer than 256 MiB, which no document is");
     }
     bytes.resize(std::max(bytes.size(), static_cast<std::size_t>(begin) + size));
     const auto* from = static_cast<const std::byte*>(piece);
@@ -212,7 +214,7 @@ void TarReader::end() {
   if (!isRead) {
     complaint_ = stream_->sentence();
   } else if (stream_->count() < lastMemberEnd + kEndMark) {
-    complaint_ = "the tar archive ends before its end mark";
+    complaint_ = Sentence("Reading", "the tar archive ends before its end mark");
   }
 }
 

@@ -10,22 +10,24 @@
 #include <variant>
 #include <vector>
 
+#include "foundation/Sentence.h"
+
 namespace nascor::tar {
 
 /// A file within an archive.
 struct Member {
   std::string name;  ///< bytes, as the archive has them
   /// All of its bytes, or why they cannot be had: a sentence without the name.
-  std::variant<std::vector<std::byte>, std::string> contents;
+  std::variant<std::vector<std::byte>, foundation::Sentence> contents;
 };
 
 /// Reads a tar archive (ustar, pax, GNU) from a stream, member after member, compressed with gzip or zstd or not at all.
 /// Holds one member at a time.
 class TarReader {
  public:
-  /// The next bytes of the archive, valid until the next call; none at its end; a text says why they cannot be read.
+  /// The next bytes of the archive, valid until the next call; none at its end; a sentence says why they cannot be read.
   /// What it throws comes out of `next`.
-  using Source = std::function<std::variant<std::span<const char>, std::string>()>;
+  using Source = std::function<std::variant<std::span<const char>, foundation::Sentence>()>;
 
   /// Members are those whose names end with `suffix`.
   TarReader(Source source, std::string suffix);
@@ -39,18 +41,18 @@ class TarReader {
 
   /// After the end: why the archive is not whole, in a sentence; nothing where it is. One that ends before its end mark is
   /// not whole, whether within a member or between two.
-  const std::optional<std::string>& complaint() const { return complaint_; }
+  const std::optional<foundation::Sentence>& complaint() const { return complaint_; }
 
  private:
   class Stream;
 
-  std::variant<std::vector<std::byte>, std::string> contents();
+  std::variant<std::vector<std::byte>, foundation::Sentence> contents();
   void end();
-  std::string sentence() const;
+  foundation::Sentence sentence() const;
 
   std::unique_ptr<Stream> stream_;
   std::string suffix_;
-  std::optional<std::string> complaint_;
+  std::optional<foundation::Sentence> complaint_;
   bool isAtEnd_ = false;
 };
 
