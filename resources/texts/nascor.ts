@@ -246,11 +246,6 @@ text.
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>usage: %1
-</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Commands:</source>
         <translation type="unfinished"></translation>
     </message>
@@ -906,6 +901,10 @@ and the sources of all that was used. Each document is one file, &quot;NAME - Su
 Files of the same names are replaced, but with --no-clobber. SOURCE_DATE_EPOCH, in seconds since
 1970, takes the place of the present moment.
 </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>usage: %1</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -2209,6 +2208,17 @@ Files of the same names are replaced, but with --no-clobber. SOURCE_DATE_EPOCH, 
     </message>
 </context>
 <context>
+    <name>Files</name>
+    <message>
+        <source>Not a regular file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It was changed meanwhile</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>ImportDialog</name>
     <message>
         <source>Examination</source>
@@ -3490,6 +3500,444 @@ Files of the same names are replaced, but with --no-clobber. SOURCE_DATE_EPOCH, 
     </message>
     <message>
         <source>the tar archive ends before its end mark</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a real</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the mark of something new</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the end of an object</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the meaningless byte %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>only %1 of its %2 are left</source>
+        <extracomment>%2 is a count, such as &quot;8 bytes&quot;.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>label %1 is outside the %2 given so far</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>string %1 is outside the %2 given so far</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>its length is %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>at byte %1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>expected %1, but %2</source>
+        <extracomment>%1 is what was expected, such as &quot;an object&quot;, %2 a clause such as &quot;the file ends here&quot;.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 stands here</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 byte</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 bytes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the file ends here</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the text of this stream is more than %1 times as long as the stream itself</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a typed stream of version 4</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the signature of a typed stream</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the version is %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the system version</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a group of values, or the end of an object</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a group of values</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 ends here</source>
+        <extracomment>An object.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the types of a group</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the type string %1 %2</source>
+        <extracomment>%2 is what is wrong with it, such as &quot;ends inside an array&quot;.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>its text is nil</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a class name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a class version</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>more than %1 class records stand in a chain</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a superclass</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>objects, arrays and structures nest more than %1 deep</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>an integer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a byte</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 does not fit that</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a string</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a C string</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a class</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>an array of bytes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>an array</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it takes at least %1, and %2 are left</source>
+        <extracomment>%1 is a count, such as &quot;8 bytes&quot;.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a structure</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>an object</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the class of an object</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the end of %1</source>
+        <extracomment>%1 is an object.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>more values follow</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>class %1 (%2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>C string %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>object %1 (of no class yet)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>object %1 (%2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>nests arrays and structures more than %1 deep</source>
+        <extracomment>Behind &quot;the type string ...&quot;, as are the next ones.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>has the unknown type code %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>has an array without a count</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ends inside an array</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>has an array without an element type</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>has an array that is not closed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>has an array whose elements take no bytes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>has a structure without members</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>has a structure that is not closed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a selector</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a shared string</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>an unsigned byte</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a truth value</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a 16-bit integer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>an unsigned 16-bit integer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a 32-bit integer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>an unsigned 32-bit integer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a long integer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>an unsigned long integer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a 64-bit integer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>an unsigned 64-bit integer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a 32-bit real</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a 64-bit real</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a value</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>values</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 (type %2)</source>
+        <extracomment>%1 is a type in words, such as &quot;an object&quot;, %2 as it is spelled.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not a Nascor document (%1)</source>
+        <extracomment>Behind the name of a file; %1 is the reason.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a text or null</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a date (seconds since 2001-01-01 UTC, an ISO text) or null</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>an ISO date or null</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a whole number</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a number, &quot;nan&quot;, &quot;inf&quot; or &quot;-inf&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a list</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the text %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>binary data</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>one of the keys %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>each key once</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>this one stands twice</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>expected JSON, but %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>at line %1, column %2: %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>at the top: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>at %1: %2</source>
+        <extracomment>%1 is a place in a JSON text, such as /examinations/2/note.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a whole number of at most 64 bits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is longer than 32 bits; the file holds the low 32, which are %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is beyond single precision; the file holds %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>this number is beyond 64 bits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>expected JSON, but a zero byte stands here</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>expected a string of UTF-8 text, but its bytes are not UTF-8</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>expected a string of UTF-8 text, but its bytes are missing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 would contain itself</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>expected a document of a plausible size, but its references to %1 and others repeat %2 bytes in a file of %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the number of elements of an array</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a PatientRecord</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a string or nil</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a date or nil</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>an array of examinations or nil</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>an NCRecord</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>an array of measurements or nil</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a MeasurementsRecord</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

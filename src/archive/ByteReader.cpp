@@ -8,22 +8,25 @@ namespace nascor::archive {
 namespace {
 
 /// A head that begins no number, in words.
-std::string describeTag(int head) {
+Sentence describeTag(int head) {
   switch (head) {
-    case kRealTag: return "a real";
-    case kNewTag: return "the mark of something new";
-    case kNilTag: return "nil";
-    case kEndTag: return "the end of an object";
-    default: return "the meaningless byte " + inQuotes(std::string(1, static_cast<char>(head)));
+    case kRealTag: return Sentence("Reading", "a real");
+    case kNewTag: return Sentence("Reading", "the mark of something new");
+    case kNilTag: return Sentence::verbatim("nil");
+    case kEndTag: return Sentence("Reading", "the end of an object");
+    default:
+      return Sentence("Reading", "the meaningless byte %1")
+          .with(inQuotes(std::string(1, static_cast<char>(head))));
   }
 }
 
 }  // namespace
 
 void ByteReader::refuseShort(std::uint64_t length, std::string_view wanted) const {
+  if (left() == 0) refuse(position(), wanted, fileEndsHere());
+  //: %2 is a count, such as "8 bytes".
   refuse(position(), wanted,
-         left() == 0 ? "the file ends here"
-                     : "only " + std::to_string(left()) + " of its " + counted(length, "byte") + " are left");
+         Sentence("Reading", "only %1 of its %2 are left").with(left(), countedBytes(length)));
 }
 
 std::span<const std::byte> ByteReader::takeBytes(std::uint64_t length, std::string_view wanted) {
@@ -42,20 +45,22 @@ std::int64_t ByteReader::takeNumber(std::string_view wanted) {
     case kInt64Tag: return static_cast<std::int64_t>(takeFixed<std::uint64_t>(wanted));
     default: break;
   }
-  if (!isNumber(tag)) refuse(begin, wanted, describeTag(tag) + " stands here");
+  if (!isNumber(tag)) refuseFound(begin, wanted, describeTag(tag));
   return tag;
 }
 
-std::size_t ByteReader::takeNumberOf(std::string_view thing, std::size_t known, std::string_view wanted) {
+std::size_t ByteReader::takeNumberOf(Thing thing, std::size_t known, std::string_view wanted) {
   const std::size_t begin = position();
   const std::int64_t stored = takeNumber(wanted);
   // Unsigned, so that it wraps where a signed number would overflow.
   const std::uint64_t number = static_cast<std::uint64_t>(stored) - static_cast<std::uint64_t>(kFirstNumber);
   if (number >= known) {
-    refuse(begin, wanted,
-           std::string(thing) + " " +
-               (stored < 0 ? std::to_string(static_cast<std::int64_t>(number)) : std::to_string(number)) +
-               " is outside the " + std::to_string(known) + " given so far");
+    const std::string shown =
+        stored < 0 ? std::to_string(static_cast<std::int64_t>(number)) : std::to_string(number);
+    const Sentence sentence = thing == Thing::label
+                                  ? Sentence("Reading", "label %1 is outside the %2 given so far")
+                                  : Sentence("Reading", "string %1 is outside the %2 given so far");
+    refuse(begin, wanted, sentence.with(shown, known));
   }
   return static_cast<std::size_t>(number);
 }
@@ -67,7 +72,7 @@ std::optional<std::string_view> ByteReader::takeText(std::string_view wanted) {
   }
   const std::size_t begin = position();
   const std::int64_t length = takeNumber(wanted);
-  if (length < 0) refuse(begin, wanted, "its length is " + std::to_string(length));
+  if (length < 0) refuse(begin, wanted, Sentence("Reading", "its length is %1").with(length));
   const auto text = takeBytes(static_cast<std::uint64_t>(length), wanted);
   return std::string_view(reinterpret_cast<const char*>(text.data()), text.size());
 }

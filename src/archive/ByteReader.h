@@ -17,8 +17,8 @@ namespace nascor::archive {
 /// The bytes of a typed stream from the first to the last: runs of bytes, numbers of two, four and eight bytes in the
 /// stream's order, and heads, the bytes that begin most values and say how they go on. Knows neither types nor objects.
 ///
-/// In each function `wanted` is what the caller expects, in words ("an object"). Where that does not stand, or not all of
-/// it, FormatError says so. Nothing past the end is read. The bytes must outlive the reader and the texts that it gives.
+/// In each function `wanted` is what the caller expects, a key of the table "Reading" ("an object"). Where that does not
+/// stand, or not all of it, FormatError says so. Nothing past the end is read. The bytes must outlive the reader and the texts that it gives.
 class ByteReader {
  public:
   explicit ByteReader(std::span<const std::byte> bytes)
@@ -34,7 +34,7 @@ class ByteReader {
 
   /// The next head, which stays the next.
   int head(std::string_view wanted) const {
-    if (left() == 0) refuse(position(), wanted, "the file ends here");
+    if (left() == 0) refuseShort(1, wanted);
     return headAhead(0);
   }
   /// Whether the next byte is this head; then it is taken. False at the end of the file.
@@ -54,8 +54,9 @@ class ByteReader {
   }
   /// A number in whichever form it stands: its head alone, or a tag and two, four or eight bytes.
   std::int64_t takeNumber(std::string_view wanted);
-  /// The number, counted from 0, of one of the `known` things that stood earlier. `thing` names one: "label".
-  std::size_t takeNumberOf(std::string_view thing, std::size_t known, std::string_view wanted);
+  /// The number, counted from 0, of one of the `known` things that stood earlier.
+  enum class Thing { string, label };
+  std::size_t takeNumberOf(Thing thing, std::size_t known, std::string_view wanted);
   /// A length and that many bytes; empty for nil.
   std::optional<std::string_view> takeText(std::string_view wanted);
 

@@ -322,9 +322,10 @@ class Dump {
     while (const TypeNode* type = reader_.due()) {
       value(*type);
       if (handedOn_ + form_.out.size() > longest_) {
-        throw FormatError(reader_.offset(), "the text of this stream is more than " +
-                                                std::to_string(kTextPerByte) +
-                                                " times as long as the stream itself");
+        throw FormatError(
+            reader_.offset(),
+            Sentence("Reading", "the text of this stream is more than %1 times as long as the stream itself")
+                .with(kTextPerByte));
       }
       if (form_.out.size() >= kPiece) handOn();
     }

@@ -4,9 +4,13 @@
 #include <limits>
 
 #include "archive/Encoding.h"
+#include "foundation/Localizer.h"
 
 namespace nascor::archive {
 namespace {
+
+using foundation::Sentence;
+using foundation::translatable;
 
 constexpr std::string_view kPlainCodes = "@#:*+%cCBsSiIlLqQfd";
 constexpr std::uint64_t kEndless = std::numeric_limits<std::uint64_t>::max();
@@ -31,7 +35,9 @@ class Parser {
  private:
   void parseType(std::size_t depth) {
     if (depth > kDepthLimit) {
-      throw TypeStringError{"nests arrays and structures more than " + std::to_string(kDepthLimit) + " deep"};
+      //: Behind "the type string ...", as are the next ones.
+      throw TypeStringError{
+          Sentence("Reading", "nests arrays and structures more than %1 deep").with(kDepthLimit)};
     }
     const std::size_t begin = at_;
     const std::size_t self = nodes_.size();
@@ -42,7 +48,7 @@ class Parser {
     } else if (code == '{') {
       parseStructure(self, depth);
     } else if (kPlainCodes.find(code) == std::string_view::npos) {
-      throw TypeStringError{"has the unknown type code " + inQuotes({&code, 1})};
+      throw TypeStringError{Sentence("Reading", "has the unknown type code %1").with(inQuotes({&code, 1}))};
     }
     nodes_[self].size = nodes_.size() - self;
     nodes_[self].text = text_.substr(begin, at_ - begin);
@@ -54,21 +60,24 @@ class Parser {
     for (; at_ < text_.size() && isDigit(text_[at_]); ++at_) {
       count = saturatingAdd(saturatingMultiply(count, 10), static_cast<std::uint64_t>(text_[at_] - '0'));
     }
-    if (at_ == digits) throw TypeStringError{"has an array without a count"};
-    if (at_ == text_.size()) throw TypeStringError{"ends inside an array"};
-    if (text_[at_] == ']') throw TypeStringError{"has an array without an element type"};
+    if (at_ == digits) throw TypeStringError{Sentence("Reading", "has an array without a count")};
+    if (at_ == text_.size()) throw TypeStringError{Sentence("Reading", "ends inside an array")};
+    if (text_[at_] == ']') throw TypeStringError{Sentence("Reading", "has an array without an element type")};
     parseType(depth + 1);
-    if (at_ == text_.size() || text_[at_] != ']') throw TypeStringError{"has an array that is not closed"};
+    if (at_ == text_.size() || text_[at_] != ']')
+      throw TypeStringError{Sentence("Reading", "has an array that is not closed")};
     ++at_;
     const std::uint64_t elementBytes = nodes_[self + 1].minBytes;
-    if (count > 0 && elementBytes == 0) throw TypeStringError{"has an array whose elements take no bytes"};
+    if (count > 0 && elementBytes == 0)
+      throw TypeStringError{Sentence("Reading", "has an array whose elements take no bytes")};
     nodes_[self].count = count;
     nodes_[self].minBytes = saturatingMultiply(count, elementBytes);
   }
 
   void parseStructure(std::size_t self, std::size_t depth) {
     while (at_ < text_.size() && text_[at_] != '=' && text_[at_] != '}') ++at_;
-    if (at_ == text_.size() || text_[at_] == '}') throw TypeStringError{"has a structure without members"};
+    if (at_ == text_.size() || text_[at_] == '}')
+      throw TypeStringError{Sentence("Reading", "has a structure without members")};
     ++at_;
     std::uint64_t minBytes = 0;
     while (at_ < text_.size() && text_[at_] != '}') {
@@ -76,7 +85,7 @@ class Parser {
       parseType(depth + 1);
       minBytes = saturatingAdd(minBytes, nodes_[member].minBytes);
     }
-    if (at_ == text_.size()) throw TypeStringError{"has a structure that is not closed"};
+    if (at_ == text_.size()) throw TypeStringError{Sentence("Reading", "has a structure that is not closed")};
     ++at_;
     nodes_[self].minBytes = minBytes;
   }
@@ -88,28 +97,28 @@ class Parser {
 
 std::string_view inWords(char code) {
   switch (code) {
-    case '@': return "an object";
-    case '#': return "a class";
-    case ':': return "a selector";
-    case '*': return "a C string";
-    case '+': return "a string";
-    case '%': return "a shared string";
-    case 'c': return "a byte";
-    case 'C': return "an unsigned byte";
-    case 'B': return "a truth value";
-    case 's': return "a 16-bit integer";
-    case 'S': return "an unsigned 16-bit integer";
-    case 'i': return "a 32-bit integer";
-    case 'I': return "an unsigned 32-bit integer";
-    case 'l': return "a long integer";
-    case 'L': return "an unsigned long integer";
-    case 'q': return "a 64-bit integer";
-    case 'Q': return "an unsigned 64-bit integer";
-    case 'f': return "a 32-bit real";
-    case 'd': return "a 64-bit real";
-    case '[': return "an array";
-    case '{': return "a structure";
-    default: return "a value";
+    case '@': return translatable("Reading", "an object");
+    case '#': return translatable("Reading", "a class");
+    case ':': return translatable("Reading", "a selector");
+    case '*': return translatable("Reading", "a C string");
+    case '+': return translatable("Reading", "a string");
+    case '%': return translatable("Reading", "a shared string");
+    case 'c': return translatable("Reading", "a byte");
+    case 'C': return translatable("Reading", "an unsigned byte");
+    case 'B': return translatable("Reading", "a truth value");
+    case 's': return translatable("Reading", "a 16-bit integer");
+    case 'S': return translatable("Reading", "an unsigned 16-bit integer");
+    case 'i': return translatable("Reading", "a 32-bit integer");
+    case 'I': return translatable("Reading", "an unsigned 32-bit integer");
+    case 'l': return translatable("Reading", "a long integer");
+    case 'L': return translatable("Reading", "an unsigned long integer");
+    case 'q': return translatable("Reading", "a 64-bit integer");
+    case 'Q': return translatable("Reading", "an unsigned 64-bit integer");
+    case 'f': return translatable("Reading", "a 32-bit real");
+    case 'd': return translatable("Reading", "a 64-bit real");
+    case '[': return translatable("Reading", "an array");
+    case '{': return translatable("Reading", "a structure");
+    default: return translatable("Reading", "a value");
   }
 }
 
@@ -135,9 +144,11 @@ IntegerRange integerRangeOf(char code) {
 
 std::vector<TypeNode> parseTypeString(std::string_view text) { return Parser(text).parse(); }
 
-std::string describeTypes(std::string_view types) {
+Sentence describeTypes(std::string_view types) {
   const bool single = types.size() == 1 || types.starts_with('[') || types.starts_with('{');
-  return std::string(single ? inWords(types.front()) : "values") + " (type " + inQuotes(types) + ")";
+  const Sentence words = single ? Sentence("Reading", inWords(types.front())) : Sentence("Reading", "values");
+  //: %1 is a type in words, such as "an object", %2 as it is spelled.
+  return Sentence("Reading", "%1 (type %2)").with(words, inQuotes(types));
 }
 
 std::string printable(std::string_view text) {

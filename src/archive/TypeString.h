@@ -6,6 +6,8 @@
 #include <string_view>
 #include <vector>
 
+#include "foundation/Sentence.h"
+
 namespace nascor::archive {
 
 /// One type of a type string. An array is followed by its element's nodes, a structure by its members' nodes.
@@ -41,7 +43,7 @@ IntegerRange integerRangeOf(char code);
 
 /// Why a text is no type string, as the second half of a sentence: "ends inside an array".
 struct TypeStringError {
-  std::string reason;
+  foundation::Sentence reason;
 };
 
 /// The types of `text`, which must outlive the result. Memory is proportional to the text, whatever counts it
@@ -52,7 +54,7 @@ std::vector<TypeNode> parseTypeString(std::string_view text);
 
 /// A type string in words, with the text itself: `a 32-bit integer (type "i")`. Long texts are cut, odd bytes
 /// escaped.
-std::string describeTypes(std::string_view types);
+foundation::Sentence describeTypes(std::string_view types);
 
 /// `text` fit for a one-line message: long texts are cut, everything but printable ASCII is escaped.
 std::string printable(std::string_view text);

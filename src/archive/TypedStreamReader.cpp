@@ -3,12 +3,18 @@
 #include <stdexcept>
 #include <utility>
 
+#include "foundation/Localizer.h"
+
 namespace nascor::archive {
+
+using foundation::translatable;
 
 namespace {
 
 /// In documents. What a stream has more labels, it makes room for in time.
 constexpr std::size_t kBytesPerLabel = 16;
+
+Sentence nilInWords() { return Sentence::verbatim("nil"); }
 
 }  // namespace
 
@@ -21,19 +27,20 @@ TypedStreamReader::TypedStreamReader(std::span<const std::byte> bytes)
 // ---- The header
 
 void TypedStreamReader::readHeader() {
-  const std::int64_t version = bytes_.takeNumber("a typed stream of version 4");
+  constexpr std::string_view kStream = translatable("Reading", "a typed stream of version 4");
+  constexpr std::string_view kSignature = translatable("Reading", "the signature of a typed stream");
+  const std::int64_t version = bytes_.takeNumber(kStream);
   if (version != kStreamerVersion) {
-    refuse(0, "a typed stream of version 4", "the version is " + std::to_string(version));
+    refuse(0, kStream, Sentence("Reading", "the version is %1").with(version));
   }
   const std::size_t begin = offset();
-  const auto signature = bytes_.takeText("the signature of a typed stream");
+  const auto signature = bytes_.takeText(kSignature);
   if (signature == kBigEndianSignature) {
     bytes_.setOrder(ByteOrder::big);
   } else if (signature != kLittleEndianSignature) {
-    refuse(begin, "the signature of a typed stream",
-           (signature ? inQuotes(*signature) : std::string("nil")) + " stands here");
+    refuseFound(begin, kSignature, Sentence::verbatim(signature ? inQuotes(*signature) : "nil"));
   }
-  systemVersion_ = bytes_.takeNumber("the system version");
+  systemVersion_ = bytes_.takeNumber(translatable("Reading", "the system version"));
 }
 
 // ---- Groups
@@ -41,28 +48,33 @@ void TypedStreamReader::readHeader() {
 bool TypedStreamReader::groupFollows() {
   walk_.requireBetweenGroups();
   if (!walk_.insideObject()) return bytesLeft() > 0;
-  return bytes_.head("a group of values, or the end of an object") != kEndTag;
+  return bytes_.head(translatable("Reading", "a group of values, or the end of an object")) != kEndTag;
 }
 
 /// Reads the types of the next group, where `wanted` types belong; returns their number.
 std::size_t TypedStreamReader::takeGroupTypes(std::string_view wanted) {
-  const auto inWords = [wanted] { return wanted.empty() ? "a group of values" : describeTypes(wanted); };
+  const auto inWords = [wanted] {
+    return wanted.empty() ? Sentence("Reading", "a group of values") : describeTypes(wanted);
+  };
   walk_.requireBetweenGroups();
   const std::size_t begin = offset();
-  if (bytesLeft() == 0) refuse(begin, inWords(), "the file ends here");
+  if (bytesLeft() == 0) refuse(begin, inWords(), fileEndsHere());
   if (walk_.insideObject() && bytes_.head(wanted) == kEndTag) {
-    refuse(begin, inWords(), describeLabel(walk_.object()) + " ends here");
+    //: An object.
+    refuse(begin, inWords(), Sentence("Reading", "%1 ends here").with(describeLabel(walk_.object())));
   }
-  const auto number = takeShared("the types of a group");
-  if (!number) refuse(begin, inWords(), "nil stands here");
+  const auto number = takeShared(translatable("Reading", "the types of a group"));
+  if (!number) refuse(begin, inWords(), standsHere(nilInWords()));
   SharedString& types = strings_[*number];
   if (!wanted.empty() && types.text != wanted)
-    refuse(begin, inWords(), describeTypes(types.text) + " stands here");
+    refuse(begin, inWords(), standsHere(describeTypes(types.text)));
   if (!types.parsed) {
     try {
       types.types = parseTypeString(types.text);
     } catch (const TypeStringError& error) {
-      throw FormatError(begin, "the type string " + inQuotes(types.text) + " " + error.reason);
+      //: %2 is what is wrong with it, such as "ends inside an array".
+      const auto sentence = Sentence("Reading", "the type string %1 %2");
+      throw FormatError(begin, sentence.with(inQuotes(types.text), error.reason));
     }
     types.parsed = true;
     const std::int64_t head = static_cast<std::int64_t>(*number) + kFirstNumber;
@@ -92,18 +104,18 @@ std::optional<std::size_t> TypedStreamReader::takeShared(std::string_view wanted
     case kNewTag: {
       bytes_.pass(1);
       const auto text = bytes_.takeText(wanted);
-      if (!text) refuse(begin, wanted, "its text is nil");
+      if (!text) refuse(begin, wanted, Sentence("Reading", "its text is nil"));
       strings_.push_back({.text = *text, .types = {}, .parsed = false, .cls = std::nullopt});
       return strings_.size() - 1;
     }
-    default: return bytes_.takeNumberOf("string", strings_.size(), wanted);
+    default: return bytes_.takeNumberOf(ByteReader::Thing::string, strings_.size(), wanted);
   }
 }
 
 Label TypedStreamReader::takeLabel(LabelKind kind, std::string_view wanted) {
   const std::size_t begin = offset();
-  const Label label = bytes_.takeNumberOf("label", labels_.size(), wanted);
-  if (labels_[label].kind != kind) refuse(begin, wanted, describeLabel(label) + " stands here");
+  const Label label = bytes_.takeNumberOf(ByteReader::Thing::label, labels_.size(), wanted);
+  if (labels_[label].kind != kind) refuseFound(begin, wanted, describeLabel(label));
   return label;
 }
 
@@ -116,11 +128,13 @@ ClassValue TypedStreamReader::takeClass(std::string_view wanted) {
   while (bytes_.head(wanted) == kNewTag) {
     const std::size_t begin = offset();
     bytes_.pass(1);
-    const auto name = takeShared("a class name");
-    if (!name) refuse(begin, "a class name", "nil stands here");
-    const std::int64_t version = bytes_.takeNumber("a class version");
+    constexpr std::string_view kName = translatable("Reading", "a class name");
+    const auto name = takeShared(kName);
+    if (!name) refuseFound(begin, kName, nilInWords());
+    const std::int64_t version = bytes_.takeNumber(translatable("Reading", "a class version"));
     if (value.newRecords == kDepthLimit) {
-      refuse(begin, wanted, "more than " + counted(kDepthLimit, "class record") + " stand in a chain");
+      refuse(begin, wanted,
+             Sentence("Reading", "more than %1 class records stand in a chain").with(kDepthLimit));
     }
     const Label label = newLabel(LabelKind::cls, classRecords_.size());
     classRecords_.push_back({.name = *name, .version = version, .superclass = std::nullopt});
@@ -131,7 +145,7 @@ ClassValue TypedStreamReader::takeClass(std::string_view wanted) {
       classRecords_[classRecords_.size() - 2].superclass = label;
     }
     ++value.newRecords;
-    wanted = "a superclass";
+    wanted = translatable("Reading", "a superclass");
   }
   if (bytes_.tookHead(kNilTag)) return value;
   const Label seenBefore = takeLabel(LabelKind::cls, wanted);
@@ -150,28 +164,29 @@ const TypeNode& TypedStreamReader::dueOf(std::string_view codes, std::string_vie
   const TypeNode* type = walk_.due();
   if (type == nullptr) throw std::logic_error("no value is due");
   if (codes.find(type->code) == std::string_view::npos) {
-    refuse(offset(), wanted, describeTypes(type->text) + " stands here");
+    refuseFound(offset(), wanted, describeTypes(type->text));
   }
   return *type;
 }
 
 void TypedStreamReader::refuseDepth() const {
-  throw FormatError(offset(),
-                    "objects, arrays and structures nest more than " + std::to_string(kDepthLimit) + " deep");
+  throw FormatError(
+      offset(),
+      Sentence("Reading", "objects, arrays and structures nest more than %1 deep").with(kDepthLimit));
 }
 
 std::int64_t TypedStreamReader::readInteger() {
-  const TypeNode& type = dueOf("cCBsSiIlLqQ", "an integer");
+  const TypeNode& type = dueOf("cCBsSiIlLqQ", translatable("Reading", "an integer"));
   const std::size_t begin = offset();
   std::int64_t value = 0;
   if (type.isRawByte()) {
-    const auto byte = bytes_.takeFixed<std::uint8_t>("a byte");
+    const auto byte = bytes_.takeFixed<std::uint8_t>(translatable("Reading", "a byte"));
     value = type.code == 'c' ? static_cast<std::int8_t>(byte) : static_cast<std::uint8_t>(byte);
   } else {
-    value = bytes_.takeNumber("an integer");
+    value = bytes_.takeNumber(translatable("Reading", "an integer"));
     const IntegerRange range = integerRangeOf(type.code);
     if (value < range.min || value > range.max) {
-      refuse(begin, describeTypes(type.text), std::to_string(value) + " does not fit that");
+      refuse(begin, describeTypes(type.text), Sentence("Reading", "%1 does not fit that").with(value));
     }
   }
   walk_.passValue();
@@ -182,24 +197,25 @@ inline double TypedStreamReader::realOfType(char code) {
   const bool isSingle = code == 'f';
   if (!bytes_.tookHead(kRealTag)) {
     // A single-precision real is one in whichever form it is written.
-    const std::int64_t whole = bytes_.takeNumber("a real");
+    const std::int64_t whole = bytes_.takeNumber(translatable("Reading", "a real"));
     return isSingle ? static_cast<double>(static_cast<float>(whole)) : static_cast<double>(whole);
   }
-  if (isSingle) return std::bit_cast<float>(bytes_.takeFixed<std::uint32_t>("a real"));
-  return std::bit_cast<double>(bytes_.takeFixed<std::uint64_t>("a real"));
+  if (isSingle)
+    return std::bit_cast<float>(bytes_.takeFixed<std::uint32_t>(translatable("Reading", "a real")));
+  return std::bit_cast<double>(bytes_.takeFixed<std::uint64_t>(translatable("Reading", "a real")));
 }
 
 double TypedStreamReader::readReal() {
-  const double value = realOfType(dueOf("fd", "a real").code);
+  const double value = realOfType(dueOf("fd", translatable("Reading", "a real")).code);
   walk_.passValue();
   return value;
 }
 
 std::optional<std::string_view> TypedStreamReader::readString() {
   std::optional<std::string_view> value;
-  if (dueOf("+:%", "a string").code == '+') {
-    value = bytes_.takeText("a string");
-  } else if (const auto number = takeShared("a string")) {
+  if (dueOf("+:%", translatable("Reading", "a string")).code == '+') {
+    value = bytes_.takeText(translatable("Reading", "a string"));
+  } else if (const auto number = takeShared(translatable("Reading", "a string"))) {
     value = strings_[*number].text;
   }
   walk_.passValue();
@@ -207,7 +223,7 @@ std::optional<std::string_view> TypedStreamReader::readString() {
 }
 
 CStringValue TypedStreamReader::readCString() {
-  constexpr std::string_view kWanted = "a C string";
+  constexpr std::string_view kWanted = translatable("Reading", "a C string");
   dueOf("*", kWanted);
   CStringValue value{.offset = offset(), .label = std::nullopt, .fresh = false, .text = {}};
   switch (bytes_.head(kWanted)) {
@@ -215,7 +231,7 @@ CStringValue TypedStreamReader::readCString() {
     case kNewTag: {
       bytes_.pass(1);
       const auto number = takeShared(kWanted);
-      if (!number) refuse(value.offset, kWanted, "its text is nil");
+      if (!number) refuse(value.offset, kWanted, Sentence("Reading", "its text is nil"));
       value.label = newLabel(LabelKind::cString, *number);
       value.fresh = true;
       break;
@@ -228,47 +244,49 @@ CStringValue TypedStreamReader::readCString() {
 }
 
 ClassValue TypedStreamReader::readClass() {
-  dueOf("#", "a class");
-  const ClassValue value = takeClass("a class");
+  dueOf("#", translatable("Reading", "a class"));
+  const ClassValue value = takeClass(translatable("Reading", "a class"));
   walk_.passValue();
   return value;
 }
 
 std::span<const std::byte> TypedStreamReader::readBytes() {
-  const TypeNode& type = dueOf("[", "an array of bytes");
-  if (!type.isByteArray()) refuse(offset(), "an array of bytes", describeTypes(type.text) + " stands here");
-  const auto value = bytes_.takeBytes(type.count, "an array of bytes");
+  constexpr std::string_view kWanted = translatable("Reading", "an array of bytes");
+  const TypeNode& type = dueOf("[", kWanted);
+  if (!type.isByteArray()) refuseFound(offset(), kWanted, describeTypes(type.text));
+  const auto value = bytes_.takeBytes(type.count, kWanted);
   walk_.passValue();
   return value;
 }
 
 std::uint64_t TypedStreamReader::beginArray() {
-  const TypeNode& type = dueOf("[", "an array");
+  const TypeNode& type = dueOf("[", translatable("Reading", "an array"));
   checkDepth();
   if (type.minBytes > bytesLeft()) {
     refuse(offset(), describeTypes(type.text),
-           "it takes at least " + counted(type.minBytes, "byte") + ", and " + std::to_string(bytesLeft()) +
-               " are left");
+           //: %1 is a count, such as "8 bytes".
+           Sentence("Reading", "it takes at least %1, and %2 are left")
+               .with(countedBytes(type.minBytes), bytesLeft()));
   }
   walk_.enterArray();
   return type.count;
 }
 
 std::string_view TypedStreamReader::beginStructure() {
-  const TypeNode& type = dueOf("{", "a structure");
+  const TypeNode& type = dueOf("{", translatable("Reading", "a structure"));
   checkDepth();
   walk_.enterStructure();
   return type.structureName();
 }
 
 ObjectValue TypedStreamReader::beginObject() {
-  dueOf("@", "an object");
+  dueOf("@", translatable("Reading", "an object"));
   return objectThatIsDue(false);
 }
 
 /// `isOfItsGroup`: a group that the walk has not opened holds the object alone.
 ObjectValue TypedStreamReader::objectThatIsDue(bool isOfItsGroup) {
-  constexpr std::string_view kWanted = "an object";
+  constexpr std::string_view kWanted = translatable("Reading", "an object");
   ObjectValue value{
       .offset = offset(), .kind = ObjectValue::Kind::nil, .label = 0, .cls = {}, .complete = true};
   switch (bytes_.head(kWanted)) {
@@ -284,8 +302,9 @@ ObjectValue TypedStreamReader::objectThatIsDue(bool isOfItsGroup) {
       // The object is numbered before its class, and the class stands before anything can refer to the
       // object.
       value.label = newLabel(LabelKind::object, kNoLabel);
-      value.cls = takeClass("the class of an object");
-      if (!value.cls.label) refuse(value.cls.offset, "the class of an object", "nil stands here");
+      constexpr std::string_view kClass = translatable("Reading", "the class of an object");
+      value.cls = takeClass(kClass);
+      if (!value.cls.label) refuseFound(value.cls.offset, kClass, nilInWords());
       labels_[value.label].about = *value.cls.label;
       isOfItsGroup ? walk_.enterObjectOfItsGroup(value.label) : walk_.enterObject(value.label);
       return value;
@@ -301,9 +320,10 @@ ObjectValue TypedStreamReader::objectThatIsDue(bool isOfItsGroup) {
 }
 
 void TypedStreamReader::refuseEnd(Label label) const {
-  const std::string wanted = "the end of " + describeLabel(label);
-  if (bytesLeft() == 0) refuse(offset(), wanted, "the file ends here");
-  refuse(offset(), wanted, "more values follow");
+  //: %1 is an object.
+  const Sentence wanted = Sentence("Reading", "the end of %1").with(describeLabel(label));
+  if (bytesLeft() == 0) refuse(offset(), wanted, fileEndsHere());
+  refuse(offset(), wanted, Sentence("Reading", "more values follow"));
 }
 
 // ---- Groups of one value. Nearly all are of a type that was met before and hold a value in one of its short forms; these
@@ -367,20 +387,20 @@ std::optional<std::int64_t> TypedStreamReader::versionForClassName(std::string_v
   return std::nullopt;
 }
 
-std::string TypedStreamReader::describe(const ObjectValue& object) const {
-  if (object.isNil()) return "nil";
-  return describeLabel(object.label);
+std::string TypedStreamReader::describe(const ObjectValue& object) const { return english(inWords(object)); }
+
+Sentence TypedStreamReader::inWords(const ObjectValue& object) const {
+  return object.isNil() ? nilInWords() : describeLabel(object.label);
 }
 
-std::string TypedStreamReader::describeLabel(Label label) const {
+Sentence TypedStreamReader::describeLabel(Label label) const {
   const LabelEntry& entry = labels_[label];
-  const std::string number = std::to_string(label);
   switch (entry.kind) {
-    case LabelKind::cls: return "class " + number + " (" + printable(className(label)) + ")";
-    case LabelKind::cString: return "C string " + number;
+    case LabelKind::cls: return Sentence("Reading", "class %1 (%2)").with(label, printable(className(label)));
+    case LabelKind::cString: return Sentence("Reading", "C string %1").with(label);
     default:
-      return "object " + number + " (" +
-             (entry.about == kNoLabel ? "of no class yet" : printable(className(entry.about))) + ")";
+      if (entry.about == kNoLabel) return Sentence("Reading", "object %1 (of no class yet)").with(label);
+      return Sentence("Reading", "object %1 (%2)").with(label, printable(className(entry.about)));
   }
 }
 

@@ -172,6 +172,8 @@ class TypedStreamReader {
 
   /// "nil", "a new NSString", "object 3 (NSString)": for messages.
   std::string describe(const ObjectValue& object) const;
+  /// The same, not yet said.
+  Sentence inWords(const ObjectValue& object) const;
 
   /// @}
 
@@ -232,7 +234,7 @@ class TypedStreamReader {
     if (walk_.atDepthLimit()) refuseDepth();
   }
   [[noreturn]] void refuseDepth() const;
-  std::string describeLabel(Label label) const;
+  Sentence describeLabel(Label label) const;
 
   ByteReader bytes_;
   std::int64_t systemVersion_ = 0;

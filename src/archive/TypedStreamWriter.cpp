@@ -126,7 +126,7 @@ void TypedStreamWriter::beginGroup(std::string_view types) {
     try {
       shared.types = parseTypeString(shared.text);
     } catch (const TypeStringError& error) {
-      throw std::logic_error("the type string " + inQuotes(types) + " " + error.reason);
+      throw std::logic_error("the type string " + inQuotes(types) + " " + english(error.reason));
     }
   }
   walk_.beginGroup(shared.types);
@@ -136,7 +136,7 @@ const TypeNode& TypedStreamWriter::dueOf(std::string_view codes) const {
   const TypeNode* type = walk_.due();
   if (type == nullptr) throw std::logic_error("no value is due");
   if (codes.find(type->code) == std::string_view::npos) {
-    throw std::logic_error(describeTypes(type->text) + " is due, not one of " + std::string(codes));
+    throw std::logic_error(english(describeTypes(type->text)) + " is due, not one of " + std::string(codes));
   }
   return *type;
 }
@@ -145,7 +145,7 @@ void TypedStreamWriter::writeInteger(std::int64_t value) {
   const TypeNode& type = dueOf("cCBsSiIlLqQ");
   const IntegerRange range = integerRangeOf(type.code);
   if (value < range.min || value > range.max) {
-    throw std::logic_error(std::to_string(value) + " does not fit " + describeTypes(type.text));
+    throw std::logic_error(std::to_string(value) + " does not fit " + english(describeTypes(type.text)));
   }
   if (type.isRawByte()) {
     appendByte(static_cast<std::uint8_t>(value));
@@ -194,8 +194,8 @@ void TypedStreamWriter::writeClass(const ClassDescription& cls) {
 void TypedStreamWriter::writeBytes(std::span<const std::byte> bytes) {
   const TypeNode& type = dueOf("[");
   if (!type.isByteArray() || type.count != bytes.size()) {
-    throw std::logic_error(describeTypes(type.text) + " is due, not " + std::to_string(bytes.size()) +
-                           " bytes");
+    throw std::logic_error(english(describeTypes(type.text)) + " is due, not " +
+                           std::to_string(bytes.size()) + " bytes");
   }
   appendBytes(bytes);
   walk_.passValue();
@@ -234,7 +234,7 @@ void TypedStreamWriter::writeNil() {
 void TypedStreamWriter::writeReference(Label label) {
   const TypeNode& type = dueOf("@*");
   if (label >= nextLabel_ || kindOf(label) != type.code) {
-    throw std::logic_error("label " + std::to_string(label) + " is not " + describeTypes(type.text));
+    throw std::logic_error("label " + std::to_string(label) + " is not " + english(describeTypes(type.text)));
   }
   appendLabel(label);
   walk_.passValue();

@@ -11,7 +11,7 @@
 namespace nascor::foundation {
 
 /// Marks a text that is looked up elsewhere, where it is no literal any more. The tables of visible texts are gathered from
-/// the literals behind `text`, `localized`, `said` and this.
+/// the literals behind `text`, `localized`, `said`, `Sentence` and this.
 constexpr std::string_view translatable(std::string_view /*table*/, std::string_view key) { return key; }
 
 /// The user's language and ways of writing.
@@ -35,7 +35,7 @@ class Localizer {
 /// percent sign in a translation is just that. Numbers left over are dropped.
 std::string format(std::string_view text, std::initializer_list<std::int64_t> numbers);
 
-/// English texts, dates as month/day/year, a decimal point: what the command line speaks.
+/// English texts, dates as month/day/year, a decimal point: what programs read.
 class EnglishLocalizer final : public Localizer {
  public:
   std::string text(std::string_view table, std::string_view key) const override;

@@ -73,7 +73,10 @@ std::string said(const Sentence& sentence, const Localizer& localizer) {
   using enum Sentence::Kind;
   switch (sentence.kind_) {
     case key: return sentence.filled(localizer.text(sentence.table_, sentence.key_), localizer);
-    case system: return localizer.text(kSystemTable, sentence.text_);
+    case system: {
+      const std::string own = localizer.text("Files", sentence.text_);
+      return own == sentence.text_ ? localizer.text(kSystemTable, own) : own;
+    }
     case counted: return said(sentence.parts_[isOne(sentence.count_, localizer) ? 0 : 1], localizer);
     case joined: {
       std::string all;

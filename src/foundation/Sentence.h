@@ -37,7 +37,8 @@ class Sentence {
 
   /// The same in every language: a name, a number, or what a library says.
   static Sentence verbatim(std::string text);
-  /// What the operating system says of an error, in English. It has translations of its own.
+  /// What the operating system says of an error, in English, which has translations of its own; or, in place of it, a key of
+  /// the table "Files".
   static Sentence ofSystem(std::string text);
   /// `one` or `many`, as the language has it for that count.
   static Sentence counted(std::uint64_t count, Sentence one, Sentence many);

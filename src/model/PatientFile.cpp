@@ -16,8 +16,11 @@ UnarchivedPatient unarchivedPatient(std::span<const std::byte> bytes) {
   return {.patient = std::move(patient), .facts = unarchiver.facts()};
 }
 
-std::string refusalText(const std::runtime_error& refusal) {
-  return std::string("not a Nascor document (") + refusal.what() + ")";
+foundation::Sentence refusalSentence(const std::exception& refusal) {
+  //: Behind the name of a file; %1 is the reason.
+  return foundation::Sentence("Reading", "not a Nascor document (%1)").with(foundation::sentenceOf(refusal));
 }
+
+std::string refusalText(const std::exception& refusal) { return english(refusalSentence(refusal)); }
 
 }  // namespace nascor::model

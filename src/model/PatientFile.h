@@ -3,10 +3,10 @@
 #include <cstddef>
 #include <memory>
 #include <span>
-#include <stdexcept>
 #include <string>
 #include <vector>
 
+#include "foundation/Sentence.h"
 #include "model/PatientRecord.h"
 #include "model/Unarchiver.h"
 
@@ -26,6 +26,8 @@ struct UnarchivedPatient {
 UnarchivedPatient unarchivedPatient(std::span<const std::byte> bytes);
 
 /// What is said in one line of a file that `unarchivedPatient` has refused: "not a Nascor document (at byte 54: ...)".
-std::string refusalText(const std::runtime_error& refusal);
+foundation::Sentence refusalSentence(const std::exception& refusal);
+/// The same in English.
+std::string refusalText(const std::exception& refusal);
 
 }  // namespace nascor::model

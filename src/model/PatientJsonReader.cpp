@@ -17,6 +17,7 @@
 #include "foundation/ConvertInteger.h"
 #include "foundation/IsoDate.h"
 #include "foundation/JsonText.h"
+#include "foundation/Localizer.h"
 #include "foundation/NumberText.h"
 #include "foundation/Utf8.h"
 
@@ -25,6 +26,8 @@ namespace nascor::model {
 namespace {
 
 using foundation::Date;
+using foundation::Sentence;
+using foundation::translatable;
 
 /// What the reader stands in: the next value belongs to it.
 enum class Place { top, patient, examinations, examination, measurements, fetus };
@@ -101,15 +104,19 @@ const Fields& fieldsOf(Place place) {
   }
 }
 
-std::string_view expectedBy(Kind kind) {
-  switch (kind) {
-    case Kind::text: return "a text or null";
-    case Kind::date: return "a date (seconds since 2001-01-01 UTC, an ISO text) or null";
-    case Kind::dateText: return "an ISO date or null";
-    case Kind::integer: return "a whole number";
-    case Kind::number: return R"(a number, "nan", "inf" or "-inf")";
-    default: return "a list";
-  }
+Sentence expectedBy(Kind kind) {
+  const auto key = [kind] {
+    switch (kind) {
+      case Kind::text: return translatable("Reading", "a text or null");
+      case Kind::date:
+        return translatable("Reading", "a date (seconds since 2001-01-01 UTC, an ISO text) or null");
+      case Kind::dateText: return translatable("Reading", "an ISO date or null");
+      case Kind::integer: return translatable("Reading", "a whole number");
+      case Kind::number: return translatable("Reading", "a number, \"nan\", \"inf\" or \"-inf\"");
+      default: return translatable("Reading", "a list");
+    }
+  };
+  return Sentence("Reading", key());
 }
 
 /// In quotation marks, on one line, and not longer than a reader wants.
@@ -131,14 +138,14 @@ struct Number {
 
 using Scalar = std::variant<std::nullptr_t, bool, Number, std::string>;
 
-std::string describe(const Scalar& value) {
-  if (std::holds_alternative<std::nullptr_t>(value)) return "null";
-  if (const auto* truth = std::get_if<bool>(&value)) return *truth ? "true" : "false";
+Sentence describe(const Scalar& value) {
+  if (std::holds_alternative<std::nullptr_t>(value)) return Sentence::verbatim("null");
+  if (const auto* truth = std::get_if<bool>(&value)) return Sentence::verbatim(*truth ? "true" : "false");
   if (const auto* number = std::get_if<Number>(&value)) {
     const std::string text = inQuotes(number->written);
-    return text.substr(1, text.size() - 2);
+    return Sentence::verbatim(text.substr(1, text.size() - 2));
   }
-  return "the text " + inQuotes(std::get<std::string>(value));
+  return Sentence("Reading", "the text %1").with(inQuotes(std::get<std::string>(value)));
 }
 
 /// Receives the parts of the JSON in their order. Each function answers whether to go on; after false there is an error.
@@ -152,7 +159,8 @@ class Receiver final : public nlohmann::json_sax<nlohmann::json> {
     patient().setExtrapolatedGestation(40.0);
   }
 
-  const std::string& error() const { return error_; }
+  /// After a function that answered false.
+  Sentence error() const { return error_.value_or(Sentence()); }
   PatientFromJson takeResult() { return std::move(result_); }
 
   bool null() override { return scalar(nullptr); }
@@ -178,7 +186,7 @@ class Receiver final : public nlohmann::json_sax<nlohmann::json> {
     return scalar(number);
   }
   bool string(string_t& value) override { return scalar(std::move(value)); }
-  bool binary(binary_t&) override { return unexpected("binary data"); }
+  bool binary(binary_t&) override { return unexpected(Sentence("Reading", "binary data")); }
 
   bool start_object(std::size_t) override {
     switch (place_) {
@@ -192,7 +200,7 @@ class Receiver final : public nlohmann::json_sax<nlohmann::json> {
         place_ = Place::fetus;
         examination().measurements().emplace_back();
         break;
-      default: return unexpected("an object");
+      default: return unexpected(Sentence("Reading", "an object"));
     }
     level() = {};
     field_ = nullptr;
@@ -206,11 +214,13 @@ class Receiver final : public nlohmann::json_sax<nlohmann::json> {
     if (found == fields.end()) {
       std::string names;
       for (const Field& field : fields) names.append(names.empty() ? "" : ", ").append(field.name);
-      return refuse("one of the keys " + names, inQuotes(name));
+      return refuse(Sentence("Reading", "one of the keys %1").with(names),
+                    Sentence::verbatim(inQuotes(name)));
     }
     field_ = &*found;
     if (!level().seen.insert(field_->name).second)
-      return refuseAt(pointer(), "each key once", "this one stands twice");
+      return refuseAt(pointer(), Sentence("Reading", "each key once"),
+                      Sentence("Reading", "this one stands twice"));
     return true;
   }
 
@@ -231,7 +241,7 @@ class Receiver final : public nlohmann::json_sax<nlohmann::json> {
   }
 
   bool start_array(std::size_t) override {
-    if (!field_ || field_->kind != Kind::list) return unexpected("a list");
+    if (!field_ || field_->kind != Kind::list) return unexpected(Sentence("Reading", "a list"));
     place_ = place_ == Place::patient ? Place::examinations : Place::measurements;
     field_ = nullptr;
     return true;
@@ -244,17 +254,18 @@ class Receiver final : public nlohmann::json_sax<nlohmann::json> {
 
   bool parse_error(std::size_t position, const std::string&,
                    const nlohmann::json::exception& reason) override {
-    error_ = placeInText(source_, skipped_ + position) + "expected JSON, but " + inPlainWords(reason.what());
+    error_ = placedInText(source_, skipped_ + position,
+                          Sentence("Reading", "expected JSON, but %1").with(inPlainWords(reason.what())));
     return false;
   }
 
-  /// `at line 3, column 14: `, from the number of bytes read so far; the last of them is the offending one.
-  static std::string placeInText(std::string_view source, std::size_t bytesRead) {
+  /// `at line 3, column 14: SENTENCE`, from the number of bytes read so far; the last of them is the offending one.
+  static Sentence placedInText(std::string_view source, std::size_t bytesRead, const Sentence& sentence) {
     const std::string_view before = source.substr(0, std::max<std::size_t>(bytesRead, 1) - 1);
     const auto lines = std::ranges::count(before, '\n');
     const std::string_view line = before.substr(before.rfind('\n') + 1);  // npos + 1 is 0
-    return "at line " + std::to_string(lines + 1) + ", column " +
-           std::to_string(foundation::codePoints(line) + 1) + ": ";
+    return Sentence("Reading", "at line %1, column %2: %3")
+        .with(lines + 1, foundation::codePoints(line) + 1, sentence);
   }
 
  private:
@@ -291,23 +302,27 @@ class Receiver final : public nlohmann::json_sax<nlohmann::json> {
     return path;
   }
 
-  bool refuseAt(const std::string& path, std::string_view expected, std::string_view found) {
-    error_ = (path.empty() ? "at the top" : "at " + path) + ": expected ";
-    error_.append(expected).append(", but ").append(found);
+  static Sentence placed(const std::string& path, const Sentence& sentence) {
+    if (path.empty()) return Sentence("Reading", "at the top: %1").with(sentence);
+    //: %1 is a place in a JSON text, such as /examinations/2/note.
+    return Sentence("Reading", "at %1: %2").with(path, sentence);
+  }
+  bool refuseAt(const std::string& path, const Sentence& expected, const Sentence& found) {
+    error_ = placed(path, Sentence("Reading", "expected %1, but %2").with(expected, found));
     return false;
   }
-  bool refuse(std::string_view expected, const std::string& found) {
-    return refuseAt(pointer(), expected, found + " stands here");
+  bool refuse(const Sentence& expected, const Sentence& found) {
+    return refuseAt(pointer(), expected, Sentence("Reading", "%1 stands here").with(found));
   }
-  bool unexpected(const std::string& found) {
-    return refuse(field_ ? expectedBy(field_->kind) : "an object", found);
+  bool unexpected(const Sentence& found) {
+    return refuse(field_ ? expectedBy(field_->kind) : Sentence("Reading", "an object"), found);
   }
 
-  void warn(const std::string& sentence) { result_.warnings.push_back("at " + pointer() + ": " + sentence); }
+  void warn(const Sentence& sentence) { result_.warnings.push_back(placed(pointer(), sentence)); }
 
   bool scalar(const Scalar& value) {
     const bool fits = field_ != nullptr && store(value);
-    if (!fits && error_.empty()) unexpected(describe(value));
+    if (!fits && !error_) unexpected(describe(value));
     return fits;
   }
 
@@ -376,7 +391,7 @@ class Receiver final : public nlohmann::json_sax<nlohmann::json> {
       const auto date = foundation::dateFromIsoText(text, calendar_);
       if (!date) {
         return refuseAt(pointer().append("/").append(field->name), expectedBy(Kind::dateText),
-                        describe(text) + " stands here");
+                        Sentence("Reading", "%1 stands here").with(describe(text)));
       }
       setDate(*field, date);
     }
@@ -388,12 +403,14 @@ class Receiver final : public nlohmann::json_sax<nlohmann::json> {
     if (!number) return false;
     if (!number->integer) {
       const bool isWhole = number->value == std::trunc(number->value);
-      return refuse(isWhole ? "a whole number of at most 64 bits" : "a whole number", describe(value));
+      return refuse(isWhole ? Sentence("Reading", "a whole number of at most 64 bits")
+                            : Sentence("Reading", "a whole number"),
+                    describe(value));
     }
     const std::int64_t integer = *number->integer;
     if (const std::int32_t low = foundation::low32Bits(integer); low != integer) {
-      warn(std::to_string(integer) + " is longer than 32 bits; the file holds the low 32, which are " +
-           std::to_string(low));
+      warn(Sentence("Reading", "%1 is longer than 32 bits; the file holds the low 32, which are %2")
+               .with(integer, low));
     }
     setValue(*field_->value, integer);
     return true;
@@ -403,8 +420,9 @@ class Receiver final : public nlohmann::json_sax<nlohmann::json> {
     const auto number = numberIn(value);
     if (!number) return false;
     if (std::isfinite(*number) && !std::isfinite(foundation::narrowedToFloat(*number))) {
-      warn(foundation::shortestText(*number) + " is beyond single precision; the file holds " +
-           foundation::shortestText(foundation::narrowedToFloat(*number)));
+      warn(Sentence("Reading", "%1 is beyond single precision; the file holds %2")
+               .with(foundation::shortestText(*number),
+                     foundation::shortestText(foundation::narrowedToFloat(*number))));
     }
     if (field_->value) {
       setValue(*field_->value, *number);
@@ -430,18 +448,19 @@ class Receiver final : public nlohmann::json_sax<nlohmann::json> {
 
   /// The library's reason without its own account of the place, and without what it read last and what follows that:
   /// the text may be long, and may look like the rest of the reason.
-  static std::string inPlainWords(std::string_view reason) {
+  static Sentence inPlainWords(std::string_view reason) {
     reason = reason.substr(0, reason.find("; last read: "));
-    if (reason.find("number overflow") != std::string_view::npos) return "this number is beyond 64 bits";
+    if (reason.find("number overflow") != std::string_view::npos)
+      return Sentence("Reading", "this number is beyond 64 bits");
     constexpr std::string_view kDash = " - ";  // behind "syntax error while parsing value" and the like
-    return std::string(reason.substr(reason.find(kDash) + kDash.size()));
+    return Sentence::verbatim(std::string(reason.substr(reason.find(kDash) + kDash.size())));
   }
 
   std::string_view source_;
   std::size_t skipped_;
   const foundation::Calendar& calendar_;
   PatientFromJson result_{.patient = std::make_unique<PatientRecord>(), .warnings = {}};
-  std::string error_;
+  std::optional<Sentence> error_;
   Place place_ = Place::top;
   const Field* field_ = nullptr;  ///< of the object at hand, once its key is read
   Level patientLevel_;
@@ -454,8 +473,8 @@ class Receiver final : public nlohmann::json_sax<nlohmann::json> {
 PatientFromJson patientFromJson(std::string_view text, const foundation::Calendar& calendar) {
   // The library takes a zero byte for the end, whatever follows.
   if (const auto zero = text.find('\0'); zero != std::string_view::npos) {
-    throw JsonDocumentError(Receiver::placeInText(text, zero + 1) +
-                            "expected JSON, but a zero byte stands here");
+    throw JsonDocumentError(Receiver::placedInText(
+        text, zero + 1, Sentence("Reading", "expected JSON, but a zero byte stands here")));
   }
   // The library writes the blanks before a token into its message one by one, which takes long for a mebibyte of them. A
   // byte order mark may stand at the very beginning alone.

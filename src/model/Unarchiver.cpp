@@ -9,6 +9,8 @@ namespace nascor::model {
 using archive::FormatError;
 using archive::ObjectValue;
 using foundation::Date;
+using foundation::Sentence;
+using foundation::translatable;
 
 Unarchiver::Unarchiver(std::span<const std::byte> bytes) : size_(bytes.size()), reader_(bytes) {
   facts_.byteOrder = reader_.byteOrder();
@@ -56,8 +58,10 @@ std::optional<std::string> Unarchiver::decodeString() {
   }
   const std::optional<std::string_view> text = reader_.takeString();
   if (!text || !foundation::isValidUtf8(*text)) {
-    throw FormatError(object.offset, "expected a string of UTF-8 text, but its bytes are " +
-                                         std::string(text ? "not UTF-8" : "missing"));
+    throw FormatError(
+        object.offset,
+        text ? Sentence("Reading", "expected a string of UTF-8 text, but its bytes are not UTF-8")
+             : Sentence("Reading", "expected a string of UTF-8 text, but its bytes are missing"));
   }
   reader_.endObject();
   texts_.keep(object, *text);
@@ -97,7 +101,7 @@ PatientRecord::Examinations Unarchiver::decodeExaminations() {
 
 std::unique_ptr<NCRecord> Unarchiver::decodeExamination() {
   const ObjectValue object = takeObject(examination_);
-  if (object.isNil()) throw FormatError(object.offset, "expected an NCRecord, but nil stands here");
+  if (object.isNil()) archive::refuseFound(object.offset, examination_.wanted, Sentence::verbatim("nil"));
   if (object.isReference()) {
     const NCRecord& shared = *keptExaminations_.at(object);
     chargeForCopy(object, shared.note().value_or("").size() +
@@ -137,7 +141,8 @@ std::vector<MeasurementsRecord> Unarchiver::decodeMeasurements() {
 
 MeasurementsRecord Unarchiver::decodeMeasurementsRecord() {
   const ObjectValue object = takeObject(measurementsRecord_);
-  if (object.isNil()) throw FormatError(object.offset, "expected a MeasurementsRecord, but nil stands here");
+  if (object.isNil())
+    archive::refuseFound(object.offset, measurementsRecord_.wanted, Sentence::verbatim("nil"));
   if (object.isReference()) {
     ++facts_.sharedRecords;
     return records_.at(object);
@@ -153,25 +158,26 @@ void Unarchiver::check(const ObjectValue& object, Expected& expected) const {
   if (*object.cls.label != expected.fitting) {
     const auto& names = expected.classNames;
     if (std::ranges::find(names, reader_.classNameOf(object)) == names.end())
-      refuse(object, expected, " stands here");
+      refuse(object, expected, Sentence("Reading", "%1 stands here"));
     expected.fitting = *object.cls.label;
   }
-  if (object.isReference() && !object.complete) refuse(object, expected, " would contain itself");
+  if (object.isReference() && !object.complete)
+    refuse(object, expected, Sentence("Reading", "%1 would contain itself"));
 }
 
-void Unarchiver::refuse(const ObjectValue& object, const Expected& expected, const char* reason) const {
-  throw FormatError(object.offset, "expected " + std::string(expected.wanted) + ", but " +
-                                       reader_.describe(object) + reason);
+void Unarchiver::refuse(const ObjectValue& object, const Expected& expected, const Sentence& reason) const {
+  archive::refuse(object.offset, expected.wanted, reason.with(reader_.inWords(object)));
 }
 
 void Unarchiver::chargeForCopy(const ObjectValue& reference, std::size_t bytes) {
   constexpr std::size_t kCopiesPerByte = 64;
   copiedBytes_ += bytes;
   if (copiedBytes_ / kCopiesPerByte > size_) {
-    throw FormatError(reference.offset, "expected a document of a plausible size, but its references to " +
-                                            reader_.describe(reference) + " and others repeat " +
-                                            std::to_string(copiedBytes_) + " bytes in a file of " +
-                                            std::to_string(size_));
+    const auto sentence =
+        Sentence("Reading",
+                 "expected a document of a plausible size, but its references to %1 and others "
+                 "repeat %2 bytes in a file of %3");
+    throw FormatError(reference.offset, sentence.with(reader_.inWords(reference), copiedBytes_, size_));
   }
 }
 
@@ -179,8 +185,8 @@ std::int32_t Unarchiver::takeCount() {
   const std::size_t offset = reader_.offset();
   const std::int32_t count = reader_.takeInt();
   if (count < 0) {
-    throw FormatError(
-        offset, "expected the number of elements of an array, but " + std::to_string(count) + " stands here");
+    archive::refuseFound(offset, translatable("Reading", "the number of elements of an array"),
+                         Sentence::verbatim(std::to_string(count)));
   }
   return count;
 }

@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "archive/TypedStreamReader.h"
+#include "foundation/Localizer.h"
 #include "model/ClassNames.h"
 #include "model/PatientRecord.h"
 
@@ -83,7 +84,7 @@ class Unarchiver {
   /// What may stand where an object is decoded.
   struct Expected {
     std::array<std::string_view, 2> classNames;  ///< twice the same where there is one
-    std::string_view wanted;
+    std::string_view wanted;                     ///< a key of the table "Reading"
     /// The class that fitted last, so that its name is compared once; at first none.
     archive::Label fitting = std::numeric_limits<archive::Label>::max();
   };
@@ -91,7 +92,7 @@ class Unarchiver {
   archive::ObjectValue takeObject(Expected& expected);
   void check(const archive::ObjectValue& object, Expected& expected) const;
   [[noreturn]] void refuse(const archive::ObjectValue& object, const Expected& expected,
-                           const char* reason) const;
+                           const foundation::Sentence& reason) const;
   void chargeForCopy(const archive::ObjectValue& reference, std::size_t bytes);
   std::int32_t takeCount();
   std::unique_ptr<NCRecord> decodeExamination();
@@ -108,14 +109,19 @@ class Unarchiver {
   Decoded<MeasurementsRecord> records_{size_ / kBytesPerRecord};
   Decoded<std::span<const MeasurementsRecord>> arrays_{size_ / kBytesPerExamination};
   Decoded<const NCRecord*> keptExaminations_{size_ / kBytesPerExamination};
-  Expected patient_{{class_name::patientRecord, class_name::patientRecord}, "a PatientRecord"};
-  Expected string_{{class_name::string, class_name::mutableString}, "a string or nil"};
-  Expected date_{{class_name::date, class_name::date}, "a date or nil"};
-  Expected examinations_{{class_name::array, class_name::mutableArray}, "an array of examinations or nil"};
-  Expected examination_{{class_name::ncRecord, class_name::ncRecord}, "an NCRecord"};
-  Expected measurements_{{class_name::array, class_name::mutableArray}, "an array of measurements or nil"};
+  Expected patient_{{class_name::patientRecord, class_name::patientRecord},
+                    foundation::translatable("Reading", "a PatientRecord")};
+  Expected string_{{class_name::string, class_name::mutableString},
+                   foundation::translatable("Reading", "a string or nil")};
+  Expected date_{{class_name::date, class_name::date}, foundation::translatable("Reading", "a date or nil")};
+  Expected examinations_{{class_name::array, class_name::mutableArray},
+                         foundation::translatable("Reading", "an array of examinations or nil")};
+  Expected examination_{{class_name::ncRecord, class_name::ncRecord},
+                        foundation::translatable("Reading", "an NCRecord")};
+  Expected measurements_{{class_name::array, class_name::mutableArray},
+                         foundation::translatable("Reading", "an array of measurements or nil")};
   Expected measurementsRecord_{{class_name::measurementsRecord, class_name::measurementsRecord},
-                               "a MeasurementsRecord"};
+                               foundation::translatable("Reading", "a MeasurementsRecord")};
   std::optional<std::int64_t> ncRecordVersion_;  // that of the first class record, whatever follows
   std::size_t copiedBytes_ = 0;
   ArchiveFacts facts_;

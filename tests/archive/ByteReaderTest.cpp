@@ -56,9 +56,9 @@ TEST(TheByteReader, tellsAnEmptyTextFromNil) {
 TEST(TheByteReader, countsNumbersOfThingsFromTheFirstHeadThatIsANumber) {
   const Bytes stream = bytes("92 93 81 92 00");
   ByteReader reader(stream);
-  EXPECT_EQ(reader.takeNumberOf("label", 257, "an object"), 0U);
-  EXPECT_EQ(reader.takeNumberOf("label", 257, "an object"), 1U);
-  EXPECT_EQ(reader.takeNumberOf("label", 257, "an object"), 256U);
+  EXPECT_EQ(reader.takeNumberOf(ByteReader::Thing::label, 257, "an object"), 0U);
+  EXPECT_EQ(reader.takeNumberOf(ByteReader::Thing::label, 257, "an object"), 1U);
+  EXPECT_EQ(reader.takeNumberOf(ByteReader::Thing::label, 257, "an object"), 256U);
 }
 
 TEST(TheByteReader, saysWhereWhatWasWantedAndWhatStandsThere) {
@@ -72,8 +72,10 @@ TEST(TheByteReader, saysWhereWhatWasWantedAndWhatStandsThere) {
             "at byte 0: expected a number, but the mark of something new stands here");
   EXPECT_EQ(refusalOf("ff", [](ByteReader& reader) { reader.takeText("a text"); }),
             "at byte 0: expected a text, but its length is -1");
-  EXPECT_EQ(refusalOf("93", [](ByteReader& reader) { reader.takeNumberOf("label", 1, "an object"); }),
-            "at byte 0: expected an object, but label 1 is outside the 1 given so far");
+  EXPECT_EQ(
+      refusalOf("93",
+                [](ByteReader& reader) { reader.takeNumberOf(ByteReader::Thing::label, 1, "an object"); }),
+      "at byte 0: expected an object, but label 1 is outside the 1 given so far");
 }
 
 }  // namespace

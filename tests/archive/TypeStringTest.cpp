@@ -83,7 +83,7 @@ TEST_P(AMalformedTypeString, saysWhatIsWrong) {
     parseTypeString(GetParam().text);
     FAIL() << "taken";
   } catch (const TypeStringError& error) {
-    EXPECT_EQ(error.reason, GetParam().reason);
+    EXPECT_EQ(english(error.reason), GetParam().reason);
   }
 }
 
@@ -110,16 +110,16 @@ INSTANTIATE_TEST_SUITE_P(ofEveryKind, AMalformedTypeString,
                                          BadTypeCase{"{A=i", "has a structure that is not closed"}));
 
 TEST(DescribingTypes, saysInWordsWhatIsMeant) {
-  EXPECT_EQ(describeTypes("f"), "a 32-bit real (type \"f\")");
-  EXPECT_EQ(describeTypes("@@"), "values (type \"@@\")");
-  EXPECT_EQ(describeTypes("[24c]"), "an array (type \"[24c]\")");
-  EXPECT_EQ(describeTypes("{A=i}"), "a structure (type \"{A=i}\")");
-  EXPECT_EQ(describeTypes("?"), "a value (type \"?\")");
+  EXPECT_EQ(english(describeTypes("f")), "a 32-bit real (type \"f\")");
+  EXPECT_EQ(english(describeTypes("@@")), "values (type \"@@\")");
+  EXPECT_EQ(english(describeTypes("[24c]")), "an array (type \"[24c]\")");
+  EXPECT_EQ(english(describeTypes("{A=i}")), "a structure (type \"{A=i}\")");
+  EXPECT_EQ(english(describeTypes("?")), "a value (type \"?\")");
 }
 
 TEST(DescribingTypes, hasWordsForEveryCode) {
   for (const char code : std::string("@#:*+%cCBsSiIlLqQfd")) {
-    EXPECT_FALSE(describeTypes({&code, 1}).starts_with("a value")) << code;
+    EXPECT_FALSE(english(describeTypes({&code, 1})).starts_with("a value")) << code;
   }
 }
 

@@ -41,7 +41,8 @@ Outcome run(const Call& call) {
   std::fwrite(call.input.data(), 1, call.input.size(), input.get());
   std::rewind(input.get());
 
-  std::vector<char*> arguments{const_cast<char*>(NASCOR_CLI)};
+  const std::string program = call.program.empty() ? NASCOR_CLI : call.program;
+  std::vector<char*> arguments{const_cast<char*>(program.c_str())};
   for (const std::string& argument : call.arguments) arguments.push_back(const_cast<char*>(argument.c_str()));
   arguments.push_back(nullptr);
 
@@ -51,6 +52,7 @@ Outcome run(const Call& call) {
     ::dup2(call.outputFile >= 0 ? call.outputFile : ::fileno(output.get()), STDOUT_FILENO);
     ::dup2(::fileno(errors.get()), STDERR_FILENO);
     if (!call.zone.empty()) ::setenv("TZ", call.zone.c_str(), 1);
+    if (!call.language.empty()) ::setenv("LANGUAGE", call.language.c_str(), 1);
     // A timer goes on in the program that takes the place of this one.
     constexpr std::int64_t kSecond = 1'000'000;
     const std::int64_t after = call.killedAfter.count();

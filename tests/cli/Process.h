@@ -18,7 +18,9 @@ struct Outcome {
 struct Call {
   std::vector<std::string> arguments;
   std::string input{};
-  std::string zone{};   ///< TZ of the process; empty for that of the test
+  std::string zone{};      ///< TZ of the process; empty for that of the test
+  std::string program{};   ///< empty for the one that is tested
+  std::string language{};  ///< LANGUAGE of the process; empty for that of the test
   int outputFile = -1;  ///< an open descriptor for standard output, in place of keeping it in `Outcome::out`
   /// After so many it is ended by a signal that it does not know of; 0: never.
   std::chrono::microseconds killedAfter{};

@@ -100,10 +100,13 @@ TEST(ASentence, joinsOthers) {
 }
 
 TEST(ASentence, ofTheSystemIsLookedUpAmongTheSystems) {
-  const Language language(Language::Texts{{"system/No such file or directory", "Keine Datei"}});
+  const Language language(Language::Texts{{"system/No such file or directory", "Keine Datei"},
+                                          {"Files/Not a regular file", "Keine gew\u00f6hnliche Datei"}});
   const Sentence sentence = Sentence::ofSystem("No such file or directory");
   EXPECT_EQ(english(sentence), "No such file or directory");
   EXPECT_EQ(said(sentence, language), "Keine Datei");
+  EXPECT_EQ(said(Sentence::ofSystem("Not a regular file"), language), "Keine gew\u00f6hnliche Datei");
+  EXPECT_EQ(said(Sentence::ofSystem("other"), language), "other");
 }
 
 TEST(AnErrorWithASentence, saysItInEnglishAndKeepsIt) {

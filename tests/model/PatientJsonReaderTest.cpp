@@ -172,8 +172,10 @@ TEST(PatientJsonReader, warnsOfWhatAFileCannotHold) {
       R"({"gravida":4294967301,"numberOfFetuses":-2147483649,"standard":-2147483648,"extrapolatedGestation":1e39,
           "examinations":[{"measurements":[{"bpd":-1e300,"hc":"inf","ac":3.4e38}]}]})",
       kNewYorkInWinter);
+  std::vector<std::string> warnings;
+  for (const foundation::Sentence& warning : result.warnings) warnings.push_back(english(warning));
   EXPECT_THAT(
-      result.warnings,
+      warnings,
       ElementsAre("at /gravida: 4294967301 is longer than 32 bits; the file holds the low 32, which are 5",
                   "at /numberOfFetuses: -2147483649 is longer than 32 bits; the file holds the low 32, which "
                   "are 2147483647",

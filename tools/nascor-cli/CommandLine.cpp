@@ -26,7 +26,7 @@ constexpr int kAllWell = 0;
 constexpr int kBadInput = 1;
 constexpr int kWrongUsage = 2;
 
-Sentence usageLine(const std::string& how) { return Sentence("CommandHelp", "usage: %1\n").with(how); }
+Sentence usageLine(const std::string& how) { return Sentence("CommandHelp", "usage: %1").with(how); }
 
 Sentence usageOf(const Command& command) {
   return usageLine(std::string(kProgram).append(" ").append(command.name).append(" ").append(command.usage));
@@ -69,7 +69,7 @@ std::string help(const foundation::Localizer& localizer) {
     for (const std::string_view name : names) term.append(term.empty() ? "" : ", ").append(name);
     options.emplace_back(term, meaning);
   }
-  return said(usage(), localizer) + "\n" + localizer.text(kHelp, general.summary) + "\n" +
+  return said(usage(), localizer) + "\n\n" + localizer.text(kHelp, general.summary) + "\n" +
          localizer.text(kHelp, kNotAMedicalDevice) + "\n\n" + localizer.text("CommandHelp", "Commands:") +
          "\n" + listed(terms, localizer) + "\n" + localizer.text("CommandHelp", "Options:") + "\n" +
          listed(options, localizer) + "\n" + localizer.text(kHelp, general.rules);
@@ -85,7 +85,7 @@ std::string helpOn(const Command& command, const foundation::Localizer& localize
     options.emplace_back(term, option.help);
   }
   options.emplace_back("--help, -h", kThisText);
-  return said(usageOf(command), localizer) + "\n" + localizer.text(kHelp, command.summary) + "\n" +
+  return said(usageOf(command), localizer) + "\n\n" + localizer.text(kHelp, command.summary) + "\n" +
          localizer.text(kHelp, kNotAMedicalDevice) + "\n" +
          (operands.empty() ? "" : "\n" + listed(operands, localizer)) + "\n" +
          localizer.text("CommandHelp", "Options:") + "\n" + listed(options, localizer) +
@@ -224,8 +224,8 @@ int parseAndRun(int argc, char** argv, Console& console) {
   const foundation::Localizer& localizer = console.localizer();
   const auto wrong = [&](const Sentence& sentence) {
     const bool isAnyChosen = chosen() != parsers.end();
-    return wrongUsage(sentence, said(isAnyChosen ? usageOf(chosen()->command()) : usage(), localizer),
-                      localizer);
+    const Sentence how = isAnyChosen ? usageOf(chosen()->command()) : usage();
+    return wrongUsage(sentence, said(how, localizer) + "\n", localizer);
   };
 
   std::vector<std::string> arguments(argv + 1, argv + argc);

@@ -41,11 +41,10 @@ void runMake(const Arguments& arguments, Console& console) {
     const std::string_view text(reinterpret_cast<const char*>(contents->data()), contents->size());
     document = model::patientFromJson(text, posix::PosixCalendar());
   } catch (const model::JsonDocumentError& error) {
-    console.complain(nameOf(path), foundation::sentenceOf(error));
+    console.complain(nameOf(path), error.sentence());
     return;
   }
-  for (const std::string& warning : document.warnings)
-    console.warn(nameOf(path), Sentence::verbatim(warning));
+  for (const Sentence& warning : document.warnings) console.warn(nameOf(path), warning);
 
   const auto bytes = model::archivedPatient(*document.patient);
   if (target == "-") {
@@ -75,7 +74,7 @@ void runDump(const Arguments& arguments, Console& console) {
       asJson ? archive::dumpAsJsonInPieces(*contents, take) : archive::dumpAsTextInPieces(*contents, take);
       console.lineDone();
     } catch (const archive::FormatError& error) {
-      console.complain(nameOf(path), foundation::sentenceOf(error));
+      console.complain(nameOf(path), error.sentence());
     }
   }
 }

@@ -12,7 +12,7 @@ std::variant<model::UnarchivedPatient, Sentence> documentFrom(std::span<const st
     //: Behind the name of a file.
     return Sentence("CommandLine", "holds no patient");
   } catch (const archive::FormatError& error) {
-    return Sentence::verbatim(model::refusalText(error));
+    return model::refusalSentence(error);
   }
 }
 

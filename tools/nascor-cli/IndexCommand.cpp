@@ -53,7 +53,7 @@ void withDatabase(const std::string& path, Console& console, Work work) {
   try {
     work();
   } catch (const sqlite::DatabaseError& error) {
-    console.complain(path, foundation::sentenceOf(error));
+    console.complain(path, error.sentence());
   } catch (const IndexError& error) {
     console.complain(path, error.sentence());
   }

@@ -19,6 +19,7 @@
 #include <sys/xattr.h>
 #include <unistd.h>
 
+#include "foundation/Localizer.h"
 #include "posix/Descriptor.h"
 #include "posix/DocumentLock.h"
 #include "posix/NewFile.h"
@@ -28,11 +29,13 @@ namespace nascor::posix {
 namespace {
 
 using foundation::FileError;
+using foundation::translatable;
 
 constexpr const char* kAccessList = "system.posix_acl_access";
 
 FileError notAFile(mode_t mode) {
-  return S_ISDIR(mode) ? systemError(EISDIR) : FileError{"Not a regular file"};
+  return S_ISDIR(mode) ? systemError(EISDIR)
+                       : FileError{std::string(translatable("Files", "Not a regular file"))};
 }
 
 /// The operating system would take such a path for another, shorter one.
@@ -148,7 +151,10 @@ bool isClosedWell(int file) {
   return second.isOpen() && second.close();
 }
 
-FileError isChanged() { return {.reason = "It was changed meanwhile", .kind = FileError::Kind::isChanged}; }
+FileError isChanged() {
+  return {.reason = std::string(translatable("Files", "It was changed meanwhile")),
+          .kind = FileError::Kind::isChanged};
+}
 
 /// What stands in the way of writing to `target`, which has the status `old` if there is such a file.
 std::optional<FileError> obstacleTo(const std::string& target, const struct stat* old,

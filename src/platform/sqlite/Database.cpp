@@ -9,6 +9,8 @@
 
 namespace nascor::sqlite {
 
+using foundation::Sentence;
+
 namespace {
 
 constexpr int kPatienceInMilliseconds = 10'000;
@@ -19,7 +21,7 @@ void makePrivate(const std::string& path) {
   if (file >= 0) {
     ::close(file);
   } else if (errno != EEXIST) {
-    throw DatabaseError(std::generic_category().message(errno));
+    throw DatabaseError(Sentence::ofSystem(std::generic_category().message(errno)));
   }
 }
 
@@ -28,7 +30,8 @@ void makePrivate(const std::string& path) {
 Statement::Statement(sqlite3_stmt* statement) : statement_(statement, ::sqlite3_finalize) {}
 
 void Statement::check(int result) const {
-  if (result != SQLITE_OK) throw DatabaseError(::sqlite3_errmsg(::sqlite3_db_handle(statement_.get())));
+  if (result != SQLITE_OK)
+    throw DatabaseError(Sentence::verbatim(::sqlite3_errmsg(::sqlite3_db_handle(statement_.get()))));
 }
 
 Statement& Statement::bind(int parameter, std::int64_t value) {
@@ -89,14 +92,15 @@ Database::Database(const std::string& path, Access access) : database_(nullptr, 
                                        isWritten ? SQLITE_OPEN_READWRITE : SQLITE_OPEN_READONLY, nullptr);
   database_.reset(database);
   if (result != SQLITE_OK) {
-    throw DatabaseError(database == nullptr ? ::sqlite3_errstr(result) : ::sqlite3_errmsg(database));
+    throw DatabaseError(
+        Sentence::verbatim(database == nullptr ? ::sqlite3_errstr(result) : ::sqlite3_errmsg(database)));
   }
   ::sqlite3_busy_timeout(database, kPatienceInMilliseconds);
 }
 
 void Database::execute(const std::string& statements) {
   if (::sqlite3_exec(database_.get(), statements.c_str(), nullptr, nullptr, nullptr) != SQLITE_OK) {
-    throw DatabaseError(::sqlite3_errmsg(database_.get()));
+    throw DatabaseError(Sentence::verbatim(::sqlite3_errmsg(database_.get())));
   }
 }
 
@@ -104,7 +108,7 @@ Statement Database::prepare(std::string_view statement) {
   sqlite3_stmt* prepared = nullptr;
   const int result = ::sqlite3_prepare_v2(database_.get(), statement.data(),
                                           static_cast<int>(statement.size()), &prepared, nullptr);
-  if (result != SQLITE_OK) throw DatabaseError(::sqlite3_errmsg(database_.get()));
+  if (result != SQLITE_OK) throw DatabaseError(Sentence::verbatim(::sqlite3_errmsg(database_.get())));
   return Statement(prepared);
 }
 

@@ -3,9 +3,10 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
-#include <stdexcept>
 #include <string>
 #include <string_view>
+
+#include "foundation/Sentence.h"
 
 struct sqlite3;
 struct sqlite3_stmt;
@@ -13,9 +14,9 @@ struct sqlite3_stmt;
 namespace nascor::sqlite {
 
 /// The database cannot be read or written: a sentence without its name.
-class DatabaseError : public std::runtime_error {
+class DatabaseError : public foundation::SpokenError {
  public:
-  using std::runtime_error::runtime_error;
+  using SpokenError::SpokenError;
 };
 
 /// A statement, run as often as wanted. It must not outlive its database. All functions throw DatabaseError.
