@@ -111,18 +111,6 @@
         <source>beyond the table</source>
         <translation type="unfinished"></translation>
     </message>
-    <message>
-        <source> has no centiles of this measure</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Centiles: </source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>, which fits weights by another formula alone: </source>
-        <translation type="unfinished"></translation>
-    </message>
 </context>
 <context>
     <name>AdjustDelivery</name>
@@ -1422,18 +1410,6 @@ Files of the same names are replaced, but with --no-clobber. SOURCE_DATE_EPOCH, 
     </message>
     <message>
         <source>The age is not known.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source> has %ld to %ld weeks.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source> fits weights by another formula alone: </source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source> has no place for this value.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -3976,10 +3952,6 @@ Files of the same names are replaced, but with --no-clobber. SOURCE_DATE_EPOCH, 
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Unsaved changes cannot be kept against a crash. Please save:</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Nascor ended before the changes of this document were saved. Do you want to recover them?</source>
         <translation type="unfinished"></translation>
     </message>
@@ -4025,10 +3997,6 @@ Files of the same names are replaced, but with --no-clobber. SOURCE_DATE_EPOCH, 
     </message>
     <message>
         <source>An examination that was removed</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Examination of</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -4666,18 +4634,6 @@ Files of the same names are replaced, but with --no-clobber. SOURCE_DATE_EPOCH, 
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Lengths: z and centile by </source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Weight: by the formula </source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>, z and centile by </source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>z</source>
         <translation type="unfinished"></translation>
     </message>
@@ -4698,23 +4654,7 @@ Files of the same names are replaced, but with --no-clobber. SOURCE_DATE_EPOCH, 
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>/week</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>expected</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Lines: centiles 3, 10, 50, 90 and 97; lengths by </source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>, weight by </source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Weeks of menstrual age below.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>

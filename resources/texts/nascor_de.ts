@@ -111,18 +111,6 @@
         <source>beyond the table</source>
         <translation>außerhalb der Tabelle</translation>
     </message>
-    <message>
-        <source> has no centiles of this measure</source>
-        <translation> hat keine Perzentilen dieser Messgröße</translation>
-    </message>
-    <message>
-        <source>Centiles: </source>
-        <translation>Perzentilen: </translation>
-    </message>
-    <message>
-        <source>, which fits weights by another formula alone: </source>
-        <translation>, passt nur zu Gewichten nach einer anderen Formel: </translation>
-    </message>
 </context>
 <context>
     <name>AdjustDelivery</name>
@@ -179,6 +167,1363 @@
     </message>
 </context>
 <context>
+    <name>CommandHelp</name>
+    <message>
+        <source>growth standards by number or name, intergrowth-2014, with commas between; without it all four</source>
+        <translation>Wachstumsstandards, Nummer oder Name, intergrowth-2014, mit Kommas dazwischen; sonst alle vier</translation>
+    </message>
+    <message>
+        <source>one weight, by number or name, instead of all eight</source>
+        <translation>ein Gewicht, nach Nummer oder Name, statt aller acht</translation>
+    </message>
+    <message>
+        <source>only these columns, of the input or computed, in this order</source>
+        <translation>nur diese Spalten, aus der Eingabe oder berechnet, in dieser Reihenfolge</translation>
+    </message>
+    <message>
+        <source>what is computed with one decimal, z-scores with three</source>
+        <translation>Berechnetes mit einer Nachkommastelle, z-Scores mit drei</translation>
+    </message>
+    <message>
+        <source>Weights, means and z-scores beside the columns of a CSV table on standard input.</source>
+        <translation>Gewichte, Mittelwerte und z-Scores neben den Spalten einer CSV-Tabelle der Standardeingabe.</translation>
+    </message>
+    <message>
+        <source>The first line names the columns; those that count are ga_weeks or ga, bpd_mm or bpd, hc_mm or
+hc, ac_mm or ac, fl_mm or fl, in any order. All columns of the table stay as they came. Behind
+them stand
+  efw_0_g,...,efw_7_g,westerway_bpd_mean_mm,westerway_bpd_sd_mm,westerway_bpd_z,...,cfef_fl_z
+  warning,error
+An empty cell, 0, nan and NA are not measured. What is no number (45mm, 45,2) is named in error
+and, with its line, on standard error; nothing is computed in that row, the others go on, and
+the status is 1. Memory does not grow with the table.
+Texts stay as they are. A spreadsheet runs cells that begin with &apos;=&apos;: import them as text.
+</source>
+        <translation>Die erste Zeile benennt die Spalten; von Bedeutung sind ga_weeks oder ga, bpd_mm oder bpd, hc_mm
+oder hc, ac_mm oder ac, fl_mm oder fl, in beliebiger Reihenfolge. Alle Spalten der Tabelle bleiben,
+wie sie kamen. Hinter ihnen stehen
+  efw_0_g,...,efw_7_g,westerway_bpd_mean_mm,westerway_bpd_sd_mm,westerway_bpd_z,...,cfef_fl_z
+  warning,error
+Eine leere Zelle, 0, nan und NA gelten als nicht gemessen. Was keine Zahl ist (45mm, 45,2), wird in
+error genannt und, mit der Zeile, auf der Standardfehlerausgabe; in dieser Zeile wird nichts
+berechnet, mit den anderen geht es weiter, und der Rückgabewert ist 1. Der Speicherbedarf wächst
+nicht mit der Tabelle.
+Texte bleiben, wie sie sind. Eine Tabellenkalkulation führt Zellen aus, die mit &apos;=&apos; beginnen:
+Importieren Sie sie als Text.
+</translation>
+    </message>
+    <message>
+        <source>a document; - is standard input</source>
+        <translation>ein Dokument; - ist die Standardeingabe</translation>
+    </message>
+    <message>
+        <source>one JSON object a document, on a line</source>
+        <translation>ein JSON-Objekt pro Dokument, jedes auf einer Zeile</translation>
+    </message>
+    <message>
+        <source>say ok where there is nothing to say</source>
+        <translation>ok melden, wo es nichts zu melden gibt</translation>
+    </message>
+    <message>
+        <source>Reads each document whole and names every oddity in it, one a line.</source>
+        <translation>Liest jedes Dokument ganz und nennt jede Auffälligkeit darin, eine pro Zeile.</translation>
+    </message>
+    <message>
+        <source>An oddity is accepted everywhere else: a count that disagrees, a date that is missing, a length beyond
+what can be typed, an old class version. It leaves the exit status at 0; a file that cannot be read
+makes it 1. Keys of the JSON: file, and oddities, an array of objects with kind, examination, fetus,
+text.
+</source>
+        <translation>Eine Auffälligkeit wird überall sonst hingenommen: eine Anzahl, die nicht stimmt, ein Datum, das
+fehlt, ein Maß außerhalb des Eingabebereichs, eine alte Klassenversion. Der Rückgabewert bleibt
+damit 0; eine Datei, die nicht gelesen werden kann, macht ihn zu 1. Schlüssel des JSON: file und
+oddities, ein Array von Objekten mit kind, examination, fetus, text.
+</translation>
+    </message>
+    <message>
+        <source>Not a medical device. Not validated for clinical use.</source>
+        <translation>Kein Medizinprodukt. Nicht für die klinische Anwendung validiert.</translation>
+    </message>
+    <message>
+        <source>this text</source>
+        <translation>dieser Text</translation>
+    </message>
+    <message>
+        <source>usage: %1</source>
+        <translation>Aufruf: %1</translation>
+    </message>
+    <message>
+        <source>Commands:</source>
+        <translation>Befehle:</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Optionen:</translation>
+    </message>
+    <message>
+        <source>Obstetric ultrasound biometry for shells and scripts.</source>
+        <translation>Geburtshilfliche Ultraschallbiometrie für Shells und Skripte.</translation>
+    </message>
+    <message>
+        <source>Lengths are in millimetres, weights in grams, ages in weeks after the last menstrual period.
+A FILE or a value of - is standard input. No question is ever asked.
+Exit status: 0 all well, 1 some input was bad, 2 wrong usage.
+</source>
+        <translation>Maße sind in Millimetern, Gewichte in Gramm, Gestationsalter in Wochen nach der letzten Periode.
+Ein FILE oder ein Wert - ist die Standardeingabe. Es wird nie etwas gefragt.
+Rückgabewert: 0 alles in Ordnung, 1 fehlerhafte Eingabe, 2 falscher Aufruf.
+</translation>
+    </message>
+    <message>
+        <source>this text; help COMMAND explains one command</source>
+        <translation>dieser Text; help COMMAND erklärt einen Befehl</translation>
+    </message>
+    <message>
+        <source>this text; behind a command, that command&apos;s help</source>
+        <translation>dieser Text; hinter einem Befehl dessen Hilfe</translation>
+    </message>
+    <message>
+        <source>the version of the program</source>
+        <translation>die Version des Programms</translation>
+    </message>
+    <message>
+        <source>what follows is no option</source>
+        <translation>was folgt, ist keine Option</translation>
+    </message>
+    <message>
+        <source>one object a document, examination and fetus, on a line: unrounded numbers</source>
+        <translation>ein Objekt pro Dokument, Untersuchung und Fetus, je auf einer Zeile: ungerundete Zahlen</translation>
+    </message>
+    <message>
+        <source>Each length and weight by every reference and formula, ratios, twins, growth.</source>
+        <translation>Jedes Maß und Gewicht nach jeder Referenz und Formel, Quotienten, Mehrlinge, Wachstum.</translation>
+    </message>
+    <message>
+        <source>Examinations and fetuses count from 0. Difference is that from the weight by the document&apos;s formula.
+Age is that of which the value is the median of the reference; outside its weeks a dash. Discordance
+is the share, of the heaviest fetus, by which the lightest weighs less. Growth is that since the
+examination before which has the length; the change of z is by the document&apos;s standard. Centiles of
+weights are those of references; the error of a formula is no population.
+</source>
+        <translation>Untersuchungen und Feten werden ab 0 gezählt. Difference ist die Differenz zum Gewicht nach der
+Formel des Dokuments. Age ist das Gestationsalter, dessen Median in der Referenz der Wert ist;
+außerhalb ihrer Wochen ein Strich. Discordance ist der Anteil, bezogen auf den schwersten Fetus, um
+den der leichteste weniger wiegt. Growth ist das Wachstum seit der letzten Untersuchung davor, die
+das Maß hat; Change of z folgt dem Standard des Dokuments. Perzentilen von Gewichten sind die der
+Referenzen; der Fehler einer Formel ist keine Population.
+</translation>
+    </message>
+    <message>
+        <source>Each document as JSON: every field that it holds, one object on a line.</source>
+        <translation>Jedes Dokument als JSON: jedes Feld, das es enthält, ein Objekt pro Zeile.</translation>
+    </message>
+    <message>
+        <source>Keys: maternalIDString, edd, eddISO, standard, fetalWeightStandard, numberOfFetuses,
+extrapolatedGestation (weeks), crlStandard, gravida, and examinations, an array of objects with note,
+examDate, examDateISO and measurements, an array of objects with bpd, hc, ac and fl (mm; 0 = not
+measured). Dates are seconds since 2001-01-01 UTC; beside each stands its local time as ISO text.
+</source>
+        <translation>Schlüssel: maternalIDString, edd, eddISO, standard, fetalWeightStandard, numberOfFetuses,
+extrapolatedGestation (Wochen), crlStandard, gravida und examinations, ein Array von Objekten mit
+note, examDate, examDateISO und measurements, einem Array von Objekten mit bpd, hc, ac und fl (mm;
+0 = nicht gemessen). Datumsangaben sind Sekunden seit 2001-01-01 UTC; daneben steht jeweils die
+Ortszeit als ISO-Text.
+</translation>
+    </message>
+    <message>
+        <source>a document as JSON; - is standard input</source>
+        <translation>ein Dokument als JSON; - ist die Standardeingabe</translation>
+    </message>
+    <message>
+        <source>where to write it, as a whole or not at all; without it, or -, to standard output</source>
+        <translation>wohin geschrieben wird, ganz oder gar nicht; ohne diese Option oder mit - zur Standardausgabe</translation>
+    </message>
+    <message>
+        <source>A document from JSON.</source>
+        <translation>Ein Dokument aus JSON.</translation>
+    </message>
+    <message>
+        <source>Reads what json prints: maternalIDString, edd, standard, fetalWeightStandard, numberOfFetuses,
+extrapolatedGestation (weeks), crlStandard, gravida, and examinations, an array of objects with
+note, examDate and measurements, an array of objects with bpd, hc, ac and fl (mm). Every key may be
+missing; an unknown one is an error. A date is a number of
+seconds since 2001-01-01 UTC, an ISO date (2027-04-10 is local midnight), an ISO date and time, or
+null. Lengths are stored in single precision, whole numbers in 32 bits.
+</source>
+        <translation>Liest, was json ausgibt: maternalIDString, edd, standard, fetalWeightStandard, numberOfFetuses,
+extrapolatedGestation (Wochen), crlStandard, gravida und examinations, ein Array von Objekten mit
+note, examDate und measurements, einem Array von Objekten mit bpd, hc, ac und fl (mm). Jeder
+Schlüssel darf fehlen; ein unbekannter ist ein Fehler. Ein Datum ist eine Zahl von Sekunden seit
+2001-01-01 UTC, ein ISO-Datum (2027-04-10 ist Mitternacht Ortszeit), ein ISO-Datum mit Uhrzeit oder
+null. Maße werden mit einfacher Genauigkeit gespeichert, ganze Zahlen mit 32 Bit.
+</translation>
+    </message>
+    <message>
+        <source>any typed stream; - is standard input</source>
+        <translation>ein beliebiger typisierter Datenstrom; - ist die Standardeingabe</translation>
+    </message>
+    <message>
+        <source>one JSON object a stream, on a line</source>
+        <translation>ein JSON-Objekt pro Datenstrom, jedes auf einer Zeile</translation>
+    </message>
+    <message>
+        <source>All that a typed stream holds, as a tree; of any program, not only documents.</source>
+        <translation>Alles, was ein typisierter Datenstrom enthält, als Baum; von jedem Programm, nicht nur Dokumente.</translation>
+    </message>
+    <message>
+        <source>Each line begins with the byte at which the value begins. Keys of the JSON: byte_order,
+system_version, and groups, an array of objects with types and values; docs/json.md lists the values.
+</source>
+        <translation>Jede Zeile beginnt mit dem Byte, an dem der Wert beginnt. Schlüssel des JSON: byte_order,
+system_version und groups, ein Array von Objekten mit types und values; docs/json.md beschreibt die
+Werte.
+</translation>
+    </message>
+    <message>
+        <source>the folder for the files, which is made when it is missing; - is standard output, for one file</source>
+        <translation>der Ordner für die Dateien, wird angelegt, wenn er fehlt; - ist die Standardausgabe, für eine Datei</translation>
+    </message>
+    <message>
+        <source>what is written; without this option PDF</source>
+        <translation>was geschrieben wird; ohne diese Option PDF</translation>
+    </message>
+    <message>
+        <source>all, or first, last, numbers from 0 to 6 and names, with commas between</source>
+        <translation>all, oder first, last, Nummern von 0 bis 6 und Namen, mit Kommas dazwischen</translation>
+    </message>
+    <message>
+        <source>one fetus, the first is 1; without this option all</source>
+        <translation>ein Fetus, der erste ist 1; ohne diese Option alle</translation>
+    </message>
+    <message>
+        <source>centile lines of a reference of &quot;nascor-cli reference&quot; over the charts</source>
+        <translation>Perzentilenlinien einer Referenz aus „nascor-cli reference“ über den Diagrammen</translation>
+    </message>
+    <message>
+        <source>a line from mark to mark of each fetus</source>
+        <translation>eine Linie von Messpunkt zu Messpunkt jedes Fetus</translation>
+    </message>
+    <message>
+        <source>leave files that are there as they are, and say so</source>
+        <translation>vorhandene Dateien lassen, wie sie sind, und das melden</translation>
+    </message>
+    <message>
+        <source>leave off what stands under each page</source>
+        <translation>weglassen, was unter jeder Seite steht</translation>
+    </message>
+    <message>
+        <source>FHIR as one resource a line, of all documents, on standard output</source>
+        <translation>FHIR als eine Ressource pro Zeile, aller Dokumente, auf der Standardausgabe</translation>
+    </message>
+    <message>
+        <source>Writes the pages of each document, or its numbers for other programs.</source>
+        <translation>Schreibt die Seiten jedes Dokuments oder seine Zahlen für andere Programme.</translation>
+    </message>
+    <message>
+        <source>Names of pages: %1 (0 to %2), in letters of any size.
+As PDF all pages of a document are one file; else each is a file of its own.
+Files of the same names are replaced, but with --no-clobber.
+sr: a DICOM structured report (Comprehensive SR) for each examination, &quot;NAME 1.dcm&quot;, ...
+fhir: a FHIR R4 bundle for each document, NAME.json; with --ndjson lines on standard output.
+</source>
+        <translation>Namen der Seiten: %1 (0 bis %2), groß oder klein geschrieben.
+Als PDF sind alle Seiten eines Dokuments eine Datei; sonst ist jede eine eigene Datei.
+Dateien gleichen Namens werden ersetzt, außer mit --no-clobber.
+sr: ein strukturierter DICOM-Bericht (Comprehensive SR) für jede Untersuchung, „NAME 1.dcm“, ...
+fhir: ein FHIR-R4-Bündel für jedes Dokument, NAME.json; mit --ndjson Zeilen auf der
+Standardausgabe.
+</translation>
+    </message>
+    <message>
+        <source>biparietal diameter</source>
+        <translation>biparietaler Durchmesser</translation>
+    </message>
+    <message>
+        <source>head circumference</source>
+        <translation>Kopfumfang</translation>
+    </message>
+    <message>
+        <source>abdominal circumference</source>
+        <translation>Abdomenumfang</translation>
+    </message>
+    <message>
+        <source>femur length</source>
+        <translation>Femurlänge</translation>
+    </message>
+    <message>
+        <source>an array of eight numbers, by identifier of the formula</source>
+        <translation>ein Array von acht Zahlen, nach Nummer der Formel</translation>
+    </message>
+    <message>
+        <source>The estimated weight of one fetus by each of the eight formulas, in grams.</source>
+        <translation>Das Schätzgewicht eines Fetus nach jeder der acht Formeln, in Gramm.</translation>
+    </message>
+    <message>
+        <source>A length that is not given is 0, which means not measured. Where a formula needs it, the weight is
+a dash (0 in JSON). An improbable length is named on standard error.
+The formulas, by identifier: 0 Hadlock 1 (HC/AC/FL), 1 Hadlock 2 (AC/FL),
+2 Hadlock 3 (BPD/AC/FL), 3 Hadlock 4 (BPD/HC/AC/FL), 4 Campbell (AC), 5 Combs (HC/AC/FL),
+6 Ott (HC/AC/FL), 7 Shepard (BPD/AC).
+</source>
+        <translation>Ein Maß, das nicht angegeben ist, ist 0, also nicht gemessen. Wo eine Formel es braucht, ist das
+Gewicht ein Strich (0 in JSON). Ein unwahrscheinliches Maß wird auf der Standardfehlerausgabe
+genannt.
+Die Formeln, nach Nummer: 0 Hadlock 1 (HC/AC/FL), 1 Hadlock 2 (AC/FL), 2 Hadlock 3 (BPD/AC/FL),
+3 Hadlock 4 (BPD/HC/AC/FL), 4 Campbell (AC), 5 Combs (HC/AC/FL), 6 Ott (HC/AC/FL),
+7 Shepard (BPD/AC).
+</translation>
+    </message>
+    <message>
+        <source>crown-rump lengths; - reads lengths from standard input, one a line</source>
+        <translation>Scheitel-Steiß-Längen; - liest Längen von der Standardeingabe, eine pro Zeile</translation>
+    </message>
+    <message>
+        <source>an array of four numbers a length, each on a line of its own</source>
+        <translation>ein Array von vier Zahlen pro Länge, jedes auf einer eigenen Zeile</translation>
+    </message>
+    <message>
+        <source>The menstrual age at each crown-rump length by each of the four formulas, in weeks.</source>
+        <translation>Das Gestationsalter zu jeder Scheitel-Steiß-Länge nach jeder der vier Formeln, in Wochen.</translation>
+    </message>
+    <message>
+        <source>One line a length, columns separated by tabs. Outside the range of a formula the age is a dash (0 in
+JSON). A line of standard input that is no number is answered by nan (null in JSON).
+A length that no formula dates is named on standard error, of standard input the first one.
+The formulas, by identifier: 0 Hadlock (1992), 2 to 120 mm; 1 Nelson (1981), 6.7 to 82.4 mm
+(no second source has it; 9 days more than Hadlock (1992) at 7 mm, 3 days more at 20 mm);
+2 Robinson (1975), 7 to 79.6 mm; 3 Westerway (2000), 2 to 87 mm.
+</source>
+        <translation>Eine Zeile pro Länge, die Spalten durch Tabulatoren getrennt. Außerhalb des Bereichs einer Formel
+ist das Alter ein Strich (0 in JSON). Auf eine Zeile der Standardeingabe, die keine Zahl ist, folgt
+die Antwort nan (null in JSON).
+Eine Länge, die keine Formel datiert, wird auf der Standardfehlerausgabe genannt, bei der
+Standardeingabe nur die erste.
+Die Formeln, nach Nummer: 0 Hadlock (1992), 2 bis 120 mm; 1 Nelson (1981), 6.7 bis 82.4 mm (keine
+zweite Quelle hat sie; 9 Tage mehr als Hadlock (1992) bei 7 mm, 3 Tage mehr bei 20 mm);
+2 Robinson (1975), 7 bis 79.6 mm; 3 Westerway (2000), 2 bis 87 mm.
+</translation>
+    </message>
+    <message>
+        <source>a DICOM report, a FHIR bundle of this program, or a CSV table of examinations; - is standard input</source>
+        <translation>ein DICOM-Bericht, ein FHIR-Bündel dieses Programms oder eine CSV-Tabelle; - ist die Standardeingabe</translation>
+    </message>
+    <message>
+        <source>store what was found in a new document</source>
+        <translation>das Gefundene in einem neuen Dokument speichern</translation>
+    </message>
+    <message>
+        <source>add what was found to a document</source>
+        <translation>das Gefundene zu einem Dokument hinzufügen</translation>
+    </message>
+    <message>
+        <source>the reports are of the patient of this reference ID, whatever they say</source>
+        <translation>die Berichte gehören zur Patientin mit dieser Patienten-ID, was immer sie sagen</translation>
+    </message>
+    <message>
+        <source>the fetus that the reports call ID is fetus N of the document; once for each</source>
+        <translation>der Fetus, den die Berichte ID nennen, ist Fetus N des Dokuments; einmal für jeden</translation>
+    </message>
+    <message>
+        <source>the report&apos;s EDD takes the place of the document&apos;s</source>
+        <translation>der ET des Berichts tritt an die Stelle dessen im Dokument</translation>
+    </message>
+    <message>
+        <source>What reports of ultrasound machines and tables hold, as JSON; stored only on demand.</source>
+        <translation>Was Berichte von Ultraschallgeräten und Tabellen enthalten, als JSON; gespeichert nur auf Verlangen.</translation>
+    </message>
+    <message>
+        <source>One object a report, of a table one for each patient and day: file, patientID, examDate, edd,
+eddFrom, gravida, numberOfFetuses, fetuses (id, bpd, hc, ac, fl and crl in mm, efw in g, chosen),
+notTaken, warnings.
+A table has the columns that rows writes: exam_date, any of bpd_mm, hc_mm, ac_mm and fl_mm, and,
+where it has them, reference_id, fetus (from 0) or fetus_number (from 1), edd, gravida and
+number_of_fetuses. When a row does not fit, nothing of the table is printed or stored.
+Nothing is stored when patient or fetus are in doubt, and nothing that stands is overwritten.
+</source>
+        <translation>Ein Objekt pro Bericht, bei einer Tabelle eines für jede Patientin und jeden Tag: file, patientID,
+examDate, edd, eddFrom, gravida, numberOfFetuses, fetuses (id, bpd, hc, ac, fl und crl in mm, efw
+in g, chosen), notTaken, warnings.
+Eine Tabelle hat die Spalten, die rows schreibt: exam_date, mindestens eine von bpd_mm, hc_mm,
+ac_mm und fl_mm und, wo sie sie hat, reference_id, fetus (ab 0) oder fetus_number (ab 1), edd,
+gravida und number_of_fetuses. Wenn eine Zeile nicht passt, wird nichts aus der Tabelle ausgegeben
+oder gespeichert.
+Nichts wird gespeichert, wenn Patientin oder Fetus zweifelhaft sind, und nichts Vorhandenes wird
+überschrieben.
+</translation>
+    </message>
+    <message>
+        <source>the index</source>
+        <translation>der Index</translation>
+    </message>
+    <message>
+        <source>a JSON object a line</source>
+        <translation>ein JSON-Objekt pro Zeile</translation>
+    </message>
+    <message>
+        <source>the documents, *.nascor in it and in the folders in it</source>
+        <translation>die Dokumente, *.nascor darin und in den Ordnern darin</translation>
+    </message>
+    <message>
+        <source>the index, made where there is none</source>
+        <translation>der Index; wird angelegt, wo keiner ist</translation>
+    </message>
+    <message>
+        <source>the counts as a JSON object</source>
+        <translation>die Anzahlen als JSON-Objekt</translation>
+    </message>
+    <message>
+        <source>Keeps what the documents of a folder say in a database, for due and search.</source>
+        <translation>Hält in einer Datenbank fest, was die Dokumente eines Ordners sagen, für due und search.</translation>
+    </message>
+    <message>
+        <source>Only documents that are new or have changed are read; those that are gone leave the index. A run that
+is ended in the middle, however that happens, leaves an index that the next run completes.
+The file is an SQLite database that its owner alone can read: it holds reference IDs, notes and names
+of files. Its tables documents and rows may be read by other programs.
+</source>
+        <translation>Nur neue oder geänderte Dokumente werden gelesen; die nicht mehr vorhandenen verlassen den Index.
+Ein Lauf, der mittendrin endet, wie auch immer, hinterlässt einen Index, den der nächste Lauf
+vervollständigt. Die Datei ist eine SQLite-Datenbank, die nur das Benutzerkonto lesen kann, dem sie
+gehört: Sie enthält Patienten-IDs, Notizen und Namen von Dateien. Ihre Tabellen documents und rows
+dürfen andere Programme lesen.
+</translation>
+    </message>
+    <message>
+        <source>the first day, such as 2027-04-10; without it today</source>
+        <translation>der erste Tag, zum Beispiel 2027-04-10; ohne diese Option heute</translation>
+    </message>
+    <message>
+        <source>how many days behind that; without it 28</source>
+        <translation>wie viele Tage danach; ohne diese Option 28</translation>
+    </message>
+    <message>
+        <source>only with an AC, the last of one fetus, whose z-score is below this</source>
+        <translation>nur, wenn der z-Score des letzten AU eines Fetus darunter liegt</translation>
+    </message>
+    <message>
+        <source>Who is due, from an index: by EDD, with the last examination and the lowest AC.</source>
+        <translation>Anstehende Entbindungen aus einem Index: nach ET, mit letzter Untersuchung und niedrigstem AU.</translation>
+    </message>
+    <message>
+        <source>AC z is the lowest, over the fetuses, of the z-score of the last AC that was measured, by the growth
+standard of the document. It lists what the index held when it was last brought up to date.
+</source>
+        <translation>AC z ist der niedrigste z-Score aller Feten, jeweils des zuletzt gemessenen AU, nach dem
+Wachstumsstandard des Dokuments. Aufgelistet wird, was der Index enthielt, als er zuletzt
+aktualisiert wurde.
+</translation>
+    </message>
+    <message>
+        <source>three characters or more of a reference ID or of a file&apos;s path; large or small</source>
+        <translation>mindestens drei Zeichen einer Patienten-ID oder eines Dateipfads; groß oder klein</translation>
+    </message>
+    <message>
+        <source>not more than so many; without it 100</source>
+        <translation>nicht mehr als so viele; ohne diese Option 100</translation>
+    </message>
+    <message>
+        <source>Documents by a part of their reference ID or name, from an index.</source>
+        <translation>Dokumente nach einem Teil ihrer Patienten-ID oder ihres Namens, aus einem Index.</translation>
+    </message>
+    <message>
+        <source>one digit behind the point, in JSON too</source>
+        <translation>eine Nachkommastelle, auch in JSON</translation>
+    </message>
+    <message>
+        <source>a recovery file, as the list names it</source>
+        <translation>eine Wiederherstellungsdatei, wie die Liste sie nennt</translation>
+    </message>
+    <message>
+        <source>where to write the document, as a whole or not at all</source>
+        <translation>wohin das Dokument geschrieben wird, ganz oder gar nicht</translation>
+    </message>
+    <message>
+        <source>Unsaved changes that the application kept: a list, or one of them as a document.</source>
+        <translation>Nicht gespeicherte Änderungen, von der Anwendung gesichert: als Liste, oder eine als Dokument.</translation>
+    </message>
+    <message>
+        <source>The list has one JSON object a line: recovery (the file), document (the path of the document&apos;s own
+file; null when it was never saved), patient, saved (seconds since 2001-01-01 UTC), fetuses,
+examinations, and differs, the keys of json that the saved document holds otherwise. It also names
+what running applications keep. A recovery file is a document: json, report and check read it. It
+stays where it is until the application has offered it.
+</source>
+        <translation>Die Liste hat ein JSON-Objekt pro Zeile: recovery (die Datei), document (der Pfad der Datei des
+Dokuments selbst; null, wenn es nie gespeichert wurde), patient, saved (Sekunden seit 2001-01-01
+UTC), fetuses, examinations und differs, die Schlüssel von json, die im gespeicherten Dokument
+andere Werte haben. Sie nennt auch, was laufende Anwendungen sichern. Eine Wiederherstellungsdatei
+ist ein Dokument: json, report und check lesen sie. Sie bleibt, wo sie ist, bis die Anwendung sie
+angeboten hat.
+</translation>
+    </message>
+    <message>
+        <source>a reference, by its name; without it all are listed</source>
+        <translation>eine Referenz, nach ihrem Namen; sonst werden alle aufgelistet</translation>
+    </message>
+    <message>
+        <source>one of bpd, hc, ac, fl, efw that the reference has</source>
+        <translation>bpd, hc, ac, fl oder efw, soweit die Referenz es hat</translation>
+    </message>
+    <message>
+        <source>the age in weeks</source>
+        <translation>das Gestationsalter in Wochen</translation>
+    </message>
+    <message>
+        <source>a length in mm, or a weight in g: its z and centile</source>
+        <translation>ein Maß in mm oder ein Gewicht in g: z und Perzentile dazu</translation>
+    </message>
+    <message>
+        <source>a centile between 0 and 100: its value and z</source>
+        <translation>eine Perzentile zwischen 0 und 100: Wert und z dazu</translation>
+    </message>
+    <message>
+        <source>a z-score: its value and centile</source>
+        <translation>ein z-Score: Wert und Perzentile dazu</translation>
+    </message>
+    <message>
+        <source>one object a line; what a reference cannot say is null</source>
+        <translation>ein Objekt pro Zeile; was eine Referenz nicht sagen kann, ist null</translation>
+    </message>
+    <message>
+        <source>Where a value lies in a published population; which populations there are.</source>
+        <translation>Wo ein Wert in einer publizierten Population liegt; welche Populationen es gibt.</translation>
+    </message>
+    <message>
+        <source>One of W, V, P and Z may be -: then numbers are read from standard input, one a line, and each is
+answered. Nothing is extrapolated: outside the weeks of a reference all numbers are missing, and
+the answer says which weeks there are. who-2017 is made of curves: it has no z, and knows no more
+than &lt;1 and &gt;99 beyond the outermost. A weight&apos;s centile is that of the reference, never of the
+error of a formula.
+</source>
+        <translation>Eines von W, V, P und Z darf - sein: Dann werden Zahlen von der Standardeingabe gelesen, eine pro
+Zeile, und jede wird beantwortet. Nichts wird extrapoliert: Außerhalb der Wochen einer Referenz
+fehlen alle Zahlen, und die Antwort sagt, welche Wochen es gibt. who-2017 besteht aus Kurven: Sie
+hat kein z und kennt jenseits der äußersten nur &lt;1 und &gt;99. Die Perzentile eines Gewichts ist die
+der Referenz, nie die des Fehlers einer Formel.
+</translation>
+    </message>
+    <message>
+        <source>one JSON object a document, on a line: unrounded numbers, the texts beside them</source>
+        <translation>ein JSON-Objekt pro Dokument, jedes auf einer Zeile: ungerundete Zahlen, die Texte daneben</translation>
+    </message>
+    <message>
+        <source>The tabular report of each document: every fetus, every examination, the projection.</source>
+        <translation>Der Bericht jedes Dokuments als Tabelle: alle Feten, alle Untersuchungen, die Projektion.</translation>
+    </message>
+    <message>
+        <source>Date and Menstrual Age are those of the last examination. Days are those of the local time zone. The
+projection is there when the last examination lies from 30 weeks to the planned delivery. Keys of
+the JSON, among others: file, maternalIDString, edd, fetuses, in each examinations (age in weeks;
+bpd, hc, ac, fl in mm; efw in g) and projected; docs/json.md lists them all.
+</source>
+        <translation>Date und Menstrual Age sind die der letzten Untersuchung. Tage sind die der lokalen Zeitzone. Die
+Projektion steht da, wenn die letzte Untersuchung zwischen 30 Wochen und der geplanten Entbindung
+liegt. Schlüssel des JSON sind unter anderem: file, maternalIDString, edd, fetuses, darin jeweils
+examinations (age in Wochen; bpd, hc, ac, fl in mm; efw in g) und projected; docs/json.md nennt
+alle.
+</translation>
+    </message>
+    <message>
+        <source>a document, or a folder with documents in it; - is a document on standard input</source>
+        <translation>ein Dokument oder ein Ordner mit Dokumenten; - ist ein Dokument auf der Standardeingabe</translation>
+    </message>
+    <message>
+        <source>more names of files and folders, one a line; - is standard input</source>
+        <translation>weitere Namen von Dateien und Ordnern, einer pro Zeile; - ist die Standardeingabe</translation>
+    </message>
+    <message>
+        <source>the names of --files-from end with NUL instead</source>
+        <translation>die Namen von --files-from enden stattdessen mit NUL</translation>
+    </message>
+    <message>
+        <source>the documents in a tar archive, plain, gzip or zstd; - is standard input</source>
+        <translation>die Dokumente in einem Tar-Archiv, unkomprimiert, gzip oder zstd; - ist die Standardeingabe</translation>
+    </message>
+    <message>
+        <source>growth standards by number or name, intergrowth-2014, with commas between; or all four</source>
+        <translation>Wachstumsstandards, Nummer oder Name, intergrowth-2014, mit Kommas dazwischen; all: alle vier</translation>
+    </message>
+    <message>
+        <source>only these columns, in this order, with commas between</source>
+        <translation>nur diese Spalten, in dieser Reihenfolge, mit Kommas dazwischen</translation>
+    </message>
+    <message>
+        <source>one decimal, for z-scores three</source>
+        <translation>eine Nachkommastelle, bei z-Scores drei</translation>
+    </message>
+    <message>
+        <source>comma-separated values, or a JSON object a line</source>
+        <translation>kommagetrennte Werte oder ein JSON-Objekt pro Zeile</translation>
+    </message>
+    <message>
+        <source>leave off the line with the names of the columns</source>
+        <translation>die Zeile mit den Namen der Spalten weglassen</translation>
+    </message>
+    <message>
+        <source>reference ID, note and names of files too</source>
+        <translation>auch Patienten-ID, Notiz und Namen der Dateien</translation>
+    </message>
+    <message>
+        <source>in the column file the place of the document, or its name</source>
+        <translation>in der Spalte file die laufende Nummer des Dokuments oder sein Name</translation>
+    </message>
+    <message>
+        <source>days to the EDD in place of the dates</source>
+        <translation>Tage bis zum ET anstelle von Datumsangaben</translation>
+    </message>
+    <message>
+        <source>the zone whose days are meant, such as Europe/Paris</source>
+        <translation>die Zeitzone, deren Tage gemeint sind, zum Beispiel Europe/Paris</translation>
+    </message>
+    <message>
+        <source>stop at the first document that cannot be read</source>
+        <translation>beim ersten Dokument anhalten, das nicht gelesen werden kann</translation>
+    </message>
+    <message>
+        <source>work on so many documents at a time; the output is the same</source>
+        <translation>so viele Dokumente gleichzeitig bearbeiten; die Ausgabe ist dieselbe</translation>
+    </message>
+    <message>
+        <source>A row for each fetus at each examination: age, lengths, weights, z-scores; for statistics.</source>
+        <translation>Eine Zeile pro Fetus und Untersuchung: Alter, Maße, Gewichte, z-Scores; für die Statistik.</translation>
+    </message>
+    <message>
+        <source>Of a folder all *.nascor are taken, and those of the folders in it. Columns:
+  file,exam,fetus,exam_date,edd,ga_weeks,bpd_mm,hc_mm,ac_mm,fl_mm,efw_0_g,...,efw_7_g
+  standard,bpd_mean_mm,bpd_sd_mm,bpd_z,...,fl_z        by each document&apos;s own standard, or
+  westerway_bpd_mean_mm,...                            by each of --standard
+  reference_id,note                                    with --identify
+  warning,error
+file counts the documents from 0, exam and fetus what they hold. A cell is empty where nothing was
+measured or nothing can be computed. warning names what is improbable. A document that cannot be
+read has a row with file and error; the others go on, and the status is 1.
+
+Privacy: documents are named after patients. Without --identify no cell holds a reference ID, a
+note or (unless --file path is given) the name of a file. Standard error names files in any case,
+for the person at the terminal: do not keep it with the rows. Notes may hold dates
+in their text: --relative-dates with --identify leaves them as they are.
+Texts stand in CSV as they are. A spreadsheet runs cells that begin with &apos;=&apos;: import names,
+reference IDs and notes as text.
+</source>
+        <translation>Von einem Ordner werden alle *.nascor genommen, auch die in den Ordnern darin. Spalten:
+  file,exam,fetus,exam_date,edd,ga_weeks,bpd_mm,hc_mm,ac_mm,fl_mm,efw_0_g,...,efw_7_g
+  standard,bpd_mean_mm,bpd_sd_mm,bpd_z,...,fl_z        nach dem Standard jedes Dokuments oder
+  westerway_bpd_mean_mm,...                            nach jedem von --standard
+  reference_id,note                                    mit --identify
+  warning,error
+file zählt die Dokumente ab 0, exam und fetus, was sie enthalten. Eine Zelle ist leer, wo nichts
+gemessen wurde oder nichts berechnet werden kann. warning nennt Unwahrscheinliches. Ein Dokument,
+das nicht gelesen werden kann, hat eine Zeile mit file und error; mit den anderen geht es weiter,
+und der Rückgabewert ist 1.
+
+Datenschutz: Dokumente sind nach Patientinnen benannt. Ohne --identify enthält keine Zelle eine
+Patienten-ID, eine Notiz oder (außer mit --file path) den Namen einer Datei. Die
+Standardfehlerausgabe nennt Dateien in jedem Fall, für die Person am Terminal: Bewahren Sie sie
+nicht mit den Zeilen auf. Notizen können in ihrem Text Datumsangaben enthalten: --relative-dates
+mit --identify lässt sie, wie sie sind.
+Texte stehen in CSV, wie sie sind. Eine Tabellenkalkulation führt Zellen aus, die mit &apos;=&apos; beginnen:
+Importieren Sie Namen, Patienten-IDs und Notizen als Text.
+</translation>
+    </message>
+    <message>
+        <source>one object a group, on a line</source>
+        <translation>ein Objekt pro Gruppe, jedes auf einer Zeile</translation>
+    </message>
+    <message>
+        <source>Works examples with known results out again: formulas, standards, references, dating.</source>
+        <translation>Rechnet Beispiele mit bekannten Ergebnissen nach: Formeln, Standards, Referenzen, Datierung.</translation>
+    </message>
+    <message>
+        <source>A line a group: its name, how many values it has, how many of them differ; the last line is the total.
+The values are printed ones, held against the program at their own precision, and others that were
+worked out apart from the program. The status is 1 when one differs.
+</source>
+        <translation>Eine Zeile pro Gruppe: ihr Name, wie viele Werte sie hat, wie viele davon abweichen; die letzte
+Zeile ist die Summe. Die Werte sind gedruckte, mit dem Programm in ihrer eigenen Genauigkeit
+verglichen, und andere, die unabhängig vom Programm berechnet wurden. Der Rückgabewert ist 1, wenn
+einer abweicht.
+</translation>
+    </message>
+    <message>
+        <source>what is wanted of the server</source>
+        <translation>was vom Server gewünscht wird</translation>
+    </message>
+    <message>
+        <source>a DICOM report to send; - is standard input</source>
+        <translation>ein zu sendender DICOM-Bericht; - ist die Standardeingabe</translation>
+    </message>
+    <message>
+        <source>the server: a name or an IPv4 address</source>
+        <translation>der Server: ein Name oder eine IPv4-Adresse</translation>
+    </message>
+    <message>
+        <source>its port</source>
+        <translation>sein Port</translation>
+    </message>
+    <message>
+        <source>its application entity title</source>
+        <translation>sein AE-Titel</translation>
+    </message>
+    <message>
+        <source>that of this program; without this option NASCOR</source>
+        <translation>der AE-Titel dieses Programms; ohne diese Option NASCOR</translation>
+    </message>
+    <message>
+        <source>speak encrypted, to a server whose certificate comes from this authority (PEM)</source>
+        <translation>verschlüsselt, mit einem Server, dessen Zertifikat von dieser CA stammt (PEM)</translation>
+    </message>
+    <message>
+        <source>the certificate of this program, for servers that ask for one (PEM)</source>
+        <translation>das Zertifikat dieses Programms, für Server, die eines verlangen (PEM)</translation>
+    </message>
+    <message>
+        <source>the key of that certificate, without a password (PEM)</source>
+        <translation>der Schlüssel zu diesem Zertifikat, ohne Passwort (PEM)</translation>
+    </message>
+    <message>
+        <source>for the whole of one connection, 1 to 3600; without this option 30</source>
+        <translation>für eine Verbindung insgesamt, 1 bis 3600; ohne diese Option 30</translation>
+    </message>
+    <message>
+        <source>find, fetch: the reports of this reference ID</source>
+        <translation>find, fetch: die Berichte zu dieser Patienten-ID</translation>
+    </message>
+    <message>
+        <source>find, fetch: those of this study</source>
+        <translation>find, fetch: die Berichte dieser Studie</translation>
+    </message>
+    <message>
+        <source>find, fetch: of studies of this day (2026-11-23) and later</source>
+        <translation>find, fetch: von Studien dieses Tages (2026-11-23) und später</translation>
+    </message>
+    <message>
+        <source>find, fetch: of studies of this day and earlier</source>
+        <translation>find, fetch: von Studien dieses Tages und früher</translation>
+    </message>
+    <message>
+        <source>fetch: the folder for the files, which is made when it is missing</source>
+        <translation>fetch: der Ordner für die Dateien, wird angelegt, wenn er fehlt</translation>
+    </message>
+    <message>
+        <source>Fetches reports from a DICOM server, and sends reports to it.</source>
+        <translation>Ruft Berichte von einem DICOM-Server ab und sendet Berichte dorthin.</translation>
+    </message>
+    <message>
+        <source>echo asks whether the server answers. find lists its reports, an object a line: patientID, studyDate,
+study, series, instance. fetch writes them as INSTANCE.dcm, never over a file that is there, and needs a
+patient or a study. send sends files that &quot;export --format sr&quot; or a machine wrote.
+No other command uses the network, and this one speaks to the server of its options alone.
+</source>
+        <translation>echo fragt, ob der Server antwortet. find listet seine Berichte auf, ein Objekt pro Zeile:
+patientID, studyDate, study, series, instance. fetch schreibt sie als INSTANCE.dcm, nie über eine
+vorhandene Datei, und braucht eine Patientin oder eine Studie. send sendet Dateien, die
+„export --format sr“ oder ein Gerät geschrieben hat.
+Kein anderer Befehl benutzt das Netz, und dieser spricht nur mit dem Server seiner Optionen.
+</translation>
+    </message>
+    <message>
+        <source>Growth standards (N):
+%1
+Weight formulas (K):
+%2
+The number or the name, in letters of any size.
+</source>
+        <translation>Wachstumsstandards (N):
+%1
+Gewichtsformeln (K):
+%2
+Die Nummer oder der Name, groß oder klein geschrieben.
+</translation>
+    </message>
+    <message>
+        <source>growth standard, see below</source>
+        <translation>Wachstumsstandard, siehe unten</translation>
+    </message>
+    <message>
+        <source>one of bpd, hc, ac, fl, efw; without it the four lengths</source>
+        <translation>bpd, hc, ac, fl oder efw; ohne diese Option die vier Maße</translation>
+    </message>
+    <message>
+        <source>weight formula, see below; needed for efw</source>
+        <translation>Gewichtsformel, siehe unten; nötig für efw</translation>
+    </message>
+    <message>
+        <source>rows [week, mean, sd]; without --measurement an object of such rows by measurement</source>
+        <translation>Zeilen [Woche, Mittelwert, SD]; ohne --measurement ein Objekt solcher Zeilen nach Messgröße</translation>
+    </message>
+    <message>
+        <source>A reference table: mean and standard deviation at each week, in mm or g.</source>
+        <translation>Eine Referenztabelle: Mittelwert und Standardabweichung für jede Woche, in mm oder g.</translation>
+    </message>
+    <message>
+        <source>%1
+The mean weight is that of a fetus whose four lengths are the means. Its standard deviation is the
+error of the formula, not the spread of a population; 0 where none is published.
+</source>
+        <translation>%1
+Das mittlere Gewicht ist das eines Fetus, dessen vier Maße die Mittelwerte sind. Seine
+Standardabweichung ist der Fehler der Formel, nicht die Streuung einer Population; 0, wo keiner
+publiziert ist.
+</translation>
+    </message>
+    <message>
+        <source>one of bpd, hc, ac, fl, efw</source>
+        <translation>bpd, hc, ac, fl oder efw</translation>
+    </message>
+    <message>
+        <source>the mean at W weeks</source>
+        <translation>der Mittelwert bei W Wochen</translation>
+    </message>
+    <message>
+        <source>the standard deviation at W weeks</source>
+        <translation>die Standardabweichung bei W Wochen</translation>
+    </message>
+    <message>
+        <source>the age in weeks of which MM (grams for efw) is the mean</source>
+        <translation>das Gestationsalter in Wochen, dessen Mittelwert MM ist (Gramm bei efw)</translation>
+    </message>
+    <message>
+        <source>the same number as JSON</source>
+        <translation>dieselbe Zahl als JSON</translation>
+    </message>
+    <message>
+        <source>One look-up in a reference table, between whole weeks by linear interpolation.</source>
+        <translation>Ein Wert aus einer Referenztabelle, zwischen ganzen Wochen linear interpoliert.</translation>
+    </message>
+    <message>
+        <source>The value may be -: then values are read from standard input, one a line, and answered one a line; a
+line that is no number is answered by nan (null in JSON). Nothing is extrapolated: beyond the table
+its first or last week counts, and standard error says so (of standard input once).
+
+%1</source>
+        <translation>Der Wert darf - sein: Dann werden Werte von der Standardeingabe gelesen, einer pro Zeile, und pro
+Zeile beantwortet; die Antwort auf eine Zeile, die keine Zahl ist, ist nan (null in JSON). Nichts
+wird extrapoliert: Außerhalb der Tabelle gilt ihre erste oder letzte Woche, und die
+Standardfehlerausgabe sagt es (bei der Standardeingabe einmal).
+
+%1</translation>
+    </message>
+    <message>
+        <source>the paper of a PDF; without this option A4</source>
+        <translation>das Papier einer PDF-Datei; ohne diese Option A4</translation>
+    </message>
+    <message>
+        <source>who examined</source>
+        <translation>wer untersucht hat</translation>
+    </message>
+    <message>
+        <source>a line at the head of each fetus; once for each line</source>
+        <translation>eine Zeile im Briefkopf jedes Fetus; die Option einmal für jede Zeile</translation>
+    </message>
+    <message>
+        <source>A summary for the records: a page or two a fetus, typeset, or as HTML.</source>
+        <translation>Eine Zusammenfassung für die Akte: ein oder zwei Seiten pro Fetus, gesetzt oder als HTML.</translation>
+    </message>
+    <message>
+        <source>EDD, measurements with z and centile by the growth standard, weights, growth, small charts, notes,
+and the sources of all that was used. Each document is one file, &quot;NAME - Summary.pdf&quot;.
+Files of the same names are replaced, but with --no-clobber. SOURCE_DATE_EPOCH, in seconds since
+1970, takes the place of the present moment.
+</source>
+        <translation>ET, Messwerte mit z und Perzentile nach dem Wachstumsstandard, Gewichte, Wachstum, kleine
+Diagramme, Notizen und die Quellen von allem, was verwendet wurde. Jedes Dokument ist eine Datei,
+„NAME - Summary.pdf“.
+Dateien gleichen Namens werden ersetzt, außer mit --no-clobber. SOURCE_DATE_EPOCH, in Sekunden seit
+1970, tritt an die Stelle des gegenwärtigen Zeitpunkts.
+</translation>
+    </message>
+</context>
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>line %1: %2</source>
+        <translation>Zeile %1: %2</translation>
+    </message>
+    <message>
+        <source>there is no header</source>
+        <translation>die Kopfzeile fehlt</translation>
+    </message>
+    <message>
+        <source>there is no column %1: never measured</source>
+        <translation>die Spalte %1 fehlt: gilt als nie gemessen</translation>
+    </message>
+    <message>
+        <source>--columns: %1</source>
+        <translation>--columns: %1</translation>
+    </message>
+    <message>
+        <source>is a database of another program</source>
+        <extracomment>Behind the name of a file, as are the next ones.</extracomment>
+        <translation>ist eine Datenbank eines anderen Programms</translation>
+    </message>
+    <message>
+        <source>was made by another version of this program: remove it, and make it anew</source>
+        <translation>wurde von einer anderen Version dieses Programms angelegt: bitte entfernen und neu anlegen</translation>
+    </message>
+    <message>
+        <source>no folder</source>
+        <translation>keinem Ordner</translation>
+    </message>
+    <message>
+        <source>is the index of %1, not of %2</source>
+        <translation>ist der Index von %1, nicht von %2</translation>
+    </message>
+    <message>
+        <source>is no index of this program</source>
+        <translation>ist kein Index dieses Programms</translation>
+    </message>
+    <message>
+        <source>--%1 takes no value</source>
+        <translation>--%1 nimmt keinen Wert</translation>
+    </message>
+    <message>
+        <source>%1 is missing</source>
+        <translation>%1 fehlt</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is one argument too many</source>
+        <translation>„%1“ ist ein Argument zu viel</translation>
+    </message>
+    <message>
+        <source>there is no command &quot;%1&quot;</source>
+        <translation>es gibt keinen Befehl „%1“</translation>
+    </message>
+    <message>
+        <source>there is no option &quot;%1&quot;</source>
+        <translation>es gibt keine Option „%1“</translation>
+    </message>
+    <message>
+        <source>%1: 1 required  missing</source>
+        <extracomment>An option stands there without its value.</extracomment>
+        <translation>%1: der Wert fehlt</translation>
+    </message>
+    <message>
+        <source>%1: At Most 1 required but received %2</source>
+        <extracomment>An option that may stand there once stands there %2 times.</extracomment>
+        <translation>%1: nur einmal erlaubt, steht aber %2-mal da</translation>
+    </message>
+    <message>
+        <source>help explains one command</source>
+        <translation>help erklärt nur einen Befehl</translation>
+    </message>
+    <message>
+        <source>a command is missing</source>
+        <translation>es fehlt ein Befehl</translation>
+    </message>
+    <message>
+        <source>standard output: %1</source>
+        <translation>Standardausgabe: %1</translation>
+    </message>
+    <message>
+        <source>there is not enough memory</source>
+        <translation>der Arbeitsspeicher reicht nicht aus</translation>
+    </message>
+    <message>
+        <source>standard input</source>
+        <translation>Standardeingabe</translation>
+    </message>
+    <message>
+        <source>warning</source>
+        <translation>Warnung</translation>
+    </message>
+    <message>
+        <source>a document is no text for a terminal; give --out FILE or send standard output to a file</source>
+        <translation>ein Dokument ist kein Text für ein Terminal; geben Sie --out FILE an oder leiten Sie die Standardausgabe in eine Datei</translation>
+    </message>
+    <message>
+        <source>written, but it may not outlast a power cut: %1</source>
+        <translation>geschrieben, übersteht aber vielleicht keinen Stromausfall: %1</translation>
+    </message>
+    <message>
+        <source>holds no patient</source>
+        <extracomment>Behind the name of a file.</extracomment>
+        <translation>enthält keine Patientin</translation>
+    </message>
+    <message>
+        <source>--fetus: expected all or a number from 1 to 5</source>
+        <translation>--fetus: all oder eine Nummer von 1 bis 5 erwartet</translation>
+    </message>
+    <message>
+        <source>--out is missing</source>
+        <translation>--out fehlt</translation>
+    </message>
+    <message>
+        <source>--format: expected pdf, png, svg, sr or fhir</source>
+        <translation>--format: pdf, png, svg, sr oder fhir erwartet</translation>
+    </message>
+    <message>
+        <source>--ndjson is for --format fhir</source>
+        <translation>--ndjson gilt für --format fhir</translation>
+    </message>
+    <message>
+        <source>--pages: expected all, first, last, a number from 0 to %1 or a name, but &quot;%2&quot; stands here</source>
+        <translation>--pages: all, first, last, eine Nummer von 0 bis %1 oder ein Name erwartet, aber hier steht „%2“</translation>
+    </message>
+    <message>
+        <source>--out - takes the pages of one document</source>
+        <translation>--out - nimmt die Seiten nur eines Dokuments</translation>
+    </message>
+    <message>
+        <source>pages are no text for a terminal; give --out DIR or send standard output to a file</source>
+        <translation>Seiten sind kein Text für ein Terminal; geben Sie --out DIR an oder leiten Sie die Standardausgabe in eine Datei</translation>
+    </message>
+    <message>
+        <source>%1; the pages are painted by this program</source>
+        <translation>%1; dieses Programm zeichnet die Seiten</translation>
+    </message>
+    <message>
+        <source>--format: expected sr or fhir; pages are painted by the application, which is not built here</source>
+        <translation>--format: sr oder fhir erwartet; Seiten zeichnet die Anwendung, die hier nicht mit erstellt wurde</translation>
+    </message>
+    <message>
+        <source>a length is missing</source>
+        <translation>es fehlt ein Maß</translation>
+    </message>
+    <message>
+        <source>no formula dates %1 mm; they reach from %2 to %3 mm</source>
+        <extracomment>Crown-rump lengths.</extracomment>
+        <translation>keine Formel datiert %1 mm; die Formeln reichen von %2 bis %3 mm</translation>
+    </message>
+    <message>
+        <source>--fetus: expected ID=N with a number from 1 to 5, but &quot;%1&quot; stands here</source>
+        <translation>--fetus: ID=N mit einer Nummer von 1 bis 5 erwartet, aber hier steht „%1“</translation>
+    </message>
+    <message>
+        <source>--patient takes a reference ID, and an empty one is none</source>
+        <translation>--patient nimmt eine Patienten-ID, und eine leere ist keine</translation>
+    </message>
+    <message>
+        <source>--patient takes a reference ID of UTF-8 text in one line</source>
+        <translation>--patient nimmt eine Patienten-ID aus UTF-8-Text in einer Zeile</translation>
+    </message>
+    <message>
+        <source>--fetus: &quot;%1&quot; is given two numbers</source>
+        <translation>--fetus: „%1“ erhält zwei Nummern</translation>
+    </message>
+    <message>
+        <source>is of patient &quot;%1&quot;, others are of &quot;%2&quot;; nothing is stored. Please import those of each patient alone</source>
+        <translation>gehört zur Patientin „%1“, andere gehören zu „%2“; es wird nichts gespeichert. Bitte importieren Sie die jeder Patientin einzeln</translation>
+    </message>
+    <message>
+        <source>it is there already, and stays as it is</source>
+        <translation>ist bereits vorhanden und bleibt, wie es ist</translation>
+    </message>
+    <message>
+        <source>--out and --into are two ways to store</source>
+        <translation>--out und --into sind zwei Arten zu speichern</translation>
+    </message>
+    <message>
+        <source>%1 takes a file</source>
+        <translation>%1 nimmt eine Datei</translation>
+    </message>
+    <message>
+        <source>the same holds for %1 more of the input</source>
+        <translation>dasselbe gilt noch %1-mal in der Eingabe</translation>
+    </message>
+    <message>
+        <source>--db is missing: the file of the index</source>
+        <translation>--db fehlt: die Datei des Index</translation>
+    </message>
+    <message>
+        <source>a whole number from 0</source>
+        <translation>eine ganze Zahl ab 0</translation>
+    </message>
+    <message>
+        <source>a day such as 2027-04-10</source>
+        <translation>ein Tag wie 2027-04-10</translation>
+    </message>
+    <message>
+        <source>three characters or more</source>
+        <translation>mindestens drei Zeichen</translation>
+    </message>
+    <message>
+        <source>there are more than %1: a longer text, or --limit, shows them</source>
+        <translation>es gibt mehr als %1: ein längerer Text grenzt sie ein, --limit zeigt mehr</translation>
+    </message>
+    <message>
+        <source>longer than 1 GiB, which no document is</source>
+        <translation>länger als 1 GiB, und so lang ist kein Dokument</translation>
+    </message>
+    <message>
+        <source>line %1: expected a decimal number, but &quot;%2&quot; stands here</source>
+        <translation>Zeile %1: eine Dezimalzahl erwartet, aber hier steht „%2“</translation>
+    </message>
+    <message>
+        <source>%1 or a whole number from 0 to %2</source>
+        <extracomment>%1 is a list of names.</extracomment>
+        <translation>%1 oder eine ganze Zahl von 0 bis %2</translation>
+    </message>
+    <message>
+        <source>expected bpd, hc, ac, fl or efw as the measurement, but &quot;%1&quot; was given</source>
+        <translation>als Messgröße bpd, hc, ac, fl oder efw erwartet, aber „%1“ angegeben</translation>
+    </message>
+    <message>
+        <source>%1: expected %2, but &quot;%3&quot; was given</source>
+        <extracomment>%1 is an option or an operand, %2 what it takes, %3 what was typed.</extracomment>
+        <translation>%1: %2 erwartet, aber „%3“ angegeben</translation>
+    </message>
+    <message>
+        <source>a decimal number</source>
+        <translation>eine Dezimalzahl</translation>
+    </message>
+    <message>
+        <source>the reference ID has a character that a DICOM report cannot hold</source>
+        <translation>die Patienten-ID hat ein Zeichen, das ein DICOM-Bericht nicht aufnehmen kann</translation>
+    </message>
+    <message>
+        <source>the reference ID is longer than the 64 characters of a DICOM report</source>
+        <translation>die Patienten-ID ist länger als die 64 Zeichen eines DICOM-Berichts</translation>
+    </message>
+    <message>
+        <source>cannot be written: %1</source>
+        <translation>kann nicht geschrieben werden: %1</translation>
+    </message>
+    <message>
+        <source>--%1 is for pages, not for --format %2</source>
+        <translation>--%1 gilt für Seiten, nicht für --format %2</translation>
+    </message>
+    <message>
+        <source>--ndjson writes to standard output, and takes no --out</source>
+        <translation>--ndjson schreibt zur Standardausgabe und nimmt kein --out</translation>
+    </message>
+    <message>
+        <source>--out is missing, or no folder</source>
+        <translation>--out fehlt oder ist kein Ordner</translation>
+    </message>
+    <message>
+        <source>it holds no examination, and nothing is written</source>
+        <translation>enthält keine Untersuchung, und nichts wird geschrieben</translation>
+    </message>
+    <message>
+        <source>--out needs the recovery file to write; recover alone lists them</source>
+        <translation>--out braucht die zu schreibende Wiederherstellungsdatei; recover allein listet sie auf</translation>
+    </message>
+    <message>
+        <source>give --out DOCUMENT, where to write the document</source>
+        <translation>geben Sie mit --out DOCUMENT an, wohin das Dokument geschrieben wird</translation>
+    </message>
+    <message>
+        <source>a number above 0</source>
+        <translation>eine Zahl über 0</translation>
+    </message>
+    <message>
+        <source>a number between 0 and 100, both excluded</source>
+        <translation>eine Zahl zwischen 0 und 100, beide ausgeschlossen</translation>
+    </message>
+    <message>
+        <source>%1 tells nothing of %2; it has %3</source>
+        <extracomment>%1 is a reference, %2 a measurement, %3 a list of measurements.</extracomment>
+        <translation>%1 sagt nichts über %2; vorhanden: %3</translation>
+    </message>
+    <message>
+        <source>--week is missing</source>
+        <translation>--week fehlt</translation>
+    </message>
+    <message>
+        <source>--value, --centile and --z exclude each other</source>
+        <translation>--value, --centile und --z schließen einander aus</translation>
+    </message>
+    <message>
+        <source>--week and --%1 cannot both be -</source>
+        <translation>--week und --%1 können nicht beide - sein</translation>
+    </message>
+    <message>
+        <source>expected %1, but %2 was given</source>
+        <translation>%1 erwartet, aber %2 angegeben</translation>
+    </message>
+    <message>
+        <source>NAME is missing</source>
+        <translation>NAME fehlt</translation>
+    </message>
+    <message>
+        <source>MEASURE is missing</source>
+        <translation>MEASURE fehlt</translation>
+    </message>
+    <message>
+        <source>%1: fmf-2018 is not offered, because its formula was not held against its printed table</source>
+        <translation>%1: fmf-2018 wird nicht angeboten, weil die Formel nicht mit der gedruckten Tabelle abgeglichen wurde</translation>
+    </message>
+    <message>
+        <source>%1: expected one of %2, but &quot;%3&quot; was given</source>
+        <extracomment>%1 is an option or an operand, %2 a list of names.</extracomment>
+        <translation>%1: eines von %2 erwartet, aber „%3“ angegeben</translation>
+    </message>
+    <message>
+        <source>--standard: %1 has no mean and SD of the four lengths</source>
+        <translation>--standard: %1 hat keinen Mittelwert und keine SD der vier Maße</translation>
+    </message>
+    <message>
+        <source>--standard: &quot;%1&quot; stands there twice</source>
+        <translation>--standard: „%1“ steht zweimal da</translation>
+    </message>
+    <message>
+        <source>--columns: a name is empty</source>
+        <translation>--columns: ein Name ist leer</translation>
+    </message>
+    <message>
+        <source>--columns: &quot;%1&quot; stands there twice</source>
+        <translation>--columns: „%1“ steht zweimal da</translation>
+    </message>
+    <message>
+        <source>--columns: there is no column &quot;%1&quot;</source>
+        <translation>--columns: es gibt keine Spalte „%1“</translation>
+    </message>
+    <message>
+        <source>--columns: %1 needs --identify</source>
+        <translation>--columns: %1 braucht --identify</translation>
+    </message>
+    <message>
+        <source>--columns: %1 is a date, which --relative-dates leaves out</source>
+        <translation>--columns: %1 ist ein Datum, das --relative-dates weglässt</translation>
+    </message>
+    <message>
+        <source>--columns: %1 needs --relative-dates</source>
+        <translation>--columns: %1 braucht --relative-dates</translation>
+    </message>
+    <message>
+        <source>--file: expected number or path</source>
+        <translation>--file: number oder path erwartet</translation>
+    </message>
+    <message>
+        <source>--format: expected csv or jsonl</source>
+        <translation>--format: csv oder jsonl erwartet</translation>
+    </message>
+    <message>
+        <source>a whole number above 0</source>
+        <translation>eine ganze Zahl über 0</translation>
+    </message>
+    <message>
+        <source>--null needs --files-from</source>
+        <translation>--null braucht --files-from</translation>
+    </message>
+    <message>
+        <source>--tar stands alone, without PATH and --files-from</source>
+        <translation>--tar steht allein, ohne PATH und --files-from</translation>
+    </message>
+    <message>
+        <source>standard input (-) can be read once only</source>
+        <translation>die Standardeingabe (-) kann nur einmal gelesen werden</translation>
+    </message>
+    <message>
+        <source>a PATH, --files-from or --tar is missing</source>
+        <translation>es fehlt ein PATH, --files-from oder --tar</translation>
+    </message>
+    <message>
+        <source>--time-zone: this system knows no zone &quot;%1&quot;</source>
+        <translation>--time-zone: dieses System kennt keine Zeitzone „%1“</translation>
+    </message>
+    <message>
+        <source>%1 of %2 values differ</source>
+        <translation>%1 von %2 Werten weichen ab</translation>
+    </message>
+    <message>
+        <source>--%1: expected a day like 2026-11-23, but &quot;%2&quot; stands here</source>
+        <translation>--%1: ein Tag wie 2026-11-23 erwartet, aber hier steht „%2“</translation>
+    </message>
+    <message>
+        <source>--patient: the reference ID is empty</source>
+        <translation>--patient: die Patienten-ID ist leer</translation>
+    </message>
+    <message>
+        <source>--study: the UID is empty</source>
+        <translation>--study: die UID ist leer</translation>
+    </message>
+    <message>
+        <source>has no such report</source>
+        <translation>hat keinen solchen Bericht</translation>
+    </message>
+    <message>
+        <source>is not sent, because the server did not answer before</source>
+        <translation>wird nicht gesendet, weil der Server zuvor nicht geantwortet hat</translation>
+    </message>
+    <message>
+        <source>is not sent: %1 %2</source>
+        <extracomment>%1 is the address of a server, %2 what is wrong with it: &quot;... is not sent: host:104 does not answer&quot;.</extracomment>
+        <translation>wird nicht gesendet: %1 %2</translation>
+    </message>
+    <message>
+        <source>--%1 is not for %2</source>
+        <translation>--%1 gilt nicht für %2</translation>
+    </message>
+    <message>
+        <source>%1 takes no FILE</source>
+        <translation>%1 nimmt kein FILE</translation>
+    </message>
+    <message>
+        <source>fetch needs --patient or --study</source>
+        <translation>fetch braucht --patient oder --study</translation>
+    </message>
+    <message>
+        <source>--out takes a folder</source>
+        <translation>--out nimmt einen Ordner</translation>
+    </message>
+    <message>
+        <source>expected echo, find, fetch or send</source>
+        <translation>echo, find, fetch oder send erwartet</translation>
+    </message>
+    <message>
+        <source>is not contacted: %1</source>
+        <translation>wird nicht kontaktiert: %1</translation>
+    </message>
+    <message>
+        <source>the connection is not encrypted: what goes over it can be read on its way; see --ca</source>
+        <translation>die Verbindung ist nicht verschlüsselt: Was darüber geht, kann unterwegs gelesen werden; siehe --ca</translation>
+    </message>
+    <message>
+        <source>efw needs --formula</source>
+        <translation>efw braucht --formula</translation>
+    </message>
+    <message>
+        <source>%1 lies beyond the table, whose first week, %2, counts</source>
+        <translation>%1 liegt außerhalb der Tabelle; es gilt ihre erste Woche, %2</translation>
+    </message>
+    <message>
+        <source>%1 lies beyond the table, whose last week, %2, counts</source>
+        <translation>%1 liegt außerhalb der Tabelle; es gilt ihre letzte Woche, %2</translation>
+    </message>
+    <message>
+        <source>--mean, --sd and --gestation exclude each other</source>
+        <translation>--mean, --sd und --gestation schließen einander aus</translation>
+    </message>
+    <message>
+        <source>one of --mean, --sd and --gestation is missing</source>
+        <translation>es fehlt --mean, --sd oder --gestation</translation>
+    </message>
+    <message>
+        <source>%1; did you mean &quot;%2&quot;?</source>
+        <extracomment>%1 is a sentence, %2 what may have been meant.</extracomment>
+        <translation>%1; meinten Sie „%2“?</translation>
+    </message>
+    <message>
+        <source>SOURCE_DATE_EPOCH: expected whole seconds since 1970</source>
+        <translation>SOURCE_DATE_EPOCH: ganze Sekunden seit 1970 erwartet</translation>
+    </message>
+    <message>
+        <source>--paper: expected a4 or letter</source>
+        <translation>--paper: a4 oder letter erwartet</translation>
+    </message>
+    <message>
+        <source>cannot be put on paper: %1</source>
+        <translation>kann nicht als PDF gesetzt werden: %1</translation>
+    </message>
+    <message>
+        <source>--format: expected pdf or html</source>
+        <translation>--format: pdf oder html erwartet</translation>
+    </message>
+    <message>
+        <source>--out - takes the summary of one document</source>
+        <translation>--out - nimmt die Zusammenfassung nur eines Dokuments</translation>
+    </message>
+    <message>
+        <source>a PDF is no text for a terminal; give --out DIR or send standard output to a file</source>
+        <translation>ein PDF ist kein Text für ein Terminal; geben Sie --out DIR an oder leiten Sie die Standardausgabe in eine Datei</translation>
+    </message>
+    <message>
+        <source>it has no such fetus</source>
+        <translation>hat keinen solchen Fetus</translation>
+    </message>
+</context>
+<context>
     <name>Compare</name>
     <message>
         <source>BPD</source>
@@ -203,18 +1548,6 @@
     <message>
         <source>The age is not known.</source>
         <translation>Das Gestationsalter ist unbekannt.</translation>
-    </message>
-    <message>
-        <source> has %ld to %ld weeks.</source>
-        <translation> umfasst %ld bis %ld Wochen.</translation>
-    </message>
-    <message>
-        <source> fits weights by another formula alone: </source>
-        <translation> passt nur zu Gewichten nach einer anderen Formel: </translation>
-    </message>
-    <message>
-        <source> has no place for this value.</source>
-        <translation> kann diesen Wert nicht einordnen.</translation>
     </message>
     <message>
         <source>Remark</source>
@@ -609,6 +1942,14 @@
     </message>
 </context>
 <context>
+    <name>Counting</name>
+    <message>
+        <source>1</source>
+        <extracomment>The counts that go with the form for one, with blanks between: &quot;1&quot; in English and German (&quot;1 byte&quot;, &quot;0 bytes&quot;), &quot;0 1&quot; in French.</extracomment>
+        <translation>1</translation>
+    </message>
+</context>
+<context>
     <name>DataMenu</name>
     <message>
         <source>Export Data...</source>
@@ -980,6 +2321,17 @@
     </message>
 </context>
 <context>
+    <name>Files</name>
+    <message>
+        <source>Not a regular file</source>
+        <translation>Keine reguläre Datei</translation>
+    </message>
+    <message>
+        <source>It was changed meanwhile</source>
+        <translation>Die Datei wurde inzwischen geändert</translation>
+    </message>
+</context>
+<context>
     <name>ImportDialog</name>
     <message>
         <source>Examination</source>
@@ -1040,6 +2392,46 @@
     <message>
         <source>%1 of the report is:</source>
         <translation>%1 des Berichts ist:</translation>
+    </message>
+</context>
+<context>
+    <name>Improbable</name>
+    <message>
+        <source>%1 %2 mm is outside %3 to %4 mm</source>
+        <translation>%1 %2 mm liegt außerhalb von %3 bis %4 mm</translation>
+    </message>
+    <message>
+        <source>%1 %2 mm is shorter than where any growth standard begins; lengths are in mm</source>
+        <translation>%1 %2 mm ist kleiner als der Anfang jedes Wachstumsstandards; Maße sind in mm</translation>
+    </message>
+    <message>
+        <source>%1 %2 mm is more than 4 SD below the mean of the growth standard at this age</source>
+        <translation>%1 %2 mm liegt mehr als 4 SD unter dem Mittelwert des Wachstumsstandards in diesem Alter</translation>
+    </message>
+    <message>
+        <source>%1 %2 mm is more than 4 SD above the mean of the growth standard at this age</source>
+        <translation>%1 %2 mm liegt mehr als 4 SD über dem Mittelwert des Wachstumsstandards in diesem Alter</translation>
+    </message>
+    <message>
+        <source>%1 %2 mm is below nine tenths of pi times the BPD, %3 mm</source>
+        <translation>%1 %2 mm liegt unter neun Zehnteln von Pi mal dem BPD von %3 mm</translation>
+    </message>
+    <message>
+        <source>%1 %2 mm is improbable</source>
+        <translation>%1 %2 mm ist unwahrscheinlich</translation>
+    </message>
+    <message>
+        <source>it is %1 day before the last period</source>
+        <extracomment>&quot;It&quot; is an examination.</extracomment>
+        <translation>sie liegt %1 Tag vor der letzten Periode</translation>
+    </message>
+    <message>
+        <source>it is %1 days before the last period</source>
+        <translation>sie liegt %1 Tage vor der letzten Periode</translation>
+    </message>
+    <message>
+        <source>its age, %1, is above 45 weeks</source>
+        <translation>ihr Gestationsalter, %1, liegt über 45 Wochen</translation>
     </message>
 </context>
 <context>
@@ -2163,6 +3555,506 @@
     </message>
 </context>
 <context>
+    <name>Reading</name>
+    <message>
+        <source>a real</source>
+        <translation>eine Gleitkommazahl</translation>
+    </message>
+    <message>
+        <source>the mark of something new</source>
+        <translation>die Kennung für etwas Neues</translation>
+    </message>
+    <message>
+        <source>the end of an object</source>
+        <translation>das Ende eines Objekts</translation>
+    </message>
+    <message>
+        <source>the meaningless byte %1</source>
+        <translation>das bedeutungslose Byte %1</translation>
+    </message>
+    <message>
+        <source>only %1 of its %2 are left</source>
+        <extracomment>%2 is a count, such as &quot;8 bytes&quot;.</extracomment>
+        <translation>nur noch %1 von %2 übrig</translation>
+    </message>
+    <message>
+        <source>label %1 is outside the %2 given so far</source>
+        <translation>Label %1 liegt außerhalb der bisher vergebenen %2</translation>
+    </message>
+    <message>
+        <source>string %1 is outside the %2 given so far</source>
+        <translation>Zeichenkette %1 liegt außerhalb der bisher vergebenen %2</translation>
+    </message>
+    <message>
+        <source>its length is %1</source>
+        <translation>die Länge ist %1</translation>
+    </message>
+    <message>
+        <source>at byte %1: %2</source>
+        <translation>bei Byte %1: %2</translation>
+    </message>
+    <message>
+        <source>expected %1, but %2</source>
+        <extracomment>%1 is what was expected, such as &quot;an object&quot;, %2 a clause such as &quot;the file ends here&quot;.</extracomment>
+        <translation>%1 erwartet, aber %2</translation>
+    </message>
+    <message>
+        <source>%1 stands here</source>
+        <translation>hier steht %1</translation>
+    </message>
+    <message>
+        <source>%1 byte</source>
+        <translation>%1 Byte</translation>
+    </message>
+    <message>
+        <source>%1 bytes</source>
+        <translation>%1 Bytes</translation>
+    </message>
+    <message>
+        <source>the file ends here</source>
+        <translation>die Datei endet hier</translation>
+    </message>
+    <message>
+        <source>the text of this stream is more than %1 times as long as the stream itself</source>
+        <translation>der Text dieses Datenstroms ist mehr als %1-mal so lang wie der Datenstrom selbst</translation>
+    </message>
+    <message>
+        <source>a typed stream of version 4</source>
+        <translation>ein typisierter Datenstrom der Version 4</translation>
+    </message>
+    <message>
+        <source>the signature of a typed stream</source>
+        <translation>die Signatur eines typisierten Datenstroms</translation>
+    </message>
+    <message>
+        <source>the version is %1</source>
+        <translation>die Version ist %1</translation>
+    </message>
+    <message>
+        <source>the system version</source>
+        <translation>die Systemversion</translation>
+    </message>
+    <message>
+        <source>a group of values, or the end of an object</source>
+        <translation>eine Gruppe von Werten oder das Ende eines Objekts</translation>
+    </message>
+    <message>
+        <source>a group of values</source>
+        <translation>eine Gruppe von Werten</translation>
+    </message>
+    <message>
+        <source>%1 ends here</source>
+        <extracomment>An object.</extracomment>
+        <translation>%1 endet hier</translation>
+    </message>
+    <message>
+        <source>the types of a group</source>
+        <translation>die Typen einer Gruppe</translation>
+    </message>
+    <message>
+        <source>the type string %1 %2</source>
+        <extracomment>%2 is what is wrong with it, such as &quot;ends inside an array&quot;.</extracomment>
+        <translation>die Typzeichenkette %1 %2</translation>
+    </message>
+    <message>
+        <source>its text is nil</source>
+        <translation>der Text ist nil</translation>
+    </message>
+    <message>
+        <source>a class name</source>
+        <translation>ein Klassenname</translation>
+    </message>
+    <message>
+        <source>a class version</source>
+        <translation>eine Klassenversion</translation>
+    </message>
+    <message>
+        <source>more than %1 class records stand in a chain</source>
+        <translation>mehr als %1 Klasseneinträge stehen in einer Kette</translation>
+    </message>
+    <message>
+        <source>a superclass</source>
+        <translation>eine Oberklasse</translation>
+    </message>
+    <message>
+        <source>objects, arrays and structures nest more than %1 deep</source>
+        <translation>Objekte, Arrays und Strukturen sind mehr als %1-fach verschachtelt</translation>
+    </message>
+    <message>
+        <source>an integer</source>
+        <translation>eine Ganzzahl</translation>
+    </message>
+    <message>
+        <source>a byte</source>
+        <translation>ein Byte</translation>
+    </message>
+    <message>
+        <source>%1 does not fit that</source>
+        <translation>%1 passt nicht hinein</translation>
+    </message>
+    <message>
+        <source>a string</source>
+        <translation>eine Zeichenkette</translation>
+    </message>
+    <message>
+        <source>a C string</source>
+        <translation>eine C-Zeichenkette</translation>
+    </message>
+    <message>
+        <source>a class</source>
+        <translation>eine Klasse</translation>
+    </message>
+    <message>
+        <source>an array of bytes</source>
+        <translation>ein Array von Bytes</translation>
+    </message>
+    <message>
+        <source>an array</source>
+        <translation>ein Array</translation>
+    </message>
+    <message>
+        <source>it takes at least %1, and %2 are left</source>
+        <extracomment>%1 is a count, such as &quot;8 bytes&quot;.</extracomment>
+        <translation>mindestens %1 nötig, noch %2 übrig</translation>
+    </message>
+    <message>
+        <source>a structure</source>
+        <translation>eine Struktur</translation>
+    </message>
+    <message>
+        <source>an object</source>
+        <translation>ein Objekt</translation>
+    </message>
+    <message>
+        <source>the class of an object</source>
+        <translation>die Klasse eines Objekts</translation>
+    </message>
+    <message>
+        <source>the end of %1</source>
+        <extracomment>%1 is an object.</extracomment>
+        <translation>das Ende von %1</translation>
+    </message>
+    <message>
+        <source>more values follow</source>
+        <translation>es folgen weitere Werte</translation>
+    </message>
+    <message>
+        <source>class %1 (%2)</source>
+        <translation>Klasse %1 (%2)</translation>
+    </message>
+    <message>
+        <source>C string %1</source>
+        <translation>C-Zeichenkette %1</translation>
+    </message>
+    <message>
+        <source>object %1 (of no class yet)</source>
+        <translation>Objekt %1 (noch ohne Klasse)</translation>
+    </message>
+    <message>
+        <source>object %1 (%2)</source>
+        <translation>Objekt %1 (%2)</translation>
+    </message>
+    <message>
+        <source>nests arrays and structures more than %1 deep</source>
+        <extracomment>Behind &quot;the type string ...&quot;, as are the next ones.</extracomment>
+        <translation>verschachtelt Arrays und Strukturen mehr als %1-fach</translation>
+    </message>
+    <message>
+        <source>has the unknown type code %1</source>
+        <translation>enthält den unbekannten Typcode %1</translation>
+    </message>
+    <message>
+        <source>has an array without a count</source>
+        <translation>enthält ein Array ohne Anzahl</translation>
+    </message>
+    <message>
+        <source>ends inside an array</source>
+        <translation>endet innerhalb eines Arrays</translation>
+    </message>
+    <message>
+        <source>has an array without an element type</source>
+        <translation>enthält ein Array ohne Elementtyp</translation>
+    </message>
+    <message>
+        <source>has an array that is not closed</source>
+        <translation>enthält ein Array, das nicht geschlossen wird</translation>
+    </message>
+    <message>
+        <source>has an array whose elements take no bytes</source>
+        <translation>enthält ein Array, dessen Elemente keine Bytes belegen</translation>
+    </message>
+    <message>
+        <source>has a structure without members</source>
+        <translation>enthält eine Struktur ohne Felder</translation>
+    </message>
+    <message>
+        <source>has a structure that is not closed</source>
+        <translation>enthält eine Struktur, die nicht geschlossen wird</translation>
+    </message>
+    <message>
+        <source>a selector</source>
+        <translation>ein Selektor</translation>
+    </message>
+    <message>
+        <source>a shared string</source>
+        <translation>eine gemeinsam genutzte Zeichenkette</translation>
+    </message>
+    <message>
+        <source>an unsigned byte</source>
+        <translation>ein vorzeichenloses Byte</translation>
+    </message>
+    <message>
+        <source>a truth value</source>
+        <translation>ein Wahrheitswert</translation>
+    </message>
+    <message>
+        <source>a 16-bit integer</source>
+        <translation>eine 16-Bit-Ganzzahl</translation>
+    </message>
+    <message>
+        <source>an unsigned 16-bit integer</source>
+        <translation>eine vorzeichenlose 16-Bit-Ganzzahl</translation>
+    </message>
+    <message>
+        <source>a 32-bit integer</source>
+        <translation>eine 32-Bit-Ganzzahl</translation>
+    </message>
+    <message>
+        <source>an unsigned 32-bit integer</source>
+        <translation>eine vorzeichenlose 32-Bit-Ganzzahl</translation>
+    </message>
+    <message>
+        <source>a long integer</source>
+        <translation>eine lange Ganzzahl</translation>
+    </message>
+    <message>
+        <source>an unsigned long integer</source>
+        <translation>eine vorzeichenlose lange Ganzzahl</translation>
+    </message>
+    <message>
+        <source>a 64-bit integer</source>
+        <translation>eine 64-Bit-Ganzzahl</translation>
+    </message>
+    <message>
+        <source>an unsigned 64-bit integer</source>
+        <translation>eine vorzeichenlose 64-Bit-Ganzzahl</translation>
+    </message>
+    <message>
+        <source>a 32-bit real</source>
+        <translation>eine 32-Bit-Gleitkommazahl</translation>
+    </message>
+    <message>
+        <source>a 64-bit real</source>
+        <translation>eine 64-Bit-Gleitkommazahl</translation>
+    </message>
+    <message>
+        <source>a value</source>
+        <translation>ein Wert</translation>
+    </message>
+    <message>
+        <source>values</source>
+        <translation>Werte</translation>
+    </message>
+    <message>
+        <source>%1 (type %2)</source>
+        <extracomment>%1 is a type in words, such as &quot;an object&quot;, %2 as it is spelled.</extracomment>
+        <translation>%1 (Typ %2)</translation>
+    </message>
+    <message>
+        <source>not a Nascor document (%1)</source>
+        <extracomment>Behind the name of a file; %1 is the reason.</extracomment>
+        <translation>kein Nascor-Dokument (%1)</translation>
+    </message>
+    <message>
+        <source>a text or null</source>
+        <translation>ein Text oder null</translation>
+    </message>
+    <message>
+        <source>a date (seconds since 2001-01-01 UTC, an ISO text) or null</source>
+        <translation>ein Datum (Sekunden seit 2001-01-01 UTC, ein ISO-Text) oder null</translation>
+    </message>
+    <message>
+        <source>an ISO date or null</source>
+        <translation>ein ISO-Datum oder null</translation>
+    </message>
+    <message>
+        <source>a whole number</source>
+        <translation>eine ganze Zahl</translation>
+    </message>
+    <message>
+        <source>a number, &quot;nan&quot;, &quot;inf&quot; or &quot;-inf&quot;</source>
+        <translation>eine Zahl, &quot;nan&quot;, &quot;inf&quot; oder &quot;-inf&quot;</translation>
+    </message>
+    <message>
+        <source>a list</source>
+        <translation>eine Liste</translation>
+    </message>
+    <message>
+        <source>the text %1</source>
+        <translation>der Text %1</translation>
+    </message>
+    <message>
+        <source>binary data</source>
+        <translation>Binärdaten</translation>
+    </message>
+    <message>
+        <source>one of the keys %1</source>
+        <translation>einer der Schlüssel %1</translation>
+    </message>
+    <message>
+        <source>each key once</source>
+        <translation>jeder Schlüssel nur einmal</translation>
+    </message>
+    <message>
+        <source>this one stands twice</source>
+        <translation>dieser steht zweimal da</translation>
+    </message>
+    <message>
+        <source>expected JSON, but %1</source>
+        <translation>JSON erwartet, aber %1</translation>
+    </message>
+    <message>
+        <source>at line %1, column %2: %3</source>
+        <translation>in Zeile %1, Spalte %2: %3</translation>
+    </message>
+    <message>
+        <source>at the top: %1</source>
+        <translation>auf oberster Ebene: %1</translation>
+    </message>
+    <message>
+        <source>at %1: %2</source>
+        <extracomment>%1 is a place in a JSON text, such as /examinations/2/note.</extracomment>
+        <translation>bei %1: %2</translation>
+    </message>
+    <message>
+        <source>a whole number of at most 64 bits</source>
+        <translation>eine ganze Zahl von höchstens 64 Bit</translation>
+    </message>
+    <message>
+        <source>%1 is longer than 32 bits; the file holds the low 32, which are %2</source>
+        <translation>%1 ist länger als 32 Bit; die Datei enthält die unteren 32, nämlich %2</translation>
+    </message>
+    <message>
+        <source>%1 is beyond single precision; the file holds %2</source>
+        <translation>%1 geht über einfache Genauigkeit hinaus; die Datei enthält %2</translation>
+    </message>
+    <message>
+        <source>this number is beyond 64 bits</source>
+        <translation>diese Zahl geht über 64 Bit hinaus</translation>
+    </message>
+    <message>
+        <source>expected JSON, but a zero byte stands here</source>
+        <translation>JSON erwartet, aber hier steht ein Nullbyte</translation>
+    </message>
+    <message>
+        <source>expected a string of UTF-8 text, but its bytes are not UTF-8</source>
+        <translation>eine Zeichenkette aus UTF-8-Text erwartet, aber ihre Bytes sind kein UTF-8</translation>
+    </message>
+    <message>
+        <source>expected a string of UTF-8 text, but its bytes are missing</source>
+        <translation>eine Zeichenkette aus UTF-8-Text erwartet, aber ihre Bytes fehlen</translation>
+    </message>
+    <message>
+        <source>%1 would contain itself</source>
+        <translation>%1 würde sich selbst enthalten</translation>
+    </message>
+    <message>
+        <source>expected a document of a plausible size, but its references to %1 and others repeat %2 bytes in a file of %3</source>
+        <translation>ein Dokument von plausibler Größe erwartet, aber seine Verweise auf %1 und andere wiederholen %2 Bytes in einer Datei von %3</translation>
+    </message>
+    <message>
+        <source>the number of elements of an array</source>
+        <translation>die Anzahl der Elemente eines Arrays</translation>
+    </message>
+    <message>
+        <source>a PatientRecord</source>
+        <translation>ein PatientRecord</translation>
+    </message>
+    <message>
+        <source>a string or nil</source>
+        <translation>eine Zeichenkette oder nil</translation>
+    </message>
+    <message>
+        <source>a date or nil</source>
+        <translation>ein Datum oder nil</translation>
+    </message>
+    <message>
+        <source>an array of examinations or nil</source>
+        <translation>ein Array von Untersuchungen oder nil</translation>
+    </message>
+    <message>
+        <source>an NCRecord</source>
+        <translation>ein NCRecord</translation>
+    </message>
+    <message>
+        <source>an array of measurements or nil</source>
+        <translation>ein Array von Messwerten oder nil</translation>
+    </message>
+    <message>
+        <source>a MeasurementsRecord</source>
+        <translation>ein MeasurementsRecord</translation>
+    </message>
+    <message>
+        <source>cannot be read</source>
+        <translation>kann nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>longer than 256 MiB, which no document is</source>
+        <translation>länger als 256 MiB, und so lang ist kein Dokument</translation>
+    </message>
+    <message>
+        <source>the tar archive ends before its end mark</source>
+        <translation>das Tar-Archiv endet vor seiner Endmarkierung</translation>
+    </message>
+    <message>
+        <source>the header has none of the columns ga_weeks, bpd_mm, hc_mm, ac_mm and fl_mm</source>
+        <translation>die Kopfzeile hat keine der Spalten ga_weeks, bpd_mm, hc_mm, ac_mm und fl_mm</translation>
+    </message>
+    <message>
+        <source>the column %1 is one of those that are computed</source>
+        <translation>die Spalte %1 ist eine von denen, die berechnet werden</translation>
+    </message>
+    <message>
+        <source>%1 is no column of the input and none that is computed</source>
+        <extracomment>%1 stands in quotation marks.</extracomment>
+        <translation>%1 ist weder eine Spalte der Eingabe noch eine berechnete</translation>
+    </message>
+    <message>
+        <source>%1 or %2</source>
+        <extracomment>Two names of one column.</extracomment>
+        <translation>%1 oder %2</translation>
+    </message>
+    <message>
+        <source>the row that begins here is longer than 4 MiB; a quotation mark may never close</source>
+        <translation>die hier beginnende Zeile ist länger als 4 MiB; vielleicht fehlt ein schließendes Anführungszeichen</translation>
+    </message>
+    <message>
+        <source>a quotation mark that opens here never closes</source>
+        <translation>ein Anführungszeichen, das hier beginnt, wird nie geschlossen</translation>
+    </message>
+    <message>
+        <source>text stands behind a closing quotation mark</source>
+        <translation>hinter einem schließenden Anführungszeichen steht Text</translation>
+    </message>
+    <message>
+        <source>the column %1 stands twice in the header</source>
+        <translation>die Spalte %1 steht zweimal in der Kopfzeile</translation>
+    </message>
+    <message>
+        <source>the columns %1 and %2 are one</source>
+        <translation>die Spalten %1 und %2 sind ein und dieselbe</translation>
+    </message>
+    <message>
+        <source>the header has %1 cells, this row %2</source>
+        <translation>die Kopfzeile hat %1 Zellen, diese Zeile %2</translation>
+    </message>
+    <message>
+        <source>%1: %2 is no number</source>
+        <extracomment>%1 is a column, %2 what stands in it, in quotation marks.</extracomment>
+        <translation>%1: %2 ist keine Zahl</translation>
+    </message>
+</context>
+<context>
     <name>Recovery</name>
     <message>
         <source>Reference ID</source>
@@ -2195,10 +4087,6 @@
     <message>
         <source>Gravidity</source>
         <translation>Gravidität</translation>
-    </message>
-    <message>
-        <source>Unsaved changes cannot be kept against a crash. Please save:</source>
-        <translation>Nicht gespeicherte Änderungen können nicht gegen einen Absturz gesichert werden. Bitte speichern Sie:</translation>
     </message>
     <message>
         <source>Nascor ended before the changes of this document were saved. Do you want to recover them?</source>
@@ -2247,10 +4135,6 @@
     <message>
         <source>An examination that was removed</source>
         <translation>Eine Untersuchung, die entfernt wurde</translation>
-    </message>
-    <message>
-        <source>Examination of</source>
-        <translation>Untersuchung vom</translation>
     </message>
     <message>
         <source>An examination without a date</source>
@@ -2887,18 +4771,6 @@
         <translation>Messwerte</translation>
     </message>
     <message>
-        <source>Lengths: z and centile by </source>
-        <translation>Maße: z und Perzentile nach </translation>
-    </message>
-    <message>
-        <source>Weight: by the formula </source>
-        <translation>Gewicht: nach der Formel </translation>
-    </message>
-    <message>
-        <source>, z and centile by </source>
-        <translation>, z und Perzentile nach </translation>
-    </message>
-    <message>
         <source>z</source>
         <translation>z</translation>
     </message>
@@ -2919,24 +4791,8 @@
         <translation>Wachstum</translation>
     </message>
     <message>
-        <source>/week</source>
-        <translation>/Woche</translation>
-    </message>
-    <message>
         <source>expected</source>
         <translation>erwartet</translation>
-    </message>
-    <message>
-        <source>Lines: centiles 3, 10, 50, 90 and 97; lengths by </source>
-        <translation>Linien: Perzentilen 3, 10, 50, 90 und 97; Maße nach </translation>
-    </message>
-    <message>
-        <source>, weight by </source>
-        <translation>, Gewicht nach </translation>
-    </message>
-    <message>
-        <source>Weeks of menstrual age below.</source>
-        <translation>Unten das Gestationsalter in Wochen.</translation>
     </message>
     <message>
         <source>The note is longer; the document has all of it.</source>
@@ -3094,6 +4950,67 @@
     <message>
         <source>No folder was chosen</source>
         <translation>Es wurde kein Ordner gewählt</translation>
+    </message>
+</context>
+<context>
+    <name>Writing</name>
+    <message>
+        <source>January</source>
+        <extracomment>A month as it stands in a day, &quot;4 January 2027&quot;.</extracomment>
+        <translation>Januar</translation>
+    </message>
+    <message>
+        <source>February</source>
+        <translation>Februar</translation>
+    </message>
+    <message>
+        <source>March</source>
+        <translation>März</translation>
+    </message>
+    <message>
+        <source>April</source>
+        <translation>April</translation>
+    </message>
+    <message>
+        <source>May</source>
+        <translation>Mai</translation>
+    </message>
+    <message>
+        <source>June</source>
+        <translation>Juni</translation>
+    </message>
+    <message>
+        <source>July</source>
+        <translation>Juli</translation>
+    </message>
+    <message>
+        <source>August</source>
+        <translation>August</translation>
+    </message>
+    <message>
+        <source>September</source>
+        <translation>September</translation>
+    </message>
+    <message>
+        <source>October</source>
+        <translation>Oktober</translation>
+    </message>
+    <message>
+        <source>November</source>
+        <translation>November</translation>
+    </message>
+    <message>
+        <source>December</source>
+        <translation>Dezember</translation>
+    </message>
+    <message>
+        <source>%1 %2 %3</source>
+        <translation>%1. %2 %3</translation>
+    </message>
+    <message>
+        <source>.</source>
+        <extracomment>The decimal sign: a point or a comma.</extracomment>
+        <translation>,</translation>
     </message>
 </context>
 <context>

@@ -111,18 +111,6 @@
         <source>beyond the table</source>
         <translation>fuera de la tabla</translation>
     </message>
-    <message>
-        <source> has no centiles of this measure</source>
-        <translation> no tiene percentiles de esta medida</translation>
-    </message>
-    <message>
-        <source>Centiles: </source>
-        <translation>Percentiles: </translation>
-    </message>
-    <message>
-        <source>, which fits weights by another formula alone: </source>
-        <translation>, que solo vale para pesos de otra fórmula: </translation>
-    </message>
 </context>
 <context>
     <name>AdjustDelivery</name>
@@ -179,6 +167,1353 @@
     </message>
 </context>
 <context>
+    <name>CommandHelp</name>
+    <message>
+        <source>growth standards by number or name, intergrowth-2014, with commas between; without it all four</source>
+        <translation>estándares de crecimiento por número o nombre, intergrowth-2014, separados por comas; sin esta opción, los cuatro</translation>
+    </message>
+    <message>
+        <source>one weight, by number or name, instead of all eight</source>
+        <translation>un solo peso, por número o nombre, en lugar de los ocho</translation>
+    </message>
+    <message>
+        <source>only these columns, of the input or computed, in this order</source>
+        <translation>solo estas columnas, de la entrada o calculadas, en este orden</translation>
+    </message>
+    <message>
+        <source>what is computed with one decimal, z-scores with three</source>
+        <translation>lo calculado, con un decimal; las puntuaciones z, con tres</translation>
+    </message>
+    <message>
+        <source>Weights, means and z-scores beside the columns of a CSV table on standard input.</source>
+        <translation>Pesos, medias y puntuaciones z junto a las columnas de una tabla CSV de la entrada estándar.</translation>
+    </message>
+    <message>
+        <source>The first line names the columns; those that count are ga_weeks or ga, bpd_mm or bpd, hc_mm or
+hc, ac_mm or ac, fl_mm or fl, in any order. All columns of the table stay as they came. Behind
+them stand
+  efw_0_g,...,efw_7_g,westerway_bpd_mean_mm,westerway_bpd_sd_mm,westerway_bpd_z,...,cfef_fl_z
+  warning,error
+An empty cell, 0, nan and NA are not measured. What is no number (45mm, 45,2) is named in error
+and, with its line, on standard error; nothing is computed in that row, the others go on, and
+the status is 1. Memory does not grow with the table.
+Texts stay as they are. A spreadsheet runs cells that begin with &apos;=&apos;: import them as text.
+</source>
+        <translation>La primera línea da nombre a las columnas; las que cuentan son ga_weeks o ga, bpd_mm o bpd, hc_mm o
+hc, ac_mm o ac, fl_mm o fl, en cualquier orden. Todas las columnas de la tabla se quedan como
+llegaron. Detrás de ellas van
+  efw_0_g,...,efw_7_g,westerway_bpd_mean_mm,westerway_bpd_sd_mm,westerway_bpd_z,...,cfef_fl_z
+  warning,error
+Una celda vacía, 0, nan y NA significan «sin medir». Lo que no es un número (45mm, 45,2) se indica
+en error y, con su línea, en la salida de error estándar; en esa fila no se calcula nada, las demás
+siguen y el código de salida es 1. La memoria usada no crece con la tabla.
+Los textos se quedan como están. Una hoja de cálculo ejecuta las celdas que empiezan por &apos;=&apos;:
+impórtelas como texto.
+</translation>
+    </message>
+    <message>
+        <source>a document; - is standard input</source>
+        <translation>un documento; - es la entrada estándar</translation>
+    </message>
+    <message>
+        <source>one JSON object a document, on a line</source>
+        <translation>un objeto JSON por documento, en una línea</translation>
+    </message>
+    <message>
+        <source>say ok where there is nothing to say</source>
+        <translation>decir ok cuando no hay nada que señalar</translation>
+    </message>
+    <message>
+        <source>Reads each document whole and names every oddity in it, one a line.</source>
+        <translation>Lee cada documento entero y nombra cada irregularidad que contiene, una por línea.</translation>
+    </message>
+    <message>
+        <source>An oddity is accepted everywhere else: a count that disagrees, a date that is missing, a length beyond
+what can be typed, an old class version. It leaves the exit status at 0; a file that cannot be read
+makes it 1. Keys of the JSON: file, and oddities, an array of objects with kind, examination, fetus,
+text.
+</source>
+        <translation>Una irregularidad se acepta en todo lo demás: un recuento que no concuerda, una fecha que falta,
+una medida que excede lo que se puede escribir, una versión de clase antigua. Deja el código de
+salida en 0; un archivo que no se puede leer lo pone en 1. Claves del JSON: file y oddities, una
+lista de objetos con kind, examination, fetus y text.
+</translation>
+    </message>
+    <message>
+        <source>Not a medical device. Not validated for clinical use.</source>
+        <translation>No es un producto sanitario (dispositivo médico). No está validado para uso clínico.</translation>
+    </message>
+    <message>
+        <source>this text</source>
+        <translation>este texto</translation>
+    </message>
+    <message>
+        <source>usage: %1</source>
+        <translation>uso: %1</translation>
+    </message>
+    <message>
+        <source>Commands:</source>
+        <translation>Comandos:</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Opciones:</translation>
+    </message>
+    <message>
+        <source>Obstetric ultrasound biometry for shells and scripts.</source>
+        <translation>Biometría ecográfica obstétrica para terminales y scripts.</translation>
+    </message>
+    <message>
+        <source>Lengths are in millimetres, weights in grams, ages in weeks after the last menstrual period.
+A FILE or a value of - is standard input. No question is ever asked.
+Exit status: 0 all well, 1 some input was bad, 2 wrong usage.
+</source>
+        <translation>Las medidas van en milímetros, los pesos en gramos y las edades en semanas desde la última regla.
+Un FILE o un valor - es la entrada estándar. Nunca se hace ninguna pregunta.
+Código de salida: 0, todo bien; 1, alguna entrada era errónea; 2, uso incorrecto.
+</translation>
+    </message>
+    <message>
+        <source>this text; help COMMAND explains one command</source>
+        <translation>este texto; help COMMAND explica un comando</translation>
+    </message>
+    <message>
+        <source>this text; behind a command, that command&apos;s help</source>
+        <translation>este texto; detrás de un comando, la ayuda de ese comando</translation>
+    </message>
+    <message>
+        <source>the version of the program</source>
+        <translation>la versión del programa</translation>
+    </message>
+    <message>
+        <source>what follows is no option</source>
+        <translation>lo que sigue no es una opción</translation>
+    </message>
+    <message>
+        <source>one object a document, examination and fetus, on a line: unrounded numbers</source>
+        <translation>un objeto por documento, exploración y feto, en una línea: números sin redondear</translation>
+    </message>
+    <message>
+        <source>Each length and weight by every reference and formula, ratios, twins, growth.</source>
+        <translation>Cada medida y peso según todas las referencias y fórmulas, cocientes, gemelos, crecimiento.</translation>
+    </message>
+    <message>
+        <source>Examinations and fetuses count from 0. Difference is that from the weight by the document&apos;s formula.
+Age is that of which the value is the median of the reference; outside its weeks a dash. Discordance
+is the share, of the heaviest fetus, by which the lightest weighs less. Growth is that since the
+examination before which has the length; the change of z is by the document&apos;s standard. Centiles of
+weights are those of references; the error of a formula is no population.
+</source>
+        <translation>Las exploraciones y los fetos se cuentan desde 0. Difference es la diferencia respecto al peso
+según la fórmula del documento. Age es la edad cuya mediana en la referencia es el valor; fuera de
+sus semanas, un guion. La discordancia es la parte, respecto al feto más pesado, en que el más
+ligero pesa menos. Growth es el crecimiento desde la última exploración anterior que tiene la
+medida; el cambio de z es según el estándar del documento. Los percentiles de los pesos son los de
+las referencias; el error de una fórmula no es ninguna población.
+</translation>
+    </message>
+    <message>
+        <source>Each document as JSON: every field that it holds, one object on a line.</source>
+        <translation>Cada documento como JSON: todos los campos que contiene, un objeto por línea.</translation>
+    </message>
+    <message>
+        <source>Keys: maternalIDString, edd, eddISO, standard, fetalWeightStandard, numberOfFetuses,
+extrapolatedGestation (weeks), crlStandard, gravida, and examinations, an array of objects with note,
+examDate, examDateISO and measurements, an array of objects with bpd, hc, ac and fl (mm; 0 = not
+measured). Dates are seconds since 2001-01-01 UTC; beside each stands its local time as ISO text.
+</source>
+        <translation>Claves: maternalIDString, edd, eddISO, standard, fetalWeightStandard, numberOfFetuses,
+extrapolatedGestation (semanas), crlStandard, gravida y examinations, una lista de objetos con
+note, examDate, examDateISO y measurements, una lista de objetos con bpd, hc, ac y fl (mm; 0 = sin
+medir). Las fechas son segundos desde 2001-01-01 UTC; junto a cada una figura su hora local como
+texto ISO.
+</translation>
+    </message>
+    <message>
+        <source>a document as JSON; - is standard input</source>
+        <translation>un documento como JSON; - es la entrada estándar</translation>
+    </message>
+    <message>
+        <source>where to write it, as a whole or not at all; without it, or -, to standard output</source>
+        <translation>dónde escribirlo, completo o nada; sin esta opción, o con -, en la salida estándar</translation>
+    </message>
+    <message>
+        <source>A document from JSON.</source>
+        <translation>Un documento a partir de JSON.</translation>
+    </message>
+    <message>
+        <source>Reads what json prints: maternalIDString, edd, standard, fetalWeightStandard, numberOfFetuses,
+extrapolatedGestation (weeks), crlStandard, gravida, and examinations, an array of objects with
+note, examDate and measurements, an array of objects with bpd, hc, ac and fl (mm). Every key may be
+missing; an unknown one is an error. A date is a number of
+seconds since 2001-01-01 UTC, an ISO date (2027-04-10 is local midnight), an ISO date and time, or
+null. Lengths are stored in single precision, whole numbers in 32 bits.
+</source>
+        <translation>Lee lo que escribe json: maternalIDString, edd, standard, fetalWeightStandard, numberOfFetuses,
+extrapolatedGestation (semanas), crlStandard, gravida y examinations, una lista de objetos con
+note, examDate y measurements, una lista de objetos con bpd, hc, ac y fl (mm). Puede faltar
+cualquier clave; una desconocida es un error. Una fecha es un número de segundos desde 2001-01-01
+UTC, una fecha ISO (2027-04-10 es la medianoche local), una fecha y hora ISO, o null. Las medidas
+se guardan en precisión simple; los números enteros, en 32 bits.
+</translation>
+    </message>
+    <message>
+        <source>any typed stream; - is standard input</source>
+        <translation>cualquier flujo tipado; - es la entrada estándar</translation>
+    </message>
+    <message>
+        <source>one JSON object a stream, on a line</source>
+        <translation>un objeto JSON por flujo, en una línea</translation>
+    </message>
+    <message>
+        <source>All that a typed stream holds, as a tree; of any program, not only documents.</source>
+        <translation>Todo lo que contiene un flujo tipado, como árbol; de cualquier programa, no solo documentos.</translation>
+    </message>
+    <message>
+        <source>Each line begins with the byte at which the value begins. Keys of the JSON: byte_order,
+system_version, and groups, an array of objects with types and values; docs/json.md lists the values.
+</source>
+        <translation>Cada línea empieza con el byte en que empieza el valor. Claves del JSON: byte_order, system_version
+y groups, una lista de objetos con types y values; docs/json.md enumera los valores.
+</translation>
+    </message>
+    <message>
+        <source>the folder for the files, which is made when it is missing; - is standard output, for one file</source>
+        <translation>la carpeta para los archivos, que se crea si falta; - es la salida estándar, para un solo archivo</translation>
+    </message>
+    <message>
+        <source>what is written; without this option PDF</source>
+        <translation>qué se escribe; sin esta opción, PDF</translation>
+    </message>
+    <message>
+        <source>all, or first, last, numbers from 0 to 6 and names, with commas between</source>
+        <translation>all, o first, last, números de 0 a 6 y nombres, separados por comas</translation>
+    </message>
+    <message>
+        <source>one fetus, the first is 1; without this option all</source>
+        <translation>un solo feto, el primero es 1; sin esta opción, todos</translation>
+    </message>
+    <message>
+        <source>centile lines of a reference of &quot;nascor-cli reference&quot; over the charts</source>
+        <translation>líneas de percentiles de una referencia de «nascor-cli reference» sobre las gráficas</translation>
+    </message>
+    <message>
+        <source>a line from mark to mark of each fetus</source>
+        <translation>una línea de marca a marca de cada feto</translation>
+    </message>
+    <message>
+        <source>leave files that are there as they are, and say so</source>
+        <translation>dejar como están los archivos que ya existen, e indicarlo</translation>
+    </message>
+    <message>
+        <source>leave off what stands under each page</source>
+        <translation>omitir lo que va bajo cada página</translation>
+    </message>
+    <message>
+        <source>FHIR as one resource a line, of all documents, on standard output</source>
+        <translation>FHIR con un recurso por línea, de todos los documentos, en la salida estándar</translation>
+    </message>
+    <message>
+        <source>Writes the pages of each document, or its numbers for other programs.</source>
+        <translation>Escribe las páginas de cada documento, o sus números para otros programas.</translation>
+    </message>
+    <message>
+        <source>Names of pages: %1 (0 to %2), in letters of any size.
+As PDF all pages of a document are one file; else each is a file of its own.
+Files of the same names are replaced, but with --no-clobber.
+sr: a DICOM structured report (Comprehensive SR) for each examination, &quot;NAME 1.dcm&quot;, ...
+fhir: a FHIR R4 bundle for each document, NAME.json; with --ndjson lines on standard output.
+</source>
+        <translation>Nombres de las páginas: %1 (de 0 a %2), en mayúsculas o minúsculas.
+En PDF, todas las páginas de un documento forman un archivo; si no, cada una es un archivo aparte.
+Los archivos del mismo nombre se reemplazan, salvo con --no-clobber.
+sr: un informe estructurado DICOM (Comprehensive SR) por exploración, «NAME 1.dcm», ...
+fhir: un paquete FHIR R4 por documento, NAME.json; con --ndjson, líneas en la salida estándar.
+</translation>
+    </message>
+    <message>
+        <source>biparietal diameter</source>
+        <translation>diámetro biparietal</translation>
+    </message>
+    <message>
+        <source>head circumference</source>
+        <translation>circunferencia cefálica</translation>
+    </message>
+    <message>
+        <source>abdominal circumference</source>
+        <translation>circunferencia abdominal</translation>
+    </message>
+    <message>
+        <source>femur length</source>
+        <translation>longitud femoral</translation>
+    </message>
+    <message>
+        <source>an array of eight numbers, by identifier of the formula</source>
+        <translation>una lista de ocho números, por identificador de la fórmula</translation>
+    </message>
+    <message>
+        <source>The estimated weight of one fetus by each of the eight formulas, in grams.</source>
+        <translation>El peso estimado de un feto según cada una de las ocho fórmulas, en gramos.</translation>
+    </message>
+    <message>
+        <source>A length that is not given is 0, which means not measured. Where a formula needs it, the weight is
+a dash (0 in JSON). An improbable length is named on standard error.
+The formulas, by identifier: 0 Hadlock 1 (HC/AC/FL), 1 Hadlock 2 (AC/FL),
+2 Hadlock 3 (BPD/AC/FL), 3 Hadlock 4 (BPD/HC/AC/FL), 4 Campbell (AC), 5 Combs (HC/AC/FL),
+6 Ott (HC/AC/FL), 7 Shepard (BPD/AC).
+</source>
+        <translation>Una medida que no se indica vale 0, que significa sin medir. Si una fórmula la necesita, el peso es
+un guion (0 en JSON). Una medida improbable se señala en la salida de error estándar.
+Las fórmulas, por identificador: 0 Hadlock 1 (HC/AC/FL), 1 Hadlock 2 (AC/FL),
+2 Hadlock 3 (BPD/AC/FL), 3 Hadlock 4 (BPD/HC/AC/FL), 4 Campbell (AC), 5 Combs (HC/AC/FL),
+6 Ott (HC/AC/FL), 7 Shepard (BPD/AC).
+</translation>
+    </message>
+    <message>
+        <source>crown-rump lengths; - reads lengths from standard input, one a line</source>
+        <translation>longitudes cráneo-caudales; - lee longitudes de la entrada estándar, una por línea</translation>
+    </message>
+    <message>
+        <source>an array of four numbers a length, each on a line of its own</source>
+        <translation>una lista de cuatro números por longitud, cada una en su propia línea</translation>
+    </message>
+    <message>
+        <source>The menstrual age at each crown-rump length by each of the four formulas, in weeks.</source>
+        <translation>La edad gestacional para cada longitud cráneo-caudal según las cuatro fórmulas, en semanas.</translation>
+    </message>
+    <message>
+        <source>One line a length, columns separated by tabs. Outside the range of a formula the age is a dash (0 in
+JSON). A line of standard input that is no number is answered by nan (null in JSON).
+A length that no formula dates is named on standard error, of standard input the first one.
+The formulas, by identifier: 0 Hadlock (1992), 2 to 120 mm; 1 Nelson (1981), 6.7 to 82.4 mm
+(no second source has it; 9 days more than Hadlock (1992) at 7 mm, 3 days more at 20 mm);
+2 Robinson (1975), 7 to 79.6 mm; 3 Westerway (2000), 2 to 87 mm.
+</source>
+        <translation>Una línea por longitud, con las columnas separadas por tabuladores. Fuera del intervalo de una
+fórmula, la edad es un guion (0 en JSON). A una línea de la entrada estándar que no es un número se
+responde nan (null en JSON).
+Una longitud que ninguna fórmula data se señala en la salida de error estándar; de la entrada
+estándar, solo la primera.
+Las fórmulas, por identificador: 0 Hadlock (1992), de 2 a 120 mm; 1 Nelson (1981), de 6.7 a 82.4 mm
+(ninguna segunda fuente la tiene; 9 días más que Hadlock (1992) a 7 mm, 3 días más a 20 mm);
+2 Robinson (1975), de 7 a 79.6 mm; 3 Westerway (2000), de 2 a 87 mm.
+</translation>
+    </message>
+    <message>
+        <source>a DICOM report, a FHIR bundle of this program, or a CSV table of examinations; - is standard input</source>
+        <translation>un informe DICOM, un paquete FHIR de este programa o una tabla CSV de exploraciones; - es la entrada estándar</translation>
+    </message>
+    <message>
+        <source>store what was found in a new document</source>
+        <translation>guardar lo encontrado en un documento nuevo</translation>
+    </message>
+    <message>
+        <source>add what was found to a document</source>
+        <translation>añadir lo encontrado a un documento</translation>
+    </message>
+    <message>
+        <source>the reports are of the patient of this reference ID, whatever they say</source>
+        <translation>los informes son de la paciente de este identificador, digan lo que digan</translation>
+    </message>
+    <message>
+        <source>the fetus that the reports call ID is fetus N of the document; once for each</source>
+        <translation>el feto que los informes llaman ID es el feto N del documento; una vez por feto</translation>
+    </message>
+    <message>
+        <source>the report&apos;s EDD takes the place of the document&apos;s</source>
+        <translation>la FPP del informe sustituye a la del documento</translation>
+    </message>
+    <message>
+        <source>What reports of ultrasound machines and tables hold, as JSON; stored only on demand.</source>
+        <translation>Lo que contienen informes de ecógrafos y tablas, como JSON; solo se guarda si se pide.</translation>
+    </message>
+    <message>
+        <source>One object a report, of a table one for each patient and day: file, patientID, examDate, edd,
+eddFrom, gravida, numberOfFetuses, fetuses (id, bpd, hc, ac, fl and crl in mm, efw in g, chosen),
+notTaken, warnings.
+A table has the columns that rows writes: exam_date, any of bpd_mm, hc_mm, ac_mm and fl_mm, and,
+where it has them, reference_id, fetus (from 0) or fetus_number (from 1), edd, gravida and
+number_of_fetuses. When a row does not fit, nothing of the table is printed or stored.
+Nothing is stored when patient or fetus are in doubt, and nothing that stands is overwritten.
+</source>
+        <translation>Un objeto por informe; de una tabla, uno por paciente y día: file, patientID, examDate, edd,
+eddFrom, gravida, numberOfFetuses, fetuses (id, bpd, hc, ac, fl y crl en mm, efw en g, chosen),
+notTaken, warnings.
+Una tabla tiene las columnas que escribe rows: exam_date, alguna de bpd_mm, hc_mm, ac_mm y fl_mm y,
+si las tiene, reference_id, fetus (desde 0) o fetus_number (desde 1), edd, gravida y
+number_of_fetuses. Si una fila no encaja, no se muestra ni se guarda nada de la tabla.
+No se guarda nada si hay duda sobre la paciente o el feto, y nada de lo que ya hay se sobrescribe.
+</translation>
+    </message>
+    <message>
+        <source>the index</source>
+        <translation>el índice</translation>
+    </message>
+    <message>
+        <source>a JSON object a line</source>
+        <translation>un objeto JSON por línea</translation>
+    </message>
+    <message>
+        <source>the documents, *.nascor in it and in the folders in it</source>
+        <translation>la carpeta de los documentos: *.nascor en ella y en sus subcarpetas</translation>
+    </message>
+    <message>
+        <source>the index, made where there is none</source>
+        <translation>el índice, que se crea si no existe</translation>
+    </message>
+    <message>
+        <source>the counts as a JSON object</source>
+        <translation>los recuentos como objeto JSON</translation>
+    </message>
+    <message>
+        <source>Keeps what the documents of a folder say in a database, for due and search.</source>
+        <translation>Guarda lo que dicen los documentos de una carpeta en una base de datos, para due y search.</translation>
+    </message>
+    <message>
+        <source>Only documents that are new or have changed are read; those that are gone leave the index. A run that
+is ended in the middle, however that happens, leaves an index that the next run completes.
+The file is an SQLite database that its owner alone can read: it holds reference IDs, notes and names
+of files. Its tables documents and rows may be read by other programs.
+</source>
+        <translation>Solo se leen los documentos nuevos o modificados; los que han desaparecido salen del índice. Una
+ejecución interrumpida, sea como sea, deja un índice que la siguiente ejecución completa.
+El archivo es una base de datos SQLite que solo puede leer su propietario: contiene
+identificadores, notas y nombres de archivos. Otros programas pueden leer sus tablas documents y
+rows.
+</translation>
+    </message>
+    <message>
+        <source>the first day, such as 2027-04-10; without it today</source>
+        <translation>el primer día, como 2027-04-10; sin esta opción, hoy</translation>
+    </message>
+    <message>
+        <source>how many days behind that; without it 28</source>
+        <translation>cuántos días a partir de ese; sin esta opción, 28</translation>
+    </message>
+    <message>
+        <source>only with an AC, the last of one fetus, whose z-score is below this</source>
+        <translation>solo con una CA, la última de algún feto, cuya puntuación z sea inferior a este valor</translation>
+    </message>
+    <message>
+        <source>Who is due, from an index: by EDD, with the last examination and the lowest AC.</source>
+        <translation>Quién está próxima al parto, según un índice: por FPP, con la última exploración y la CA más baja.</translation>
+    </message>
+    <message>
+        <source>AC z is the lowest, over the fetuses, of the z-score of the last AC that was measured, by the growth
+standard of the document. It lists what the index held when it was last brought up to date.
+</source>
+        <translation>AC z es la más baja, entre los fetos, de las puntuaciones z de la última CA medida, según el
+estándar de crecimiento del documento. Se enumera lo que el índice contenía cuando se actualizó por
+última vez.
+</translation>
+    </message>
+    <message>
+        <source>three characters or more of a reference ID or of a file&apos;s path; large or small</source>
+        <translation>tres o más caracteres de un identificador o de la ruta de un archivo, en mayúsculas o minúsculas</translation>
+    </message>
+    <message>
+        <source>not more than so many; without it 100</source>
+        <translation>no más de este número; sin esta opción, 100</translation>
+    </message>
+    <message>
+        <source>Documents by a part of their reference ID or name, from an index.</source>
+        <translation>Documentos por una parte de su identificador o nombre, según un índice.</translation>
+    </message>
+    <message>
+        <source>one digit behind the point, in JSON too</source>
+        <translation>un solo decimal, también en JSON</translation>
+    </message>
+    <message>
+        <source>a recovery file, as the list names it</source>
+        <translation>un archivo de recuperación, como lo nombra la lista</translation>
+    </message>
+    <message>
+        <source>where to write the document, as a whole or not at all</source>
+        <translation>dónde escribir el documento, completo o nada</translation>
+    </message>
+    <message>
+        <source>Unsaved changes that the application kept: a list, or one of them as a document.</source>
+        <translation>Cambios sin guardar que conservó la aplicación: una lista, o uno de ellos como documento.</translation>
+    </message>
+    <message>
+        <source>The list has one JSON object a line: recovery (the file), document (the path of the document&apos;s own
+file; null when it was never saved), patient, saved (seconds since 2001-01-01 UTC), fetuses,
+examinations, and differs, the keys of json that the saved document holds otherwise. It also names
+what running applications keep. A recovery file is a document: json, report and check read it. It
+stays where it is until the application has offered it.
+</source>
+        <translation>La lista tiene un objeto JSON por línea: recovery (el archivo), document (la ruta del archivo
+propio del documento; null si nunca se guardó), patient, saved (segundos desde 2001-01-01 UTC),
+fetuses, examinations y differs, las claves de json que el documento guardado tiene con otro valor.
+También nombra lo que conservan las aplicaciones en marcha. Un archivo de recuperación es un
+documento: json, report y check lo leen. Se queda donde está hasta que la aplicación lo haya
+ofrecido.
+</translation>
+    </message>
+    <message>
+        <source>a reference, by its name; without it all are listed</source>
+        <translation>una referencia, por su nombre; sin él se enumeran todas</translation>
+    </message>
+    <message>
+        <source>one of bpd, hc, ac, fl, efw that the reference has</source>
+        <translation>una de bpd, hc, ac, fl, efw que la referencia tenga</translation>
+    </message>
+    <message>
+        <source>the age in weeks</source>
+        <translation>la edad en semanas</translation>
+    </message>
+    <message>
+        <source>a length in mm, or a weight in g: its z and centile</source>
+        <translation>una medida en mm, o un peso en g: su z y su percentil</translation>
+    </message>
+    <message>
+        <source>a centile between 0 and 100: its value and z</source>
+        <translation>un percentil entre 0 y 100: su valor y su z</translation>
+    </message>
+    <message>
+        <source>a z-score: its value and centile</source>
+        <translation>una puntuación z: su valor y su percentil</translation>
+    </message>
+    <message>
+        <source>one object a line; what a reference cannot say is null</source>
+        <translation>un objeto por línea; lo que una referencia no puede decir es null</translation>
+    </message>
+    <message>
+        <source>Where a value lies in a published population; which populations there are.</source>
+        <translation>Dónde queda un valor en una población publicada; qué poblaciones hay.</translation>
+    </message>
+    <message>
+        <source>One of W, V, P and Z may be -: then numbers are read from standard input, one a line, and each is
+answered. Nothing is extrapolated: outside the weeks of a reference all numbers are missing, and
+the answer says which weeks there are. who-2017 is made of curves: it has no z, and knows no more
+than &lt;1 and &gt;99 beyond the outermost. A weight&apos;s centile is that of the reference, never of the
+error of a formula.
+</source>
+        <translation>Uno de W, V, P y Z puede ser -: entonces se leen números de la entrada estándar, uno por línea, y
+se responde a cada uno. No se extrapola nada: fuera de las semanas de una referencia faltan todos
+los números, y la respuesta dice qué semanas hay. who-2017 se compone de curvas: no tiene z y, más
+allá de las curvas extremas, solo dice &lt;1 o &gt;99. El percentil de un peso es el de la referencia,
+nunca el del error de una fórmula.
+</translation>
+    </message>
+    <message>
+        <source>one JSON object a document, on a line: unrounded numbers, the texts beside them</source>
+        <translation>un objeto JSON por documento, en una línea: números sin redondear, con los textos al lado</translation>
+    </message>
+    <message>
+        <source>The tabular report of each document: every fetus, every examination, the projection.</source>
+        <translation>El informe en tablas de cada documento: todos los fetos, todas las exploraciones, la proyección.</translation>
+    </message>
+    <message>
+        <source>Date and Menstrual Age are those of the last examination. Days are those of the local time zone. The
+projection is there when the last examination lies from 30 weeks to the planned delivery. Keys of
+the JSON, among others: file, maternalIDString, edd, fetuses, in each examinations (age in weeks;
+bpd, hc, ac, fl in mm; efw in g) and projected; docs/json.md lists them all.
+</source>
+        <translation>Date y Menstrual Age son las de la última exploración. Los días son los de la zona horaria local.
+La proyección figura cuando la última exploración cae entre las 30 semanas y el parto programado.
+Claves del JSON, entre otras: file, maternalIDString, edd, fetuses, en cada uno examinations (age
+en semanas; bpd, hc, ac, fl en mm; efw en g) y projected; docs/json.md las enumera todas.
+</translation>
+    </message>
+    <message>
+        <source>a document, or a folder with documents in it; - is a document on standard input</source>
+        <translation>un documento, o una carpeta con documentos; - es un documento en la entrada estándar</translation>
+    </message>
+    <message>
+        <source>more names of files and folders, one a line; - is standard input</source>
+        <translation>más nombres de archivos y carpetas, uno por línea; - es la entrada estándar</translation>
+    </message>
+    <message>
+        <source>the names of --files-from end with NUL instead</source>
+        <translation>los nombres de --files-from terminan en NUL</translation>
+    </message>
+    <message>
+        <source>the documents in a tar archive, plain, gzip or zstd; - is standard input</source>
+        <translation>los documentos de un archivo tar, sin comprimir, gzip o zstd; - es la entrada estándar</translation>
+    </message>
+    <message>
+        <source>growth standards by number or name, intergrowth-2014, with commas between; or all four</source>
+        <translation>estándares de crecimiento por número o nombre, intergrowth-2014, separados por comas; o all, los cuatro</translation>
+    </message>
+    <message>
+        <source>only these columns, in this order, with commas between</source>
+        <translation>solo estas columnas, en este orden, separadas por comas</translation>
+    </message>
+    <message>
+        <source>one decimal, for z-scores three</source>
+        <translation>un decimal; para las puntuaciones z, tres</translation>
+    </message>
+    <message>
+        <source>comma-separated values, or a JSON object a line</source>
+        <translation>valores separados por comas, o un objeto JSON por línea</translation>
+    </message>
+    <message>
+        <source>leave off the line with the names of the columns</source>
+        <translation>omitir la línea con los nombres de las columnas</translation>
+    </message>
+    <message>
+        <source>reference ID, note and names of files too</source>
+        <translation>también identificador, nota y nombres de archivos</translation>
+    </message>
+    <message>
+        <source>in the column file the place of the document, or its name</source>
+        <translation>en la columna file, el lugar del documento o su nombre</translation>
+    </message>
+    <message>
+        <source>days to the EDD in place of the dates</source>
+        <translation>días hasta la FPP en lugar de las fechas</translation>
+    </message>
+    <message>
+        <source>the zone whose days are meant, such as Europe/Paris</source>
+        <translation>la zona horaria de los días, como Europe/Paris</translation>
+    </message>
+    <message>
+        <source>stop at the first document that cannot be read</source>
+        <translation>detenerse en el primer documento que no se pueda leer</translation>
+    </message>
+    <message>
+        <source>work on so many documents at a time; the output is the same</source>
+        <translation>procesar tantos documentos a la vez; el resultado es el mismo</translation>
+    </message>
+    <message>
+        <source>A row for each fetus at each examination: age, lengths, weights, z-scores; for statistics.</source>
+        <translation>Una fila por feto en cada exploración: edad, medidas, pesos, puntuaciones z; para estadística.</translation>
+    </message>
+    <message>
+        <source>Of a folder all *.nascor are taken, and those of the folders in it. Columns:
+  file,exam,fetus,exam_date,edd,ga_weeks,bpd_mm,hc_mm,ac_mm,fl_mm,efw_0_g,...,efw_7_g
+  standard,bpd_mean_mm,bpd_sd_mm,bpd_z,...,fl_z        by each document&apos;s own standard, or
+  westerway_bpd_mean_mm,...                            by each of --standard
+  reference_id,note                                    with --identify
+  warning,error
+file counts the documents from 0, exam and fetus what they hold. A cell is empty where nothing was
+measured or nothing can be computed. warning names what is improbable. A document that cannot be
+read has a row with file and error; the others go on, and the status is 1.
+
+Privacy: documents are named after patients. Without --identify no cell holds a reference ID, a
+note or (unless --file path is given) the name of a file. Standard error names files in any case,
+for the person at the terminal: do not keep it with the rows. Notes may hold dates
+in their text: --relative-dates with --identify leaves them as they are.
+Texts stand in CSV as they are. A spreadsheet runs cells that begin with &apos;=&apos;: import names,
+reference IDs and notes as text.
+</source>
+        <translation>De una carpeta se toman todos los *.nascor, también los de sus subcarpetas. Columnas:
+  file,exam,fetus,exam_date,edd,ga_weeks,bpd_mm,hc_mm,ac_mm,fl_mm,efw_0_g,...,efw_7_g
+  standard,bpd_mean_mm,bpd_sd_mm,bpd_z,...,fl_z        según el estándar de cada documento, o
+  westerway_bpd_mean_mm,...                            según cada uno de --standard
+  reference_id,note                                    con --identify
+  warning,error
+file cuenta los documentos desde 0; exam y fetus, lo que estos contienen. Una celda está vacía
+cuando no se midió nada o no se puede calcular nada. warning nombra lo improbable. Un documento que
+no se puede leer tiene una fila con file y error; los demás siguen, y el código de salida es 1.
+
+Privacidad: los documentos llevan el nombre de las pacientes. Sin --identify, ninguna celda
+contiene un identificador, una nota ni (salvo con --file path) el nombre de un archivo. La salida
+de error estándar nombra los archivos en todo caso, para la persona ante la terminal: no la guarde
+con las filas. Las notas pueden contener fechas en su texto: --relative-dates con --identify las
+deja como están.
+En CSV, los textos van como están. Una hoja de cálculo ejecuta las celdas que empiezan por &apos;=&apos;:
+importe los nombres, los identificadores y las notas como texto.
+</translation>
+    </message>
+    <message>
+        <source>one object a group, on a line</source>
+        <translation>un objeto por grupo, en una línea</translation>
+    </message>
+    <message>
+        <source>Works examples with known results out again: formulas, standards, references, dating.</source>
+        <translation>Recalcula ejemplos de resultado conocido: fórmulas, estándares, referencias, datación.</translation>
+    </message>
+    <message>
+        <source>A line a group: its name, how many values it has, how many of them differ; the last line is the total.
+The values are printed ones, held against the program at their own precision, and others that were
+worked out apart from the program. The status is 1 when one differs.
+</source>
+        <translation>Una línea por grupo: su nombre, cuántos valores tiene y cuántos de ellos difieren; la última línea
+es el total. Unos valores son impresos y se cotejan con el programa con su propia precisión; otros
+se calcularon aparte del programa. El código de salida es 1 si alguno difiere.
+</translation>
+    </message>
+    <message>
+        <source>what is wanted of the server</source>
+        <translation>qué se quiere del servidor</translation>
+    </message>
+    <message>
+        <source>a DICOM report to send; - is standard input</source>
+        <translation>un informe DICOM que enviar; - es la entrada estándar</translation>
+    </message>
+    <message>
+        <source>the server: a name or an IPv4 address</source>
+        <translation>el servidor: un nombre o una dirección IPv4</translation>
+    </message>
+    <message>
+        <source>its port</source>
+        <translation>su puerto</translation>
+    </message>
+    <message>
+        <source>its application entity title</source>
+        <translation>su título AE (entidad de aplicación)</translation>
+    </message>
+    <message>
+        <source>that of this program; without this option NASCOR</source>
+        <translation>el de este programa; sin esta opción, NASCOR</translation>
+    </message>
+    <message>
+        <source>speak encrypted, to a server whose certificate comes from this authority (PEM)</source>
+        <translation>conexión cifrada, con un servidor cuyo certificado procede de esta autoridad (PEM)</translation>
+    </message>
+    <message>
+        <source>the certificate of this program, for servers that ask for one (PEM)</source>
+        <translation>el certificado de este programa, para los servidores que lo piden (PEM)</translation>
+    </message>
+    <message>
+        <source>the key of that certificate, without a password (PEM)</source>
+        <translation>la clave de ese certificado, sin contraseña (PEM)</translation>
+    </message>
+    <message>
+        <source>for the whole of one connection, 1 to 3600; without this option 30</source>
+        <translation>para la duración total de una conexión, de 1 a 3600; sin esta opción, 30</translation>
+    </message>
+    <message>
+        <source>find, fetch: the reports of this reference ID</source>
+        <translation>find, fetch: los informes de este identificador</translation>
+    </message>
+    <message>
+        <source>find, fetch: those of this study</source>
+        <translation>find, fetch: los de este estudio</translation>
+    </message>
+    <message>
+        <source>find, fetch: of studies of this day (2026-11-23) and later</source>
+        <translation>find, fetch: de estudios de este día (2026-11-23) y posteriores</translation>
+    </message>
+    <message>
+        <source>find, fetch: of studies of this day and earlier</source>
+        <translation>find, fetch: de estudios de este día y anteriores</translation>
+    </message>
+    <message>
+        <source>fetch: the folder for the files, which is made when it is missing</source>
+        <translation>fetch: la carpeta para los archivos, que se crea si falta</translation>
+    </message>
+    <message>
+        <source>Fetches reports from a DICOM server, and sends reports to it.</source>
+        <translation>Obtiene informes de un servidor DICOM y le envía informes.</translation>
+    </message>
+    <message>
+        <source>echo asks whether the server answers. find lists its reports, an object a line: patientID, studyDate,
+study, series, instance. fetch writes them as INSTANCE.dcm, never over a file that is there, and needs a
+patient or a study. send sends files that &quot;export --format sr&quot; or a machine wrote.
+No other command uses the network, and this one speaks to the server of its options alone.
+</source>
+        <translation>echo pregunta si el servidor responde. find enumera sus informes, un objeto por línea: patientID,
+studyDate, study, series, instance. fetch los escribe como INSTANCE.dcm, nunca sobre un archivo que
+ya existe, y necesita una paciente o un estudio. send envía archivos que escribió
+«export --format sr» o un ecógrafo.
+Ningún otro comando usa la red, y este se comunica solo con el servidor de sus opciones.
+</translation>
+    </message>
+    <message>
+        <source>Growth standards (N):
+%1
+Weight formulas (K):
+%2
+The number or the name, in letters of any size.
+</source>
+        <translation>Estándares de crecimiento (N):
+%1
+Fórmulas del peso (K):
+%2
+El número o el nombre, en mayúsculas o minúsculas.
+</translation>
+    </message>
+    <message>
+        <source>growth standard, see below</source>
+        <translation>estándar de crecimiento, véase más abajo</translation>
+    </message>
+    <message>
+        <source>one of bpd, hc, ac, fl, efw; without it the four lengths</source>
+        <translation>una de bpd, hc, ac, fl, efw; sin esta opción, las cuatro medidas</translation>
+    </message>
+    <message>
+        <source>weight formula, see below; needed for efw</source>
+        <translation>fórmula del peso, véase más abajo; necesaria para efw</translation>
+    </message>
+    <message>
+        <source>rows [week, mean, sd]; without --measurement an object of such rows by measurement</source>
+        <translation>filas [semana, media, DE]; sin --measurement, un objeto de tales filas por medida</translation>
+    </message>
+    <message>
+        <source>A reference table: mean and standard deviation at each week, in mm or g.</source>
+        <translation>Una tabla de referencia: media y desviación estándar en cada semana, en mm o g.</translation>
+    </message>
+    <message>
+        <source>%1
+The mean weight is that of a fetus whose four lengths are the means. Its standard deviation is the
+error of the formula, not the spread of a population; 0 where none is published.
+</source>
+        <translation>%1
+El peso medio es el de un feto cuyas cuatro medidas son las medias. Su desviación estándar es el
+error de la fórmula, no la dispersión de una población; 0 si no hay ninguna publicada.
+</translation>
+    </message>
+    <message>
+        <source>one of bpd, hc, ac, fl, efw</source>
+        <translation>una de bpd, hc, ac, fl, efw</translation>
+    </message>
+    <message>
+        <source>the mean at W weeks</source>
+        <translation>la media a las W semanas</translation>
+    </message>
+    <message>
+        <source>the standard deviation at W weeks</source>
+        <translation>la desviación estándar a las W semanas</translation>
+    </message>
+    <message>
+        <source>the age in weeks of which MM (grams for efw) is the mean</source>
+        <translation>la edad en semanas cuya media es MM (gramos para efw)</translation>
+    </message>
+    <message>
+        <source>the same number as JSON</source>
+        <translation>el mismo número como JSON</translation>
+    </message>
+    <message>
+        <source>One look-up in a reference table, between whole weeks by linear interpolation.</source>
+        <translation>Una consulta en una tabla de referencia, entre semanas enteras por interpolación lineal.</translation>
+    </message>
+    <message>
+        <source>The value may be -: then values are read from standard input, one a line, and answered one a line; a
+line that is no number is answered by nan (null in JSON). Nothing is extrapolated: beyond the table
+its first or last week counts, and standard error says so (of standard input once).
+
+%1</source>
+        <translation>El valor puede ser -: entonces se leen valores de la entrada estándar, uno por línea, y se responde
+a cada uno en una línea; a una línea que no es un número se responde nan (null en JSON). No se
+extrapola nada: fuera de la tabla se toma su primera o su última semana, y la salida de error
+estándar lo dice (de la entrada estándar, una sola vez).
+
+%1</translation>
+    </message>
+    <message>
+        <source>the paper of a PDF; without this option A4</source>
+        <translation>el papel de un PDF; sin esta opción, A4</translation>
+    </message>
+    <message>
+        <source>who examined</source>
+        <translation>quién realizó la exploración</translation>
+    </message>
+    <message>
+        <source>a line at the head of each fetus; once for each line</source>
+        <translation>una línea en la cabecera de cada feto; una vez por línea</translation>
+    </message>
+    <message>
+        <source>A summary for the records: a page or two a fetus, typeset, or as HTML.</source>
+        <translation>Un resumen para la historia clínica: una o dos páginas por feto, maquetado, o como HTML.</translation>
+    </message>
+    <message>
+        <source>EDD, measurements with z and centile by the growth standard, weights, growth, small charts, notes,
+and the sources of all that was used. Each document is one file, &quot;NAME - Summary.pdf&quot;.
+Files of the same names are replaced, but with --no-clobber. SOURCE_DATE_EPOCH, in seconds since
+1970, takes the place of the present moment.
+</source>
+        <translation>FPP, mediciones con z y percentil según el estándar de crecimiento, pesos, crecimiento, gráficas
+pequeñas, notas y las fuentes de todo lo utilizado. Cada documento es un archivo,
+«NAME - Summary.pdf».
+Los archivos del mismo nombre se reemplazan, salvo con --no-clobber. SOURCE_DATE_EPOCH, en segundos
+desde 1970, sustituye al momento presente.
+</translation>
+    </message>
+</context>
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>line %1: %2</source>
+        <translation>línea %1: %2</translation>
+    </message>
+    <message>
+        <source>there is no header</source>
+        <translation>no hay cabecera</translation>
+    </message>
+    <message>
+        <source>there is no column %1: never measured</source>
+        <translation>no hay ninguna columna %1: nunca medida</translation>
+    </message>
+    <message>
+        <source>--columns: %1</source>
+        <translation>--columns: %1</translation>
+    </message>
+    <message>
+        <source>is a database of another program</source>
+        <extracomment>Behind the name of a file, as are the next ones.</extracomment>
+        <translation>es una base de datos de otro programa</translation>
+    </message>
+    <message>
+        <source>was made by another version of this program: remove it, and make it anew</source>
+        <translation>se creó con otra versión de este programa: elimínelo y créelo de nuevo</translation>
+    </message>
+    <message>
+        <source>no folder</source>
+        <translation>una carpeta desconocida</translation>
+    </message>
+    <message>
+        <source>is the index of %1, not of %2</source>
+        <translation>es el índice de %1, no de %2</translation>
+    </message>
+    <message>
+        <source>is no index of this program</source>
+        <translation>no es un índice de este programa</translation>
+    </message>
+    <message>
+        <source>--%1 takes no value</source>
+        <translation>--%1 no admite ningún valor</translation>
+    </message>
+    <message>
+        <source>%1 is missing</source>
+        <translation>falta %1</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is one argument too many</source>
+        <translation>«%1» es un argumento de más</translation>
+    </message>
+    <message>
+        <source>there is no command &quot;%1&quot;</source>
+        <translation>no existe el comando «%1»</translation>
+    </message>
+    <message>
+        <source>there is no option &quot;%1&quot;</source>
+        <translation>no existe la opción «%1»</translation>
+    </message>
+    <message>
+        <source>%1: 1 required  missing</source>
+        <extracomment>An option stands there without its value.</extracomment>
+        <translation>%1: falta su valor</translation>
+    </message>
+    <message>
+        <source>%1: At Most 1 required but received %2</source>
+        <extracomment>An option that may stand there once stands there %2 times.</extracomment>
+        <translation>%1: se admite una sola vez, pero figura %2 veces</translation>
+    </message>
+    <message>
+        <source>help explains one command</source>
+        <translation>help explica un solo comando</translation>
+    </message>
+    <message>
+        <source>a command is missing</source>
+        <translation>falta un comando</translation>
+    </message>
+    <message>
+        <source>standard output: %1</source>
+        <translation>salida estándar: %1</translation>
+    </message>
+    <message>
+        <source>there is not enough memory</source>
+        <translation>no hay memoria suficiente</translation>
+    </message>
+    <message>
+        <source>standard input</source>
+        <translation>entrada estándar</translation>
+    </message>
+    <message>
+        <source>warning</source>
+        <translation>advertencia</translation>
+    </message>
+    <message>
+        <source>a document is no text for a terminal; give --out FILE or send standard output to a file</source>
+        <translation>un documento no es texto para una terminal; indique --out FILE o dirija la salida estándar a un archivo</translation>
+    </message>
+    <message>
+        <source>written, but it may not outlast a power cut: %1</source>
+        <translation>escrito, pero podría no resistir un corte de corriente: %1</translation>
+    </message>
+    <message>
+        <source>holds no patient</source>
+        <extracomment>Behind the name of a file.</extracomment>
+        <translation>no contiene ninguna paciente</translation>
+    </message>
+    <message>
+        <source>--fetus: expected all or a number from 1 to 5</source>
+        <translation>--fetus: se esperaba all o un número del 1 al 5</translation>
+    </message>
+    <message>
+        <source>--out is missing</source>
+        <translation>falta --out</translation>
+    </message>
+    <message>
+        <source>--format: expected pdf, png, svg, sr or fhir</source>
+        <translation>--format: se esperaba pdf, png, svg, sr o fhir</translation>
+    </message>
+    <message>
+        <source>--ndjson is for --format fhir</source>
+        <translation>--ndjson es para --format fhir</translation>
+    </message>
+    <message>
+        <source>--pages: expected all, first, last, a number from 0 to %1 or a name, but &quot;%2&quot; stands here</source>
+        <translation>--pages: se esperaba all, first, last, un número de 0 a %1 o un nombre, pero aquí figura «%2»</translation>
+    </message>
+    <message>
+        <source>--out - takes the pages of one document</source>
+        <translation>--out - admite las páginas de un solo documento</translation>
+    </message>
+    <message>
+        <source>pages are no text for a terminal; give --out DIR or send standard output to a file</source>
+        <translation>las páginas no son texto para una terminal; indique --out DIR o dirija la salida estándar a un archivo</translation>
+    </message>
+    <message>
+        <source>%1; the pages are painted by this program</source>
+        <translation>%1; las páginas las dibuja este programa</translation>
+    </message>
+    <message>
+        <source>--format: expected sr or fhir; pages are painted by the application, which is not built here</source>
+        <translation>--format: se esperaba sr o fhir; las páginas las dibuja la aplicación, que no está incluida en esta compilación</translation>
+    </message>
+    <message>
+        <source>a length is missing</source>
+        <translation>falta una medida</translation>
+    </message>
+    <message>
+        <source>no formula dates %1 mm; they reach from %2 to %3 mm</source>
+        <extracomment>Crown-rump lengths.</extracomment>
+        <translation>ninguna fórmula data %1 mm; las fórmulas abarcan de %2 a %3 mm</translation>
+    </message>
+    <message>
+        <source>--fetus: expected ID=N with a number from 1 to 5, but &quot;%1&quot; stands here</source>
+        <translation>--fetus: se esperaba ID=N con un número del 1 al 5, pero aquí figura «%1»</translation>
+    </message>
+    <message>
+        <source>--patient takes a reference ID, and an empty one is none</source>
+        <translation>--patient requiere un identificador, y uno vacío no lo es</translation>
+    </message>
+    <message>
+        <source>--patient takes a reference ID of UTF-8 text in one line</source>
+        <translation>--patient requiere un identificador de texto UTF-8 en una sola línea</translation>
+    </message>
+    <message>
+        <source>--fetus: &quot;%1&quot; is given two numbers</source>
+        <translation>--fetus: a «%1» se le dan dos números</translation>
+    </message>
+    <message>
+        <source>is of patient &quot;%1&quot;, others are of &quot;%2&quot;; nothing is stored. Please import those of each patient alone</source>
+        <translation>es de la paciente «%1», otros son de «%2»; no se guarda nada. Importe los de cada paciente por separado</translation>
+    </message>
+    <message>
+        <source>it is there already, and stays as it is</source>
+        <translation>ya existe y se queda como está</translation>
+    </message>
+    <message>
+        <source>--out and --into are two ways to store</source>
+        <translation>--out y --into son dos maneras de guardar; indique solo una</translation>
+    </message>
+    <message>
+        <source>%1 takes a file</source>
+        <translation>%1 requiere un archivo</translation>
+    </message>
+    <message>
+        <source>the same holds for %1 more of the input</source>
+        <translation>lo mismo vale para %1 más de la entrada</translation>
+    </message>
+    <message>
+        <source>--db is missing: the file of the index</source>
+        <translation>falta --db: el archivo del índice</translation>
+    </message>
+    <message>
+        <source>a whole number from 0</source>
+        <translation>un número entero, 0 o mayor</translation>
+    </message>
+    <message>
+        <source>a day such as 2027-04-10</source>
+        <translation>un día como 2027-04-10</translation>
+    </message>
+    <message>
+        <source>three characters or more</source>
+        <translation>un texto de tres o más caracteres</translation>
+    </message>
+    <message>
+        <source>there are more than %1: a longer text, or --limit, shows them</source>
+        <translation>hay más de %1: se muestran con un texto más largo o con --limit</translation>
+    </message>
+    <message>
+        <source>longer than 1 GiB, which no document is</source>
+        <translation>ocupa más de 1 GiB, más que cualquier documento</translation>
+    </message>
+    <message>
+        <source>line %1: expected a decimal number, but &quot;%2&quot; stands here</source>
+        <translation>línea %1: se esperaba un número decimal, pero aquí figura «%2»</translation>
+    </message>
+    <message>
+        <source>%1 or a whole number from 0 to %2</source>
+        <extracomment>%1 is a list of names.</extracomment>
+        <translation>%1 o un número entero de 0 a %2</translation>
+    </message>
+    <message>
+        <source>expected bpd, hc, ac, fl or efw as the measurement, but &quot;%1&quot; was given</source>
+        <translation>se esperaba bpd, hc, ac, fl o efw como medida, pero se dio «%1»</translation>
+    </message>
+    <message>
+        <source>%1: expected %2, but &quot;%3&quot; was given</source>
+        <extracomment>%1 is an option or an operand, %2 what it takes, %3 what was typed.</extracomment>
+        <translation>%1: se esperaba %2, pero se dio «%3»</translation>
+    </message>
+    <message>
+        <source>a decimal number</source>
+        <translation>un número decimal</translation>
+    </message>
+    <message>
+        <source>the reference ID has a character that a DICOM report cannot hold</source>
+        <translation>el identificador tiene un carácter que un informe DICOM no puede contener</translation>
+    </message>
+    <message>
+        <source>the reference ID is longer than the 64 characters of a DICOM report</source>
+        <translation>el identificador supera los 64 caracteres de un informe DICOM</translation>
+    </message>
+    <message>
+        <source>cannot be written: %1</source>
+        <translation>no se puede escribir: %1</translation>
+    </message>
+    <message>
+        <source>--%1 is for pages, not for --format %2</source>
+        <translation>--%1 es para páginas, no para --format %2</translation>
+    </message>
+    <message>
+        <source>--ndjson writes to standard output, and takes no --out</source>
+        <translation>--ndjson escribe en la salida estándar y no admite --out</translation>
+    </message>
+    <message>
+        <source>--out is missing, or no folder</source>
+        <translation>falta --out, o no es una carpeta</translation>
+    </message>
+    <message>
+        <source>it holds no examination, and nothing is written</source>
+        <translation>no contiene ninguna exploración y no se escribe nada</translation>
+    </message>
+    <message>
+        <source>--out needs the recovery file to write; recover alone lists them</source>
+        <translation>--out necesita el archivo de recuperación que se ha de escribir; recover sin él los enumera</translation>
+    </message>
+    <message>
+        <source>give --out DOCUMENT, where to write the document</source>
+        <translation>indique --out DOCUMENT, dónde escribir el documento</translation>
+    </message>
+    <message>
+        <source>a number above 0</source>
+        <translation>un número mayor que 0</translation>
+    </message>
+    <message>
+        <source>a number between 0 and 100, both excluded</source>
+        <translation>un número entre 0 y 100, ambos excluidos</translation>
+    </message>
+    <message>
+        <source>%1 tells nothing of %2; it has %3</source>
+        <extracomment>%1 is a reference, %2 a measurement, %3 a list of measurements.</extracomment>
+        <translation>%1 no dice nada de %2; tiene %3</translation>
+    </message>
+    <message>
+        <source>--week is missing</source>
+        <translation>falta --week</translation>
+    </message>
+    <message>
+        <source>--value, --centile and --z exclude each other</source>
+        <translation>--value, --centile y --z se excluyen entre sí</translation>
+    </message>
+    <message>
+        <source>--week and --%1 cannot both be -</source>
+        <translation>--week y --%1 no pueden ser ambos -</translation>
+    </message>
+    <message>
+        <source>expected %1, but %2 was given</source>
+        <translation>se esperaba %1, pero se dio %2</translation>
+    </message>
+    <message>
+        <source>NAME is missing</source>
+        <translation>falta NAME</translation>
+    </message>
+    <message>
+        <source>MEASURE is missing</source>
+        <translation>falta MEASURE</translation>
+    </message>
+    <message>
+        <source>%1: fmf-2018 is not offered, because its formula was not held against its printed table</source>
+        <translation>%1: fmf-2018 no se ofrece, porque su fórmula no se ha cotejado con su tabla impresa</translation>
+    </message>
+    <message>
+        <source>%1: expected one of %2, but &quot;%3&quot; was given</source>
+        <extracomment>%1 is an option or an operand, %2 a list of names.</extracomment>
+        <translation>%1: se esperaba uno de estos nombres: %2, pero se dio «%3»</translation>
+    </message>
+    <message>
+        <source>--standard: %1 has no mean and SD of the four lengths</source>
+        <translation>--standard: %1 no tiene media y DE de las cuatro medidas</translation>
+    </message>
+    <message>
+        <source>--standard: &quot;%1&quot; stands there twice</source>
+        <translation>--standard: «%1» figura dos veces</translation>
+    </message>
+    <message>
+        <source>--columns: a name is empty</source>
+        <translation>--columns: hay un nombre vacío</translation>
+    </message>
+    <message>
+        <source>--columns: &quot;%1&quot; stands there twice</source>
+        <translation>--columns: «%1» figura dos veces</translation>
+    </message>
+    <message>
+        <source>--columns: there is no column &quot;%1&quot;</source>
+        <translation>--columns: no existe la columna «%1»</translation>
+    </message>
+    <message>
+        <source>--columns: %1 needs --identify</source>
+        <translation>--columns: %1 necesita --identify</translation>
+    </message>
+    <message>
+        <source>--columns: %1 is a date, which --relative-dates leaves out</source>
+        <translation>--columns: %1 es una fecha, que --relative-dates omite</translation>
+    </message>
+    <message>
+        <source>--columns: %1 needs --relative-dates</source>
+        <translation>--columns: %1 necesita --relative-dates</translation>
+    </message>
+    <message>
+        <source>--file: expected number or path</source>
+        <translation>--file: se esperaba number o path</translation>
+    </message>
+    <message>
+        <source>--format: expected csv or jsonl</source>
+        <translation>--format: se esperaba csv o jsonl</translation>
+    </message>
+    <message>
+        <source>a whole number above 0</source>
+        <translation>un número entero mayor que 0</translation>
+    </message>
+    <message>
+        <source>--null needs --files-from</source>
+        <translation>--null necesita --files-from</translation>
+    </message>
+    <message>
+        <source>--tar stands alone, without PATH and --files-from</source>
+        <translation>--tar va solo, sin PATH ni --files-from</translation>
+    </message>
+    <message>
+        <source>standard input (-) can be read once only</source>
+        <translation>la entrada estándar (-) solo se puede leer una vez</translation>
+    </message>
+    <message>
+        <source>a PATH, --files-from or --tar is missing</source>
+        <translation>falta un PATH, --files-from o --tar</translation>
+    </message>
+    <message>
+        <source>--time-zone: this system knows no zone &quot;%1&quot;</source>
+        <translation>--time-zone: este sistema no conoce ninguna zona «%1»</translation>
+    </message>
+    <message>
+        <source>%1 of %2 values differ</source>
+        <translation>%1 de %2 valores difieren</translation>
+    </message>
+    <message>
+        <source>--%1: expected a day like 2026-11-23, but &quot;%2&quot; stands here</source>
+        <translation>--%1: se esperaba un día como 2026-11-23, pero aquí figura «%2»</translation>
+    </message>
+    <message>
+        <source>--patient: the reference ID is empty</source>
+        <translation>--patient: el identificador está vacío</translation>
+    </message>
+    <message>
+        <source>--study: the UID is empty</source>
+        <translation>--study: el UID está vacío</translation>
+    </message>
+    <message>
+        <source>has no such report</source>
+        <translation>no tiene ningún informe así</translation>
+    </message>
+    <message>
+        <source>is not sent, because the server did not answer before</source>
+        <translation>no se envía, porque el servidor no respondió antes</translation>
+    </message>
+    <message>
+        <source>is not sent: %1 %2</source>
+        <extracomment>%1 is the address of a server, %2 what is wrong with it: &quot;... is not sent: host:104 does not answer&quot;.</extracomment>
+        <translation>no se envía: %1 %2</translation>
+    </message>
+    <message>
+        <source>--%1 is not for %2</source>
+        <translation>--%1 no es para %2</translation>
+    </message>
+    <message>
+        <source>%1 takes no FILE</source>
+        <translation>%1 no admite FILE</translation>
+    </message>
+    <message>
+        <source>fetch needs --patient or --study</source>
+        <translation>fetch necesita --patient o --study</translation>
+    </message>
+    <message>
+        <source>--out takes a folder</source>
+        <translation>--out requiere una carpeta</translation>
+    </message>
+    <message>
+        <source>expected echo, find, fetch or send</source>
+        <translation>se esperaba echo, find, fetch o send</translation>
+    </message>
+    <message>
+        <source>is not contacted: %1</source>
+        <translation>no se ha contactado con él: %1</translation>
+    </message>
+    <message>
+        <source>the connection is not encrypted: what goes over it can be read on its way; see --ca</source>
+        <translation>la conexión no está cifrada: lo que pasa por ella se puede leer por el camino; véase --ca</translation>
+    </message>
+    <message>
+        <source>efw needs --formula</source>
+        <translation>efw necesita --formula</translation>
+    </message>
+    <message>
+        <source>%1 lies beyond the table, whose first week, %2, counts</source>
+        <translation>%1 queda fuera de la tabla; se toma su primera semana, %2</translation>
+    </message>
+    <message>
+        <source>%1 lies beyond the table, whose last week, %2, counts</source>
+        <translation>%1 queda fuera de la tabla; se toma su última semana, %2</translation>
+    </message>
+    <message>
+        <source>--mean, --sd and --gestation exclude each other</source>
+        <translation>--mean, --sd y --gestation se excluyen entre sí</translation>
+    </message>
+    <message>
+        <source>one of --mean, --sd and --gestation is missing</source>
+        <translation>falta una de las opciones --mean, --sd y --gestation</translation>
+    </message>
+    <message>
+        <source>%1; did you mean &quot;%2&quot;?</source>
+        <extracomment>%1 is a sentence, %2 what may have been meant.</extracomment>
+        <translation>%1; ¿quería decir «%2»?</translation>
+    </message>
+    <message>
+        <source>SOURCE_DATE_EPOCH: expected whole seconds since 1970</source>
+        <translation>SOURCE_DATE_EPOCH: se esperaban segundos enteros desde 1970</translation>
+    </message>
+    <message>
+        <source>--paper: expected a4 or letter</source>
+        <translation>--paper: se esperaba a4 o letter</translation>
+    </message>
+    <message>
+        <source>cannot be put on paper: %1</source>
+        <translation>no se puede maquetar en papel: %1</translation>
+    </message>
+    <message>
+        <source>--format: expected pdf or html</source>
+        <translation>--format: se esperaba pdf o html</translation>
+    </message>
+    <message>
+        <source>--out - takes the summary of one document</source>
+        <translation>--out - admite el resumen de un solo documento</translation>
+    </message>
+    <message>
+        <source>a PDF is no text for a terminal; give --out DIR or send standard output to a file</source>
+        <translation>un PDF no es texto para una terminal; indique --out DIR o dirija la salida estándar a un archivo</translation>
+    </message>
+    <message>
+        <source>it has no such fetus</source>
+        <translation>no tiene ese feto</translation>
+    </message>
+</context>
+<context>
     <name>Compare</name>
     <message>
         <source>BPD</source>
@@ -203,18 +1538,6 @@
     <message>
         <source>The age is not known.</source>
         <translation>No se conoce la edad.</translation>
-    </message>
-    <message>
-        <source> has %ld to %ld weeks.</source>
-        <translation> abarca de %ld a %ld semanas.</translation>
-    </message>
-    <message>
-        <source> fits weights by another formula alone: </source>
-        <translation> solo vale para pesos de otra fórmula: </translation>
-    </message>
-    <message>
-        <source> has no place for this value.</source>
-        <translation> no permite situar este valor.</translation>
     </message>
     <message>
         <source>Remark</source>
@@ -609,6 +1932,14 @@
     </message>
 </context>
 <context>
+    <name>Counting</name>
+    <message>
+        <source>1</source>
+        <extracomment>The counts that go with the form for one, with blanks between: &quot;1&quot; in English and German (&quot;1 byte&quot;, &quot;0 bytes&quot;), &quot;0 1&quot; in French.</extracomment>
+        <translation>1</translation>
+    </message>
+</context>
+<context>
     <name>DataMenu</name>
     <message>
         <source>Export Data...</source>
@@ -980,6 +2311,17 @@
     </message>
 </context>
 <context>
+    <name>Files</name>
+    <message>
+        <source>Not a regular file</source>
+        <translation>No es un archivo regular</translation>
+    </message>
+    <message>
+        <source>It was changed meanwhile</source>
+        <translation>Ha cambiado entretanto</translation>
+    </message>
+</context>
+<context>
     <name>ImportDialog</name>
     <message>
         <source>Examination</source>
@@ -1040,6 +2382,46 @@
     <message>
         <source>%1 of the report is:</source>
         <translation>%1 del informe es:</translation>
+    </message>
+</context>
+<context>
+    <name>Improbable</name>
+    <message>
+        <source>%1 %2 mm is outside %3 to %4 mm</source>
+        <translation>%1 %2 mm queda fuera del intervalo de %3 a %4 mm</translation>
+    </message>
+    <message>
+        <source>%1 %2 mm is shorter than where any growth standard begins; lengths are in mm</source>
+        <translation>%1 %2 mm es menor que el primer valor de cualquier estándar de crecimiento; las medidas van en mm</translation>
+    </message>
+    <message>
+        <source>%1 %2 mm is more than 4 SD below the mean of the growth standard at this age</source>
+        <translation>%1 %2 mm está más de 4 DE por debajo de la media del estándar de crecimiento a esta edad</translation>
+    </message>
+    <message>
+        <source>%1 %2 mm is more than 4 SD above the mean of the growth standard at this age</source>
+        <translation>%1 %2 mm está más de 4 DE por encima de la media del estándar de crecimiento a esta edad</translation>
+    </message>
+    <message>
+        <source>%1 %2 mm is below nine tenths of pi times the BPD, %3 mm</source>
+        <translation>%1 %2 mm es menos de nueve décimas partes de pi por el BPD, %3 mm</translation>
+    </message>
+    <message>
+        <source>%1 %2 mm is improbable</source>
+        <translation>%1 %2 mm es improbable</translation>
+    </message>
+    <message>
+        <source>it is %1 day before the last period</source>
+        <extracomment>&quot;It&quot; is an examination.</extracomment>
+        <translation>es %1 día anterior a la última regla</translation>
+    </message>
+    <message>
+        <source>it is %1 days before the last period</source>
+        <translation>es %1 días anterior a la última regla</translation>
+    </message>
+    <message>
+        <source>its age, %1, is above 45 weeks</source>
+        <translation>su edad, %1, supera las 45 semanas</translation>
     </message>
 </context>
 <context>
@@ -2163,6 +3545,506 @@
     </message>
 </context>
 <context>
+    <name>Reading</name>
+    <message>
+        <source>a real</source>
+        <translation>un número real</translation>
+    </message>
+    <message>
+        <source>the mark of something new</source>
+        <translation>la marca de algo nuevo</translation>
+    </message>
+    <message>
+        <source>the end of an object</source>
+        <translation>el fin de un objeto</translation>
+    </message>
+    <message>
+        <source>the meaningless byte %1</source>
+        <translation>el byte sin significado %1</translation>
+    </message>
+    <message>
+        <source>only %1 of its %2 are left</source>
+        <extracomment>%2 is a count, such as &quot;8 bytes&quot;.</extracomment>
+        <translation>solo quedan %1 de sus %2</translation>
+    </message>
+    <message>
+        <source>label %1 is outside the %2 given so far</source>
+        <translation>la etiqueta %1 no está entre las %2 dadas hasta aquí</translation>
+    </message>
+    <message>
+        <source>string %1 is outside the %2 given so far</source>
+        <translation>la cadena %1 no está entre las %2 dadas hasta aquí</translation>
+    </message>
+    <message>
+        <source>its length is %1</source>
+        <translation>su longitud es %1</translation>
+    </message>
+    <message>
+        <source>at byte %1: %2</source>
+        <translation>en el byte %1: %2</translation>
+    </message>
+    <message>
+        <source>expected %1, but %2</source>
+        <extracomment>%1 is what was expected, such as &quot;an object&quot;, %2 a clause such as &quot;the file ends here&quot;.</extracomment>
+        <translation>se esperaba %1, pero %2</translation>
+    </message>
+    <message>
+        <source>%1 stands here</source>
+        <translation>aquí figura %1</translation>
+    </message>
+    <message>
+        <source>%1 byte</source>
+        <translation>%1 byte</translation>
+    </message>
+    <message>
+        <source>%1 bytes</source>
+        <translation>%1 bytes</translation>
+    </message>
+    <message>
+        <source>the file ends here</source>
+        <translation>aquí termina el archivo</translation>
+    </message>
+    <message>
+        <source>the text of this stream is more than %1 times as long as the stream itself</source>
+        <translation>el texto de este flujo es más de %1 veces más largo que el propio flujo</translation>
+    </message>
+    <message>
+        <source>a typed stream of version 4</source>
+        <translation>un flujo tipado de la versión 4</translation>
+    </message>
+    <message>
+        <source>the signature of a typed stream</source>
+        <translation>la firma de un flujo tipado</translation>
+    </message>
+    <message>
+        <source>the version is %1</source>
+        <translation>la versión es %1</translation>
+    </message>
+    <message>
+        <source>the system version</source>
+        <translation>la versión del sistema</translation>
+    </message>
+    <message>
+        <source>a group of values, or the end of an object</source>
+        <translation>un grupo de valores, o el fin de un objeto</translation>
+    </message>
+    <message>
+        <source>a group of values</source>
+        <translation>un grupo de valores</translation>
+    </message>
+    <message>
+        <source>%1 ends here</source>
+        <extracomment>An object.</extracomment>
+        <translation>aquí termina %1</translation>
+    </message>
+    <message>
+        <source>the types of a group</source>
+        <translation>la cadena de tipos de un grupo</translation>
+    </message>
+    <message>
+        <source>the type string %1 %2</source>
+        <extracomment>%2 is what is wrong with it, such as &quot;ends inside an array&quot;.</extracomment>
+        <translation>la cadena de tipos %1 %2</translation>
+    </message>
+    <message>
+        <source>its text is nil</source>
+        <translation>su texto es nil</translation>
+    </message>
+    <message>
+        <source>a class name</source>
+        <translation>un nombre de clase</translation>
+    </message>
+    <message>
+        <source>a class version</source>
+        <translation>una versión de clase</translation>
+    </message>
+    <message>
+        <source>more than %1 class records stand in a chain</source>
+        <translation>hay más de %1 registros de clase encadenados</translation>
+    </message>
+    <message>
+        <source>a superclass</source>
+        <translation>una superclase</translation>
+    </message>
+    <message>
+        <source>objects, arrays and structures nest more than %1 deep</source>
+        <translation>hay objetos, matrices y estructuras anidados a más de %1 niveles</translation>
+    </message>
+    <message>
+        <source>an integer</source>
+        <translation>un entero</translation>
+    </message>
+    <message>
+        <source>a byte</source>
+        <translation>un byte</translation>
+    </message>
+    <message>
+        <source>%1 does not fit that</source>
+        <translation>%1 no cabe ahí</translation>
+    </message>
+    <message>
+        <source>a string</source>
+        <translation>una cadena</translation>
+    </message>
+    <message>
+        <source>a C string</source>
+        <translation>una cadena C</translation>
+    </message>
+    <message>
+        <source>a class</source>
+        <translation>una clase</translation>
+    </message>
+    <message>
+        <source>an array of bytes</source>
+        <translation>una matriz de bytes</translation>
+    </message>
+    <message>
+        <source>an array</source>
+        <translation>una matriz</translation>
+    </message>
+    <message>
+        <source>it takes at least %1, and %2 are left</source>
+        <extracomment>%1 is a count, such as &quot;8 bytes&quot;.</extracomment>
+        <translation>ocupa al menos %1, y quedan %2</translation>
+    </message>
+    <message>
+        <source>a structure</source>
+        <translation>una estructura</translation>
+    </message>
+    <message>
+        <source>an object</source>
+        <translation>un objeto</translation>
+    </message>
+    <message>
+        <source>the class of an object</source>
+        <translation>la clase de un objeto</translation>
+    </message>
+    <message>
+        <source>the end of %1</source>
+        <extracomment>%1 is an object.</extracomment>
+        <translation>que terminara %1</translation>
+    </message>
+    <message>
+        <source>more values follow</source>
+        <translation>siguen más valores</translation>
+    </message>
+    <message>
+        <source>class %1 (%2)</source>
+        <translation>la clase %1 (%2)</translation>
+    </message>
+    <message>
+        <source>C string %1</source>
+        <translation>la cadena C %1</translation>
+    </message>
+    <message>
+        <source>object %1 (of no class yet)</source>
+        <translation>el objeto %1 (aún sin clase)</translation>
+    </message>
+    <message>
+        <source>object %1 (%2)</source>
+        <translation>el objeto %1 (%2)</translation>
+    </message>
+    <message>
+        <source>nests arrays and structures more than %1 deep</source>
+        <extracomment>Behind &quot;the type string ...&quot;, as are the next ones.</extracomment>
+        <translation>anida matrices y estructuras a más de %1 niveles</translation>
+    </message>
+    <message>
+        <source>has the unknown type code %1</source>
+        <translation>tiene el código de tipo desconocido %1</translation>
+    </message>
+    <message>
+        <source>has an array without a count</source>
+        <translation>tiene una matriz sin número de elementos</translation>
+    </message>
+    <message>
+        <source>ends inside an array</source>
+        <translation>termina dentro de una matriz</translation>
+    </message>
+    <message>
+        <source>has an array without an element type</source>
+        <translation>tiene una matriz sin tipo de elemento</translation>
+    </message>
+    <message>
+        <source>has an array that is not closed</source>
+        <translation>tiene una matriz que no se cierra</translation>
+    </message>
+    <message>
+        <source>has an array whose elements take no bytes</source>
+        <translation>tiene una matriz cuyos elementos no ocupan ningún byte</translation>
+    </message>
+    <message>
+        <source>has a structure without members</source>
+        <translation>tiene una estructura sin miembros</translation>
+    </message>
+    <message>
+        <source>has a structure that is not closed</source>
+        <translation>tiene una estructura que no se cierra</translation>
+    </message>
+    <message>
+        <source>a selector</source>
+        <translation>un selector</translation>
+    </message>
+    <message>
+        <source>a shared string</source>
+        <translation>una cadena compartida</translation>
+    </message>
+    <message>
+        <source>an unsigned byte</source>
+        <translation>un byte sin signo</translation>
+    </message>
+    <message>
+        <source>a truth value</source>
+        <translation>un valor lógico</translation>
+    </message>
+    <message>
+        <source>a 16-bit integer</source>
+        <translation>un entero de 16 bits</translation>
+    </message>
+    <message>
+        <source>an unsigned 16-bit integer</source>
+        <translation>un entero de 16 bits sin signo</translation>
+    </message>
+    <message>
+        <source>a 32-bit integer</source>
+        <translation>un entero de 32 bits</translation>
+    </message>
+    <message>
+        <source>an unsigned 32-bit integer</source>
+        <translation>un entero de 32 bits sin signo</translation>
+    </message>
+    <message>
+        <source>a long integer</source>
+        <translation>un entero largo</translation>
+    </message>
+    <message>
+        <source>an unsigned long integer</source>
+        <translation>un entero largo sin signo</translation>
+    </message>
+    <message>
+        <source>a 64-bit integer</source>
+        <translation>un entero de 64 bits</translation>
+    </message>
+    <message>
+        <source>an unsigned 64-bit integer</source>
+        <translation>un entero de 64 bits sin signo</translation>
+    </message>
+    <message>
+        <source>a 32-bit real</source>
+        <translation>un número real de 32 bits</translation>
+    </message>
+    <message>
+        <source>a 64-bit real</source>
+        <translation>un número real de 64 bits</translation>
+    </message>
+    <message>
+        <source>a value</source>
+        <translation>un valor</translation>
+    </message>
+    <message>
+        <source>values</source>
+        <translation>una serie de valores</translation>
+    </message>
+    <message>
+        <source>%1 (type %2)</source>
+        <extracomment>%1 is a type in words, such as &quot;an object&quot;, %2 as it is spelled.</extracomment>
+        <translation>%1 (tipo %2)</translation>
+    </message>
+    <message>
+        <source>not a Nascor document (%1)</source>
+        <extracomment>Behind the name of a file; %1 is the reason.</extracomment>
+        <translation>no es un documento de Nascor (%1)</translation>
+    </message>
+    <message>
+        <source>a text or null</source>
+        <translation>un texto o null</translation>
+    </message>
+    <message>
+        <source>a date (seconds since 2001-01-01 UTC, an ISO text) or null</source>
+        <translation>una fecha (segundos desde 2001-01-01 UTC, un texto ISO) o null</translation>
+    </message>
+    <message>
+        <source>an ISO date or null</source>
+        <translation>una fecha ISO o null</translation>
+    </message>
+    <message>
+        <source>a whole number</source>
+        <translation>un número entero</translation>
+    </message>
+    <message>
+        <source>a number, &quot;nan&quot;, &quot;inf&quot; or &quot;-inf&quot;</source>
+        <translation>un número, &quot;nan&quot;, &quot;inf&quot; o &quot;-inf&quot;</translation>
+    </message>
+    <message>
+        <source>a list</source>
+        <translation>una lista</translation>
+    </message>
+    <message>
+        <source>the text %1</source>
+        <translation>el texto %1</translation>
+    </message>
+    <message>
+        <source>binary data</source>
+        <translation>un bloque de datos binarios</translation>
+    </message>
+    <message>
+        <source>one of the keys %1</source>
+        <translation>una de las claves %1</translation>
+    </message>
+    <message>
+        <source>each key once</source>
+        <translation>cada clave una sola vez</translation>
+    </message>
+    <message>
+        <source>this one stands twice</source>
+        <translation>esta figura dos veces</translation>
+    </message>
+    <message>
+        <source>expected JSON, but %1</source>
+        <translation>se esperaba JSON, pero %1</translation>
+    </message>
+    <message>
+        <source>at line %1, column %2: %3</source>
+        <translation>en la línea %1, columna %2: %3</translation>
+    </message>
+    <message>
+        <source>at the top: %1</source>
+        <translation>en el nivel superior: %1</translation>
+    </message>
+    <message>
+        <source>at %1: %2</source>
+        <extracomment>%1 is a place in a JSON text, such as /examinations/2/note.</extracomment>
+        <translation>en %1: %2</translation>
+    </message>
+    <message>
+        <source>a whole number of at most 64 bits</source>
+        <translation>un número entero de 64 bits como máximo</translation>
+    </message>
+    <message>
+        <source>%1 is longer than 32 bits; the file holds the low 32, which are %2</source>
+        <translation>%1 ocupa más de 32 bits; el archivo contiene los 32 inferiores, que son %2</translation>
+    </message>
+    <message>
+        <source>%1 is beyond single precision; the file holds %2</source>
+        <translation>%1 excede la precisión simple; el archivo contiene %2</translation>
+    </message>
+    <message>
+        <source>this number is beyond 64 bits</source>
+        <translation>este número excede los 64 bits</translation>
+    </message>
+    <message>
+        <source>expected JSON, but a zero byte stands here</source>
+        <translation>se esperaba JSON, pero aquí figura un byte cero</translation>
+    </message>
+    <message>
+        <source>expected a string of UTF-8 text, but its bytes are not UTF-8</source>
+        <translation>se esperaba una cadena de texto UTF-8, pero sus bytes no son UTF-8</translation>
+    </message>
+    <message>
+        <source>expected a string of UTF-8 text, but its bytes are missing</source>
+        <translation>se esperaba una cadena de texto UTF-8, pero faltan sus bytes</translation>
+    </message>
+    <message>
+        <source>%1 would contain itself</source>
+        <translation>%1 se contendría a sí mismo</translation>
+    </message>
+    <message>
+        <source>expected a document of a plausible size, but its references to %1 and others repeat %2 bytes in a file of %3</source>
+        <translation>se esperaba un documento de un tamaño plausible, pero repite por referencias %1 y otros: %2 bytes en un archivo de %3</translation>
+    </message>
+    <message>
+        <source>the number of elements of an array</source>
+        <translation>el número de elementos de una matriz</translation>
+    </message>
+    <message>
+        <source>a PatientRecord</source>
+        <translation>un PatientRecord</translation>
+    </message>
+    <message>
+        <source>a string or nil</source>
+        <translation>una cadena o nil</translation>
+    </message>
+    <message>
+        <source>a date or nil</source>
+        <translation>una fecha o nil</translation>
+    </message>
+    <message>
+        <source>an array of examinations or nil</source>
+        <translation>una matriz de exploraciones o nil</translation>
+    </message>
+    <message>
+        <source>an NCRecord</source>
+        <translation>un NCRecord</translation>
+    </message>
+    <message>
+        <source>an array of measurements or nil</source>
+        <translation>una matriz de medidas o nil</translation>
+    </message>
+    <message>
+        <source>a MeasurementsRecord</source>
+        <translation>un MeasurementsRecord</translation>
+    </message>
+    <message>
+        <source>cannot be read</source>
+        <translation>no se puede leer</translation>
+    </message>
+    <message>
+        <source>longer than 256 MiB, which no document is</source>
+        <translation>ocupa más de 256 MiB, más que cualquier documento</translation>
+    </message>
+    <message>
+        <source>the tar archive ends before its end mark</source>
+        <translation>el archivo tar termina antes de su marca de fin</translation>
+    </message>
+    <message>
+        <source>the header has none of the columns ga_weeks, bpd_mm, hc_mm, ac_mm and fl_mm</source>
+        <translation>la cabecera no tiene ninguna de las columnas ga_weeks, bpd_mm, hc_mm, ac_mm y fl_mm</translation>
+    </message>
+    <message>
+        <source>the column %1 is one of those that are computed</source>
+        <translation>la columna %1 es una de las que se calculan</translation>
+    </message>
+    <message>
+        <source>%1 is no column of the input and none that is computed</source>
+        <extracomment>%1 stands in quotation marks.</extracomment>
+        <translation>%1 no es una columna de la entrada ni de las que se calculan</translation>
+    </message>
+    <message>
+        <source>%1 or %2</source>
+        <extracomment>Two names of one column.</extracomment>
+        <translation>%1 o %2</translation>
+    </message>
+    <message>
+        <source>the row that begins here is longer than 4 MiB; a quotation mark may never close</source>
+        <translation>la fila que empieza aquí supera los 4 MiB; quizá falten unas comillas de cierre</translation>
+    </message>
+    <message>
+        <source>a quotation mark that opens here never closes</source>
+        <translation>las comillas que se abren aquí no se cierran nunca</translation>
+    </message>
+    <message>
+        <source>text stands behind a closing quotation mark</source>
+        <translation>hay texto detrás de unas comillas de cierre</translation>
+    </message>
+    <message>
+        <source>the column %1 stands twice in the header</source>
+        <translation>la columna %1 figura dos veces en la cabecera</translation>
+    </message>
+    <message>
+        <source>the columns %1 and %2 are one</source>
+        <translation>las columnas %1 y %2 son la misma</translation>
+    </message>
+    <message>
+        <source>the header has %1 cells, this row %2</source>
+        <translation>la cabecera tiene %1 celdas; esta fila, %2</translation>
+    </message>
+    <message>
+        <source>%1: %2 is no number</source>
+        <extracomment>%1 is a column, %2 what stands in it, in quotation marks.</extracomment>
+        <translation>%1: %2 no es un número</translation>
+    </message>
+</context>
+<context>
     <name>Recovery</name>
     <message>
         <source>Reference ID</source>
@@ -2195,10 +4077,6 @@
     <message>
         <source>Gravidity</source>
         <translation>Gestas</translation>
-    </message>
-    <message>
-        <source>Unsaved changes cannot be kept against a crash. Please save:</source>
-        <translation>Los cambios sin guardar no se pueden proteger contra un fallo. Guárdelos:</translation>
     </message>
     <message>
         <source>Nascor ended before the changes of this document were saved. Do you want to recover them?</source>
@@ -2247,10 +4125,6 @@
     <message>
         <source>An examination that was removed</source>
         <translation>Una exploración eliminada</translation>
-    </message>
-    <message>
-        <source>Examination of</source>
-        <translation>Exploración del</translation>
     </message>
     <message>
         <source>An examination without a date</source>
@@ -2887,18 +4761,6 @@
         <translation>Mediciones</translation>
     </message>
     <message>
-        <source>Lengths: z and centile by </source>
-        <translation>Medidas: z y percentil según </translation>
-    </message>
-    <message>
-        <source>Weight: by the formula </source>
-        <translation>Peso: según la fórmula </translation>
-    </message>
-    <message>
-        <source>, z and centile by </source>
-        <translation>, z y percentil según </translation>
-    </message>
-    <message>
         <source>z</source>
         <translation>z</translation>
     </message>
@@ -2919,24 +4781,8 @@
         <translation>Crecimiento</translation>
     </message>
     <message>
-        <source>/week</source>
-        <translation>/semana</translation>
-    </message>
-    <message>
         <source>expected</source>
         <translation>esperado</translation>
-    </message>
-    <message>
-        <source>Lines: centiles 3, 10, 50, 90 and 97; lengths by </source>
-        <translation>Líneas: percentiles 3, 10, 50, 90 y 97; medidas según </translation>
-    </message>
-    <message>
-        <source>, weight by </source>
-        <translation>, peso según </translation>
-    </message>
-    <message>
-        <source>Weeks of menstrual age below.</source>
-        <translation>Abajo, semanas de edad gestacional.</translation>
     </message>
     <message>
         <source>The note is longer; the document has all of it.</source>
@@ -3094,6 +4940,67 @@
     <message>
         <source>No folder was chosen</source>
         <translation>No se ha elegido ninguna carpeta</translation>
+    </message>
+</context>
+<context>
+    <name>Writing</name>
+    <message>
+        <source>January</source>
+        <extracomment>A month as it stands in a day, &quot;4 January 2027&quot;.</extracomment>
+        <translation>enero</translation>
+    </message>
+    <message>
+        <source>February</source>
+        <translation>febrero</translation>
+    </message>
+    <message>
+        <source>March</source>
+        <translation>marzo</translation>
+    </message>
+    <message>
+        <source>April</source>
+        <translation>abril</translation>
+    </message>
+    <message>
+        <source>May</source>
+        <translation>mayo</translation>
+    </message>
+    <message>
+        <source>June</source>
+        <translation>junio</translation>
+    </message>
+    <message>
+        <source>July</source>
+        <translation>julio</translation>
+    </message>
+    <message>
+        <source>August</source>
+        <translation>agosto</translation>
+    </message>
+    <message>
+        <source>September</source>
+        <translation>septiembre</translation>
+    </message>
+    <message>
+        <source>October</source>
+        <translation>octubre</translation>
+    </message>
+    <message>
+        <source>November</source>
+        <translation>noviembre</translation>
+    </message>
+    <message>
+        <source>December</source>
+        <translation>diciembre</translation>
+    </message>
+    <message>
+        <source>%1 %2 %3</source>
+        <translation>%1 de %2 de %3</translation>
+    </message>
+    <message>
+        <source>.</source>
+        <extracomment>The decimal sign: a point or a comma.</extracomment>
+        <translation>,</translation>
     </message>
 </context>
 <context>

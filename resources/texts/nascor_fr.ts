@@ -111,18 +111,6 @@
         <source>beyond the table</source>
         <translation>hors table</translation>
     </message>
-    <message>
-        <source> has no centiles of this measure</source>
-        <translation> n’a pas de percentiles pour ce paramètre</translation>
-    </message>
-    <message>
-        <source>Centiles: </source>
-        <translation>Percentiles&#xa0;: </translation>
-    </message>
-    <message>
-        <source>, which fits weights by another formula alone: </source>
-        <translation>, ne valant que pour une autre formule&#xa0;: </translation>
-    </message>
 </context>
 <context>
     <name>AdjustDelivery</name>
@@ -179,6 +167,1357 @@
     </message>
 </context>
 <context>
+    <name>CommandHelp</name>
+    <message>
+        <source>growth standards by number or name, intergrowth-2014, with commas between; without it all four</source>
+        <translation>standards de croissance par numéro ou nom, ou intergrowth-2014, avec virgules ; sinon les quatre</translation>
+    </message>
+    <message>
+        <source>one weight, by number or name, instead of all eight</source>
+        <translation>un seul poids, par numéro ou nom de formule, au lieu des huit</translation>
+    </message>
+    <message>
+        <source>only these columns, of the input or computed, in this order</source>
+        <translation>ces colonnes seulement, de l’entrée ou calculées, dans cet ordre</translation>
+    </message>
+    <message>
+        <source>what is computed with one decimal, z-scores with three</source>
+        <translation>ce qui est calculé avec une décimale, les z-scores avec trois</translation>
+    </message>
+    <message>
+        <source>Weights, means and z-scores beside the columns of a CSV table on standard input.</source>
+        <translation>Poids, moyennes et z-scores à côté des colonnes d’un tableau CSV lu sur l’entrée standard.</translation>
+    </message>
+    <message>
+        <source>The first line names the columns; those that count are ga_weeks or ga, bpd_mm or bpd, hc_mm or
+hc, ac_mm or ac, fl_mm or fl, in any order. All columns of the table stay as they came. Behind
+them stand
+  efw_0_g,...,efw_7_g,westerway_bpd_mean_mm,westerway_bpd_sd_mm,westerway_bpd_z,...,cfef_fl_z
+  warning,error
+An empty cell, 0, nan and NA are not measured. What is no number (45mm, 45,2) is named in error
+and, with its line, on standard error; nothing is computed in that row, the others go on, and
+the status is 1. Memory does not grow with the table.
+Texts stay as they are. A spreadsheet runs cells that begin with &apos;=&apos;: import them as text.
+</source>
+        <translation>La première ligne nomme les colonnes ; comptent ga_weeks ou ga, bpd_mm ou bpd, hc_mm ou hc,
+ac_mm ou ac, fl_mm ou fl, dans n’importe quel ordre. Toutes les colonnes du tableau restent telles
+quelles. Derrière elles viennent
+  efw_0_g,...,efw_7_g,westerway_bpd_mean_mm,westerway_bpd_sd_mm,westerway_bpd_z,...,cfef_fl_z
+  warning,error
+Une cellule vide, 0, nan et NA signifient : non mesuré. Ce qui n’est pas un nombre (45mm, 45,2) est
+signalé dans error et, avec sa ligne, sur la sortie d’erreur standard ; rien n’est calculé dans
+cette ligne, les autres continuent, et le code de retour est 1. La mémoire utilisée ne croît pas
+avec le tableau.
+Les textes restent tels quels. Un tableur exécute les cellules qui commencent par &apos;=&apos; : importez-les
+comme texte.
+</translation>
+    </message>
+    <message>
+        <source>a document; - is standard input</source>
+        <translation>un document ; - est l’entrée standard</translation>
+    </message>
+    <message>
+        <source>one JSON object a document, on a line</source>
+        <translation>un objet JSON par document, sur une ligne</translation>
+    </message>
+    <message>
+        <source>say ok where there is nothing to say</source>
+        <translation>dire ok quand il n’y a rien à signaler</translation>
+    </message>
+    <message>
+        <source>Reads each document whole and names every oddity in it, one a line.</source>
+        <translation>Lit chaque document en entier et signale toutes ses anomalies, une par ligne.</translation>
+    </message>
+    <message>
+        <source>An oddity is accepted everywhere else: a count that disagrees, a date that is missing, a length beyond
+what can be typed, an old class version. It leaves the exit status at 0; a file that cannot be read
+makes it 1. Keys of the JSON: file, and oddities, an array of objects with kind, examination, fetus,
+text.
+</source>
+        <translation>Une anomalie est acceptée partout ailleurs : un nombre qui ne concorde pas, une date qui manque, une
+mesure au-delà de ce qui peut être saisi, une ancienne version de classe. Elle laisse le code de
+retour à 0 ; un fichier qui ne peut pas être lu le met à 1. Clés du JSON : file, et oddities, un
+tableau d’objets avec kind, examination, fetus, text.
+</translation>
+    </message>
+    <message>
+        <source>Not a medical device. Not validated for clinical use.</source>
+        <translation>N’est pas un dispositif médical. Non validé pour l’usage clinique.</translation>
+    </message>
+    <message>
+        <source>this text</source>
+        <translation>ce texte</translation>
+    </message>
+    <message>
+        <source>usage: %1</source>
+        <translation>usage : %1</translation>
+    </message>
+    <message>
+        <source>Commands:</source>
+        <translation>Commandes :</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Options :</translation>
+    </message>
+    <message>
+        <source>Obstetric ultrasound biometry for shells and scripts.</source>
+        <translation>Biométrie échographique obstétricale pour le shell et les scripts.</translation>
+    </message>
+    <message>
+        <source>Lengths are in millimetres, weights in grams, ages in weeks after the last menstrual period.
+A FILE or a value of - is standard input. No question is ever asked.
+Exit status: 0 all well, 1 some input was bad, 2 wrong usage.
+</source>
+        <translation>Les mesures sont en millimètres, les poids en grammes, les âges en semaines d’aménorrhée (SA).
+Quand FILE ou une valeur est -, c’est l’entrée standard. Aucune question n’est jamais posée.
+Code de retour : 0 tout va bien, 1 une partie de l’entrée était mauvaise, 2 usage incorrect.
+</translation>
+    </message>
+    <message>
+        <source>this text; help COMMAND explains one command</source>
+        <translation>ce texte ; help COMMAND explique une commande</translation>
+    </message>
+    <message>
+        <source>this text; behind a command, that command&apos;s help</source>
+        <translation>ce texte ; après une commande, l’aide de cette commande</translation>
+    </message>
+    <message>
+        <source>the version of the program</source>
+        <translation>la version du programme</translation>
+    </message>
+    <message>
+        <source>what follows is no option</source>
+        <translation>ce qui suit n’est pas une option</translation>
+    </message>
+    <message>
+        <source>one object a document, examination and fetus, on a line: unrounded numbers</source>
+        <translation>un objet par document, examen et fœtus, sur une ligne : nombres non arrondis</translation>
+    </message>
+    <message>
+        <source>Each length and weight by every reference and formula, ratios, twins, growth.</source>
+        <translation>Chaque mesure et poids selon chaque référence et formule, ratios, jumeaux, croissance.</translation>
+    </message>
+    <message>
+        <source>Examinations and fetuses count from 0. Difference is that from the weight by the document&apos;s formula.
+Age is that of which the value is the median of the reference; outside its weeks a dash. Discordance
+is the share, of the heaviest fetus, by which the lightest weighs less. Growth is that since the
+examination before which has the length; the change of z is by the document&apos;s standard. Centiles of
+weights are those of references; the error of a formula is no population.
+</source>
+        <translation>Les examens et les fœtus sont comptés à partir de 0. Difference est l’écart au poids selon la
+formule du document. Age est celui dont la valeur est la médiane de la référence ; hors de ses
+semaines, un tiret. Discordance est ce que le fœtus le plus léger pèse de moins que le plus lourd,
+en part du poids de celui-ci. Growth est la croissance depuis l’examen précédent où la mesure
+figure ; la variation de z est selon le standard du document. Les percentiles de poids sont ceux de
+références ; l’erreur d’une formule n’est pas une population.
+</translation>
+    </message>
+    <message>
+        <source>Each document as JSON: every field that it holds, one object on a line.</source>
+        <translation>Chaque document en JSON : tous les champs qu’il contient, un objet par ligne.</translation>
+    </message>
+    <message>
+        <source>Keys: maternalIDString, edd, eddISO, standard, fetalWeightStandard, numberOfFetuses,
+extrapolatedGestation (weeks), crlStandard, gravida, and examinations, an array of objects with note,
+examDate, examDateISO and measurements, an array of objects with bpd, hc, ac and fl (mm; 0 = not
+measured). Dates are seconds since 2001-01-01 UTC; beside each stands its local time as ISO text.
+</source>
+        <translation>Clés : maternalIDString, edd, eddISO, standard, fetalWeightStandard, numberOfFetuses,
+extrapolatedGestation (semaines), crlStandard, gravida, et examinations, un tableau d’objets avec
+note, examDate, examDateISO et measurements, un tableau d’objets avec bpd, hc, ac et fl (mm ;
+0 = non mesuré). Les dates sont en secondes depuis le 2001-01-01 UTC ; à côté de chacune figure son
+heure locale en texte ISO.
+</translation>
+    </message>
+    <message>
+        <source>a document as JSON; - is standard input</source>
+        <translation>un document en JSON ; - est l’entrée standard</translation>
+    </message>
+    <message>
+        <source>where to write it, as a whole or not at all; without it, or -, to standard output</source>
+        <translation>où l’écrire, en entier ou pas du tout ; sans cette option, ou avec -, sur la sortie standard</translation>
+    </message>
+    <message>
+        <source>A document from JSON.</source>
+        <translation>Un document à partir de JSON.</translation>
+    </message>
+    <message>
+        <source>Reads what json prints: maternalIDString, edd, standard, fetalWeightStandard, numberOfFetuses,
+extrapolatedGestation (weeks), crlStandard, gravida, and examinations, an array of objects with
+note, examDate and measurements, an array of objects with bpd, hc, ac and fl (mm). Every key may be
+missing; an unknown one is an error. A date is a number of
+seconds since 2001-01-01 UTC, an ISO date (2027-04-10 is local midnight), an ISO date and time, or
+null. Lengths are stored in single precision, whole numbers in 32 bits.
+</source>
+        <translation>Lit ce qu’écrit json : maternalIDString, edd, standard, fetalWeightStandard, numberOfFetuses,
+extrapolatedGestation (semaines), crlStandard, gravida, et examinations, un tableau d’objets avec
+note, examDate et measurements, un tableau d’objets avec bpd, hc, ac et fl (mm). Toute clé peut
+manquer ; une clé inconnue est une erreur. Une date est un nombre de secondes depuis le 2001-01-01
+UTC, une date ISO (2027-04-10 est minuit, heure locale), une date et heure ISO, ou null. Les mesures
+sont stockées en simple précision, les nombres entiers sur 32 bits.
+</translation>
+    </message>
+    <message>
+        <source>any typed stream; - is standard input</source>
+        <translation>un flux typé quelconque ; - est l’entrée standard</translation>
+    </message>
+    <message>
+        <source>one JSON object a stream, on a line</source>
+        <translation>un objet JSON par flux, sur une ligne</translation>
+    </message>
+    <message>
+        <source>All that a typed stream holds, as a tree; of any program, not only documents.</source>
+        <translation>Tout ce que contient un flux typé, en arborescence ; de tout programme, pas seulement un document.</translation>
+    </message>
+    <message>
+        <source>Each line begins with the byte at which the value begins. Keys of the JSON: byte_order,
+system_version, and groups, an array of objects with types and values; docs/json.md lists the values.
+</source>
+        <translation>Chaque ligne commence par l’octet où commence la valeur. Clés du JSON : byte_order, system_version,
+et groups, un tableau d’objets avec types et values ; docs/json.md énumère les valeurs.
+</translation>
+    </message>
+    <message>
+        <source>the folder for the files, which is made when it is missing; - is standard output, for one file</source>
+        <translation>le dossier des fichiers, créé s’il manque ; - est la sortie standard, pour un seul fichier</translation>
+    </message>
+    <message>
+        <source>what is written; without this option PDF</source>
+        <translation>ce qui est écrit ; sans cette option, PDF</translation>
+    </message>
+    <message>
+        <source>all, or first, last, numbers from 0 to 6 and names, with commas between</source>
+        <translation>all (toutes), ou first, last, numéros de 0 à 6 et noms, séparés par des virgules</translation>
+    </message>
+    <message>
+        <source>one fetus, the first is 1; without this option all</source>
+        <translation>un seul fœtus, 1 étant le premier ; sans cette option, tous</translation>
+    </message>
+    <message>
+        <source>centile lines of a reference of &quot;nascor-cli reference&quot; over the charts</source>
+        <translation>lignes de percentiles d’une référence de « nascor-cli reference » sur les graphiques</translation>
+    </message>
+    <message>
+        <source>a line from mark to mark of each fetus</source>
+        <translation>une ligne de point en point pour chaque fœtus</translation>
+    </message>
+    <message>
+        <source>leave files that are there as they are, and say so</source>
+        <translation>laisser tels quels les fichiers qui existent déjà, et le dire</translation>
+    </message>
+    <message>
+        <source>leave off what stands under each page</source>
+        <translation>omettre ce qui figure sous chaque page</translation>
+    </message>
+    <message>
+        <source>FHIR as one resource a line, of all documents, on standard output</source>
+        <translation>FHIR, une ressource par ligne, de tous les documents, sur la sortie standard</translation>
+    </message>
+    <message>
+        <source>Writes the pages of each document, or its numbers for other programs.</source>
+        <translation>Écrit les pages de chaque document, ou ses nombres pour d’autres programmes.</translation>
+    </message>
+    <message>
+        <source>Names of pages: %1 (0 to %2), in letters of any size.
+As PDF all pages of a document are one file; else each is a file of its own.
+Files of the same names are replaced, but with --no-clobber.
+sr: a DICOM structured report (Comprehensive SR) for each examination, &quot;NAME 1.dcm&quot;, ...
+fhir: a FHIR R4 bundle for each document, NAME.json; with --ndjson lines on standard output.
+</source>
+        <translation>Noms des pages : %1 (0 à %2), en majuscules ou minuscules.
+En PDF, toutes les pages d’un document forment un seul fichier ; sinon, chacune a le sien.
+Les fichiers de même nom sont remplacés, sauf avec --no-clobber.
+sr : un rapport structuré DICOM (Comprehensive SR) pour chaque examen, « NAME 1.dcm », ...
+fhir : un bundle FHIR R4 pour chaque document, NAME.json ; avec --ndjson, des lignes sur la sortie
+standard.
+</translation>
+    </message>
+    <message>
+        <source>biparietal diameter</source>
+        <translation>diamètre bipariétal</translation>
+    </message>
+    <message>
+        <source>head circumference</source>
+        <translation>périmètre céphalique</translation>
+    </message>
+    <message>
+        <source>abdominal circumference</source>
+        <translation>périmètre abdominal</translation>
+    </message>
+    <message>
+        <source>femur length</source>
+        <translation>longueur fémorale</translation>
+    </message>
+    <message>
+        <source>an array of eight numbers, by identifier of the formula</source>
+        <translation>un tableau de huit nombres, par identifiant de formule</translation>
+    </message>
+    <message>
+        <source>The estimated weight of one fetus by each of the eight formulas, in grams.</source>
+        <translation>Le poids estimé d’un fœtus selon chacune des huit formules, en grammes.</translation>
+    </message>
+    <message>
+        <source>A length that is not given is 0, which means not measured. Where a formula needs it, the weight is
+a dash (0 in JSON). An improbable length is named on standard error.
+The formulas, by identifier: 0 Hadlock 1 (HC/AC/FL), 1 Hadlock 2 (AC/FL),
+2 Hadlock 3 (BPD/AC/FL), 3 Hadlock 4 (BPD/HC/AC/FL), 4 Campbell (AC), 5 Combs (HC/AC/FL),
+6 Ott (HC/AC/FL), 7 Shepard (BPD/AC).
+</source>
+        <translation>Une mesure qui n’est pas donnée vaut 0, ce qui signifie : non mesuré. Là où une formule en a besoin,
+le poids est un tiret (0 en JSON). Une mesure improbable est signalée sur la sortie d’erreur
+standard.
+Les formules, par identifiant : 0 Hadlock 1 (HC/AC/FL), 1 Hadlock 2 (AC/FL),
+2 Hadlock 3 (BPD/AC/FL), 3 Hadlock 4 (BPD/HC/AC/FL), 4 Campbell (AC), 5 Combs (HC/AC/FL),
+6 Ott (HC/AC/FL), 7 Shepard (BPD/AC).
+</translation>
+    </message>
+    <message>
+        <source>crown-rump lengths; - reads lengths from standard input, one a line</source>
+        <translation>longueurs cranio-caudales ; - lit des longueurs sur l’entrée standard, une par ligne</translation>
+    </message>
+    <message>
+        <source>an array of four numbers a length, each on a line of its own</source>
+        <translation>un tableau de quatre nombres par longueur, chacun sur sa propre ligne</translation>
+    </message>
+    <message>
+        <source>The menstrual age at each crown-rump length by each of the four formulas, in weeks.</source>
+        <translation>L’âge gestationnel à chaque longueur cranio-caudale selon chacune des quatre formules, en SA.</translation>
+    </message>
+    <message>
+        <source>One line a length, columns separated by tabs. Outside the range of a formula the age is a dash (0 in
+JSON). A line of standard input that is no number is answered by nan (null in JSON).
+A length that no formula dates is named on standard error, of standard input the first one.
+The formulas, by identifier: 0 Hadlock (1992), 2 to 120 mm; 1 Nelson (1981), 6.7 to 82.4 mm
+(no second source has it; 9 days more than Hadlock (1992) at 7 mm, 3 days more at 20 mm);
+2 Robinson (1975), 7 to 79.6 mm; 3 Westerway (2000), 2 to 87 mm.
+</source>
+        <translation>Une ligne par longueur, colonnes séparées par des tabulations. Hors du domaine d’une formule, l’âge
+est un tiret (0 en JSON). La réponse à une ligne de l’entrée standard qui n’est pas un nombre est
+nan (null en JSON). Une longueur qu’aucune formule ne date est signalée sur la sortie d’erreur
+standard ; de l’entrée standard, la première seulement.
+Les formules, par identifiant : 0 Hadlock (1992), de 2 à 120 mm ; 1 Nelson (1981), de 6.7 à 82.4 mm
+(aucune seconde source ne la donne ; 9 jours de plus que Hadlock (1992) à 7 mm, 3 jours de plus
+à 20 mm) ; 2 Robinson (1975), de 7 à 79.6 mm ; 3 Westerway (2000), de 2 à 87 mm.
+</translation>
+    </message>
+    <message>
+        <source>a DICOM report, a FHIR bundle of this program, or a CSV table of examinations; - is standard input</source>
+        <translation>rapport DICOM, bundle FHIR de ce programme ou tableau CSV d’examens ; - est l’entrée standard</translation>
+    </message>
+    <message>
+        <source>store what was found in a new document</source>
+        <translation>enregistrer ce qui a été trouvé dans un nouveau document</translation>
+    </message>
+    <message>
+        <source>add what was found to a document</source>
+        <translation>ajouter à un document ce qui a été trouvé</translation>
+    </message>
+    <message>
+        <source>the reports are of the patient of this reference ID, whatever they say</source>
+        <translation>les rapports sont de la patiente qui a cet identifiant, quoi qu’ils indiquent</translation>
+    </message>
+    <message>
+        <source>the fetus that the reports call ID is fetus N of the document; once for each</source>
+        <translation>le fœtus que les rapports appellent ID est le fœtus N du document ; une fois pour chacun</translation>
+    </message>
+    <message>
+        <source>the report&apos;s EDD takes the place of the document&apos;s</source>
+        <translation>la DPA du rapport remplace celle du document</translation>
+    </message>
+    <message>
+        <source>What reports of ultrasound machines and tables hold, as JSON; stored only on demand.</source>
+        <translation>Le contenu de rapports d’échographes et de tableaux, en JSON ; enregistré sur demande seulement.</translation>
+    </message>
+    <message>
+        <source>One object a report, of a table one for each patient and day: file, patientID, examDate, edd,
+eddFrom, gravida, numberOfFetuses, fetuses (id, bpd, hc, ac, fl and crl in mm, efw in g, chosen),
+notTaken, warnings.
+A table has the columns that rows writes: exam_date, any of bpd_mm, hc_mm, ac_mm and fl_mm, and,
+where it has them, reference_id, fetus (from 0) or fetus_number (from 1), edd, gravida and
+number_of_fetuses. When a row does not fit, nothing of the table is printed or stored.
+Nothing is stored when patient or fetus are in doubt, and nothing that stands is overwritten.
+</source>
+        <translation>Un objet par rapport, d’un tableau un par patiente et par jour : file, patientID, examDate, edd,
+eddFrom, gravida, numberOfFetuses, fetuses (id, bpd, hc, ac, fl et crl en mm, efw en g, chosen),
+notTaken, warnings.
+Un tableau a les colonnes qu’écrit rows : exam_date, au moins une de bpd_mm, hc_mm, ac_mm et fl_mm,
+et, s’il les a, reference_id, fetus (à partir de 0) ou fetus_number (à partir de 1), edd, gravida et
+number_of_fetuses. Quand une ligne ne convient pas, rien du tableau n’est affiché ni enregistré.
+Rien n’est enregistré en cas de doute sur la patiente ou le fœtus, et rien de ce qui est en place
+n’est écrasé.
+</translation>
+    </message>
+    <message>
+        <source>the index</source>
+        <translation>l’index</translation>
+    </message>
+    <message>
+        <source>a JSON object a line</source>
+        <translation>un objet JSON par ligne</translation>
+    </message>
+    <message>
+        <source>the documents, *.nascor in it and in the folders in it</source>
+        <translation>les documents, *.nascor dans ce dossier et dans ses sous-dossiers</translation>
+    </message>
+    <message>
+        <source>the index, made where there is none</source>
+        <translation>l’index, créé s’il n’existe pas</translation>
+    </message>
+    <message>
+        <source>the counts as a JSON object</source>
+        <translation>les nombres, en un objet JSON</translation>
+    </message>
+    <message>
+        <source>Keeps what the documents of a folder say in a database, for due and search.</source>
+        <translation>Tient dans une base de données ce que disent les documents d’un dossier, pour due et search.</translation>
+    </message>
+    <message>
+        <source>Only documents that are new or have changed are read; those that are gone leave the index. A run that
+is ended in the middle, however that happens, leaves an index that the next run completes.
+The file is an SQLite database that its owner alone can read: it holds reference IDs, notes and names
+of files. Its tables documents and rows may be read by other programs.
+</source>
+        <translation>Seuls les documents nouveaux ou modifiés sont lus ; ceux qui ont disparu quittent l’index. Une
+exécution interrompue en cours de route, de quelque façon que ce soit, laisse un index que la
+suivante complète.
+Le fichier est une base de données SQLite que seul son propriétaire peut lire : elle contient des
+identifiants, des notes et des noms de fichiers. Ses tables documents et rows peuvent être lues par
+d’autres programmes.
+</translation>
+    </message>
+    <message>
+        <source>the first day, such as 2027-04-10; without it today</source>
+        <translation>le premier jour, par exemple 2027-04-10 ; sans cette option, aujourd’hui</translation>
+    </message>
+    <message>
+        <source>how many days behind that; without it 28</source>
+        <translation>combien de jours après celui-ci ; sans cette option, 28</translation>
+    </message>
+    <message>
+        <source>only with an AC, the last of one fetus, whose z-score is below this</source>
+        <translation>seulement avec un PA, le dernier de l’un des fœtus, dont le z-score est inférieur à cette valeur</translation>
+    </message>
+    <message>
+        <source>Who is due, from an index: by EDD, with the last examination and the lowest AC.</source>
+        <translation>Qui doit accoucher, d’après un index : par DPA, avec le dernier examen et le PA le plus bas.</translation>
+    </message>
+    <message>
+        <source>AC z is the lowest, over the fetuses, of the z-score of the last AC that was measured, by the growth
+standard of the document. It lists what the index held when it was last brought up to date.
+</source>
+        <translation>AC z est le plus bas, parmi les fœtus, des z-scores du dernier PA mesuré, selon le standard de
+croissance du document. La liste montre ce que contenait l’index à sa dernière mise à jour.
+</translation>
+    </message>
+    <message>
+        <source>three characters or more of a reference ID or of a file&apos;s path; large or small</source>
+        <translation>au moins trois caractères d’un identifiant ou du chemin d’un fichier, majuscules ou minuscules</translation>
+    </message>
+    <message>
+        <source>not more than so many; without it 100</source>
+        <translation>ce nombre au plus ; sans cette option, 100</translation>
+    </message>
+    <message>
+        <source>Documents by a part of their reference ID or name, from an index.</source>
+        <translation>Documents d’après une partie de leur identifiant ou de leur nom, dans un index.</translation>
+    </message>
+    <message>
+        <source>one digit behind the point, in JSON too</source>
+        <translation>un chiffre après le point, en JSON aussi</translation>
+    </message>
+    <message>
+        <source>a recovery file, as the list names it</source>
+        <translation>un fichier de récupération, tel que la liste le nomme</translation>
+    </message>
+    <message>
+        <source>where to write the document, as a whole or not at all</source>
+        <translation>où écrire le document, en entier ou pas du tout</translation>
+    </message>
+    <message>
+        <source>Unsaved changes that the application kept: a list, or one of them as a document.</source>
+        <translation>Modifications non enregistrées gardées par l’application : leur liste, ou l’une comme document.</translation>
+    </message>
+    <message>
+        <source>The list has one JSON object a line: recovery (the file), document (the path of the document&apos;s own
+file; null when it was never saved), patient, saved (seconds since 2001-01-01 UTC), fetuses,
+examinations, and differs, the keys of json that the saved document holds otherwise. It also names
+what running applications keep. A recovery file is a document: json, report and check read it. It
+stays where it is until the application has offered it.
+</source>
+        <translation>La liste a un objet JSON par ligne : recovery (le fichier), document (le chemin du fichier propre au
+document ; null s’il n’a jamais été enregistré), patient, saved (secondes depuis le 2001-01-01 UTC),
+fetuses, examinations, et differs, les clés de json pour lesquelles le document enregistré contient
+autre chose. Elle nomme aussi ce que gardent les applications en cours d’exécution. Un fichier de
+récupération est un document : json, report et check le lisent. Il reste où il est jusqu’à ce que
+l’application l’ait proposé.
+</translation>
+    </message>
+    <message>
+        <source>a reference, by its name; without it all are listed</source>
+        <translation>une référence, par son nom ; sans elle, toutes sont énumérées</translation>
+    </message>
+    <message>
+        <source>one of bpd, hc, ac, fl, efw that the reference has</source>
+        <translation>l’un de bpd, hc, ac, fl, efw, présent dans la référence</translation>
+    </message>
+    <message>
+        <source>the age in weeks</source>
+        <translation>l’âge en SA</translation>
+    </message>
+    <message>
+        <source>a length in mm, or a weight in g: its z and centile</source>
+        <translation>une mesure en mm, ou un poids en g : son z et son percentile</translation>
+    </message>
+    <message>
+        <source>a centile between 0 and 100: its value and z</source>
+        <translation>un percentile entre 0 et 100 : sa valeur et son z</translation>
+    </message>
+    <message>
+        <source>a z-score: its value and centile</source>
+        <translation>un z-score : sa valeur et son percentile</translation>
+    </message>
+    <message>
+        <source>one object a line; what a reference cannot say is null</source>
+        <translation>un objet par ligne ; ce qu’une référence ne peut pas dire est null</translation>
+    </message>
+    <message>
+        <source>Where a value lies in a published population; which populations there are.</source>
+        <translation>Où se situe une valeur dans une population publiée ; quelles populations existent.</translation>
+    </message>
+    <message>
+        <source>One of W, V, P and Z may be -: then numbers are read from standard input, one a line, and each is
+answered. Nothing is extrapolated: outside the weeks of a reference all numbers are missing, and
+the answer says which weeks there are. who-2017 is made of curves: it has no z, and knows no more
+than &lt;1 and &gt;99 beyond the outermost. A weight&apos;s centile is that of the reference, never of the
+error of a formula.
+</source>
+        <translation>L’une des valeurs W, V, P et Z peut être - : des nombres sont alors lus sur l’entrée standard, un
+par ligne, et chacun reçoit sa réponse. Rien n’est extrapolé : hors des semaines d’une référence,
+tous les nombres manquent, et la réponse indique quelles semaines elle couvre. who-2017 est faite de
+courbes : elle n’a pas de z, et au-delà des courbes extrêmes ne dit rien de plus que &lt;1 et &gt;99. Le
+percentile d’un poids est celui de la référence, jamais celui de l’erreur d’une formule.
+</translation>
+    </message>
+    <message>
+        <source>one JSON object a document, on a line: unrounded numbers, the texts beside them</source>
+        <translation>un objet JSON par document, sur une ligne : nombres non arrondis, les textes à côté</translation>
+    </message>
+    <message>
+        <source>The tabular report of each document: every fetus, every examination, the projection.</source>
+        <translation>Le rapport de chaque document en tableau : tous les fœtus, tous les examens, la projection.</translation>
+    </message>
+    <message>
+        <source>Date and Menstrual Age are those of the last examination. Days are those of the local time zone. The
+projection is there when the last examination lies from 30 weeks to the planned delivery. Keys of
+the JSON, among others: file, maternalIDString, edd, fetuses, in each examinations (age in weeks;
+bpd, hc, ac, fl in mm; efw in g) and projected; docs/json.md lists them all.
+</source>
+        <translation>Date et Menstrual Age sont ceux du dernier examen. Les jours sont ceux du fuseau horaire local. La
+projection figure quand le dernier examen se situe entre 30 SA et l’accouchement programmé. Clés du
+JSON, entre autres : file, maternalIDString, edd, fetuses, et dans chacun examinations (age en SA ;
+bpd, hc, ac, fl en mm ; efw en g) et projected ; docs/json.md les énumère toutes.
+</translation>
+    </message>
+    <message>
+        <source>a document, or a folder with documents in it; - is a document on standard input</source>
+        <translation>un document, ou un dossier contenant des documents ; - est un document sur l’entrée standard</translation>
+    </message>
+    <message>
+        <source>more names of files and folders, one a line; - is standard input</source>
+        <translation>d’autres noms de fichiers et de dossiers, un par ligne ; - est l’entrée standard</translation>
+    </message>
+    <message>
+        <source>the names of --files-from end with NUL instead</source>
+        <translation>les noms de --files-from se terminent par NUL, non par une fin de ligne</translation>
+    </message>
+    <message>
+        <source>the documents in a tar archive, plain, gzip or zstd; - is standard input</source>
+        <translation>les documents d’une archive tar, non compressée, gzip ou zstd ; - est l’entrée standard</translation>
+    </message>
+    <message>
+        <source>growth standards by number or name, intergrowth-2014, with commas between; or all four</source>
+        <translation>standards de croissance par numéro ou nom, ou intergrowth-2014, avec virgules ; ou all (les quatre)</translation>
+    </message>
+    <message>
+        <source>only these columns, in this order, with commas between</source>
+        <translation>ces colonnes seulement, dans cet ordre, séparées par des virgules</translation>
+    </message>
+    <message>
+        <source>one decimal, for z-scores three</source>
+        <translation>une décimale, trois pour les z-scores</translation>
+    </message>
+    <message>
+        <source>comma-separated values, or a JSON object a line</source>
+        <translation>valeurs séparées par des virgules, ou un objet JSON par ligne</translation>
+    </message>
+    <message>
+        <source>leave off the line with the names of the columns</source>
+        <translation>omettre la ligne des noms de colonnes</translation>
+    </message>
+    <message>
+        <source>reference ID, note and names of files too</source>
+        <translation>aussi l’identifiant, la note et les noms de fichiers</translation>
+    </message>
+    <message>
+        <source>in the column file the place of the document, or its name</source>
+        <translation>dans la colonne file, le rang du document, ou son nom</translation>
+    </message>
+    <message>
+        <source>days to the EDD in place of the dates</source>
+        <translation>les jours jusqu’à la DPA à la place des dates</translation>
+    </message>
+    <message>
+        <source>the zone whose days are meant, such as Europe/Paris</source>
+        <translation>le fuseau horaire dans lequel comptent les jours, par exemple Europe/Paris</translation>
+    </message>
+    <message>
+        <source>stop at the first document that cannot be read</source>
+        <translation>s’arrêter au premier document qui ne peut pas être lu</translation>
+    </message>
+    <message>
+        <source>work on so many documents at a time; the output is the same</source>
+        <translation>traiter ce nombre de documents à la fois ; la sortie est la même</translation>
+    </message>
+    <message>
+        <source>A row for each fetus at each examination: age, lengths, weights, z-scores; for statistics.</source>
+        <translation>Une ligne par fœtus et par examen : âge, mesures, poids, z-scores ; pour les statistiques.</translation>
+    </message>
+    <message>
+        <source>Of a folder all *.nascor are taken, and those of the folders in it. Columns:
+  file,exam,fetus,exam_date,edd,ga_weeks,bpd_mm,hc_mm,ac_mm,fl_mm,efw_0_g,...,efw_7_g
+  standard,bpd_mean_mm,bpd_sd_mm,bpd_z,...,fl_z        by each document&apos;s own standard, or
+  westerway_bpd_mean_mm,...                            by each of --standard
+  reference_id,note                                    with --identify
+  warning,error
+file counts the documents from 0, exam and fetus what they hold. A cell is empty where nothing was
+measured or nothing can be computed. warning names what is improbable. A document that cannot be
+read has a row with file and error; the others go on, and the status is 1.
+
+Privacy: documents are named after patients. Without --identify no cell holds a reference ID, a
+note or (unless --file path is given) the name of a file. Standard error names files in any case,
+for the person at the terminal: do not keep it with the rows. Notes may hold dates
+in their text: --relative-dates with --identify leaves them as they are.
+Texts stand in CSV as they are. A spreadsheet runs cells that begin with &apos;=&apos;: import names,
+reference IDs and notes as text.
+</source>
+        <translation>D’un dossier sont pris tous les *.nascor, et ceux de ses sous-dossiers. Colonnes :
+  file,exam,fetus,exam_date,edd,ga_weeks,bpd_mm,hc_mm,ac_mm,fl_mm,efw_0_g,...,efw_7_g
+  standard,bpd_mean_mm,bpd_sd_mm,bpd_z,...,fl_z        selon le standard de chaque document, ou
+  westerway_bpd_mean_mm,...                            selon chaque standard de --standard
+  reference_id,note                                    avec --identify
+  warning,error
+file numérote les documents à partir de 0, exam et fetus ce qu’ils contiennent. Une cellule est vide
+là où rien n’a été mesuré ou ne peut être calculé. warning signale ce qui est improbable. Un
+document qui ne peut pas être lu a une ligne avec file et error ; les autres continuent, et le code
+de retour est 1.
+
+Confidentialité : les documents portent le nom des patientes. Sans --identify, aucune cellule ne
+contient d’identifiant, de note ni (sauf avec --file path) de nom de fichier. La sortie d’erreur
+standard nomme les fichiers dans tous les cas, pour la personne devant le terminal : ne la conservez
+pas avec les lignes. Les notes peuvent contenir des dates dans leur texte : --relative-dates avec
+--identify les laisse telles quelles.
+Les textes figurent tels quels dans le CSV. Un tableur exécute les cellules qui commencent par &apos;=&apos; :
+importez noms, identifiants et notes comme texte.
+</translation>
+    </message>
+    <message>
+        <source>one object a group, on a line</source>
+        <translation>un objet par groupe, sur une ligne</translation>
+    </message>
+    <message>
+        <source>Works examples with known results out again: formulas, standards, references, dating.</source>
+        <translation>Recalcule des exemples aux résultats connus : formules, standards, références, datation.</translation>
+    </message>
+    <message>
+        <source>A line a group: its name, how many values it has, how many of them differ; the last line is the total.
+The values are printed ones, held against the program at their own precision, and others that were
+worked out apart from the program. The status is 1 when one differs.
+</source>
+        <translation>Une ligne par groupe : son nom, combien il a de valeurs, combien d’entre elles diffèrent ; la
+dernière ligne est le total. Ce sont des valeurs imprimées, auxquelles le programme est comparé à
+leur propre précision, et d’autres calculées indépendamment du programme. Le code de retour est 1
+quand l’une d’elles diffère.
+</translation>
+    </message>
+    <message>
+        <source>what is wanted of the server</source>
+        <translation>ce qui est demandé au serveur</translation>
+    </message>
+    <message>
+        <source>a DICOM report to send; - is standard input</source>
+        <translation>un rapport DICOM à envoyer ; - est l’entrée standard</translation>
+    </message>
+    <message>
+        <source>the server: a name or an IPv4 address</source>
+        <translation>le serveur : un nom ou une adresse IPv4</translation>
+    </message>
+    <message>
+        <source>its port</source>
+        <translation>son port</translation>
+    </message>
+    <message>
+        <source>its application entity title</source>
+        <translation>son titre AE (application entity title)</translation>
+    </message>
+    <message>
+        <source>that of this program; without this option NASCOR</source>
+        <translation>celui de ce programme ; sans cette option, NASCOR</translation>
+    </message>
+    <message>
+        <source>speak encrypted, to a server whose certificate comes from this authority (PEM)</source>
+        <translation>connexion chiffrée, à un serveur dont le certificat vient de cette autorité (PEM)</translation>
+    </message>
+    <message>
+        <source>the certificate of this program, for servers that ask for one (PEM)</source>
+        <translation>le certificat de ce programme, pour les serveurs qui en demandent un (PEM)</translation>
+    </message>
+    <message>
+        <source>the key of that certificate, without a password (PEM)</source>
+        <translation>la clé de ce certificat, sans mot de passe (PEM)</translation>
+    </message>
+    <message>
+        <source>for the whole of one connection, 1 to 3600; without this option 30</source>
+        <translation>pour l’ensemble d’une connexion, de 1 à 3600 ; sans cette option, 30</translation>
+    </message>
+    <message>
+        <source>find, fetch: the reports of this reference ID</source>
+        <translation>find, fetch : les rapports de cet identifiant</translation>
+    </message>
+    <message>
+        <source>find, fetch: those of this study</source>
+        <translation>find, fetch : ceux de cette étude</translation>
+    </message>
+    <message>
+        <source>find, fetch: of studies of this day (2026-11-23) and later</source>
+        <translation>find, fetch : des études de ce jour (2026-11-23) et d’après</translation>
+    </message>
+    <message>
+        <source>find, fetch: of studies of this day and earlier</source>
+        <translation>find, fetch : des études de ce jour et d’avant</translation>
+    </message>
+    <message>
+        <source>fetch: the folder for the files, which is made when it is missing</source>
+        <translation>fetch : le dossier des fichiers, créé s’il manque</translation>
+    </message>
+    <message>
+        <source>Fetches reports from a DICOM server, and sends reports to it.</source>
+        <translation>Récupère des rapports d’un serveur DICOM, et lui en envoie.</translation>
+    </message>
+    <message>
+        <source>echo asks whether the server answers. find lists its reports, an object a line: patientID, studyDate,
+study, series, instance. fetch writes them as INSTANCE.dcm, never over a file that is there, and needs a
+patient or a study. send sends files that &quot;export --format sr&quot; or a machine wrote.
+No other command uses the network, and this one speaks to the server of its options alone.
+</source>
+        <translation>echo demande si le serveur répond. find énumère ses rapports, un objet par ligne : patientID,
+studyDate, study, series, instance. fetch les écrit sous INSTANCE.dcm, jamais par-dessus un fichier
+existant, et exige une patiente ou une étude. send envoie des fichiers écrits par
+« export --format sr » ou par un échographe.
+Aucune autre commande n’utilise le réseau, et celle-ci ne s’adresse qu’au serveur de ses options.
+</translation>
+    </message>
+    <message>
+        <source>Growth standards (N):
+%1
+Weight formulas (K):
+%2
+The number or the name, in letters of any size.
+</source>
+        <translation>Standards de croissance (N) :
+%1
+Formules de poids (K) :
+%2
+Le numéro ou le nom, en majuscules ou minuscules.
+</translation>
+    </message>
+    <message>
+        <source>growth standard, see below</source>
+        <translation>standard de croissance, voir ci-dessous</translation>
+    </message>
+    <message>
+        <source>one of bpd, hc, ac, fl, efw; without it the four lengths</source>
+        <translation>l’un de bpd, hc, ac, fl, efw ; sans cette option, les quatre mesures</translation>
+    </message>
+    <message>
+        <source>weight formula, see below; needed for efw</source>
+        <translation>formule de poids, voir ci-dessous ; nécessaire pour efw</translation>
+    </message>
+    <message>
+        <source>rows [week, mean, sd]; without --measurement an object of such rows by measurement</source>
+        <translation>lignes [week, mean, sd] ; sans --measurement, un objet de telles lignes par paramètre</translation>
+    </message>
+    <message>
+        <source>A reference table: mean and standard deviation at each week, in mm or g.</source>
+        <translation>Une table de référence : moyenne et écart-type à chaque semaine, en mm ou g.</translation>
+    </message>
+    <message>
+        <source>%1
+The mean weight is that of a fetus whose four lengths are the means. Its standard deviation is the
+error of the formula, not the spread of a population; 0 where none is published.
+</source>
+        <translation>%1
+Le poids moyen est celui d’un fœtus dont les quatre mesures sont les moyennes. Son écart-type est
+l’erreur de la formule, non la dispersion d’une population ; 0 quand aucune n’est publiée.
+</translation>
+    </message>
+    <message>
+        <source>one of bpd, hc, ac, fl, efw</source>
+        <translation>l’un de bpd, hc, ac, fl, efw</translation>
+    </message>
+    <message>
+        <source>the mean at W weeks</source>
+        <translation>la moyenne à W SA</translation>
+    </message>
+    <message>
+        <source>the standard deviation at W weeks</source>
+        <translation>l’écart-type à W SA</translation>
+    </message>
+    <message>
+        <source>the age in weeks of which MM (grams for efw) is the mean</source>
+        <translation>l’âge en SA dont MM (grammes pour efw) est la moyenne</translation>
+    </message>
+    <message>
+        <source>the same number as JSON</source>
+        <translation>le même nombre en JSON</translation>
+    </message>
+    <message>
+        <source>One look-up in a reference table, between whole weeks by linear interpolation.</source>
+        <translation>Une lecture dans une table de référence, par interpolation linéaire entre les semaines entières.</translation>
+    </message>
+    <message>
+        <source>The value may be -: then values are read from standard input, one a line, and answered one a line; a
+line that is no number is answered by nan (null in JSON). Nothing is extrapolated: beyond the table
+its first or last week counts, and standard error says so (of standard input once).
+
+%1</source>
+        <translation>La valeur peut être - : des valeurs sont alors lues sur l’entrée standard, une par ligne, et les
+réponses données, une par ligne ; la réponse à une ligne qui n’est pas un nombre est nan (null en
+JSON). Rien n’est extrapolé : hors table, c’est la première ou la dernière semaine de la table qui
+compte, et la sortie d’erreur standard le dit (une seule fois pour l’entrée standard).
+
+%1</translation>
+    </message>
+    <message>
+        <source>the paper of a PDF; without this option A4</source>
+        <translation>le papier d’un PDF ; sans cette option, A4</translation>
+    </message>
+    <message>
+        <source>who examined</source>
+        <translation>l’opérateur</translation>
+    </message>
+    <message>
+        <source>a line at the head of each fetus; once for each line</source>
+        <translation>une ligne en tête de chaque fœtus ; à répéter pour chaque ligne</translation>
+    </message>
+    <message>
+        <source>A summary for the records: a page or two a fetus, typeset, or as HTML.</source>
+        <translation>Une synthèse pour le dossier : une page ou deux par fœtus, mise en page, ou en HTML.</translation>
+    </message>
+    <message>
+        <source>EDD, measurements with z and centile by the growth standard, weights, growth, small charts, notes,
+and the sources of all that was used. Each document is one file, &quot;NAME - Summary.pdf&quot;.
+Files of the same names are replaced, but with --no-clobber. SOURCE_DATE_EPOCH, in seconds since
+1970, takes the place of the present moment.
+</source>
+        <translation>DPA, mesures avec z et percentile selon le standard de croissance, poids, croissance, petits
+graphiques, notes, et les sources de tout ce qui a été utilisé. Chaque document est un fichier,
+« NAME - Summary.pdf ». Les fichiers de même nom sont remplacés, sauf avec --no-clobber.
+SOURCE_DATE_EPOCH, en secondes depuis 1970, prend la place de l’instant présent.
+</translation>
+    </message>
+</context>
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>line %1: %2</source>
+        <translation>ligne %1 : %2</translation>
+    </message>
+    <message>
+        <source>there is no header</source>
+        <translation>il n’y a pas de ligne d’en-tête</translation>
+    </message>
+    <message>
+        <source>there is no column %1: never measured</source>
+        <translation>il n’y a pas de colonne %1 : jamais mesuré</translation>
+    </message>
+    <message>
+        <source>--columns: %1</source>
+        <translation>--columns : %1</translation>
+    </message>
+    <message>
+        <source>is a database of another program</source>
+        <extracomment>Behind the name of a file, as are the next ones.</extracomment>
+        <translation>est une base de données d’un autre programme</translation>
+    </message>
+    <message>
+        <source>was made by another version of this program: remove it, and make it anew</source>
+        <translation>a été créé par une autre version de ce programme : supprimez-le et recréez-le</translation>
+    </message>
+    <message>
+        <source>no folder</source>
+        <translation>aucun dossier</translation>
+    </message>
+    <message>
+        <source>is the index of %1, not of %2</source>
+        <translation>est un index pour %1, et non pour %2</translation>
+    </message>
+    <message>
+        <source>is no index of this program</source>
+        <translation>n’est pas un index de ce programme</translation>
+    </message>
+    <message>
+        <source>--%1 takes no value</source>
+        <translation>--%1 ne prend pas de valeur</translation>
+    </message>
+    <message>
+        <source>%1 is missing</source>
+        <translation>%1 manque</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is one argument too many</source>
+        <translation>« %1 » est un argument de trop</translation>
+    </message>
+    <message>
+        <source>there is no command &quot;%1&quot;</source>
+        <translation>il n’y a pas de commande « %1 »</translation>
+    </message>
+    <message>
+        <source>there is no option &quot;%1&quot;</source>
+        <translation>il n’y a pas d’option « %1 »</translation>
+    </message>
+    <message>
+        <source>%1: 1 required  missing</source>
+        <extracomment>An option stands there without its value.</extracomment>
+        <translation>%1 : la valeur manque</translation>
+    </message>
+    <message>
+        <source>%1: At Most 1 required but received %2</source>
+        <extracomment>An option that may stand there once stands there %2 times.</extracomment>
+        <translation>%1 : ne peut figurer qu’une fois, mais figure %2 fois</translation>
+    </message>
+    <message>
+        <source>help explains one command</source>
+        <translation>help explique une seule commande</translation>
+    </message>
+    <message>
+        <source>a command is missing</source>
+        <translation>il manque une commande</translation>
+    </message>
+    <message>
+        <source>standard output: %1</source>
+        <translation>sortie standard : %1</translation>
+    </message>
+    <message>
+        <source>there is not enough memory</source>
+        <translation>il n’y a pas assez de mémoire</translation>
+    </message>
+    <message>
+        <source>standard input</source>
+        <translation>entrée standard</translation>
+    </message>
+    <message>
+        <source>warning</source>
+        <translation>avertissement</translation>
+    </message>
+    <message>
+        <source>a document is no text for a terminal; give --out FILE or send standard output to a file</source>
+        <translation>un document n’est pas un texte pour un terminal ; indiquez --out FILE ou envoyez la sortie standard dans un fichier</translation>
+    </message>
+    <message>
+        <source>written, but it may not outlast a power cut: %1</source>
+        <translation>est écrit, mais pourrait ne pas survivre à une coupure de courant : %1</translation>
+    </message>
+    <message>
+        <source>holds no patient</source>
+        <extracomment>Behind the name of a file.</extracomment>
+        <translation>ne contient pas de patiente</translation>
+    </message>
+    <message>
+        <source>--fetus: expected all or a number from 1 to 5</source>
+        <translation>--fetus : il fallait all ou un numéro de 1 à 5</translation>
+    </message>
+    <message>
+        <source>--out is missing</source>
+        <translation>--out manque</translation>
+    </message>
+    <message>
+        <source>--format: expected pdf, png, svg, sr or fhir</source>
+        <translation>--format : il fallait pdf, png, svg, sr ou fhir</translation>
+    </message>
+    <message>
+        <source>--ndjson is for --format fhir</source>
+        <translation>--ndjson ne vaut que pour --format fhir</translation>
+    </message>
+    <message>
+        <source>--pages: expected all, first, last, a number from 0 to %1 or a name, but &quot;%2&quot; stands here</source>
+        <translation>--pages : il fallait all, first, last, un numéro de 0 à %1 ou un nom, et non « %2 »</translation>
+    </message>
+    <message>
+        <source>--out - takes the pages of one document</source>
+        <translation>--out - prend les pages d’un seul document</translation>
+    </message>
+    <message>
+        <source>pages are no text for a terminal; give --out DIR or send standard output to a file</source>
+        <translation>des pages ne sont pas un texte pour un terminal ; indiquez --out DIR ou envoyez la sortie standard dans un fichier</translation>
+    </message>
+    <message>
+        <source>%1; the pages are painted by this program</source>
+        <translation>%1 ; c’est ce programme qui dessine les pages</translation>
+    </message>
+    <message>
+        <source>--format: expected sr or fhir; pages are painted by the application, which is not built here</source>
+        <translation>--format : il fallait sr ou fhir ; les pages sont dessinées par l’application, qui n’est pas compilée ici</translation>
+    </message>
+    <message>
+        <source>a length is missing</source>
+        <translation>il manque une mesure</translation>
+    </message>
+    <message>
+        <source>no formula dates %1 mm; they reach from %2 to %3 mm</source>
+        <extracomment>Crown-rump lengths.</extracomment>
+        <translation>aucune formule ne date %1 mm ; elles vont de %2 à %3 mm</translation>
+    </message>
+    <message>
+        <source>--fetus: expected ID=N with a number from 1 to 5, but &quot;%1&quot; stands here</source>
+        <translation>--fetus : il fallait ID=N avec un numéro de 1 à 5, et non « %1 »</translation>
+    </message>
+    <message>
+        <source>--patient takes a reference ID, and an empty one is none</source>
+        <translation>--patient prend un identifiant, et un identifiant vide n’en est pas un</translation>
+    </message>
+    <message>
+        <source>--patient takes a reference ID of UTF-8 text in one line</source>
+        <translation>--patient prend un identifiant en texte UTF-8, sur une seule ligne</translation>
+    </message>
+    <message>
+        <source>--fetus: &quot;%1&quot; is given two numbers</source>
+        <translation>--fetus : « %1 » reçoit deux numéros</translation>
+    </message>
+    <message>
+        <source>is of patient &quot;%1&quot;, others are of &quot;%2&quot;; nothing is stored. Please import those of each patient alone</source>
+        <translation>est de la patiente « %1 », d’autres sont de « %2 » ; rien n’est enregistré. Veuillez importer séparément ceux de chaque patiente</translation>
+    </message>
+    <message>
+        <source>it is there already, and stays as it is</source>
+        <translation>existe déjà, et reste tel quel</translation>
+    </message>
+    <message>
+        <source>--out and --into are two ways to store</source>
+        <translation>--out et --into sont deux façons d’enregistrer, qui s’excluent</translation>
+    </message>
+    <message>
+        <source>%1 takes a file</source>
+        <translation>%1 prend un fichier</translation>
+    </message>
+    <message>
+        <source>the same holds for %1 more of the input</source>
+        <translation>il en va de même pour %1 de plus dans l’entrée</translation>
+    </message>
+    <message>
+        <source>--db is missing: the file of the index</source>
+        <translation>--db manque : le fichier de l’index</translation>
+    </message>
+    <message>
+        <source>a whole number from 0</source>
+        <translation>un nombre entier, 0 ou plus</translation>
+    </message>
+    <message>
+        <source>a day such as 2027-04-10</source>
+        <translation>un jour comme 2027-04-10</translation>
+    </message>
+    <message>
+        <source>three characters or more</source>
+        <translation>au moins trois caractères</translation>
+    </message>
+    <message>
+        <source>there are more than %1: a longer text, or --limit, shows them</source>
+        <translation>il y en a plus de %1 : pour les voir, indiquez un texte plus long ou --limit</translation>
+    </message>
+    <message>
+        <source>longer than 1 GiB, which no document is</source>
+        <translation>dépasse 1 GiB, ce que ne fait aucun document</translation>
+    </message>
+    <message>
+        <source>line %1: expected a decimal number, but &quot;%2&quot; stands here</source>
+        <translation>ligne %1 : il fallait un nombre décimal, et non « %2 »</translation>
+    </message>
+    <message>
+        <source>%1 or a whole number from 0 to %2</source>
+        <extracomment>%1 is a list of names.</extracomment>
+        <translation>%1 ou un nombre entier de 0 à %2</translation>
+    </message>
+    <message>
+        <source>expected bpd, hc, ac, fl or efw as the measurement, but &quot;%1&quot; was given</source>
+        <translation>il fallait bpd, hc, ac, fl ou efw comme paramètre, et non « %1 »</translation>
+    </message>
+    <message>
+        <source>%1: expected %2, but &quot;%3&quot; was given</source>
+        <extracomment>%1 is an option or an operand, %2 what it takes, %3 what was typed.</extracomment>
+        <translation>%1 : il fallait %2, et non « %3 »</translation>
+    </message>
+    <message>
+        <source>a decimal number</source>
+        <translation>un nombre décimal</translation>
+    </message>
+    <message>
+        <source>the reference ID has a character that a DICOM report cannot hold</source>
+        <translation>l’identifiant a un caractère qu’un rapport DICOM ne peut pas contenir</translation>
+    </message>
+    <message>
+        <source>the reference ID is longer than the 64 characters of a DICOM report</source>
+        <translation>l’identifiant dépasse les 64 caractères d’un rapport DICOM</translation>
+    </message>
+    <message>
+        <source>cannot be written: %1</source>
+        <translation>ne peut pas être écrit : %1</translation>
+    </message>
+    <message>
+        <source>--%1 is for pages, not for --format %2</source>
+        <translation>--%1 vaut pour les pages, non pour --format %2</translation>
+    </message>
+    <message>
+        <source>--ndjson writes to standard output, and takes no --out</source>
+        <translation>--ndjson écrit sur la sortie standard, et ne va pas avec --out</translation>
+    </message>
+    <message>
+        <source>--out is missing, or no folder</source>
+        <translation>--out manque, ou n’est pas un dossier</translation>
+    </message>
+    <message>
+        <source>it holds no examination, and nothing is written</source>
+        <translation>ne contient pas d’examen, et rien n’est écrit</translation>
+    </message>
+    <message>
+        <source>--out needs the recovery file to write; recover alone lists them</source>
+        <translation>--out exige le fichier de récupération à écrire ; recover seul énumère ces fichiers</translation>
+    </message>
+    <message>
+        <source>give --out DOCUMENT, where to write the document</source>
+        <translation>indiquez --out DOCUMENT, où écrire le document</translation>
+    </message>
+    <message>
+        <source>a number above 0</source>
+        <translation>un nombre supérieur à 0</translation>
+    </message>
+    <message>
+        <source>a number between 0 and 100, both excluded</source>
+        <translation>un nombre entre 0 et 100, bornes exclues</translation>
+    </message>
+    <message>
+        <source>%1 tells nothing of %2; it has %3</source>
+        <extracomment>%1 is a reference, %2 a measurement, %3 a list of measurements.</extracomment>
+        <translation>%1 ne dit rien de %2 ; on y trouve %3</translation>
+    </message>
+    <message>
+        <source>--week is missing</source>
+        <translation>--week manque</translation>
+    </message>
+    <message>
+        <source>--value, --centile and --z exclude each other</source>
+        <translation>--value, --centile et --z s’excluent</translation>
+    </message>
+    <message>
+        <source>--week and --%1 cannot both be -</source>
+        <translation>--week et --%1 ne peuvent pas être - en même temps</translation>
+    </message>
+    <message>
+        <source>expected %1, but %2 was given</source>
+        <translation>il fallait %1, et non %2</translation>
+    </message>
+    <message>
+        <source>NAME is missing</source>
+        <translation>NAME manque</translation>
+    </message>
+    <message>
+        <source>MEASURE is missing</source>
+        <translation>MEASURE manque</translation>
+    </message>
+    <message>
+        <source>%1: fmf-2018 is not offered, because its formula was not held against its printed table</source>
+        <translation>%1 : fmf-2018 n’est pas proposée, car sa formule n’a pas été comparée à sa table imprimée</translation>
+    </message>
+    <message>
+        <source>%1: expected one of %2, but &quot;%3&quot; was given</source>
+        <extracomment>%1 is an option or an operand, %2 a list of names.</extracomment>
+        <translation>%1 : il fallait l’un de %2, et non « %3 »</translation>
+    </message>
+    <message>
+        <source>--standard: %1 has no mean and SD of the four lengths</source>
+        <translation>--standard : %1 n’a pas de moyenne ni d’écart-type pour les quatre mesures</translation>
+    </message>
+    <message>
+        <source>--standard: &quot;%1&quot; stands there twice</source>
+        <translation>--standard : « %1 » y figure deux fois</translation>
+    </message>
+    <message>
+        <source>--columns: a name is empty</source>
+        <translation>--columns : un nom est vide</translation>
+    </message>
+    <message>
+        <source>--columns: &quot;%1&quot; stands there twice</source>
+        <translation>--columns : « %1 » y figure deux fois</translation>
+    </message>
+    <message>
+        <source>--columns: there is no column &quot;%1&quot;</source>
+        <translation>--columns : il n’y a pas de colonne « %1 »</translation>
+    </message>
+    <message>
+        <source>--columns: %1 needs --identify</source>
+        <translation>--columns : %1 exige --identify</translation>
+    </message>
+    <message>
+        <source>--columns: %1 is a date, which --relative-dates leaves out</source>
+        <translation>--columns : %1 est une date, que --relative-dates omet</translation>
+    </message>
+    <message>
+        <source>--columns: %1 needs --relative-dates</source>
+        <translation>--columns : %1 exige --relative-dates</translation>
+    </message>
+    <message>
+        <source>--file: expected number or path</source>
+        <translation>--file : il fallait number ou path</translation>
+    </message>
+    <message>
+        <source>--format: expected csv or jsonl</source>
+        <translation>--format : il fallait csv ou jsonl</translation>
+    </message>
+    <message>
+        <source>a whole number above 0</source>
+        <translation>un nombre entier supérieur à 0</translation>
+    </message>
+    <message>
+        <source>--null needs --files-from</source>
+        <translation>--null exige --files-from</translation>
+    </message>
+    <message>
+        <source>--tar stands alone, without PATH and --files-from</source>
+        <translation>--tar s’emploie seul, sans PATH ni --files-from</translation>
+    </message>
+    <message>
+        <source>standard input (-) can be read once only</source>
+        <translation>l’entrée standard (-) ne peut être lue qu’une fois</translation>
+    </message>
+    <message>
+        <source>a PATH, --files-from or --tar is missing</source>
+        <translation>il manque un PATH, --files-from ou --tar</translation>
+    </message>
+    <message>
+        <source>--time-zone: this system knows no zone &quot;%1&quot;</source>
+        <translation>--time-zone : ce système ne connaît pas le fuseau horaire « %1 »</translation>
+    </message>
+    <message>
+        <source>%1 of %2 values differ</source>
+        <translation>valeurs qui diffèrent : %1 sur %2</translation>
+    </message>
+    <message>
+        <source>--%1: expected a day like 2026-11-23, but &quot;%2&quot; stands here</source>
+        <translation>--%1 : il fallait un jour comme 2026-11-23, et non « %2 »</translation>
+    </message>
+    <message>
+        <source>--patient: the reference ID is empty</source>
+        <translation>--patient : l’identifiant est vide</translation>
+    </message>
+    <message>
+        <source>--study: the UID is empty</source>
+        <translation>--study : l’UID est vide</translation>
+    </message>
+    <message>
+        <source>has no such report</source>
+        <translation>n’a aucun rapport correspondant</translation>
+    </message>
+    <message>
+        <source>is not sent, because the server did not answer before</source>
+        <translation>n’est pas envoyé, car le serveur n’a pas répondu la fois précédente</translation>
+    </message>
+    <message>
+        <source>is not sent: %1 %2</source>
+        <extracomment>%1 is the address of a server, %2 what is wrong with it: &quot;... is not sent: host:104 does not answer&quot;.</extracomment>
+        <translation>n’est pas envoyé : %1 %2</translation>
+    </message>
+    <message>
+        <source>--%1 is not for %2</source>
+        <translation>--%1 ne vaut pas pour %2</translation>
+    </message>
+    <message>
+        <source>%1 takes no FILE</source>
+        <translation>%1 ne prend pas de FILE</translation>
+    </message>
+    <message>
+        <source>fetch needs --patient or --study</source>
+        <translation>fetch exige --patient ou --study</translation>
+    </message>
+    <message>
+        <source>--out takes a folder</source>
+        <translation>--out prend un dossier</translation>
+    </message>
+    <message>
+        <source>expected echo, find, fetch or send</source>
+        <translation>il fallait echo, find, fetch ou send</translation>
+    </message>
+    <message>
+        <source>is not contacted: %1</source>
+        <translation>n’est pas contacté : %1</translation>
+    </message>
+    <message>
+        <source>the connection is not encrypted: what goes over it can be read on its way; see --ca</source>
+        <translation>la connexion n’est pas chiffrée : ce qui y passe peut être lu en chemin ; voir --ca</translation>
+    </message>
+    <message>
+        <source>efw needs --formula</source>
+        <translation>efw exige --formula</translation>
+    </message>
+    <message>
+        <source>%1 lies beyond the table, whose first week, %2, counts</source>
+        <translation>%1 est hors table ; c’est la première semaine, %2, qui compte</translation>
+    </message>
+    <message>
+        <source>%1 lies beyond the table, whose last week, %2, counts</source>
+        <translation>%1 est hors table ; c’est la dernière semaine, %2, qui compte</translation>
+    </message>
+    <message>
+        <source>--mean, --sd and --gestation exclude each other</source>
+        <translation>--mean, --sd et --gestation s’excluent</translation>
+    </message>
+    <message>
+        <source>one of --mean, --sd and --gestation is missing</source>
+        <translation>il manque --mean, --sd ou --gestation</translation>
+    </message>
+    <message>
+        <source>%1; did you mean &quot;%2&quot;?</source>
+        <extracomment>%1 is a sentence, %2 what may have been meant.</extracomment>
+        <translation>%1 ; vouliez-vous dire « %2 » ?</translation>
+    </message>
+    <message>
+        <source>SOURCE_DATE_EPOCH: expected whole seconds since 1970</source>
+        <translation>SOURCE_DATE_EPOCH : il fallait un nombre entier de secondes depuis 1970</translation>
+    </message>
+    <message>
+        <source>--paper: expected a4 or letter</source>
+        <translation>--paper : il fallait a4 ou letter</translation>
+    </message>
+    <message>
+        <source>cannot be put on paper: %1</source>
+        <translation>ne peut pas être mis en page : %1</translation>
+    </message>
+    <message>
+        <source>--format: expected pdf or html</source>
+        <translation>--format : il fallait pdf ou html</translation>
+    </message>
+    <message>
+        <source>--out - takes the summary of one document</source>
+        <translation>--out - prend la synthèse d’un seul document</translation>
+    </message>
+    <message>
+        <source>a PDF is no text for a terminal; give --out DIR or send standard output to a file</source>
+        <translation>un PDF n’est pas un texte pour un terminal ; indiquez --out DIR ou envoyez la sortie standard dans un fichier</translation>
+    </message>
+    <message>
+        <source>it has no such fetus</source>
+        <translation>n’a pas ce fœtus</translation>
+    </message>
+</context>
+<context>
     <name>Compare</name>
     <message>
         <source>BPD</source>
@@ -203,18 +1542,6 @@
     <message>
         <source>The age is not known.</source>
         <translation>L’âge n’est pas connu.</translation>
-    </message>
-    <message>
-        <source> has %ld to %ld weeks.</source>
-        <translation> couvre les semaines %ld à %ld.</translation>
-    </message>
-    <message>
-        <source> fits weights by another formula alone: </source>
-        <translation> ne vaut que pour les poids d’une autre formule&#xa0;: </translation>
-    </message>
-    <message>
-        <source> has no place for this value.</source>
-        <translation> ne permet pas de situer cette valeur.</translation>
     </message>
     <message>
         <source>Remark</source>
@@ -609,6 +1936,14 @@
     </message>
 </context>
 <context>
+    <name>Counting</name>
+    <message>
+        <source>1</source>
+        <extracomment>The counts that go with the form for one, with blanks between: &quot;1&quot; in English and German (&quot;1 byte&quot;, &quot;0 bytes&quot;), &quot;0 1&quot; in French.</extracomment>
+        <translation>0 1</translation>
+    </message>
+</context>
+<context>
     <name>DataMenu</name>
     <message>
         <source>Export Data...</source>
@@ -980,6 +2315,17 @@
     </message>
 </context>
 <context>
+    <name>Files</name>
+    <message>
+        <source>Not a regular file</source>
+        <translation>Ce n’est pas un fichier ordinaire</translation>
+    </message>
+    <message>
+        <source>It was changed meanwhile</source>
+        <translation>Il a été modifié entre-temps</translation>
+    </message>
+</context>
+<context>
     <name>ImportDialog</name>
     <message>
         <source>Examination</source>
@@ -1040,6 +2386,46 @@
     <message>
         <source>%1 of the report is:</source>
         <translation>%1 du rapport est :</translation>
+    </message>
+</context>
+<context>
+    <name>Improbable</name>
+    <message>
+        <source>%1 %2 mm is outside %3 to %4 mm</source>
+        <translation>%1 %2 mm est en dehors de la plage de %3 à %4 mm</translation>
+    </message>
+    <message>
+        <source>%1 %2 mm is shorter than where any growth standard begins; lengths are in mm</source>
+        <translation>%1 %2 mm est en deçà du début de tous les standards de croissance ; les mesures sont en mm</translation>
+    </message>
+    <message>
+        <source>%1 %2 mm is more than 4 SD below the mean of the growth standard at this age</source>
+        <translation>%1 %2 mm est à plus de 4 ET au-dessous de la moyenne du standard de croissance à cet âge</translation>
+    </message>
+    <message>
+        <source>%1 %2 mm is more than 4 SD above the mean of the growth standard at this age</source>
+        <translation>%1 %2 mm est à plus de 4 ET au-dessus de la moyenne du standard de croissance à cet âge</translation>
+    </message>
+    <message>
+        <source>%1 %2 mm is below nine tenths of pi times the BPD, %3 mm</source>
+        <translation>%1 %2 mm est inférieur aux neuf dixièmes de pi fois le BPD, %3 mm</translation>
+    </message>
+    <message>
+        <source>%1 %2 mm is improbable</source>
+        <translation>%1 %2 mm est improbable</translation>
+    </message>
+    <message>
+        <source>it is %1 day before the last period</source>
+        <extracomment>&quot;It&quot; is an examination.</extracomment>
+        <translation>il est antérieur de %1 jour aux dernières règles</translation>
+    </message>
+    <message>
+        <source>it is %1 days before the last period</source>
+        <translation>il est antérieur de %1 jours aux dernières règles</translation>
+    </message>
+    <message>
+        <source>its age, %1, is above 45 weeks</source>
+        <translation>son âge, %1, dépasse 45 SA</translation>
     </message>
 </context>
 <context>
@@ -2163,6 +3549,506 @@
     </message>
 </context>
 <context>
+    <name>Reading</name>
+    <message>
+        <source>a real</source>
+        <translation>un réel</translation>
+    </message>
+    <message>
+        <source>the mark of something new</source>
+        <translation>la marque d’un élément nouveau</translation>
+    </message>
+    <message>
+        <source>the end of an object</source>
+        <translation>la fin d’un objet</translation>
+    </message>
+    <message>
+        <source>the meaningless byte %1</source>
+        <translation>l’octet sans signification %1</translation>
+    </message>
+    <message>
+        <source>only %1 of its %2 are left</source>
+        <extracomment>%2 is a count, such as &quot;8 bytes&quot;.</extracomment>
+        <translation>il ne reste que %1 de ses %2</translation>
+    </message>
+    <message>
+        <source>label %1 is outside the %2 given so far</source>
+        <translation>l’étiquette %1 n’est pas parmi celles données jusqu’ici, au nombre de %2</translation>
+    </message>
+    <message>
+        <source>string %1 is outside the %2 given so far</source>
+        <translation>la chaîne %1 n’est pas parmi celles données jusqu’ici, au nombre de %2</translation>
+    </message>
+    <message>
+        <source>its length is %1</source>
+        <translation>sa longueur est %1</translation>
+    </message>
+    <message>
+        <source>at byte %1: %2</source>
+        <translation>à l’octet %1 : %2</translation>
+    </message>
+    <message>
+        <source>expected %1, but %2</source>
+        <extracomment>%1 is what was expected, such as &quot;an object&quot;, %2 a clause such as &quot;the file ends here&quot;.</extracomment>
+        <translation>il fallait %1, mais %2</translation>
+    </message>
+    <message>
+        <source>%1 stands here</source>
+        <translation>on trouve ici %1</translation>
+    </message>
+    <message>
+        <source>%1 byte</source>
+        <translation>%1 octet</translation>
+    </message>
+    <message>
+        <source>%1 bytes</source>
+        <translation>%1 octets</translation>
+    </message>
+    <message>
+        <source>the file ends here</source>
+        <translation>le fichier s’arrête ici</translation>
+    </message>
+    <message>
+        <source>the text of this stream is more than %1 times as long as the stream itself</source>
+        <translation>le texte de ce flux est plus de %1 fois aussi long que le flux lui-même</translation>
+    </message>
+    <message>
+        <source>a typed stream of version 4</source>
+        <translation>un flux typé de version 4</translation>
+    </message>
+    <message>
+        <source>the signature of a typed stream</source>
+        <translation>la signature d’un flux typé</translation>
+    </message>
+    <message>
+        <source>the version is %1</source>
+        <translation>la version est %1</translation>
+    </message>
+    <message>
+        <source>the system version</source>
+        <translation>la version du système</translation>
+    </message>
+    <message>
+        <source>a group of values, or the end of an object</source>
+        <translation>un groupe de valeurs, ou la fin d’un objet</translation>
+    </message>
+    <message>
+        <source>a group of values</source>
+        <translation>un groupe de valeurs</translation>
+    </message>
+    <message>
+        <source>%1 ends here</source>
+        <extracomment>An object.</extracomment>
+        <translation>%1 se termine ici</translation>
+    </message>
+    <message>
+        <source>the types of a group</source>
+        <translation>les types d’un groupe</translation>
+    </message>
+    <message>
+        <source>the type string %1 %2</source>
+        <extracomment>%2 is what is wrong with it, such as &quot;ends inside an array&quot;.</extracomment>
+        <translation>la chaîne de types %1 %2</translation>
+    </message>
+    <message>
+        <source>its text is nil</source>
+        <translation>son texte est nil</translation>
+    </message>
+    <message>
+        <source>a class name</source>
+        <translation>un nom de classe</translation>
+    </message>
+    <message>
+        <source>a class version</source>
+        <translation>une version de classe</translation>
+    </message>
+    <message>
+        <source>more than %1 class records stand in a chain</source>
+        <translation>plus de %1 définitions de classe se suivent en chaîne</translation>
+    </message>
+    <message>
+        <source>a superclass</source>
+        <translation>une superclasse</translation>
+    </message>
+    <message>
+        <source>objects, arrays and structures nest more than %1 deep</source>
+        <translation>des objets, tableaux et structures s’emboîtent sur plus de %1 niveaux</translation>
+    </message>
+    <message>
+        <source>an integer</source>
+        <translation>un entier</translation>
+    </message>
+    <message>
+        <source>a byte</source>
+        <translation>un octet</translation>
+    </message>
+    <message>
+        <source>%1 does not fit that</source>
+        <translation>%1 n’y tient pas</translation>
+    </message>
+    <message>
+        <source>a string</source>
+        <translation>une chaîne</translation>
+    </message>
+    <message>
+        <source>a C string</source>
+        <translation>une chaîne C</translation>
+    </message>
+    <message>
+        <source>a class</source>
+        <translation>une classe</translation>
+    </message>
+    <message>
+        <source>an array of bytes</source>
+        <translation>un tableau d’octets</translation>
+    </message>
+    <message>
+        <source>an array</source>
+        <translation>un tableau</translation>
+    </message>
+    <message>
+        <source>it takes at least %1, and %2 are left</source>
+        <extracomment>%1 is a count, such as &quot;8 bytes&quot;.</extracomment>
+        <translation>il faudrait au moins %1, et il en reste %2</translation>
+    </message>
+    <message>
+        <source>a structure</source>
+        <translation>une structure</translation>
+    </message>
+    <message>
+        <source>an object</source>
+        <translation>un objet</translation>
+    </message>
+    <message>
+        <source>the class of an object</source>
+        <translation>la classe d’un objet</translation>
+    </message>
+    <message>
+        <source>the end of %1</source>
+        <extracomment>%1 is an object.</extracomment>
+        <translation>la fin de %1</translation>
+    </message>
+    <message>
+        <source>more values follow</source>
+        <translation>d’autres valeurs suivent</translation>
+    </message>
+    <message>
+        <source>class %1 (%2)</source>
+        <translation>la classe %1 (%2)</translation>
+    </message>
+    <message>
+        <source>C string %1</source>
+        <translation>la chaîne C %1</translation>
+    </message>
+    <message>
+        <source>object %1 (of no class yet)</source>
+        <translation>l’objet %1 (encore sans classe)</translation>
+    </message>
+    <message>
+        <source>object %1 (%2)</source>
+        <translation>l’objet %1 (%2)</translation>
+    </message>
+    <message>
+        <source>nests arrays and structures more than %1 deep</source>
+        <extracomment>Behind &quot;the type string ...&quot;, as are the next ones.</extracomment>
+        <translation>emboîte des tableaux et des structures sur plus de %1 niveaux</translation>
+    </message>
+    <message>
+        <source>has the unknown type code %1</source>
+        <translation>contient le code de type inconnu %1</translation>
+    </message>
+    <message>
+        <source>has an array without a count</source>
+        <translation>contient un tableau sans nombre d’éléments</translation>
+    </message>
+    <message>
+        <source>ends inside an array</source>
+        <translation>s’arrête à l’intérieur d’un tableau</translation>
+    </message>
+    <message>
+        <source>has an array without an element type</source>
+        <translation>contient un tableau sans type d’élément</translation>
+    </message>
+    <message>
+        <source>has an array that is not closed</source>
+        <translation>contient un tableau qui n’est pas fermé</translation>
+    </message>
+    <message>
+        <source>has an array whose elements take no bytes</source>
+        <translation>contient un tableau dont les éléments n’occupent aucun octet</translation>
+    </message>
+    <message>
+        <source>has a structure without members</source>
+        <translation>contient une structure sans membres</translation>
+    </message>
+    <message>
+        <source>has a structure that is not closed</source>
+        <translation>contient une structure qui n’est pas fermée</translation>
+    </message>
+    <message>
+        <source>a selector</source>
+        <translation>un sélecteur</translation>
+    </message>
+    <message>
+        <source>a shared string</source>
+        <translation>une chaîne partagée</translation>
+    </message>
+    <message>
+        <source>an unsigned byte</source>
+        <translation>un octet non signé</translation>
+    </message>
+    <message>
+        <source>a truth value</source>
+        <translation>une valeur de vérité</translation>
+    </message>
+    <message>
+        <source>a 16-bit integer</source>
+        <translation>un entier de 16 bits</translation>
+    </message>
+    <message>
+        <source>an unsigned 16-bit integer</source>
+        <translation>un entier non signé de 16 bits</translation>
+    </message>
+    <message>
+        <source>a 32-bit integer</source>
+        <translation>un entier de 32 bits</translation>
+    </message>
+    <message>
+        <source>an unsigned 32-bit integer</source>
+        <translation>un entier non signé de 32 bits</translation>
+    </message>
+    <message>
+        <source>a long integer</source>
+        <translation>un entier long</translation>
+    </message>
+    <message>
+        <source>an unsigned long integer</source>
+        <translation>un entier long non signé</translation>
+    </message>
+    <message>
+        <source>a 64-bit integer</source>
+        <translation>un entier de 64 bits</translation>
+    </message>
+    <message>
+        <source>an unsigned 64-bit integer</source>
+        <translation>un entier non signé de 64 bits</translation>
+    </message>
+    <message>
+        <source>a 32-bit real</source>
+        <translation>un réel de 32 bits</translation>
+    </message>
+    <message>
+        <source>a 64-bit real</source>
+        <translation>un réel de 64 bits</translation>
+    </message>
+    <message>
+        <source>a value</source>
+        <translation>une valeur</translation>
+    </message>
+    <message>
+        <source>values</source>
+        <translation>des valeurs</translation>
+    </message>
+    <message>
+        <source>%1 (type %2)</source>
+        <extracomment>%1 is a type in words, such as &quot;an object&quot;, %2 as it is spelled.</extracomment>
+        <translation>%1 (type %2)</translation>
+    </message>
+    <message>
+        <source>not a Nascor document (%1)</source>
+        <extracomment>Behind the name of a file; %1 is the reason.</extracomment>
+        <translation>n’est pas un document Nascor (%1)</translation>
+    </message>
+    <message>
+        <source>a text or null</source>
+        <translation>un texte ou null</translation>
+    </message>
+    <message>
+        <source>a date (seconds since 2001-01-01 UTC, an ISO text) or null</source>
+        <translation>une date (secondes depuis le 2001-01-01 UTC, un texte ISO) ou null</translation>
+    </message>
+    <message>
+        <source>an ISO date or null</source>
+        <translation>une date ISO ou null</translation>
+    </message>
+    <message>
+        <source>a whole number</source>
+        <translation>un nombre entier</translation>
+    </message>
+    <message>
+        <source>a number, &quot;nan&quot;, &quot;inf&quot; or &quot;-inf&quot;</source>
+        <translation>un nombre, &quot;nan&quot;, &quot;inf&quot; ou &quot;-inf&quot;</translation>
+    </message>
+    <message>
+        <source>a list</source>
+        <translation>une liste</translation>
+    </message>
+    <message>
+        <source>the text %1</source>
+        <translation>le texte %1</translation>
+    </message>
+    <message>
+        <source>binary data</source>
+        <translation>des données binaires</translation>
+    </message>
+    <message>
+        <source>one of the keys %1</source>
+        <translation>l’une des clés %1</translation>
+    </message>
+    <message>
+        <source>each key once</source>
+        <translation>chaque clé une seule fois</translation>
+    </message>
+    <message>
+        <source>this one stands twice</source>
+        <translation>celle-ci figure deux fois</translation>
+    </message>
+    <message>
+        <source>expected JSON, but %1</source>
+        <translation>il fallait du JSON, mais %1</translation>
+    </message>
+    <message>
+        <source>at line %1, column %2: %3</source>
+        <translation>à la ligne %1, colonne %2 : %3</translation>
+    </message>
+    <message>
+        <source>at the top: %1</source>
+        <translation>à la racine : %1</translation>
+    </message>
+    <message>
+        <source>at %1: %2</source>
+        <extracomment>%1 is a place in a JSON text, such as /examinations/2/note.</extracomment>
+        <translation>à %1 : %2</translation>
+    </message>
+    <message>
+        <source>a whole number of at most 64 bits</source>
+        <translation>un nombre entier d’au plus 64 bits</translation>
+    </message>
+    <message>
+        <source>%1 is longer than 32 bits; the file holds the low 32, which are %2</source>
+        <translation>%1 dépasse 32 bits ; le fichier contient les 32 bits de poids faible, soit %2</translation>
+    </message>
+    <message>
+        <source>%1 is beyond single precision; the file holds %2</source>
+        <translation>%1 dépasse la simple précision ; le fichier contient %2</translation>
+    </message>
+    <message>
+        <source>this number is beyond 64 bits</source>
+        <translation>ce nombre dépasse 64 bits</translation>
+    </message>
+    <message>
+        <source>expected JSON, but a zero byte stands here</source>
+        <translation>il fallait du JSON, mais on trouve ici un octet nul</translation>
+    </message>
+    <message>
+        <source>expected a string of UTF-8 text, but its bytes are not UTF-8</source>
+        <translation>il fallait une chaîne de texte UTF-8, mais ses octets ne sont pas en UTF-8</translation>
+    </message>
+    <message>
+        <source>expected a string of UTF-8 text, but its bytes are missing</source>
+        <translation>il fallait une chaîne de texte UTF-8, mais ses octets manquent</translation>
+    </message>
+    <message>
+        <source>%1 would contain itself</source>
+        <translation>%1 se contiendrait lui-même</translation>
+    </message>
+    <message>
+        <source>expected a document of a plausible size, but its references to %1 and others repeat %2 bytes in a file of %3</source>
+        <translation>il fallait un document d’une taille plausible, mais ses renvois à %1 et à d’autres répètent %2 octets dans un fichier de %3</translation>
+    </message>
+    <message>
+        <source>the number of elements of an array</source>
+        <translation>le nombre d’éléments d’un tableau</translation>
+    </message>
+    <message>
+        <source>a PatientRecord</source>
+        <translation>un PatientRecord</translation>
+    </message>
+    <message>
+        <source>a string or nil</source>
+        <translation>une chaîne ou nil</translation>
+    </message>
+    <message>
+        <source>a date or nil</source>
+        <translation>une date ou nil</translation>
+    </message>
+    <message>
+        <source>an array of examinations or nil</source>
+        <translation>un tableau d’examens ou nil</translation>
+    </message>
+    <message>
+        <source>an NCRecord</source>
+        <translation>un NCRecord</translation>
+    </message>
+    <message>
+        <source>an array of measurements or nil</source>
+        <translation>un tableau de mesures ou nil</translation>
+    </message>
+    <message>
+        <source>a MeasurementsRecord</source>
+        <translation>un MeasurementsRecord</translation>
+    </message>
+    <message>
+        <source>cannot be read</source>
+        <translation>ne peut pas être lu</translation>
+    </message>
+    <message>
+        <source>longer than 256 MiB, which no document is</source>
+        <translation>dépasse 256 MiB, ce que ne fait aucun document</translation>
+    </message>
+    <message>
+        <source>the tar archive ends before its end mark</source>
+        <translation>l’archive tar s’arrête avant sa marque de fin</translation>
+    </message>
+    <message>
+        <source>the header has none of the columns ga_weeks, bpd_mm, hc_mm, ac_mm and fl_mm</source>
+        <translation>l’en-tête n’a aucune des colonnes ga_weeks, bpd_mm, hc_mm, ac_mm et fl_mm</translation>
+    </message>
+    <message>
+        <source>the column %1 is one of those that are computed</source>
+        <translation>la colonne %1 est l’une de celles qui sont calculées</translation>
+    </message>
+    <message>
+        <source>%1 is no column of the input and none that is computed</source>
+        <extracomment>%1 stands in quotation marks.</extracomment>
+        <translation>%1 n’est ni une colonne de l’entrée ni une colonne calculée</translation>
+    </message>
+    <message>
+        <source>%1 or %2</source>
+        <extracomment>Two names of one column.</extracomment>
+        <translation>%1 ou %2</translation>
+    </message>
+    <message>
+        <source>the row that begins here is longer than 4 MiB; a quotation mark may never close</source>
+        <translation>la ligne qui commence ici dépasse 4 MiB ; un guillemet n’est peut-être jamais fermé</translation>
+    </message>
+    <message>
+        <source>a quotation mark that opens here never closes</source>
+        <translation>un guillemet ouvert ici n’est jamais fermé</translation>
+    </message>
+    <message>
+        <source>text stands behind a closing quotation mark</source>
+        <translation>du texte suit un guillemet fermant</translation>
+    </message>
+    <message>
+        <source>the column %1 stands twice in the header</source>
+        <translation>la colonne %1 figure deux fois dans l’en-tête</translation>
+    </message>
+    <message>
+        <source>the columns %1 and %2 are one</source>
+        <translation>les colonnes %1 et %2 n’en font qu’une</translation>
+    </message>
+    <message>
+        <source>the header has %1 cells, this row %2</source>
+        <translation>nombre de cellules : %1 dans l’en-tête, %2 dans cette ligne</translation>
+    </message>
+    <message>
+        <source>%1: %2 is no number</source>
+        <extracomment>%1 is a column, %2 what stands in it, in quotation marks.</extracomment>
+        <translation>%1 : %2 n’est pas un nombre</translation>
+    </message>
+</context>
+<context>
     <name>Recovery</name>
     <message>
         <source>Reference ID</source>
@@ -2195,10 +4081,6 @@
     <message>
         <source>Gravidity</source>
         <translation>Gestité</translation>
-    </message>
-    <message>
-        <source>Unsaved changes cannot be kept against a crash. Please save:</source>
-        <translation>Les modifications non enregistrées ne peuvent pas être protégées contre un arrêt brutal. Veuillez enregistrer&#xa0;:</translation>
     </message>
     <message>
         <source>Nascor ended before the changes of this document were saved. Do you want to recover them?</source>
@@ -2247,10 +4129,6 @@
     <message>
         <source>An examination that was removed</source>
         <translation>Un examen qui a été retiré</translation>
-    </message>
-    <message>
-        <source>Examination of</source>
-        <translation>Examen du</translation>
     </message>
     <message>
         <source>An examination without a date</source>
@@ -2887,18 +4765,6 @@
         <translation>Mesures</translation>
     </message>
     <message>
-        <source>Lengths: z and centile by </source>
-        <translation>Mesures&#xa0;: z et percentile selon </translation>
-    </message>
-    <message>
-        <source>Weight: by the formula </source>
-        <translation>Poids&#xa0;: selon la formule </translation>
-    </message>
-    <message>
-        <source>, z and centile by </source>
-        <translation>, z et percentile selon </translation>
-    </message>
-    <message>
         <source>z</source>
         <translation>z</translation>
     </message>
@@ -2919,24 +4785,8 @@
         <translation>Croissance</translation>
     </message>
     <message>
-        <source>/week</source>
-        <translation>/semaine</translation>
-    </message>
-    <message>
         <source>expected</source>
         <translation>attendu</translation>
-    </message>
-    <message>
-        <source>Lines: centiles 3, 10, 50, 90 and 97; lengths by </source>
-        <translation>Lignes&#xa0;: percentiles 3, 10, 50, 90 et 97&#xa0;; mesures selon </translation>
-    </message>
-    <message>
-        <source>, weight by </source>
-        <translation>, poids selon </translation>
-    </message>
-    <message>
-        <source>Weeks of menstrual age below.</source>
-        <translation>Semaines d’aménorrhée en abscisse.</translation>
     </message>
     <message>
         <source>The note is longer; the document has all of it.</source>
@@ -3094,6 +4944,67 @@
     <message>
         <source>No folder was chosen</source>
         <translation>Aucun dossier n’a été choisi</translation>
+    </message>
+</context>
+<context>
+    <name>Writing</name>
+    <message>
+        <source>January</source>
+        <extracomment>A month as it stands in a day, &quot;4 January 2027&quot;.</extracomment>
+        <translation>janvier</translation>
+    </message>
+    <message>
+        <source>February</source>
+        <translation>février</translation>
+    </message>
+    <message>
+        <source>March</source>
+        <translation>mars</translation>
+    </message>
+    <message>
+        <source>April</source>
+        <translation>avril</translation>
+    </message>
+    <message>
+        <source>May</source>
+        <translation>mai</translation>
+    </message>
+    <message>
+        <source>June</source>
+        <translation>juin</translation>
+    </message>
+    <message>
+        <source>July</source>
+        <translation>juillet</translation>
+    </message>
+    <message>
+        <source>August</source>
+        <translation>août</translation>
+    </message>
+    <message>
+        <source>September</source>
+        <translation>septembre</translation>
+    </message>
+    <message>
+        <source>October</source>
+        <translation>octobre</translation>
+    </message>
+    <message>
+        <source>November</source>
+        <translation>novembre</translation>
+    </message>
+    <message>
+        <source>December</source>
+        <translation>décembre</translation>
+    </message>
+    <message>
+        <source>%1 %2 %3</source>
+        <translation>%1 %2 %3</translation>
+    </message>
+    <message>
+        <source>.</source>
+        <extracomment>The decimal sign: a point or a comma.</extracomment>
+        <translation>,</translation>
     </message>
 </context>
 <context>

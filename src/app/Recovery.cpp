@@ -14,6 +14,7 @@
 #include "foundation/Calendar.h"
 #include "foundation/HolderText.h"
 #include "foundation/Localizer.h"
+#include "foundation/Sentence.h"
 #include "foundation/Utf8.h"
 #include "model/PatientFile.h"
 
@@ -22,6 +23,8 @@ namespace {
 
 using foundation::RecoveryFile;
 using foundation::RecoveryOrigin;
+using foundation::said;
+using foundation::Sentence;
 using foundation::translatable;
 using framework::ZuDocument;
 using model::PatientDifference;
@@ -97,8 +100,9 @@ bool Recovery::keep(ZuDocument& document) {
   kept.isWritten = !error;
   if (error) {
     document.remark(
-        services_.localizer.text("Recovery", "Unsaved changes cannot be kept against a crash. Please save:") +
-        " " + error->reason);
+        said(Sentence("Recovery", "Unsaved changes cannot be kept against a crash. Please save: %1")
+                 .with(error->reason),
+             services_.localizer));
     return false;
   }
   kept.contents = std::move(contents);
@@ -230,7 +234,7 @@ std::string Recovery::informationOf(const RecoveryFile& file, const PatientRecor
     } else {
       const auto& date = examinations.at(*difference.examination)->examDate();
       const auto day = date ? foundation::localDay(*date, services_.calendar) : std::nullopt;
-      add(day ? localizer.text("Recovery", "Examination of") + " " + localizer.longDateText(*day)
+      add(day ? said(Sentence("Recovery", "Examination of %1").with(localizer.longDateText(*day)), localizer)
               : localizer.text("Recovery", "An examination without a date"));
     }
   }

@@ -13,12 +13,14 @@
 #include "foundation/DateText.h"
 #include "foundation/Localizer.h"
 #include "foundation/NumberText.h"
+#include "foundation/Sentence.h"
 #include "foundation/UserDefaults.h"
 #include "model/PatientPage.h"
 
 namespace nascor::charts {
 
 using foundation::NotificationName;
+using foundation::Sentence;
 using framework::NamedColor;
 using framework::Path;
 using framework::Point;
@@ -206,17 +208,17 @@ std::string NascorGraphView::centilesText() const {
   const auto shown = quantity();
   const calc::Reference* reference = owningDocument() ? owningDocument()->overlay().centiles : nullptr;
   if (reference == nullptr || !shown) return {};
-  std::string label(reference->label);
+  const std::string_view label = reference->label;
   if (!calc::covers(*reference, *shown))
-    return label.append(localized("", " has no centiles of this measure"));
-  std::string text = localized("", "Centiles: ") + label;
+    return said(Sentence("", "%1 has no centiles of this measure").with(label), services().localizer);
   const bool isOtherFormula = shown == calc::Quantity::efw && reference->onlyFormula &&
                               *reference->onlyFormula != owningDocument()->fetalWeightStandard();
   if (isOtherFormula) {
-    text += localized("", ", which fits weights by another formula alone: ");
-    text += calc::weightFormula(*reference->onlyFormula)->longLabel;
+    return said(Sentence("", "Centiles: %1, which fits weights by another formula alone: %2")
+                    .with(label, calc::weightFormula(*reference->onlyFormula)->longLabel),
+                services().localizer);
   }
-  return text;
+  return said(Sentence("", "Centiles: %1").with(label), services().localizer);
 }
 
 void NascorGraphView::joinMarks() {

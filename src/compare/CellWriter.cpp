@@ -7,10 +7,13 @@
 #include "calc/FetalWeight.h"
 #include "calc/PlaceText.h"
 #include "foundation/NumberText.h"
+#include "foundation/Sentence.h"
 
 namespace nascor::compare {
 
 using calc::Quantity;
+using foundation::said;
+using foundation::Sentence;
 
 namespace {
 
@@ -70,17 +73,17 @@ std::string CellWriter::sentence(Caution caution, const calc::Reference& referen
   switch (caution) {
     case Caution::ageUnknown: return text("Compare", "The age is not known.");
     case Caution::outsideWeeks:
-      return std::string(reference.label)
-          .append(foundation::format(text("Compare", " has %ld to %ld weeks."),
-                                     {reference.firstWeek, reference.lastWeek}));
+      return said(Sentence("Compare", "%1 has %2 to %3 weeks.")
+                      .with(reference.label, reference.firstWeek, reference.lastWeek),
+                  localizer_);
     case Caution::otherFormula:
-      return std::string(reference.label)
-          .append(text("Compare", " fits weights by another formula alone: "))
-          .append(calc::weightFormula(reference.onlyFormula.value_or(0))->longLabel)
-          .append(".");
+      return said(
+          Sentence("Compare", "%1 fits weights by another formula alone: %2.")
+              .with(reference.label, calc::weightFormula(reference.onlyFormula.value_or(0))->longLabel),
+          localizer_);
     case Caution::withoutPlace: break;
   }
-  return std::string(reference.label).append(text("Compare", " has no place for this value."));
+  return said(Sentence("Compare", "%1 has no place for this value.").with(reference.label), localizer_);
 }
 
 }  // namespace nascor::compare

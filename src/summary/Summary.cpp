@@ -16,6 +16,7 @@
 #include "foundation/HolderText.h"
 #include "foundation/IsoDate.h"
 #include "foundation/ProgramVersion.h"
+#include "foundation/Sentence.h"
 #include "foundation/Utf8.h"
 #include "model/FetusLabels.h"
 #include "model/PatientReport.h"
@@ -26,6 +27,8 @@ using calc::Quantity;
 using compare::Comparison;
 using compare::Placed;
 using foundation::Date;
+using foundation::said;
+using foundation::Sentence;
 using model::NCRecord;
 using model::PatientRecord;
 
@@ -262,12 +265,11 @@ class Maker {
 
   Table measurementsOf(const std::vector<Visit>& visits) const {
     Table table = courseTable("measurements", localizer_.text("Summary", "Measurements"));
-    table.lead = localizer_.text("Summary", "Lengths: z and centile by ") +
-                 (standard_ != nullptr ? std::string(standard_->label) : "-") + ". " +
-                 localizer_.text("Summary", "Weight: by the formula ") +
-                 (formula_ != nullptr ? std::string(formula_->longLabel) : "-") +
-                 localizer_.text("Summary", ", z and centile by ") + std::string(weightReference_.label) +
-                 ".";
+    table.lead = said(
+        Sentence("Summary", "Lengths: z and centile by %1. Weight: by the formula %2, z and centile by %3.")
+            .with(standard_ != nullptr ? standard_->label : "-",
+                  formula_ != nullptr ? formula_->longLabel : "-", weightReference_.label),
+        localizer_);
     for (const Quantity quantity : calc::kQuantities) {
       table.columns.push_back(groupedColumn(quantity, unitOf(quantity)));
       table.columns.push_back(groupedColumn(quantity, localizer_.text("Summary", "z")));
@@ -332,7 +334,7 @@ class Maker {
                         "growth standard expects, and change of z.");
     for (const Quantity quantity : calc::kQuantities) {
       table.columns.push_back(
-          groupedColumn(quantity, unitOf(quantity) + localizer_.text("Summary", "/week")));
+          groupedColumn(quantity, said(Sentence("Summary", "%1/week").with(unitOf(quantity)), localizer_)));
       if (quantity == Quantity::efw) continue;
       table.columns.push_back(groupedColumn(quantity, localizer_.text("Summary", "expected")));
       table.columns.push_back(groupedColumn(quantity, localizer_.text("Summary", "z")));
@@ -371,10 +373,12 @@ class Maker {
 
   std::string chartsLead(const std::vector<Chart>& charts) const {
     if (charts.empty()) return {};
-    return localizer_.text("Summary", "Lines: centiles 3, 10, 50, 90 and 97; lengths by ") +
-           (standard_ != nullptr ? std::string(standard_->label) : "-") +
-           localizer_.text("Summary", ", weight by ") + std::string(weightReference_.label) + ". " +
-           localizer_.text("Summary", "Weeks of menstrual age below.");
+    return said(
+        Sentence("Summary",
+                 "Lines: centiles 3, 10, 50, 90 and 97; lengths by %1, weight by %2. Weeks of menstrual "
+                 "age below.")
+            .with(standard_ != nullptr ? standard_->label : "-", weightReference_.label),
+        localizer_);
   }
 
   // Notes and citations
