@@ -31,9 +31,9 @@ std::string computed(std::span<const char> table, std::size_t step) {
         calculation.emplace(reader.cells(), Choice{.standards = allStandards()}, std::nullopt, false);
         calculation->appendHeader(out);
       } else {
-        const std::string wrong = calculation->append(out, reader.cells());
+        const auto wrong = calculation->append(out, reader.cells());
         if (!out.ends_with('\n')) std::abort();
-        out += wrong;
+        if (wrong) out += english(*wrong);
       }
     }
   } catch (const CsvError& error) {

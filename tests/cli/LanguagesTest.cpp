@@ -3,8 +3,12 @@
 
 #include <cstdio>
 #include <filesystem>
+#include <fstream>
 #include <functional>
 #include <memory>
+#include <optional>
+#include <set>
+#include <sstream>
 
 #include <sys/wait.h>
 #include <unistd.h>
@@ -12,6 +16,7 @@
 #include "Process.h"
 #include "cli_commands/CommandLine.h"
 #include "foundation/Localizer.h"
+#include "foundation/Sentence.h"
 #include "support/Catalogue.h"
 
 namespace nascor::tests {
@@ -24,10 +29,14 @@ using testing::StartsWith;
 constexpr const char* kSamples = NASCOR_SAMPLES;
 constexpr std::string_view kMark = "\xE2\x80\xA1";
 
-/// A language that marks the end of each line of its texts.
+/// A table and a text of it.
+using Key = std::pair<std::string, std::string>;
+
+/// A language that marks the end of each line of its texts, and remembers which it was asked for.
 class Marking final : public foundation::Localizer {
  public:
-  std::string text(std::string_view, std::string_view key) const override {
+  std::string text(std::string_view table, std::string_view key) const override {
+    asked.emplace(table, key);
     std::string text(key);
     for (std::size_t at = 0; (at = text.find('\n', at)) != std::string::npos; at += kMark.size() + 1)
       text.insert(at, kMark);
@@ -39,6 +48,8 @@ class Marking final : public foundation::Localizer {
   }
   char decimalSign() const override { return ','; }
   std::string upperCased(std::string_view text) const override { return std::string(text); }
+
+  mutable std::set<Key> asked;
 };
 
 using File = std::unique_ptr<std::FILE, int (*)(std::FILE*)>;
@@ -50,9 +61,9 @@ std::string contentsOf(std::FILE* file) {
   return contents;
 }
 
-/// One run in the language of `localizer`, in a process of its own and a folder.
+/// One run in the language of `localizer`, in a process of its own and a folder. The child calls `atEnd`.
 Outcome runIn(const foundation::Localizer& localizer, std::vector<std::string> arguments,
-              const std::string& input, const std::string& folder) {
+              const std::string& input, const std::string& folder, const std::function<void()>& atEnd) {
   const File in{std::tmpfile(), std::fclose};
   const File out{std::tmpfile(), std::fclose};
   const File err{std::tmpfile(), std::fclose};
@@ -67,7 +78,9 @@ Outcome runIn(const foundation::Localizer& localizer, std::vector<std::string> a
     arguments.insert(arguments.begin(), "nascor-cli");
     std::vector<char*> pointers;
     for (std::string& argument : arguments) pointers.push_back(argument.data());
-    ::_exit(cli::runCommandLine(static_cast<int>(pointers.size()), pointers.data(), localizer));
+    const int status = cli::runCommandLine(static_cast<int>(pointers.size()), pointers.data(), localizer);
+    atEnd();
+    ::_exit(status);
   }
   int status = 0;
   ::waitpid(child, &status, 0);
@@ -87,6 +100,30 @@ std::string shown(const Line& line) {
   return text;
 }
 
+/// The texts of a table as the translators have it.
+std::set<Key> keysOf(const std::string& xml) {
+  std::set<Key> keys;
+  std::string table;
+  const auto unescaped = [](std::string text) {
+    for (const auto& [name, sign] : std::vector<std::pair<std::string, const char*>>{
+             {"&quot;", "\""}, {"&apos;", "'"}, {"&lt;", "<"}, {"&gt;", ">"}, {"&amp;", "&"}}) {
+      for (std::size_t at = 0; (at = text.find(name, at)) != std::string::npos; ++at)
+        text.replace(at, name.size(), sign);
+    }
+    return text;
+  };
+  for (std::size_t at = 0; (at = xml.find('<', at)) != std::string::npos; ++at) {
+    const auto element = [&](const std::string& name) -> std::optional<std::string> {
+      if (xml.compare(at, name.size(), name) != 0) return std::nullopt;
+      const std::size_t begin = at + name.size();
+      return unescaped(xml.substr(begin, xml.find("</", begin) - begin));
+    };
+    if (const auto name = element("<name>")) table = *name;
+    if (const auto source = element("<source>")) keys.emplace(table, *source);
+  }
+  return keys;
+}
+
 class EveryLanguage : public testing::Test {
  protected:
   EveryLanguage() {
@@ -100,7 +137,19 @@ class EveryLanguage : public testing::Test {
   }
 
   Outcome in(const foundation::Localizer& localizer, const Line& line) {
-    return runIn(localizer, line.arguments, line.input, folder.path(""));
+    return runIn(localizer, line.arguments, line.input, folder.path(""), [this] { tellAsked(); });
+  }
+  /// What the marking language was asked for, in all runs so far. A zero byte ends each part.
+  void tellAsked() const {
+    std::ofstream file(folder.path("asked"), std::ios::binary | std::ios::app);
+    for (const auto& [table, key] : marking.asked) file << table << '\0' << key << '\0';
+  }
+  std::set<Key> asked() const {
+    std::set<Key> keys;
+    std::istringstream stream(contentsOfFile(folder.path("asked")));
+    for (std::string table, key; std::getline(stream, table, '\0') && std::getline(stream, key, '\0');)
+      keys.emplace(table, key);
+    return keys;
   }
 
   ScratchFolder folder;
@@ -244,6 +293,15 @@ TEST_F(EveryLanguage, hasEachLineOfStandardErrorInATable) {
       if (each.empty() || isName) continue;
       EXPECT_THAT(each, HasSubstr(std::string(kMark))) << shown(line);
     }
+  }
+
+  const std::set<Key> table = keysOf(contentsOfFile(NASCOR_TEXTS "/nascor.ts"));
+  const auto keys = asked();
+  EXPECT_GT(keys.size(), 200U);
+  for (const Key& key : keys) {
+    // What the system says may be of either table, and is no literal.
+    const bool isOfSystem = key.first == foundation::kSystemTable || key.first == "Files";
+    EXPECT_TRUE(isOfSystem || table.contains(key)) << key.first << " lacks: " << key.second;
   }
 }
 
