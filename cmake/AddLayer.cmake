@@ -50,11 +50,13 @@ function(add_layer name)
   file(RELATIVE_PATH inSource "${CMAKE_SOURCE_DIR}" "${LAYER_DIRECTORY}")
   file(RELATIVE_PATH inBuild "${CMAKE_BINARY_DIR}" "${root}/${name}")
   target_compile_options(${name} ${scope}
-    "-ffile-prefix-map=${root}/${name}/=${inSource}/" "-ffile-prefix-map=${inBuild}/=${inSource}/")
+    "$<BUILD_INTERFACE:-ffile-prefix-map=${root}/${name}/=${inSource}/>"
+    "$<BUILD_INTERFACE:-ffile-prefix-map=${inBuild}/=${inSource}/>")
+  # The options are those of this project, and not of what takes an installed layer (cmake/InstallLibrary.cmake).
   if(LAYER_SOURCES)
-    target_link_libraries(${name} PUBLIC nascor_options ${LAYER_USES} PRIVATE ${LAYER_LINKS})
+    target_link_libraries(${name} PUBLIC $<BUILD_INTERFACE:nascor_options> ${LAYER_USES} PRIVATE ${LAYER_LINKS})
   else()
-    target_link_libraries(${name} INTERFACE nascor_options ${LAYER_USES} ${LAYER_LINKS})
+    target_link_libraries(${name} INTERFACE $<BUILD_INTERFACE:nascor_options> ${LAYER_USES} ${LAYER_LINKS})
   endif()
 
   if(NASCOR_FUZZ AND LAYER_SOURCES)
