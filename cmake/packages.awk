@@ -1,7 +1,10 @@
 # packages.awk -v profiles="nocheck pkg.nascor.checks" debian/control: the packages for building with these build
 # profiles and for running, one a line. Reads debian/control as this project writes it: one package a line of
-# Build-Depends and Depends, with at most one restriction <PROFILE> or <!PROFILE>.
+# Build-Depends and Depends, with at most one restriction <PROFILE> or <!PROFILE>. Left out are the packages that this
+# file makes, and what dpkg-buildpackage alone asks for, which has no package of that name.
 /^#/ { next }
+/^$/ { wanted = 0; next }
+/^Package:/ { own[$2] = 1 }
 /^[^ ]/ { wanted = $1 ~ /^(Build-Depends|Depends):$/; next }
 wanted && $1 !~ /^\$/ {
   name = $1
@@ -12,5 +15,6 @@ wanted && $1 !~ /^\$/ {
     active = index(" " profiles " ", " " profile " ") > 0
     if (active == without) next
   }
-  if (!(name in said)) { said[name] = 1; print name }
+  if (!(name in said)) { said[name] = 1; listed[++count] = name }
 }
+END { for (i = 1; i <= count; ++i) if (!(listed[i] in own) && listed[i] != "debhelper-compat") print listed[i] }

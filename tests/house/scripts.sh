@@ -30,7 +30,7 @@ need() {
   fake id <<<"echo $user"
   status=0
   said="$(PATH="$work/bin" TMPDIR="$work" bash_root="$root" "$BASH" -c '
-    set -euo pipefail; root="$bash_root"; . "$root/cmake/house.sh"; need_packages "$@"' need "${@:-nocheck}" 2>&1 </dev/null)" || status=$?
+    set -euo pipefail; root="$bash_root"; . "$root/cmake/house.sh"; need_packages "$@"' need "${@:-nocheck nodoc}" 2>&1 </dev/null)" || status=$?
 }
 
 expect() {
@@ -169,14 +169,20 @@ expect "The sentence names the packages there" said_has "no apt-get"
 
 # What debian/control says, by profile.
 listed() { awk -v profiles="$1" -f "$root/cmake/packages.awk" "$root/debian/control"; }
-checks=$((checks + 3))
-[[ " $(listed nocheck | tr '\n' ' ') " == *" g++ "*" fonts-dejavu-core "*" qt6-wayland "* ]] ||
+checks=$((checks + 6))
+[[ " $(listed "nocheck nodoc" | tr '\n' ' ') " == *" g++ "*" fonts-dejavu-core "*" qt6-wayland "* ]] ||
   wrong "./run installs not what it builds and runs with"
-listed nocheck | grep -qE 'gtest|clang' && wrong "./run installs packages of the tests or checks"
-listed "" | grep -q gtest && ! listed "" | grep -q clang || wrong "./test installs not the packages of the tests alone"
+listed "nocheck nodoc" | grep -qE 'gtest|clang|weasyprint|lintian' && wrong "./run installs packages of the tests, checks or PDFs"
+listed "" | grep -q gtest && listed "" | grep -q weasyprint && ! listed "" | grep -qE 'clang|lintian' ||
+  wrong "./test installs not the packages of the tests alone"
+listed nocheck | grep -q weasyprint && ! listed nocheck | grep -q gtest ||
+  wrong "A Debian package that is built without tests has no PDFs, or needs packages of the tests"
+# Those that are made of this tree, and what dpkg-buildpackage alone knows.
+listed "" | grep -qE '^(nascor.*|debhelper.*)$' && wrong "./test would install what no archive has"
+[[ -z "$(listed "" | grep -vE '^[a-z0-9][a-z0-9.+-]+$')" ]] || wrong "There is a name that is none among the packages"
 
 cd "$root"
-for script in run test .ci/run .ci/scale docs/scale/*.sh docs/scale/*/*.sh tests/scale/*.sh; do
+for script in run test .ci/run .ci/scale .ci/package tools/fresh-root cmake/fresh.sh debian/tests/{command-line,desktop,purge} docs/scale/*.sh docs/scale/*/*.sh tests/scale/*.sh; do
   [[ -e "$root/$script" ]] || continue
   checks=$((checks + 1))
   "$BASH" -n "$root/$script" || wrong "$script is no valid script"
