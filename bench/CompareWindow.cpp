@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Nascor developers
+// SPDX-License-Identifier: MIT
+
 // What the Compare window costs: a change of the examination and an undo with it and without it, by turns in one run, and its
 // opening. Beside them what drawing the page again takes by itself, and two dialogs of its size: an empty one, and one that shows
 // the same texts by Qt's own widgets alone, all laid down beforehand.

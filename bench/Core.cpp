@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Nascor developers
+// SPDX-License-Identifier: MIT
+
 // What the core's work costs: an archive of 30 examinations of 5 fetuses, look-ups, a row of a table.
 //
 //   bench-core                       times, where Google Benchmark was found

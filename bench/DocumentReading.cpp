@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Nascor developers
+// SPDX-License-Identifier: MIT
+
 // What `nascor-cli rows FOLDER` spends on its documents before there is a row, beside the least that it can be:
 //
 //   bench-reading FOLDER ROUNDS

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Nascor developers
+// SPDX-License-Identifier: MIT
+
 // A weight and four z-scores for each of a million fetuses, from memory to memory, beside one power of ten for each and the
 // bytes alone.
 //

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Nascor developers
+// SPDX-License-Identifier: MIT
+
 // Documents of as many examinations as wanted, as a tar stream on standard output.
 //
 //   many-examinations EXAMINATIONS DOCUMENTS

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Nascor developers
+// SPDX-License-Identifier: MIT
+
 // The least that a program with widgets and a menu bar can be: what Nascor's start-up is compared with.
 
 #include <QApplication>

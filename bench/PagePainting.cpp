@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Nascor developers
+// SPDX-License-Identifier: MIT
+
 // Times one redraw of the page of the BPD (title, chart, axis strip, twelve marks; 800 x 560 units at scale 1) against
 // plain programs that draw the same, in turns, so that a machine that slows down slows them all.
 //

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Nascor developers
+// SPDX-License-Identifier: MIT
+
 // What the pages cost as PDF, beside the same drawing by plain calls of Qt: one page, ten pages in one document, and
 // the export of all pages of many documents. Ratios of medians, measured by turns in one run.
 //

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Nascor developers
+// SPDX-License-Identifier: MIT
+
 // The table of `nascor-cli calc --columns efw_3_g,westerway_bpd_z,westerway_hc_z,westerway_ac_z,westerway_fl_z --fixed` by a
 // program that does nothing else: it takes the columns id, ga_weeks, bpd_mm, hc_mm, ac_mm and fl_mm for granted, all measured,
 // numbers without blanks, signs and exponents, and looks for no error.

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Nascor developers
+// SPDX-License-Identifier: MIT
+
 // What reading a report takes beyond what DCMTK needs for the same bytes: a report of five fetuses and 1,000 measured values, read
 // from memory by DCMTK alone and by the whole way to the findings, by turns in one run.
 //

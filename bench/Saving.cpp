@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Nascor developers
+// SPDX-License-Identifier: MIT
+
 // What recovery and the lock beside a document cost: saving, and typing a character, with both and without, by turns in one run.
 // Every change is kept for recovery within two seconds, so that the mean has its part of it, which the median has not.
 //

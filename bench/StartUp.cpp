@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Nascor developers
+// SPDX-License-Identifier: MIT
+
 // Times programs from their start to the first frame of their window that is painted, from outside: through the X
 // server on DISPLAY, which must be empty and black (Xvfb without a window manager).
 //

@@ -1,4 +1,7 @@
 #!/usr/bin/env -S python3 -B
+# SPDX-FileCopyrightText: 2026 The Nascor developers
+# SPDX-License-Identifier: MIT
+
 """What `nascor-cli rows` and `calc` take beside programs that do the least that is possible.
 
     bench/clinic.py BUILD/bin FOLDER [ROUNDS]

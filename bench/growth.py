@@ -1,4 +1,7 @@
 #!/usr/bin/env -S python3 -B
+# SPDX-FileCopyrightText: 2026 The Nascor developers
+# SPDX-License-Identifier: MIT
+
 """How the cost of `nascor-cli rows` grows with the work, as figures and as a plot.
 
     bench/growth.py BUILD/bin PLOT.svg [MOST_DOCUMENTS]

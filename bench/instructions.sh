@@ -1,4 +1,7 @@
 #!/usr/bin/env bash
+# SPDX-FileCopyrightText: 2026 The Nascor developers
+# SPDX-License-Identifier: MIT
+
 # instructions.sh BENCH-CORE: the instructions that each work of bench-core takes. They are the difference of two runs under
 # callgrind, so what a program does once does not count.
 # instructions.sh --check BENCH-CORE: the same of those in ceilings.txt; fails when one is above its ceiling.

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Nascor developers
+# SPDX-License-Identifier: MIT
+
 """Runs of programs, by turns: the processor time and the elapsed time of each. Their memory, and their instructions."""
 
 import os

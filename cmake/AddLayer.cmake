@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Nascor developers
+# SPDX-License-Identifier: MIT
+
 # add_layer(NAME [DIRECTORY dir] USES layer... [LINKS library...] HEADERS file... [SOURCES file...])
 #
 # One static library per layer. A layer sees its own headers and those of the layers it USES, and no

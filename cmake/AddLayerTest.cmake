@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Nascor developers
+# SPDX-License-Identifier: MIT
+
 # add_layer_test(LAYER SOURCES file... [LINKS library...])
 #
 # One test program per layer, which links that layer alone: a call upward then fails to link.

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Nascor developers
+# SPDX-License-Identifier: MIT
+
 # add_catalogues(TARGET table.ts...): compiles tables of texts for programs without Qt, which find them by gettext beside
 # themselves: nascor_XX.ts becomes share/locale/XX/LC_MESSAGES/nascor.mo, in the build folder and where it is installed.
 # Without the tools for it there are none, and such programs speak English.

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Nascor developers
+# SPDX-License-Identifier: MIT
+
 # A program that holds every layer whole. Test programs hold of a layer what they use, so a function that no test
 # knows would be in none of them, and coverage would not count it.
 function(add_coverage_program)

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Nascor developers
+# SPDX-License-Identifier: MIT
+
 # default_font(FAMILY OUTPUT): writes the settings of a system whose default font that is, and puts their path into OUTPUT.
 function(default_font family output)
   string(REPLACE " " "" files "${family}")

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Nascor developers
+# SPDX-License-Identifier: MIT
+
 # Finds libunistring, as Unistring::Unistring. The build reads this, and so does the installed package of the libraries.
 find_library(UNISTRING_LIBRARY unistring)
 include(FindPackageHandleStandardArgs)

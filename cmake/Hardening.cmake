@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Nascor developers
+# SPDX-License-Identifier: MIT
+
 # What makes a slip in memory end the program instead of doing harm: records of patients come from files of strangers. The
 # test house.hardening looks at what was built. Debian's compilers make programs that can be loaded anywhere by themselves.
 include(CheckCXXCompilerFlag)

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Nascor developers
+# SPDX-License-Identifier: MIT
+
 # What is read beside the programs: in the order of the checkout, so that what the pages say of files and the commands
 # that they show hold where they are installed too. Guide and handbook: tools/user-guide.
 include(GNUInstallDirs)

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Nascor developers
+# SPDX-License-Identifier: MIT
+
 # install_library(LAYER...): what other programs take by find_package(nascor), docs/library.md: these layers as static
 # libraries nascor::LAYER, with their headers. The layers that they use must be among them. An install component of its
 # own, `development`.

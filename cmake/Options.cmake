@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Nascor developers
+# SPDX-License-Identifier: MIT
+
 # What every target of this project is compiled with.
 
 add_library(nascor_options INTERFACE)

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Nascor developers
+# SPDX-License-Identifier: MIT
+
 # add_shared_headers(NAME header... LINKS library...): headers of libraries that many sources read, compiled once. A target
 # takes them by `target_precompile_headers(target REUSE_FROM NAME)`, and must be compiled with the same options.
 function(add_shared_headers name)

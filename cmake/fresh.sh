@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Nascor developers
+# SPDX-License-Identifier: MIT
+
 # tools/fresh-root and .ci/package share this: minimal systems, Debian 12, on which nothing is installed. Sourced by bash;
 # expects `checkout`, `cache`, where the system is kept that all are copies of, and `compiled`, empty or a folder of
 # compiled objects. Needs root, mmdebstrap and a network.

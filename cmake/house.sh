@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Nascor developers
+# SPDX-License-Identifier: MIT
+
 # What run, test and .ci/run share: finding and installing packages, one build folder per user, quiet
 # building with progress. Sourced by bash; expects `root`, the top of the checkout.
 

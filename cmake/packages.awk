@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Nascor developers
+# SPDX-License-Identifier: MIT
+
 # packages.awk -v profiles="nocheck pkg.nascor.checks" debian/control: the packages for building with these build
 # profiles and for running, one a line. Reads debian/control as this project writes it: one package a line of
 # Build-Depends and Depends, with at most one restriction <PROFILE> or <!PROFILE>. Left out are the packages that this

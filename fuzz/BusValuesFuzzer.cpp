@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Nascor developers
+// SPDX-License-Identifier: MIT
+
 // What scripts write into a document, one line after the other: the first byte of a line is the property, the second the kind
 // of the value, the rest the value. A value of the wrong kind changes nothing, and whatever was written is saved and read again.
 

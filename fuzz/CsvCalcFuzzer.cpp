@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Nascor developers
+// SPDX-License-Identifier: MIT
+
 // Reads any bytes as a CSV table and computes beside it, in pieces of two sizes. Both give the same rows, and every row is
 // whole.
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Nascor developers
+// SPDX-License-Identifier: MIT
+
 // Any bytes as a DICOM report. What is refused is refused in a sentence; of what is read the findings are JSON, and their
 // lengths are positive and finite, each with its kind.
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Nascor developers
+// SPDX-License-Identifier: MIT
+
 // Any text as the JSON of a document. What is refused is refused in a sentence on one line; what is accepted makes a
 // document that reads back, prints as JSON, and is made of that JSON again byte by byte.
 

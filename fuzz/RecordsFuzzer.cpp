@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Nascor developers
+// SPDX-License-Identifier: MIT
+
 // Reads any bytes as a document file. They are refused with a place inside them, or they are a patient who can be saved
 // and read again without loss: saving what was read back gives the same bytes.
 

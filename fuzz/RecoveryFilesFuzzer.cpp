@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Nascor developers
+// SPDX-License-Identifier: MIT
+
 // What another program left as unsaved changes, and who has a document open, as any bytes. The first byte is what the user
 // answers. Changes are never lost: the file is there until it was recovered, or the user threw it away, or it held nothing new.
 

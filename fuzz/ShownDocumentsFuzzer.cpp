@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Nascor developers
+// SPDX-License-Identifier: MIT
+
 // Shows documents: opens them, draws every page large and small, wraps what stands beneath, visits examinations and fetuses,
 // and saves. Nothing of that may take long, draw endlessly, or change what is kept. The first byte says what follows: an
 // even one the bytes of a document file, an odd one how often a text and an examination are repeated, and the text.

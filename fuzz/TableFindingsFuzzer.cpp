@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Nascor developers
+// SPDX-License-Identifier: MIT
+
 // Any text as a table of examinations. What is refused is refused in sentences; of what is read the findings are JSON, of one
 // day each, and hold lengths that a document takes and no fetus twice.
 

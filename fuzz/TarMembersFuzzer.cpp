@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Nascor developers
+// SPDX-License-Identifier: MIT
+
 // Reads any bytes as a tar archive. It is whole or has a complaint, and members come to an end.
 
 #include <algorithm>

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Nascor developers
+// SPDX-License-Identifier: MIT
+
 // Reads any bytes as a typed stream, to its end, and prints what it holds. Whatever the bytes are, they are read or
 // refused with a place inside them; a call of the reader out of order, an exception of another kind or a text out of
 // proportion is a fault of ours.

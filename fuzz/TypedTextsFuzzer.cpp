@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Nascor developers
+// SPDX-License-Identifier: MIT
+
 // Any text as a date, a number and a preference, in the forms of several countries. What is understood shows as a text that
 // is understood as the same.
 

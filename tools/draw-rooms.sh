@@ -1,4 +1,7 @@
 #!/usr/bin/env bash
+# SPDX-FileCopyrightText: 2026 The Nascor developers
+# SPDX-License-Identifier: MIT
+
 # draw-rooms.sh LAYERS.TXT PICTURE.SVG: draws the rooms of a build by Graphviz; the target `rooms` does it.
 set -euo pipefail
 new="$(mktemp)"

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Nascor developers
+# SPDX-License-Identifier: MIT
+
 # rooms.awk layers.txt: the rooms and arrows of a build as a drawing for Graphviz. layers.txt is the table that CMake writes of
 # the calls of add_layer, lowest first. An arrow leads from a room to one that it uses; where a way over other rooms leads there
 # too, it is left out, or nothing could be read.

@@ -1,4 +1,7 @@
 #!/usr/bin/env bash
+# SPDX-FileCopyrightText: 2026 The Nascor developers
+# SPDX-License-Identifier: MIT
+
 # sbom.sh VERSION OUT.json [--header NAME VERSION FILE]... PROGRAM... [--loads MODULE...]: writes what the programs are made of, as a bill of materials
 # in CycloneDX 1.5: the programs, the libraries that they link or that these link, and those of which a header alone is compiled in.
 # What stands behind `--loads` are modules, which the programs may load. Where the system has dpkg, a library stands for its Debian package,

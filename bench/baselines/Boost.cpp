@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Nascor developers
+// SPDX-License-Identifier: MIT
+
 // As the library does by itself: with a version of each class, which a document has too.
 
 #include <boost/archive/binary_iarchive.hpp>

@@ -1,4 +1,7 @@
 #!/usr/bin/env python3
+# SPDX-FileCopyrightText: 2026 The Nascor developers
+# SPDX-License-Identifier: MIT
+
 """dask-rows.py FOLDER [DOCUMENTS [OPTION...]]: the rows of a folder on standard output, made by the workers of a Dask cluster, in
 parts of so many documents, 1,000 if none is said. DASK_SCHEDULER_ADDRESS names the cluster; without it there is one on this machine.
 Each worker needs nascor-cli and the folder, by the same name. The bytes are those of `nascor-cli rows FOLDER --file path OPTION...`;

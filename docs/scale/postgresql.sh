@@ -1,4 +1,7 @@
 #!/usr/bin/env bash
+# SPDX-FileCopyrightText: 2026 The Nascor developers
+# SPDX-License-Identifier: MIT
+
 # postgresql.sh FOLDER [OPTION...]: puts the rows of a folder, with reference IDs and notes, into the table `rows` of the database that
 # PGHOST, PGDATABASE and the other variables of PostgreSQL name, in place of an older one. Others see the old rows until all are there,
 # and go on seeing them when it fails, with status 2. Else the status is that of `nascor-cli rows FOLDER --identify OPTION...`.

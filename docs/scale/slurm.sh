@@ -1,4 +1,7 @@
 #!/usr/bin/env bash
+# SPDX-FileCopyrightText: 2026 The Nascor developers
+# SPDX-License-Identifier: MIT
+
 # slurm.sh FOLDER [TASKS [OPTION...]]: the rows of a folder on standard output, made by an array job of Slurm with so many tasks, 16 if
 # none is said. Run it in a folder that all nodes see by the same name, as they must see the documents and nascor-cli. A task that
 # fails is run again, twice at most. The bytes are those of `nascor-cli rows FOLDER --file path OPTION...`; the status is 1 where that is.

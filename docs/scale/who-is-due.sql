@@ -1,3 +1,6 @@
+-- SPDX-FileCopyrightText: 2026 The Nascor developers
+-- SPDX-License-Identifier: MIT
+
 -- Who is due, with an AC that stays behind: the question of `nascor-cli due --ac-below`, asked of the table of postgresql.sh.
 --   psql --csv -v from=2026-11-22 -v days=28 -v below=-2 -f who-is-due.sql
 -- Of each fetus the last AC with a z-score counts; of more fetuses the lowest.

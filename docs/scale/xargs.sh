@@ -1,4 +1,7 @@
 #!/usr/bin/env bash
+# SPDX-FileCopyrightText: 2026 The Nascor developers
+# SPDX-License-Identifier: MIT
+
 # xargs.sh FOLDER [PROCESSES [OPTION...]]: the rows of a folder on standard output, made by several processes with nothing but
 # split and xargs. The bytes are those of `nascor-cli rows FOLDER --file path OPTION...`; the status is 1 where that is, and 2 where
 # rows are missing.

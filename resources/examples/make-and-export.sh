@@ -1,4 +1,7 @@
 #!/bin/sh
+# SPDX-FileCopyrightText: 2026 The Nascor developers
+# SPDX-License-Identifier: MIT
+
 # Makes a patient in the application that runs (or is started by this), and exports the page on show. Needs gdbus, which
 # is in the package libglib2.0-bin.
 #

@@ -1,4 +1,7 @@
 #!/usr/bin/python3
+# SPDX-FileCopyrightText: 2026 The Nascor developers
+# SPDX-License-Identifier: MIT
+
 """Makes a patient in the application that runs (or is started by this), and exports the page on show.
 
     make_and_export.py REFERENCE-ID EDD EXAMINATION-DATE BPD HC AC FL

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Nascor developers
+// SPDX-License-Identifier: MIT
+
 // The patient's numbers for spreadsheets and other programs.
 
 #include <algorithm>

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Nascor developers
+// SPDX-License-Identifier: MIT
+
 // Menstrual age, crown-rump length, planned delivery.
 
 #include <optional>

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Nascor developers
+// SPDX-License-Identifier: MIT
+
 // The three dialogs that set the EDD, and the question before an established one is modified.
 
 #include <algorithm>

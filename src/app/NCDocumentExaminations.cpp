@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Nascor developers
+// SPDX-License-Identifier: MIT
+
 // Examinations and fetuses: adding, removing, putting in order, choosing.
 
 #include <algorithm>

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Nascor developers
+// SPDX-License-Identifier: MIT
+
 // Pages into files and to the printer, and what stands under them.
 
 #include <algorithm>

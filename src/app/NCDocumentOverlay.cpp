@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Nascor developers
+// SPDX-License-Identifier: MIT
+
 // What is drawn over the charts of the window beside the standard of the patient.
 
 #include <algorithm>

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Nascor developers
+// SPDX-License-Identifier: MIT
+
 // The choice of growth standard, weight formula and formula for the crown-rump length.
 
 #include "app/NCDocument.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Nascor developers
+// SPDX-License-Identifier: MIT
+
 // The document's window: loading, fields to records and back, the rules of editing, the title.
 
 #include <algorithm>

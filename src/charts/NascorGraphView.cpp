@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Nascor developers
+// SPDX-License-Identifier: MIT
+
 #include "charts/NascorGraphView.h"
 
 #include <algorithm>

@@ -1,4 +1,7 @@
 #!/usr/bin/env python3
+# SPDX-FileCopyrightText: 2026 The Nascor developers
+# SPDX-License-Identifier: MIT
+
 """Prints ComputedExamples.cpp: worked examples, worked out apart from the program.
 
     python3 src/selftest/computed_examples.py [CSV] > /tmp/examples && mv /tmp/examples src/selftest/ComputedExamples.cpp

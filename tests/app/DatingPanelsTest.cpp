@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Nascor developers
+// SPDX-License-Identifier: MIT
+
 // Each panel by itself: what its fields say together.
 #include "app/DatingPanels.h"
 

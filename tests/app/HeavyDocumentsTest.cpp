@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Nascor developers
+// SPDX-License-Identifier: MIT
+
 // Documents that hold more than any person enters: what is done with them stays quick and small, and they stay what they are.
 
 #include <gmock/gmock.h>

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Nascor developers
+// SPDX-License-Identifier: MIT
+
 // What a story cannot see of the dating dialogs: the order of what happens, where a dialog opens, and what stands in its way.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Nascor developers
+// SPDX-License-Identifier: MIT
+
 // What a dating dialog says of the EDD that it would set.
 #include "app/ProposalText.h"
 

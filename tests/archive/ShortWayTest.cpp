@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Nascor developers
+// SPDX-License-Identifier: MIT
+
 // Groups of one value are read without the walk where they are of a type that was met before. Whatever the bytes are, that way
 // gives the values, the places and the refusals of the long one.
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Nascor developers
+// SPDX-License-Identifier: MIT
+
 // Each equation that people read is worked out here, as a text, and compared with what the program answers.
 #include "calc/Equations.h"
 

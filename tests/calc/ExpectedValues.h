@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Nascor developers
+// SPDX-License-Identifier: MIT
+
 #pragma once
 
 // What the calculations must give, worked out apart from the program by expected_values.py, which see; to

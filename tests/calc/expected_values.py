@@ -1,4 +1,7 @@
 #!/usr/bin/env python3
+# SPDX-FileCopyrightText: 2026 The Nascor developers
+# SPDX-License-Identifier: MIT
+
 """Prints ExpectedValues.h: what the calculations must give, worked out apart from the program.
 
     python3 tests/calc/expected_values.py > tests/calc/ExpectedValues.h

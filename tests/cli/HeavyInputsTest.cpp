@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Nascor developers
+// SPDX-License-Identifier: MIT
+
 // A mebibyte of anything is read, or refused, within a tenth of a second.
 
 #include <gtest/gtest.h>

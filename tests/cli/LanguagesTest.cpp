@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Nascor developers
+// SPDX-License-Identifier: MIT
+
 // What people read is in their language, and what programs read is the same in every one.
 #include <gmock/gmock.h>
 

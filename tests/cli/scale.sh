@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Nascor developers
+# SPDX-License-Identifier: MIT
+
 # The scripts of docs/scale that need no servers: each prints what one process prints, and says when rows are missing. Arguments: the
 # folder of the scripts and that of the programs.
 set -euo pipefail

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Nascor developers
+# SPDX-License-Identifier: MIT
+
 """Writes ultrasound machines' reports as DICOM files, by pydicom: made-up patients, in the ways of several machines.
 
     machine_reports.py FOLDER     writes them into the folder

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Nascor developers
+# SPDX-License-Identifier: MIT
+
 """Certificates for an afternoon: an authority, and servers and clients of it."""
 
 import shutil

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Nascor developers
+# SPDX-License-Identifier: MIT
+
 """Runs the command line's `server`, and what the tests of it share."""
 
 import pathlib

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Nascor developers
+# SPDX-License-Identifier: MIT
+
 """`nascor-cli server` before encrypted servers: it speaks to the one whose certificate says that it is the one, and never in
 clear where encryption was asked for."""
 

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Nascor developers
+# SPDX-License-Identifier: MIT
+
 """`nascor-cli server` before servers that are wrong, slow, silent or malicious: one sentence and an end in time, never a
 signal, a file outside the folder, or another patient's report."""
 

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Nascor developers
+# SPDX-License-Identifier: MIT
+
 """The reports of all samples to a server of the kind that hospitals have, and back: the same findings, bit by bit. The server
 speaks to this machine alone."""
 

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Nascor developers
+# SPDX-License-Identifier: MIT
+
 """Plays a DICOM server, right or wrong: the upper layer's units (PS3.8, 9.3) and messages (PS3.7, 6.3), by hand."""
 
 import socket

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Nascor developers
+// SPDX-License-Identifier: MIT
+
 // Dating over every day of eleven years, and over every plan of a delivery.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Nascor developers
+// SPDX-License-Identifier: MIT
+
 // The same figure by every way that leads to it: fields and texts of the window, Compare, the charts' read-outs, the report,
 // rows, the worked examples, scripts. To the last bit where it is a number.
 #include <gmock/gmock.h>

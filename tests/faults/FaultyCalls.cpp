@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Nascor developers
+// SPDX-License-Identifier: MIT
+
 // Loaded before the C library (LD_PRELOAD): calls of the operating system that concern one folder fail, write less than asked,
 // or end the program, as the environment says.
 //

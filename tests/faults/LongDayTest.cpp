@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Nascor developers
+// SPDX-License-Identifier: MIT
+
 // Two people work on one document for as long as it takes, each in a program of their own, and now and then the system fails a
 // call or a program is killed. What was said to be saved is there ever after; and a program that nothing happens to needs no
 // more memory in the evening than in the morning.

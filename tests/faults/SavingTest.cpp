@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Nascor developers
+// SPDX-License-Identifier: MIT
+
 // Every call that a save makes of the operating system fails, in each way, once and from then on, is interrupted, writes a part,
 // and is the last one of the program: the command line and the application's documents.
 #include <fcntl.h>

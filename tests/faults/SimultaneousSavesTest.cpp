@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Nascor developers
+// SPDX-License-Identifier: MIT
+
 // Two programs have read the same document, and save it at the same moment or shortly after one another: the one that is told
 // that it has saved has saved, and the other one is told that it has not.
 #include <gmock/gmock.h>

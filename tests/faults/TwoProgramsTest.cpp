@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Nascor developers
+// SPDX-License-Identifier: MIT
+
 // Two real programs on one document: the application's documents without a display, and the command line.
 #include <fcntl.h>
 #include <gmock/gmock.h>

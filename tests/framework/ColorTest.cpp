@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Nascor developers
+// SPDX-License-Identifier: MIT
+
 // The colours of the charts as people see them: contrast by the Web Content Accessibility Guidelines 2.1 (relative luminance),
 // dichromatic sight by the matrices of Machado, Oliveira and Fernandes, "A physiologically-based model for simulation of
 // color vision deficiency", IEEE Transactions on Visualization and Computer Graphics 15 (2009), severity 1.

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Nascor developers
+# SPDX-License-Identifier: MIT
+
 # Sourced by the tests of the house: `root` is the top of the checkout, `build` the build folder.
 set -euo pipefail
 root="$(realpath "$1")"

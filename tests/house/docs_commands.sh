@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Nascor developers
+# SPDX-License-Identifier: MIT
+
 # Every command that README.md and the pages of docs show behind "$ " works as it is written, and says what stands under it. A line
 # "..." stands for any lines. The commands of a page run one after the other in one shell, in a folder with the files
 # that the page speaks of.

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Nascor developers
+# SPDX-License-Identifier: MIT
+
 # What .github holds can be read: each file is YAML, each step that a workflow names is one of .ci/run, actions stand with their
 # commit, permissions are the least, and forms for reports ask for what is needed.
 . "$(dirname "$0")/common.sh" "$@"

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Nascor developers
+# SPDX-License-Identifier: MIT
+
 # What was built is hardened as cmake/Hardening.cmake says: looked up in the programs themselves.
 . "$(dirname "$0")/common.sh" "$@"
 shift 2

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Nascor developers
+# SPDX-License-Identifier: MIT
+
 # What `cmake --install` copies: the same to a prefix and in stages, to the places that pages and programs name, and
 # nothing that names a folder of this machine or of the stage.
 . "$(dirname "$0")/common.sh" "$@"

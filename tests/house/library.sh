@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Nascor developers
+# SPDX-License-Identifier: MIT
+
 # The libraries as other programs take them (docs/library.md): installed in stages and moved, found by CMake, and the
 # example built with them says what nascor-cli says. Nothing that is installed names a folder of this machine.
 . "$(dirname "$0")/common.sh" "$@"

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Nascor developers
+# SPDX-License-Identifier: MIT
+
 # Every file says whose it is and under which licence: by two lines at its top, or in REUSE.toml. And tools/licence-lines, which
 # writes and checks these lines, in a small checkout: it writes once, keeps first lines first, and names what it cannot write.
 . "$(dirname "$0")/common.sh" "$@"

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Nascor developers
+# SPDX-License-Identifier: MIT
+
 # The links of README.md and the other pages lead to files that are there, and to headings that are in them. The pictures that a
 # page shows load fast, and there is none that no page shows.
 . "$(dirname "$0")/common.sh" "$@"

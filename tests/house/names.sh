@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Nascor developers
+# SPDX-License-Identifier: MIT
+
 # ARCHITECTURE.md names classes and functions as they are: for each Class::name the header of the class has the name.
 . "$(dirname "$0")/common.sh" "$@"
 cd "$root"

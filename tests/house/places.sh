@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Nascor developers
+# SPDX-License-Identifier: MIT
+
 # Where things stand: each layer of src/ in a folder of its own name, and the text of a gestation in one source alone,
 # so that screen, report and scripts cannot come to differ.
 . "$(dirname "$0")/common.sh" "$@"

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Nascor developers
+# SPDX-License-Identifier: MIT
+
 # tools/release, in small checkouts of its own whose .ci/run is played: what is refused leaves everything as it was, a dry run too,
 # and a release has its version everywhere, its tag, and files whose sums agree. And with this checkout's own texts it knows its way.
 . "$(dirname "$0")/common.sh" "$@"

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Nascor developers
+# SPDX-License-Identifier: MIT
+
 # The picture of the rooms shows those of the build and their arrows: each name and each arrow is looked up in it. A build
 # without some rooms looks for its own alone.
 . "$(dirname "$0")/common.sh" "$@"

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Nascor developers
+# SPDX-License-Identifier: MIT
+
 # The bill of materials names every program and every library that these ask for, with versions and licences, and is the same each
 # time. tests/house/sbom/validate.sh holds it against the published schema.
 . "$(dirname "$0")/common.sh" "$@"

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Nascor developers
+# SPDX-License-Identifier: MIT
+
 # How run and test look for packages, with fakes of the system's programs: they ask once when nothing is missing,
 # bring the lists up to date before they install, and say in a sentence what stops them.
 . "$(dirname "$0")/common.sh" "$@"

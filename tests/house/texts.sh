@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Nascor developers
+# SPDX-License-Identifier: MIT
+
 # The table of visible texts holds those of the sources, no more and no fewer.
 . "$(dirname "$0")/common.sh" "$@"
 

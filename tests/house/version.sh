@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Nascor developers
+# SPDX-License-Identifier: MIT
+
 # The version stands in CMakeLists.txt. What a program says, the newest releases in CHANGELOG.md and the metainfo, and Debian's
 # changelog all have that one, and the first two the same day.
 . "$(dirname "$0")/common.sh" "$@"

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Nascor developers
+# SPDX-License-Identifier: MIT
+
 # The walls between the layers: what the sources include, what each compile command lets them see, and that a header
 # beyond a wall is not found. Also that add_layer's own lists are right, and that no option lets the compiler move the
 # last bits of a formula.

@@ -1,4 +1,7 @@
 #!/usr/bin/env python3
+# SPDX-FileCopyrightText: 2026 The Nascor developers
+# SPDX-License-Identifier: MIT
+
 """manual_test.py FOLDER PROGRAM...: the manual pages and completions in FOLDER say what the programs say of themselves."""
 import pathlib
 import re

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Nascor developers
+// SPDX-License-Identifier: MIT
+
 // Everything that a user can do in the windows, each by its own keys and clicks; and at the end a walk through the real
 // windows, which finds what nobody tries here.
 #include <QCheckBox>

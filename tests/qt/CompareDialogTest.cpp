@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Nascor developers
+// SPDX-License-Identifier: MIT
+
 // The Compare window: what it shows is told by stories; here its binding, and what is done with its tables.
 #include "window/CompareDialog.h"
 

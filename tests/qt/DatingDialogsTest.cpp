@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Nascor developers
+// SPDX-License-Identifier: MIT
+
 // The dating dialogs by real keys, and nothing else.
 #include <QAbstractButton>
 #include <QCheckBox>

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Nascor developers
+// SPDX-License-Identifier: MIT
+
 // What the desktop reads of the installed files: the kind of a document, and whose windows these are.
 #include <gtest/gtest.h>
 

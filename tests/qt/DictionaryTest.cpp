@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Nascor developers
+// SPDX-License-Identifier: MIT
+
 // The scripting dictionary as tools read it, against the properties that there are.
 #include <gmock/gmock.h>
 

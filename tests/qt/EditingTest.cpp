@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Nascor developers
+// SPDX-License-Identifier: MIT
+
 // Typing, leaving and refusing: real keys and clicks on real widgets.
 #include <QClipboard>
 #include <QDragEnterEvent>

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Nascor developers
+// SPDX-License-Identifier: MIT
+
 // Every call that a save of the window makes of the operating system fails, in each way, once and from then on, is interrupted,
 // writes a part, and is the last one of the program. Runs with what tests/faults/FaultyCalls.cpp builds loaded before the C
 // library.

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Nascor developers
+// SPDX-License-Identifier: MIT
+
 // Documents that hold more than any person enters, in real windows, on paper and in files.
 #include <QClipboard>
 #include <QMimeData>

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Nascor developers
+// SPDX-License-Identifier: MIT
+
 // What holds in every language that the application comes with.
 #include <QAction>
 #include <QDialogButtonBox>

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Nascor developers
+// SPDX-License-Identifier: MIT
+
 // A walk over everything that is shown: in light and dark, with texts as they are, with longer ones and in every language.
 #include <QDialog>
 #include <QDir>

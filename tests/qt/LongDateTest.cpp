@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Nascor developers
+// SPDX-License-Identifier: MIT
+
 // Dates in words, beside the short dates that are typed.
 #include <gtest/gtest.h>
 

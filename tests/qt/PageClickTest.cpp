@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Nascor developers
+// SPDX-License-Identifier: MIT
+
 // The mouse on a page of the window: what it does there is told by stories; here it is that the presses arrive, counted.
 #include <QClipboard>
 #include <QGuiApplication>

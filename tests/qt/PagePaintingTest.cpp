@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Nascor developers
+// SPDX-License-Identifier: MIT
+
 // What stands on a page, by the colours at the places that the numbers give.
 #include <gtest/gtest.h>
 

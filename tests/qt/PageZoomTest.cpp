@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Nascor developers
+// SPDX-License-Identifier: MIT
+
 // How large the pages of the window are, and what is said over a page that lacks something.
 #include <QFontInfo>
 #include <QMouseEvent>

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Nascor developers
+// SPDX-License-Identifier: MIT
+
 // The toolkit's dialogs for paper and what comes out of them, and exports that do not come to their end.
 #include <sys/resource.h>
 

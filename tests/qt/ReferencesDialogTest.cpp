@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Nascor developers
+// SPDX-License-Identifier: MIT
+
 // The references: all publications, and behind each its formula and what it was checked with.
 #include "window/ReferencesDialog.h"
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Nascor developers
+// SPDX-License-Identifier: MIT
+
 // Scripts as their authors write them: in processes of their own, on a session bus of the test's own.
 #include <gmock/gmock.h>
 #include <signal.h>

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Nascor developers
+// SPDX-License-Identifier: MIT
+
 // Whatever the windows say in words comes through a table of texts, and a table in another language is found and right.
 #include <QAction>
 #include <QDialog>

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Nascor developers
+// SPDX-License-Identifier: MIT
+
 // The user guide and the handbook that the build has made, read by programs that know nothing of how they are made.
 #include <gmock/gmock.h>
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Nascor developers
+// SPDX-License-Identifier: MIT
+
 // The menus that know of other windows and of the text in edit, and where a new window stands.
 #include <QActionGroup>
 #include <QClipboard>

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Nascor developers
+// SPDX-License-Identifier: MIT
+
 // The application on a real X server, as its user meets it: in its own process, by keys and by what the screen shows.
 #include <gmock/gmock.h>
 

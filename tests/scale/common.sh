@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Nascor developers
+# SPDX-License-Identifier: MIT
+
 # Sourced by the tests of docs/scale, which .ci/scale runs: `scripts` is that folder, `work` a folder of the test's own, which holds a
 # link to the clinic; `expected` has its rows as one process writes them, with --file path --fixed, `status` that process's status.
 # The programs are in PATH.

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Nascor developers
+# SPDX-License-Identifier: MIT
+
 # Dask: a scheduler and two workers, processes of their own on the loopback. One worker is killed within its third part.
 . "$(dirname "$0")/common.sh"
 export DASK_DISTRIBUTED__ADMIN__LOG_FORMAT="%(message)s" NO_PROXY=127.0.0.1

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Nascor developers
+# SPDX-License-Identifier: MIT
+
 # DuckDB: to Parquet and back. Its npm package is in the folder of the copy of docs/scale/duckdb that DUCKDB names.
 . "$(dirname "$0")/common.sh"
 for kind in "--identify" "--relative-dates --standard all"; do

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Nascor developers
+# SPDX-License-Identifier: MIT
+
 # PostgreSQL: a cluster of its own, which answers on a socket in this folder alone.
 . "$(dirname "$0")/common.sh"
 programs="$(pg_config --bindir 2>/dev/null || true)"

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Nascor developers
+# SPDX-License-Identifier: MIT
+
 # Slurm: a cluster of one node with its daemons in this folder, on the loopback. One task of the array dies in the middle of a row.
 . "$(dirname "$0")/common.sh"
 daemons=()

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Nascor developers
+# SPDX-License-Identifier: MIT
+
 # A tar stream of the clinic that breaks off, at twenty places anywhere and the ends of ten blocks: whole rows only, and status 1.
 . "$(dirname "$0")/common.sh"
 documents="$(find -L clinic -name '*.nascor' | wc -l)"

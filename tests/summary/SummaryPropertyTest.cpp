@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Nascor developers
+// SPDX-License-Identifier: MIT
+
 // The figures of a summary are those of the comparison and of the report, to the bit.
 #include <gmock/gmock.h>
 

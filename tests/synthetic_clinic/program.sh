@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Nascor developers
+# SPDX-License-Identifier: MIT
+
 # The program that writes synthetic clinics: a folder and a stream hold the same documents, and slices make the whole.
 # Arguments: the folder of the programs.
 set -euo pipefail

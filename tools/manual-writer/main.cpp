@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Nascor developers
+// SPDX-License-Identifier: MIT
+
 // Writes what a system keeps beside a program: its manual page and its completion for three shells.
 //
 //     nascor-manual FOLDER

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Nascor developers
+// SPDX-License-Identifier: MIT
+
 // nascor-readme-pictures SAMPLES FOLDER: writes FOLDER/window-light.png and FOLDER/window-dark.png, the window of a sample
 // patient as README.md shows it to readers of a light and of a dark page.
 

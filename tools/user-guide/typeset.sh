@@ -1,4 +1,7 @@
 #!/usr/bin/env bash
+# SPDX-FileCopyrightText: 2026 The Nascor developers
+# SPDX-License-Identifier: MIT
+
 # Makes one document of chapters in Markdown: HTML in every case, and by pandoc and weasyprint the PDF too. In FOLDER lies
 # the folder guide with the style and the pictures. WORDS has what stands around the chapters in their language; a heading
 # of its own takes the place of NAME, which the files have.

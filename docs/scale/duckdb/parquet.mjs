@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Nascor developers
+// SPDX-License-Identifier: MIT
+
 // parquet.mjs write FILE HEADER: the rows on standard input as a Parquet file; HEADER is the first line of `nascor-cli rows`.
 // parquet.mjs read FILE: such a file as `nascor-cli rows` prints it, on standard output.
 import { DuckDBInstance } from '@duckdb/node-api';

@@ -1,4 +1,7 @@
 #!/usr/bin/env bash
+# SPDX-FileCopyrightText: 2026 The Nascor developers
+# SPDX-License-Identifier: MIT
+
 # to-parquet.sh FOLDER FILE [OPTION...]: the rows of a folder as a Parquet file, by DuckDB; `npm ci` in this folder installs it. The file
 # has its name when it is complete. The status is that of `nascor-cli rows FOLDER OPTION...`, or 2 when there is no file.
 set -euo pipefail

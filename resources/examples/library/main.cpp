@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Nascor developers
+// SPDX-License-Identifier: MIT
+
 // growth FILE...: prints, for each fetus at each examination, its menstrual age, its estimated weight by Hadlock's formula of
 // four lengths, and by how many standard deviations each length lies from the mean of the document's growth standard.
 #include <array>

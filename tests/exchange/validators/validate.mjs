@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Nascor developers
+// SPDX-License-Identifier: MIT
+
 // Holds what `nascor-cli export --format fhir` wrote against three validators of FHIR R4, none of which is ours, and sees
 // that they refuse faults that are planted in it.
 //

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Nascor developers
+// SPDX-License-Identifier: MIT
+
 // Holds a bill of materials against the published schema of CycloneDX 1.5, and sees that the schema refuses planted faults.
 //
 // usage: node validate.mjs MODULES BILL

@@ -1,4 +1,7 @@
 #!/usr/bin/env bash
+# SPDX-FileCopyrightText: 2026 The Nascor developers
+# SPDX-License-Identifier: MIT
+
 # validate.sh BUILD: holds the bill of materials of a build folder against the schema that CycloneDX publishes, which comes from npm
 # into that folder. Nothing else of the house tests needs npm, so this is run by name.
 set -euo pipefail

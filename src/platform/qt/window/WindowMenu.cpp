@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Nascor developers
+// SPDX-License-Identifier: MIT
+
 #include "window/WindowMenu.h"
 
 #include <QActionGroup>
