@@ -115,7 +115,7 @@ Sentence expectedBy(Kind kind) {
         return translatable("Reading", "a date (seconds since 2001-01-01 UTC, an ISO text) or null");
       case Kind::dateText: return translatable("Reading", "an ISO date or null");
       case Kind::integer: return translatable("Reading", "a whole number");
-      case Kind::number: return translatable("Reading", "a number, \"nan\", \"inf\" or \"-inf\"");
+      case Kind::number: return translatable("Reading", R"(a number, "nan", "inf" or "-inf")");
       default: return translatable("Reading", "a list");
     }
   };

@@ -4,11 +4,11 @@
 #include "posix/GettextLocalizer.h"
 
 #include <array>
+#include <clocale>
 #include <filesystem>
 #include <system_error>
 
 #include <libintl.h>
-#include <locale.h>
 
 #include "foundation/Sentence.h"
 
