@@ -111,6 +111,18 @@
         <source>beyond the table</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>%1 has no centiles of this measure</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Centiles: %1, which fits weights by another formula alone: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Centiles: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>AdjustDelivery</name>
@@ -1606,6 +1618,18 @@ Files of the same names are replaced, but with --no-clobber. SOURCE_DATE_EPOCH, 
     </message>
     <message>
         <source>Where This Comes From</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 has %2 to %3 weeks.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 fits weights by another formula alone: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 has no place for this value.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -4011,6 +4035,14 @@ Files of the same names are replaced, but with --no-clobber. SOURCE_DATE_EPOCH, 
         <source>The document was saved again since. What was saved then is not in these changes.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Unsaved changes cannot be kept against a crash. Please save: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Examination of %1</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>References</name>
@@ -4703,6 +4735,18 @@ Files of the same names are replaced, but with --no-clobber. SOURCE_DATE_EPOCH, 
     </message>
     <message>
         <source>Since the last examination before that has the measure: change a week, what the growth standard expects, and change of z.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lengths: z and centile by %1. Weight: by the formula %2, z and centile by %3.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1/week</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lines: centiles 3, 10, 50, 90 and 97; lengths by %1, weight by %2. Weeks of menstrual age below.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -111,6 +111,18 @@
         <source>beyond the table</source>
         <translation>außerhalb der Tabelle</translation>
     </message>
+    <message>
+        <source>%1 has no centiles of this measure</source>
+        <translation>%1 hat keine Perzentilen dieser Messgröße</translation>
+    </message>
+    <message>
+        <source>Centiles: %1, which fits weights by another formula alone: %2</source>
+        <translation>Perzentilen: %1, passt nur zu Gewichten nach einer anderen Formel: %2</translation>
+    </message>
+    <message>
+        <source>Centiles: %1</source>
+        <translation>Perzentilen: %1</translation>
+    </message>
 </context>
 <context>
     <name>AdjustDelivery</name>
@@ -1744,6 +1756,18 @@ Dateien gleichen Namens werden ersetzt, außer mit --no-clobber. SOURCE_DATE_EPO
     <message>
         <source>Where This Comes From</source>
         <translation>Herkunft anzeigen</translation>
+    </message>
+    <message>
+        <source>%1 has %2 to %3 weeks.</source>
+        <translation>%1 umfasst %2 bis %3 Wochen.</translation>
+    </message>
+    <message>
+        <source>%1 fits weights by another formula alone: %2.</source>
+        <translation>%1 passt nur zu Gewichten nach einer anderen Formel: %2.</translation>
+    </message>
+    <message>
+        <source>%1 has no place for this value.</source>
+        <translation>%1 kann diesen Wert nicht einordnen.</translation>
     </message>
 </context>
 <context>
@@ -4148,6 +4172,14 @@ Dateien gleichen Namens werden ersetzt, außer mit --no-clobber. SOURCE_DATE_EPO
         <source>The document was saved again since. What was saved then is not in these changes.</source>
         <translation>Das Dokument wurde seitdem noch einmal gespeichert. Was dabei gespeichert wurde, ist in diesen Änderungen nicht enthalten.</translation>
     </message>
+    <message>
+        <source>Unsaved changes cannot be kept against a crash. Please save: %1</source>
+        <translation>Nicht gespeicherte Änderungen können nicht gegen einen Absturz gesichert werden. Bitte speichern Sie: %1</translation>
+    </message>
+    <message>
+        <source>Examination of %1</source>
+        <translation>Untersuchung vom %1</translation>
+    </message>
 </context>
 <context>
     <name>References</name>
@@ -4841,6 +4873,18 @@ Dateien gleichen Namens werden ersetzt, außer mit --no-clobber. SOURCE_DATE_EPO
     <message>
         <source>Since the last examination before that has the measure: change a week, what the growth standard expects, and change of z.</source>
         <translation>Seit der letzten Untersuchung davor mit dieser Messgröße: Änderung pro Woche, nach dem Wachstumsstandard erwartete Änderung und z-Änderung.</translation>
+    </message>
+    <message>
+        <source>Lengths: z and centile by %1. Weight: by the formula %2, z and centile by %3.</source>
+        <translation>Maße: z und Perzentile nach %1. Gewicht: nach der Formel %2, z und Perzentile nach %3.</translation>
+    </message>
+    <message>
+        <source>%1/week</source>
+        <translation>%1/Woche</translation>
+    </message>
+    <message>
+        <source>Lines: centiles 3, 10, 50, 90 and 97; lengths by %1, weight by %2. Weeks of menstrual age below.</source>
+        <translation>Linien: Perzentilen 3, 10, 50, 90 und 97; Maße nach %1, Gewicht nach %2. Unten das Gestationsalter in Wochen.</translation>
     </message>
 </context>
 <context>

@@ -111,6 +111,18 @@
         <source>beyond the table</source>
         <translation>fuera de la tabla</translation>
     </message>
+    <message>
+        <source>%1 has no centiles of this measure</source>
+        <translation>%1 no tiene percentiles de esta medida</translation>
+    </message>
+    <message>
+        <source>Centiles: %1, which fits weights by another formula alone: %2</source>
+        <translation>Percentiles: %1, que solo vale para pesos de otra fórmula: %2</translation>
+    </message>
+    <message>
+        <source>Centiles: %1</source>
+        <translation>Percentiles: %1</translation>
+    </message>
 </context>
 <context>
     <name>AdjustDelivery</name>
@@ -1734,6 +1746,18 @@ desde 1970, sustituye al momento presente.
     <message>
         <source>Where This Comes From</source>
         <translation>Origen de este valor</translation>
+    </message>
+    <message>
+        <source>%1 has %2 to %3 weeks.</source>
+        <translation>%1 abarca de %2 a %3 semanas.</translation>
+    </message>
+    <message>
+        <source>%1 fits weights by another formula alone: %2.</source>
+        <translation>%1 solo vale para pesos de otra fórmula: %2.</translation>
+    </message>
+    <message>
+        <source>%1 has no place for this value.</source>
+        <translation>%1 no permite situar este valor.</translation>
     </message>
 </context>
 <context>
@@ -4138,6 +4162,14 @@ desde 1970, sustituye al momento presente.
         <source>The document was saved again since. What was saved then is not in these changes.</source>
         <translation>El documento se ha vuelto a guardar desde entonces. Lo que se guardó entonces no está en estos cambios.</translation>
     </message>
+    <message>
+        <source>Unsaved changes cannot be kept against a crash. Please save: %1</source>
+        <translation>Los cambios sin guardar no se pueden proteger contra un fallo. Guárdelos: %1</translation>
+    </message>
+    <message>
+        <source>Examination of %1</source>
+        <translation>Exploración del %1</translation>
+    </message>
 </context>
 <context>
     <name>References</name>
@@ -4831,6 +4863,18 @@ desde 1970, sustituye al momento presente.
     <message>
         <source>Since the last examination before that has the measure: change a week, what the growth standard expects, and change of z.</source>
         <translation>Desde la última exploración anterior que tiene la medida: cambio por semana, lo que espera el estándar de crecimiento y cambio de z.</translation>
+    </message>
+    <message>
+        <source>Lengths: z and centile by %1. Weight: by the formula %2, z and centile by %3.</source>
+        <translation>Medidas: z y percentil según %1. Peso: según la fórmula %2, z y percentil según %3.</translation>
+    </message>
+    <message>
+        <source>%1/week</source>
+        <translation>%1/semana</translation>
+    </message>
+    <message>
+        <source>Lines: centiles 3, 10, 50, 90 and 97; lengths by %1, weight by %2. Weeks of menstrual age below.</source>
+        <translation>Líneas: percentiles 3, 10, 50, 90 y 97; medidas según %1, peso según %2. Abajo, semanas de edad gestacional.</translation>
     </message>
 </context>
 <context>

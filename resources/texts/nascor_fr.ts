@@ -111,6 +111,18 @@
         <source>beyond the table</source>
         <translation>hors table</translation>
     </message>
+    <message>
+        <source>%1 has no centiles of this measure</source>
+        <translation>%1 n’a pas de percentiles pour ce paramètre</translation>
+    </message>
+    <message>
+        <source>Centiles: %1, which fits weights by another formula alone: %2</source>
+        <translation>Percentiles : %1, ne valant que pour une autre formule : %2</translation>
+    </message>
+    <message>
+        <source>Centiles: %1</source>
+        <translation>Percentiles : %1</translation>
+    </message>
 </context>
 <context>
     <name>AdjustDelivery</name>
@@ -170,7 +182,7 @@
     <name>CommandHelp</name>
     <message>
         <source>growth standards by number or name, intergrowth-2014, with commas between; without it all four</source>
-        <translation>standards de croissance par numéro ou nom, ou intergrowth-2014, avec virgules ; sinon les quatre</translation>
+        <translation>standards de croissance par numéro ou nom, ou intergrowth-2014, avec virgules&#xa0;; sinon les quatre</translation>
     </message>
     <message>
         <source>one weight, by number or name, instead of all eight</source>
@@ -199,22 +211,22 @@ and, with its line, on standard error; nothing is computed in that row, the othe
 the status is 1. Memory does not grow with the table.
 Texts stay as they are. A spreadsheet runs cells that begin with &apos;=&apos;: import them as text.
 </source>
-        <translation>La première ligne nomme les colonnes ; comptent ga_weeks ou ga, bpd_mm ou bpd, hc_mm ou hc,
+        <translation>La première ligne nomme les colonnes&#xa0;; comptent ga_weeks ou ga, bpd_mm ou bpd, hc_mm ou hc,
 ac_mm ou ac, fl_mm ou fl, dans n’importe quel ordre. Toutes les colonnes du tableau restent telles
 quelles. Derrière elles viennent
   efw_0_g,...,efw_7_g,westerway_bpd_mean_mm,westerway_bpd_sd_mm,westerway_bpd_z,...,cfef_fl_z
   warning,error
-Une cellule vide, 0, nan et NA signifient : non mesuré. Ce qui n’est pas un nombre (45mm, 45,2) est
-signalé dans error et, avec sa ligne, sur la sortie d’erreur standard ; rien n’est calculé dans
+Une cellule vide, 0, nan et NA signifient&#xa0;: non mesuré. Ce qui n’est pas un nombre (45mm, 45,2) est
+signalé dans error et, avec sa ligne, sur la sortie d’erreur standard&#xa0;; rien n’est calculé dans
 cette ligne, les autres continuent, et le code de retour est 1. La mémoire utilisée ne croît pas
 avec le tableau.
-Les textes restent tels quels. Un tableur exécute les cellules qui commencent par &apos;=&apos; : importez-les
+Les textes restent tels quels. Un tableur exécute les cellules qui commencent par &apos;=&apos;&#xa0;: importez-les
 comme texte.
 </translation>
     </message>
     <message>
         <source>a document; - is standard input</source>
-        <translation>un document ; - est l’entrée standard</translation>
+        <translation>un document&#xa0;; - est l’entrée standard</translation>
     </message>
     <message>
         <source>one JSON object a document, on a line</source>
@@ -234,9 +246,9 @@ what can be typed, an old class version. It leaves the exit status at 0; a file 
 makes it 1. Keys of the JSON: file, and oddities, an array of objects with kind, examination, fetus,
 text.
 </source>
-        <translation>Une anomalie est acceptée partout ailleurs : un nombre qui ne concorde pas, une date qui manque, une
+        <translation>Une anomalie est acceptée partout ailleurs&#xa0;: un nombre qui ne concorde pas, une date qui manque, une
 mesure au-delà de ce qui peut être saisi, une ancienne version de classe. Elle laisse le code de
-retour à 0 ; un fichier qui ne peut pas être lu le met à 1. Clés du JSON : file, et oddities, un
+retour à 0&#xa0;; un fichier qui ne peut pas être lu le met à 1. Clés du JSON&#xa0;: file, et oddities, un
 tableau d’objets avec kind, examination, fetus, text.
 </translation>
     </message>
@@ -250,15 +262,15 @@ tableau d’objets avec kind, examination, fetus, text.
     </message>
     <message>
         <source>usage: %1</source>
-        <translation>usage : %1</translation>
+        <translation>usage&#xa0;: %1</translation>
     </message>
     <message>
         <source>Commands:</source>
-        <translation>Commandes :</translation>
+        <translation>Commandes&#xa0;:</translation>
     </message>
     <message>
         <source>Options:</source>
-        <translation>Options :</translation>
+        <translation>Options&#xa0;:</translation>
     </message>
     <message>
         <source>Obstetric ultrasound biometry for shells and scripts.</source>
@@ -271,16 +283,16 @@ Exit status: 0 all well, 1 some input was bad, 2 wrong usage.
 </source>
         <translation>Les mesures sont en millimètres, les poids en grammes, les âges en semaines d’aménorrhée (SA).
 Quand FILE ou une valeur est -, c’est l’entrée standard. Aucune question n’est jamais posée.
-Code de retour : 0 tout va bien, 1 une partie de l’entrée était mauvaise, 2 usage incorrect.
+Code de retour&#xa0;: 0 tout va bien, 1 une partie de l’entrée était mauvaise, 2 usage incorrect.
 </translation>
     </message>
     <message>
         <source>this text; help COMMAND explains one command</source>
-        <translation>ce texte ; help COMMAND explique une commande</translation>
+        <translation>ce texte&#xa0;; help COMMAND explique une commande</translation>
     </message>
     <message>
         <source>this text; behind a command, that command&apos;s help</source>
-        <translation>ce texte ; après une commande, l’aide de cette commande</translation>
+        <translation>ce texte&#xa0;; après une commande, l’aide de cette commande</translation>
     </message>
     <message>
         <source>the version of the program</source>
@@ -292,7 +304,7 @@ Code de retour : 0 tout va bien, 1 une partie de l’entrée était mauvaise, 2
     </message>
     <message>
         <source>one object a document, examination and fetus, on a line: unrounded numbers</source>
-        <translation>un objet par document, examen et fœtus, sur une ligne : nombres non arrondis</translation>
+        <translation>un objet par document, examen et fœtus, sur une ligne&#xa0;: nombres non arrondis</translation>
     </message>
     <message>
         <source>Each length and weight by every reference and formula, ratios, twins, growth.</source>
@@ -306,16 +318,16 @@ examination before which has the length; the change of z is by the document&apos
 weights are those of references; the error of a formula is no population.
 </source>
         <translation>Les examens et les fœtus sont comptés à partir de 0. Difference est l’écart au poids selon la
-formule du document. Age est celui dont la valeur est la médiane de la référence ; hors de ses
+formule du document. Age est celui dont la valeur est la médiane de la référence&#xa0;; hors de ses
 semaines, un tiret. Discordance est ce que le fœtus le plus léger pèse de moins que le plus lourd,
 en part du poids de celui-ci. Growth est la croissance depuis l’examen précédent où la mesure
-figure ; la variation de z est selon le standard du document. Les percentiles de poids sont ceux de
-références ; l’erreur d’une formule n’est pas une population.
+figure&#xa0;; la variation de z est selon le standard du document. Les percentiles de poids sont ceux de
+références&#xa0;; l’erreur d’une formule n’est pas une population.
 </translation>
     </message>
     <message>
         <source>Each document as JSON: every field that it holds, one object on a line.</source>
-        <translation>Chaque document en JSON : tous les champs qu’il contient, un objet par ligne.</translation>
+        <translation>Chaque document en JSON&#xa0;: tous les champs qu’il contient, un objet par ligne.</translation>
     </message>
     <message>
         <source>Keys: maternalIDString, edd, eddISO, standard, fetalWeightStandard, numberOfFetuses,
@@ -323,20 +335,20 @@ extrapolatedGestation (weeks), crlStandard, gravida, and examinations, an array 
 examDate, examDateISO and measurements, an array of objects with bpd, hc, ac and fl (mm; 0 = not
 measured). Dates are seconds since 2001-01-01 UTC; beside each stands its local time as ISO text.
 </source>
-        <translation>Clés : maternalIDString, edd, eddISO, standard, fetalWeightStandard, numberOfFetuses,
+        <translation>Clés&#xa0;: maternalIDString, edd, eddISO, standard, fetalWeightStandard, numberOfFetuses,
 extrapolatedGestation (semaines), crlStandard, gravida, et examinations, un tableau d’objets avec
-note, examDate, examDateISO et measurements, un tableau d’objets avec bpd, hc, ac et fl (mm ;
-0 = non mesuré). Les dates sont en secondes depuis le 2001-01-01 UTC ; à côté de chacune figure son
+note, examDate, examDateISO et measurements, un tableau d’objets avec bpd, hc, ac et fl (mm&#xa0;;
+0 = non mesuré). Les dates sont en secondes depuis le 2001-01-01 UTC&#xa0;; à côté de chacune figure son
 heure locale en texte ISO.
 </translation>
     </message>
     <message>
         <source>a document as JSON; - is standard input</source>
-        <translation>un document en JSON ; - est l’entrée standard</translation>
+        <translation>un document en JSON&#xa0;; - est l’entrée standard</translation>
     </message>
     <message>
         <source>where to write it, as a whole or not at all; without it, or -, to standard output</source>
-        <translation>où l’écrire, en entier ou pas du tout ; sans cette option, ou avec -, sur la sortie standard</translation>
+        <translation>où l’écrire, en entier ou pas du tout&#xa0;; sans cette option, ou avec -, sur la sortie standard</translation>
     </message>
     <message>
         <source>A document from JSON.</source>
@@ -350,17 +362,17 @@ missing; an unknown one is an error. A date is a number of
 seconds since 2001-01-01 UTC, an ISO date (2027-04-10 is local midnight), an ISO date and time, or
 null. Lengths are stored in single precision, whole numbers in 32 bits.
 </source>
-        <translation>Lit ce qu’écrit json : maternalIDString, edd, standard, fetalWeightStandard, numberOfFetuses,
+        <translation>Lit ce qu’écrit json&#xa0;: maternalIDString, edd, standard, fetalWeightStandard, numberOfFetuses,
 extrapolatedGestation (semaines), crlStandard, gravida, et examinations, un tableau d’objets avec
 note, examDate et measurements, un tableau d’objets avec bpd, hc, ac et fl (mm). Toute clé peut
-manquer ; une clé inconnue est une erreur. Une date est un nombre de secondes depuis le 2001-01-01
+manquer&#xa0;; une clé inconnue est une erreur. Une date est un nombre de secondes depuis le 2001-01-01
 UTC, une date ISO (2027-04-10 est minuit, heure locale), une date et heure ISO, ou null. Les mesures
 sont stockées en simple précision, les nombres entiers sur 32 bits.
 </translation>
     </message>
     <message>
         <source>any typed stream; - is standard input</source>
-        <translation>un flux typé quelconque ; - est l’entrée standard</translation>
+        <translation>un flux typé quelconque&#xa0;; - est l’entrée standard</translation>
     </message>
     <message>
         <source>one JSON object a stream, on a line</source>
@@ -368,23 +380,23 @@ sont stockées en simple précision, les nombres entiers sur 32 bits.
     </message>
     <message>
         <source>All that a typed stream holds, as a tree; of any program, not only documents.</source>
-        <translation>Tout ce que contient un flux typé, en arborescence ; de tout programme, pas seulement un document.</translation>
+        <translation>Tout ce que contient un flux typé, en arborescence&#xa0;; de tout programme, pas seulement un document.</translation>
     </message>
     <message>
         <source>Each line begins with the byte at which the value begins. Keys of the JSON: byte_order,
 system_version, and groups, an array of objects with types and values; docs/json.md lists the values.
 </source>
-        <translation>Chaque ligne commence par l’octet où commence la valeur. Clés du JSON : byte_order, system_version,
-et groups, un tableau d’objets avec types et values ; docs/json.md énumère les valeurs.
+        <translation>Chaque ligne commence par l’octet où commence la valeur. Clés du JSON&#xa0;: byte_order, system_version,
+et groups, un tableau d’objets avec types et values&#xa0;; docs/json.md énumère les valeurs.
 </translation>
     </message>
     <message>
         <source>the folder for the files, which is made when it is missing; - is standard output, for one file</source>
-        <translation>le dossier des fichiers, créé s’il manque ; - est la sortie standard, pour un seul fichier</translation>
+        <translation>le dossier des fichiers, créé s’il manque&#xa0;; - est la sortie standard, pour un seul fichier</translation>
     </message>
     <message>
         <source>what is written; without this option PDF</source>
-        <translation>ce qui est écrit ; sans cette option, PDF</translation>
+        <translation>ce qui est écrit&#xa0;; sans cette option, PDF</translation>
     </message>
     <message>
         <source>all, or first, last, numbers from 0 to 6 and names, with commas between</source>
@@ -392,11 +404,11 @@ et groups, un tableau d’objets avec types et values ; docs/json.md énumère 
     </message>
     <message>
         <source>one fetus, the first is 1; without this option all</source>
-        <translation>un seul fœtus, 1 étant le premier ; sans cette option, tous</translation>
+        <translation>un seul fœtus, 1 étant le premier&#xa0;; sans cette option, tous</translation>
     </message>
     <message>
         <source>centile lines of a reference of &quot;nascor-cli reference&quot; over the charts</source>
-        <translation>lignes de percentiles d’une référence de « nascor-cli reference » sur les graphiques</translation>
+        <translation>lignes de percentiles d’une référence de «&#xa0;nascor-cli reference&#xa0;» sur les graphiques</translation>
     </message>
     <message>
         <source>a line from mark to mark of each fetus</source>
@@ -425,11 +437,11 @@ Files of the same names are replaced, but with --no-clobber.
 sr: a DICOM structured report (Comprehensive SR) for each examination, &quot;NAME 1.dcm&quot;, ...
 fhir: a FHIR R4 bundle for each document, NAME.json; with --ndjson lines on standard output.
 </source>
-        <translation>Noms des pages : %1 (0 à %2), en majuscules ou minuscules.
-En PDF, toutes les pages d’un document forment un seul fichier ; sinon, chacune a le sien.
+        <translation>Noms des pages&#xa0;: %1 (0 à %2), en majuscules ou minuscules.
+En PDF, toutes les pages d’un document forment un seul fichier&#xa0;; sinon, chacune a le sien.
 Les fichiers de même nom sont remplacés, sauf avec --no-clobber.
-sr : un rapport structuré DICOM (Comprehensive SR) pour chaque examen, « NAME 1.dcm », ...
-fhir : un bundle FHIR R4 pour chaque document, NAME.json ; avec --ndjson, des lignes sur la sortie
+sr&#xa0;: un rapport structuré DICOM (Comprehensive SR) pour chaque examen, «&#xa0;NAME 1.dcm&#xa0;», ...
+fhir&#xa0;: un bundle FHIR R4 pour chaque document, NAME.json&#xa0;; avec --ndjson, des lignes sur la sortie
 standard.
 </translation>
     </message>
@@ -464,17 +476,17 @@ The formulas, by identifier: 0 Hadlock 1 (HC/AC/FL), 1 Hadlock 2 (AC/FL),
 2 Hadlock 3 (BPD/AC/FL), 3 Hadlock 4 (BPD/HC/AC/FL), 4 Campbell (AC), 5 Combs (HC/AC/FL),
 6 Ott (HC/AC/FL), 7 Shepard (BPD/AC).
 </source>
-        <translation>Une mesure qui n’est pas donnée vaut 0, ce qui signifie : non mesuré. Là où une formule en a besoin,
+        <translation>Une mesure qui n’est pas donnée vaut 0, ce qui signifie&#xa0;: non mesuré. Là où une formule en a besoin,
 le poids est un tiret (0 en JSON). Une mesure improbable est signalée sur la sortie d’erreur
 standard.
-Les formules, par identifiant : 0 Hadlock 1 (HC/AC/FL), 1 Hadlock 2 (AC/FL),
+Les formules, par identifiant&#xa0;: 0 Hadlock 1 (HC/AC/FL), 1 Hadlock 2 (AC/FL),
 2 Hadlock 3 (BPD/AC/FL), 3 Hadlock 4 (BPD/HC/AC/FL), 4 Campbell (AC), 5 Combs (HC/AC/FL),
 6 Ott (HC/AC/FL), 7 Shepard (BPD/AC).
 </translation>
     </message>
     <message>
         <source>crown-rump lengths; - reads lengths from standard input, one a line</source>
-        <translation>longueurs cranio-caudales ; - lit des longueurs sur l’entrée standard, une par ligne</translation>
+        <translation>longueurs cranio-caudales&#xa0;; - lit des longueurs sur l’entrée standard, une par ligne</translation>
     </message>
     <message>
         <source>an array of four numbers a length, each on a line of its own</source>
@@ -495,15 +507,15 @@ The formulas, by identifier: 0 Hadlock (1992), 2 to 120 mm; 1 Nelson (1981), 6.7
         <translation>Une ligne par longueur, colonnes séparées par des tabulations. Hors du domaine d’une formule, l’âge
 est un tiret (0 en JSON). La réponse à une ligne de l’entrée standard qui n’est pas un nombre est
 nan (null en JSON). Une longueur qu’aucune formule ne date est signalée sur la sortie d’erreur
-standard ; de l’entrée standard, la première seulement.
-Les formules, par identifiant : 0 Hadlock (1992), de 2 à 120 mm ; 1 Nelson (1981), de 6.7 à 82.4 mm
-(aucune seconde source ne la donne ; 9 jours de plus que Hadlock (1992) à 7 mm, 3 jours de plus
-à 20 mm) ; 2 Robinson (1975), de 7 à 79.6 mm ; 3 Westerway (2000), de 2 à 87 mm.
+standard&#xa0;; de l’entrée standard, la première seulement.
+Les formules, par identifiant&#xa0;: 0 Hadlock (1992), de 2 à 120 mm&#xa0;; 1 Nelson (1981), de 6.7 à 82.4 mm
+(aucune seconde source ne la donne&#xa0;; 9 jours de plus que Hadlock (1992) à 7 mm, 3 jours de plus
+à 20 mm)&#xa0;; 2 Robinson (1975), de 7 à 79.6 mm&#xa0;; 3 Westerway (2000), de 2 à 87 mm.
 </translation>
     </message>
     <message>
         <source>a DICOM report, a FHIR bundle of this program, or a CSV table of examinations; - is standard input</source>
-        <translation>rapport DICOM, bundle FHIR de ce programme ou tableau CSV d’examens ; - est l’entrée standard</translation>
+        <translation>rapport DICOM, bundle FHIR de ce programme ou tableau CSV d’examens&#xa0;; - est l’entrée standard</translation>
     </message>
     <message>
         <source>store what was found in a new document</source>
@@ -519,7 +531,7 @@ Les formules, par identifiant : 0 Hadlock (1992), de 2 à 120 mm ; 1 Nelson (1
     </message>
     <message>
         <source>the fetus that the reports call ID is fetus N of the document; once for each</source>
-        <translation>le fœtus que les rapports appellent ID est le fœtus N du document ; une fois pour chacun</translation>
+        <translation>le fœtus que les rapports appellent ID est le fœtus N du document&#xa0;; une fois pour chacun</translation>
     </message>
     <message>
         <source>the report&apos;s EDD takes the place of the document&apos;s</source>
@@ -527,7 +539,7 @@ Les formules, par identifiant : 0 Hadlock (1992), de 2 à 120 mm ; 1 Nelson (1
     </message>
     <message>
         <source>What reports of ultrasound machines and tables hold, as JSON; stored only on demand.</source>
-        <translation>Le contenu de rapports d’échographes et de tableaux, en JSON ; enregistré sur demande seulement.</translation>
+        <translation>Le contenu de rapports d’échographes et de tableaux, en JSON&#xa0;; enregistré sur demande seulement.</translation>
     </message>
     <message>
         <source>One object a report, of a table one for each patient and day: file, patientID, examDate, edd,
@@ -538,10 +550,10 @@ where it has them, reference_id, fetus (from 0) or fetus_number (from 1), edd, g
 number_of_fetuses. When a row does not fit, nothing of the table is printed or stored.
 Nothing is stored when patient or fetus are in doubt, and nothing that stands is overwritten.
 </source>
-        <translation>Un objet par rapport, d’un tableau un par patiente et par jour : file, patientID, examDate, edd,
+        <translation>Un objet par rapport, d’un tableau un par patiente et par jour&#xa0;: file, patientID, examDate, edd,
 eddFrom, gravida, numberOfFetuses, fetuses (id, bpd, hc, ac, fl et crl en mm, efw en g, chosen),
 notTaken, warnings.
-Un tableau a les colonnes qu’écrit rows : exam_date, au moins une de bpd_mm, hc_mm, ac_mm et fl_mm,
+Un tableau a les colonnes qu’écrit rows&#xa0;: exam_date, au moins une de bpd_mm, hc_mm, ac_mm et fl_mm,
 et, s’il les a, reference_id, fetus (à partir de 0) ou fetus_number (à partir de 1), edd, gravida et
 number_of_fetuses. Quand une ligne ne convient pas, rien du tableau n’est affiché ni enregistré.
 Rien n’est enregistré en cas de doute sur la patiente ou le fœtus, et rien de ce qui est en place
@@ -578,21 +590,21 @@ is ended in the middle, however that happens, leaves an index that the next run 
 The file is an SQLite database that its owner alone can read: it holds reference IDs, notes and names
 of files. Its tables documents and rows may be read by other programs.
 </source>
-        <translation>Seuls les documents nouveaux ou modifiés sont lus ; ceux qui ont disparu quittent l’index. Une
+        <translation>Seuls les documents nouveaux ou modifiés sont lus&#xa0;; ceux qui ont disparu quittent l’index. Une
 exécution interrompue en cours de route, de quelque façon que ce soit, laisse un index que la
 suivante complète.
-Le fichier est une base de données SQLite que seul son propriétaire peut lire : elle contient des
+Le fichier est une base de données SQLite que seul son propriétaire peut lire&#xa0;: elle contient des
 identifiants, des notes et des noms de fichiers. Ses tables documents et rows peuvent être lues par
 d’autres programmes.
 </translation>
     </message>
     <message>
         <source>the first day, such as 2027-04-10; without it today</source>
-        <translation>le premier jour, par exemple 2027-04-10 ; sans cette option, aujourd’hui</translation>
+        <translation>le premier jour, par exemple 2027-04-10&#xa0;; sans cette option, aujourd’hui</translation>
     </message>
     <message>
         <source>how many days behind that; without it 28</source>
-        <translation>combien de jours après celui-ci ; sans cette option, 28</translation>
+        <translation>combien de jours après celui-ci&#xa0;; sans cette option, 28</translation>
     </message>
     <message>
         <source>only with an AC, the last of one fetus, whose z-score is below this</source>
@@ -600,7 +612,7 @@ d’autres programmes.
     </message>
     <message>
         <source>Who is due, from an index: by EDD, with the last examination and the lowest AC.</source>
-        <translation>Qui doit accoucher, d’après un index : par DPA, avec le dernier examen et le PA le plus bas.</translation>
+        <translation>Qui doit accoucher, d’après un index&#xa0;: par DPA, avec le dernier examen et le PA le plus bas.</translation>
     </message>
     <message>
         <source>AC z is the lowest, over the fetuses, of the z-score of the last AC that was measured, by the growth
@@ -616,7 +628,7 @@ croissance du document. La liste montre ce que contenait l’index à sa derniè
     </message>
     <message>
         <source>not more than so many; without it 100</source>
-        <translation>ce nombre au plus ; sans cette option, 100</translation>
+        <translation>ce nombre au plus&#xa0;; sans cette option, 100</translation>
     </message>
     <message>
         <source>Documents by a part of their reference ID or name, from an index.</source>
@@ -636,7 +648,7 @@ croissance du document. La liste montre ce que contenait l’index à sa derniè
     </message>
     <message>
         <source>Unsaved changes that the application kept: a list, or one of them as a document.</source>
-        <translation>Modifications non enregistrées gardées par l’application : leur liste, ou l’une comme document.</translation>
+        <translation>Modifications non enregistrées gardées par l’application&#xa0;: leur liste, ou l’une comme document.</translation>
     </message>
     <message>
         <source>The list has one JSON object a line: recovery (the file), document (the path of the document&apos;s own
@@ -645,17 +657,17 @@ examinations, and differs, the keys of json that the saved document holds otherw
 what running applications keep. A recovery file is a document: json, report and check read it. It
 stays where it is until the application has offered it.
 </source>
-        <translation>La liste a un objet JSON par ligne : recovery (le fichier), document (le chemin du fichier propre au
-document ; null s’il n’a jamais été enregistré), patient, saved (secondes depuis le 2001-01-01 UTC),
+        <translation>La liste a un objet JSON par ligne&#xa0;: recovery (le fichier), document (le chemin du fichier propre au
+document&#xa0;; null s’il n’a jamais été enregistré), patient, saved (secondes depuis le 2001-01-01 UTC),
 fetuses, examinations, et differs, les clés de json pour lesquelles le document enregistré contient
 autre chose. Elle nomme aussi ce que gardent les applications en cours d’exécution. Un fichier de
-récupération est un document : json, report et check le lisent. Il reste où il est jusqu’à ce que
+récupération est un document&#xa0;: json, report et check le lisent. Il reste où il est jusqu’à ce que
 l’application l’ait proposé.
 </translation>
     </message>
     <message>
         <source>a reference, by its name; without it all are listed</source>
-        <translation>une référence, par son nom ; sans elle, toutes sont énumérées</translation>
+        <translation>une référence, par son nom&#xa0;; sans elle, toutes sont énumérées</translation>
     </message>
     <message>
         <source>one of bpd, hc, ac, fl, efw that the reference has</source>
@@ -667,23 +679,23 @@ l’application l’ait proposé.
     </message>
     <message>
         <source>a length in mm, or a weight in g: its z and centile</source>
-        <translation>une mesure en mm, ou un poids en g : son z et son percentile</translation>
+        <translation>une mesure en mm, ou un poids en g&#xa0;: son z et son percentile</translation>
     </message>
     <message>
         <source>a centile between 0 and 100: its value and z</source>
-        <translation>un percentile entre 0 et 100 : sa valeur et son z</translation>
+        <translation>un percentile entre 0 et 100&#xa0;: sa valeur et son z</translation>
     </message>
     <message>
         <source>a z-score: its value and centile</source>
-        <translation>un z-score : sa valeur et son percentile</translation>
+        <translation>un z-score&#xa0;: sa valeur et son percentile</translation>
     </message>
     <message>
         <source>one object a line; what a reference cannot say is null</source>
-        <translation>un objet par ligne ; ce qu’une référence ne peut pas dire est null</translation>
+        <translation>un objet par ligne&#xa0;; ce qu’une référence ne peut pas dire est null</translation>
     </message>
     <message>
         <source>Where a value lies in a published population; which populations there are.</source>
-        <translation>Où se situe une valeur dans une population publiée ; quelles populations existent.</translation>
+        <translation>Où se situe une valeur dans une population publiée&#xa0;; quelles populations existent.</translation>
     </message>
     <message>
         <source>One of W, V, P and Z may be -: then numbers are read from standard input, one a line, and each is
@@ -692,20 +704,20 @@ the answer says which weeks there are. who-2017 is made of curves: it has no z, 
 than &lt;1 and &gt;99 beyond the outermost. A weight&apos;s centile is that of the reference, never of the
 error of a formula.
 </source>
-        <translation>L’une des valeurs W, V, P et Z peut être - : des nombres sont alors lus sur l’entrée standard, un
-par ligne, et chacun reçoit sa réponse. Rien n’est extrapolé : hors des semaines d’une référence,
+        <translation>L’une des valeurs W, V, P et Z peut être -&#xa0;: des nombres sont alors lus sur l’entrée standard, un
+par ligne, et chacun reçoit sa réponse. Rien n’est extrapolé&#xa0;: hors des semaines d’une référence,
 tous les nombres manquent, et la réponse indique quelles semaines elle couvre. who-2017 est faite de
-courbes : elle n’a pas de z, et au-delà des courbes extrêmes ne dit rien de plus que &lt;1 et &gt;99. Le
+courbes&#xa0;: elle n’a pas de z, et au-delà des courbes extrêmes ne dit rien de plus que &lt;1 et &gt;99. Le
 percentile d’un poids est celui de la référence, jamais celui de l’erreur d’une formule.
 </translation>
     </message>
     <message>
         <source>one JSON object a document, on a line: unrounded numbers, the texts beside them</source>
-        <translation>un objet JSON par document, sur une ligne : nombres non arrondis, les textes à côté</translation>
+        <translation>un objet JSON par document, sur une ligne&#xa0;: nombres non arrondis, les textes à côté</translation>
     </message>
     <message>
         <source>The tabular report of each document: every fetus, every examination, the projection.</source>
-        <translation>Le rapport de chaque document en tableau : tous les fœtus, tous les examens, la projection.</translation>
+        <translation>Le rapport de chaque document en tableau&#xa0;: tous les fœtus, tous les examens, la projection.</translation>
     </message>
     <message>
         <source>Date and Menstrual Age are those of the last examination. Days are those of the local time zone. The
@@ -715,17 +727,17 @@ bpd, hc, ac, fl in mm; efw in g) and projected; docs/json.md lists them all.
 </source>
         <translation>Date et Menstrual Age sont ceux du dernier examen. Les jours sont ceux du fuseau horaire local. La
 projection figure quand le dernier examen se situe entre 30 SA et l’accouchement programmé. Clés du
-JSON, entre autres : file, maternalIDString, edd, fetuses, et dans chacun examinations (age en SA ;
-bpd, hc, ac, fl en mm ; efw en g) et projected ; docs/json.md les énumère toutes.
+JSON, entre autres&#xa0;: file, maternalIDString, edd, fetuses, et dans chacun examinations (age en SA&#xa0;;
+bpd, hc, ac, fl en mm&#xa0;; efw en g) et projected&#xa0;; docs/json.md les énumère toutes.
 </translation>
     </message>
     <message>
         <source>a document, or a folder with documents in it; - is a document on standard input</source>
-        <translation>un document, ou un dossier contenant des documents ; - est un document sur l’entrée standard</translation>
+        <translation>un document, ou un dossier contenant des documents&#xa0;; - est un document sur l’entrée standard</translation>
     </message>
     <message>
         <source>more names of files and folders, one a line; - is standard input</source>
-        <translation>d’autres noms de fichiers et de dossiers, un par ligne ; - est l’entrée standard</translation>
+        <translation>d’autres noms de fichiers et de dossiers, un par ligne&#xa0;; - est l’entrée standard</translation>
     </message>
     <message>
         <source>the names of --files-from end with NUL instead</source>
@@ -733,11 +745,11 @@ bpd, hc, ac, fl en mm ; efw en g) et projected ; docs/json.md les énumère to
     </message>
     <message>
         <source>the documents in a tar archive, plain, gzip or zstd; - is standard input</source>
-        <translation>les documents d’une archive tar, non compressée, gzip ou zstd ; - est l’entrée standard</translation>
+        <translation>les documents d’une archive tar, non compressée, gzip ou zstd&#xa0;; - est l’entrée standard</translation>
     </message>
     <message>
         <source>growth standards by number or name, intergrowth-2014, with commas between; or all four</source>
-        <translation>standards de croissance par numéro ou nom, ou intergrowth-2014, avec virgules ; ou all (les quatre)</translation>
+        <translation>standards de croissance par numéro ou nom, ou intergrowth-2014, avec virgules&#xa0;; ou all (les quatre)</translation>
     </message>
     <message>
         <source>only these columns, in this order, with commas between</source>
@@ -777,11 +789,11 @@ bpd, hc, ac, fl en mm ; efw en g) et projected ; docs/json.md les énumère to
     </message>
     <message>
         <source>work on so many documents at a time; the output is the same</source>
-        <translation>traiter ce nombre de documents à la fois ; la sortie est la même</translation>
+        <translation>traiter ce nombre de documents à la fois&#xa0;; la sortie est la même</translation>
     </message>
     <message>
         <source>A row for each fetus at each examination: age, lengths, weights, z-scores; for statistics.</source>
-        <translation>Une ligne par fœtus et par examen : âge, mesures, poids, z-scores ; pour les statistiques.</translation>
+        <translation>Une ligne par fœtus et par examen&#xa0;: âge, mesures, poids, z-scores&#xa0;; pour les statistiques.</translation>
     </message>
     <message>
         <source>Of a folder all *.nascor are taken, and those of the folders in it. Columns:
@@ -801,7 +813,7 @@ in their text: --relative-dates with --identify leaves them as they are.
 Texts stand in CSV as they are. A spreadsheet runs cells that begin with &apos;=&apos;: import names,
 reference IDs and notes as text.
 </source>
-        <translation>D’un dossier sont pris tous les *.nascor, et ceux de ses sous-dossiers. Colonnes :
+        <translation>D’un dossier sont pris tous les *.nascor, et ceux de ses sous-dossiers. Colonnes&#xa0;:
   file,exam,fetus,exam_date,edd,ga_weeks,bpd_mm,hc_mm,ac_mm,fl_mm,efw_0_g,...,efw_7_g
   standard,bpd_mean_mm,bpd_sd_mm,bpd_z,...,fl_z        selon le standard de chaque document, ou
   westerway_bpd_mean_mm,...                            selon chaque standard de --standard
@@ -809,15 +821,15 @@ reference IDs and notes as text.
   warning,error
 file numérote les documents à partir de 0, exam et fetus ce qu’ils contiennent. Une cellule est vide
 là où rien n’a été mesuré ou ne peut être calculé. warning signale ce qui est improbable. Un
-document qui ne peut pas être lu a une ligne avec file et error ; les autres continuent, et le code
+document qui ne peut pas être lu a une ligne avec file et error&#xa0;; les autres continuent, et le code
 de retour est 1.
 
-Confidentialité : les documents portent le nom des patientes. Sans --identify, aucune cellule ne
+Confidentialité&#xa0;: les documents portent le nom des patientes. Sans --identify, aucune cellule ne
 contient d’identifiant, de note ni (sauf avec --file path) de nom de fichier. La sortie d’erreur
-standard nomme les fichiers dans tous les cas, pour la personne devant le terminal : ne la conservez
-pas avec les lignes. Les notes peuvent contenir des dates dans leur texte : --relative-dates avec
+standard nomme les fichiers dans tous les cas, pour la personne devant le terminal&#xa0;: ne la conservez
+pas avec les lignes. Les notes peuvent contenir des dates dans leur texte&#xa0;: --relative-dates avec
 --identify les laisse telles quelles.
-Les textes figurent tels quels dans le CSV. Un tableur exécute les cellules qui commencent par &apos;=&apos; :
+Les textes figurent tels quels dans le CSV. Un tableur exécute les cellules qui commencent par &apos;=&apos;&#xa0;:
 importez noms, identifiants et notes comme texte.
 </translation>
     </message>
@@ -827,14 +839,14 @@ importez noms, identifiants et notes comme texte.
     </message>
     <message>
         <source>Works examples with known results out again: formulas, standards, references, dating.</source>
-        <translation>Recalcule des exemples aux résultats connus : formules, standards, références, datation.</translation>
+        <translation>Recalcule des exemples aux résultats connus&#xa0;: formules, standards, références, datation.</translation>
     </message>
     <message>
         <source>A line a group: its name, how many values it has, how many of them differ; the last line is the total.
 The values are printed ones, held against the program at their own precision, and others that were
 worked out apart from the program. The status is 1 when one differs.
 </source>
-        <translation>Une ligne par groupe : son nom, combien il a de valeurs, combien d’entre elles diffèrent ; la
+        <translation>Une ligne par groupe&#xa0;: son nom, combien il a de valeurs, combien d’entre elles diffèrent&#xa0;; la
 dernière ligne est le total. Ce sont des valeurs imprimées, auxquelles le programme est comparé à
 leur propre précision, et d’autres calculées indépendamment du programme. Le code de retour est 1
 quand l’une d’elles diffère.
@@ -846,11 +858,11 @@ quand l’une d’elles diffère.
     </message>
     <message>
         <source>a DICOM report to send; - is standard input</source>
-        <translation>un rapport DICOM à envoyer ; - est l’entrée standard</translation>
+        <translation>un rapport DICOM à envoyer&#xa0;; - est l’entrée standard</translation>
     </message>
     <message>
         <source>the server: a name or an IPv4 address</source>
-        <translation>le serveur : un nom ou une adresse IPv4</translation>
+        <translation>le serveur&#xa0;: un nom ou une adresse IPv4</translation>
     </message>
     <message>
         <source>its port</source>
@@ -862,7 +874,7 @@ quand l’une d’elles diffère.
     </message>
     <message>
         <source>that of this program; without this option NASCOR</source>
-        <translation>celui de ce programme ; sans cette option, NASCOR</translation>
+        <translation>celui de ce programme&#xa0;; sans cette option, NASCOR</translation>
     </message>
     <message>
         <source>speak encrypted, to a server whose certificate comes from this authority (PEM)</source>
@@ -878,27 +890,27 @@ quand l’une d’elles diffère.
     </message>
     <message>
         <source>for the whole of one connection, 1 to 3600; without this option 30</source>
-        <translation>pour l’ensemble d’une connexion, de 1 à 3600 ; sans cette option, 30</translation>
+        <translation>pour l’ensemble d’une connexion, de 1 à 3600&#xa0;; sans cette option, 30</translation>
     </message>
     <message>
         <source>find, fetch: the reports of this reference ID</source>
-        <translation>find, fetch : les rapports de cet identifiant</translation>
+        <translation>find, fetch&#xa0;: les rapports de cet identifiant</translation>
     </message>
     <message>
         <source>find, fetch: those of this study</source>
-        <translation>find, fetch : ceux de cette étude</translation>
+        <translation>find, fetch&#xa0;: ceux de cette étude</translation>
     </message>
     <message>
         <source>find, fetch: of studies of this day (2026-11-23) and later</source>
-        <translation>find, fetch : des études de ce jour (2026-11-23) et d’après</translation>
+        <translation>find, fetch&#xa0;: des études de ce jour (2026-11-23) et d’après</translation>
     </message>
     <message>
         <source>find, fetch: of studies of this day and earlier</source>
-        <translation>find, fetch : des études de ce jour et d’avant</translation>
+        <translation>find, fetch&#xa0;: des études de ce jour et d’avant</translation>
     </message>
     <message>
         <source>fetch: the folder for the files, which is made when it is missing</source>
-        <translation>fetch : le dossier des fichiers, créé s’il manque</translation>
+        <translation>fetch&#xa0;: le dossier des fichiers, créé s’il manque</translation>
     </message>
     <message>
         <source>Fetches reports from a DICOM server, and sends reports to it.</source>
@@ -910,10 +922,10 @@ study, series, instance. fetch writes them as INSTANCE.dcm, never over a file th
 patient or a study. send sends files that &quot;export --format sr&quot; or a machine wrote.
 No other command uses the network, and this one speaks to the server of its options alone.
 </source>
-        <translation>echo demande si le serveur répond. find énumère ses rapports, un objet par ligne : patientID,
+        <translation>echo demande si le serveur répond. find énumère ses rapports, un objet par ligne&#xa0;: patientID,
 studyDate, study, series, instance. fetch les écrit sous INSTANCE.dcm, jamais par-dessus un fichier
 existant, et exige une patiente ou une étude. send envoie des fichiers écrits par
-« export --format sr » ou par un échographe.
+«&#xa0;export --format sr&#xa0;» ou par un échographe.
 Aucune autre commande n’utilise le réseau, et celle-ci ne s’adresse qu’au serveur de ses options.
 </translation>
     </message>
@@ -924,9 +936,9 @@ Weight formulas (K):
 %2
 The number or the name, in letters of any size.
 </source>
-        <translation>Standards de croissance (N) :
+        <translation>Standards de croissance (N)&#xa0;:
 %1
-Formules de poids (K) :
+Formules de poids (K)&#xa0;:
 %2
 Le numéro ou le nom, en majuscules ou minuscules.
 </translation>
@@ -937,19 +949,19 @@ Le numéro ou le nom, en majuscules ou minuscules.
     </message>
     <message>
         <source>one of bpd, hc, ac, fl, efw; without it the four lengths</source>
-        <translation>l’un de bpd, hc, ac, fl, efw ; sans cette option, les quatre mesures</translation>
+        <translation>l’un de bpd, hc, ac, fl, efw&#xa0;; sans cette option, les quatre mesures</translation>
     </message>
     <message>
         <source>weight formula, see below; needed for efw</source>
-        <translation>formule de poids, voir ci-dessous ; nécessaire pour efw</translation>
+        <translation>formule de poids, voir ci-dessous&#xa0;; nécessaire pour efw</translation>
     </message>
     <message>
         <source>rows [week, mean, sd]; without --measurement an object of such rows by measurement</source>
-        <translation>lignes [week, mean, sd] ; sans --measurement, un objet de telles lignes par paramètre</translation>
+        <translation>lignes [week, mean, sd]&#xa0;; sans --measurement, un objet de telles lignes par paramètre</translation>
     </message>
     <message>
         <source>A reference table: mean and standard deviation at each week, in mm or g.</source>
-        <translation>Une table de référence : moyenne et écart-type à chaque semaine, en mm ou g.</translation>
+        <translation>Une table de référence&#xa0;: moyenne et écart-type à chaque semaine, en mm ou g.</translation>
     </message>
     <message>
         <source>%1
@@ -958,7 +970,7 @@ error of the formula, not the spread of a population; 0 where none is published.
 </source>
         <translation>%1
 Le poids moyen est celui d’un fœtus dont les quatre mesures sont les moyennes. Son écart-type est
-l’erreur de la formule, non la dispersion d’une population ; 0 quand aucune n’est publiée.
+l’erreur de la formule, non la dispersion d’une population&#xa0;; 0 quand aucune n’est publiée.
 </translation>
     </message>
     <message>
@@ -991,16 +1003,16 @@ line that is no number is answered by nan (null in JSON). Nothing is extrapolate
 its first or last week counts, and standard error says so (of standard input once).
 
 %1</source>
-        <translation>La valeur peut être - : des valeurs sont alors lues sur l’entrée standard, une par ligne, et les
-réponses données, une par ligne ; la réponse à une ligne qui n’est pas un nombre est nan (null en
-JSON). Rien n’est extrapolé : hors table, c’est la première ou la dernière semaine de la table qui
+        <translation>La valeur peut être -&#xa0;: des valeurs sont alors lues sur l’entrée standard, une par ligne, et les
+réponses données, une par ligne&#xa0;; la réponse à une ligne qui n’est pas un nombre est nan (null en
+JSON). Rien n’est extrapolé&#xa0;: hors table, c’est la première ou la dernière semaine de la table qui
 compte, et la sortie d’erreur standard le dit (une seule fois pour l’entrée standard).
 
 %1</translation>
     </message>
     <message>
         <source>the paper of a PDF; without this option A4</source>
-        <translation>le papier d’un PDF ; sans cette option, A4</translation>
+        <translation>le papier d’un PDF&#xa0;; sans cette option, A4</translation>
     </message>
     <message>
         <source>who examined</source>
@@ -1008,11 +1020,11 @@ compte, et la sortie d’erreur standard le dit (une seule fois pour l’entrée
     </message>
     <message>
         <source>a line at the head of each fetus; once for each line</source>
-        <translation>une ligne en tête de chaque fœtus ; à répéter pour chaque ligne</translation>
+        <translation>une ligne en tête de chaque fœtus&#xa0;; à répéter pour chaque ligne</translation>
     </message>
     <message>
         <source>A summary for the records: a page or two a fetus, typeset, or as HTML.</source>
-        <translation>Une synthèse pour le dossier : une page ou deux par fœtus, mise en page, ou en HTML.</translation>
+        <translation>Une synthèse pour le dossier&#xa0;: une page ou deux par fœtus, mise en page, ou en HTML.</translation>
     </message>
     <message>
         <source>EDD, measurements with z and centile by the growth standard, weights, growth, small charts, notes,
@@ -1022,7 +1034,7 @@ Files of the same names are replaced, but with --no-clobber. SOURCE_DATE_EPOCH, 
 </source>
         <translation>DPA, mesures avec z et percentile selon le standard de croissance, poids, croissance, petits
 graphiques, notes, et les sources de tout ce qui a été utilisé. Chaque document est un fichier,
-« NAME - Summary.pdf ». Les fichiers de même nom sont remplacés, sauf avec --no-clobber.
+«&#xa0;NAME - Summary.pdf&#xa0;». Les fichiers de même nom sont remplacés, sauf avec --no-clobber.
 SOURCE_DATE_EPOCH, en secondes depuis 1970, prend la place de l’instant présent.
 </translation>
     </message>
@@ -1031,7 +1043,7 @@ SOURCE_DATE_EPOCH, en secondes depuis 1970, prend la place de l’instant prése
     <name>CommandLine</name>
     <message>
         <source>line %1: %2</source>
-        <translation>ligne %1 : %2</translation>
+        <translation>ligne %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>there is no header</source>
@@ -1039,11 +1051,11 @@ SOURCE_DATE_EPOCH, en secondes depuis 1970, prend la place de l’instant prése
     </message>
     <message>
         <source>there is no column %1: never measured</source>
-        <translation>il n’y a pas de colonne %1 : jamais mesuré</translation>
+        <translation>il n’y a pas de colonne %1&#xa0;: jamais mesuré</translation>
     </message>
     <message>
         <source>--columns: %1</source>
-        <translation>--columns : %1</translation>
+        <translation>--columns&#xa0;: %1</translation>
     </message>
     <message>
         <source>is a database of another program</source>
@@ -1052,7 +1064,7 @@ SOURCE_DATE_EPOCH, en secondes depuis 1970, prend la place de l’instant prése
     </message>
     <message>
         <source>was made by another version of this program: remove it, and make it anew</source>
-        <translation>a été créé par une autre version de ce programme : supprimez-le et recréez-le</translation>
+        <translation>a été créé par une autre version de ce programme&#xa0;: supprimez-le et recréez-le</translation>
     </message>
     <message>
         <source>no folder</source>
@@ -1076,25 +1088,25 @@ SOURCE_DATE_EPOCH, en secondes depuis 1970, prend la place de l’instant prése
     </message>
     <message>
         <source>&quot;%1&quot; is one argument too many</source>
-        <translation>« %1 » est un argument de trop</translation>
+        <translation>«&#xa0;%1&#xa0;» est un argument de trop</translation>
     </message>
     <message>
         <source>there is no command &quot;%1&quot;</source>
-        <translation>il n’y a pas de commande « %1 »</translation>
+        <translation>il n’y a pas de commande «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>there is no option &quot;%1&quot;</source>
-        <translation>il n’y a pas d’option « %1 »</translation>
+        <translation>il n’y a pas d’option «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>%1: 1 required  missing</source>
         <extracomment>An option stands there without its value.</extracomment>
-        <translation>%1 : la valeur manque</translation>
+        <translation>%1&#xa0;: la valeur manque</translation>
     </message>
     <message>
         <source>%1: At Most 1 required but received %2</source>
         <extracomment>An option that may stand there once stands there %2 times.</extracomment>
-        <translation>%1 : ne peut figurer qu’une fois, mais figure %2 fois</translation>
+        <translation>%1&#xa0;: ne peut figurer qu’une fois, mais figure %2 fois</translation>
     </message>
     <message>
         <source>help explains one command</source>
@@ -1106,7 +1118,7 @@ SOURCE_DATE_EPOCH, en secondes depuis 1970, prend la place de l’instant prése
     </message>
     <message>
         <source>standard output: %1</source>
-        <translation>sortie standard : %1</translation>
+        <translation>sortie standard&#xa0;: %1</translation>
     </message>
     <message>
         <source>there is not enough memory</source>
@@ -1122,11 +1134,11 @@ SOURCE_DATE_EPOCH, en secondes depuis 1970, prend la place de l’instant prése
     </message>
     <message>
         <source>a document is no text for a terminal; give --out FILE or send standard output to a file</source>
-        <translation>un document n’est pas un texte pour un terminal ; indiquez --out FILE ou envoyez la sortie standard dans un fichier</translation>
+        <translation>un document n’est pas un texte pour un terminal&#xa0;; indiquez --out FILE ou envoyez la sortie standard dans un fichier</translation>
     </message>
     <message>
         <source>written, but it may not outlast a power cut: %1</source>
-        <translation>est écrit, mais pourrait ne pas survivre à une coupure de courant : %1</translation>
+        <translation>est écrit, mais pourrait ne pas survivre à une coupure de courant&#xa0;: %1</translation>
     </message>
     <message>
         <source>holds no patient</source>
@@ -1135,7 +1147,7 @@ SOURCE_DATE_EPOCH, en secondes depuis 1970, prend la place de l’instant prése
     </message>
     <message>
         <source>--fetus: expected all or a number from 1 to 5</source>
-        <translation>--fetus : il fallait all ou un numéro de 1 à 5</translation>
+        <translation>--fetus&#xa0;: il fallait all ou un numéro de 1 à 5</translation>
     </message>
     <message>
         <source>--out is missing</source>
@@ -1143,7 +1155,7 @@ SOURCE_DATE_EPOCH, en secondes depuis 1970, prend la place de l’instant prése
     </message>
     <message>
         <source>--format: expected pdf, png, svg, sr or fhir</source>
-        <translation>--format : il fallait pdf, png, svg, sr ou fhir</translation>
+        <translation>--format&#xa0;: il fallait pdf, png, svg, sr ou fhir</translation>
     </message>
     <message>
         <source>--ndjson is for --format fhir</source>
@@ -1151,7 +1163,7 @@ SOURCE_DATE_EPOCH, en secondes depuis 1970, prend la place de l’instant prése
     </message>
     <message>
         <source>--pages: expected all, first, last, a number from 0 to %1 or a name, but &quot;%2&quot; stands here</source>
-        <translation>--pages : il fallait all, first, last, un numéro de 0 à %1 ou un nom, et non « %2 »</translation>
+        <translation>--pages&#xa0;: il fallait all, first, last, un numéro de 0 à %1 ou un nom, et non «&#xa0;%2&#xa0;»</translation>
     </message>
     <message>
         <source>--out - takes the pages of one document</source>
@@ -1159,15 +1171,15 @@ SOURCE_DATE_EPOCH, en secondes depuis 1970, prend la place de l’instant prése
     </message>
     <message>
         <source>pages are no text for a terminal; give --out DIR or send standard output to a file</source>
-        <translation>des pages ne sont pas un texte pour un terminal ; indiquez --out DIR ou envoyez la sortie standard dans un fichier</translation>
+        <translation>des pages ne sont pas un texte pour un terminal&#xa0;; indiquez --out DIR ou envoyez la sortie standard dans un fichier</translation>
     </message>
     <message>
         <source>%1; the pages are painted by this program</source>
-        <translation>%1 ; c’est ce programme qui dessine les pages</translation>
+        <translation>%1&#xa0;; c’est ce programme qui dessine les pages</translation>
     </message>
     <message>
         <source>--format: expected sr or fhir; pages are painted by the application, which is not built here</source>
-        <translation>--format : il fallait sr ou fhir ; les pages sont dessinées par l’application, qui n’est pas compilée ici</translation>
+        <translation>--format&#xa0;: il fallait sr ou fhir&#xa0;; les pages sont dessinées par l’application, qui n’est pas compilée ici</translation>
     </message>
     <message>
         <source>a length is missing</source>
@@ -1176,11 +1188,11 @@ SOURCE_DATE_EPOCH, en secondes depuis 1970, prend la place de l’instant prése
     <message>
         <source>no formula dates %1 mm; they reach from %2 to %3 mm</source>
         <extracomment>Crown-rump lengths.</extracomment>
-        <translation>aucune formule ne date %1 mm ; elles vont de %2 à %3 mm</translation>
+        <translation>aucune formule ne date %1 mm&#xa0;; elles vont de %2 à %3 mm</translation>
     </message>
     <message>
         <source>--fetus: expected ID=N with a number from 1 to 5, but &quot;%1&quot; stands here</source>
-        <translation>--fetus : il fallait ID=N avec un numéro de 1 à 5, et non « %1 »</translation>
+        <translation>--fetus&#xa0;: il fallait ID=N avec un numéro de 1 à 5, et non «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>--patient takes a reference ID, and an empty one is none</source>
@@ -1192,11 +1204,11 @@ SOURCE_DATE_EPOCH, en secondes depuis 1970, prend la place de l’instant prése
     </message>
     <message>
         <source>--fetus: &quot;%1&quot; is given two numbers</source>
-        <translation>--fetus : « %1 » reçoit deux numéros</translation>
+        <translation>--fetus&#xa0;: «&#xa0;%1&#xa0;» reçoit deux numéros</translation>
     </message>
     <message>
         <source>is of patient &quot;%1&quot;, others are of &quot;%2&quot;; nothing is stored. Please import those of each patient alone</source>
-        <translation>est de la patiente « %1 », d’autres sont de « %2 » ; rien n’est enregistré. Veuillez importer séparément ceux de chaque patiente</translation>
+        <translation>est de la patiente «&#xa0;%1&#xa0;», d’autres sont de «&#xa0;%2&#xa0;»&#xa0;; rien n’est enregistré. Veuillez importer séparément ceux de chaque patiente</translation>
     </message>
     <message>
         <source>it is there already, and stays as it is</source>
@@ -1216,7 +1228,7 @@ SOURCE_DATE_EPOCH, en secondes depuis 1970, prend la place de l’instant prése
     </message>
     <message>
         <source>--db is missing: the file of the index</source>
-        <translation>--db manque : le fichier de l’index</translation>
+        <translation>--db manque&#xa0;: le fichier de l’index</translation>
     </message>
     <message>
         <source>a whole number from 0</source>
@@ -1232,7 +1244,7 @@ SOURCE_DATE_EPOCH, en secondes depuis 1970, prend la place de l’instant prése
     </message>
     <message>
         <source>there are more than %1: a longer text, or --limit, shows them</source>
-        <translation>il y en a plus de %1 : pour les voir, indiquez un texte plus long ou --limit</translation>
+        <translation>il y en a plus de %1&#xa0;: pour les voir, indiquez un texte plus long ou --limit</translation>
     </message>
     <message>
         <source>longer than 1 GiB, which no document is</source>
@@ -1240,7 +1252,7 @@ SOURCE_DATE_EPOCH, en secondes depuis 1970, prend la place de l’instant prése
     </message>
     <message>
         <source>line %1: expected a decimal number, but &quot;%2&quot; stands here</source>
-        <translation>ligne %1 : il fallait un nombre décimal, et non « %2 »</translation>
+        <translation>ligne %1&#xa0;: il fallait un nombre décimal, et non «&#xa0;%2&#xa0;»</translation>
     </message>
     <message>
         <source>%1 or a whole number from 0 to %2</source>
@@ -1249,12 +1261,12 @@ SOURCE_DATE_EPOCH, en secondes depuis 1970, prend la place de l’instant prése
     </message>
     <message>
         <source>expected bpd, hc, ac, fl or efw as the measurement, but &quot;%1&quot; was given</source>
-        <translation>il fallait bpd, hc, ac, fl ou efw comme paramètre, et non « %1 »</translation>
+        <translation>il fallait bpd, hc, ac, fl ou efw comme paramètre, et non «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>%1: expected %2, but &quot;%3&quot; was given</source>
         <extracomment>%1 is an option or an operand, %2 what it takes, %3 what was typed.</extracomment>
-        <translation>%1 : il fallait %2, et non « %3 »</translation>
+        <translation>%1&#xa0;: il fallait %2, et non «&#xa0;%3&#xa0;»</translation>
     </message>
     <message>
         <source>a decimal number</source>
@@ -1270,7 +1282,7 @@ SOURCE_DATE_EPOCH, en secondes depuis 1970, prend la place de l’instant prése
     </message>
     <message>
         <source>cannot be written: %1</source>
-        <translation>ne peut pas être écrit : %1</translation>
+        <translation>ne peut pas être écrit&#xa0;: %1</translation>
     </message>
     <message>
         <source>--%1 is for pages, not for --format %2</source>
@@ -1290,7 +1302,7 @@ SOURCE_DATE_EPOCH, en secondes depuis 1970, prend la place de l’instant prése
     </message>
     <message>
         <source>--out needs the recovery file to write; recover alone lists them</source>
-        <translation>--out exige le fichier de récupération à écrire ; recover seul énumère ces fichiers</translation>
+        <translation>--out exige le fichier de récupération à écrire&#xa0;; recover seul énumère ces fichiers</translation>
     </message>
     <message>
         <source>give --out DOCUMENT, where to write the document</source>
@@ -1307,7 +1319,7 @@ SOURCE_DATE_EPOCH, en secondes depuis 1970, prend la place de l’instant prése
     <message>
         <source>%1 tells nothing of %2; it has %3</source>
         <extracomment>%1 is a reference, %2 a measurement, %3 a list of measurements.</extracomment>
-        <translation>%1 ne dit rien de %2 ; on y trouve %3</translation>
+        <translation>%1 ne dit rien de %2&#xa0;; on y trouve %3</translation>
     </message>
     <message>
         <source>--week is missing</source>
@@ -1335,52 +1347,52 @@ SOURCE_DATE_EPOCH, en secondes depuis 1970, prend la place de l’instant prése
     </message>
     <message>
         <source>%1: fmf-2018 is not offered, because its formula was not held against its printed table</source>
-        <translation>%1 : fmf-2018 n’est pas proposée, car sa formule n’a pas été comparée à sa table imprimée</translation>
+        <translation>%1&#xa0;: fmf-2018 n’est pas proposée, car sa formule n’a pas été comparée à sa table imprimée</translation>
     </message>
     <message>
         <source>%1: expected one of %2, but &quot;%3&quot; was given</source>
         <extracomment>%1 is an option or an operand, %2 a list of names.</extracomment>
-        <translation>%1 : il fallait l’un de %2, et non « %3 »</translation>
+        <translation>%1&#xa0;: il fallait l’un de %2, et non «&#xa0;%3&#xa0;»</translation>
     </message>
     <message>
         <source>--standard: %1 has no mean and SD of the four lengths</source>
-        <translation>--standard : %1 n’a pas de moyenne ni d’écart-type pour les quatre mesures</translation>
+        <translation>--standard&#xa0;: %1 n’a pas de moyenne ni d’écart-type pour les quatre mesures</translation>
     </message>
     <message>
         <source>--standard: &quot;%1&quot; stands there twice</source>
-        <translation>--standard : « %1 » y figure deux fois</translation>
+        <translation>--standard&#xa0;: «&#xa0;%1&#xa0;» y figure deux fois</translation>
     </message>
     <message>
         <source>--columns: a name is empty</source>
-        <translation>--columns : un nom est vide</translation>
+        <translation>--columns&#xa0;: un nom est vide</translation>
     </message>
     <message>
         <source>--columns: &quot;%1&quot; stands there twice</source>
-        <translation>--columns : « %1 » y figure deux fois</translation>
+        <translation>--columns&#xa0;: «&#xa0;%1&#xa0;» y figure deux fois</translation>
     </message>
     <message>
         <source>--columns: there is no column &quot;%1&quot;</source>
-        <translation>--columns : il n’y a pas de colonne « %1 »</translation>
+        <translation>--columns&#xa0;: il n’y a pas de colonne «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>--columns: %1 needs --identify</source>
-        <translation>--columns : %1 exige --identify</translation>
+        <translation>--columns&#xa0;: %1 exige --identify</translation>
     </message>
     <message>
         <source>--columns: %1 is a date, which --relative-dates leaves out</source>
-        <translation>--columns : %1 est une date, que --relative-dates omet</translation>
+        <translation>--columns&#xa0;: %1 est une date, que --relative-dates omet</translation>
     </message>
     <message>
         <source>--columns: %1 needs --relative-dates</source>
-        <translation>--columns : %1 exige --relative-dates</translation>
+        <translation>--columns&#xa0;: %1 exige --relative-dates</translation>
     </message>
     <message>
         <source>--file: expected number or path</source>
-        <translation>--file : il fallait number ou path</translation>
+        <translation>--file&#xa0;: il fallait number ou path</translation>
     </message>
     <message>
         <source>--format: expected csv or jsonl</source>
-        <translation>--format : il fallait csv ou jsonl</translation>
+        <translation>--format&#xa0;: il fallait csv ou jsonl</translation>
     </message>
     <message>
         <source>a whole number above 0</source>
@@ -1404,23 +1416,23 @@ SOURCE_DATE_EPOCH, en secondes depuis 1970, prend la place de l’instant prése
     </message>
     <message>
         <source>--time-zone: this system knows no zone &quot;%1&quot;</source>
-        <translation>--time-zone : ce système ne connaît pas le fuseau horaire « %1 »</translation>
+        <translation>--time-zone&#xa0;: ce système ne connaît pas le fuseau horaire «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>%1 of %2 values differ</source>
-        <translation>valeurs qui diffèrent : %1 sur %2</translation>
+        <translation>valeurs qui diffèrent&#xa0;: %1 sur %2</translation>
     </message>
     <message>
         <source>--%1: expected a day like 2026-11-23, but &quot;%2&quot; stands here</source>
-        <translation>--%1 : il fallait un jour comme 2026-11-23, et non « %2 »</translation>
+        <translation>--%1&#xa0;: il fallait un jour comme 2026-11-23, et non «&#xa0;%2&#xa0;»</translation>
     </message>
     <message>
         <source>--patient: the reference ID is empty</source>
-        <translation>--patient : l’identifiant est vide</translation>
+        <translation>--patient&#xa0;: l’identifiant est vide</translation>
     </message>
     <message>
         <source>--study: the UID is empty</source>
-        <translation>--study : l’UID est vide</translation>
+        <translation>--study&#xa0;: l’UID est vide</translation>
     </message>
     <message>
         <source>has no such report</source>
@@ -1433,7 +1445,7 @@ SOURCE_DATE_EPOCH, en secondes depuis 1970, prend la place de l’instant prése
     <message>
         <source>is not sent: %1 %2</source>
         <extracomment>%1 is the address of a server, %2 what is wrong with it: &quot;... is not sent: host:104 does not answer&quot;.</extracomment>
-        <translation>n’est pas envoyé : %1 %2</translation>
+        <translation>n’est pas envoyé&#xa0;: %1 %2</translation>
     </message>
     <message>
         <source>--%1 is not for %2</source>
@@ -1457,11 +1469,11 @@ SOURCE_DATE_EPOCH, en secondes depuis 1970, prend la place de l’instant prése
     </message>
     <message>
         <source>is not contacted: %1</source>
-        <translation>n’est pas contacté : %1</translation>
+        <translation>n’est pas contacté&#xa0;: %1</translation>
     </message>
     <message>
         <source>the connection is not encrypted: what goes over it can be read on its way; see --ca</source>
-        <translation>la connexion n’est pas chiffrée : ce qui y passe peut être lu en chemin ; voir --ca</translation>
+        <translation>la connexion n’est pas chiffrée&#xa0;: ce qui y passe peut être lu en chemin&#xa0;; voir --ca</translation>
     </message>
     <message>
         <source>efw needs --formula</source>
@@ -1469,11 +1481,11 @@ SOURCE_DATE_EPOCH, en secondes depuis 1970, prend la place de l’instant prése
     </message>
     <message>
         <source>%1 lies beyond the table, whose first week, %2, counts</source>
-        <translation>%1 est hors table ; c’est la première semaine, %2, qui compte</translation>
+        <translation>%1 est hors table&#xa0;; c’est la première semaine, %2, qui compte</translation>
     </message>
     <message>
         <source>%1 lies beyond the table, whose last week, %2, counts</source>
-        <translation>%1 est hors table ; c’est la dernière semaine, %2, qui compte</translation>
+        <translation>%1 est hors table&#xa0;; c’est la dernière semaine, %2, qui compte</translation>
     </message>
     <message>
         <source>--mean, --sd and --gestation exclude each other</source>
@@ -1486,23 +1498,23 @@ SOURCE_DATE_EPOCH, en secondes depuis 1970, prend la place de l’instant prése
     <message>
         <source>%1; did you mean &quot;%2&quot;?</source>
         <extracomment>%1 is a sentence, %2 what may have been meant.</extracomment>
-        <translation>%1 ; vouliez-vous dire « %2 » ?</translation>
+        <translation>%1&#xa0;; vouliez-vous dire «&#xa0;%2&#xa0;»&#xa0;?</translation>
     </message>
     <message>
         <source>SOURCE_DATE_EPOCH: expected whole seconds since 1970</source>
-        <translation>SOURCE_DATE_EPOCH : il fallait un nombre entier de secondes depuis 1970</translation>
+        <translation>SOURCE_DATE_EPOCH&#xa0;: il fallait un nombre entier de secondes depuis 1970</translation>
     </message>
     <message>
         <source>--paper: expected a4 or letter</source>
-        <translation>--paper : il fallait a4 ou letter</translation>
+        <translation>--paper&#xa0;: il fallait a4 ou letter</translation>
     </message>
     <message>
         <source>cannot be put on paper: %1</source>
-        <translation>ne peut pas être mis en page : %1</translation>
+        <translation>ne peut pas être mis en page&#xa0;: %1</translation>
     </message>
     <message>
         <source>--format: expected pdf or html</source>
-        <translation>--format : il fallait pdf ou html</translation>
+        <translation>--format&#xa0;: il fallait pdf ou html</translation>
     </message>
     <message>
         <source>--out - takes the summary of one document</source>
@@ -1510,7 +1522,7 @@ SOURCE_DATE_EPOCH, en secondes depuis 1970, prend la place de l’instant prése
     </message>
     <message>
         <source>a PDF is no text for a terminal; give --out DIR or send standard output to a file</source>
-        <translation>un PDF n’est pas un texte pour un terminal ; indiquez --out DIR ou envoyez la sortie standard dans un fichier</translation>
+        <translation>un PDF n’est pas un texte pour un terminal&#xa0;; indiquez --out DIR ou envoyez la sortie standard dans un fichier</translation>
     </message>
     <message>
         <source>it has no such fetus</source>
@@ -1738,6 +1750,18 @@ SOURCE_DATE_EPOCH, en secondes depuis 1970, prend la place de l’instant prése
     <message>
         <source>Where This Comes From</source>
         <translation>Origine de cette valeur</translation>
+    </message>
+    <message>
+        <source>%1 has %2 to %3 weeks.</source>
+        <translation>%1 couvre les semaines %2 à %3.</translation>
+    </message>
+    <message>
+        <source>%1 fits weights by another formula alone: %2.</source>
+        <translation>%1 ne vaut que pour les poids d’une autre formule : %2.</translation>
+    </message>
+    <message>
+        <source>%1 has no place for this value.</source>
+        <translation>%1 ne permet pas de situer cette valeur.</translation>
     </message>
 </context>
 <context>
@@ -2396,7 +2420,7 @@ SOURCE_DATE_EPOCH, en secondes depuis 1970, prend la place de l’instant prése
     </message>
     <message>
         <source>%1 %2 mm is shorter than where any growth standard begins; lengths are in mm</source>
-        <translation>%1 %2 mm est en deçà du début de tous les standards de croissance ; les mesures sont en mm</translation>
+        <translation>%1 %2 mm est en deçà du début de tous les standards de croissance&#xa0;; les mesures sont en mm</translation>
     </message>
     <message>
         <source>%1 %2 mm is more than 4 SD below the mean of the growth standard at this age</source>
@@ -3585,7 +3609,7 @@ SOURCE_DATE_EPOCH, en secondes depuis 1970, prend la place de l’instant prése
     </message>
     <message>
         <source>at byte %1: %2</source>
-        <translation>à l’octet %1 : %2</translation>
+        <translation>à l’octet %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>expected %1, but %2</source>
@@ -3909,16 +3933,16 @@ SOURCE_DATE_EPOCH, en secondes depuis 1970, prend la place de l’instant prése
     </message>
     <message>
         <source>at line %1, column %2: %3</source>
-        <translation>à la ligne %1, colonne %2 : %3</translation>
+        <translation>à la ligne %1, colonne %2&#xa0;: %3</translation>
     </message>
     <message>
         <source>at the top: %1</source>
-        <translation>à la racine : %1</translation>
+        <translation>à la racine&#xa0;: %1</translation>
     </message>
     <message>
         <source>at %1: %2</source>
         <extracomment>%1 is a place in a JSON text, such as /examinations/2/note.</extracomment>
-        <translation>à %1 : %2</translation>
+        <translation>à %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>a whole number of at most 64 bits</source>
@@ -3926,11 +3950,11 @@ SOURCE_DATE_EPOCH, en secondes depuis 1970, prend la place de l’instant prése
     </message>
     <message>
         <source>%1 is longer than 32 bits; the file holds the low 32, which are %2</source>
-        <translation>%1 dépasse 32 bits ; le fichier contient les 32 bits de poids faible, soit %2</translation>
+        <translation>%1 dépasse 32 bits&#xa0;; le fichier contient les 32 bits de poids faible, soit %2</translation>
     </message>
     <message>
         <source>%1 is beyond single precision; the file holds %2</source>
-        <translation>%1 dépasse la simple précision ; le fichier contient %2</translation>
+        <translation>%1 dépasse la simple précision&#xa0;; le fichier contient %2</translation>
     </message>
     <message>
         <source>this number is beyond 64 bits</source>
@@ -4020,7 +4044,7 @@ SOURCE_DATE_EPOCH, en secondes depuis 1970, prend la place de l’instant prése
     </message>
     <message>
         <source>the row that begins here is longer than 4 MiB; a quotation mark may never close</source>
-        <translation>la ligne qui commence ici dépasse 4 MiB ; un guillemet n’est peut-être jamais fermé</translation>
+        <translation>la ligne qui commence ici dépasse 4 MiB&#xa0;; un guillemet n’est peut-être jamais fermé</translation>
     </message>
     <message>
         <source>a quotation mark that opens here never closes</source>
@@ -4040,12 +4064,12 @@ SOURCE_DATE_EPOCH, en secondes depuis 1970, prend la place de l’instant prése
     </message>
     <message>
         <source>the header has %1 cells, this row %2</source>
-        <translation>nombre de cellules : %1 dans l’en-tête, %2 dans cette ligne</translation>
+        <translation>nombre de cellules&#xa0;: %1 dans l’en-tête, %2 dans cette ligne</translation>
     </message>
     <message>
         <source>%1: %2 is no number</source>
         <extracomment>%1 is a column, %2 what stands in it, in quotation marks.</extracomment>
-        <translation>%1 : %2 n’est pas un nombre</translation>
+        <translation>%1&#xa0;: %2 n’est pas un nombre</translation>
     </message>
 </context>
 <context>
@@ -4141,6 +4165,14 @@ SOURCE_DATE_EPOCH, en secondes depuis 1970, prend la place de l’instant prése
     <message>
         <source>The document was saved again since. What was saved then is not in these changes.</source>
         <translation>Le document a été enregistré de nouveau depuis. Ce qui a été enregistré alors ne figure pas dans ces modifications.</translation>
+    </message>
+    <message>
+        <source>Unsaved changes cannot be kept against a crash. Please save: %1</source>
+        <translation>Les modifications non enregistrées ne peuvent pas être protégées contre un arrêt brutal. Veuillez enregistrer : %1</translation>
+    </message>
+    <message>
+        <source>Examination of %1</source>
+        <translation>Examen du %1</translation>
     </message>
 </context>
 <context>
@@ -4835,6 +4867,18 @@ SOURCE_DATE_EPOCH, en secondes depuis 1970, prend la place de l’instant prése
     <message>
         <source>Since the last examination before that has the measure: change a week, what the growth standard expects, and change of z.</source>
         <translation>Depuis le dernier examen antérieur où figure le paramètre&#xa0;: variation par semaine, celle qu’attend le standard de croissance, et variation de z.</translation>
+    </message>
+    <message>
+        <source>Lengths: z and centile by %1. Weight: by the formula %2, z and centile by %3.</source>
+        <translation>Mesures : z et percentile selon %1. Poids : selon la formule %2, z et percentile selon %3.</translation>
+    </message>
+    <message>
+        <source>%1/week</source>
+        <translation>%1/semaine</translation>
+    </message>
+    <message>
+        <source>Lines: centiles 3, 10, 50, 90 and 97; lengths by %1, weight by %2. Weeks of menstrual age below.</source>
+        <translation>Lignes : percentiles 3, 10, 50, 90 et 97 ; mesures selon %1, poids selon %2. Semaines d’aménorrhée en abscisse.</translation>
     </message>
 </context>
 <context>

@@ -102,10 +102,9 @@ bool Recovery::keep(ZuDocument& document) {
   const auto error = store_.keep(kept.number, origin, contents);
   kept.isWritten = !error;
   if (error) {
-    document.remark(
-        said(Sentence("Recovery", "Unsaved changes cannot be kept against a crash. Please save: %1")
-                 .with(error->reason),
-             services_.localizer));
+    const Sentence sentence =
+        Sentence("Recovery", "Unsaved changes cannot be kept against a crash. Please save: %1");
+    document.remark(said(sentence.with(error->reason), services_.localizer));
     return false;
   }
   kept.contents = std::move(contents);
@@ -237,7 +236,8 @@ std::string Recovery::informationOf(const RecoveryFile& file, const PatientRecor
     } else {
       const auto& date = examinations.at(*difference.examination)->examDate();
       const auto day = date ? foundation::localDay(*date, services_.calendar) : std::nullopt;
-      add(day ? said(Sentence("Recovery", "Examination of %1").with(localizer.longDateText(*day)), localizer)
+      const Sentence examination = Sentence("Recovery", "Examination of %1");
+      add(day ? said(examination.with(localizer.longDateText(*day)), localizer)
               : localizer.text("Recovery", "An examination without a date"));
     }
   }

@@ -212,16 +212,16 @@ std::string NascorGraphView::centilesText() const {
   const calc::Reference* reference = owningDocument() ? owningDocument()->overlay().centiles : nullptr;
   if (reference == nullptr || !shown) return {};
   const std::string_view label = reference->label;
+  const auto spoken = [this](const Sentence& sentence) { return said(sentence, services().localizer); };
   if (!calc::covers(*reference, *shown))
-    return said(Sentence("", "%1 has no centiles of this measure").with(label), services().localizer);
+    return spoken(Sentence("", "%1 has no centiles of this measure").with(label));
   const bool isOtherFormula = shown == calc::Quantity::efw && reference->onlyFormula &&
                               *reference->onlyFormula != owningDocument()->fetalWeightStandard();
   if (isOtherFormula) {
-    return said(Sentence("", "Centiles: %1, which fits weights by another formula alone: %2")
-                    .with(label, calc::weightFormula(*reference->onlyFormula)->longLabel),
-                services().localizer);
+    return spoken(Sentence("", "Centiles: %1, which fits weights by another formula alone: %2")
+                      .with(label, calc::weightFormula(*reference->onlyFormula)->longLabel));
   }
-  return said(Sentence("", "Centiles: %1").with(label), services().localizer);
+  return spoken(Sentence("", "Centiles: %1").with(label));
 }
 
 void NascorGraphView::joinMarks() {

@@ -72,21 +72,26 @@ void CellWriter::append(std::string& all, const std::string& sentence) {
   all += sentence;
 }
 
-std::string CellWriter::sentence(Caution caution, const calc::Reference& reference) const {
+namespace {
+
+Sentence sentenceOf(Caution caution, const calc::Reference& reference) {
   switch (caution) {
-    case Caution::ageUnknown: return text("Compare", "The age is not known.");
+    case Caution::ageUnknown: return Sentence("Compare", "The age is not known.");
     case Caution::outsideWeeks:
-      return said(Sentence("Compare", "%1 has %2 to %3 weeks.")
-                      .with(reference.label, reference.firstWeek, reference.lastWeek),
-                  localizer_);
+      return Sentence("Compare", "%1 has %2 to %3 weeks.")
+          .with(reference.label, reference.firstWeek, reference.lastWeek);
     case Caution::otherFormula:
-      return said(
-          Sentence("Compare", "%1 fits weights by another formula alone: %2.")
-              .with(reference.label, calc::weightFormula(reference.onlyFormula.value_or(0))->longLabel),
-          localizer_);
+      return Sentence("Compare", "%1 fits weights by another formula alone: %2.")
+          .with(reference.label, calc::weightFormula(reference.onlyFormula.value_or(0))->longLabel);
     case Caution::withoutPlace: break;
   }
-  return said(Sentence("Compare", "%1 has no place for this value.").with(reference.label), localizer_);
+  return Sentence("Compare", "%1 has no place for this value.").with(reference.label);
+}
+
+}  // namespace
+
+std::string CellWriter::sentence(Caution caution, const calc::Reference& reference) const {
+  return said(sentenceOf(caution, reference), localizer_);
 }
 
 }  // namespace nascor::compare

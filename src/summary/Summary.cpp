@@ -268,11 +268,11 @@ class Maker {
 
   Table measurementsOf(const std::vector<Visit>& visits) const {
     Table table = courseTable("measurements", localizer_.text("Summary", "Measurements"));
-    table.lead = said(
-        Sentence("Summary", "Lengths: z and centile by %1. Weight: by the formula %2, z and centile by %3.")
-            .with(standard_ != nullptr ? standard_->label : "-",
-                  formula_ != nullptr ? formula_->longLabel : "-", weightReference_.label),
-        localizer_);
+    const Sentence lead =
+        Sentence("Summary", "Lengths: z and centile by %1. Weight: by the formula %2, z and centile by %3.");
+    table.lead = said(lead.with(standard_ != nullptr ? standard_->label : "-",
+                                formula_ != nullptr ? formula_->longLabel : "-", weightReference_.label),
+                      localizer_);
     for (const Quantity quantity : calc::kQuantities) {
       table.columns.push_back(groupedColumn(quantity, unitOf(quantity)));
       table.columns.push_back(groupedColumn(quantity, localizer_.text("Summary", "z")));
@@ -336,8 +336,8 @@ class Maker {
                         "Since the last examination before that has the measure: change a week, what the "
                         "growth standard expects, and change of z.");
     for (const Quantity quantity : calc::kQuantities) {
-      table.columns.push_back(
-          groupedColumn(quantity, said(Sentence("Summary", "%1/week").with(unitOf(quantity)), localizer_)));
+      const Sentence perWeek = Sentence("Summary", "%1/week");
+      table.columns.push_back(groupedColumn(quantity, said(perWeek.with(unitOf(quantity)), localizer_)));
       if (quantity == Quantity::efw) continue;
       table.columns.push_back(groupedColumn(quantity, localizer_.text("Summary", "expected")));
       table.columns.push_back(groupedColumn(quantity, localizer_.text("Summary", "z")));
@@ -376,12 +376,11 @@ class Maker {
 
   std::string chartsLead(const std::vector<Chart>& charts) const {
     if (charts.empty()) return {};
-    return said(
+    const Sentence lead =
         Sentence("Summary",
-                 "Lines: centiles 3, 10, 50, 90 and 97; lengths by %1, weight by %2. Weeks of menstrual "
-                 "age below.")
-            .with(standard_ != nullptr ? standard_->label : "-", weightReference_.label),
-        localizer_);
+                 "Lines: centiles 3, 10, 50, 90 and 97; lengths by %1, weight by %2. Weeks of "
+                 "menstrual age below.");
+    return said(lead.with(standard_ != nullptr ? standard_->label : "-", weightReference_.label), localizer_);
   }
 
   // Notes and citations
