@@ -117,11 +117,11 @@
     </message>
     <message>
         <source>Centiles: %1, which fits weights by another formula alone: %2</source>
-        <translation>Percentiles : %1, ne valant que pour une autre formule : %2</translation>
+        <translation>Percentiles&#xa0;: %1, ne valant que pour une autre formule&#xa0;: %2</translation>
     </message>
     <message>
         <source>Centiles: %1</source>
-        <translation>Percentiles : %1</translation>
+        <translation>Percentiles&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -1757,7 +1757,7 @@ SOURCE_DATE_EPOCH, en secondes depuis 1970, prend la place de l’instant prése
     </message>
     <message>
         <source>%1 fits weights by another formula alone: %2.</source>
-        <translation>%1 ne vaut que pour les poids d’une autre formule : %2.</translation>
+        <translation>%1 ne vaut que pour les poids d’une autre formule&#xa0;: %2.</translation>
     </message>
     <message>
         <source>%1 has no place for this value.</source>
@@ -4168,7 +4168,7 @@ SOURCE_DATE_EPOCH, en secondes depuis 1970, prend la place de l’instant prése
     </message>
     <message>
         <source>Unsaved changes cannot be kept against a crash. Please save: %1</source>
-        <translation>Les modifications non enregistrées ne peuvent pas être protégées contre un arrêt brutal. Veuillez enregistrer : %1</translation>
+        <translation>Les modifications non enregistrées ne peuvent pas être protégées contre un arrêt brutal. Veuillez enregistrer&#xa0;: %1</translation>
     </message>
     <message>
         <source>Examination of %1</source>
@@ -4870,7 +4870,7 @@ SOURCE_DATE_EPOCH, en secondes depuis 1970, prend la place de l’instant prése
     </message>
     <message>
         <source>Lengths: z and centile by %1. Weight: by the formula %2, z and centile by %3.</source>
-        <translation>Mesures : z et percentile selon %1. Poids : selon la formule %2, z et percentile selon %3.</translation>
+        <translation>Mesures&#xa0;: z et percentile selon %1. Poids&#xa0;: selon la formule %2, z et percentile selon %3.</translation>
     </message>
     <message>
         <source>%1/week</source>
@@ -4878,7 +4878,7 @@ SOURCE_DATE_EPOCH, en secondes depuis 1970, prend la place de l’instant prése
     </message>
     <message>
         <source>Lines: centiles 3, 10, 50, 90 and 97; lengths by %1, weight by %2. Weeks of menstrual age below.</source>
-        <translation>Lignes : percentiles 3, 10, 50, 90 et 97 ; mesures selon %1, poids selon %2. Semaines d’aménorrhée en abscisse.</translation>
+        <translation>Lignes&#xa0;: percentiles 3, 10, 50, 90 et 97&#xa0;; mesures selon %1, poids selon %2. Semaines d’aménorrhée en abscisse.</translation>
     </message>
 </context>
 <context>
