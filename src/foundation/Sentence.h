@@ -16,8 +16,8 @@ namespace nascor::foundation {
 
 class Localizer;
 
-/// A sentence, or a part of one, that is said later and elsewhere, in the language of whoever reads it. Rooms that know no
-/// `Localizer` answer and throw sentences; the edge of the program says them.
+/// A sentence, or a part of one. Rooms that know no `Localizer` answer and throw sentences; the edge of the program says them
+/// in the language of the user.
 ///
 /// The English text is the key. Its place holders are %1 to %9, and a translation may change their order:
 ///

@@ -51,13 +51,8 @@ void write(const QImage& picture, const QString& path) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  // The same pictures on every machine: no display, no preferences, no place on earth.
   const QTemporaryDir home;
-  qputenv("QT_QPA_PLATFORM", "offscreen");
-  qputenv("XDG_CONFIG_HOME", home.path().toUtf8());
-  qputenv("XDG_RUNTIME_DIR", home.path().toUtf8());
-  qputenv("TZ", "UTC");
-  qunsetenv("QT_SCALE_FACTOR");
+  nascor::user_guide::leaveThisMachine(home.path());
   QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
   nascor::qt::Application application(argc, argv);
   const QStringList arguments = nascor::qt::Application::arguments();

@@ -82,6 +82,14 @@ QImage imageOf(QWidget& widget) {
 
 }  // namespace
 
+void leaveThisMachine(const QString& home) {
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  qputenv("XDG_CONFIG_HOME", home.toUtf8());
+  qputenv("XDG_RUNTIME_DIR", home.toUtf8());
+  qputenv("TZ", "UTC");
+  qunsetenv("QT_SCALE_FACTOR");
+}
+
 struct WindowPictures::Application {
   explicit Application(const QLocale& locale) : localizer(locale) {}
 

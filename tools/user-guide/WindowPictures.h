@@ -12,6 +12,10 @@
 
 namespace nascor::user_guide {
 
+/// Before the application begins: the same pictures on every machine, with no display, no preferences but those in the folder
+/// `home`, and no place on earth.
+void leaveThisMachine(const QString& home);
+
 /// Pictures of the application's own windows, two pixels to the unit: "window", "window-twins",
 /// "page-NAME" and "dialog-NAME".
 class WindowPictures {

@@ -67,13 +67,8 @@ void writePictures(const QString& guide, const QString& samples, const QString& 
 }  // namespace
 
 int main(int argc, char** argv) {
-  // The same pictures on every machine: no display, no preferences, no place on earth.
   const QTemporaryDir home;
-  qputenv("QT_QPA_PLATFORM", "offscreen");
-  qputenv("XDG_CONFIG_HOME", home.path().toUtf8());
-  qputenv("XDG_RUNTIME_DIR", home.path().toUtf8());
-  qputenv("TZ", "UTC");
-  qunsetenv("QT_SCALE_FACTOR");
+  nascor::user_guide::leaveThisMachine(home.path());
   nascor::qt::Application application(argc, argv);
   const QStringList arguments = nascor::qt::Application::arguments();
   if (arguments.size() != 4 && arguments.size() != 6) {
