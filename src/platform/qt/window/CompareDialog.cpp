@@ -18,6 +18,8 @@
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPushButton>
+#include <QScreen>
+#include <QScrollBar>
 #include <QShortcut>
 #include <QSortFilterProxyModel>
 #include <QTabWidget>
@@ -42,14 +44,20 @@ namespace {
 
 constexpr int kNumberRole = Qt::UserRole;
 
-/// Widens each column, where it must, so that nothing in it is cut. What the user has widened stays.
-void makeRoom(QTableView& view) {
+/// Widens each column, where it must, so that nothing in it is cut. What the user has widened stays. Answers the width that
+/// the view needs then to show all of them.
+int makeRoom(QTableView& view) {
   QHeaderView& header = *view.horizontalHeader();
+  int whole = 2 * view.frameWidth() + view.verticalScrollBar()->sizeHint().width();
   for (int column = 0; column < header.count(); ++column) {
     const int wanted = std::max(header.sectionSizeHint(column),
                                 static_cast<QAbstractItemView&>(view).sizeHintForColumn(column));
     if (header.sectionSize(column) < wanted) header.resizeSection(column, wanted);
+    // One that is stretched is as wide as the view, whatever it needs.
+    const bool isStretched = header.stretchLastSection() && column == header.count() - 1;
+    whole += isStretched ? wanted : header.sectionSize(column);
   }
+  return whole;
 }
 
 /// A table that takes Return for itself, which would close the dialog.
@@ -234,8 +242,17 @@ void CompareDialog::updatePageOnShow() {
   tabs_->setVisible(table.has_value());
   if (!table) return;
   page.model->setTable(std::move(*table));
-  makeRoom(*page.view);
+  // Figures stay beside the others; a last column of words takes the room that is left.
+  const auto& columns = page.model->table().columns;
+  page.view->horizontalHeader()->setStretchLastSection(!columns.empty() && !columns.back().isNumber);
+  widenTo(makeRoom(*page.view));
   tellRowsApart(*page.view);
+}
+
+void CompareDialog::widenTo(int tableWidth) {
+  const QMargins margins = layout()->contentsMargins();
+  const int wanted = tableWidth + margins.left() + margins.right();
+  if (wanted > width()) resize(std::min(wanted, screen()->availableGeometry().width()), height());
 }
 
 ShownComparison CompareDialog::comparison() const {

@@ -65,6 +65,8 @@ class CompareDialog final : public QDialog {
   void showComparison();
   /// Brings the table on show up to date. The others wait until they are.
   void updatePageOnShow();
+  /// Widens the window, where it must, for a table of that width, as far as the screen goes.
+  void widenTo(int tableWidth);
   ShownComparison comparison() const;
   /// The table on show as it is sorted now; its selected rows alone where some are.
   compare::Table tableOnShow() const;
