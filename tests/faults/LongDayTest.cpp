@@ -287,10 +287,13 @@ class ALongDay : public testing::Test {
     std::string pattern = testing::TempDir() + "nascor-day-XXXXXX";
     ASSERT_NE(::mkdtemp(pattern.data()), nullptr);
     place_ = fs::canonical(pattern);
+    // What a program that is killed leaves behind goes with the test.
+    ::setenv("TMPDIR", place_.c_str(), 1);
     fs::create_directory(folder());
     make(place_ + "/witness.nascor");
   }
   void TearDown() override {
+    ::unsetenv("TMPDIR");
     if (!place_.empty()) fs::remove_all(place_);
   }
 

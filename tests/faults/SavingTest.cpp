@@ -98,6 +98,8 @@ class ASave : public testing::Test {
       redirect(path("out"), O_WRONLY | O_CREAT | O_TRUNC, STDOUT_FILENO);
       redirect(path("err"), O_WRONLY | O_CREAT | O_TRUNC, STDERR_FILENO);
       ::setenv("NASCOR_FAULT_FOLDER", (place_ + "/documents").c_str(), 1);
+      // What a program that is killed leaves behind goes with the test.
+      ::setenv("TMPDIR", place_.c_str(), 1);
       for (const std::string& setting : settings) {
         const std::size_t equals = setting.find('=');
         ::setenv(setting.substr(0, equals).c_str(), setting.substr(equals + 1).c_str(), 1);

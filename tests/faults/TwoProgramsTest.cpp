@@ -32,11 +32,14 @@ class TwoPrograms : public testing::Test {
     std::string pattern = testing::TempDir() + "nascor-two-XXXXXX";
     ASSERT_NE(::mkdtemp(pattern.data()), nullptr);
     folder_ = fs::canonical(pattern);
+    // What a program that is killed leaves behind goes with the test.
+    ::setenv("TMPDIR", folder_.c_str(), 1);
     std::ofstream(folder_ + "/AB-1.json")
         << R"({"maternalIDString":"AB-1","numberOfFetuses":1,"examinations":[{"measurements":[{"bpd":40}]}]})";
     ASSERT_EQ(make(), 0);
   }
   void TearDown() override {
+    ::unsetenv("TMPDIR");
     if (!folder_.empty()) fs::remove_all(folder_);
   }
 
