@@ -3032,7 +3032,7 @@ Dateien gleichen Namens werden ersetzt, außer mit --no-clobber. SOURCE_DATE_EPO
     </message>
     <message>
         <source>Are you sure you want to remove this examination?</source>
-        <translation>Möchten Sie diese Untersuchung wirklich löschen?</translation>
+        <translation>Möchten Sie diese Untersuchung wirklich entfernen?</translation>
     </message>
     <message>
         <source>Singleton</source>

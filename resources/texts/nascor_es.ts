@@ -2776,7 +2776,7 @@ desde 1970, sustituye al momento presente.
     </message>
     <message>
         <source>Linked with Qt %1 (GNU LGPL 3), the D-Bus library (AFL 2.1 or GNU GPL 2) and the GNU C++ library (GNU GPL 3 with the GCC Runtime Library Exception).</source>
-        <translation>Enlazado con Qt %1 (GNU LGPL 3), la biblioteca D-Bus (AFL 2.1 o GNU GPL 2) y la biblioteca GNU de C++ (GNU GPL 3 con la GCC Runtime Library Exception).</translation>
+        <translation>Enlazado con Qt %1 (GNU LGPL 3), la biblioteca D-Bus (AFL 2.1 o GNU GPL 2) y la biblioteca GNU de C⁠+⁠+ (GNU GPL 3 con la GCC Runtime Library Exception).</translation>
     </message>
     <message>
         <source>d MMMM yyyy</source>
