@@ -13,8 +13,13 @@ prefix="$work/prefix"
 DESTDIR="$work/stage" "$cmake" --install "$build" --prefix /opt/nascor >"$work/log" 2>&1 ||
   { cat "$work/log" >&2; wrong "Installing in stages fails"; }
 
-# The same files with the same permissions, but for the program's path in the bus's file.
-listed() { (cd "$1" && find . -type f -printf '%m %s %P\n' | grep -v '/org.nascor.Nascor.service$' | sort -k 3); }
+# The same files with the same permissions, but for the program's path in the bus's file, and the lists that desktops read,
+# which are made where a stage is moved to.
+listed() {
+  (cd "$1" && find . -type f -printf '%m %s %P\n' | sort -k 3 |
+    grep -v -e '/org.nascor.Nascor.service$' -e ' share/applications/mimeinfo.cache$' -e ' share/mime/[^ ]*$' &&
+    find share/mime/packages -type f -printf '%m %s %P\n')
+}
 checks=$((checks + 1))
 diff <(listed "$prefix") <(listed "$work/stage/opt/nascor") >&2 || wrong "In stages something else is installed"
 
