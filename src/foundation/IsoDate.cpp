@@ -3,10 +3,8 @@
 
 #include "foundation/IsoDate.h"
 
-#include <array>
 #include <charconv>
 #include <cmath>
-#include <cstdio>
 
 namespace nascor::foundation {
 
@@ -100,11 +98,20 @@ std::optional<double> readOffset(Reader& text) {
   return negative ? -seconds : seconds;
 }
 
+/// Puts the last `count` digits of `number`, which is not negative, at that place. Rows hold two days each, and a format is
+/// taken apart for longer than digits are written.
+void putDigits(std::string& text, std::size_t place, std::size_t count, int number) {
+  for (std::size_t digit = count; digit-- > 0; number /= 10)
+    text[place + digit] = static_cast<char>('0' + number % 10);
+}
+
+/// Of the years 1 to 9999.
 std::string dayText(const CivilDay& day) {
-  std::array<char, 16> text;
-  const int length = std::snprintf(text.data(), text.size(), "%04d-%02d-%02d", static_cast<int>(day.year),
-                                   day.month, day.day);
-  return {text.data(), static_cast<std::size_t>(length)};
+  std::string text = "0000-00-00";
+  putDigits(text, 0, 4, static_cast<int>(day.year));
+  putDigits(text, 5, 2, day.month);
+  putDigits(text, 8, 2, day.day);
+  return text;
 }
 
 }  // namespace
@@ -130,10 +137,11 @@ std::string isoDateTimeText(Date date, const Calendar& calendar) {
   if (!day) return {};
   const double wall = std::floor(date.secondsSince2001) + calendar.offsetFromUtc(date);
   const int seconds = static_cast<int>(wall - static_cast<double>(daysSince2001(*day)) * kSecondsPerDay);
-  std::array<char, 16> time;
-  const int length = std::snprintf(time.data(), time.size(), "T%02d:%02d:%02d", seconds / 3600,
-                                   seconds / 60 % 60, seconds % 60);
-  return dayText(*day) + std::string(time.data(), static_cast<std::size_t>(length));
+  std::string text = dayText(*day) + "T00:00:00";
+  putDigits(text, 11, 2, seconds / 3600);
+  putDigits(text, 14, 2, seconds / 60 % 60);
+  putDigits(text, 17, 2, seconds % 60);
+  return text;
 }
 
 std::string isoDayText(Date date, const Calendar& calendar) {

@@ -12,17 +12,12 @@
 
 #include <sys/stat.h>
 
-#include "calc/Centile.h"
-#include "calc/FetalWeight.h"
-#include "calc/LookUp.h"
 #include "cli_commands/DocumentSource.h"
-#include "cli_commands/Documents.h"
-#include "cli_commands/Input.h"
+#include "cli_commands/IndexEntry.h"
+#include "cli_commands/OrderedWork.h"
 #include "foundation/IsoDate.h"
 #include "posix/FolderWalk.h"
 #include "posix/PosixCalendar.h"
-#include "posix/PosixFileStore.h"
-#include "rows/PatientRows.h"
 
 namespace nascor::cli {
 
@@ -120,6 +115,10 @@ std::optional<double> unlessUnknown(double value) {
   return value == 0.0 || !std::isfinite(value) ? std::nullopt : std::optional(value);
 }
 
+std::optional<double> unlessInfinite(double value) {
+  return std::isfinite(value) ? std::optional(value) : std::nullopt;
+}
+
 std::optional<std::string_view> unlessEmpty(std::string_view text) {
   return text.empty() ? std::nullopt : std::optional(text);
 }
@@ -149,17 +148,10 @@ class ClinicIndex::Update {
         addDocument_(database.prepare(
             "INSERT INTO documents (path, stamp, error, reference_id, edd, standard, formula, "
             "fetuses, last_exam, last_ga_weeks, last_ac_z) "
-            "VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?) RETURNING id")),
+            "VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)")),
         addTexts_(database.prepare("INSERT INTO texts (rowid, reference_id, path) "
                                    "SELECT id, reference_id, path FROM documents WHERE id >= ?")),
-        addRow_(database.prepare("INSERT INTO rows VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)")) {
-    for (std::size_t standard = 0; standard < tables_.size(); ++standard) {
-      for (const calc::Measurement measurement : calc::kMeasurements) {
-        calc::appendStandard(tables_[standard].at(static_cast<std::size_t>(measurement)),
-                             static_cast<std::int64_t>(standard), measurement);
-      }
-    }
-  }
+        addRow_(database.prepare("INSERT INTO rows VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)")) {}
 
   IndexChanges run() {
     posix::FolderWalk walk(folder_, std::string(kDocumentSuffix));
@@ -168,18 +160,51 @@ class ClinicIndex::Update {
       if (found->error.empty()) {
         meet(found->path);
       } else {
+        // In the order in which they lie there.
+        writeAll();
         complain_(found->path, Sentence::ofSystem(found->error));
         passOver(withSlash(found->path));
       }
     }
     while (hasKnown_) forgetKnown();
     known_.reset();
+    writeAll();
     commit();
     return changes_;
   }
 
  private:
-  static constexpr int kChangesInTransaction = 1000;
+  static constexpr int kChangesInTransaction = 10'000;
+  static constexpr std::size_t kDocumentsInBatch = 64;
+  static constexpr std::size_t kBytesInBatch = 1U << 20U;
+  static constexpr std::size_t kBatchesAtOnce = 3;
+
+  /// A document that the index does not have as it is now.
+  struct Found {
+    std::string path;
+    std::string stamp;  ///< as it was before it is read
+    /// Its number in the index, where an older state of it stands there.
+    std::optional<std::int64_t> known{};
+    bool isCounted = true;  ///< it is new or has changed; the others may have
+  };
+  struct Batch {
+    std::vector<Found> documents{};
+    std::size_t bytes = 0;
+  };
+  struct ReadDocument {
+    Found found;
+    IndexEntry entry;
+  };
+
+  std::vector<ReadDocument> readDocuments(Batch batch) const {
+    std::vector<ReadDocument> documents;
+    documents.reserve(batch.documents.size());
+    for (Found& found : batch.documents) {
+      IndexEntry entry = reader_.entryOf(found.path);
+      documents.push_back({.found = std::move(found), .entry = std::move(entry)});
+    }
+    return documents;
+  }
 
   std::string_view within(std::string_view path) const {
     return path.substr(std::min(folder_.size(), path.size()));
@@ -227,125 +252,97 @@ class ClinicIndex::Update {
     while (hasKnown_ && knownPath() < name) forgetKnown();
     const std::string stamp = stampOf(status);
     ++changes_.documents;
-    std::optional<std::int64_t> old;
-    bool isCounted = true;
+    Found found{.path = path, .stamp = isFresh(status) ? doubtful(stamp) : stamp};
     if (hasKnown_ && knownPath() == name) {
       const bool isSame = known_.text(2) == stamp;
-      if (!isSame) old = known_.integer(0);
-      isCounted = known_.text(2) != doubtful(stamp);
+      if (!isSame) found.known = known_.integer(0);
+      found.isCounted = known_.text(2) != doubtful(stamp);
       hasKnown_ = known_.next();
       if (isSame) return;
     }
+    read(std::move(found), static_cast<std::size_t>(std::max<off_t>(status.st_size, 0)));
+  }
+
+  /// Has the document read, and writes what was read before it.
+  void read(Found found, std::size_t bytes) {
+    batch_.documents.push_back(std::move(found));
+    batch_.bytes += bytes;
+    if (batch_.documents.size() < kDocumentsInBatch && batch_.bytes < kBytesInBatch) return;
+    sendBatch();
+    while (reading_.count() > kBatchesAtOnce) writeBatch();
+  }
+  void sendBatch() {
+    if (!batch_.documents.empty()) reading_.add(std::exchange(batch_, {}));
+  }
+  void writeBatch() {
+    for (const ReadDocument& document : reading_.take()) write(document);
+  }
+  /// Everything that was found until now.
+  void writeAll() {
+    sendBatch();
+    while (reading_.count() > 0) writeBatch();
+  }
+
+  void write(const ReadDocument& document) {
+    const Found& found = document.found;
     change();
-    if (old) forget(*old);
-    if (isCounted) ++(old ? changes_.changed : changes_.added);
-    add(path, name, isFresh(status) ? doubtful(stamp) : stamp);
+    if (found.known) forget(*found.known);
+    if (found.isCounted) ++(found.known ? changes_.changed : changes_.added);
+    if (document.entry.fault) {
+      addUnreadable(found, document.entry);
+    } else {
+      addPatient(found, document.entry);
+    }
     commitOften();
   }
 
-  void add(const std::string& path, std::string_view name, const std::string& stamp) {
-    auto contents = posix::PosixFileStore().contents(path);
-    if (const auto* error = std::get_if<foundation::FileError>(&contents)) {
-      // It may be readable tomorrow with the same times.
-      return addUnreadable(path, name, stamp.starts_with('?') ? stamp : doubtful(stamp), reasonOf(*error));
-    }
-    const auto document = documentFrom(std::get<0>(contents));
-    if (const auto* sentence = std::get_if<Sentence>(&document))
-      return addUnreadable(path, name, stamp, *sentence);
-    addPatient(name, stamp, *std::get<0>(document).patient);
-  }
-
-  void addUnreadable(const std::string& path, std::string_view name, const std::string& stamp,
-                     const Sentence& sentence) {
-    complain_(path, sentence);
+  void addUnreadable(const Found& found, const IndexEntry& entry) {
+    complain_(found.path, *entry.fault);
+    // It may be readable tomorrow with the same times.
+    const bool isDoubtful = entry.isFileAtFault && !found.stamp.starts_with('?');
     // Other programs read the index: it is the same in every language.
-    addDocument_.bind(1, name).bind(2, stamp).bind(3, std::string_view(english(sentence)));
+    addDocument_.bind(1, within(found.path))
+        .bind(2, isDoubtful ? doubtful(found.stamp) : found.stamp)
+        .bind(3, std::string_view(english(*entry.fault)));
     for (int parameter = 4; parameter <= 11; ++parameter) addDocument_.bindNull(parameter);
     addedDocument();
   }
 
   std::int64_t addedDocument() {
-    addDocument_.next();
-    const std::int64_t id = addDocument_.integer(0);
     addDocument_.run();
+    const std::int64_t id = database_.lastInserted();
     // Numbers grow from the greatest that is there.
     if (!firstAdded_) firstAdded_ = id;
     return id;
   }
 
-  /// What a fetus's last measured AC says.
-  struct LastAC {
-    std::string day{};
-    double zScore = 0.0;
-  };
-
-  /// The z-scores of a row's lengths by its own standard, NaN where there is none.
-  std::array<double, 4> zScores(const rows::Row& row) const {
-    std::array<double, 4> scores{NAN, NAN, NAN, NAN};
-    if (!calc::growthStandard(row.standard) || row.age == 0.0) return scores;
-    const auto& tables = tables_[static_cast<std::size_t>(row.standard)];
-    for (std::size_t i = 0; i < scores.size(); ++i) {
-      const double length = row.lengths.*calc::memberFor(calc::kMeasurements.at(i));
-      if (length != 0.0) scores.at(i) = calc::zScore(tables.at(i), length, row.age);
-    }
-    return scores;
-  }
-
-  static std::optional<double> unlessInfinite(double value) {
-    return std::isfinite(value) ? std::optional(value) : std::nullopt;
-  }
-
-  void addPatient(std::string_view name, const std::string& stamp, const model::PatientRecord& patient) {
-    std::string edd;
-    std::string lastExam;
-    double lastAge = 0.0;
-    std::vector<LastAC> last;
-    rows::forEachRow(patient, {.name = name}, calendar_, [&](const rows::Row& row) {
-      if (!row.examDate.empty() && row.examDate >= lastExam) {
-        lastExam = row.examDate;
-        lastAge = row.age;
-      }
-      if (last.size() <= row.fetus) last.resize(row.fetus + 1);
-      const double ac = zScores(row)[static_cast<std::size_t>(calc::Measurement::ac)];
-      LastAC& known = last[row.fetus];
-      if (std::isfinite(ac) && row.examDate >= known.day) known = {std::string(row.examDate), ac};
-    });
-    std::optional<double> least;
-    for (const LastAC& each : last) {
-      if (!each.day.empty()) least = std::min(least.value_or(each.zScore), each.zScore);
-    }
-    if (patient.edd()) edd = foundation::isoDayText(*patient.edd(), calendar_);
-    const std::optional<std::string_view> referenceID = patient.maternalIDString();
-    addDocument_.bind(1, name).bind(2, stamp).bindNull(3).bind(4, referenceID).bind(5, unlessEmpty(edd));
-    addDocument_.bind(6, patient.standard())
-        .bind(7, patient.fetalWeightStandard())
-        .bind(8, patient.numberOfFetuses());
-    addDocument_.bind(9, unlessEmpty(lastExam)).bind(10, unlessUnknown(lastAge)).bind(11, least);
+  void addPatient(const Found& found, const IndexEntry& entry) {
+    const std::optional<std::string_view> referenceID = entry.referenceID;
+    addDocument_.bind(1, within(found.path)).bind(2, found.stamp).bindNull(3);
+    addDocument_.bind(4, referenceID).bind(5, unlessEmpty(entry.edd));
+    addDocument_.bind(6, entry.standard).bind(7, entry.formula).bind(8, entry.fetuses);
+    addDocument_.bind(9, unlessEmpty(entry.lastExam))
+        .bind(10, unlessUnknown(entry.lastAge))
+        .bind(11, entry.acZ);
     const std::int64_t id = addedDocument();
-    rows::forEachRow(patient, {.name = name}, calendar_,
-                     [&](const rows::Row& row) { addRow(id, row, patient.fetalWeightStandard()); });
+    for (const IndexedRow& row : entry.rows) addRow(id, row);
   }
 
-  void addRow(std::int64_t id, const rows::Row& row, std::int64_t formula) {
-    addRow_.bind(1, id);
-    addRow_.bind(2, static_cast<std::int64_t>(row.examination)).bind(3, static_cast<std::int64_t>(row.fetus));
+  void addRow(std::int64_t id, const IndexedRow& row) {
+    addRow_.bind(1, id).bind(2, row.examination).bind(3, row.fetus);
     addRow_.bind(4, unlessEmpty(row.examDate)).bind(5, unlessUnknown(row.age));
-    const std::array<double, 4> scores = zScores(row);
-    for (std::size_t i = 0; i < scores.size(); ++i) {
+    for (std::size_t i = 0; i < row.zScores.size(); ++i) {
       const double length = row.lengths.*calc::memberFor(calc::kMeasurements.at(i));
       addRow_.bind(6 + static_cast<int>(i), unlessUnknown(length));
-      addRow_.bind(11 + static_cast<int>(i), unlessInfinite(scores.at(i)));
+      addRow_.bind(11 + static_cast<int>(i), unlessInfinite(row.zScores.at(i)));
     }
-    addRow_.bind(10, unlessUnknown(calc::estimatedFetalWeight(row.lengths, formula)));
+    addRow_.bind(10, unlessUnknown(row.weight));
     addRow_.bind(15, unlessEmpty(row.note)).run();
   }
 
   Database& database_;
   std::string folder_;
   const Complain& complain_;
-  posix::PosixCalendar calendar_;
-  std::array<std::array<calc::ReferenceTable, 4>, calc::kGrowthStandardCount>
-      tables_;  // by standard and measurement
   Statement known_;
   bool hasKnown_ = false;
   Statement forgetTexts_;
@@ -357,6 +354,11 @@ class ClinicIndex::Update {
   int pending_ = 0;
   std::optional<std::int64_t> firstAdded_;  // of the transaction
   IndexChanges changes_;
+  IndexReader reader_;
+  Batch batch_;
+  /// Reads while this thread writes: either takes half of the time.
+  OrderedWork<Batch, std::vector<ReadDocument>> reading_{
+      1, [this](Batch batch) { return readDocuments(std::move(batch)); }};
 };
 
 ClinicIndex::ClinicIndex(const std::string& database, const std::string& folder)
@@ -367,7 +369,7 @@ ClinicIndex::ClinicIndex(const std::string& database, const std::string& folder)
     //: Behind the name of a file, as are the next ones.
     throw IndexError(Sentence("CommandLine", "is a database of another program"));
   }
-  database_.execute("PRAGMA journal_mode = WAL; PRAGMA synchronous = NORMAL;");
+  database_.execute("PRAGMA journal_mode = WAL; PRAGMA synchronous = NORMAL; PRAGMA cache_size = -8192;");
   std::error_code error;
   const std::string absolute = std::filesystem::canonical(folder, error).string();
   if (tables > 0 && integerOf(database_, "PRAGMA user_version") != kVersion) {

@@ -3,17 +3,13 @@
 
 #pragma once
 
-#include <array>
 #include <cstdint>
 #include <functional>
 #include <optional>
 #include <string>
-#include <vector>
 
-#include "calc/Standards.h"
 #include "foundation/Calendar.h"
 #include "foundation/Sentence.h"
-#include "model/PatientRecord.h"
 #include "sqlite/Database.h"
 
 namespace nascor::cli {

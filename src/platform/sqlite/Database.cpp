@@ -91,8 +91,9 @@ Database::Database(const std::string& path, Access access) : database_(nullptr, 
   const bool isWritten = access == Access::write;
   if (isWritten) makePrivate(path);
   sqlite3* database = nullptr;
-  const int result = ::sqlite3_open_v2(path.c_str(), &database,
-                                       isWritten ? SQLITE_OPEN_READWRITE : SQLITE_OPEN_READONLY, nullptr);
+  // One thread uses it, so it needs no locks within this process.
+  const int flags = SQLITE_OPEN_NOMUTEX | (isWritten ? SQLITE_OPEN_READWRITE : SQLITE_OPEN_READONLY);
+  const int result = ::sqlite3_open_v2(path.c_str(), &database, flags, nullptr);
   database_.reset(database);
   if (result != SQLITE_OK) {
     throw DatabaseError(
@@ -114,5 +115,7 @@ Statement Database::prepare(std::string_view statement) {
   if (result != SQLITE_OK) throw DatabaseError(Sentence::verbatim(::sqlite3_errmsg(database_.get())));
   return Statement(prepared);
 }
+
+std::int64_t Database::lastInserted() const { return ::sqlite3_last_insert_rowid(database_.get()); }
 
 }  // namespace nascor::sqlite

@@ -70,6 +70,8 @@ class Database {
   /// Runs statements that have no rows and no parameters.
   void execute(const std::string& statements);
   Statement prepare(std::string_view statement);
+  /// The number of the row that was inserted last.
+  std::int64_t lastInserted() const;
 
  private:
   std::unique_ptr<sqlite3, int (*)(sqlite3*)> database_;
