@@ -139,6 +139,30 @@ class TypedStreamReader {
     bytes_.pass(2);
     return head;
   }
+  /// As many groups of type f, one after the other.
+  template <std::size_t count>
+  std::array<double, count> takeFloats() {
+    std::array<double, count> values{};
+    std::size_t i = 0;
+    // One look at what is the same for all of them.
+    if (walk_.betweenGroups() && bytesLeft() >= count * (2 + sizeof(float))) {
+      const int group = plainHeads_['f'];
+      for (; i < count && bytes_.headAhead(0) == group; ++i) {
+        const int head = bytes_.headAhead(1);
+        if (head == kRealTag) {
+          bytes_.pass(2 + sizeof(float));
+          values[i] = std::bit_cast<float>(bytes_.fixedBehind<std::uint32_t>());
+        } else if (isNumber(head)) {
+          bytes_.pass(2);
+          values[i] = head;
+        } else {
+          break;
+        }
+      }
+    }
+    for (; i < count; ++i) values[i] = takeFloat();
+    return values;
+  }
   double takeDouble();                           ///< A group of type d.
   std::optional<std::string_view> takeString();  ///< A group of type +, empty for nil.
   /// A group of type @; groups follow when it is fresh.

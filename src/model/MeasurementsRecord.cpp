@@ -47,10 +47,8 @@ double MeasurementsRecord::estimatedFetalWeightShepard() const {
 void MeasurementsRecord::encodeWithCoder(Archiver& coder) const { coder.encodeLengths(measured_); }
 
 MeasurementsRecord MeasurementsRecord::initWithCoder(Unarchiver& coder) {
-  return MeasurementsRecord({.bpd = coder.decodeFloat(),
-                             .hc = coder.decodeFloat(),
-                             .ac = coder.decodeFloat(),
-                             .fl = coder.decodeFloat()});
+  const auto [bpd, hc, ac, fl] = coder.decodeFourFloats();
+  return MeasurementsRecord({.bpd = bpd, .hc = hc, .ac = ac, .fl = fl});
 }
 
 }  // namespace nascor::model

@@ -54,6 +54,7 @@ class Unarchiver {
 
   std::int64_t decodeInteger();
   double decodeFloat() { return reader_.takeFloat(); }
+  std::array<double, 4> decodeFourFloats() { return reader_.takeFloats<4>(); }
   std::optional<std::string> decodeString();
   std::optional<foundation::Date> decodeDate();
   PatientRecord::Examinations decodeExaminations();

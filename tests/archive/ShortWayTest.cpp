@@ -53,7 +53,7 @@ class Walk {
     if (object(reader)) {
       for (std::int32_t left = integer(reader); left > 0; --left) {
         if (!object(reader)) continue;
-        for (int i = 0; i < 4; ++i) single(reader);
+        lengths(reader);
         reader.endObject();
       }
       reader.endObject();
@@ -91,6 +91,18 @@ class Walk {
   void single(TypedStreamReader& reader) {
     if (!isShort_) reader.expectGroup("f");
     note(reader, std::to_string(isShort_ ? reader.takeFloat() : reader.readReal()));
+  }
+  void lengths(TypedStreamReader& reader) {
+    std::array<double, 4> values{};
+    if (isShort_) {
+      values = reader.takeFloats<4>();
+    } else {
+      for (double& value : values) {
+        reader.expectGroup("f");
+        value = reader.readReal();
+      }
+    }
+    for (const double value : values) note(reader, std::to_string(value));
   }
   void note(const TypedStreamReader& reader, const std::string& what) {
     said_.push_back(std::to_string(reader.offset()) + ": " + what);
