@@ -144,21 +144,23 @@ class TypedStreamReader {
   std::array<double, count> takeFloats() {
     std::array<double, count> values{};
     std::size_t i = 0;
-    // One look at what is the same for all of them.
+    // One look at what is the same for all of them, and a reader at hand.
     if (walk_.betweenGroups() && bytesLeft() >= count * (2 + sizeof(float))) {
+      ByteReader ahead = bytes_;
       const int group = plainHeads_['f'];
-      for (; i < count && bytes_.headAhead(0) == group; ++i) {
-        const int head = bytes_.headAhead(1);
+      for (; i < count && ahead.headAhead(0) == group; ++i) {
+        const int head = ahead.headAhead(1);
         if (head == kRealTag) {
-          bytes_.pass(2 + sizeof(float));
-          values[i] = std::bit_cast<float>(bytes_.fixedBehind<std::uint32_t>());
+          ahead.pass(2 + sizeof(float));
+          values[i] = std::bit_cast<float>(ahead.fixedBehind<std::uint32_t>());
         } else if (isNumber(head)) {
-          bytes_.pass(2);
+          ahead.pass(2);
           values[i] = head;
         } else {
           break;
         }
       }
+      bytes_ = ahead;
     }
     for (; i < count; ++i) values[i] = takeFloat();
     return values;

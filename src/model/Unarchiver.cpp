@@ -19,6 +19,14 @@ Unarchiver::Unarchiver(std::span<const std::byte> bytes) : size_(bytes.size()), 
   facts_.byteOrder = reader_.byteOrder();
 }
 
+// In place wherever it is called, the parts of an object stay in registers: a fifteenth of reading a document.
+[[gnu::always_inline]] inline ObjectValue Unarchiver::takeObject(Expected& expected) {
+  const ObjectValue object = reader_.takeObject();
+  const bool isUsual = object.isFresh() && *object.cls.label == expected.fitting;
+  if (!isUsual) check(object, expected);
+  return object;
+}
+
 std::unique_ptr<PatientRecord> Unarchiver::decodeRoot() {
   std::unique_ptr<PatientRecord> patient;
   const ObjectValue root = takeObject(patient_);
@@ -40,13 +48,6 @@ std::int64_t Unarchiver::versionForClassName(std::string_view name) const {
 std::int64_t Unarchiver::ncRecordVersion() {
   if (!ncRecordVersion_) ncRecordVersion_ = versionForClassName(class_name::ncRecord);
   return *ncRecordVersion_;
-}
-
-ObjectValue Unarchiver::takeObject(Expected& expected) {
-  const ObjectValue object = reader_.takeObject();
-  const bool isUsual = object.isFresh() && *object.cls.label == expected.fitting;
-  if (!isUsual) check(object, expected);
-  return object;
 }
 
 std::int64_t Unarchiver::decodeInteger() { return reader_.takeInt(); }
