@@ -1549,7 +1549,7 @@ Files of the same names are replaced, but with --no-clobber. SOURCE_DATE_EPOCH, 
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Less (%)</source>
+        <source>Discordance (%)</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1772,7 +1772,7 @@ Files of the same names are replaced, but with --no-clobber. SOURCE_DATE_EPOCH, 
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Opened to be read, it can be saved under another name alone. A copy is a new document.</source>
+        <source>Read-only, it can be saved only under another name. A copy is a new document.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -2744,7 +2744,7 @@ Files of the same names are replaced, but with --no-clobber. SOURCE_DATE_EPOCH, 
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>All %1 worked examples come out as they are known.</source>
+        <source>All %1 worked examples give the expected results.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -3030,23 +3030,23 @@ Files of the same names are replaced, but with --no-clobber. SOURCE_DATE_EPOCH, 
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The same day as the EDD that stands.</source>
+        <source>The same day as the current EDD.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>One day later than the EDD that stands.</source>
+        <source>One day later than the current EDD.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>One day earlier than the EDD that stands.</source>
+        <source>One day earlier than the current EDD.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%ld days later than the EDD that stands.</source>
+        <source>%ld days later than the current EDD.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%ld days earlier than the EDD that stands.</source>
+        <source>%ld days earlier than the current EDD.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -4512,11 +4512,11 @@ Files of the same names are replaced, but with --no-clobber. SOURCE_DATE_EPOCH, 
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>&amp;Title of the server:</source>
+        <source>AE &amp;title of the server:</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Title of this prog&amp;ram:</source>
+        <source>AE title of this prog&amp;ram:</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -4536,7 +4536,7 @@ Files of the same names are replaced, but with --no-clobber. SOURCE_DATE_EPOCH, 
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Without a host Nascor speaks to no server.</source>
+        <source>Without a host, Nascor contacts no server.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>

@@ -1686,8 +1686,8 @@ Dateien gleichen Namens werden ersetzt, außer mit --no-clobber. SOURCE_DATE_EPO
         <translation>In mm.</translation>
     </message>
     <message>
-        <source>Less (%)</source>
-        <translation>Weniger (%)</translation>
+        <source>Discordance (%)</source>
+        <translation>Diskordanz (%)</translation>
     </message>
     <message>
         <source>How much less this fetus weighs than the heaviest.</source>
@@ -1909,7 +1909,7 @@ Dateien gleichen Namens werden ersetzt, außer mit --no-clobber. SOURCE_DATE_EPO
         <translation>Es ist anderswo geöffnet.</translation>
     </message>
     <message>
-        <source>Opened to be read, it can be saved under another name alone. A copy is a new document.</source>
+        <source>Read-only, it can be saved only under another name. A copy is a new document.</source>
         <translation>Zum Lesen geöffnet, kann es nur unter einem anderen Namen gespeichert werden. Eine Kopie ist ein neues Dokument.</translation>
     </message>
     <message>
@@ -2881,7 +2881,7 @@ Dateien gleichen Namens werden ersetzt, außer mit --no-clobber. SOURCE_DATE_EPO
         <translation>Zahlen prüfen</translation>
     </message>
     <message>
-        <source>All %1 worked examples come out as they are known.</source>
+        <source>All %1 worked examples give the expected results.</source>
         <translation>Alle %1 Rechenbeispiele ergeben die bekannten Werte.</translation>
     </message>
     <message>
@@ -3167,23 +3167,23 @@ Dateien gleichen Namens werden ersetzt, außer mit --no-clobber. SOURCE_DATE_EPO
         <translation>Eine Untersuchung läge über 45 Wochen.</translation>
     </message>
     <message>
-        <source>The same day as the EDD that stands.</source>
+        <source>The same day as the current EDD.</source>
         <translation>Derselbe Tag wie der bisherige ET.</translation>
     </message>
     <message>
-        <source>One day later than the EDD that stands.</source>
+        <source>One day later than the current EDD.</source>
         <translation>Einen Tag später als der bisherige ET.</translation>
     </message>
     <message>
-        <source>One day earlier than the EDD that stands.</source>
+        <source>One day earlier than the current EDD.</source>
         <translation>Einen Tag früher als der bisherige ET.</translation>
     </message>
     <message>
-        <source>%ld days later than the EDD that stands.</source>
+        <source>%ld days later than the current EDD.</source>
         <translation>%ld Tage später als der bisherige ET.</translation>
     </message>
     <message>
-        <source>%ld days earlier than the EDD that stands.</source>
+        <source>%ld days earlier than the current EDD.</source>
         <translation>%ld Tage früher als der bisherige ET.</translation>
     </message>
     <message>
@@ -4649,11 +4649,11 @@ Dateien gleichen Namens werden ersetzt, außer mit --no-clobber. SOURCE_DATE_EPO
         <translation>&amp;Port:</translation>
     </message>
     <message>
-        <source>&amp;Title of the server:</source>
+        <source>AE &amp;title of the server:</source>
         <translation>AE-&amp;Titel des Servers:</translation>
     </message>
     <message>
-        <source>Title of this prog&amp;ram:</source>
+        <source>AE title of this prog&amp;ram:</source>
         <translation>Eigener AE-Tite&amp;l:</translation>
     </message>
     <message>
@@ -4673,7 +4673,7 @@ Dateien gleichen Namens werden ersetzt, außer mit --no-clobber. SOURCE_DATE_EPO
         <translation>Te&amp;sten</translation>
     </message>
     <message>
-        <source>Without a host Nascor speaks to no server.</source>
+        <source>Without a host, Nascor contacts no server.</source>
         <translation>Ohne Host spricht Nascor mit keinem Server.</translation>
     </message>
     <message>

@@ -1676,8 +1676,8 @@ desde 1970, sustituye al momento presente.
         <translation>En mm.</translation>
     </message>
     <message>
-        <source>Less (%)</source>
-        <translation>Menos (%)</translation>
+        <source>Discordance (%)</source>
+        <translation>Discordancia (%)</translation>
     </message>
     <message>
         <source>How much less this fetus weighs than the heaviest.</source>
@@ -1899,7 +1899,7 @@ desde 1970, sustituye al momento presente.
         <translation>Está abierto en otro lugar.</translation>
     </message>
     <message>
-        <source>Opened to be read, it can be saved under another name alone. A copy is a new document.</source>
+        <source>Read-only, it can be saved only under another name. A copy is a new document.</source>
         <translation>Si se abre para lectura, solo se puede guardar con otro nombre. Una copia es un documento nuevo.</translation>
     </message>
     <message>
@@ -2871,7 +2871,7 @@ desde 1970, sustituye al momento presente.
         <translation>Comprobar los cálculos</translation>
     </message>
     <message>
-        <source>All %1 worked examples come out as they are known.</source>
+        <source>All %1 worked examples give the expected results.</source>
         <translation>Los %1 ejemplos resueltos dan los valores conocidos.</translation>
     </message>
     <message>
@@ -3157,23 +3157,23 @@ desde 1970, sustituye al momento presente.
         <translation>Una exploración quedaría por encima de 45 semanas.</translation>
     </message>
     <message>
-        <source>The same day as the EDD that stands.</source>
+        <source>The same day as the current EDD.</source>
         <translation>El mismo día que la FPP actual.</translation>
     </message>
     <message>
-        <source>One day later than the EDD that stands.</source>
+        <source>One day later than the current EDD.</source>
         <translation>Un día después de la FPP actual.</translation>
     </message>
     <message>
-        <source>One day earlier than the EDD that stands.</source>
+        <source>One day earlier than the current EDD.</source>
         <translation>Un día antes de la FPP actual.</translation>
     </message>
     <message>
-        <source>%ld days later than the EDD that stands.</source>
+        <source>%ld days later than the current EDD.</source>
         <translation>%ld días después de la FPP actual.</translation>
     </message>
     <message>
-        <source>%ld days earlier than the EDD that stands.</source>
+        <source>%ld days earlier than the current EDD.</source>
         <translation>%ld días antes de la FPP actual.</translation>
     </message>
     <message>
@@ -4639,11 +4639,11 @@ desde 1970, sustituye al momento presente.
         <translation>&amp;Puerto:</translation>
     </message>
     <message>
-        <source>&amp;Title of the server:</source>
+        <source>AE &amp;title of the server:</source>
         <translation>&amp;Título AE del servidor:</translation>
     </message>
     <message>
-        <source>Title of this prog&amp;ram:</source>
+        <source>AE title of this prog&amp;ram:</source>
         <translation>Título AE de este prog&amp;rama:</translation>
     </message>
     <message>
@@ -4663,7 +4663,7 @@ desde 1970, sustituye al momento presente.
         <translation>Pro&amp;bar</translation>
     </message>
     <message>
-        <source>Without a host Nascor speaks to no server.</source>
+        <source>Without a host, Nascor contacts no server.</source>
         <translation>Sin un host, Nascor no se comunica con ningún servidor.</translation>
     </message>
     <message>

@@ -1680,8 +1680,8 @@ SOURCE_DATE_EPOCH, en secondes depuis 1970, prend la place de l’instant prése
         <translation>En mm.</translation>
     </message>
     <message>
-        <source>Less (%)</source>
-        <translation>Moins (%)</translation>
+        <source>Discordance (%)</source>
+        <translation>Discordance (%)</translation>
     </message>
     <message>
         <source>How much less this fetus weighs than the heaviest.</source>
@@ -1903,7 +1903,7 @@ SOURCE_DATE_EPOCH, en secondes depuis 1970, prend la place de l’instant prése
         <translation>Il est ouvert ailleurs.</translation>
     </message>
     <message>
-        <source>Opened to be read, it can be saved under another name alone. A copy is a new document.</source>
+        <source>Read-only, it can be saved only under another name. A copy is a new document.</source>
         <translation>Ouvert en lecture seule, il ne peut être enregistré que sous un autre nom. Une copie est un nouveau document.</translation>
     </message>
     <message>
@@ -2875,7 +2875,7 @@ SOURCE_DATE_EPOCH, en secondes depuis 1970, prend la place de l’instant prése
         <translation>Vérifier les calculs</translation>
     </message>
     <message>
-        <source>All %1 worked examples come out as they are known.</source>
+        <source>All %1 worked examples give the expected results.</source>
         <translation>Les %1 exemples de calcul donnent tous le résultat connu.</translation>
     </message>
     <message>
@@ -3161,23 +3161,23 @@ SOURCE_DATE_EPOCH, en secondes depuis 1970, prend la place de l’instant prése
         <translation>Un examen dépasserait 45&#xa0;SA.</translation>
     </message>
     <message>
-        <source>The same day as the EDD that stands.</source>
+        <source>The same day as the current EDD.</source>
         <translation>Le même jour que la DPA actuelle.</translation>
     </message>
     <message>
-        <source>One day later than the EDD that stands.</source>
+        <source>One day later than the current EDD.</source>
         <translation>Un jour plus tard que la DPA actuelle.</translation>
     </message>
     <message>
-        <source>One day earlier than the EDD that stands.</source>
+        <source>One day earlier than the current EDD.</source>
         <translation>Un jour plus tôt que la DPA actuelle.</translation>
     </message>
     <message>
-        <source>%ld days later than the EDD that stands.</source>
+        <source>%ld days later than the current EDD.</source>
         <translation>%ld jours plus tard que la DPA actuelle.</translation>
     </message>
     <message>
-        <source>%ld days earlier than the EDD that stands.</source>
+        <source>%ld days earlier than the current EDD.</source>
         <translation>%ld jours plus tôt que la DPA actuelle.</translation>
     </message>
     <message>
@@ -4643,11 +4643,11 @@ SOURCE_DATE_EPOCH, en secondes depuis 1970, prend la place de l’instant prése
         <translation>&amp;Port&#xa0;:</translation>
     </message>
     <message>
-        <source>&amp;Title of the server:</source>
+        <source>AE &amp;title of the server:</source>
         <translation>&amp;Titre AE du serveur&#xa0;:</translation>
     </message>
     <message>
-        <source>Title of this prog&amp;ram:</source>
+        <source>AE title of this prog&amp;ram:</source>
         <translation>Titre AE de ce p&amp;rogramme&#xa0;:</translation>
     </message>
     <message>
@@ -4667,7 +4667,7 @@ SOURCE_DATE_EPOCH, en secondes depuis 1970, prend la place de l’instant prése
         <translation>Te&amp;ster</translation>
     </message>
     <message>
-        <source>Without a host Nascor speaks to no server.</source>
+        <source>Without a host, Nascor contacts no server.</source>
         <translation>Sans hôte, Nascor ne s’adresse à aucun serveur.</translation>
     </message>
     <message>

@@ -175,7 +175,7 @@ Table fetusesTable(const model::PatientRecord& patient, std::size_t examination,
                                                 : writer.text("Compare", "In mm.")});
   }
   table.columns.push_back(
-      {.title = writer.text("Compare", "Less (%)"),
+      {.title = writer.text("Compare", "Discordance (%)"),
        .isNumber = true,
        .explanation = writer.text("Compare", "How much less this fetus weighs than the heaviest.")});
   const auto labels = model::fetusLabels(patient.numberOfFetuses());

@@ -71,7 +71,7 @@ DocumentController::Opening DocumentController::askHowToOpen(const std::string& 
       path + "\n\n" + holderText(holder, services_.calendar, services_.localizer, "\n") + "\n\n" +
       localizer.text(
           "CorvelDocument",
-          "Opened to be read, it can be saved under another name alone. A copy is a new document.");
+          "Read-only, it can be saved only under another name. A copy is a new document.");
   std::vector<std::pair<Opening, std::string>> ways{
       {Opening::readOnly, localizer.text("CorvelDocument", "Open Read-Only")},
       {Opening::asCopy, localizer.text("CorvelDocument", "Open a Copy")}};

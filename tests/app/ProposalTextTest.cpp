@@ -35,11 +35,11 @@ TEST_F(AProposal, thatIsNoneSaysEachReasonOnce) {
 
 TEST_F(AProposal, tellsTheDifferenceFromTheEDDThatStands) {
   proposal.text = "4/10/27";
-  EXPECT_EQ(text().find("the EDD that stands"), std::string::npos) << text();
+  EXPECT_EQ(text().find("the current EDD"), std::string::npos) << text();
   patient.setEDD(midnight(2027, 4, 9));
-  EXPECT_NE(text().find("One day later than the EDD that stands."), std::string::npos) << text();
+  EXPECT_NE(text().find("One day later than the current EDD."), std::string::npos) << text();
   patient.setEDD(midnight(2027, 4, 20));
-  EXPECT_NE(text().find("10 days earlier than the EDD that stands."), std::string::npos) << text();
+  EXPECT_NE(text().find("10 days earlier than the current EDD."), std::string::npos) << text();
 }
 
 TEST_F(AProposal, namesAnExaminationThatItWouldMakeImprobable) {

@@ -199,7 +199,7 @@ TEST_F(CompareDialog, copiesTheRowsAsTheyAreSortedOrThoseThatAreSelected) {
   clickButton("compareCopyButton");
   EXPECT_EQ(
       clipboard(),
-      "Fetus\tBPD\tHC\tAC\tFL\tEFW\tLess (%)\nTwin 2\t90.0\t-\t-\t-\t-\t-\nTwin 1\t50.0\t-\t-\t-\t-\t-\n");
+      "Fetus\tBPD\tHC\tAC\tFL\tEFW\tDiscordance (%)\nTwin 2\t90.0\t-\t-\t-\t-\t-\nTwin 1\t50.0\t-\t-\t-\t-\t-\n");
   QTableView& fetuses = table("compare-fetuses");
   QDialog& compare = dialog();
   compare.activateWindow();
@@ -209,7 +209,7 @@ TEST_F(CompareDialog, copiesTheRowsAsTheyAreSortedOrThoseThatAreSelected) {
   ASSERT_TRUE(QTest::qWaitFor([&] { return fetuses.hasFocus(); }));
   ASSERT_EQ(fetuses.selectionModel()->selectedRows().size(), 1);
   QTest::keyClick(&fetuses, Qt::Key_C, Qt::ControlModifier);
-  EXPECT_EQ(clipboard(), "Fetus\tBPD\tHC\tAC\tFL\tEFW\tLess (%)\nTwin 1\t50.0\t-\t-\t-\t-\t-\n");
+  EXPECT_EQ(clipboard(), "Fetus\tBPD\tHC\tAC\tFL\tEFW\tDiscordance (%)\nTwin 1\t50.0\t-\t-\t-\t-\t-\n");
 }
 
 TEST_F(CompareDialog, exportsATableAsCSV) {
@@ -219,7 +219,7 @@ TEST_F(CompareDialog, exportsATableAsCSV) {
   QFile csv(out.filePath(QStringLiteral("twins.csv")));
   ASSERT_TRUE(csv.open(QFile::ReadOnly));
   EXPECT_EQ(csv.readAll().toStdString(),
-            "Fetus,BPD,HC,AC,FL,EFW,Less (%)\r\nTwin 1,50,,,,,\r\nTwin 2,90,,,,,\r\n");
+            "Fetus,BPD,HC,AC,FL,EFW,Discordance (%)\r\nTwin 1,50,,,,,\r\nTwin 2,90,,,,,\r\n");
 }
 
 TEST_F(CompareDialog, saysWhyATableCannotBeExported) {

@@ -522,7 +522,7 @@ TEST_F(TheDocumentWindow, checksItsNumbersWhenAsked) {
   action("aboutAction").trigger();
   ASSERT_EQ(asked.size(), 2U);
   EXPECT_THAT(asked[1].message,
-              testing::ContainsRegex("All [0-9]+ worked examples come out as they are known."));
+              testing::ContainsRegex("All [0-9]+ worked examples give the expected results."));
   EXPECT_THAT(asked[1].details, testing::HasSubstr("who-2017\t"));
   EXPECT_THAT(asked[1].details, testing::ContainsRegex("total\t[0-9]+\t0\n$"));
 }

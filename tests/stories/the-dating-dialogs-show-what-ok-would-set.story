@@ -48,16 +48,16 @@ With an EDD that stands the difference is said, and what would become of the exa
 {"answer":["Modify"]}
 {"do":["doSetEDDfromLMP"]}
 {"beside":true}
-=~ {"beside":{"lmpWindowProposal":"EDD: 5 February 2027\nAge today: 29w 1d\nThe same day as the EDD that stands."}}
+=~ {"beside":{"lmpWindowProposal":"EDD: 5 February 2027\nAge today: 29w 1d\nThe same day as the current EDD."}}
 {"type":["lmpWindowLMP","5/2/26"]}
 {"beside":true}
-=~ {"beside":{"lmpWindowProposal":"EDD: 6 February 2027\nAge today: 29w 0d\nOne day later than the EDD that stands."}}
+=~ {"beside":{"lmpWindowProposal":"EDD: 6 February 2027\nAge today: 29w 0d\nOne day later than the current EDD."}}
 {"type":["lmpWindowLMP","4/29/26"]}
 {"beside":true}
-=~ {"beside":{"lmpWindowProposal":"EDD: 3 February 2027\nAge today: 29w 3d\n2 days earlier than the EDD that stands."}}
+=~ {"beside":{"lmpWindowProposal":"EDD: 3 February 2027\nAge today: 29w 3d\n2 days earlier than the current EDD."}}
 {"type":["lmpWindowLMP","11/22/26"]}
 {"beside":true}
-=~ {"beside":{"lmpWindowProposal":"EDD: 29 August 2027\nAge today: 0w -1d\n205 days later than the EDD that stands.\nAn examination would be before the last period."}}
+=~ {"beside":{"lmpWindowProposal":"EDD: 29 August 2027\nAge today: 0w -1d\n205 days later than the current EDD.\nAn examination would be before the last period."}}
 {"cancel":"lmpWindow"}
 
 The crown-rump length has a date of its own, which need not be that of the examination on show. 45 mm by the first formula are 11.3275 weeks: 21 November 2026 and 200.7 days.
@@ -68,7 +68,7 @@ The crown-rump length has a date of its own, which need not be that of the exami
 =~ {"beside":{"crlWindowExamination":"Examination 1 of 1: 21 November 2026","crlWindowProposal":"Type the crown-rump length."}}
 {"type":["crlWindowCRL","45"]}
 {"beside":true}
-=~ {"beside":{"crlWindowProposal":"EDD: 9 June 2027\nAge today: 11w 3d\n124 days later than the EDD that stands."}}
+=~ {"beside":{"crlWindowProposal":"EDD: 9 June 2027\nAge today: 11w 3d\n124 days later than the current EDD."}}
 {"type":["crlWindowCRL","121"]}
 {"beside":true}
 =~ {"beside":{"crlWindowProposal":"The formula dates these lengths, in mm: 2–120"}}
@@ -93,4 +93,4 @@ Three lengths of 20 weeks, and one beyond all weeks. What lies beyond the table 
 =~ {"beside":{"bpdDatingRemark":"","acDatingRemark":"","flDatingRemark":"beyond the table"}}
 {"check":["measurementsWindowFLCheck",false]}
 {"beside":true}
-=~ {"beside":{"measurementsWindowProposal":"EDD: 11 April 2027\nAge today: 19w 6d\n65 days later than the EDD that stands."}}
+=~ {"beside":{"measurementsWindowProposal":"EDD: 11 April 2027\nAge today: 19w 6d\n65 days later than the current EDD."}}

@@ -185,13 +185,11 @@ Sentence parsersSentence(const std::string& text) {
   constexpr std::string_view kMissing = ": 1 required  missing";
   constexpr std::string_view kSeveral = ": At Most 1 required but received ";
   if (text.ends_with(kMissing)) {
-    //: An option stands there without its value.
-    return Sentence("CommandLine", "%1: 1 required  missing")
+    return Sentence("CommandLine", "%1 has no value")
         .with(text.substr(0, text.size() - kMissing.size()));
   }
   if (const std::size_t at = text.find(kSeveral); at != std::string::npos) {
-    //: An option that may stand there once stands there %2 times.
-    return Sentence("CommandLine", "%1: At Most 1 required but received %2")
+    return Sentence("CommandLine", "%1 can be given once, and stands there %2 times")
         .with(text.substr(0, at), text.substr(at + kSeveral.size()));
   }
   return Sentence::verbatim(text);

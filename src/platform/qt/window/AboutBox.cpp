@@ -23,7 +23,7 @@ void showSelfTest(QWidget& parent) {
   box.setTextFormat(Qt::PlainText);
   box.setIcon(total.differences == 0 ? QMessageBox::Information : QMessageBox::Critical);
   box.setText(total.differences == 0
-                  ? said("MyDocument", "All %1 worked examples come out as they are known.")
+                  ? said("MyDocument", "All %1 worked examples give the expected results.")
                         .arg(QString::number(total.values))
                   : said("MyDocument", "%1 of %2 worked examples come out otherwise.")
                         .arg(QString::number(total.differences), QString::number(total.values)));

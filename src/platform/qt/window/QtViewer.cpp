@@ -44,7 +44,14 @@ bool QtViewer::open(const std::string& url) {
     return false;
   };
   if (target.isLocalFile() && !QFile::exists(name)) return fail(said("Viewer", "%1 is not installed."));
-  return QDesktopServices::openUrl(target) || fail(said("Viewer", "There is no program that shows %1."));
+  if (QDesktopServices::openUrl(target)) return true;
+  // Guide and handbook.
+  if (name.endsWith(QLatin1String(".pdf"))) {
+    return fail(said("Viewer",
+                     "There is no program that shows PDF files. Please install one, or open the page for browsers "
+                     "that lies beside %1."));
+  }
+  return fail(said("Viewer", "There is no program that shows %1."));
 }
 
 std::string resourceFolder() {

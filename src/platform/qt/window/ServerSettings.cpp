@@ -161,8 +161,8 @@ void askForServer(QWidget& window, foundation::UserDefaults& defaults,
   fields.host->setMinimumWidth(dialog.fontMetrics().averageCharWidth() * 45);
   form->addRow(said("ServerSettings", "&Host:"), fields.host);
   form->addRow(said("ServerSettings", "&Port:"), fields.port);
-  form->addRow(said("ServerSettings", "&Title of the server:"), fields.serverTitle);
-  form->addRow(said("ServerSettings", "Title of this prog&ram:"), fields.ownTitle);
+  form->addRow(said("ServerSettings", "AE &title of the server:"), fields.serverTitle);
+  form->addRow(said("ServerSettings", "AE title of this prog&ram:"), fields.ownTitle);
   form->addRow(QString(), fields.encrypted);
   form->addRow(said("ServerSettings", "&Authority's certificate:"), fields.authority);
   form->addRow(said("ServerSettings", "&Own certificate:"), fields.certificate);
@@ -193,7 +193,7 @@ void askForServer(QWidget& window, foundation::UserDefaults& defaults,
     buttons->button(QDialogButtonBox::Ok)->setEnabled(!fault);
     test->setEnabled(!isNone && !fault);
     if (isNone) {
-      answer->setText(said("ServerSettings", "Without a host Nascor speaks to no server."));
+      answer->setText(said("ServerSettings", "Without a host, Nascor contacts no server."));
     } else if (fault) {
       const QString sentence = fromUtf8(*fault);
       answer->setText(sentence.left(1).toUpper() + sentence.mid(1) + u'.');
