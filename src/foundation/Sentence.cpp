@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "foundation/Localizer.h"
+#include "foundation/Utf8.h"
 
 namespace nascor::foundation {
 
@@ -24,23 +25,9 @@ bool isOne(std::uint64_t count, const Localizer& localizer) {
 
 }  // namespace
 
-Sentence Sentence::verbatim(std::string text) {
-  Sentence sentence;
-  sentence.text_ = std::move(text);
-  return sentence;
-}
-
 Sentence Sentence::ofSystem(std::string text) {
   Sentence sentence = verbatim(std::move(text));
   sentence.kind_ = Kind::system;
-  return sentence;
-}
-
-Sentence Sentence::counted(std::uint64_t count, Sentence one, Sentence many) {
-  Sentence sentence;
-  sentence.kind_ = Kind::counted;
-  sentence.count_ = count;
-  sentence.parts_ = {std::move(one), std::move(many)};
   return sentence;
 }
 
@@ -90,6 +77,16 @@ std::string said(const Sentence& sentence, const Localizer& localizer) {
     case verbatim: break;
   }
   return sentence.text_;
+}
+
+std::string saidAlone(const Sentence& sentence, const Localizer& localizer) {
+  const std::string text = said(sentence, localizer);
+  if (text.empty()) return text;
+  const std::size_t first = lengthOfBeginning(text, 1);
+  std::string alone = localizer.upperCased(text.substr(0, first)) + text.substr(first);
+  constexpr std::string_view kEnds = ".!?";
+  if (kEnds.find(alone.back()) == std::string_view::npos) alone += '.';
+  return alone;
 }
 
 std::string english(const Sentence& sentence) { return said(sentence, EnglishLocalizer()); }

@@ -22,6 +22,9 @@ class Localizer;
 /// The English text is the key. Its place holders are %1 to %9, and a translation may change their order:
 ///
 ///     Sentence("Reading", "expected %1, but %2 stands here").with(wanted, found)
+///
+/// A module that is loaded at run time makes sentences with this header alone: what says them is in the program. Their keys
+/// lie in the module, which stays as long as the program.
 class Sentence {
  public:
   /// Says nothing.
@@ -39,12 +42,24 @@ class Sentence {
   }
 
   /// The same in every language: a name, a number, or what a library says.
-  static Sentence verbatim(std::string text);
+  static Sentence verbatim(std::string text) {
+    Sentence sentence;
+    sentence.text_ = std::move(text);
+    return sentence;
+  }
   /// What the operating system says of an error, in English, which has translations of its own; or, in place of it, a key of
   /// the table "Files".
   static Sentence ofSystem(std::string text);
   /// `one` or `many`, as the language has it for that count.
-  static Sentence counted(std::uint64_t count, Sentence one, Sentence many);
+  static Sentence counted(std::uint64_t count, Sentence one, Sentence many) {
+    Sentence sentence;
+    sentence.kind_ = Kind::counted;
+    sentence.count_ = count;
+    sentence.parts_.reserve(2);
+    sentence.parts_.push_back(std::move(one));
+    sentence.parts_.push_back(std::move(many));
+    return sentence;
+  }
   /// All of them, with `between` between.
   static Sentence joined(std::vector<Sentence> parts, std::string_view between);
 
@@ -72,6 +87,8 @@ class Sentence {
 
 /// The sentence in the user's language; what a table does not have is English.
 std::string said(const Sentence& sentence, const Localizer& localizer);
+/// The same where it stands alone: with a capital letter at its beginning and a full stop at its end.
+std::string saidAlone(const Sentence& sentence, const Localizer& localizer);
 /// The English sentence.
 std::string english(const Sentence& sentence);
 

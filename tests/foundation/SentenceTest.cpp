@@ -120,5 +120,22 @@ TEST(AnErrorWithASentence, saysItInEnglishAndKeepsIt) {
   EXPECT_EQ(said(sentenceOf(std::runtime_error("a library's")), tests::MarkedLocalizer()), "a library's");
 }
 
+TEST(ASentenceThatStandsAlone, hasACapitalLetterAndAFullStop) {
+  class French final : public Language {
+   public:
+    French() : Language({}) {}
+    std::string upperCased(std::string_view text) const override {
+      return text == "\u00e9" ? "\u00c9" : EnglishLocalizer().upperCased(text);
+    }
+  };
+  const auto alone = [](const char* text) { return saidAlone(Sentence::verbatim(text), French()); };
+  EXPECT_EQ(alone("the last day is before the first"), "The last day is before the first.");
+  EXPECT_EQ(alone("\u00e9chographe inconnu"), "\u00c9chographe inconnu.");
+  EXPECT_EQ(alone("\"x\" is no day"), "\"x\" is no day.");
+  EXPECT_EQ(alone("what a library says."), "What a library says.") << "with one full stop";
+  EXPECT_EQ(alone("why?"), "Why?");
+  EXPECT_EQ(alone(""), "");
+}
+
 }  // namespace
 }  // namespace nascor::foundation
