@@ -127,9 +127,11 @@ void parse(const std::vector<std::byte>& bytes) {
 
 void readAll(exchange::ReportFiles& files, const std::vector<std::byte>& bytes) {
   const auto read = files.read(bytes);
-  if (const auto* why = std::get_if<std::string>(&read)) throw std::runtime_error("The report " + *why);
+  if (const auto* why = std::get_if<foundation::Sentence>(&read))
+    throw std::runtime_error("The report " + english(*why));
   const auto findings = exchange::findingsIn(std::get<exchange::StructuredReport>(read));
-  if (const auto* why = std::get_if<std::string>(&findings)) throw std::runtime_error("The report " + *why);
+  if (const auto* why = std::get_if<foundation::Sentence>(&findings))
+    throw std::runtime_error("The report " + english(*why));
   const auto& fetuses = std::get<exchange::Findings>(findings).fetuses;
   const bool isWhole =
       fetuses.size() == kFetuses && std::ranges::all_of(fetuses, [](const exchange::FetusFindings& fetus) {
@@ -166,7 +168,8 @@ int main(int argc, char** argv) {
   try {
     dicom::DcmtkReportFiles files;
     const auto written = files.write(report());
-    if (const auto* why = std::get_if<std::string>(&written)) throw std::runtime_error("The report " + *why);
+    if (const auto* why = std::get_if<foundation::Sentence>(&written))
+      throw std::runtime_error("The report " + english(*why));
     const auto& bytes = std::get<std::vector<std::byte>>(written);
 
     std::vector<double> alone;

@@ -26,7 +26,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const auto reports =
       nascor::exchange::reportsInBundle(std::string_view(reinterpret_cast<const char*>(data), size));
   if (reports.index() == 1) {
-    require(!std::get<1>(reports).empty());
+    require(!english(std::get<1>(reports)).empty());
     return 0;
   }
   for (const auto& report : std::get<0>(reports)) {

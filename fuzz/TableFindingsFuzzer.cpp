@@ -53,7 +53,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   if (!found) return 0;
   if (const auto* sentences = std::get_if<1>(&*found)) {
     require(!sentences->empty());
-    for (const std::string& sentence : *sentences) require(!sentence.empty());
+    for (const auto& sentence : *sentences) require(!english(sentence).empty());
     return 0;
   }
   const auto& all = std::get<0>(*found);

@@ -657,10 +657,6 @@ bpd, hc, ac, fl in mm; efw in g) and projected; docs/json.md lists them all.
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>growth standards by number or name, intergrowth-2014, with commas between; or all four</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>only these columns, in this order, with commas between</source>
         <translation type="unfinished"></translation>
     </message>
@@ -905,6 +901,10 @@ Files of the same names are replaced, but with --no-clobber. SOURCE_DATE_EPOCH, 
     </message>
     <message>
         <source>usage: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>growth standards by number or name, intergrowth-2014, with commas between; or all four</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -2219,6 +2219,441 @@ Files of the same names are replaced, but with --no-clobber. SOURCE_DATE_EPOCH, 
     </message>
 </context>
 <context>
+    <name>Findings</name>
+    <message>
+        <source>BPD</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>HC</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>AC</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>FL</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>CRL</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a result of the examination is not in the bundle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>an observation of status &quot;%1&quot; is passed over</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>an observation of another fetus stands in the panel of fetus %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>is longer than any FHIR bundle that is read (16 MiB)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>is nested deeper than any FHIR bundle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>is no JSON that can be read</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>is no FHIR bundle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>is a FHIR bundle in which two patients have one identifier</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>is a FHIR bundle without an examination</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>fetus %1: %2</source>
+        <extracomment>%1 is the ID of a fetus, %2 one of its lengths or a sentence about it.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>flagged</source>
+        <extracomment>This word and the next ones say of a value how it came about: &quot;a flagged value is taken before a plain one&quot;, &quot;fetus 1: BPD is calculated, not measured&quot;. A flagged one was chosen at the machine.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>mean</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>calculated</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>estimated</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>plain</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>gravida</source>
+        <extracomment>Stands in &quot;the report gives several numbers for %1; the first is taken&quot;, as the next one.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>numberOfFetuses</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the date of the examination, &quot;%1&quot;, is no day</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no length is taken from %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a centile of the machine&apos;s weight is never taken</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no measure that a document stores (%1)</source>
+        <extracomment>%1 is the section of the report that it stands in.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the report itself</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no count</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the report said %1 before</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the report gives several numbers for %1; the first is taken</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the report holds no value</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the unit &quot;%1&quot; is neither g nor kg</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the unit &quot;%1&quot; is neither mm nor cm</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no finite number</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it is not above 0</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>its derivation is &quot;%1&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; is no day</source>
+        <extracomment>%1 is what a date of the report is called there, %2 what stands in its place.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, by the average ultrasound age, is never taken</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the last period, %1, makes no EDD by itself</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the report holds two EDDs, %1 and %2; the first is taken</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is another day than the EDD that is taken</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, by the last period, is another day than the EDD that is taken</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>another weight is compared</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it has a private code, and another value the standard one</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 stands under a private code of the machine&apos;s maker</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a %1 value is taken before a %2 one</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: the value that the report flags is %2, and is not taken</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is %2, not measured, though the report flags it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is %2, not measured</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: several %2 values, %3 mm; their mean is taken</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the report&apos;s weight, %1 g, is not that of its lengths, which is %2 g by %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>is a structured report of a kind that is not read (neither Comprehensive nor Enhanced)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>is no structured report</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>is a report whose content is missing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>is no obstetric ultrasound report (its title is &quot;%1&quot;)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the report says that there are %1 fetuses, and holds %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>examination %1, fetus %2: %3 %4 is no length, and left out</source>
+        <extracomment>%3 is one of BPD, HC, AC and FL, %4 what stands in its place.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the document is of patient &quot;%1&quot;, not &quot;%2&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the report&apos;s reference ID has characters that cannot be read; nothing is stored unless the ID is given</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the report names no patient; nothing is stored unless the ID is given</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the document names no patient; nothing is stored unless the ID is given</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the report is of patient &quot;%1&quot;, the document of &quot;%2&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of the report may be any of the document&apos;s; nothing is stored unless its number is given</source>
+        <extracomment>%1 is a fetus: &quot;fetus &quot;A&quot;&quot;, &quot;a fetus without an ID&quot;.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 cannot be fetus %2 of %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>two fetuses of the report cannot both be fetus %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>fetus &quot;%1&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a fetus without an ID</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>fetus %1: the CRL is not stored</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>fetus %1: %2 %3 mm is beyond what a document takes</source>
+        <extracomment>%2 is one of BPD, HC, AC and FL, as in the next one.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>fetus %1: %2 stays %3 mm; the report says %4 mm</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 more</source>
+        <extracomment>Stands behind the IDs of some patients, with commas between.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>one without an ID</source>
+        <extracomment>Of several patients.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>holds examinations of several patients (%1), and a document is of one; nothing is stored. Please import a file for each patient</source>
+        <extracomment>%1 are the IDs of patients.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the report does not say when the examination was</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a document takes at most %1 fetuses</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the EDD stays %1; the report says %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the EDD stays; the report says %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the gravidity stays %1; the report says %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the number of fetuses stays %1; the report says %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the report holds no length that is stored</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the columns fetus, which counts from 0, and fetus_number, from 1, cannot both stand in the header</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is no column %1: never measured</source>
+        <extracomment>%1 are names of columns, &quot;bpd_mm or bpd&quot;, with commas between.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the cell is empty; write the day of the examination like 2026-11-13</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <extracomment>%1 is a column of a table, %2 what is wrong with a cell of it.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the text is no UTF-8; save the table as UTF-8</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is no day; write it like 2027-04-10, or leave the cell empty</source>
+        <extracomment>%1 is what stands there, in quotation marks, in this one and in others of the kind.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is no day; write it like 2026-11-13</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is no whole number from %2 to %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is no whole number from %2 on</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the cell is empty; number the fetuses from %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is beyond what a document takes, 0 to %2 mm</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>line %1: %2</source>
+        <extracomment>%2 is what is wrong with the row of a table that begins at line %1.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>what stands behind line %1 was not looked at</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>nothing of this table is taken until every row of it fits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>is a table without an examination</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a note is not taken</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>edd: it is not that of line %1, and no reference_id tells the patients apart; write the ID into every row</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>reference_id: the cell is empty, that of line %1 is not; write the ID into every row</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>reference_id: the cell of line %1 is empty, this one is not; write the ID into every row</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the row is of another file than that of line %1, and no reference_id tells the patients apart; write the rows with --identify</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>line %1 has the same fetus at the same examination; leave one of the two rows</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>line %1 has a fetus of this examination too; number them from 1, in a column fetus_number</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: line %2 says something else of the same examination; make them agree</source>
+        <extracomment>%1 is a column of a table.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>fetus counts from 0, and no row of this examination has 0; where it counts from 1, call the column fetus_number</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>ImportDialog</name>
     <message>
         <source>Examination</source>
@@ -2318,6 +2753,25 @@ Files of the same names are replaced, but with --no-clobber. SOURCE_DATE_EPOCH, 
     </message>
     <message>
         <source>it is %1 days before the last period</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Modules</name>
+    <message>
+        <source>this program does not know where it lies</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the module %1 is not installed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the module %1 cannot be loaded: it is another module</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the module %1 cannot be loaded: %2</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -4208,6 +4662,81 @@ Files of the same names are replaced, but with --no-clobber. SOURCE_DATE_EPOCH, 
     </message>
 </context>
 <context>
+    <name>ReportFiles</name>
+    <message>
+        <source>a text is not in the character set &quot;%1&quot; that the file states</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>is damaged: %1</source>
+        <extracomment>%1 is what a library says, in English, as in all sentences about DICOM that end with a colon.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>cannot be written: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>is cut off: it ends before its end</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>is damaged: a part is longer than what holds it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>is damaged: a part is of a kind that DICOM does not have</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>is no DICOM file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>has more parts than any report</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>is a DICOM file that does not say how it is encoded</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>is a compressed DICOM file; reports are read uncompressed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>is nested deeper than any report</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2.</source>
+        <extracomment>%1 is the name of a file, %2 a sentence about it that begins with a small letter.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <extracomment>%1 is the path of a file, %2 what the operating system says of it.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>is no report that is read: no DICOM file, no FHIR bundle, and no table whose first line names exam_date and lengths such as bpd_mm, with commas between</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>cannot be read: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2 more row.</source>
+        <extracomment>%2 rows of the file %1 do not fit either.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2 more rows.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>ReportImport</name>
     <message>
         <source>chosen at the machine</source>
@@ -4383,6 +4912,271 @@ Files of the same names are replaced, but with --no-clobber. SOURCE_DATE_EPOCH, 
     </message>
     <message>
         <source>CRL</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>These reports cannot be imported.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ReportServer</name>
+    <message>
+        <source>the host is no name and no IPv4 address</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the port is no number from 1 to 65535</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the called title is not of 1 to 16 characters of ASCII without a backslash</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the calling title is not of 1 to 16 characters of ASCII without a backslash</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the timeout is no number of seconds from 1 to 3600</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>an encrypted connection needs the file of the certificate authority</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a certificate needs its key, and a key its certificate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the reference ID holds *, ?, a backslash or a control character, which a server does not search for</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the reference ID holds characters that do not show</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the reference ID is longer than 64 bytes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the reference ID begins or ends with a blank, which a server does not keep</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the study is no UID, which has digits and dots</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a day is not in the calendar</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the last day is before the first</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>neither a patient nor a study is named</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>refuses the connection: its title is not &quot;%1&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>refuses the connection: the title &quot;%1&quot; of this program must be entered there first</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>refuses the connection: it is busy; try again later</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>refuses the connection, and does not say why</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>DCMTK does not find its data dictionary (DCMDICTPATH), without which it does not use the network</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>shows a certificate that is not accepted: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>does not make an encrypted connection: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>answers what is not DICOM</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>cannot be reached within %1 s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>cannot be reached: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>gave no complete answer within %1 s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>broke off the connection without saying why</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ended the connection before its answer was complete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ended the connection without an answer; the connection may have to be encrypted, or must not be</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>gave an answer that is not understood: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>gave an answer in a context that was not agreed on</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>does not hand out reports (C-GET of the study root)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>gave an answer that was not asked for</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>was not given: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>cannot be asked: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>was not taken: it is longer than any report</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>was not taken: it is another kind of report</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>was not taken: it %1</source>
+        <extracomment>%1 is what is wrong with it: &quot;is cut off: it ends before its end&quot;.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>was not taken: the server gave another report than it was asked for</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>was not taken: it is of &quot;%1&quot;, although the server lists it under &quot;%2&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the other reports were not fetched: these are as many bytes as are taken at once</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <extracomment>%1 is the UID of a report, %2 what became of it: &quot;was not taken: it is another kind of report&quot;.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>is longer than any report</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>is no report that is sent: its kind is neither Comprehensive SR nor Enhanced SR</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>has no proper SOP Instance UID, and is not sent</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>is not taken: the server takes no reports (%1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>is kept by the server, but perhaps not as it was: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>is not taken by the server: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>does not answer to C-ECHO</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>answers with more than there is memory for</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is not enough memory</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is no IPv4 address of this host: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the address of this host was not found in time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>does not search for reports (C-FIND of the study root)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>at most %1 reports are taken, and there are others; name a patient, a study or fewer days</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 answer was left out: it is of another patient, study or day, or names no report by proper UIDs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 answers were left out: they are of another patient, study or day, or name no report by proper UIDs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>does not search: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>encrypted connections are not there: OpenSSL does not begin</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>encrypted connections are not there: OpenSSL has none of their ciphers</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 holds no certificate in PEM that can be read</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 holds no key in PEM that can be read without a password</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is not the key of %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the name of the host cannot be looked for in a certificate</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

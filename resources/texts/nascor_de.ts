@@ -752,10 +752,6 @@ alle.
         <translation>die Dokumente in einem Tar-Archiv, unkomprimiert, gzip oder zstd; - ist die Standardeingabe</translation>
     </message>
     <message>
-        <source>growth standards by number or name, intergrowth-2014, with commas between; or all four</source>
-        <translation>Wachstumsstandards, Nummer oder Name, intergrowth-2014, mit Kommas dazwischen; all: alle vier</translation>
-    </message>
-    <message>
         <source>only these columns, in this order, with commas between</source>
         <translation>nur diese Spalten, in dieser Reihenfolge, mit Kommas dazwischen</translation>
     </message>
@@ -1043,6 +1039,10 @@ Diagramme, Notizen und die Quellen von allem, was verwendet wurde. Jedes Dokumen
 Dateien gleichen Namens werden ersetzt, außer mit --no-clobber. SOURCE_DATE_EPOCH, in Sekunden seit
 1970, tritt an die Stelle des gegenwärtigen Zeitpunkts.
 </translation>
+    </message>
+    <message>
+        <source>growth standards by number or name, intergrowth-2014, with commas between; or all four</source>
+        <translation>Wachstumsstandards, Nummer oder Name, intergrowth-2014, mit Kommas dazwischen; all: alle vier</translation>
     </message>
 </context>
 <context>
@@ -2356,6 +2356,441 @@ Dateien gleichen Namens werden ersetzt, außer mit --no-clobber. SOURCE_DATE_EPO
     </message>
 </context>
 <context>
+    <name>Findings</name>
+    <message>
+        <source>BPD</source>
+        <translation>BPD</translation>
+    </message>
+    <message>
+        <source>HC</source>
+        <translation>KU</translation>
+    </message>
+    <message>
+        <source>AC</source>
+        <translation>AU</translation>
+    </message>
+    <message>
+        <source>FL</source>
+        <translation>FL</translation>
+    </message>
+    <message>
+        <source>CRL</source>
+        <translation>SSL</translation>
+    </message>
+    <message>
+        <source>a result of the examination is not in the bundle</source>
+        <translation>ein Ergebnis der Untersuchung ist nicht im Bündel</translation>
+    </message>
+    <message>
+        <source>an observation of status &quot;%1&quot; is passed over</source>
+        <translation>eine Observation mit dem Status „%1“ wird übergangen</translation>
+    </message>
+    <message>
+        <source>an observation of another fetus stands in the panel of fetus %1</source>
+        <translation>eine Observation eines anderen Fetus steht im Panel von Fetus %1</translation>
+    </message>
+    <message>
+        <source>is longer than any FHIR bundle that is read (16 MiB)</source>
+        <translation>ist länger als jedes FHIR-Bündel, das gelesen wird (16 MiB)</translation>
+    </message>
+    <message>
+        <source>is nested deeper than any FHIR bundle</source>
+        <translation>ist tiefer verschachtelt als jedes FHIR-Bündel</translation>
+    </message>
+    <message>
+        <source>is no JSON that can be read</source>
+        <translation>ist kein lesbares JSON</translation>
+    </message>
+    <message>
+        <source>is no FHIR bundle</source>
+        <translation>ist kein FHIR-Bündel</translation>
+    </message>
+    <message>
+        <source>is a FHIR bundle in which two patients have one identifier</source>
+        <translation>ist ein FHIR-Bündel, in dem zwei Patientinnen dieselbe ID haben</translation>
+    </message>
+    <message>
+        <source>is a FHIR bundle without an examination</source>
+        <translation>ist ein FHIR-Bündel ohne Untersuchung</translation>
+    </message>
+    <message>
+        <source>fetus %1: %2</source>
+        <extracomment>%1 is the ID of a fetus, %2 one of its lengths or a sentence about it.</extracomment>
+        <translation>Fetus %1: %2</translation>
+    </message>
+    <message>
+        <source>flagged</source>
+        <extracomment>This word and the next ones say of a value how it came about: &quot;a flagged value is taken before a plain one&quot;, &quot;fetus 1: BPD is calculated, not measured&quot;. A flagged one was chosen at the machine.</extracomment>
+        <translation>am Gerät ausgewählt</translation>
+    </message>
+    <message>
+        <source>mean</source>
+        <translation>gemittelt</translation>
+    </message>
+    <message>
+        <source>calculated</source>
+        <translation>berechnet</translation>
+    </message>
+    <message>
+        <source>estimated</source>
+        <translation>geschätzt</translation>
+    </message>
+    <message>
+        <source>plain</source>
+        <translation>einfach</translation>
+    </message>
+    <message>
+        <source>gravida</source>
+        <extracomment>Stands in &quot;the report gives several numbers for %1; the first is taken&quot;, as the next one.</extracomment>
+        <translation>die Gravidität</translation>
+    </message>
+    <message>
+        <source>numberOfFetuses</source>
+        <translation>die Anzahl der Feten</translation>
+    </message>
+    <message>
+        <source>the date of the examination, &quot;%1&quot;, is no day</source>
+        <translation>das Datum der Untersuchung, „%1“, ist kein Tag</translation>
+    </message>
+    <message>
+        <source>no length is taken from %1</source>
+        <translation>aus diesem Abschnitt wird kein Maß übernommen: %1</translation>
+    </message>
+    <message>
+        <source>a centile of the machine&apos;s weight is never taken</source>
+        <translation>eine Perzentile des Gewichts vom Gerät wird nie übernommen</translation>
+    </message>
+    <message>
+        <source>no measure that a document stores (%1)</source>
+        <extracomment>%1 is the section of the report that it stands in.</extracomment>
+        <translation>kein Maß, das ein Dokument speichert (%1)</translation>
+    </message>
+    <message>
+        <source>the report itself</source>
+        <translation>der Bericht selbst</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no count</source>
+        <translation>„%1“ ist keine Anzahl</translation>
+    </message>
+    <message>
+        <source>the report said %1 before</source>
+        <translation>der Bericht sagte vorher %1</translation>
+    </message>
+    <message>
+        <source>the report gives several numbers for %1; the first is taken</source>
+        <translation>der Bericht nennt mehrere Zahlen für %1; die erste wird übernommen</translation>
+    </message>
+    <message>
+        <source>the report holds no value</source>
+        <translation>der Bericht enthält keinen Wert</translation>
+    </message>
+    <message>
+        <source>the unit &quot;%1&quot; is neither g nor kg</source>
+        <translation>die Einheit „%1“ ist weder g noch kg</translation>
+    </message>
+    <message>
+        <source>the unit &quot;%1&quot; is neither mm nor cm</source>
+        <translation>die Einheit „%1“ ist weder mm noch cm</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no finite number</source>
+        <translation>„%1“ ist keine endliche Zahl</translation>
+    </message>
+    <message>
+        <source>it is not above 0</source>
+        <translation>er liegt nicht über 0</translation>
+    </message>
+    <message>
+        <source>its derivation is &quot;%1&quot;</source>
+        <translation>seine Herleitung ist „%1“</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; is no day</source>
+        <extracomment>%1 is what a date of the report is called there, %2 what stands in its place.</extracomment>
+        <translation>%1: „%2“ ist kein Tag</translation>
+    </message>
+    <message>
+        <source>%1, by the average ultrasound age, is never taken</source>
+        <translation>%1, nach dem mittleren Ultraschallalter, wird nie übernommen</translation>
+    </message>
+    <message>
+        <source>the last period, %1, makes no EDD by itself</source>
+        <translation>die letzte Periode, %1, ergibt allein keinen ET</translation>
+    </message>
+    <message>
+        <source>the report holds two EDDs, %1 and %2; the first is taken</source>
+        <translation>der Bericht enthält zwei ET, %1 und %2; der erste wird übernommen</translation>
+    </message>
+    <message>
+        <source>%1 is another day than the EDD that is taken</source>
+        <translation>%1 ist ein anderer Tag als der übernommene ET</translation>
+    </message>
+    <message>
+        <source>%1, by the last period, is another day than the EDD that is taken</source>
+        <translation>%1, nach der letzten Periode, ist ein anderer Tag als der übernommene ET</translation>
+    </message>
+    <message>
+        <source>another weight is compared</source>
+        <translation>ein anderes Gewicht wird verglichen</translation>
+    </message>
+    <message>
+        <source>it has a private code, and another value the standard one</source>
+        <translation>der Code ist privat, und ein anderer Wert trägt den Standardcode</translation>
+    </message>
+    <message>
+        <source>%1 stands under a private code of the machine&apos;s maker</source>
+        <translation>%1 steht unter einem privaten Code des Geräteherstellers</translation>
+    </message>
+    <message>
+        <source>a %1 value is taken before a %2 one</source>
+        <translation>ein anderer Wert geht vor (%1 vor %2)</translation>
+    </message>
+    <message>
+        <source>%1: the value that the report flags is %2, and is not taken</source>
+        <translation>%1: der Wert, den der Bericht markiert, ist %2 und wird nicht übernommen</translation>
+    </message>
+    <message>
+        <source>%1 is %2, not measured, though the report flags it</source>
+        <translation>%1 ist %2, nicht gemessen, obwohl der Bericht den Wert markiert</translation>
+    </message>
+    <message>
+        <source>%1 is %2, not measured</source>
+        <translation>%1 ist %2, nicht gemessen</translation>
+    </message>
+    <message>
+        <source>%1: several %2 values, %3 mm; their mean is taken</source>
+        <translation>%1: mehrere Werte (%2), %3 mm; ihr Mittelwert wird übernommen</translation>
+    </message>
+    <message>
+        <source>the report&apos;s weight, %1 g, is not that of its lengths, which is %2 g by %3</source>
+        <translation>das Gewicht des Berichts, %1 g, ist nicht das seiner Maße, das %2 g nach %3 beträgt</translation>
+    </message>
+    <message>
+        <source>is a structured report of a kind that is not read (neither Comprehensive nor Enhanced)</source>
+        <translation>ist ein strukturierter Bericht einer Art, die nicht gelesen wird (weder Comprehensive noch Enhanced)</translation>
+    </message>
+    <message>
+        <source>is no structured report</source>
+        <translation>ist kein strukturierter Bericht</translation>
+    </message>
+    <message>
+        <source>is a report whose content is missing</source>
+        <translation>ist ein Bericht, dessen Inhalt fehlt</translation>
+    </message>
+    <message>
+        <source>is no obstetric ultrasound report (its title is &quot;%1&quot;)</source>
+        <translation>ist kein Bericht einer geburtshilflichen Ultraschalluntersuchung (sein Titel ist „%1“)</translation>
+    </message>
+    <message>
+        <source>the report says that there are %1 fetuses, and holds %2</source>
+        <translation>Anzahl der Feten laut Bericht: %1; er enthält %2</translation>
+    </message>
+    <message>
+        <source>examination %1, fetus %2: %3 %4 is no length, and left out</source>
+        <extracomment>%3 is one of BPD, HC, AC and FL, %4 what stands in its place.</extracomment>
+        <translation>Untersuchung %1, Fetus %2: %3 %4 ist kein Maß und wird weggelassen</translation>
+    </message>
+    <message>
+        <source>the document is of patient &quot;%1&quot;, not &quot;%2&quot;</source>
+        <translation>das Dokument gehört zur Patientin „%1“, nicht „%2“</translation>
+    </message>
+    <message>
+        <source>the report&apos;s reference ID has characters that cannot be read; nothing is stored unless the ID is given</source>
+        <translation>die Patienten-ID des Berichts hat Zeichen, die nicht gelesen werden können; ohne Angabe der ID wird nichts gespeichert</translation>
+    </message>
+    <message>
+        <source>the report names no patient; nothing is stored unless the ID is given</source>
+        <translation>der Bericht nennt keine Patientin; ohne Angabe der ID wird nichts gespeichert</translation>
+    </message>
+    <message>
+        <source>the document names no patient; nothing is stored unless the ID is given</source>
+        <translation>das Dokument nennt keine Patientin; ohne Angabe der ID wird nichts gespeichert</translation>
+    </message>
+    <message>
+        <source>the report is of patient &quot;%1&quot;, the document of &quot;%2&quot;</source>
+        <translation>der Bericht gehört zur Patientin „%1“, das Dokument zu „%2“</translation>
+    </message>
+    <message>
+        <source>%1 of the report may be any of the document&apos;s; nothing is stored unless its number is given</source>
+        <extracomment>%1 is a fetus: &quot;fetus &quot;A&quot;&quot;, &quot;a fetus without an ID&quot;.</extracomment>
+        <translation>%1 des Berichts kann jeder des Dokuments sein; ohne Angabe der Nummer wird nichts gespeichert</translation>
+    </message>
+    <message>
+        <source>%1 cannot be fetus %2 of %3</source>
+        <translation>%1 kann nicht Fetus %2 von %3 sein</translation>
+    </message>
+    <message>
+        <source>two fetuses of the report cannot both be fetus %1</source>
+        <translation>zwei Feten des Berichts können nicht beide Fetus %1 sein</translation>
+    </message>
+    <message>
+        <source>fetus &quot;%1&quot;</source>
+        <translation>Fetus „%1“</translation>
+    </message>
+    <message>
+        <source>a fetus without an ID</source>
+        <translation>ein Fetus ohne ID</translation>
+    </message>
+    <message>
+        <source>fetus %1: the CRL is not stored</source>
+        <translation>Fetus %1: die SSL wird nicht gespeichert</translation>
+    </message>
+    <message>
+        <source>fetus %1: %2 %3 mm is beyond what a document takes</source>
+        <extracomment>%2 is one of BPD, HC, AC and FL, as in the next one.</extracomment>
+        <translation>Fetus %1: %2 %3 mm liegt außerhalb dessen, was ein Dokument aufnimmt</translation>
+    </message>
+    <message>
+        <source>fetus %1: %2 stays %3 mm; the report says %4 mm</source>
+        <translation>Fetus %1: %2 bleibt %3 mm; der Bericht sagt %4 mm</translation>
+    </message>
+    <message>
+        <source>%1 more</source>
+        <extracomment>Stands behind the IDs of some patients, with commas between.</extracomment>
+        <translation>%1 weitere</translation>
+    </message>
+    <message>
+        <source>one without an ID</source>
+        <extracomment>Of several patients.</extracomment>
+        <translation>eine ohne ID</translation>
+    </message>
+    <message>
+        <source>holds examinations of several patients (%1), and a document is of one; nothing is stored. Please import a file for each patient</source>
+        <extracomment>%1 are the IDs of patients.</extracomment>
+        <translation>enthält Untersuchungen mehrerer Patientinnen (%1), und ein Dokument gehört zu einer; es wird nichts gespeichert. Bitte importieren Sie für jede Patientin eine Datei</translation>
+    </message>
+    <message>
+        <source>the report does not say when the examination was</source>
+        <translation>der Bericht sagt nicht, wann die Untersuchung war</translation>
+    </message>
+    <message>
+        <source>a document takes at most %1 fetuses</source>
+        <translation>ein Dokument nimmt höchstens %1 Feten auf</translation>
+    </message>
+    <message>
+        <source>the EDD stays %1; the report says %2</source>
+        <translation>der ET bleibt %1; der Bericht sagt %2</translation>
+    </message>
+    <message>
+        <source>the EDD stays; the report says %1</source>
+        <translation>der ET bleibt; der Bericht sagt %1</translation>
+    </message>
+    <message>
+        <source>the gravidity stays %1; the report says %2</source>
+        <translation>die Gravidität bleibt %1; der Bericht sagt %2</translation>
+    </message>
+    <message>
+        <source>the number of fetuses stays %1; the report says %2</source>
+        <translation>die Anzahl der Feten bleibt %1; der Bericht sagt %2</translation>
+    </message>
+    <message>
+        <source>the report holds no length that is stored</source>
+        <translation>der Bericht enthält kein Maß, das gespeichert wird</translation>
+    </message>
+    <message>
+        <source>the columns fetus, which counts from 0, and fetus_number, from 1, cannot both stand in the header</source>
+        <translation>die Spalten fetus, die ab 0 zählt, und fetus_number, ab 1, können nicht beide in der Kopfzeile stehen</translation>
+    </message>
+    <message>
+        <source>there is no column %1: never measured</source>
+        <extracomment>%1 are names of columns, &quot;bpd_mm or bpd&quot;, with commas between.</extracomment>
+        <translation>die Spalte %1 fehlt: gilt als nie gemessen</translation>
+    </message>
+    <message>
+        <source>the cell is empty; write the day of the examination like 2026-11-13</source>
+        <translation>die Zelle ist leer; schreiben Sie den Tag der Untersuchung wie 2026-11-13</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <extracomment>%1 is a column of a table, %2 what is wrong with a cell of it.</extracomment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>the text is no UTF-8; save the table as UTF-8</source>
+        <translation>der Text ist kein UTF-8; speichern Sie die Tabelle als UTF-8</translation>
+    </message>
+    <message>
+        <source>%1 is no day; write it like 2027-04-10, or leave the cell empty</source>
+        <extracomment>%1 is what stands there, in quotation marks, in this one and in others of the kind.</extracomment>
+        <translation>%1 ist kein Tag; schreiben Sie ihn wie 2027-04-10, oder lassen Sie die Zelle leer</translation>
+    </message>
+    <message>
+        <source>%1 is no day; write it like 2026-11-13</source>
+        <translation>%1 ist kein Tag; schreiben Sie ihn wie 2026-11-13</translation>
+    </message>
+    <message>
+        <source>%1 is no whole number from %2 to %3</source>
+        <translation>%1 ist keine ganze Zahl von %2 bis %3</translation>
+    </message>
+    <message>
+        <source>%1 is no whole number from %2 on</source>
+        <translation>%1 ist keine ganze Zahl ab %2</translation>
+    </message>
+    <message>
+        <source>the cell is empty; number the fetuses from %1</source>
+        <translation>die Zelle ist leer; nummerieren Sie die Feten ab %1</translation>
+    </message>
+    <message>
+        <source>%1 is beyond what a document takes, 0 to %2 mm</source>
+        <translation>%1 liegt außerhalb dessen, was ein Dokument aufnimmt, 0 bis %2 mm</translation>
+    </message>
+    <message>
+        <source>line %1: %2</source>
+        <extracomment>%2 is what is wrong with the row of a table that begins at line %1.</extracomment>
+        <translation>Zeile %1: %2</translation>
+    </message>
+    <message>
+        <source>what stands behind line %1 was not looked at</source>
+        <translation>was hinter Zeile %1 steht, wurde nicht angesehen</translation>
+    </message>
+    <message>
+        <source>nothing of this table is taken until every row of it fits</source>
+        <translation>von dieser Tabelle wird nichts übernommen, bis jede ihrer Zeilen passt</translation>
+    </message>
+    <message>
+        <source>is a table without an examination</source>
+        <translation>ist eine Tabelle ohne Untersuchung</translation>
+    </message>
+    <message>
+        <source>a note is not taken</source>
+        <translation>eine Notiz wird nicht übernommen</translation>
+    </message>
+    <message>
+        <source>edd: it is not that of line %1, and no reference_id tells the patients apart; write the ID into every row</source>
+        <translation>edd: es ist nicht der ET von Zeile %1, und keine reference_id unterscheidet die Patientinnen; schreiben Sie die ID in jede Zeile</translation>
+    </message>
+    <message>
+        <source>reference_id: the cell is empty, that of line %1 is not; write the ID into every row</source>
+        <translation>reference_id: die Zelle ist leer, die von Zeile %1 ist es nicht; schreiben Sie die ID in jede Zeile</translation>
+    </message>
+    <message>
+        <source>reference_id: the cell of line %1 is empty, this one is not; write the ID into every row</source>
+        <translation>reference_id: die Zelle von Zeile %1 ist leer, diese ist es nicht; schreiben Sie die ID in jede Zeile</translation>
+    </message>
+    <message>
+        <source>the row is of another file than that of line %1, and no reference_id tells the patients apart; write the rows with --identify</source>
+        <translation>die Zeile stammt aus einer anderen Datei als die von Zeile %1, und keine reference_id unterscheidet die Patientinnen; schreiben Sie die Zeilen mit --identify</translation>
+    </message>
+    <message>
+        <source>line %1 has the same fetus at the same examination; leave one of the two rows</source>
+        <translation>Zeile %1 hat denselben Fetus bei derselben Untersuchung; lassen Sie nur eine der beiden Zeilen stehen</translation>
+    </message>
+    <message>
+        <source>line %1 has a fetus of this examination too; number them from 1, in a column fetus_number</source>
+        <translation>Zeile %1 hat auch einen Fetus dieser Untersuchung; nummerieren Sie sie ab 1 in einer Spalte fetus_number</translation>
+    </message>
+    <message>
+        <source>%1: line %2 says something else of the same examination; make them agree</source>
+        <extracomment>%1 is a column of a table.</extracomment>
+        <translation>%1: Zeile %2 sagt etwas anderes über dieselbe Untersuchung; gleichen Sie beide an</translation>
+    </message>
+    <message>
+        <source>fetus counts from 0, and no row of this examination has 0; where it counts from 1, call the column fetus_number</source>
+        <translation>fetus zählt ab 0, und keine Zeile dieser Untersuchung hat 0; wenn sie ab 1 zählt, nennen Sie die Spalte fetus_number</translation>
+    </message>
+</context>
+<context>
     <name>ImportDialog</name>
     <message>
         <source>Examination</source>
@@ -2456,6 +2891,25 @@ Dateien gleichen Namens werden ersetzt, außer mit --no-clobber. SOURCE_DATE_EPO
     <message>
         <source>its age, %1, is above 45 weeks</source>
         <translation>ihr Gestationsalter, %1, liegt über 45 Wochen</translation>
+    </message>
+</context>
+<context>
+    <name>Modules</name>
+    <message>
+        <source>this program does not know where it lies</source>
+        <translation>dieses Programm weiß nicht, wo es liegt</translation>
+    </message>
+    <message>
+        <source>the module %1 is not installed</source>
+        <translation>das Modul %1 ist nicht installiert</translation>
+    </message>
+    <message>
+        <source>the module %1 cannot be loaded: it is another module</source>
+        <translation>das Modul %1 kann nicht geladen werden: Es ist ein anderes Modul</translation>
+    </message>
+    <message>
+        <source>the module %1 cannot be loaded: %2</source>
+        <translation>das Modul %1 kann nicht geladen werden: %2</translation>
     </message>
 </context>
 <context>
@@ -4345,6 +4799,81 @@ Dateien gleichen Namens werden ersetzt, außer mit --no-clobber. SOURCE_DATE_EPO
     </message>
 </context>
 <context>
+    <name>ReportFiles</name>
+    <message>
+        <source>a text is not in the character set &quot;%1&quot; that the file states</source>
+        <translation>ein Text ist nicht im Zeichensatz „%1“, den die Datei angibt</translation>
+    </message>
+    <message>
+        <source>is damaged: %1</source>
+        <extracomment>%1 is what a library says, in English, as in all sentences about DICOM that end with a colon.</extracomment>
+        <translation>ist beschädigt: %1</translation>
+    </message>
+    <message>
+        <source>cannot be written: %1</source>
+        <translation>kann nicht geschrieben werden: %1</translation>
+    </message>
+    <message>
+        <source>is cut off: it ends before its end</source>
+        <translation>ist abgeschnitten: Es endet vor dem Ende</translation>
+    </message>
+    <message>
+        <source>is damaged: a part is longer than what holds it</source>
+        <translation>ist beschädigt: Ein Teil ist länger als das, was ihn enthält</translation>
+    </message>
+    <message>
+        <source>is damaged: a part is of a kind that DICOM does not have</source>
+        <translation>ist beschädigt: Ein Teil ist von einer Art, die DICOM nicht kennt</translation>
+    </message>
+    <message>
+        <source>is no DICOM file</source>
+        <translation>ist keine DICOM-Datei</translation>
+    </message>
+    <message>
+        <source>has more parts than any report</source>
+        <translation>hat mehr Teile als jeder Bericht</translation>
+    </message>
+    <message>
+        <source>is a DICOM file that does not say how it is encoded</source>
+        <translation>ist eine DICOM-Datei, die nicht sagt, wie sie kodiert ist</translation>
+    </message>
+    <message>
+        <source>is a compressed DICOM file; reports are read uncompressed</source>
+        <translation>ist eine komprimierte DICOM-Datei; Berichte werden unkomprimiert gelesen</translation>
+    </message>
+    <message>
+        <source>is nested deeper than any report</source>
+        <translation>ist tiefer verschachtelt als jeder Bericht</translation>
+    </message>
+    <message>
+        <source>%1: %2.</source>
+        <extracomment>%1 is the name of a file, %2 a sentence about it that begins with a small letter.</extracomment>
+        <translation>%1: %2.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <extracomment>%1 is the path of a file, %2 what the operating system says of it.</extracomment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>is no report that is read: no DICOM file, no FHIR bundle, and no table whose first line names exam_date and lengths such as bpd_mm, with commas between</source>
+        <translation>ist kein Bericht, der gelesen wird: keine DICOM-Datei, kein FHIR-Bündel und keine Tabelle, deren erste Zeile exam_date und Maße wie bpd_mm nennt, mit Kommas dazwischen</translation>
+    </message>
+    <message>
+        <source>cannot be read: %1</source>
+        <translation>kann nicht gelesen werden: %1</translation>
+    </message>
+    <message>
+        <source>%1: %2 more row.</source>
+        <extracomment>%2 rows of the file %1 do not fit either.</extracomment>
+        <translation>%1: %2 weitere Zeile.</translation>
+    </message>
+    <message>
+        <source>%1: %2 more rows.</source>
+        <translation>%1: %2 weitere Zeilen.</translation>
+    </message>
+</context>
+<context>
     <name>ReportImport</name>
     <message>
         <source>chosen at the machine</source>
@@ -4521,6 +5050,271 @@ Dateien gleichen Namens werden ersetzt, außer mit --no-clobber. SOURCE_DATE_EPO
     <message>
         <source>There is nothing to be added.</source>
         <translation>Es gibt nichts hinzuzufügen.</translation>
+    </message>
+    <message>
+        <source>These reports cannot be imported.</source>
+        <translation>Diese Berichte können nicht importiert werden.</translation>
+    </message>
+</context>
+<context>
+    <name>ReportServer</name>
+    <message>
+        <source>the host is no name and no IPv4 address</source>
+        <translation>der Host ist weder ein Name noch eine IPv4-Adresse</translation>
+    </message>
+    <message>
+        <source>the port is no number from 1 to 65535</source>
+        <translation>der Port ist keine Zahl von 1 bis 65535</translation>
+    </message>
+    <message>
+        <source>the called title is not of 1 to 16 characters of ASCII without a backslash</source>
+        <translation>der gerufene AE-Titel hat nicht 1 bis 16 ASCII-Zeichen ohne umgekehrten Schrägstrich</translation>
+    </message>
+    <message>
+        <source>the calling title is not of 1 to 16 characters of ASCII without a backslash</source>
+        <translation>der rufende AE-Titel hat nicht 1 bis 16 ASCII-Zeichen ohne umgekehrten Schrägstrich</translation>
+    </message>
+    <message>
+        <source>the timeout is no number of seconds from 1 to 3600</source>
+        <translation>die Zeitgrenze ist keine Zahl von 1 bis 3600 Sekunden</translation>
+    </message>
+    <message>
+        <source>an encrypted connection needs the file of the certificate authority</source>
+        <translation>eine verschlüsselte Verbindung braucht die Datei der Zertifizierungsstelle (CA)</translation>
+    </message>
+    <message>
+        <source>a certificate needs its key, and a key its certificate</source>
+        <translation>ein Zertifikat braucht seinen Schlüssel und ein Schlüssel sein Zertifikat</translation>
+    </message>
+    <message>
+        <source>the reference ID holds *, ?, a backslash or a control character, which a server does not search for</source>
+        <translation>die Patienten-ID enthält *, ?, einen umgekehrten Schrägstrich oder ein Steuerzeichen, wonach ein Server nicht sucht</translation>
+    </message>
+    <message>
+        <source>the reference ID holds characters that do not show</source>
+        <translation>die Patienten-ID enthält Zeichen, die nicht sichtbar sind</translation>
+    </message>
+    <message>
+        <source>the reference ID is longer than 64 bytes</source>
+        <translation>die Patienten-ID ist länger als 64 Byte</translation>
+    </message>
+    <message>
+        <source>the reference ID begins or ends with a blank, which a server does not keep</source>
+        <translation>die Patienten-ID beginnt oder endet mit einem Leerzeichen, das ein Server nicht behält</translation>
+    </message>
+    <message>
+        <source>the study is no UID, which has digits and dots</source>
+        <translation>die Studie ist keine UID aus Ziffern und Punkten</translation>
+    </message>
+    <message>
+        <source>a day is not in the calendar</source>
+        <translation>ein Tag steht nicht im Kalender</translation>
+    </message>
+    <message>
+        <source>the last day is before the first</source>
+        <translation>der letzte Tag liegt vor dem ersten</translation>
+    </message>
+    <message>
+        <source>neither a patient nor a study is named</source>
+        <translation>weder eine Patientin noch eine Studie ist genannt</translation>
+    </message>
+    <message>
+        <source>refuses the connection: its title is not &quot;%1&quot;</source>
+        <translation>lehnt die Verbindung ab: Sein AE-Titel ist nicht „%1“</translation>
+    </message>
+    <message>
+        <source>refuses the connection: the title &quot;%1&quot; of this program must be entered there first</source>
+        <translation>lehnt die Verbindung ab: Der AE-Titel „%1“ dieses Programms muss dort erst eingetragen werden</translation>
+    </message>
+    <message>
+        <source>refuses the connection: it is busy; try again later</source>
+        <translation>lehnt die Verbindung ab: Er ist ausgelastet; versuchen Sie es später noch einmal</translation>
+    </message>
+    <message>
+        <source>refuses the connection, and does not say why</source>
+        <translation>lehnt die Verbindung ab und sagt nicht, warum</translation>
+    </message>
+    <message>
+        <source>DCMTK does not find its data dictionary (DCMDICTPATH), without which it does not use the network</source>
+        <translation>DCMTK findet sein Datenwörterbuch (DCMDICTPATH) nicht, ohne das es das Netz nicht benutzt</translation>
+    </message>
+    <message>
+        <source>shows a certificate that is not accepted: %1</source>
+        <translation>zeigt ein Zertifikat, das nicht akzeptiert wird: %1</translation>
+    </message>
+    <message>
+        <source>does not make an encrypted connection: %1</source>
+        <translation>stellt keine verschlüsselte Verbindung her: %1</translation>
+    </message>
+    <message>
+        <source>answers what is not DICOM</source>
+        <translation>antwortet, aber nicht in DICOM</translation>
+    </message>
+    <message>
+        <source>cannot be reached within %1 s</source>
+        <translation>ist nicht innerhalb von %1 s erreichbar</translation>
+    </message>
+    <message>
+        <source>cannot be reached: %1</source>
+        <translation>ist nicht erreichbar: %1</translation>
+    </message>
+    <message>
+        <source>gave no complete answer within %1 s</source>
+        <translation>hat innerhalb von %1 s nicht vollständig geantwortet</translation>
+    </message>
+    <message>
+        <source>broke off the connection without saying why</source>
+        <translation>hat die Verbindung abgebrochen, ohne zu sagen, warum</translation>
+    </message>
+    <message>
+        <source>ended the connection before its answer was complete</source>
+        <translation>hat die Verbindung beendet, bevor seine Antwort vollständig war</translation>
+    </message>
+    <message>
+        <source>ended the connection without an answer; the connection may have to be encrypted, or must not be</source>
+        <translation>hat die Verbindung ohne Antwort beendet; vielleicht muss sie verschlüsselt sein oder darf es nicht</translation>
+    </message>
+    <message>
+        <source>gave an answer that is not understood: %1</source>
+        <translation>hat eine Antwort gegeben, die nicht verstanden wird: %1</translation>
+    </message>
+    <message>
+        <source>gave an answer in a context that was not agreed on</source>
+        <translation>hat in einem Kontext geantwortet, der nicht vereinbart war</translation>
+    </message>
+    <message>
+        <source>does not hand out reports (C-GET of the study root)</source>
+        <translation>gibt keine Berichte heraus (C-GET, Study Root)</translation>
+    </message>
+    <message>
+        <source>gave an answer that was not asked for</source>
+        <translation>hat eine Antwort gegeben, nach der nicht gefragt war</translation>
+    </message>
+    <message>
+        <source>was not given: %1</source>
+        <translation>wurde nicht herausgegeben: %1</translation>
+    </message>
+    <message>
+        <source>cannot be asked: %1</source>
+        <translation>kann nicht gefragt werden: %1</translation>
+    </message>
+    <message>
+        <source>was not taken: it is longer than any report</source>
+        <translation>wurde nicht übernommen: Er ist länger als jeder Bericht</translation>
+    </message>
+    <message>
+        <source>was not taken: it is another kind of report</source>
+        <translation>wurde nicht übernommen: Es ist eine andere Art Bericht</translation>
+    </message>
+    <message>
+        <source>was not taken: it %1</source>
+        <extracomment>%1 is what is wrong with it: &quot;is cut off: it ends before its end&quot;.</extracomment>
+        <translation>wurde nicht übernommen: Er %1</translation>
+    </message>
+    <message>
+        <source>was not taken: the server gave another report than it was asked for</source>
+        <translation>wurde nicht übernommen: Der Server gab einen anderen Bericht als den verlangten</translation>
+    </message>
+    <message>
+        <source>was not taken: it is of &quot;%1&quot;, although the server lists it under &quot;%2&quot;</source>
+        <translation>wurde nicht übernommen: Er gehört zu „%1“, obwohl der Server ihn unter „%2“ führt</translation>
+    </message>
+    <message>
+        <source>the other reports were not fetched: these are as many bytes as are taken at once</source>
+        <translation>die anderen Berichte wurden nicht abgeholt: Diese sind so viele Bytes, wie auf einmal übernommen werden</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <extracomment>%1 is the UID of a report, %2 what became of it: &quot;was not taken: it is another kind of report&quot;.</extracomment>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>is longer than any report</source>
+        <translation>ist länger als jeder Bericht</translation>
+    </message>
+    <message>
+        <source>is no report that is sent: its kind is neither Comprehensive SR nor Enhanced SR</source>
+        <translation>ist kein Bericht, der gesendet wird: Seine Art ist weder Comprehensive SR noch Enhanced SR</translation>
+    </message>
+    <message>
+        <source>has no proper SOP Instance UID, and is not sent</source>
+        <translation>hat keine gültige SOP Instance UID und wird nicht gesendet</translation>
+    </message>
+    <message>
+        <source>is not taken: the server takes no reports (%1)</source>
+        <translation>wird nicht angenommen: Der Server nimmt keine Berichte an (%1)</translation>
+    </message>
+    <message>
+        <source>is kept by the server, but perhaps not as it was: %1</source>
+        <translation>wird vom Server behalten, aber vielleicht nicht unverändert: %1</translation>
+    </message>
+    <message>
+        <source>is not taken by the server: %1</source>
+        <translation>wird vom Server nicht angenommen: %1</translation>
+    </message>
+    <message>
+        <source>does not answer to C-ECHO</source>
+        <translation>antwortet nicht auf C-ECHO</translation>
+    </message>
+    <message>
+        <source>answers with more than there is memory for</source>
+        <translation>antwortet mit mehr, als in den Speicher passt</translation>
+    </message>
+    <message>
+        <source>there is not enough memory</source>
+        <translation>der Arbeitsspeicher reicht nicht aus</translation>
+    </message>
+    <message>
+        <source>there is no IPv4 address of this host: %1</source>
+        <translation>es gibt keine IPv4-Adresse dieses Hosts: %1</translation>
+    </message>
+    <message>
+        <source>the address of this host was not found in time</source>
+        <translation>die Adresse dieses Hosts wurde nicht rechtzeitig gefunden</translation>
+    </message>
+    <message>
+        <source>does not search for reports (C-FIND of the study root)</source>
+        <translation>sucht nicht nach Berichten (C-FIND, Study Root)</translation>
+    </message>
+    <message>
+        <source>at most %1 reports are taken, and there are others; name a patient, a study or fewer days</source>
+        <translation>höchstens %1 Berichte werden genommen, und es gibt weitere; nennen Sie eine Patientin, eine Studie oder weniger Tage</translation>
+    </message>
+    <message>
+        <source>%1 answer was left out: it is of another patient, study or day, or names no report by proper UIDs</source>
+        <translation>%1 Antwort wurde weggelassen: Sie betrifft eine andere Patientin oder Studie oder einen anderen Tag oder nennt keinen Bericht mit gültigen UIDs</translation>
+    </message>
+    <message>
+        <source>%1 answers were left out: they are of another patient, study or day, or name no report by proper UIDs</source>
+        <translation>%1 Antworten wurden weggelassen: Sie betreffen eine andere Patientin oder Studie oder einen anderen Tag oder nennen keinen Bericht mit gültigen UIDs</translation>
+    </message>
+    <message>
+        <source>does not search: %1</source>
+        <translation>sucht nicht: %1</translation>
+    </message>
+    <message>
+        <source>encrypted connections are not there: OpenSSL does not begin</source>
+        <translation>verschlüsselte Verbindungen sind nicht verfügbar: OpenSSL startet nicht</translation>
+    </message>
+    <message>
+        <source>encrypted connections are not there: OpenSSL has none of their ciphers</source>
+        <translation>verschlüsselte Verbindungen sind nicht verfügbar: OpenSSL hat keine ihrer Chiffren</translation>
+    </message>
+    <message>
+        <source>%1 holds no certificate in PEM that can be read</source>
+        <translation>%1 enthält kein lesbares Zertifikat in PEM</translation>
+    </message>
+    <message>
+        <source>%1 holds no key in PEM that can be read without a password</source>
+        <translation>%1 enthält keinen Schlüssel in PEM, der ohne Passwort lesbar ist</translation>
+    </message>
+    <message>
+        <source>%1 is not the key of %2</source>
+        <translation>%1 ist nicht der Schlüssel von %2</translation>
+    </message>
+    <message>
+        <source>the name of the host cannot be looked for in a certificate</source>
+        <translation>der Name des Hosts kann in einem Zertifikat nicht gesucht werden</translation>
     </message>
 </context>
 <context>

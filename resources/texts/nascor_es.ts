@@ -745,10 +745,6 @@ en semanas; bpd, hc, ac, fl en mm; efw en g) y projected; docs/json.md las enume
         <translation>los documentos de un archivo tar, sin comprimir, gzip o zstd; - es la entrada estándar</translation>
     </message>
     <message>
-        <source>growth standards by number or name, intergrowth-2014, with commas between; or all four</source>
-        <translation>estándares de crecimiento por número o nombre, intergrowth-2014, separados por comas; o all, los cuatro</translation>
-    </message>
-    <message>
         <source>only these columns, in this order, with commas between</source>
         <translation>solo estas columnas, en este orden, separadas por comas</translation>
     </message>
@@ -1033,6 +1029,10 @@ pequeñas, notas y las fuentes de todo lo utilizado. Cada documento es un archiv
 Los archivos del mismo nombre se reemplazan, salvo con --no-clobber. SOURCE_DATE_EPOCH, en segundos
 desde 1970, sustituye al momento presente.
 </translation>
+    </message>
+    <message>
+        <source>growth standards by number or name, intergrowth-2014, with commas between; or all four</source>
+        <translation>estándares de crecimiento por número o nombre, intergrowth-2014, separados por comas; o all, los cuatro</translation>
     </message>
 </context>
 <context>
@@ -2346,6 +2346,441 @@ desde 1970, sustituye al momento presente.
     </message>
 </context>
 <context>
+    <name>Findings</name>
+    <message>
+        <source>BPD</source>
+        <translation>DBP</translation>
+    </message>
+    <message>
+        <source>HC</source>
+        <translation>CC</translation>
+    </message>
+    <message>
+        <source>AC</source>
+        <translation>CA</translation>
+    </message>
+    <message>
+        <source>FL</source>
+        <translation>LF</translation>
+    </message>
+    <message>
+        <source>CRL</source>
+        <translation>LCC</translation>
+    </message>
+    <message>
+        <source>a result of the examination is not in the bundle</source>
+        <translation>un resultado de la exploración no está en el paquete</translation>
+    </message>
+    <message>
+        <source>an observation of status &quot;%1&quot; is passed over</source>
+        <translation>se pasa por alto una observación de estado «%1»</translation>
+    </message>
+    <message>
+        <source>an observation of another fetus stands in the panel of fetus %1</source>
+        <translation>una observación de otro feto figura en el panel del feto %1</translation>
+    </message>
+    <message>
+        <source>is longer than any FHIR bundle that is read (16 MiB)</source>
+        <translation>es más largo que cualquier paquete FHIR que se lee (16 MiB)</translation>
+    </message>
+    <message>
+        <source>is nested deeper than any FHIR bundle</source>
+        <translation>está anidado más profundamente que cualquier paquete FHIR</translation>
+    </message>
+    <message>
+        <source>is no JSON that can be read</source>
+        <translation>no es JSON que se pueda leer</translation>
+    </message>
+    <message>
+        <source>is no FHIR bundle</source>
+        <translation>no es un paquete FHIR</translation>
+    </message>
+    <message>
+        <source>is a FHIR bundle in which two patients have one identifier</source>
+        <translation>es un paquete FHIR en el que dos pacientes tienen el mismo identificador</translation>
+    </message>
+    <message>
+        <source>is a FHIR bundle without an examination</source>
+        <translation>es un paquete FHIR sin ninguna exploración</translation>
+    </message>
+    <message>
+        <source>fetus %1: %2</source>
+        <extracomment>%1 is the ID of a fetus, %2 one of its lengths or a sentence about it.</extracomment>
+        <translation>feto %1: %2</translation>
+    </message>
+    <message>
+        <source>flagged</source>
+        <extracomment>This word and the next ones say of a value how it came about: &quot;a flagged value is taken before a plain one&quot;, &quot;fetus 1: BPD is calculated, not measured&quot;. A flagged one was chosen at the machine.</extracomment>
+        <translation>elegido en el ecógrafo</translation>
+    </message>
+    <message>
+        <source>mean</source>
+        <translation>medio</translation>
+    </message>
+    <message>
+        <source>calculated</source>
+        <translation>calculado</translation>
+    </message>
+    <message>
+        <source>estimated</source>
+        <translation>estimado</translation>
+    </message>
+    <message>
+        <source>plain</source>
+        <translation>simple</translation>
+    </message>
+    <message>
+        <source>gravida</source>
+        <extracomment>Stands in &quot;the report gives several numbers for %1; the first is taken&quot;, as the next one.</extracomment>
+        <translation>las gestas</translation>
+    </message>
+    <message>
+        <source>numberOfFetuses</source>
+        <translation>el número de fetos</translation>
+    </message>
+    <message>
+        <source>the date of the examination, &quot;%1&quot;, is no day</source>
+        <translation>la fecha de la exploración, «%1», no es un día</translation>
+    </message>
+    <message>
+        <source>no length is taken from %1</source>
+        <translation>de esta sección no se toma ninguna medida: %1</translation>
+    </message>
+    <message>
+        <source>a centile of the machine&apos;s weight is never taken</source>
+        <translation>un percentil del peso del ecógrafo no se toma nunca</translation>
+    </message>
+    <message>
+        <source>no measure that a document stores (%1)</source>
+        <extracomment>%1 is the section of the report that it stands in.</extracomment>
+        <translation>no es una medida que guarde un documento (%1)</translation>
+    </message>
+    <message>
+        <source>the report itself</source>
+        <translation>el propio informe</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no count</source>
+        <translation>«%1» no es un recuento</translation>
+    </message>
+    <message>
+        <source>the report said %1 before</source>
+        <translation>el informe decía antes %1</translation>
+    </message>
+    <message>
+        <source>the report gives several numbers for %1; the first is taken</source>
+        <translation>el informe da varios números para %1; se toma el primero</translation>
+    </message>
+    <message>
+        <source>the report holds no value</source>
+        <translation>el informe no contiene ningún valor</translation>
+    </message>
+    <message>
+        <source>the unit &quot;%1&quot; is neither g nor kg</source>
+        <translation>la unidad «%1» no es g ni kg</translation>
+    </message>
+    <message>
+        <source>the unit &quot;%1&quot; is neither mm nor cm</source>
+        <translation>la unidad «%1» no es mm ni cm</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no finite number</source>
+        <translation>«%1» no es un número finito</translation>
+    </message>
+    <message>
+        <source>it is not above 0</source>
+        <translation>no es mayor que 0</translation>
+    </message>
+    <message>
+        <source>its derivation is &quot;%1&quot;</source>
+        <translation>su derivación es «%1»</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; is no day</source>
+        <extracomment>%1 is what a date of the report is called there, %2 what stands in its place.</extracomment>
+        <translation>%1: «%2» no es un día</translation>
+    </message>
+    <message>
+        <source>%1, by the average ultrasound age, is never taken</source>
+        <translation>%1, según la edad ecográfica media, no se toma nunca</translation>
+    </message>
+    <message>
+        <source>the last period, %1, makes no EDD by itself</source>
+        <translation>la última regla, %1, no da por sí sola una FPP</translation>
+    </message>
+    <message>
+        <source>the report holds two EDDs, %1 and %2; the first is taken</source>
+        <translation>el informe contiene dos FPP, %1 y %2; se toma la primera</translation>
+    </message>
+    <message>
+        <source>%1 is another day than the EDD that is taken</source>
+        <translation>%1 es un día distinto de la FPP que se toma</translation>
+    </message>
+    <message>
+        <source>%1, by the last period, is another day than the EDD that is taken</source>
+        <translation>%1, según la última regla, es un día distinto de la FPP que se toma</translation>
+    </message>
+    <message>
+        <source>another weight is compared</source>
+        <translation>se compara otro peso</translation>
+    </message>
+    <message>
+        <source>it has a private code, and another value the standard one</source>
+        <translation>su código es privado, y otro valor lleva el estándar</translation>
+    </message>
+    <message>
+        <source>%1 stands under a private code of the machine&apos;s maker</source>
+        <translation>%1 figura con un código privado del fabricante del ecógrafo</translation>
+    </message>
+    <message>
+        <source>a %1 value is taken before a %2 one</source>
+        <translation>se prefiere otro valor (%1 antes que %2)</translation>
+    </message>
+    <message>
+        <source>%1: the value that the report flags is %2, and is not taken</source>
+        <translation>%1: el valor que el informe marca es %2, y no se toma</translation>
+    </message>
+    <message>
+        <source>%1 is %2, not measured, though the report flags it</source>
+        <translation>%1: valor %2, no medido, aunque el informe lo marca</translation>
+    </message>
+    <message>
+        <source>%1 is %2, not measured</source>
+        <translation>%1: valor %2, no medido</translation>
+    </message>
+    <message>
+        <source>%1: several %2 values, %3 mm; their mean is taken</source>
+        <translation>%1: varios valores (%2), %3 mm; se toma su media</translation>
+    </message>
+    <message>
+        <source>the report&apos;s weight, %1 g, is not that of its lengths, which is %2 g by %3</source>
+        <translation>el peso del informe, %1 g, no es el de sus medidas, que es de %2 g según %3</translation>
+    </message>
+    <message>
+        <source>is a structured report of a kind that is not read (neither Comprehensive nor Enhanced)</source>
+        <translation>es un informe estructurado de un tipo que no se lee (ni Comprehensive ni Enhanced)</translation>
+    </message>
+    <message>
+        <source>is no structured report</source>
+        <translation>no es un informe estructurado</translation>
+    </message>
+    <message>
+        <source>is a report whose content is missing</source>
+        <translation>es un informe cuyo contenido falta</translation>
+    </message>
+    <message>
+        <source>is no obstetric ultrasound report (its title is &quot;%1&quot;)</source>
+        <translation>no es un informe de ecografía obstétrica (su título es «%1»)</translation>
+    </message>
+    <message>
+        <source>the report says that there are %1 fetuses, and holds %2</source>
+        <translation>número de fetos según el informe: %1; contiene %2</translation>
+    </message>
+    <message>
+        <source>examination %1, fetus %2: %3 %4 is no length, and left out</source>
+        <extracomment>%3 is one of BPD, HC, AC and FL, %4 what stands in its place.</extracomment>
+        <translation>exploración %1, feto %2: %3 %4 no es una medida y se omite</translation>
+    </message>
+    <message>
+        <source>the document is of patient &quot;%1&quot;, not &quot;%2&quot;</source>
+        <translation>el documento es de la paciente «%1», no «%2»</translation>
+    </message>
+    <message>
+        <source>the report&apos;s reference ID has characters that cannot be read; nothing is stored unless the ID is given</source>
+        <translation>el identificador del informe tiene caracteres que no se pueden leer; no se guarda nada si no se indica el identificador</translation>
+    </message>
+    <message>
+        <source>the report names no patient; nothing is stored unless the ID is given</source>
+        <translation>el informe no nombra a ninguna paciente; no se guarda nada si no se indica el identificador</translation>
+    </message>
+    <message>
+        <source>the document names no patient; nothing is stored unless the ID is given</source>
+        <translation>el documento no nombra a ninguna paciente; no se guarda nada si no se indica el identificador</translation>
+    </message>
+    <message>
+        <source>the report is of patient &quot;%1&quot;, the document of &quot;%2&quot;</source>
+        <translation>el informe es de la paciente «%1»; el documento, de «%2»</translation>
+    </message>
+    <message>
+        <source>%1 of the report may be any of the document&apos;s; nothing is stored unless its number is given</source>
+        <extracomment>%1 is a fetus: &quot;fetus &quot;A&quot;&quot;, &quot;a fetus without an ID&quot;.</extracomment>
+        <translation>%1 del informe puede ser cualquiera de los del documento; no se guarda nada si no se indica su número</translation>
+    </message>
+    <message>
+        <source>%1 cannot be fetus %2 of %3</source>
+        <translation>%1 no puede ser el feto %2 de %3</translation>
+    </message>
+    <message>
+        <source>two fetuses of the report cannot both be fetus %1</source>
+        <translation>dos fetos del informe no pueden ser ambos el feto %1</translation>
+    </message>
+    <message>
+        <source>fetus &quot;%1&quot;</source>
+        <translation>el feto «%1»</translation>
+    </message>
+    <message>
+        <source>a fetus without an ID</source>
+        <translation>un feto sin identificador</translation>
+    </message>
+    <message>
+        <source>fetus %1: the CRL is not stored</source>
+        <translation>feto %1: la LCC no se guarda</translation>
+    </message>
+    <message>
+        <source>fetus %1: %2 %3 mm is beyond what a document takes</source>
+        <extracomment>%2 is one of BPD, HC, AC and FL, as in the next one.</extracomment>
+        <translation>feto %1: %2 %3 mm supera lo que admite un documento</translation>
+    </message>
+    <message>
+        <source>fetus %1: %2 stays %3 mm; the report says %4 mm</source>
+        <translation>feto %1: %2 sigue en %3 mm; el informe dice %4 mm</translation>
+    </message>
+    <message>
+        <source>%1 more</source>
+        <extracomment>Stands behind the IDs of some patients, with commas between.</extracomment>
+        <translation>%1 más</translation>
+    </message>
+    <message>
+        <source>one without an ID</source>
+        <extracomment>Of several patients.</extracomment>
+        <translation>una sin identificador</translation>
+    </message>
+    <message>
+        <source>holds examinations of several patients (%1), and a document is of one; nothing is stored. Please import a file for each patient</source>
+        <extracomment>%1 are the IDs of patients.</extracomment>
+        <translation>contiene exploraciones de varias pacientes (%1), y un documento es de una sola; no se guarda nada. Importe un archivo por paciente</translation>
+    </message>
+    <message>
+        <source>the report does not say when the examination was</source>
+        <translation>el informe no dice cuándo fue la exploración</translation>
+    </message>
+    <message>
+        <source>a document takes at most %1 fetuses</source>
+        <translation>un documento admite como máximo %1 fetos</translation>
+    </message>
+    <message>
+        <source>the EDD stays %1; the report says %2</source>
+        <translation>la FPP sigue siendo %1; el informe dice %2</translation>
+    </message>
+    <message>
+        <source>the EDD stays; the report says %1</source>
+        <translation>la FPP no cambia; el informe dice %1</translation>
+    </message>
+    <message>
+        <source>the gravidity stays %1; the report says %2</source>
+        <translation>las gestas siguen siendo %1; el informe dice %2</translation>
+    </message>
+    <message>
+        <source>the number of fetuses stays %1; the report says %2</source>
+        <translation>el número de fetos sigue siendo %1; el informe dice %2</translation>
+    </message>
+    <message>
+        <source>the report holds no length that is stored</source>
+        <translation>el informe no contiene ninguna medida que se guarde</translation>
+    </message>
+    <message>
+        <source>the columns fetus, which counts from 0, and fetus_number, from 1, cannot both stand in the header</source>
+        <translation>las columnas fetus, que cuenta desde 0, y fetus_number, desde 1, no pueden figurar ambas en la cabecera</translation>
+    </message>
+    <message>
+        <source>there is no column %1: never measured</source>
+        <extracomment>%1 are names of columns, &quot;bpd_mm or bpd&quot;, with commas between.</extracomment>
+        <translation>no hay ninguna columna %1: nunca medida</translation>
+    </message>
+    <message>
+        <source>the cell is empty; write the day of the examination like 2026-11-13</source>
+        <translation>la celda está vacía; escriba el día de la exploración como 2026-11-13</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <extracomment>%1 is a column of a table, %2 what is wrong with a cell of it.</extracomment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>the text is no UTF-8; save the table as UTF-8</source>
+        <translation>el texto no es UTF-8; guarde la tabla como UTF-8</translation>
+    </message>
+    <message>
+        <source>%1 is no day; write it like 2027-04-10, or leave the cell empty</source>
+        <extracomment>%1 is what stands there, in quotation marks, in this one and in others of the kind.</extracomment>
+        <translation>%1 no es un día; escríbalo como 2027-04-10 o deje la celda vacía</translation>
+    </message>
+    <message>
+        <source>%1 is no day; write it like 2026-11-13</source>
+        <translation>%1 no es un día; escríbalo como 2026-11-13</translation>
+    </message>
+    <message>
+        <source>%1 is no whole number from %2 to %3</source>
+        <translation>%1 no es un número entero de %2 a %3</translation>
+    </message>
+    <message>
+        <source>%1 is no whole number from %2 on</source>
+        <translation>%1 no es un número entero, %2 o mayor</translation>
+    </message>
+    <message>
+        <source>the cell is empty; number the fetuses from %1</source>
+        <translation>la celda está vacía; numere los fetos desde %1</translation>
+    </message>
+    <message>
+        <source>%1 is beyond what a document takes, 0 to %2 mm</source>
+        <translation>%1 queda fuera de lo que admite un documento, de 0 a %2 mm</translation>
+    </message>
+    <message>
+        <source>line %1: %2</source>
+        <extracomment>%2 is what is wrong with the row of a table that begins at line %1.</extracomment>
+        <translation>línea %1: %2</translation>
+    </message>
+    <message>
+        <source>what stands behind line %1 was not looked at</source>
+        <translation>lo que sigue a la línea %1 no se ha examinado</translation>
+    </message>
+    <message>
+        <source>nothing of this table is taken until every row of it fits</source>
+        <translation>de esta tabla no se toma nada hasta que todas sus filas sean correctas</translation>
+    </message>
+    <message>
+        <source>is a table without an examination</source>
+        <translation>es una tabla sin ninguna exploración</translation>
+    </message>
+    <message>
+        <source>a note is not taken</source>
+        <translation>una nota no se toma</translation>
+    </message>
+    <message>
+        <source>edd: it is not that of line %1, and no reference_id tells the patients apart; write the ID into every row</source>
+        <translation>edd: no es la de la línea %1, y ningún reference_id distingue a las pacientes; escriba el identificador en todas las filas</translation>
+    </message>
+    <message>
+        <source>reference_id: the cell is empty, that of line %1 is not; write the ID into every row</source>
+        <translation>reference_id: la celda está vacía, la de la línea %1 no; escriba el identificador en todas las filas</translation>
+    </message>
+    <message>
+        <source>reference_id: the cell of line %1 is empty, this one is not; write the ID into every row</source>
+        <translation>reference_id: la celda de la línea %1 está vacía, esta no; escriba el identificador en todas las filas</translation>
+    </message>
+    <message>
+        <source>the row is of another file than that of line %1, and no reference_id tells the patients apart; write the rows with --identify</source>
+        <translation>la fila es de otro archivo que la de la línea %1, y ningún reference_id distingue a las pacientes; escriba las filas con --identify</translation>
+    </message>
+    <message>
+        <source>line %1 has the same fetus at the same examination; leave one of the two rows</source>
+        <translation>la línea %1 tiene el mismo feto en la misma exploración; deje solo una de las dos filas</translation>
+    </message>
+    <message>
+        <source>line %1 has a fetus of this examination too; number them from 1, in a column fetus_number</source>
+        <translation>la línea %1 también tiene un feto de esta exploración; numérelos desde 1, en una columna fetus_number</translation>
+    </message>
+    <message>
+        <source>%1: line %2 says something else of the same examination; make them agree</source>
+        <extracomment>%1 is a column of a table.</extracomment>
+        <translation>%1: la línea %2 dice otra cosa de la misma exploración; haga que coincidan</translation>
+    </message>
+    <message>
+        <source>fetus counts from 0, and no row of this examination has 0; where it counts from 1, call the column fetus_number</source>
+        <translation>fetus cuenta desde 0, y ninguna fila de esta exploración tiene 0; si cuenta desde 1, llame a la columna fetus_number</translation>
+    </message>
+</context>
+<context>
     <name>ImportDialog</name>
     <message>
         <source>Examination</source>
@@ -2428,7 +2863,7 @@ desde 1970, sustituye al momento presente.
     </message>
     <message>
         <source>%1 %2 mm is below nine tenths of pi times the BPD, %3 mm</source>
-        <translation>%1 %2 mm es menos de nueve décimas partes de pi por el BPD, %3 mm</translation>
+        <translation>%1 %2 mm es menos de nueve décimas partes de pi por el DBP, %3 mm</translation>
     </message>
     <message>
         <source>%1 %2 mm is improbable</source>
@@ -2446,6 +2881,25 @@ desde 1970, sustituye al momento presente.
     <message>
         <source>its age, %1, is above 45 weeks</source>
         <translation>su edad, %1, supera las 45 semanas</translation>
+    </message>
+</context>
+<context>
+    <name>Modules</name>
+    <message>
+        <source>this program does not know where it lies</source>
+        <translation>este programa no sabe dónde se encuentra</translation>
+    </message>
+    <message>
+        <source>the module %1 is not installed</source>
+        <translation>el módulo %1 no está instalado</translation>
+    </message>
+    <message>
+        <source>the module %1 cannot be loaded: it is another module</source>
+        <translation>no se puede cargar el módulo %1: es otro módulo</translation>
+    </message>
+    <message>
+        <source>the module %1 cannot be loaded: %2</source>
+        <translation>no se puede cargar el módulo %1: %2</translation>
     </message>
 </context>
 <context>
@@ -4335,6 +4789,81 @@ desde 1970, sustituye al momento presente.
     </message>
 </context>
 <context>
+    <name>ReportFiles</name>
+    <message>
+        <source>a text is not in the character set &quot;%1&quot; that the file states</source>
+        <translation>un texto no está en el juego de caracteres «%1» que indica el archivo</translation>
+    </message>
+    <message>
+        <source>is damaged: %1</source>
+        <extracomment>%1 is what a library says, in English, as in all sentences about DICOM that end with a colon.</extracomment>
+        <translation>está dañado: %1</translation>
+    </message>
+    <message>
+        <source>cannot be written: %1</source>
+        <translation>no se puede escribir: %1</translation>
+    </message>
+    <message>
+        <source>is cut off: it ends before its end</source>
+        <translation>está truncado: termina antes de su final</translation>
+    </message>
+    <message>
+        <source>is damaged: a part is longer than what holds it</source>
+        <translation>está dañado: una parte es más larga que lo que la contiene</translation>
+    </message>
+    <message>
+        <source>is damaged: a part is of a kind that DICOM does not have</source>
+        <translation>está dañado: una parte es de un tipo que DICOM no tiene</translation>
+    </message>
+    <message>
+        <source>is no DICOM file</source>
+        <translation>no es un archivo DICOM</translation>
+    </message>
+    <message>
+        <source>has more parts than any report</source>
+        <translation>tiene más partes que cualquier informe</translation>
+    </message>
+    <message>
+        <source>is a DICOM file that does not say how it is encoded</source>
+        <translation>es un archivo DICOM que no dice cómo está codificado</translation>
+    </message>
+    <message>
+        <source>is a compressed DICOM file; reports are read uncompressed</source>
+        <translation>es un archivo DICOM comprimido; los informes se leen sin comprimir</translation>
+    </message>
+    <message>
+        <source>is nested deeper than any report</source>
+        <translation>está anidado más profundamente que cualquier informe</translation>
+    </message>
+    <message>
+        <source>%1: %2.</source>
+        <extracomment>%1 is the name of a file, %2 a sentence about it that begins with a small letter.</extracomment>
+        <translation>%1: %2.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <extracomment>%1 is the path of a file, %2 what the operating system says of it.</extracomment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>is no report that is read: no DICOM file, no FHIR bundle, and no table whose first line names exam_date and lengths such as bpd_mm, with commas between</source>
+        <translation>no es un informe que se lea: ni archivo DICOM, ni paquete FHIR, ni tabla cuya primera línea nombre exam_date y medidas como bpd_mm, separadas por comas</translation>
+    </message>
+    <message>
+        <source>cannot be read: %1</source>
+        <translation>no se puede leer: %1</translation>
+    </message>
+    <message>
+        <source>%1: %2 more row.</source>
+        <extracomment>%2 rows of the file %1 do not fit either.</extracomment>
+        <translation>%1: %2 fila más.</translation>
+    </message>
+    <message>
+        <source>%1: %2 more rows.</source>
+        <translation>%1: %2 filas más.</translation>
+    </message>
+</context>
+<context>
     <name>ReportImport</name>
     <message>
         <source>chosen at the machine</source>
@@ -4511,6 +5040,271 @@ desde 1970, sustituye al momento presente.
     <message>
         <source>There is nothing to be added.</source>
         <translation>No hay nada que añadir.</translation>
+    </message>
+    <message>
+        <source>These reports cannot be imported.</source>
+        <translation>No se pueden importar estos informes.</translation>
+    </message>
+</context>
+<context>
+    <name>ReportServer</name>
+    <message>
+        <source>the host is no name and no IPv4 address</source>
+        <translation>el host no es un nombre ni una dirección IPv4</translation>
+    </message>
+    <message>
+        <source>the port is no number from 1 to 65535</source>
+        <translation>el puerto no es un número del 1 al 65535</translation>
+    </message>
+    <message>
+        <source>the called title is not of 1 to 16 characters of ASCII without a backslash</source>
+        <translation>el título AE llamado no tiene de 1 a 16 caracteres ASCII sin barra invertida</translation>
+    </message>
+    <message>
+        <source>the calling title is not of 1 to 16 characters of ASCII without a backslash</source>
+        <translation>el título AE llamante no tiene de 1 a 16 caracteres ASCII sin barra invertida</translation>
+    </message>
+    <message>
+        <source>the timeout is no number of seconds from 1 to 3600</source>
+        <translation>el tiempo límite no es un número de segundos de 1 a 3600</translation>
+    </message>
+    <message>
+        <source>an encrypted connection needs the file of the certificate authority</source>
+        <translation>una conexión cifrada necesita el archivo de la autoridad de certificación</translation>
+    </message>
+    <message>
+        <source>a certificate needs its key, and a key its certificate</source>
+        <translation>un certificado necesita su clave, y una clave su certificado</translation>
+    </message>
+    <message>
+        <source>the reference ID holds *, ?, a backslash or a control character, which a server does not search for</source>
+        <translation>el identificador contiene *, ?, una barra invertida o un carácter de control, que un servidor no busca</translation>
+    </message>
+    <message>
+        <source>the reference ID holds characters that do not show</source>
+        <translation>el identificador contiene caracteres que no se ven</translation>
+    </message>
+    <message>
+        <source>the reference ID is longer than 64 bytes</source>
+        <translation>el identificador ocupa más de 64 bytes</translation>
+    </message>
+    <message>
+        <source>the reference ID begins or ends with a blank, which a server does not keep</source>
+        <translation>el identificador empieza o termina con un espacio, que un servidor no conserva</translation>
+    </message>
+    <message>
+        <source>the study is no UID, which has digits and dots</source>
+        <translation>el estudio no es un UID, hecho de cifras y puntos</translation>
+    </message>
+    <message>
+        <source>a day is not in the calendar</source>
+        <translation>un día no está en el calendario</translation>
+    </message>
+    <message>
+        <source>the last day is before the first</source>
+        <translation>el último día es anterior al primero</translation>
+    </message>
+    <message>
+        <source>neither a patient nor a study is named</source>
+        <translation>no se indica ni paciente ni estudio</translation>
+    </message>
+    <message>
+        <source>refuses the connection: its title is not &quot;%1&quot;</source>
+        <translation>rechaza la conexión: su título AE no es «%1»</translation>
+    </message>
+    <message>
+        <source>refuses the connection: the title &quot;%1&quot; of this program must be entered there first</source>
+        <translation>rechaza la conexión: el título AE «%1» de este programa debe registrarse allí primero</translation>
+    </message>
+    <message>
+        <source>refuses the connection: it is busy; try again later</source>
+        <translation>rechaza la conexión: está ocupado; vuelva a intentarlo más tarde</translation>
+    </message>
+    <message>
+        <source>refuses the connection, and does not say why</source>
+        <translation>rechaza la conexión y no dice por qué</translation>
+    </message>
+    <message>
+        <source>DCMTK does not find its data dictionary (DCMDICTPATH), without which it does not use the network</source>
+        <translation>DCMTK no encuentra su diccionario de datos (DCMDICTPATH), sin el cual no usa la red</translation>
+    </message>
+    <message>
+        <source>shows a certificate that is not accepted: %1</source>
+        <translation>presenta un certificado que no se acepta: %1</translation>
+    </message>
+    <message>
+        <source>does not make an encrypted connection: %1</source>
+        <translation>no establece una conexión cifrada: %1</translation>
+    </message>
+    <message>
+        <source>answers what is not DICOM</source>
+        <translation>responde algo que no es DICOM</translation>
+    </message>
+    <message>
+        <source>cannot be reached within %1 s</source>
+        <translation>no se puede alcanzar en %1 s</translation>
+    </message>
+    <message>
+        <source>cannot be reached: %1</source>
+        <translation>no se puede alcanzar: %1</translation>
+    </message>
+    <message>
+        <source>gave no complete answer within %1 s</source>
+        <translation>no dio una respuesta completa en %1 s</translation>
+    </message>
+    <message>
+        <source>broke off the connection without saying why</source>
+        <translation>interrumpió la conexión sin decir por qué</translation>
+    </message>
+    <message>
+        <source>ended the connection before its answer was complete</source>
+        <translation>terminó la conexión antes de completar su respuesta</translation>
+    </message>
+    <message>
+        <source>ended the connection without an answer; the connection may have to be encrypted, or must not be</source>
+        <translation>terminó la conexión sin responder; quizá la conexión deba ir cifrada, o no deba</translation>
+    </message>
+    <message>
+        <source>gave an answer that is not understood: %1</source>
+        <translation>dio una respuesta que no se entiende: %1</translation>
+    </message>
+    <message>
+        <source>gave an answer in a context that was not agreed on</source>
+        <translation>respondió en un contexto que no se había acordado</translation>
+    </message>
+    <message>
+        <source>does not hand out reports (C-GET of the study root)</source>
+        <translation>no entrega informes (C-GET de tipo Study Root)</translation>
+    </message>
+    <message>
+        <source>gave an answer that was not asked for</source>
+        <translation>dio una respuesta que no se le había pedido</translation>
+    </message>
+    <message>
+        <source>was not given: %1</source>
+        <translation>no se entregó: %1</translation>
+    </message>
+    <message>
+        <source>cannot be asked: %1</source>
+        <translation>no se le puede preguntar: %1</translation>
+    </message>
+    <message>
+        <source>was not taken: it is longer than any report</source>
+        <translation>no se tomó: es más largo que cualquier informe</translation>
+    </message>
+    <message>
+        <source>was not taken: it is another kind of report</source>
+        <translation>no se tomó: es otro tipo de informe</translation>
+    </message>
+    <message>
+        <source>was not taken: it %1</source>
+        <extracomment>%1 is what is wrong with it: &quot;is cut off: it ends before its end&quot;.</extracomment>
+        <translation>no se tomó: %1</translation>
+    </message>
+    <message>
+        <source>was not taken: the server gave another report than it was asked for</source>
+        <translation>no se tomó: el servidor dio un informe distinto del solicitado</translation>
+    </message>
+    <message>
+        <source>was not taken: it is of &quot;%1&quot;, although the server lists it under &quot;%2&quot;</source>
+        <translation>no se tomó: es de «%1», aunque el servidor lo incluye en «%2»</translation>
+    </message>
+    <message>
+        <source>the other reports were not fetched: these are as many bytes as are taken at once</source>
+        <translation>los demás informes no se recuperaron: estos son tantos bytes como se toman de una vez</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <extracomment>%1 is the UID of a report, %2 what became of it: &quot;was not taken: it is another kind of report&quot;.</extracomment>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>is longer than any report</source>
+        <translation>es más largo que cualquier informe</translation>
+    </message>
+    <message>
+        <source>is no report that is sent: its kind is neither Comprehensive SR nor Enhanced SR</source>
+        <translation>no es un informe que se envíe: su tipo no es Comprehensive SR ni Enhanced SR</translation>
+    </message>
+    <message>
+        <source>has no proper SOP Instance UID, and is not sent</source>
+        <translation>no tiene un SOP Instance UID válido y no se envía</translation>
+    </message>
+    <message>
+        <source>is not taken: the server takes no reports (%1)</source>
+        <translation>no se acepta: el servidor no acepta informes (%1)</translation>
+    </message>
+    <message>
+        <source>is kept by the server, but perhaps not as it was: %1</source>
+        <translation>el servidor lo conserva, pero quizá no tal como era: %1</translation>
+    </message>
+    <message>
+        <source>is not taken by the server: %1</source>
+        <translation>el servidor no lo acepta: %1</translation>
+    </message>
+    <message>
+        <source>does not answer to C-ECHO</source>
+        <translation>no responde a C-ECHO</translation>
+    </message>
+    <message>
+        <source>answers with more than there is memory for</source>
+        <translation>responde con más de lo que cabe en la memoria</translation>
+    </message>
+    <message>
+        <source>there is not enough memory</source>
+        <translation>no hay memoria suficiente</translation>
+    </message>
+    <message>
+        <source>there is no IPv4 address of this host: %1</source>
+        <translation>no hay ninguna dirección IPv4 de este host: %1</translation>
+    </message>
+    <message>
+        <source>the address of this host was not found in time</source>
+        <translation>la dirección de este host no se encontró a tiempo</translation>
+    </message>
+    <message>
+        <source>does not search for reports (C-FIND of the study root)</source>
+        <translation>no busca informes (C-FIND de tipo Study Root)</translation>
+    </message>
+    <message>
+        <source>at most %1 reports are taken, and there are others; name a patient, a study or fewer days</source>
+        <translation>se toman como máximo %1 informes, y hay otros; indique una paciente, un estudio o menos días</translation>
+    </message>
+    <message>
+        <source>%1 answer was left out: it is of another patient, study or day, or names no report by proper UIDs</source>
+        <translation>se omitió %1 respuesta: es de otra paciente, estudio o día, o no nombra ningún informe con UID válidos</translation>
+    </message>
+    <message>
+        <source>%1 answers were left out: they are of another patient, study or day, or name no report by proper UIDs</source>
+        <translation>se omitieron %1 respuestas: son de otra paciente, estudio o día, o no nombran ningún informe con UID válidos</translation>
+    </message>
+    <message>
+        <source>does not search: %1</source>
+        <translation>no busca: %1</translation>
+    </message>
+    <message>
+        <source>encrypted connections are not there: OpenSSL does not begin</source>
+        <translation>no hay conexiones cifradas: OpenSSL no se inicia</translation>
+    </message>
+    <message>
+        <source>encrypted connections are not there: OpenSSL has none of their ciphers</source>
+        <translation>no hay conexiones cifradas: OpenSSL no tiene ninguno de sus cifrados</translation>
+    </message>
+    <message>
+        <source>%1 holds no certificate in PEM that can be read</source>
+        <translation>%1 no contiene ningún certificado PEM que se pueda leer</translation>
+    </message>
+    <message>
+        <source>%1 holds no key in PEM that can be read without a password</source>
+        <translation>%1 no contiene ninguna clave PEM que se pueda leer sin contraseña</translation>
+    </message>
+    <message>
+        <source>%1 is not the key of %2</source>
+        <translation>%1 no es la clave de %2</translation>
+    </message>
+    <message>
+        <source>the name of the host cannot be looked for in a certificate</source>
+        <translation>el nombre del host no se puede buscar en un certificado</translation>
     </message>
 </context>
 <context>

@@ -748,10 +748,6 @@ bpd, hc, ac, fl en mm&#xa0;; efw en g) et projected&#xa0;; docs/json.md les énu
         <translation>les documents d’une archive tar, non compressée, gzip ou zstd&#xa0;; - est l’entrée standard</translation>
     </message>
     <message>
-        <source>growth standards by number or name, intergrowth-2014, with commas between; or all four</source>
-        <translation>standards de croissance par numéro ou nom, ou intergrowth-2014, avec virgules&#xa0;; ou all (les quatre)</translation>
-    </message>
-    <message>
         <source>only these columns, in this order, with commas between</source>
         <translation>ces colonnes seulement, dans cet ordre, séparées par des virgules</translation>
     </message>
@@ -1037,6 +1033,10 @@ graphiques, notes, et les sources de tout ce qui a été utilisé. Chaque docume
 «&#xa0;NAME - Summary.pdf&#xa0;». Les fichiers de même nom sont remplacés, sauf avec --no-clobber.
 SOURCE_DATE_EPOCH, en secondes depuis 1970, prend la place de l’instant présent.
 </translation>
+    </message>
+    <message>
+        <source>growth standards by number or name, intergrowth-2014, with commas between; or all four</source>
+        <translation>standards de croissance par numéro ou nom, ou intergrowth-2014, avec virgules&#xa0;; ou all (les quatre)</translation>
     </message>
 </context>
 <context>
@@ -2350,6 +2350,441 @@ SOURCE_DATE_EPOCH, en secondes depuis 1970, prend la place de l’instant prése
     </message>
 </context>
 <context>
+    <name>Findings</name>
+    <message>
+        <source>BPD</source>
+        <translation>BIP</translation>
+    </message>
+    <message>
+        <source>HC</source>
+        <translation>PC</translation>
+    </message>
+    <message>
+        <source>AC</source>
+        <translation>PA</translation>
+    </message>
+    <message>
+        <source>FL</source>
+        <translation>LF</translation>
+    </message>
+    <message>
+        <source>CRL</source>
+        <translation>LCC</translation>
+    </message>
+    <message>
+        <source>a result of the examination is not in the bundle</source>
+        <translation>un résultat de l’examen n’est pas dans le bundle</translation>
+    </message>
+    <message>
+        <source>an observation of status &quot;%1&quot; is passed over</source>
+        <translation>une observation au statut «&#xa0;%1&#xa0;» est laissée de côté</translation>
+    </message>
+    <message>
+        <source>an observation of another fetus stands in the panel of fetus %1</source>
+        <translation>une observation d’un autre fœtus figure dans le panneau du fœtus %1</translation>
+    </message>
+    <message>
+        <source>is longer than any FHIR bundle that is read (16 MiB)</source>
+        <translation>dépasse tout bundle FHIR qui est lu (16&#xa0;MiB)</translation>
+    </message>
+    <message>
+        <source>is nested deeper than any FHIR bundle</source>
+        <translation>est imbriqué plus profondément qu’aucun bundle FHIR</translation>
+    </message>
+    <message>
+        <source>is no JSON that can be read</source>
+        <translation>n’est pas du JSON lisible</translation>
+    </message>
+    <message>
+        <source>is no FHIR bundle</source>
+        <translation>n’est pas un bundle FHIR</translation>
+    </message>
+    <message>
+        <source>is a FHIR bundle in which two patients have one identifier</source>
+        <translation>est un bundle FHIR où deux patientes ont le même identifiant</translation>
+    </message>
+    <message>
+        <source>is a FHIR bundle without an examination</source>
+        <translation>est un bundle FHIR sans examen</translation>
+    </message>
+    <message>
+        <source>fetus %1: %2</source>
+        <extracomment>%1 is the ID of a fetus, %2 one of its lengths or a sentence about it.</extracomment>
+        <translation>fœtus %1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>flagged</source>
+        <extracomment>This word and the next ones say of a value how it came about: &quot;a flagged value is taken before a plain one&quot;, &quot;fetus 1: BPD is calculated, not measured&quot;. A flagged one was chosen at the machine.</extracomment>
+        <translation>choisie sur l’échographe</translation>
+    </message>
+    <message>
+        <source>mean</source>
+        <translation>moyenne</translation>
+    </message>
+    <message>
+        <source>calculated</source>
+        <translation>calculée</translation>
+    </message>
+    <message>
+        <source>estimated</source>
+        <translation>estimée</translation>
+    </message>
+    <message>
+        <source>plain</source>
+        <translation>simple</translation>
+    </message>
+    <message>
+        <source>gravida</source>
+        <extracomment>Stands in &quot;the report gives several numbers for %1; the first is taken&quot;, as the next one.</extracomment>
+        <translation>la gestité</translation>
+    </message>
+    <message>
+        <source>numberOfFetuses</source>
+        <translation>le nombre de fœtus</translation>
+    </message>
+    <message>
+        <source>the date of the examination, &quot;%1&quot;, is no day</source>
+        <translation>la date de l’examen, «&#xa0;%1&#xa0;», n’est pas un jour</translation>
+    </message>
+    <message>
+        <source>no length is taken from %1</source>
+        <translation>aucune mesure n’est reprise de cette section&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>a centile of the machine&apos;s weight is never taken</source>
+        <translation>un percentile du poids de l’échographe n’est jamais repris</translation>
+    </message>
+    <message>
+        <source>no measure that a document stores (%1)</source>
+        <extracomment>%1 is the section of the report that it stands in.</extracomment>
+        <translation>n’est pas une mesure qu’un document enregistre (%1)</translation>
+    </message>
+    <message>
+        <source>the report itself</source>
+        <translation>le rapport lui-même</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no count</source>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un nombre entier</translation>
+    </message>
+    <message>
+        <source>the report said %1 before</source>
+        <translation>le rapport disait %1 auparavant</translation>
+    </message>
+    <message>
+        <source>the report gives several numbers for %1; the first is taken</source>
+        <translation>le rapport donne plusieurs nombres pour %1&#xa0;; le premier est repris</translation>
+    </message>
+    <message>
+        <source>the report holds no value</source>
+        <translation>le rapport ne contient pas de valeur</translation>
+    </message>
+    <message>
+        <source>the unit &quot;%1&quot; is neither g nor kg</source>
+        <translation>l’unité «&#xa0;%1&#xa0;» n’est ni g ni kg</translation>
+    </message>
+    <message>
+        <source>the unit &quot;%1&quot; is neither mm nor cm</source>
+        <translation>l’unité «&#xa0;%1&#xa0;» n’est ni mm ni cm</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no finite number</source>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un nombre fini</translation>
+    </message>
+    <message>
+        <source>it is not above 0</source>
+        <translation>elle n’est pas supérieure à 0</translation>
+    </message>
+    <message>
+        <source>its derivation is &quot;%1&quot;</source>
+        <translation>son mode d’obtention est «&#xa0;%1&#xa0;»</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; is no day</source>
+        <extracomment>%1 is what a date of the report is called there, %2 what stands in its place.</extracomment>
+        <translation>%1&#xa0;: «&#xa0;%2&#xa0;» n’est pas un jour</translation>
+    </message>
+    <message>
+        <source>%1, by the average ultrasound age, is never taken</source>
+        <translation>%1, d’après l’âge échographique moyen, n’est jamais repris</translation>
+    </message>
+    <message>
+        <source>the last period, %1, makes no EDD by itself</source>
+        <translation>les dernières règles, %1, ne donnent pas à elles seules une DPA</translation>
+    </message>
+    <message>
+        <source>the report holds two EDDs, %1 and %2; the first is taken</source>
+        <translation>le rapport contient deux DPA, %1 et %2&#xa0;; la première est reprise</translation>
+    </message>
+    <message>
+        <source>%1 is another day than the EDD that is taken</source>
+        <translation>%1 est un autre jour que la DPA reprise</translation>
+    </message>
+    <message>
+        <source>%1, by the last period, is another day than the EDD that is taken</source>
+        <translation>%1, d’après les dernières règles, est un autre jour que la DPA reprise</translation>
+    </message>
+    <message>
+        <source>another weight is compared</source>
+        <translation>un autre poids est comparé</translation>
+    </message>
+    <message>
+        <source>it has a private code, and another value the standard one</source>
+        <translation>le code est propre au fabricant, et une autre valeur porte le code standard</translation>
+    </message>
+    <message>
+        <source>%1 stands under a private code of the machine&apos;s maker</source>
+        <translation>%1 figure sous un code propre au fabricant de l’échographe</translation>
+    </message>
+    <message>
+        <source>a %1 value is taken before a %2 one</source>
+        <translation>une autre valeur est préférée (%1 plutôt que %2)</translation>
+    </message>
+    <message>
+        <source>%1: the value that the report flags is %2, and is not taken</source>
+        <translation>%1&#xa0;: la valeur que le rapport signale est %2, et n’est pas reprise</translation>
+    </message>
+    <message>
+        <source>%1 is %2, not measured, though the report flags it</source>
+        <translation>%1&#xa0;: valeur %2, non mesurée, bien que le rapport la signale</translation>
+    </message>
+    <message>
+        <source>%1 is %2, not measured</source>
+        <translation>%1&#xa0;: valeur %2, non mesurée</translation>
+    </message>
+    <message>
+        <source>%1: several %2 values, %3 mm; their mean is taken</source>
+        <translation>%1&#xa0;: plusieurs valeurs (%2), %3&#xa0;mm&#xa0;; leur moyenne est reprise</translation>
+    </message>
+    <message>
+        <source>the report&apos;s weight, %1 g, is not that of its lengths, which is %2 g by %3</source>
+        <translation>le poids du rapport, %1&#xa0;g, n’est pas celui de ses mesures, qui est de %2&#xa0;g selon %3</translation>
+    </message>
+    <message>
+        <source>is a structured report of a kind that is not read (neither Comprehensive nor Enhanced)</source>
+        <translation>est un rapport structuré d’un type qui n’est pas lu (ni Comprehensive ni Enhanced)</translation>
+    </message>
+    <message>
+        <source>is no structured report</source>
+        <translation>n’est pas un rapport structuré</translation>
+    </message>
+    <message>
+        <source>is a report whose content is missing</source>
+        <translation>est un rapport dont le contenu manque</translation>
+    </message>
+    <message>
+        <source>is no obstetric ultrasound report (its title is &quot;%1&quot;)</source>
+        <translation>n’est pas un rapport d’échographie obstétricale (son titre est «&#xa0;%1&#xa0;»)</translation>
+    </message>
+    <message>
+        <source>the report says that there are %1 fetuses, and holds %2</source>
+        <translation>nombre de fœtus selon le rapport&#xa0;: %1&#xa0;; il en contient %2</translation>
+    </message>
+    <message>
+        <source>examination %1, fetus %2: %3 %4 is no length, and left out</source>
+        <extracomment>%3 is one of BPD, HC, AC and FL, %4 what stands in its place.</extracomment>
+        <translation>examen %1, fœtus %2&#xa0;: %3 %4 n’est pas une mesure, et est omis</translation>
+    </message>
+    <message>
+        <source>the document is of patient &quot;%1&quot;, not &quot;%2&quot;</source>
+        <translation>le document est celui de la patiente «&#xa0;%1&#xa0;», et non «&#xa0;%2&#xa0;»</translation>
+    </message>
+    <message>
+        <source>the report&apos;s reference ID has characters that cannot be read; nothing is stored unless the ID is given</source>
+        <translation>l’identifiant du rapport contient des caractères qui ne peuvent pas être lus&#xa0;; rien n’est enregistré à moins d’indiquer l’identifiant</translation>
+    </message>
+    <message>
+        <source>the report names no patient; nothing is stored unless the ID is given</source>
+        <translation>le rapport ne nomme aucune patiente&#xa0;; rien n’est enregistré à moins d’indiquer l’identifiant</translation>
+    </message>
+    <message>
+        <source>the document names no patient; nothing is stored unless the ID is given</source>
+        <translation>le document ne nomme aucune patiente&#xa0;; rien n’est enregistré à moins d’indiquer l’identifiant</translation>
+    </message>
+    <message>
+        <source>the report is of patient &quot;%1&quot;, the document of &quot;%2&quot;</source>
+        <translation>le rapport est celui de la patiente «&#xa0;%1&#xa0;», le document de «&#xa0;%2&#xa0;»</translation>
+    </message>
+    <message>
+        <source>%1 of the report may be any of the document&apos;s; nothing is stored unless its number is given</source>
+        <extracomment>%1 is a fetus: &quot;fetus &quot;A&quot;&quot;, &quot;a fetus without an ID&quot;.</extracomment>
+        <translation>%1 du rapport peut être n’importe lequel du document&#xa0;; rien n’est enregistré à moins d’indiquer son numéro</translation>
+    </message>
+    <message>
+        <source>%1 cannot be fetus %2 of %3</source>
+        <translation>%1 ne peut pas être le fœtus %2 sur %3</translation>
+    </message>
+    <message>
+        <source>two fetuses of the report cannot both be fetus %1</source>
+        <translation>deux fœtus du rapport ne peuvent pas être tous deux le fœtus %1</translation>
+    </message>
+    <message>
+        <source>fetus &quot;%1&quot;</source>
+        <translation>le fœtus «&#xa0;%1&#xa0;»</translation>
+    </message>
+    <message>
+        <source>a fetus without an ID</source>
+        <translation>un fœtus sans identifiant</translation>
+    </message>
+    <message>
+        <source>fetus %1: the CRL is not stored</source>
+        <translation>fœtus %1&#xa0;: la LCC n’est pas enregistrée</translation>
+    </message>
+    <message>
+        <source>fetus %1: %2 %3 mm is beyond what a document takes</source>
+        <extracomment>%2 is one of BPD, HC, AC and FL, as in the next one.</extracomment>
+        <translation>fœtus %1&#xa0;: %2 %3&#xa0;mm dépasse ce qu’un document accepte</translation>
+    </message>
+    <message>
+        <source>fetus %1: %2 stays %3 mm; the report says %4 mm</source>
+        <translation>fœtus %1&#xa0;: %2 reste à %3&#xa0;mm&#xa0;; le rapport dit %4&#xa0;mm</translation>
+    </message>
+    <message>
+        <source>%1 more</source>
+        <extracomment>Stands behind the IDs of some patients, with commas between.</extracomment>
+        <translation>et %1 de plus</translation>
+    </message>
+    <message>
+        <source>one without an ID</source>
+        <extracomment>Of several patients.</extracomment>
+        <translation>une sans identifiant</translation>
+    </message>
+    <message>
+        <source>holds examinations of several patients (%1), and a document is of one; nothing is stored. Please import a file for each patient</source>
+        <extracomment>%1 are the IDs of patients.</extracomment>
+        <translation>contient des examens de plusieurs patientes (%1), et un document est celui d’une seule&#xa0;; rien n’est enregistré. Veuillez importer un fichier par patiente</translation>
+    </message>
+    <message>
+        <source>the report does not say when the examination was</source>
+        <translation>le rapport ne dit pas quand l’examen a eu lieu</translation>
+    </message>
+    <message>
+        <source>a document takes at most %1 fetuses</source>
+        <translation>un document accepte au plus %1 fœtus</translation>
+    </message>
+    <message>
+        <source>the EDD stays %1; the report says %2</source>
+        <translation>la DPA reste %1&#xa0;; le rapport dit %2</translation>
+    </message>
+    <message>
+        <source>the EDD stays; the report says %1</source>
+        <translation>la DPA reste&#xa0;; le rapport dit %1</translation>
+    </message>
+    <message>
+        <source>the gravidity stays %1; the report says %2</source>
+        <translation>la gestité reste %1&#xa0;; le rapport dit %2</translation>
+    </message>
+    <message>
+        <source>the number of fetuses stays %1; the report says %2</source>
+        <translation>le nombre de fœtus reste %1&#xa0;; le rapport dit %2</translation>
+    </message>
+    <message>
+        <source>the report holds no length that is stored</source>
+        <translation>le rapport ne contient aucune mesure qui soit enregistrée</translation>
+    </message>
+    <message>
+        <source>the columns fetus, which counts from 0, and fetus_number, from 1, cannot both stand in the header</source>
+        <translation>les colonnes fetus, qui compte à partir de 0, et fetus_number, à partir de 1, ne peuvent pas figurer toutes deux dans l’en-tête</translation>
+    </message>
+    <message>
+        <source>there is no column %1: never measured</source>
+        <extracomment>%1 are names of columns, &quot;bpd_mm or bpd&quot;, with commas between.</extracomment>
+        <translation>il n’y a pas de colonne %1&#xa0;: jamais mesuré</translation>
+    </message>
+    <message>
+        <source>the cell is empty; write the day of the examination like 2026-11-13</source>
+        <translation>la cellule est vide&#xa0;; écrivez le jour de l’examen comme 2026-11-13</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <extracomment>%1 is a column of a table, %2 what is wrong with a cell of it.</extracomment>
+        <translation>%1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>the text is no UTF-8; save the table as UTF-8</source>
+        <translation>le texte n’est pas en UTF-8&#xa0;; enregistrez le tableau en UTF-8</translation>
+    </message>
+    <message>
+        <source>%1 is no day; write it like 2027-04-10, or leave the cell empty</source>
+        <extracomment>%1 is what stands there, in quotation marks, in this one and in others of the kind.</extracomment>
+        <translation>%1 n’est pas un jour&#xa0;; écrivez-le comme 2027-04-10, ou laissez la cellule vide</translation>
+    </message>
+    <message>
+        <source>%1 is no day; write it like 2026-11-13</source>
+        <translation>%1 n’est pas un jour&#xa0;; écrivez-le comme 2026-11-13</translation>
+    </message>
+    <message>
+        <source>%1 is no whole number from %2 to %3</source>
+        <translation>%1 n’est pas un nombre entier de %2 à %3</translation>
+    </message>
+    <message>
+        <source>%1 is no whole number from %2 on</source>
+        <translation>%1 n’est pas un nombre entier, %2 ou plus</translation>
+    </message>
+    <message>
+        <source>the cell is empty; number the fetuses from %1</source>
+        <translation>la cellule est vide&#xa0;; numérotez les fœtus à partir de %1</translation>
+    </message>
+    <message>
+        <source>%1 is beyond what a document takes, 0 to %2 mm</source>
+        <translation>%1 dépasse ce qu’un document accepte, de 0 à %2&#xa0;mm</translation>
+    </message>
+    <message>
+        <source>line %1: %2</source>
+        <extracomment>%2 is what is wrong with the row of a table that begins at line %1.</extracomment>
+        <translation>ligne %1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>what stands behind line %1 was not looked at</source>
+        <translation>ce qui suit la ligne %1 n’a pas été examiné</translation>
+    </message>
+    <message>
+        <source>nothing of this table is taken until every row of it fits</source>
+        <translation>rien de ce tableau n’est repris tant que toutes ses lignes ne conviennent pas</translation>
+    </message>
+    <message>
+        <source>is a table without an examination</source>
+        <translation>est un tableau sans examen</translation>
+    </message>
+    <message>
+        <source>a note is not taken</source>
+        <translation>une note n’est pas reprise</translation>
+    </message>
+    <message>
+        <source>edd: it is not that of line %1, and no reference_id tells the patients apart; write the ID into every row</source>
+        <translation>edd&#xa0;: ce n’est pas celle de la ligne %1, et aucun reference_id ne distingue les patientes&#xa0;; écrivez l’identifiant dans chaque ligne</translation>
+    </message>
+    <message>
+        <source>reference_id: the cell is empty, that of line %1 is not; write the ID into every row</source>
+        <translation>reference_id&#xa0;: la cellule est vide, celle de la ligne %1 ne l’est pas&#xa0;; écrivez l’identifiant dans chaque ligne</translation>
+    </message>
+    <message>
+        <source>reference_id: the cell of line %1 is empty, this one is not; write the ID into every row</source>
+        <translation>reference_id&#xa0;: la cellule de la ligne %1 est vide, celle-ci ne l’est pas&#xa0;; écrivez l’identifiant dans chaque ligne</translation>
+    </message>
+    <message>
+        <source>the row is of another file than that of line %1, and no reference_id tells the patients apart; write the rows with --identify</source>
+        <translation>la ligne vient d’un autre fichier que celle de la ligne %1, et aucun reference_id ne distingue les patientes&#xa0;; écrivez les lignes avec --identify</translation>
+    </message>
+    <message>
+        <source>line %1 has the same fetus at the same examination; leave one of the two rows</source>
+        <translation>la ligne %1 porte le même fœtus au même examen&#xa0;; ne laissez que l’une des deux lignes</translation>
+    </message>
+    <message>
+        <source>line %1 has a fetus of this examination too; number them from 1, in a column fetus_number</source>
+        <translation>la ligne %1 porte aussi un fœtus de cet examen&#xa0;; numérotez-les à partir de 1, dans une colonne fetus_number</translation>
+    </message>
+    <message>
+        <source>%1: line %2 says something else of the same examination; make them agree</source>
+        <extracomment>%1 is a column of a table.</extracomment>
+        <translation>%1&#xa0;: la ligne %2 dit autre chose du même examen&#xa0;; mettez-les d’accord</translation>
+    </message>
+    <message>
+        <source>fetus counts from 0, and no row of this examination has 0; where it counts from 1, call the column fetus_number</source>
+        <translation>fetus compte à partir de 0, et aucune ligne de cet examen n’a 0&#xa0;; si elle compte à partir de 1, nommez la colonne fetus_number</translation>
+    </message>
+</context>
+<context>
     <name>ImportDialog</name>
     <message>
         <source>Examination</source>
@@ -2432,7 +2867,7 @@ SOURCE_DATE_EPOCH, en secondes depuis 1970, prend la place de l’instant prése
     </message>
     <message>
         <source>%1 %2 mm is below nine tenths of pi times the BPD, %3 mm</source>
-        <translation>%1 %2 mm est inférieur aux neuf dixièmes de pi fois le BPD, %3 mm</translation>
+        <translation>%1 %2 mm est inférieur aux neuf dixièmes de pi fois le BIP, %3 mm</translation>
     </message>
     <message>
         <source>%1 %2 mm is improbable</source>
@@ -2450,6 +2885,25 @@ SOURCE_DATE_EPOCH, en secondes depuis 1970, prend la place de l’instant prése
     <message>
         <source>its age, %1, is above 45 weeks</source>
         <translation>son âge, %1, dépasse 45 SA</translation>
+    </message>
+</context>
+<context>
+    <name>Modules</name>
+    <message>
+        <source>this program does not know where it lies</source>
+        <translation>ce programme ne sait pas où il se trouve</translation>
+    </message>
+    <message>
+        <source>the module %1 is not installed</source>
+        <translation>le module %1 n’est pas installé</translation>
+    </message>
+    <message>
+        <source>the module %1 cannot be loaded: it is another module</source>
+        <translation>le module %1 ne peut pas être chargé&#xa0;: c’est un autre module</translation>
+    </message>
+    <message>
+        <source>the module %1 cannot be loaded: %2</source>
+        <translation>le module %1 ne peut pas être chargé&#xa0;: %2</translation>
     </message>
 </context>
 <context>
@@ -4339,6 +4793,81 @@ SOURCE_DATE_EPOCH, en secondes depuis 1970, prend la place de l’instant prése
     </message>
 </context>
 <context>
+    <name>ReportFiles</name>
+    <message>
+        <source>a text is not in the character set &quot;%1&quot; that the file states</source>
+        <translation>un texte n’est pas dans le jeu de caractères «&#xa0;%1&#xa0;» que le fichier indique</translation>
+    </message>
+    <message>
+        <source>is damaged: %1</source>
+        <extracomment>%1 is what a library says, in English, as in all sentences about DICOM that end with a colon.</extracomment>
+        <translation>est endommagé&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>cannot be written: %1</source>
+        <translation>ne peut pas être écrit&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>is cut off: it ends before its end</source>
+        <translation>est tronqué&#xa0;: il s’arrête avant sa fin</translation>
+    </message>
+    <message>
+        <source>is damaged: a part is longer than what holds it</source>
+        <translation>est endommagé&#xa0;: une partie est plus longue que ce qui la contient</translation>
+    </message>
+    <message>
+        <source>is damaged: a part is of a kind that DICOM does not have</source>
+        <translation>est endommagé&#xa0;: une partie est d’un type que DICOM ne connaît pas</translation>
+    </message>
+    <message>
+        <source>is no DICOM file</source>
+        <translation>n’est pas un fichier DICOM</translation>
+    </message>
+    <message>
+        <source>has more parts than any report</source>
+        <translation>a plus de parties qu’aucun rapport</translation>
+    </message>
+    <message>
+        <source>is a DICOM file that does not say how it is encoded</source>
+        <translation>est un fichier DICOM qui ne dit pas comment il est encodé</translation>
+    </message>
+    <message>
+        <source>is a compressed DICOM file; reports are read uncompressed</source>
+        <translation>est un fichier DICOM compressé&#xa0;; les rapports sont lus sans compression</translation>
+    </message>
+    <message>
+        <source>is nested deeper than any report</source>
+        <translation>est imbriqué plus profondément qu’aucun rapport</translation>
+    </message>
+    <message>
+        <source>%1: %2.</source>
+        <extracomment>%1 is the name of a file, %2 a sentence about it that begins with a small letter.</extracomment>
+        <translation>%1&#xa0;: %2.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <extracomment>%1 is the path of a file, %2 what the operating system says of it.</extracomment>
+        <translation>%1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>is no report that is read: no DICOM file, no FHIR bundle, and no table whose first line names exam_date and lengths such as bpd_mm, with commas between</source>
+        <translation>n’est pas un rapport qui est lu&#xa0;: ni fichier DICOM, ni bundle FHIR, ni tableau dont la première ligne nomme exam_date et des mesures comme bpd_mm, séparées par des virgules</translation>
+    </message>
+    <message>
+        <source>cannot be read: %1</source>
+        <translation>ne peut pas être lu&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>%1: %2 more row.</source>
+        <extracomment>%2 rows of the file %1 do not fit either.</extracomment>
+        <translation>%1&#xa0;: %2 ligne de plus.</translation>
+    </message>
+    <message>
+        <source>%1: %2 more rows.</source>
+        <translation>%1&#xa0;: %2 lignes de plus.</translation>
+    </message>
+</context>
+<context>
     <name>ReportImport</name>
     <message>
         <source>chosen at the machine</source>
@@ -4515,6 +5044,271 @@ SOURCE_DATE_EPOCH, en secondes depuis 1970, prend la place de l’instant prése
     <message>
         <source>There is nothing to be added.</source>
         <translation>Il n’y a rien à ajouter.</translation>
+    </message>
+    <message>
+        <source>These reports cannot be imported.</source>
+        <translation>Ces rapports ne peuvent pas être importés.</translation>
+    </message>
+</context>
+<context>
+    <name>ReportServer</name>
+    <message>
+        <source>the host is no name and no IPv4 address</source>
+        <translation>l’hôte n’est ni un nom ni une adresse IPv4</translation>
+    </message>
+    <message>
+        <source>the port is no number from 1 to 65535</source>
+        <translation>le port n’est pas un nombre de 1 à 65535</translation>
+    </message>
+    <message>
+        <source>the called title is not of 1 to 16 characters of ASCII without a backslash</source>
+        <translation>le titre AE appelé n’a pas de 1 à 16 caractères ASCII sans barre oblique inverse</translation>
+    </message>
+    <message>
+        <source>the calling title is not of 1 to 16 characters of ASCII without a backslash</source>
+        <translation>le titre AE appelant n’a pas de 1 à 16 caractères ASCII sans barre oblique inverse</translation>
+    </message>
+    <message>
+        <source>the timeout is no number of seconds from 1 to 3600</source>
+        <translation>le délai n’est pas un nombre de secondes de 1 à 3600</translation>
+    </message>
+    <message>
+        <source>an encrypted connection needs the file of the certificate authority</source>
+        <translation>une connexion chiffrée exige le fichier de l’autorité de certification</translation>
+    </message>
+    <message>
+        <source>a certificate needs its key, and a key its certificate</source>
+        <translation>un certificat exige sa clé, et une clé son certificat</translation>
+    </message>
+    <message>
+        <source>the reference ID holds *, ?, a backslash or a control character, which a server does not search for</source>
+        <translation>l’identifiant contient *,&#xa0;?, une barre oblique inverse ou un caractère de contrôle, qu’un serveur ne recherche pas</translation>
+    </message>
+    <message>
+        <source>the reference ID holds characters that do not show</source>
+        <translation>l’identifiant contient des caractères qui ne se voient pas</translation>
+    </message>
+    <message>
+        <source>the reference ID is longer than 64 bytes</source>
+        <translation>l’identifiant dépasse 64&#xa0;octets</translation>
+    </message>
+    <message>
+        <source>the reference ID begins or ends with a blank, which a server does not keep</source>
+        <translation>l’identifiant commence ou se termine par une espace, qu’un serveur ne conserve pas</translation>
+    </message>
+    <message>
+        <source>the study is no UID, which has digits and dots</source>
+        <translation>l’étude n’est pas un UID, fait de chiffres et de points</translation>
+    </message>
+    <message>
+        <source>a day is not in the calendar</source>
+        <translation>un jour n’est pas dans le calendrier</translation>
+    </message>
+    <message>
+        <source>the last day is before the first</source>
+        <translation>le dernier jour précède le premier</translation>
+    </message>
+    <message>
+        <source>neither a patient nor a study is named</source>
+        <translation>ni patiente ni étude n’est indiquée</translation>
+    </message>
+    <message>
+        <source>refuses the connection: its title is not &quot;%1&quot;</source>
+        <translation>refuse la connexion&#xa0;: son titre AE n’est pas «&#xa0;%1&#xa0;»</translation>
+    </message>
+    <message>
+        <source>refuses the connection: the title &quot;%1&quot; of this program must be entered there first</source>
+        <translation>refuse la connexion&#xa0;: le titre AE «&#xa0;%1&#xa0;» de ce programme doit d’abord y être enregistré</translation>
+    </message>
+    <message>
+        <source>refuses the connection: it is busy; try again later</source>
+        <translation>refuse la connexion&#xa0;: il est occupé&#xa0;; réessayez plus tard</translation>
+    </message>
+    <message>
+        <source>refuses the connection, and does not say why</source>
+        <translation>refuse la connexion, sans dire pourquoi</translation>
+    </message>
+    <message>
+        <source>DCMTK does not find its data dictionary (DCMDICTPATH), without which it does not use the network</source>
+        <translation>DCMTK ne trouve pas son dictionnaire de données (DCMDICTPATH), sans lequel il n’utilise pas le réseau</translation>
+    </message>
+    <message>
+        <source>shows a certificate that is not accepted: %1</source>
+        <translation>présente un certificat qui n’est pas accepté&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>does not make an encrypted connection: %1</source>
+        <translation>n’établit pas de connexion chiffrée&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>answers what is not DICOM</source>
+        <translation>répond autre chose que du DICOM</translation>
+    </message>
+    <message>
+        <source>cannot be reached within %1 s</source>
+        <translation>ne peut pas être joint en %1&#xa0;s</translation>
+    </message>
+    <message>
+        <source>cannot be reached: %1</source>
+        <translation>ne peut pas être joint&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>gave no complete answer within %1 s</source>
+        <translation>n’a pas donné de réponse complète en %1&#xa0;s</translation>
+    </message>
+    <message>
+        <source>broke off the connection without saying why</source>
+        <translation>a rompu la connexion sans dire pourquoi</translation>
+    </message>
+    <message>
+        <source>ended the connection before its answer was complete</source>
+        <translation>a mis fin à la connexion avant que sa réponse soit complète</translation>
+    </message>
+    <message>
+        <source>ended the connection without an answer; the connection may have to be encrypted, or must not be</source>
+        <translation>a mis fin à la connexion sans réponse&#xa0;; la connexion doit peut-être être chiffrée, ou ne doit pas l’être</translation>
+    </message>
+    <message>
+        <source>gave an answer that is not understood: %1</source>
+        <translation>a donné une réponse qui n’est pas comprise&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>gave an answer in a context that was not agreed on</source>
+        <translation>a donné une réponse dans un contexte qui n’a pas été convenu</translation>
+    </message>
+    <message>
+        <source>does not hand out reports (C-GET of the study root)</source>
+        <translation>ne remet pas de rapports (C-GET de type Study Root)</translation>
+    </message>
+    <message>
+        <source>gave an answer that was not asked for</source>
+        <translation>a donné une réponse qui n’était pas demandée</translation>
+    </message>
+    <message>
+        <source>was not given: %1</source>
+        <translation>n’a pas été remis&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>cannot be asked: %1</source>
+        <translation>ne peut pas être interrogé&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>was not taken: it is longer than any report</source>
+        <translation>n’a pas été pris&#xa0;: il est plus long qu’aucun rapport</translation>
+    </message>
+    <message>
+        <source>was not taken: it is another kind of report</source>
+        <translation>n’a pas été pris&#xa0;: c’est un autre type de rapport</translation>
+    </message>
+    <message>
+        <source>was not taken: it %1</source>
+        <extracomment>%1 is what is wrong with it: &quot;is cut off: it ends before its end&quot;.</extracomment>
+        <translation>n’a pas été pris&#xa0;: il %1</translation>
+    </message>
+    <message>
+        <source>was not taken: the server gave another report than it was asked for</source>
+        <translation>n’a pas été pris&#xa0;: le serveur a donné un autre rapport que celui qui était demandé</translation>
+    </message>
+    <message>
+        <source>was not taken: it is of &quot;%1&quot;, although the server lists it under &quot;%2&quot;</source>
+        <translation>n’a pas été pris&#xa0;: il est de «&#xa0;%1&#xa0;», bien que le serveur le range sous «&#xa0;%2&#xa0;»</translation>
+    </message>
+    <message>
+        <source>the other reports were not fetched: these are as many bytes as are taken at once</source>
+        <translation>les autres rapports n’ont pas été récupérés&#xa0;: ceux-ci font autant d’octets qu’il en est pris à la fois</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <extracomment>%1 is the UID of a report, %2 what became of it: &quot;was not taken: it is another kind of report&quot;.</extracomment>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>is longer than any report</source>
+        <translation>est plus long qu’aucun rapport</translation>
+    </message>
+    <message>
+        <source>is no report that is sent: its kind is neither Comprehensive SR nor Enhanced SR</source>
+        <translation>n’est pas un rapport qui est envoyé&#xa0;: son type n’est ni Comprehensive SR ni Enhanced SR</translation>
+    </message>
+    <message>
+        <source>has no proper SOP Instance UID, and is not sent</source>
+        <translation>n’a pas de SOP Instance UID valable, et n’est pas envoyé</translation>
+    </message>
+    <message>
+        <source>is not taken: the server takes no reports (%1)</source>
+        <translation>n’est pas pris&#xa0;: le serveur ne prend pas de rapports (%1)</translation>
+    </message>
+    <message>
+        <source>is kept by the server, but perhaps not as it was: %1</source>
+        <translation>est conservé par le serveur, mais peut-être pas tel quel&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>is not taken by the server: %1</source>
+        <translation>n’est pas pris par le serveur&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>does not answer to C-ECHO</source>
+        <translation>ne répond pas à C-ECHO</translation>
+    </message>
+    <message>
+        <source>answers with more than there is memory for</source>
+        <translation>répond par plus qu’il n’y a de mémoire</translation>
+    </message>
+    <message>
+        <source>there is not enough memory</source>
+        <translation>il n’y a pas assez de mémoire</translation>
+    </message>
+    <message>
+        <source>there is no IPv4 address of this host: %1</source>
+        <translation>il n’y a pas d’adresse IPv4 pour cet hôte&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>the address of this host was not found in time</source>
+        <translation>l’adresse de cet hôte n’a pas été trouvée à temps</translation>
+    </message>
+    <message>
+        <source>does not search for reports (C-FIND of the study root)</source>
+        <translation>ne recherche pas de rapports (C-FIND de type Study Root)</translation>
+    </message>
+    <message>
+        <source>at most %1 reports are taken, and there are others; name a patient, a study or fewer days</source>
+        <translation>au plus %1 rapports sont pris, et il y en a d’autres&#xa0;; indiquez une patiente, une étude ou moins de jours</translation>
+    </message>
+    <message>
+        <source>%1 answer was left out: it is of another patient, study or day, or names no report by proper UIDs</source>
+        <translation>%1 réponse a été omise&#xa0;: elle porte sur une autre patiente, une autre étude ou un autre jour, ou ne nomme aucun rapport par des UID valables</translation>
+    </message>
+    <message>
+        <source>%1 answers were left out: they are of another patient, study or day, or name no report by proper UIDs</source>
+        <translation>%1 réponses ont été omises&#xa0;: elles portent sur une autre patiente, une autre étude ou un autre jour, ou ne nomment aucun rapport par des UID valables</translation>
+    </message>
+    <message>
+        <source>does not search: %1</source>
+        <translation>ne recherche pas&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>encrypted connections are not there: OpenSSL does not begin</source>
+        <translation>les connexions chiffrées ne sont pas disponibles&#xa0;: OpenSSL ne démarre pas</translation>
+    </message>
+    <message>
+        <source>encrypted connections are not there: OpenSSL has none of their ciphers</source>
+        <translation>les connexions chiffrées ne sont pas disponibles&#xa0;: OpenSSL n’a aucun de leurs algorithmes</translation>
+    </message>
+    <message>
+        <source>%1 holds no certificate in PEM that can be read</source>
+        <translation>%1 ne contient pas de certificat PEM lisible</translation>
+    </message>
+    <message>
+        <source>%1 holds no key in PEM that can be read without a password</source>
+        <translation>%1 ne contient pas de clé PEM lisible sans mot de passe</translation>
+    </message>
+    <message>
+        <source>%1 is not the key of %2</source>
+        <translation>%1 n’est pas la clé de %2</translation>
+    </message>
+    <message>
+        <source>the name of the host cannot be looked for in a certificate</source>
+        <translation>le nom de l’hôte ne peut pas être cherché dans un certificat</translation>
     </message>
 </context>
 <context>

@@ -280,7 +280,7 @@ class NCDocument final : public framework::CorvelDocument,
   /// What a file of it is called; `extension` begins with a dot, or is empty.
   std::string dataFileName(std::string_view extension) const;
   /// What writes DICOM reports; or why there is nothing that does, in a sentence.
-  using FindReportFiles = std::function<std::variant<exchange::ReportFiles*, std::string>()>;
+  using FindReportFiles = std::function<std::variant<exchange::ReportFiles*, foundation::Sentence>()>;
   /// Writes it into the file at `path`, by how that ends: ".fhir.json" a FHIR bundle, ".json" JSON, ".dcm" the examination on
   /// show as a DICOM report, else CSV. The text in edit reaches the records first. Nothing when it was written, else why not.
   std::optional<std::string> exportData(const std::string& path, const FindReportFiles& reportFiles = {});

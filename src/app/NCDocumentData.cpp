@@ -13,6 +13,7 @@
 #include "exchange/OutgoingExamination.h"
 #include "foundation/JsonText.h"
 #include "foundation/Localizer.h"
+#include "foundation/Sentence.h"
 #include "framework/FileName.h"
 #include "model/PatientJson.h"
 #include "rows/PatientRows.h"
@@ -56,8 +57,10 @@ std::variant<std::vector<std::byte>, std::string> NCDocument::examinationAsRepor
   if (shown == all.end()) return services().localizer.text("NCDocument", "There is no examination.");
   if (!reportFiles) return services().localizer.text("NCDocument", "Nothing here writes DICOM reports.");
   const auto files = reportFiles();
-  if (const auto* why = std::get_if<std::string>(&files)) return *why;
-  return std::get<exchange::ReportFiles*>(files)->write(exchange::reportOf(*shown));
+  if (const auto* why = std::get_if<foundation::Sentence>(&files)) return said(*why, services().localizer);
+  auto written = std::get<exchange::ReportFiles*>(files)->write(exchange::reportOf(*shown));
+  if (const auto* why = std::get_if<foundation::Sentence>(&written)) return said(*why, services().localizer);
+  return std::get<std::vector<std::byte>>(std::move(written));
 }
 
 std::optional<std::string> NCDocument::exportData(const std::string& path,

@@ -48,7 +48,7 @@ std::optional<std::string> NCDocument::exportSummary(const std::string& path,
     bytes.assign(all.begin(), all.end());
   } else {
     const auto found = typesetter();
-    if (const auto* why = std::get_if<std::string>(&found)) return *why;
+    if (const auto* why = std::get_if<foundation::Sentence>(&found)) return said(*why, services().localizer);
     auto document = std::get<summary::Typesetter*>(found)->pdf(*content, summaryPaper());
     if (const auto* why = std::get_if<std::string>(&document)) return *why;
     bytes = std::move(std::get<std::vector<std::byte>>(document));

@@ -21,6 +21,7 @@ using exchange::FetusFindings;
 using exchange::Findings;
 using exchange::kLengthTerms;
 using exchange::PatientDoubt;
+using foundation::Sentence;
 using foundation::translatable;
 
 namespace {
@@ -50,11 +51,6 @@ std::string_view howChosen(std::string_view chosen) {
 }
 
 bool isDerived(std::string_view chosen) { return chosen == "calculated" || chosen == "estimated"; }
-
-std::string capitalised(std::string text) {
-  if (!text.empty() && text[0] >= 'a' && text[0] <= 'z') text[0] = static_cast<char>(text[0] - 'a' + 'A');
-  return text;
-}
 
 }  // namespace
 
@@ -253,8 +249,7 @@ void ReportImport::foresee() {
     const auto stored = exchange::storeFindings(wanted.findings, confirmation, false,
                                                 document_.services().calendar, *foreseen_);
     addRows(report, wanted, std::get_if<exchange::Stored>(&stored));
-    const auto* why = std::get_if<std::string>(&stored);
-    if (why) addRemark(report, "", capitalised(*why) + ".");
+    if (const auto* why = std::get_if<Sentence>(&stored)) addRemark(report, "", *why);
   }
   if (foreseen_->ncRecordsArray().empty()) {
     for (const auto& blank : document_.patientRecord()->ncRecordsArray()) {
@@ -274,9 +269,9 @@ ReportImport::Row& ReportImport::addRow(std::size_t report, std::size_t value, c
                                 .key = {report, value}});
 }
 
-void ReportImport::addRemark(std::size_t report, const std::string& fetus, const std::string& sentence) {
+void ReportImport::addRemark(std::size_t report, const std::string& fetus, const Sentence& sentence) {
   Row& row = addRow(report, 0, fetus, inWords(translatable("ReportImport", "Note")));
-  row.outcome = foundation::shownLine(sentence);
+  row.outcome = foundation::shownLine(saidAlone(sentence, document_.services().localizer));
   row.isWarning = true;
 }
 
@@ -335,7 +330,7 @@ void ReportImport::addRows(std::size_t report, const Wanted& wanted, const excha
       row.outcome = inWords(translatable("ReportImport", "is compared only"));
     }
   }
-  for (const std::string& warning : findings.warnings) addRemark(report, "", capitalised(warning) + ".");
+  for (const Sentence& warning : findings.warnings) addRemark(report, "", warning);
   for (const exchange::NotTaken& not_taken : findings.notTaken) addNotTaken(report, not_taken);
 }
 
@@ -425,8 +420,8 @@ void ReportImport::addNotTaken(std::size_t report, const exchange::NotTaken& not
     row.reported =
         numberText(foundation::shortestText(*notTaken.value)) + " " + foundation::shownLine(notTaken.unit);
   }
-  row.outcome =
-      inWords(translatable("ReportImport", "is not taken:")) + " " + foundation::shownLine(notTaken.why);
+  const std::string why = said(notTaken.why, document_.services().localizer);
+  row.outcome = inWords(translatable("ReportImport", "is not taken:")) + " " + foundation::shownLine(why);
 }
 
 std::string ReportImport::findObstacleOfFetuses(const Findings& report) const {

@@ -16,6 +16,7 @@
 #include "app/NCDocument.h"
 #include "exchange/Findings.h"
 #include "exchange/Storing.h"
+#include "foundation/Sentence.h"
 #include "model/PatientRecord.h"
 
 namespace nascor::app {
@@ -102,7 +103,7 @@ class ReportImport {
   Wanted wantedOf(std::size_t report) const;
 
   Row& addRow(std::size_t report, std::size_t value, const std::string& fetus, const std::string& what);
-  void addRemark(std::size_t report, const std::string& fetus, const std::string& sentence);
+  void addRemark(std::size_t report, const std::string& fetus, const foundation::Sentence& sentence);
   void addRows(std::size_t report, const Wanted& wanted, const exchange::Stored* stored);
   void addEDD(std::size_t report, const exchange::Stored* stored);
   void addGravida(std::size_t report, const exchange::Stored* stored);

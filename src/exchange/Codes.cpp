@@ -6,12 +6,20 @@
 #include <algorithm>
 
 #include "calc/FetalWeight.h"
+#include "foundation/Localizer.h"
 
 namespace nascor::exchange {
 
 static_assert(kWeightEquations.size() == calc::kWeightFormulaCount);
 
 namespace {
+
+using foundation::translatable;
+
+constexpr std::array kLabels{translatable("Findings", "BPD"), translatable("Findings", "HC"),
+                             translatable("Findings", "AC"), translatable("Findings", "FL"),
+                             translatable("Findings", "CRL")};
+static_assert(kLabels.size() == kLengthTerms.size());
 
 struct DerivationTerm {
   std::string_view older;  ///< SRT; SNM3 is its name in old files
@@ -30,6 +38,8 @@ constexpr std::array kDerivations{
 };
 
 }  // namespace
+
+foundation::Sentence labelOf(std::size_t length) { return {"Findings", kLabels.at(length)}; }
 
 Derivation derivationOf(const Code& code) {
   const bool isOlder = code.scheme == "SRT" || code.scheme == "SNM3";

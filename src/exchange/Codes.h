@@ -10,6 +10,7 @@
 #include <string_view>
 
 #include "exchange/StructuredReport.h"
+#include "foundation/Sentence.h"
 
 namespace nascor::exchange {
 
@@ -94,6 +95,8 @@ inline constexpr std::array kLengthTerms{
     LengthTerm{"bpd", "BPD", term::bpd}, LengthTerm{"hc", "HC", term::hc}, LengthTerm{"ac", "AC", term::ac},
     LengthTerm{"fl", "FL", term::fl}, LengthTerm{"crl", "CRL", term::crl}};
 inline constexpr std::size_t kFemur = 3;
+/// The label of that length in the user's language.
+foundation::Sentence labelOf(std::size_t length);
 inline constexpr std::size_t kStoredLengths = 4;
 
 /// The term of a weight formula, by its identifier (calc/FetalWeight.h). Combs and Ott have no standard code, and get one

@@ -17,6 +17,7 @@ namespace nascor::exchange {
 
 namespace {
 
+using foundation::Sentence;
 using Json = nlohmann::json;
 
 /// A member of an object; null when there is none, or no object.
@@ -157,12 +158,13 @@ class Bundle {
   /// Whether an observation is there and counts.
   static bool holds(const Json& observation, StructuredReport& report) {
     if (textIn(observation, "resourceType") != "Observation") {
-      report.warnings.emplace_back("a result of the examination is not in the bundle");
+      report.warnings.push_back(Sentence("Findings", "a result of the examination is not in the bundle"));
       return false;
     }
     const std::string status = textIn(observation, "status");
     if (status == "final" || status == "amended" || status == "corrected") return true;
-    report.warnings.push_back("an observation of status \"" + status + "\" is passed over");
+    report.warnings.push_back(
+        Sentence("Findings", "an observation of status \"%1\" is passed over").with(status));
     return false;
   }
 
@@ -180,7 +182,9 @@ class Bundle {
       const Json& measure = referred(*reference);
       if (!holds(measure, report)) continue;
       if (fetusOf(measure) != fetus) {
-        report.warnings.push_back("an observation of another fetus stands in the panel of fetus " + fetus);
+        report.warnings.push_back(
+            Sentence("Findings", "an observation of another fetus stands in the panel of fetus %1")
+                .with(fetus));
         continue;
       }
       biometry.items.push_back(valueOf(measure, codeOf(member(measure, "code"))));
@@ -258,19 +262,21 @@ std::optional<std::string> withBlanksBetween(std::string_view json) {
 
 }  // namespace
 
-std::variant<std::vector<StructuredReport>, std::string> reportsInBundle(std::string_view json) {
+std::variant<std::vector<StructuredReport>, Sentence> reportsInBundle(std::string_view json) {
   // As much as an archive of one patient never is, and its tree would fill the memory.
   constexpr std::size_t kLongest = std::size_t{16} << 20U;
-  if (json.size() > kLongest) return "is longer than any FHIR bundle that is read (16 MiB)";
+  if (json.size() > kLongest)
+    return Sentence("Findings", "is longer than any FHIR bundle that is read (16 MiB)");
   const auto plain = withBlanksBetween(json);
-  if (!plain) return "is nested deeper than any FHIR bundle";
+  if (!plain) return Sentence("Findings", "is nested deeper than any FHIR bundle");
   const Json parsed = Json::parse(plain->begin(), plain->end(), nullptr, false);
-  if (parsed.is_discarded()) return "is no JSON that can be read";
-  if (textIn(parsed, "resourceType") != "Bundle") return "is no FHIR bundle";
+  if (parsed.is_discarded()) return Sentence("Findings", "is no JSON that can be read");
+  if (textIn(parsed, "resourceType") != "Bundle") return Sentence("Findings", "is no FHIR bundle");
   const Bundle bundle(parsed);
-  if (bundle.hasNamesakes()) return "is a FHIR bundle in which two patients have one identifier";
+  if (bundle.hasNamesakes())
+    return Sentence("Findings", "is a FHIR bundle in which two patients have one identifier");
   auto reports = bundle.reports();
-  if (reports.empty()) return "is a FHIR bundle without an examination";
+  if (reports.empty()) return Sentence("Findings", "is a FHIR bundle without an examination");
   return reports;
 }
 

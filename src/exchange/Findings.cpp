@@ -16,6 +16,7 @@ namespace nascor::exchange {
 
 namespace {
 
+using foundation::Sentence;
 using foundation::shortestText;
 
 /// What identifies the fetus of a section. Each part is inherited from the section around it.
@@ -120,8 +121,27 @@ bool holdsLengths(const Place& place) {
           is(*place.section, term::earlyGestation));
 }
 
-std::string ofFetus(const std::optional<std::string>& id) {
-  return id ? "fetus " + *id + ": " : std::string();
+Sentence ofFetus(const std::optional<std::string>& id, const Sentence& what) {
+  //: %1 is the ID of a fetus, %2 one of its lengths or a sentence about it.
+  return id ? Sentence("Findings", "fetus %1: %2").with(*id, what) : what;
+}
+
+/// What `kindOf` and `nameOf` say, in a sentence.
+Sentence wordFor(std::string_view kind) {
+  //: This word and the next ones say of a value how it came about: "a flagged value is taken before a plain one", "fetus 1: BPD
+  //: is calculated, not measured". A flagged one was chosen at the machine.
+  if (kind == "flagged") return Sentence("Findings", "flagged");
+  if (kind == "mean") return Sentence("Findings", "mean");
+  if (kind == "calculated") return Sentence("Findings", "calculated");
+  if (kind == "estimated") return Sentence("Findings", "estimated");
+  return Sentence("Findings", "plain");
+}
+
+/// What `Collector::count` counts, in a sentence.
+Sentence countFor(std::string_view key) {
+  //: Stands in "the report gives several numbers for %1; the first is taken", as the next one.
+  if (key == "gravida") return Sentence("Findings", "gravida");
+  return Sentence("Findings", "numberOfFetuses");
 }
 
 class Collector {
@@ -133,7 +153,7 @@ class Collector {
     const std::string_view date = studyDate.empty() ? withoutBlanks(report.contentDate) : studyDate;
     findings_.examDate = dayFromDigits(date);
     if (!findings_.examDate && !date.empty())
-      warn("the date of the examination, \"" + std::string(date) + "\", is no day");
+      warn(Sentence("Findings", "the date of the examination, \"%1\", is no day").with(date));
 
     Place top;
     identify(report.root, top, true);
@@ -146,13 +166,13 @@ class Collector {
   Findings takeFindings() { return std::move(findings_); }
 
  private:
-  void warn(std::string sentence) { findings_.warnings.push_back(std::move(sentence)); }
+  void warn(Sentence sentence) { findings_.warnings.push_back(std::move(sentence)); }
 
   void passOver(const std::optional<std::string>& fetus, std::string what, std::optional<double> value,
-                std::string unit, std::string why) {
+                std::string unit, Sentence why) {
     findings_.notTaken.push_back({fetus, std::move(what), value, std::move(unit), std::move(why)});
   }
-  void passOver(const ContentItem& item, const Place& place, std::string what, std::string why) {
+  void passOver(const ContentItem& item, const Place& place, std::string what, Sentence why) {
     passOver(place.fetus.id(), std::move(what), decimalMoved(item.text, 0), item.code.value, std::move(why));
   }
 
@@ -212,21 +232,23 @@ class Collector {
         candidate(item, place, *length, false);
       } else {
         passOver(item, place, std::string(kLengthTerms[*length].key),
-                 "no length is taken from " + sectionOf(place));
+                 Sentence("Findings", "no length is taken from %1").with(sectionOf(place)));
       }
     } else if (isPrivateFemur(item.name, place)) {
       candidate(item, place, kFemur, true);
     } else if (is(item.name, term::efw)) {
       weight(item, place);
     } else if (is(item.name, term::efwCentile)) {
-      passOver(item, place, meaningOf(item.name), "a centile of the machine's weight is never taken");
+      passOver(item, place, meaningOf(item.name),
+               Sentence("Findings", "a centile of the machine's weight is never taken"));
     } else if (is(item.name, term::gravida)) {
       count(item, place, "gravida", findings_.gravida);
     } else if (is(item.name, term::numberOfFetuses) || is(item.name, term::numberOfFetusesToo)) {
       count(item, place, "numberOfFetuses", findings_.numberOfFetuses);
     } else if (!place.inGroup || !isOfAMeasure(item.name)) {
       passOver(item, place, meaningOf(item.name),
-               "no measure that a document stores (" + sectionOf(place) + ")");
+               //: %1 is the section of the report that it stands in.
+               Sentence("Findings", "no measure that a document stores (%1)").with(sectionOf(place)));
     }
   }
 
@@ -235,17 +257,20 @@ class Collector {
     return is(name, term::gestationalAge) || is(name, term::centileRank) || is(name, term::zScoreRank);
   }
 
-  static std::string sectionOf(const Place& place) {
-    return place.section ? meaningOf(*place.section) : "the report itself";
+  static Sentence sectionOf(const Place& place) {
+    return place.section ? Sentence::verbatim(meaningOf(*place.section))
+                         : Sentence("Findings", "the report itself");
   }
 
   void count(const ContentItem& item, const Place& place, std::string_view key, std::optional<int>& result) {
     const auto number = wholeNumber(item.text);
     if (!number || *number < 0) {
-      passOver(item, place, std::string(key), "\"" + item.text + "\" is no count");
+      passOver(item, place, std::string(key), Sentence("Findings", "\"%1\" is no count").with(item.text));
     } else if (result && *result != *number) {
-      passOver(item, place, std::string(key), "the report said " + std::to_string(*result) + " before");
-      warn("the report gives several numbers for " + std::string(key) + "; the first is taken");
+      passOver(item, place, std::string(key),
+               Sentence("Findings", "the report said %1 before").with(*result));
+      warn(Sentence("Findings", "the report gives several numbers for %1; the first is taken")
+               .with(countFor(key)));
     } else {
       result = number;
     }
@@ -261,16 +286,18 @@ class Collector {
   }
 
   /// The positive number of an item in `unit`, or why it has none.
-  static std::variant<double, std::string> positiveIn(const Term& unit, const ContentItem& item) {
-    if (item.text.empty()) return "the report holds no value";
+  static std::variant<double, Sentence> positiveIn(const Term& unit, const ContentItem& item) {
+    if (item.text.empty()) return Sentence("Findings", "the report holds no value");
     const auto places = placesTo(unit, item.code);
     if (!places) {
-      return "the unit \"" + item.code.value + "\" is neither " +
-             (unit.value == term::gram.value ? "g nor kg" : "mm nor cm");
+      const bool isWeight = unit.value == term::gram.value;
+      const auto why = isWeight ? Sentence("Findings", "the unit \"%1\" is neither g nor kg")
+                                : Sentence("Findings", "the unit \"%1\" is neither mm nor cm");
+      return why.with(item.code.value);
     }
     const auto value = decimalMoved(item.text, *places);
-    if (!value) return "\"" + item.text + "\" is no finite number";
-    if (!(*value > 0.0)) return "it is not above 0";
+    if (!value) return Sentence("Findings", "\"%1\" is no finite number").with(item.text);
+    if (!(*value > 0.0)) return Sentence("Findings", "it is not above 0");
     return *value;
   }
 
@@ -293,11 +320,13 @@ class Collector {
     Fetus& fetus = fetusAt(place);
     const std::string key(kLengthTerms[length].key);
     const auto mm = positiveIn(term::millimetre, item);
-    if (const auto* why = std::get_if<std::string>(&mm)) return passOver(item, place, key, *why);
+    if (const auto* why = std::get_if<Sentence>(&mm)) return passOver(item, place, key, *why);
     const Derivation derivation = derivationIn(item);
     if (derivation == Derivation::never || derivation == Derivation::unknown) {
       const ContentItem* said = childNamed(item, term::derivation);
-      return passOver(item, place, key, "its derivation is \"" + (said ? meaningOf(said->code) : "") + "\"");
+      return passOver(
+          item, place, key,
+          Sentence("Findings", "its derivation is \"%1\"").with(said ? meaningOf(said->code) : ""));
     }
     fetus.candidates.at(length).push_back({.mm = std::get<double>(mm),
                                            .value = decimalMoved(item.text, 0).value_or(0.0),
@@ -310,7 +339,7 @@ class Collector {
   void weight(const ContentItem& item, const Place& place) {
     Fetus& fetus = fetusAt(place);
     const auto grams = positiveIn(term::gram, item);
-    if (const auto* why = std::get_if<std::string>(&grams)) return passOver(item, place, "efw", *why);
+    if (const auto* why = std::get_if<Sentence>(&grams)) return passOver(item, place, "efw", *why);
     Weight weight{.grams = std::get<double>(grams), .flagged = isFlagged(item), .formula = {}};
     if (const ContentItem* equation = childNamed(item, term::equation)) {
       const auto found =
@@ -330,7 +359,8 @@ class Collector {
     const auto day = dayFromDigits(std::string_view(item.text).substr(0, dayLength(item.text)));
     const auto refuse = [&](const char* what) {
       passOver(std::nullopt, what, std::nullopt, "",
-               meaningOf(item.name) + ": \"" + item.text + "\" is no day");
+               //: %1 is what a date of the report is called there, %2 what stands in its place.
+               Sentence("Findings", "%1: \"%2\" is no day").with(meaningOf(item.name), item.text));
     };
     if (is(item.name, term::edd)) {
       if (!day) return refuse("edd");
@@ -341,11 +371,11 @@ class Collector {
     } else if (is(item.name, term::eddByAge)) {
       if (!day) return refuse("edd");
       passOver(std::nullopt, "edd", std::nullopt, "",
-               isoText(*day) + ", by the average ultrasound age, is never taken");
+               Sentence("Findings", "%1, by the average ultrasound age, is never taken").with(isoText(*day)));
     } else if (is(item.name, term::lmp) || is(item.name, term::lmpOlder)) {
       if (!day) return refuse("lmp");
       passOver(std::nullopt, "lmp", std::nullopt, "",
-               "the last period, " + isoText(*day) + ", makes no EDD by itself");
+               Sentence("Findings", "the last period, %1, makes no EDD by itself").with(isoText(*day)));
     }
   }
 
@@ -360,17 +390,17 @@ class Collector {
     if (days.empty()) return;
     findings_.edd = days.front();
     findings_.eddFrom = byLMP ? "lmp" : "edd";
-    const auto passOverOthers = [&](const std::vector<foundation::CivilDay>& others, const char* name) {
+    const auto passOverOthers = [&](const std::vector<foundation::CivilDay>& others, const Sentence& why) {
       for (const auto& day : others) {
         if (day == *findings_.edd) continue;
-        passOver(std::nullopt, "edd", std::nullopt, "",
-                 isoText(day) + name + " is another day than the EDD that is taken");
-        warn("the report holds two EDDs, " + isoText(*findings_.edd) + " and " + isoText(day) +
-             "; the first is taken");
+        passOver(std::nullopt, "edd", std::nullopt, "", why.with(isoText(day)));
+        warn(Sentence("Findings", "the report holds two EDDs, %1 and %2; the first is taken")
+                 .with(isoText(*findings_.edd), isoText(day)));
       }
     };
-    passOverOthers(edds_, "");
-    passOverOthers(eddsByLMP_, ", by the last period,");
+    passOverOthers(edds_, Sentence("Findings", "%1 is another day than the EDD that is taken"));
+    passOverOthers(eddsByLMP_,
+                   Sentence("Findings", "%1, by the last period, is another day than the EDD that is taken"));
   }
 
   void finish(Fetus& fetus) {
@@ -381,26 +411,26 @@ class Collector {
     if (fetus.weights.empty()) return;
     found.efw = fetus.weights.front().grams;
     for (auto other = fetus.weights.begin() + 1; other != fetus.weights.end(); ++other)
-      passOver(fetus.id, "efw", other->grams, "g", "another weight is compared");
+      passOver(fetus.id, "efw", other->grams, "g", Sentence("Findings", "another weight is compared"));
     compareWeight(found, fetus.weights.front());
   }
 
   std::optional<FoundLength> choose(Fetus& fetus, std::size_t length) {
     const LengthTerm& term = kLengthTerms.at(length);
     std::vector<Candidate>& candidates = fetus.candidates.at(length);
-    const std::string subject = ofFetus(fetus.id) + std::string(term.label);
-    const auto leave = [&](const Candidate& candidate, std::string why) {
+    const Sentence subject = ofFetus(fetus.id, labelOf(length));
+    const auto leave = [&](const Candidate& candidate, Sentence why) {
       passOver(fetus.id, std::string(term.key), candidate.value, candidate.unit, std::move(why));
     };
 
     if (!std::ranges::all_of(candidates, &Candidate::isPrivate)) {
       for (const Candidate& candidate : candidates) {
         if (candidate.isPrivate)
-          leave(candidate, "it has a private code, and another value the standard one");
+          leave(candidate, Sentence("Findings", "it has a private code, and another value the standard one"));
       }
       std::erase_if(candidates, [](const Candidate& candidate) { return candidate.isPrivate; });
     } else if (!candidates.empty()) {
-      warn(subject + " stands under a private code of the machine's maker");
+      warn(Sentence("Findings", "%1 stands under a private code of the machine's maker").with(subject));
     }
     if (candidates.empty()) return std::nullopt;
 
@@ -410,23 +440,23 @@ class Collector {
       if (rankOf(candidate) == rankOf(best)) {
         values.push_back(candidate.mm);
       } else {
-        leave(candidate, std::string("a ")
-                             .append(kindOf(best))
-                             .append(" value is taken before a ")
-                             .append(kindOf(candidate))
-                             .append(" one"));
+        leave(candidate, Sentence("Findings", "a %1 value is taken before a %2 one")
+                             .with(wordFor(kindOf(best)), wordFor(kindOf(candidate))));
         if (candidate.flagged && isLast(candidate.derivation))
-          warn(subject + ": the value that the report flags is " + std::string(nameOf(candidate.derivation)) +
-               ", and is not taken");
+          warn(Sentence("Findings", "%1: the value that the report flags is %2, and is not taken")
+                   .with(subject, wordFor(nameOf(candidate.derivation))));
       }
     }
-    if (isLast(best.derivation))
-      warn(subject + " is " + std::string(nameOf(best.derivation)) + ", not measured" +
-           (best.flagged ? ", though the report flags it" : ""));
+    if (isLast(best.derivation)) {
+      const auto warning = best.flagged
+                               ? Sentence("Findings", "%1 is %2, not measured, though the report flags it")
+                               : Sentence("Findings", "%1 is %2, not measured");
+      warn(warning.with(subject, wordFor(nameOf(best.derivation))));
+    }
     return meanOf(std::move(values), kindOf(best), subject);
   }
 
-  FoundLength meanOf(std::vector<double> distinct, std::string_view kind, const std::string& subject) {
+  FoundLength meanOf(std::vector<double> distinct, std::string_view kind, const Sentence& subject) {
     std::ranges::sort(distinct);
     distinct.erase(std::unique(distinct.begin(), distinct.end()), distinct.end());
     if (distinct.size() == 1) return {.mm = distinct.front(), .chosen = kind};
@@ -439,7 +469,8 @@ class Collector {
     }
     const double mean = sum / static_cast<double>(distinct.size());
     if (!std::isfinite(mean)) return {.mm = distinct.front(), .chosen = kind};
-    warn(subject + ": several " + std::string(kind) + " values, " + list + " mm; their mean is taken");
+    warn(Sentence("Findings", "%1: several %2 values, %3 mm; their mean is taken")
+             .with(subject, wordFor(kind), list));
     return {.mm = mean, .chosen = "mean of several"};
   }
 
@@ -463,9 +494,10 @@ class Collector {
     }
     constexpr double kTolerance = 0.01;
     if (!nearest || std::fabs(weight.grams - ours) <= kTolerance * ours) return;
-    warn(ofFetus(found.id) + "the report's weight, " + foundation::fixedText(weight.grams, 0) +
-         " g, is not that of its lengths, which is " + foundation::fixedText(ours, 0) + " g by " +
-         std::string(formulas[*nearest].longLabel));
+    const auto warning =
+        Sentence("Findings", "the report's weight, %1 g, is not that of its lengths, which is %2 g by %3");
+    warn(ofFetus(found.id, warning.with(foundation::fixedText(weight.grams, 0),
+                                        foundation::fixedText(ours, 0), formulas[*nearest].longLabel)));
   }
 
   Findings findings_;
@@ -477,24 +509,27 @@ class Collector {
 
 }  // namespace
 
-std::variant<Findings, std::string> findingsIn(const StructuredReport& report) {
+std::variant<Findings, Sentence> findingsIn(const StructuredReport& report) {
   if (report.sopClass != kComprehensiveSR && report.sopClass != kEnhancedSR) {
     constexpr std::string_view kReports = "1.2.840.10008.5.1.4.1.1.88.";
     return report.sopClass.starts_with(kReports)
-               ? "is a structured report of a kind that is not read (neither Comprehensive nor Enhanced)"
-               : "is no structured report";
+               ? Sentence("Findings",
+                          "is a structured report of a kind that is not read (neither Comprehensive nor "
+                          "Enhanced)")
+               : Sentence("Findings", "is no structured report");
   }
-  if (!report.hasContent) return "is a report whose content is missing";
+  if (!report.hasContent) return Sentence("Findings", "is a report whose content is missing");
   if (!is(report.root.name, term::report) || report.root.type != ValueType::container)
-    return "is no obstetric ultrasound report (its title is \"" + meaningOf(report.root.name) + "\")";
+    return Sentence("Findings", "is no obstetric ultrasound report (its title is \"%1\")")
+        .with(meaningOf(report.root.name));
   return Collector(report).takeFindings();
 }
 
 void warnOfNumberOfFetuses(Findings& findings) {
   const auto found = findings.fetuses.size();
   if (!findings.numberOfFetuses || std::cmp_equal(*findings.numberOfFetuses, found)) return;
-  findings.warnings.push_back("the report says that there are " + std::to_string(*findings.numberOfFetuses) +
-                              " fetuses, and holds " + std::to_string(found));
+  findings.warnings.push_back(Sentence("Findings", "the report says that there are %1 fetuses, and holds %2")
+                                  .with(*findings.numberOfFetuses, found));
 }
 
 }  // namespace nascor::exchange

@@ -13,6 +13,7 @@
 #include "exchange/Codes.h"
 #include "exchange/StructuredReport.h"
 #include "foundation/Calendar.h"
+#include "foundation/Sentence.h"
 
 namespace nascor::exchange {
 
@@ -35,7 +36,7 @@ struct NotTaken {
   std::string what;             ///< our key where there is one, else what the report calls it
   std::optional<double> value;  ///< in `unit`; nothing when it is no number
   std::string unit;
-  std::string why;
+  foundation::Sentence why;
 };
 
 /// What a report says of one examination. A person confirms patient and fetuses before anything of it is stored.
@@ -48,14 +49,14 @@ struct Findings {
   std::optional<int> numberOfFetuses;  ///< as the report says
   std::vector<FetusFindings> fetuses;  ///< in the order in which they first appear
   std::vector<NotTaken> notTaken;
-  std::vector<std::string> warnings;
+  std::vector<foundation::Sentence> warnings;
 };
 
 /// The findings of a report, or a sentence: for another kind of report and for one without content.
 ///
 /// Of several values for a length counts the flagged one, else the mean, else the plain one, else a calculated and last
 /// an estimated one; of several of the best kind that differ, their mean. Everything that is passed over is named.
-std::variant<Findings, std::string> findingsIn(const StructuredReport& report);
+std::variant<Findings, foundation::Sentence> findingsIn(const StructuredReport& report);
 
 /// Adds a warning where another number of fetuses is stated than there are.
 void warnOfNumberOfFetuses(Findings& findings);

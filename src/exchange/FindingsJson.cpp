@@ -63,7 +63,7 @@ void writeNotTaken(JsonText& json, const NotTaken& value) {
   json.key("what").text(value.what);
   writeNumber(json, "value", value.value);
   writeText(json, "unit", value.unit.empty() ? std::nullopt : std::optional(value.unit));
-  json.key("why").text(value.why);
+  json.key("why").text(english(value.why));
   json.endObject();
 }
 
@@ -82,7 +82,7 @@ void writeFindingsJson(JsonText& json, std::string_view file, const Findings& fi
   json.endArray().key("notTaken").beginArray();
   for (const NotTaken& value : findings.notTaken) writeNotTaken(json, value);
   json.endArray().key("warnings").beginArray();
-  for (const std::string& warning : findings.warnings) json.text(warning);
+  for (const foundation::Sentence& warning : findings.warnings) json.text(english(warning));
   json.endArray().endObject();
 }
 

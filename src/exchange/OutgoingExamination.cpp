@@ -15,6 +15,8 @@
 
 namespace nascor::exchange {
 
+using foundation::Sentence;
+
 namespace {
 
 std::optional<foundation::CivilDay> dayOf(const std::optional<foundation::Date>& date,
@@ -27,8 +29,9 @@ std::optional<int> positive(std::int64_t count) {
   return static_cast<int>(count);
 }
 
-OutgoingFetus outgoingFetus(const calc::Biometry& lengths, std::int64_t formula, const std::string& subject,
-                            std::vector<std::string>& warnings) {
+/// `place` is that of the fetus and `examination` that of its examination, both from 1.
+OutgoingFetus outgoingFetus(const calc::Biometry& lengths, std::int64_t formula, std::size_t examination,
+                            std::size_t place, std::vector<Sentence>& warnings) {
   OutgoingFetus fetus;
   for (std::size_t i = 0; i < calc::kMeasurements.size(); ++i) {
     const double mm = lengths.*calc::memberFor(calc::kMeasurements.at(i));
@@ -36,8 +39,9 @@ OutgoingFetus outgoingFetus(const calc::Biometry& lengths, std::int64_t formula,
     if (mm > 0.0 && std::isfinite(mm)) {
       fetus.lengths.push_back({.term = i, .mm = shortestSingleText(mm)});
     } else {
-      warnings.push_back(subject + std::string(kLengthTerms.at(i).label) + " " +
-                         foundation::shortestText(mm) + " is no length, and left out");
+      //: %3 is one of BPD, HC, AC and FL, %4 what stands in its place.
+      const auto warning = Sentence("Findings", "examination %1, fetus %2: %3 %4 is no length, and left out");
+      warnings.push_back(warning.with(examination, place, labelOf(i), foundation::shortestText(mm)));
     }
   }
   constexpr double kHeaviest = 1e9;
@@ -127,10 +131,8 @@ std::vector<OutgoingExamination> outgoingExaminations(const model::PatientRecord
     const std::int64_t formula = patient.fetalWeightStandard();
     if (calc::weightFormula(formula) != nullptr) examination.formula = static_cast<std::size_t>(formula);
     for (std::size_t fetus = 0; fetus < record->measurements().size(); ++fetus) {
-      const std::string subject =
-          "examination " + std::to_string(result.size()) + ", fetus " + std::to_string(fetus + 1) + ": ";
-      examination.fetuses.push_back(
-          outgoingFetus(record->measurements()[fetus].biometry(), formula, subject, examination.warnings));
+      examination.fetuses.push_back(outgoingFetus(record->measurements()[fetus].biometry(), formula,
+                                                  result.size(), fetus + 1, examination.warnings));
     }
   }
   return result;

@@ -10,6 +10,7 @@
 
 #include "exchange/StructuredReport.h"
 #include "foundation/Calendar.h"
+#include "foundation/Sentence.h"
 #include "model/PatientRecord.h"
 
 namespace nascor::exchange {
@@ -34,7 +35,7 @@ struct OutgoingExamination {
   std::optional<int> numberOfFetuses;
   std::optional<std::size_t> formula;  ///< of the weights, in kWeightEquations
   std::vector<OutgoingFetus> fetuses;
-  std::vector<std::string> warnings;  ///< lengths that are left out because they are none
+  std::vector<foundation::Sentence> warnings;  ///< lengths that are left out because they are none
 };
 
 /// The examinations of a document in their order. A length of 0 is not measured and left out in silence; any other that

@@ -11,6 +11,8 @@
 
 namespace nascor::exchange {
 
+using foundation::Sentence;
+
 namespace {
 
 /// At most 16 characters of ASCII that are neither controls nor backslashes, and not blanks alone (PS3.5, 6.2).
@@ -32,64 +34,75 @@ bool isHost(std::string_view text) {
 
 }  // namespace
 
-std::optional<std::string> faultOf(const ServerAddress& address) {
+std::optional<Sentence> faultOf(const ServerAddress& address) {
   constexpr int kHighestPort = 65535;
   constexpr std::chrono::seconds kLongest{3600};
-  if (!isHost(address.host)) return "the host is no name and no IPv4 address";
-  if (address.port < 1 || address.port > kHighestPort) return "the port is no number from 1 to 65535";
-  const char* const title = " title is not of 1 to 16 characters of ASCII without a backslash";
-  if (!isTitle(address.serverTitle)) return std::string("the called") + title;
-  if (!isTitle(address.ownTitle)) return std::string("the calling") + title;
+  if (!isHost(address.host)) return Sentence("ReportServer", "the host is no name and no IPv4 address");
+  if (address.port < 1 || address.port > kHighestPort)
+    return Sentence("ReportServer", "the port is no number from 1 to 65535");
+  if (!isTitle(address.serverTitle))
+    return Sentence("ReportServer",
+                    "the called title is not of 1 to 16 characters of ASCII without a backslash");
+  if (!isTitle(address.ownTitle))
+    return Sentence("ReportServer",
+                    "the calling title is not of 1 to 16 characters of ASCII without a backslash");
   if (address.timeout < std::chrono::seconds(1) || address.timeout > kLongest)
-    return "the timeout is no number of seconds from 1 to 3600";
+    return Sentence("ReportServer", "the timeout is no number of seconds from 1 to 3600");
   if (address.tls && address.tls->authorityFile.empty())
-    return "an encrypted connection needs the file of the certificate authority";
+    return Sentence("ReportServer", "an encrypted connection needs the file of the certificate authority");
   if (address.tls && address.tls->certificateFile.empty() != address.tls->keyFile.empty())
-    return "a certificate needs its key, and a key its certificate";
+    return Sentence("ReportServer", "a certificate needs its key, and a key its certificate");
   return std::nullopt;
 }
 
-std::optional<std::string> faultOf(const ReportQuery& query) {
+std::optional<Sentence> faultOf(const ReportQuery& query) {
   constexpr std::size_t kLongestID = 64;
   const auto isPattern = [](char c) {
     return c == '*' || c == '?' || c == '\\' || static_cast<unsigned char>(c) < ' ' || c == '\x7f';
   };
   // A server would take the first for patterns, and the next for a list.
   if (std::ranges::any_of(query.patientID, isPattern))
-    return "the reference ID holds *, ?, a backslash or a control character, which a server does not search "
-           "for";
+    return Sentence(
+        "ReportServer",
+        "the reference ID holds *, ?, a backslash or a control character, which a server does not search "
+        "for");
   if (foundation::oneLine(query.patientID) != query.patientID)
-    return "the reference ID holds characters that do not show";
-  if (query.patientID.size() > kLongestID) return "the reference ID is longer than 64 bytes";
+    return Sentence("ReportServer", "the reference ID holds characters that do not show");
+  if (query.patientID.size() > kLongestID)
+    return Sentence("ReportServer", "the reference ID is longer than 64 bytes");
   if (!query.patientID.empty() && (query.patientID.front() == ' ' || query.patientID.back() == ' '))
-    return "the reference ID begins or ends with a blank, which a server does not keep";
-  if (!query.study.empty() && !isUid(query.study)) return "the study is no UID, which has digits and dots";
+    return Sentence("ReportServer",
+                    "the reference ID begins or ends with a blank, which a server does not keep");
+  if (!query.study.empty() && !isUid(query.study))
+    return Sentence("ReportServer", "the study is no UID, which has digits and dots");
   for (const std::string& day : {query.firstDay, query.lastDay}) {
     constexpr std::size_t kDigits = 8;
-    if (!day.empty() && (day.size() != kDigits || !dayFromDigits(day))) return "a day is not in the calendar";
+    if (!day.empty() && (day.size() != kDigits || !dayFromDigits(day)))
+      return Sentence("ReportServer", "a day is not in the calendar");
   }
   if (!query.firstDay.empty() && !query.lastDay.empty() && query.lastDay < query.firstDay)
-    return "the last day is before the first";
+    return Sentence("ReportServer", "the last day is before the first");
   return std::nullopt;
 }
 
-std::optional<std::string> ReportServer::echo(const ServerAddress& address) {
+std::optional<Sentence> ReportServer::echo(const ServerAddress& address) {
   if (auto fault = faultOf(address)) return fault;
   return doEcho(address);
 }
 
-std::variant<FoundReports, std::string> ReportServer::find(const ServerAddress& address,
-                                                           const ReportQuery& query) {
+std::variant<FoundReports, Sentence> ReportServer::find(const ServerAddress& address,
+                                                        const ReportQuery& query) {
   if (auto fault = faultOf(address)) return std::move(*fault);
   if (auto fault = faultOf(query)) return std::move(*fault);
   return doFind(address, query);
 }
 
-std::variant<FetchedReports, std::string> ReportServer::fetch(const ServerAddress& address,
-                                                              const ReportQuery& query) {
+std::variant<FetchedReports, Sentence> ReportServer::fetch(const ServerAddress& address,
+                                                           const ReportQuery& query) {
   if (auto fault = faultOf(address)) return std::move(*fault);
   if (auto fault = faultOf(query)) return std::move(*fault);
-  if (query.patientID.empty() && query.study.empty()) return "neither a patient nor a study is named";
+  if (query.patientID.empty() && query.study.empty())
+    return Sentence("ReportServer", "neither a patient nor a study is named");
   return doFetch(address, query);
 }
 

@@ -13,6 +13,8 @@
 #include <variant>
 #include <vector>
 
+#include "foundation/Sentence.h"
+
 namespace nascor::exchange {
 
 /// An encrypted connection. The files are PEM.
@@ -57,7 +59,7 @@ inline constexpr std::size_t kMostReportBytes = std::size_t{256} << 20U;
 
 struct FoundReports {
   std::vector<ReportPlace> places;
-  std::vector<std::string> warnings;  ///< sentences; one of them when there are more than `kMostReports`
+  std::vector<foundation::Sentence> warnings;  ///< one of them when there are more than `kMostReports`
 };
 
 struct FetchedReport {
@@ -67,12 +69,12 @@ struct FetchedReport {
 
 struct FetchedReports {
   std::vector<FetchedReport> reports;
-  std::vector<std::string> warnings;  ///< what was found and not fetched, in sentences
+  std::vector<foundation::Sentence> warnings;  ///< what was found and not fetched
 };
 
 /// Why a report was not sent.
 struct SendFault {
-  std::string sentence;
+  foundation::Sentence sentence;
   bool isOfServer = false;  ///< the next report would meet it too
 };
 
@@ -84,36 +86,38 @@ constexpr bool isUid(std::string_view text) {
          text.front() != '.' && text.back() != '.' && text.find("..") == std::string_view::npos;
 }
 
-/// What is wrong with an address or a query, as a sentence; nothing when it may be used.
-std::optional<std::string> faultOf(const ServerAddress& address);
-std::optional<std::string> faultOf(const ReportQuery& query);
+/// What is wrong with an address or a query; nothing when it may be used.
+std::optional<foundation::Sentence> faultOf(const ServerAddress& address);
+std::optional<foundation::Sentence> faultOf(const ReportQuery& query);
 
 /// A server of reports, over the network. Each operation is one connection that ends within the time limit, whatever the
-/// server does; none is made for an address or a query with a fault. A string in place of a result is one sentence that
-/// says why there is none. Sentences may hold texts of the server as they came.
+/// server does; none is made for an address or a query with a fault. A sentence in place of a result says why there is
+/// none. Sentences may hold texts of the server as they came.
 class ReportServer {
  public:
   virtual ~ReportServer() = default;
 
   /// Whether the server answers.
-  std::optional<std::string> echo(const ServerAddress& address);
+  std::optional<foundation::Sentence> echo(const ServerAddress& address);
 
   /// The reports of that patient, study and days. What the server answers beside them is left out, with a warning.
-  std::variant<FoundReports, std::string> find(const ServerAddress& address, const ReportQuery& query);
+  std::variant<FoundReports, foundation::Sentence> find(const ServerAddress& address,
+                                                        const ReportQuery& query);
 
   /// The files of what `find` finds. Each holds the patient, study, series and instance that its place names.
-  std::variant<FetchedReports, std::string> fetch(const ServerAddress& address, const ReportQuery& query);
+  std::variant<FetchedReports, foundation::Sentence> fetch(const ServerAddress& address,
+                                                           const ReportQuery& query);
 
   /// Sends the file of a report. Nothing when the server says that it keeps it.
   std::optional<SendFault> send(const ServerAddress& address, std::span<const std::byte> file);
 
  private:
   /// The same, of addresses and queries without a fault.
-  virtual std::optional<std::string> doEcho(const ServerAddress& address) = 0;
-  virtual std::variant<FoundReports, std::string> doFind(const ServerAddress& address,
-                                                         const ReportQuery& query) = 0;
-  virtual std::variant<FetchedReports, std::string> doFetch(const ServerAddress& address,
-                                                            const ReportQuery& query) = 0;
+  virtual std::optional<foundation::Sentence> doEcho(const ServerAddress& address) = 0;
+  virtual std::variant<FoundReports, foundation::Sentence> doFind(const ServerAddress& address,
+                                                                  const ReportQuery& query) = 0;
+  virtual std::variant<FetchedReports, foundation::Sentence> doFetch(const ServerAddress& address,
+                                                                     const ReportQuery& query) = 0;
   virtual std::optional<SendFault> doSend(const ServerAddress& address, std::span<const std::byte> file) = 0;
 };
 

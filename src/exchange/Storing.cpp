@@ -20,33 +20,34 @@ namespace {
 
 using foundation::Calendar;
 using foundation::CivilDay;
+using foundation::Sentence;
 using model::NCRecord;
 using model::PatientRecord;
 
-std::string inQuotes(const std::string& text) { return "\"" + text + "\""; }
-
-/// Why the findings may be of another patient; empty when they are not.
-std::string patientFault(const Findings& findings, const Confirmation& confirmation, bool isNew,
-                         const std::string& documentID) {
+/// Why the findings may be of another patient; nothing when they are not.
+std::optional<Sentence> patientFault(const Findings& findings, const Confirmation& confirmation, bool isNew,
+                                     const std::string& documentID) {
   if (confirmation.patientID) {
     const bool fits = documentID.empty() || documentID == *confirmation.patientID;
-    return fits ? ""
-                : "the document is of patient " + inQuotes(documentID) + ", not " +
-                      inQuotes(*confirmation.patientID);
+    if (fits) return std::nullopt;
+    return Sentence("Findings", "the document is of patient \"%1\", not \"%2\"")
+        .with(documentID, *confirmation.patientID);
   }
   switch (patientDoubt(findings, isNew, documentID)) {
-    case PatientDoubt::none: return "";
+    case PatientDoubt::none: return std::nullopt;
     case PatientDoubt::isUnreadable:
-      return "the report's reference ID has characters that cannot be read; nothing is stored unless the ID "
-             "is given";
+      return Sentence(
+          "Findings",
+          "the report's reference ID has characters that cannot be read; nothing is stored unless "
+          "the ID is given");
     case PatientDoubt::reportNamesNobody:
-      return "the report names no patient; nothing is stored unless the ID is given";
+      return Sentence("Findings", "the report names no patient; nothing is stored unless the ID is given");
     case PatientDoubt::documentNamesNobody:
-      return "the document names no patient; nothing is stored unless the ID is given";
+      return Sentence("Findings", "the document names no patient; nothing is stored unless the ID is given");
     case PatientDoubt::isAnother: break;
   }
-  return "the report is of patient " + inQuotes(*findings.patientID) + ", the document of " +
-         inQuotes(documentID);
+  return Sentence("Findings", "the report is of patient \"%1\", the document of \"%2\"")
+      .with(*findings.patientID, documentID);
 }
 
 /// The place of each fetus of the report in the document; or why one has none.
@@ -56,28 +57,36 @@ class FetusPlaces {
     std::set<std::int64_t> taken;
     for (const FetusFindings& fetus : findings.fetuses) {
       const auto place = placeOf(fetus, findings, confirmation, count);
-      const std::string name = fetus.id ? "fetus " + inQuotes(*fetus.id) : "a fetus without an ID";
       if (!place) {
-        fault_ = name +
-                 " of the report may be any of the document's; nothing is stored unless its number is given";
+        //: %1 is a fetus: "fetus "A"", "a fetus without an ID".
+        const auto fault =
+            Sentence("Findings",
+                     "%1 of the report may be any of the document's; nothing is stored unless its "
+                     "number is given");
+        fault_ = fault.with(nameOf(fetus));
         return;
       }
       if (*place < 0 || *place >= count) {
-        fault_ = name + " cannot be fetus " + std::to_string(*place + 1) + " of " + std::to_string(count);
+        fault_ = Sentence("Findings", "%1 cannot be fetus %2 of %3").with(nameOf(fetus), *place + 1, count);
         return;
       }
       if (!taken.insert(*place).second) {
-        fault_ = "two fetuses of the report cannot both be fetus " + std::to_string(*place + 1);
+        fault_ = Sentence("Findings", "two fetuses of the report cannot both be fetus %1").with(*place + 1);
         return;
       }
       places_.push_back(*place);
     }
   }
 
-  const std::string& fault() const { return fault_; }
+  const std::optional<Sentence>& fault() const { return fault_; }
   std::int64_t operator[](std::size_t fetus) const { return places_.at(fetus); }
 
  private:
+  static Sentence nameOf(const FetusFindings& fetus) {
+    return fetus.id ? Sentence("Findings", "fetus \"%1\"").with(*fetus.id)
+                    : Sentence("Findings", "a fetus without an ID");
+  }
+
   static std::optional<std::int64_t> placeOf(const FetusFindings& fetus, const Findings& findings,
                                              const Confirmation& confirmation, std::int64_t count) {
     const auto given = confirmation.fetusPlaces.find(fetus.id.value_or(""));
@@ -86,7 +95,7 @@ class FetusPlaces {
   }
 
   std::vector<std::int64_t> places_;
-  std::string fault_;
+  std::optional<Sentence> fault_;
 };
 
 /// As many as the report says or holds, or a person has named.
@@ -162,15 +171,18 @@ bool isMeasured(const FetusFindings& fetus) {
                      [](const auto& length) { return length.has_value(); });
 }
 
-std::string warningOf(const StoredLength& stored, const Findings& findings) {
-  const std::string subject = "fetus " + std::to_string(stored.place + 1) + ": ";
-  if (stored.fate == Fate::isNeverStored) return subject + "the CRL is not stored";
-  const std::string label = subject + std::string(kLengthTerms.at(stored.term).label);
-  const double mm = findings.fetuses.at(stored.fetus).lengths.at(stored.term)->mm;
+Sentence warningOf(const StoredLength& stored, const Findings& findings) {
+  const std::int64_t fetus = stored.place + 1;
+  if (stored.fate == Fate::isNeverStored)
+    return Sentence("Findings", "fetus %1: the CRL is not stored").with(fetus);
+  const Sentence label = labelOf(stored.term);
+  const std::string mm =
+      foundation::shortestText(findings.fetuses.at(stored.fetus).lengths.at(stored.term)->mm);
+  //: %2 is one of BPD, HC, AC and FL, as in the next one.
   if (stored.fate == Fate::isBeyondBounds)
-    return label + " " + foundation::shortestText(mm) + " mm is beyond what a document takes";
-  return label + " stays " + shortestSingleText(stored.standing) + " mm; the report says " +
-         foundation::shortestText(mm) + " mm";
+    return Sentence("Findings", "fetus %1: %2 %3 mm is beyond what a document takes").with(fetus, label, mm);
+  return Sentence("Findings", "fetus %1: %2 stays %3 mm; the report says %4 mm")
+      .with(fetus, label, shortestSingleText(stored.standing), mm);
 }
 
 }  // namespace
@@ -196,36 +208,39 @@ std::optional<std::int64_t> fetusPlace(const FetusFindings& fetus, const Finding
   return std::nullopt;
 }
 
-std::optional<std::string> severalPatientsFault(std::span<const Findings> all) {
+std::optional<Sentence> severalPatientsFault(std::span<const Findings> all) {
   std::set<std::optional<std::string>> patients;
   for (const Findings& findings : all) patients.insert(findings.patientID);
   if (patients.size() < 2) return std::nullopt;
   constexpr std::size_t kMostNamed = 5;
-  std::string names;
-  std::size_t named = 0;
+  //: Of several patients.
+  const auto nameless = Sentence("Findings", "one without an ID");
+  std::vector<Sentence> names;
   for (const auto& patient : patients) {
-    if (!names.empty()) names += ", ";
-    if (named++ == kMostNamed) {
-      names += std::to_string(patients.size() - kMostNamed) + " more";
+    if (names.size() == kMostNamed) {
+      //: Stands behind the IDs of some patients, with commas between.
+      names.push_back(Sentence("Findings", "%1 more").with(patients.size() - kMostNamed));
       break;
     }
-    names += patient ? rows::inQuotes(*patient) : "one without an ID";
+    names.push_back(patient ? Sentence::verbatim(rows::inQuotes(*patient)) : nameless);
   }
-  return "holds examinations of several patients (" + names +
-         "), and a document is of one; nothing is stored. Please import a file for each patient";
+  //: %1 are the IDs of patients.
+  return Sentence("Findings",
+                  "holds examinations of several patients (%1), and a document is of one; nothing is stored. "
+                  "Please import a file for each patient")
+      .with(Sentence::joined(std::move(names), ", "));
 }
 
-std::variant<Stored, std::string> storeFindings(const Findings& findings, const Confirmation& confirmation,
-                                                bool isNew, const Calendar& calendar,
-                                                PatientRecord& patient) {
+std::variant<Stored, Sentence> storeFindings(const Findings& findings, const Confirmation& confirmation,
+                                             bool isNew, const Calendar& calendar, PatientRecord& patient) {
   const std::string documentID(withoutBlanks(patient.maternalIDString().value_or("")));
-  if (auto fault = patientFault(findings, confirmation, isNew, documentID); !fault.empty()) return fault;
-  if (!findings.examDate) return "the report does not say when the examination was";
+  if (auto fault = patientFault(findings, confirmation, isNew, documentID)) return std::move(*fault);
+  if (!findings.examDate) return Sentence("Findings", "the report does not say when the examination was");
   const std::int64_t count = isNew ? numberOfFetuses(findings, confirmation) : patient.numberOfFetuses();
   if (count > calc::kMostFetuses)
-    return "a document takes at most " + std::to_string(calc::kMostFetuses) + " fetuses";
+    return Sentence("Findings", "a document takes at most %1 fetuses").with(calc::kMostFetuses);
   const FetusPlaces places(findings, confirmation, count);
-  if (!places.fault().empty()) return places.fault();
+  if (places.fault()) return *places.fault();
 
   if (isNew) patient.setNumberOfFetuses(count);
   if (documentID.empty() && (isNew || confirmation.patientID))
@@ -258,27 +273,29 @@ std::variant<Stored, std::string> storeFindings(const Findings& findings, const 
   return stored;
 }
 
-std::vector<std::string> warningsOf(const Stored& stored, const Findings& findings) {
-  std::vector<std::string> warnings;
+std::vector<Sentence> warningsOf(const Stored& stored, const Findings& findings) {
+  std::vector<Sentence> warnings;
   if (stored.edd && stored.edd->fate == Fate::otherStays) {
-    std::string stays = "the EDD stays";
-    if (stored.edd->standing) stays.append(" ").append(isoText(*stored.edd->standing));
-    warnings.push_back(stays.append("; the report says ").append(isoText(*findings.edd)));
+    const std::string reported = isoText(*findings.edd);
+    warnings.push_back(stored.edd->standing
+                           ? Sentence("Findings", "the EDD stays %1; the report says %2")
+                                 .with(isoText(*stored.edd->standing), reported)
+                           : Sentence("Findings", "the EDD stays; the report says %1").with(reported));
   }
   if (stored.gravida && stored.gravida->fate == Fate::otherStays) {
-    warnings.push_back("the gravidity stays " + std::to_string(stored.gravida->standing) +
-                       "; the report says " + std::to_string(*findings.gravida));
+    warnings.push_back(Sentence("Findings", "the gravidity stays %1; the report says %2")
+                           .with(stored.gravida->standing, *findings.gravida));
   }
   if (findings.numberOfFetuses && *findings.numberOfFetuses != stored.fetuses) {
-    warnings.push_back("the number of fetuses stays " + std::to_string(stored.fetuses) +
-                       "; the report says " + std::to_string(*findings.numberOfFetuses));
+    warnings.push_back(Sentence("Findings", "the number of fetuses stays %1; the report says %2")
+                           .with(stored.fetuses, *findings.numberOfFetuses));
   }
   for (const StoredLength& length : stored.lengths) {
     const bool isStored = length.fate == Fate::stored || length.fate == Fate::isThereAlready;
     if (!isStored) warnings.push_back(warningOf(length, findings));
   }
   if (std::ranges::none_of(findings.fetuses, isMeasured))
-    warnings.emplace_back("the report holds no length that is stored");
+    warnings.push_back(Sentence("Findings", "the report holds no length that is stored"));
   return warnings;
 }
 

@@ -15,6 +15,7 @@
 
 #include "exchange/Findings.h"
 #include "foundation/Calendar.h"
+#include "foundation/Sentence.h"
 #include "model/PatientRecord.h"
 
 namespace nascor::exchange {
@@ -76,7 +77,7 @@ std::optional<std::int64_t> fetusPlace(const FetusFindings& fetus, const Finding
 
 /// Why the findings of one file cannot be stored together, whatever is confirmed: they are of several patients, whom it names.
 /// Nothing when they are of one.
-std::optional<std::string> severalPatientsFault(std::span<const Findings> all);
+std::optional<foundation::Sentence> severalPatientsFault(std::span<const Findings> all);
 
 /// Adds findings to a patient, whose examinations are in order of date afterwards. Nothing that stands is overwritten:
 /// lengths, gravidity and, without confirmation, the EDD stay. An examination of the same local day is filled where it is
@@ -85,11 +86,12 @@ std::optional<std::string> severalPatientsFault(std::span<const Findings> all);
 /// Returns what became of each value; or one sentence, and the patient is unchanged: when the reports may be of another
 /// patient, when a fetus may be another one, without a date. A new patient (`isNew`) takes ID and number of fetuses from the
 /// first report.
-std::variant<Stored, std::string> storeFindings(const Findings& findings, const Confirmation& confirmation,
-                                                bool isNew, const foundation::Calendar& calendar,
-                                                model::PatientRecord& patient);
+std::variant<Stored, foundation::Sentence> storeFindings(const Findings& findings,
+                                                         const Confirmation& confirmation, bool isNew,
+                                                         const foundation::Calendar& calendar,
+                                                         model::PatientRecord& patient);
 
 /// What of the report was not stored, a sentence each.
-std::vector<std::string> warningsOf(const Stored& stored, const Findings& findings);
+std::vector<foundation::Sentence> warningsOf(const Stored& stored, const Findings& findings);
 
 }  // namespace nascor::exchange

@@ -9,6 +9,8 @@
 #include <variant>
 #include <vector>
 
+#include "foundation/Sentence.h"
+
 namespace nascor::exchange {
 
 /// A term of a coding scheme: 11820-8 of LN (LOINC), "Biparietal Diameter". A unit is one of UCUM.
@@ -37,23 +39,24 @@ struct StructuredReport {
   std::string seriesUID;
   std::string studyUID;
   std::string patientID;
-  std::string studyDate;              ///< YYYYMMDD; empty when none is known, as the next one
-  std::string contentDate;            ///< YYYYMMDD
-  std::vector<std::string> warnings;  ///< texts that were not in the character set that the file states
+  std::string studyDate;    ///< YYYYMMDD; empty when none is known, as the next one
+  std::string contentDate;  ///< YYYYMMDD
+  std::vector<foundation::Sentence>
+      warnings;  ///< texts that were not in the character set that the file states
   bool hasContent = false;
   ContentItem root;
 };
 
-/// Reads and writes the files of structured reports. A string in place of a result is one sentence that says why there
-/// is none.
+/// Reads and writes the files of structured reports. A sentence in place of a result says why there is none.
 class ReportFiles {
  public:
   virtual ~ReportFiles() = default;
 
   /// The whole report, never a part of one. Items are nested at most a few dozen deep.
-  virtual std::variant<StructuredReport, std::string> read(std::span<const std::byte> bytes) = 0;
+  virtual std::variant<StructuredReport, foundation::Sentence> read(std::span<const std::byte> bytes) = 0;
 
-  virtual std::variant<std::vector<std::byte>, std::string> write(const StructuredReport& report) = 0;
+  virtual std::variant<std::vector<std::byte>, foundation::Sentence> write(
+      const StructuredReport& report) = 0;
 };
 
 }  // namespace nascor::exchange

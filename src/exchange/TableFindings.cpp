@@ -25,6 +25,7 @@ namespace nascor::exchange {
 namespace {
 
 using foundation::CivilDay;
+using foundation::Sentence;
 using rows::CsvCell;
 using rows::CsvReader;
 using rows::InputColumn;
@@ -71,10 +72,6 @@ bool isOfExaminations(std::span<const CsvCell> header) {
   return hasLength && hasDay;
 }
 
-std::string atLine(std::uint64_t line, const std::string& sentence) {
-  return "line " + std::to_string(line) + ": " + sentence;
-}
-
 /// A row whose cells are understood.
 struct Row {
   std::uint64_t line = 0;
@@ -107,8 +104,9 @@ class RowReader {
       : width_(header.size()), places_(rows::placesOf(kColumns, header)) {
     if (has(kFetus) && has(kFetusNumber))
       throw rows::HeaderError(
-          "the columns fetus, which counts from 0, and fetus_number, from 1, cannot both stand in the "
-          "header");
+          Sentence("Findings",
+                   "the columns fetus, which counts from 0, and fetus_number, from 1, cannot both stand in "
+                   "the header"));
     for (std::size_t column = 0; column < places_.size(); ++column) {
       if (places_[column]) names_.at(column) = textOf(header[*places_[column]]);
     }
@@ -117,49 +115,52 @@ class RowReader {
   bool has(std::size_t column) const { return places_[column].has_value(); }
   const std::string& nameOf(std::size_t column) const { return names_.at(column); }
 
-  /// Says which lengths the table has no column for; empty when it has all.
-  std::string warning() const {
-    std::string missing;
+  /// Says which lengths the table has no column for; nothing when it has all.
+  std::optional<Sentence> warning() const {
+    std::vector<Sentence> missing;
     for (std::size_t length = 0; length < kStoredLengths; ++length) {
-      if (has(length)) continue;
-      missing += (missing.empty() ? "" : ", ") + rows::namesOf(kColumns.at(length));
+      if (!has(length)) missing.push_back(rows::namesOf(kColumns.at(length)));
     }
-    return missing.empty() ? missing : "there is no column " + missing + ": never measured";
+    if (missing.empty()) return std::nullopt;
+    //: %1 are names of columns, "bpd_mm or bpd", with commas between.
+    return Sentence("Findings", "there is no column %1: never measured")
+        .with(Sentence::joined(std::move(missing), ", "));
   }
 
   /// The row, whose texts last until the next call; nothing when it has a `fault`.
   std::optional<Row> read(std::span<const CsvCell> record, std::uint64_t line) {
-    fault_.clear();
+    faults_.clear();
     if (record.size() != width_) {
-      fault_ = rows::cellCountFault(width_, record.size());
+      refuse(rows::cellCountSentence(width_, record.size()));
       return std::nullopt;
     }
     record_ = record;
     Row row{.line = line};
     readPatient(row);
-    if (const auto day = this->day(kExamDate, "write it like 2026-11-13")) {
+    if (const auto day = this->day(kExamDate)) {
       row.day = *day;
     } else if (text(kExamDate).empty()) {
-      refuse(kExamDate, "the cell is empty; write the day of the examination like 2026-11-13");
+      refuse(kExamDate,
+             Sentence("Findings", "the cell is empty; write the day of the examination like 2026-11-13"));
     }
-    row.edd = day(kEdd, "write it like 2027-04-10, or leave the cell empty");
+    row.edd = day(kEdd);
     row.gravida = count(kGravida, calc::kLeastGravida, std::nullopt);
     row.numberOfFetuses = count(kNumberOfFetuses, calc::kFewestFetuses, calc::kMostFetuses);
     readFetus(row);
     for (std::size_t i = 0; i < row.lengths.size(); ++i) row.lengths.at(i) = length(i);
     row.hasNote = !text(kNote).empty();
-    return fault_.empty() ? std::optional(row) : std::nullopt;
+    return faults_.empty() ? std::optional(row) : std::nullopt;
   }
 
   /// What is wrong with the row, in one line.
-  const std::string& fault() const { return fault_; }
+  Sentence fault() const { return Sentence::joined(faults_, "; "); }
 
  private:
-  void refuse(const std::string& sentence) {
-    if (!fault_.empty()) fault_ += "; ";
-    fault_ += sentence;
+  void refuse(Sentence sentence) { faults_.push_back(std::move(sentence)); }
+  void refuse(std::size_t column, const Sentence& why) {
+    //: %1 is a column of a table, %2 what is wrong with a cell of it.
+    refuse(Sentence("Findings", "%1: %2").with(nameOf(column), why));
   }
-  void refuse(Column column, const std::string& why) { refuse(nameOf(column) + ": " + why); }
 
   /// What the cell says, without blanks at its ends; empty without such a column.
   std::string_view text(Column column) {
@@ -173,14 +174,21 @@ class RowReader {
     row.patient = text(kReferenceID);
     row.file = text(kFile);
     if (!foundation::isValidUtf8(row.patient))
-      refuse(kReferenceID, "the text is no UTF-8; save the table as UTF-8");
+      refuse(kReferenceID, Sentence("Findings", "the text is no UTF-8; save the table as UTF-8"));
   }
 
-  std::optional<CivilDay> day(Column column, const char* advice) {
+  std::optional<CivilDay> day(Column column) {
     const std::string_view cell = text(column);
     if (cell.empty()) return std::nullopt;
     const auto day = dayFromIsoText(cell);
-    if (!day) refuse(column, inQuotes(std::string(cell)) + " is no day; " + advice);
+    if (!day) {
+      //: %1 is what stands there, in quotation marks, in this one and in others of the kind.
+      const auto why =
+          column == kEdd
+              ? Sentence("Findings", "%1 is no day; write it like 2027-04-10, or leave the cell empty")
+              : Sentence("Findings", "%1 is no day; write it like 2026-11-13");
+      refuse(column, why.with(inQuotes(std::string(cell))));
+    }
     return day;
   }
 
@@ -189,8 +197,10 @@ class RowReader {
     if (cell.empty()) return std::nullopt;
     const auto number = wholeNumber(cell);
     if (number && *number >= least && (!most || *number <= *most)) return number;
-    refuse(column, inQuotes(std::string(cell)) + " is no whole number from " + std::to_string(least) +
-                       (most ? " to " + std::to_string(*most) : " on"));
+    const std::string shown = inQuotes(std::string(cell));
+    refuse(column, most
+                       ? Sentence("Findings", "%1 is no whole number from %2 to %3").with(shown, least, *most)
+                       : Sentence("Findings", "%1 is no whole number from %2 on").with(shown, least));
     return std::nullopt;
   }
 
@@ -199,7 +209,8 @@ class RowReader {
     const Column column = has(kFetus) ? kFetus : kFetusNumber;
     const int first = has(kFetus) ? 0 : 1;
     if (text(column).empty())
-      return refuse(column, "the cell is empty; number the fetuses from " + std::to_string(first));
+      return refuse(column,
+                    Sentence("Findings", "the cell is empty; number the fetuses from %1").with(first));
     const auto number = count(column, first, calc::kMostFetuses - 1 + first);
     if (number) row.fetus = *number - first;
   }
@@ -209,13 +220,13 @@ class RowReader {
     const CsvCell& cell = record_[*places_[place]];
     const auto mm = cell.isQuoted ? rows::measuredFromText(textOf(cell)) : rows::measuredFromText(cell.text);
     if (!mm) {
-      refuse(rows::numberFault(nameOf(place), textOf(cell)));
+      refuse(rows::numberSentence(nameOf(place), textOf(cell)));
       return 0.0;
     }
     const calc::EditingBounds bounds = calc::editingBounds(calc::kMeasurements.at(place));
     if (!bounds.permit(foundation::narrowedToFloat(*mm)))
-      refuse(nameOf(place) + ": " + inQuotes(textOf(cell)) + " is beyond what a document takes, 0 to " +
-             foundation::shortestText(bounds.greatest) + " mm");
+      refuse(place, Sentence("Findings", "%1 is beyond what a document takes, 0 to %2 mm")
+                        .with(inQuotes(textOf(cell)), foundation::shortestText(bounds.greatest)));
     return *mm;
   }
 
@@ -224,7 +235,7 @@ class RowReader {
   std::array<std::string, kColumns.size()> names_;
   std::span<const CsvCell> record_;
   std::array<std::string, kColumns.size()> texts_;  // of quoted cells
-  std::string fault_;
+  std::vector<Sentence> faults_;
 };
 
 /// Puts the rows together to examinations, and collects what is wrong with the table.
@@ -235,27 +246,28 @@ class Table {
 
   void add(std::span<const CsvCell> record, std::uint64_t line) {
     const auto row = reader_.read(record, line);
-    const std::string fault = row ? take(*row) : reader_.fault();
-    if (!fault.empty()) refuse(line, fault);
+    const auto fault = row ? take(*row) : reader_.fault();
+    if (fault) refuse(line, *fault);
   }
 
-  void refuse(std::uint64_t line, const std::string& sentence) {
-    faults_.push_back(atLine(line, sentence));
+  void refuse(std::uint64_t line, const Sentence& sentence) {
+    //: %2 is what is wrong with the row of a table that begins at line %1.
+    faults_.push_back(Sentence("Findings", "line %1: %2").with(line, sentence));
     lastLine_ = line;
   }
 
   /// Whether more is wrong than a person puts right row by row.
   bool isHopeless() const { return faults_.size() >= kMostNamed; }
 
-  std::variant<std::vector<Findings>, std::vector<std::string>> takeFindings() {
+  std::variant<std::vector<Findings>, std::vector<Sentence>> takeFindings() {
     if (reader_.has(kFetus) && faults_.empty()) requireFirstFetuses();
     if (isHopeless())
-      faults_.push_back("what stands behind line " + std::to_string(lastLine_) + " was not looked at");
+      faults_.push_back(Sentence("Findings", "what stands behind line %1 was not looked at").with(lastLine_));
     if (!faults_.empty()) {
-      faults_.emplace_back("nothing of this table is taken until every row of it fits");
+      faults_.push_back(Sentence("Findings", "nothing of this table is taken until every row of it fits"));
       return std::move(faults_);
     }
-    if (examinations_.empty()) return std::vector<std::string>{"is a table without an examination"};
+    if (examinations_.empty()) return std::vector{Sentence("Findings", "is a table without an examination")};
     stateNumbersOfFetuses();
     for (Findings& findings : examinations_) warnOfNumberOfFetuses(findings);
     return std::move(examinations_);
@@ -265,53 +277,65 @@ class Table {
   static constexpr std::size_t kMostNamed = 1000;
 
   /// Takes the row to its examination; or says why not.
-  std::string take(const Row& row) {
-    if (auto fault = patientFault(row); !fault.empty()) return fault;
+  std::optional<Sentence> take(const Row& row) {
+    if (auto fault = patientFault(row)) return fault;
     const std::size_t place = placeOf(row);
     Findings& findings = examinations_[place];
     Lines& lines = lines_[place];
-    if (auto fault = fetusFault(row, lines); !fault.empty()) return fault;
-    std::string fault = agreed(kEdd, row.edd, row.line, findings.edd, lines);
-    if (fault.empty()) fault = agreed(kGravida, row.gravida, row.line, findings.gravida, lines);
-    if (fault.empty())
+    if (auto fault = fetusFault(row, lines)) return fault;
+    auto fault = agreed(kEdd, row.edd, row.line, findings.edd, lines);
+    if (!fault) fault = agreed(kGravida, row.gravida, row.line, findings.gravida, lines);
+    if (!fault)
       fault = agreed(kNumberOfFetuses, row.numberOfFetuses, row.line, findings.numberOfFetuses, lines);
-    if (!fault.empty()) return fault;
+    if (fault) return fault;
 
     if (findings.edd) findings.eddFrom = "edd";
     if (row.hasNote && findings.notTaken.empty())
-      findings.notTaken.push_back(
-          {.fetus = {}, .what = "note", .value = {}, .unit = {}, .why = "a note is not taken"});
+      findings.notTaken.push_back({.fetus = {},
+                                   .what = "note",
+                                   .value = {},
+                                   .unit = {},
+                                   .why = Sentence("Findings", "a note is not taken")});
     FetusFindings& fetus = findings.fetuses.emplace_back();
     if (row.fetus) fetus.id = std::to_string(*row.fetus + 1);
     for (std::size_t i = 0; i < row.lengths.size(); ++i) {
       if (row.lengths.at(i) != 0.0)
         fetus.lengths.at(i) = FoundLength{.mm = row.lengths.at(i), .chosen = "plain"};
     }
-    return "";
+    return std::nullopt;
   }
 
   /// Why nothing tells whose row this is. Rows without an ID are of one patient, and no row has an ID then: an empty cell
   /// may as well mean the patient of the row above.
-  std::string patientFault(const Row& row) {
+  std::optional<Sentence> patientFault(const Row& row) {
     if (!firstLine_) {
       firstLine_ = row.line;
       hasIDs_ = !row.patient.empty();
       file_ = row.file;
       edd_ = row.edd;
-      return "";
+      return std::nullopt;
     }
     const bool hasID = !row.patient.empty();
-    const std::string first = "line " + std::to_string(*firstLine_);
+    const std::uint64_t first = *firstLine_;
     if (!hasID && !hasIDs_ && row.edd != edd_)
-      return "edd: it is not that of " + first +
-             ", and no reference_id tells the patients apart; write the ID into every row";
-    if (hasID == hasIDs_ && (hasID || row.file == file_)) return "";
+      return Sentence("Findings",
+                      "edd: it is not that of line %1, and no reference_id tells the patients apart; write "
+                      "the ID into every row")
+          .with(first);
+    if (hasID == hasIDs_ && (hasID || row.file == file_)) return std::nullopt;
     if (!hasID && hasIDs_)
-      return "reference_id: the cell is empty, that of " + first + " is not; write the ID into every row";
+      return Sentence("Findings",
+                      "reference_id: the cell is empty, that of line %1 is not; write the ID into every row")
+          .with(first);
     if (hasID)
-      return "reference_id: the cell of " + first + " is empty, this one is not; write the ID into every row";
-    return "the row is of another file than that of " + first +
-           ", and no reference_id tells the patients apart; write the rows with --identify";
+      return Sentence("Findings",
+                      "reference_id: the cell of line %1 is empty, this one is not; write the ID into every "
+                      "row")
+          .with(first);
+    return Sentence("Findings",
+                    "the row is of another file than that of line %1, and no reference_id tells the patients "
+                    "apart; write the rows with --identify")
+        .with(first);
   }
 
   /// Of the examination of the row, a new one where there is none yet.
@@ -327,44 +351,48 @@ class Table {
       Findings& findings = examinations_.emplace_back();
       if (!row.patient.empty()) findings.patientID = row.patient;
       findings.examDate = row.day;
-      if (!warning_.empty()) findings.warnings.push_back(warning_);
+      if (warning_) findings.warnings.push_back(*warning_);
     }
     return found->second;
   }
 
-  static std::string fetusFault(const Row& row, Lines& lines) {
+  static std::optional<Sentence> fetusFault(const Row& row, Lines& lines) {
     std::uint64_t& line = lines.fetuses.at(row.fetus ? static_cast<std::size_t>(*row.fetus) + 1 : 0);
     if (line == 0) {
       line = row.line;
-      return "";
+      return std::nullopt;
     }
-    const std::string there = "line " + std::to_string(line) + " has ";
-    return row.fetus
-               ? there + "the same fetus at the same examination; leave one of the two rows"
-               : there + "a fetus of this examination too; number them from 1, in a column fetus_number";
+    const auto fault =
+        row.fetus ? Sentence("Findings",
+                             "line %1 has the same fetus at the same examination; leave one of the two rows")
+                  : Sentence("Findings",
+                             "line %1 has a fetus of this examination too; number them from 1, in a column "
+                             "fetus_number");
+    return fault.with(line);
   }
 
   /// Takes what is said of the whole examination, in any of its rows, unless another row says something else.
   template <class Value>
-  std::string agreed(Column column, const std::optional<Value>& value, std::uint64_t line,
-                     std::optional<Value>& standing, Lines& lines) const {
-    if (!value || value == standing) return "";
+  std::optional<Sentence> agreed(Column column, const std::optional<Value>& value, std::uint64_t line,
+                                 std::optional<Value>& standing, Lines& lines) const {
+    if (!value || value == standing) return std::nullopt;
     std::uint64_t& standingLine = lines.values.at(column - kEdd);
     if (standing)
-      return reader_.nameOf(column) + ": line " + std::to_string(standingLine) +
-             " says something else of the same examination; make them agree";
+      //: %1 is a column of a table.
+      return Sentence("Findings", "%1: line %2 says something else of the same examination; make them agree")
+          .with(reader_.nameOf(column), standingLine);
     standing = value;
     standingLine = line;
-    return "";
+    return std::nullopt;
   }
 
   /// A person who counts from 1 would store everything for the next fetus.
   void requireFirstFetuses() {
     for (const Lines& lines : lines_) {
       if (lines.fetuses.at(1) == 0 && !isHopeless())
-        refuse(lines.first,
-               "fetus counts from 0, and no row of this examination has 0; where it counts from 1, call the "
-               "column fetus_number");
+        refuse(lines.first, Sentence("Findings",
+                                     "fetus counts from 0, and no row of this examination has 0; where it "
+                                     "counts from 1, call the column fetus_number"));
     }
   }
 
@@ -389,7 +417,7 @@ class Table {
   }
 
   RowReader reader_;
-  std::string warning_;
+  std::optional<Sentence> warning_;
   std::optional<std::uint64_t> firstLine_;  // of a row whose cells are understood
   bool hasIDs_ = false;
   std::optional<CivilDay> edd_;  ///< of the first row
@@ -398,15 +426,14 @@ class Table {
   std::unordered_map<std::uint64_t, std::size_t> places_;  // of the examinations, by patient and day
   std::vector<Findings> examinations_;
   std::vector<Lines> lines_;  // of the examinations
-  std::vector<std::string> faults_;
+  std::vector<Sentence> faults_;
   std::uint64_t lastLine_ = 0;  // of them
 };
 
 }  // namespace
 
-std::optional<std::variant<std::vector<Findings>, std::vector<std::string>>> findingsInTable(
+std::optional<std::variant<std::vector<Findings>, std::vector<Sentence>>> findingsInTable(
     std::string_view text) {
-  using Sentences = std::vector<std::string>;
   CsvReader reader;
   reader.read(text);
   reader.finish();
@@ -417,10 +444,10 @@ std::optional<std::variant<std::vector<Findings>, std::vector<std::string>>> fin
     while (!table->isHopeless() && reader.next() == CsvReader::Next::record)
       table->add(reader.cells(), reader.line());
   } catch (const rows::HeaderError& error) {
-    return Sentences{error.what()};
+    return std::vector{error.sentence()};
   } catch (const rows::CsvError& error) {
     if (!table) return std::nullopt;
-    table->refuse(error.line(), error.what());
+    table->refuse(error.line(), error.sentence());
   }
   return table->takeFindings();
 }

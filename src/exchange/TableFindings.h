@@ -4,12 +4,12 @@
 #pragma once
 
 #include <optional>
-#include <string>
 #include <string_view>
 #include <variant>
 #include <vector>
 
 #include "exchange/Findings.h"
+#include "foundation/Sentence.h"
 
 namespace nascor::exchange {
 
@@ -22,7 +22,7 @@ namespace nascor::exchange {
 /// A cell that is empty or 0 is not measured. Fetuses are numbered from 0 in the column `fetus`, as tidy rows have them, or
 /// from 1 in `fetus_number`; among the findings they are "1", "2", ..., as a document's are. IDs that differ only in the
 /// blanks around them are one. Columns with other names are passed over.
-std::optional<std::variant<std::vector<Findings>, std::vector<std::string>>> findingsInTable(
+std::optional<std::variant<std::vector<Findings>, std::vector<foundation::Sentence>>> findingsInTable(
     std::string_view text);
 
 }  // namespace nascor::exchange

@@ -68,8 +68,8 @@ std::vector<std::optional<std::size_t>> placesOf(std::span<const InputColumn> co
   return places;
 }
 
-std::string namesOf(const InputColumn& column) {
-  return std::string(column.name).append(" or ").append(column.shortName);
+Sentence namesOf(const InputColumn& column) {
+  return Sentence("Reading", "%1 or %2").with(column.name, column.shortName);
 }
 
 std::optional<double> plainNumber(std::string_view text) {
@@ -108,16 +108,8 @@ std::optional<double> measuredFromOtherText(std::string_view text) {
   return value;
 }
 
-std::string cellCountFault(std::size_t header, std::size_t row) {
-  return english(cellCountSentence(header, row));
-}
-
 Sentence cellCountSentence(std::size_t header, std::size_t row) {
   return Sentence("Reading", "the header has %1 cells, this row %2").with(header, row);
-}
-
-std::string numberFault(const std::string& column, const std::string& text) {
-  return english(numberSentence(column, text));
 }
 
 Sentence numberSentence(const std::string& column, const std::string& text) {

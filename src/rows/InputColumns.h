@@ -22,8 +22,6 @@ namespace nascor::rows {
 class HeaderError : public foundation::SpokenError {
  public:
   using SpokenError::SpokenError;
-  /// In English.
-  explicit HeaderError(const std::string& sentence) : SpokenError(foundation::Sentence::verbatim(sentence)) {}
 };
 
 /// A column that is looked for, under either name.
@@ -42,7 +40,7 @@ std::vector<std::optional<std::size_t>> placesOf(std::span<const InputColumn> co
                                                  std::span<const CsvCell> header);
 
 /// How a column that is missing could have been called: "bpd_mm or bpd".
-std::string namesOf(const InputColumn& column);
+foundation::Sentence namesOf(const InputColumn& column);
 
 /// The number in a cell that holds an age or a length. 0.0, not measured, for an empty cell, blanks, zeros, `NA` and `nan`
 /// in any letters, with or without a sign. Blanks around a number, a plus sign, exponents, `.5` and `5.` are fine.
@@ -62,13 +60,9 @@ inline std::optional<double> measuredFromText(std::string_view text) {
 
 /// A row that is shorter or longer than its header.
 foundation::Sentence cellCountSentence(std::size_t header, std::size_t row);
-/// The same in English.
-std::string cellCountFault(std::size_t header, std::size_t row);
 
 /// What `measuredFromText` makes nothing of.
 foundation::Sentence numberSentence(const std::string& column, const std::string& text);
-/// The same in English.
-std::string numberFault(const std::string& column, const std::string& text);
 
 /// The text for a message: in one line, no more than its beginning, in quotation marks.
 std::string inQuotes(const std::string& text);

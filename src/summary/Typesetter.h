@@ -9,6 +9,7 @@
 #include <variant>
 #include <vector>
 
+#include "foundation/Sentence.h"
 #include "summary/Summary.h"
 
 namespace nascor::summary {
@@ -27,7 +28,7 @@ struct Picture {
   std::vector<std::byte> bytes;
 };
 
-/// Puts summaries on paper. A string in place of a result is one sentence that says why there is none.
+/// Puts summaries on paper. A string in place of a result says why there is none, in the words of its library.
 class Typesetter {
  public:
   virtual ~Typesetter() = default;
@@ -42,6 +43,6 @@ class Typesetter {
 };
 
 /// Gives the typesetter, or one sentence that says why there is none.
-using FindTypesetter = std::function<std::variant<Typesetter*, std::string>()>;
+using FindTypesetter = std::function<std::variant<Typesetter*, foundation::Sentence>()>;
 
 }  // namespace nascor::summary

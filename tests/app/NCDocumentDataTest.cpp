@@ -70,22 +70,22 @@ TEST_F(ThePatientsData, goIntoReportsForOtherProgramsWhereTheNameSaysSo) {
   ASSERT_TRUE(std::holds_alternative<std::vector<exchange::StructuredReport>>(read));
   EXPECT_EQ(std::get<0>(read).front().patientID, "AB/123");
 
+  using foundation::Sentence;
   struct Files final : exchange::ReportFiles {
-    std::variant<exchange::StructuredReport, std::string> read(std::span<const std::byte>) override {
-      return "not here";
+    std::variant<exchange::StructuredReport, Sentence> read(std::span<const std::byte>) override {
+      return Sentence::verbatim("not here");
     }
-    std::variant<std::vector<std::byte>, std::string> write(
-        const exchange::StructuredReport& report) override {
+    std::variant<std::vector<std::byte>, Sentence> write(const exchange::StructuredReport& report) override {
       if (fault) return *fault;
       const auto bytes = std::as_bytes(std::span(report.patientID));
       return std::vector<std::byte>(bytes.begin(), bytes.end());
     }
-    std::optional<std::string> fault;
+    std::optional<Sentence> fault;
   } files;
-  const auto find = [&]() -> std::variant<exchange::ReportFiles*, std::string> { return &files; };
+  const auto find = [&]() -> std::variant<exchange::ReportFiles*, Sentence> { return &files; };
   EXPECT_EQ(document.exportData("/data.dcm", find), std::nullopt);
   EXPECT_EQ(written("/data.dcm"), "AB/123");
-  files.fault = "the ID is too long";
+  files.fault = Sentence::verbatim("the ID is too long");
   EXPECT_EQ(document.exportData("/other.dcm", find), "the ID is too long");
   EXPECT_EQ(written("/other.dcm"), "no file");
 }

@@ -9,6 +9,7 @@
 #include <fstream>
 
 #include "exchange/Codes.h"
+#include "support/InEnglish.h"
 
 namespace nascor::tests {
 namespace {
@@ -38,7 +39,7 @@ Bytes machineReport(const std::string& name) {
 
 StructuredReport readReport(const std::string& name) {
   auto report = files().read(machineReport(name));
-  if (auto* why = std::get_if<std::string>(&report)) ADD_FAILURE() << name << " " << *why;
+  if (auto* why = std::get_if<foundation::Sentence>(&report)) ADD_FAILURE() << name << " " << inEnglish(*why);
   return report.index() == 0 ? std::get<0>(report) : StructuredReport();
 }
 
@@ -90,7 +91,7 @@ Bytes written(const StructuredReport& report) {
 
 TEST(AReport, readsBackAsItWasWritten) {
   const auto read = files().read(written(aReport()));
-  ASSERT_EQ(read.index(), 0U) << std::get<1>(read);
+  ASSERT_EQ(read.index(), 0U) << inEnglish(std::get<1>(read));
   const StructuredReport& report = std::get<0>(read);
   EXPECT_EQ(report.sopClass, exchange::kComprehensiveSR);
   EXPECT_EQ(report.patientID, "MÜLLER-Ž");
@@ -114,7 +115,7 @@ TEST(AReport, thatIsLongIsWrittenWhole) {
 /// Each cut must be refused, or be the whole but for what does not belong to the content.
 void expectNoPart(const Bytes& whole) {
   const auto all = files().read(whole);
-  ASSERT_EQ(all.index(), 0U) << std::get<1>(all);
+  ASSERT_EQ(all.index(), 0U) << inEnglish(std::get<1>(all));
   for (std::size_t length = 0; length < whole.size(); ++length) {
     const auto cut = files().read(std::span(whole).first(length));
     if (cut.index() == 1) continue;
@@ -141,7 +142,7 @@ TEST(AReportWithAnyByteChanged, isReadOrRefused) {
     Bytes changed = whole;
     changed[at] ^= std::byte{0xFF};
     const auto read = files().read(changed);
-    EXPECT_TRUE(read.index() == 0 || !std::get<1>(read).empty());
+    EXPECT_TRUE(read.index() == 0 || !inEnglish(std::get<1>(read)).empty());
   }
 }
 
@@ -157,7 +158,7 @@ TEST(TheTextsOfAReport, areReadByTheirCharacterSet) {
 TEST(ATextThatDoesNotFitItsCharacterSet, isSaid) {
   const StructuredReport report = readReport("not-ascii");
   EXPECT_EQ(report.patientID, "M\xEF\xBF\xBD-1");
-  EXPECT_THAT(report.warnings, ElementsAre(HasSubstr("character set")));
+  EXPECT_THAT(inEnglish(report.warnings), ElementsAre(HasSubstr("character set")));
 }
 
 TEST(TheEncodingsOfAFile, areAllThreeRead) {

@@ -8,6 +8,9 @@
 #include <cstring>
 #include <tuple>
 
+#include "support/InEnglish.h"
+#include "support/MarkedLocalizer.h"
+
 namespace nascor::tests {
 namespace {
 
@@ -15,7 +18,7 @@ using testing::HasSubstr;
 
 std::string fault(const std::string& file) {
   const auto found = dicom::dataSetIn(std::as_bytes(std::span(file)));
-  return found.index() == 0 ? "" : std::get<1>(found);
+  return found.index() == 0 ? "" : inEnglish(std::get<1>(found));
 }
 
 std::string little(std::uint32_t value, std::size_t size) {
@@ -138,6 +141,12 @@ TEST(OtherFiles, areNoDicomFiles) {
   EXPECT_THAT(fault(file("", "1.2.840.10008.1.2.1.99")), HasSubstr("compressed"));
   EXPECT_THAT(fault(std::string(128, '\0') + "DICM"), HasSubstr("does not say"));
   EXPECT_THAT(fault(std::string(128, '\0') + "DICM" + kText), HasSubstr("does not say"));
+}
+
+TEST(WhatIsWrongWithAFile, isSaidInTheLanguageOfTheReader) {
+  const std::string text = "no report";
+  const auto found = dicom::dataSetIn(std::as_bytes(std::span(text)));
+  EXPECT_EQ(said(std::get<1>(found), MarkedLocalizer()), "[ReportFiles:is no DICOM file]");
 }
 
 }  // namespace

@@ -12,6 +12,8 @@
 #include <sys/socket.h>
 #include <unistd.h>
 
+#include "support/MarkedLocalizer.h"
+
 namespace nascor::tests {
 namespace {
 
@@ -70,6 +72,23 @@ TEST(AnOperation, leavesNoDescriptorOpen) {
   const int after = ::dup(0);
   ::close(after);
   EXPECT_EQ(after, before);
+}
+
+TEST(AServerThatDoesNotAnswer, isSaidInTheLanguageOfTheReader) {
+  dicom_net::DcmtkReportServer server;
+  exchange::ServerAddress address;
+  {
+    const SilentPort port;
+    address = addressOf(port);
+    EXPECT_EQ(said(server.echo(address).value(), MarkedLocalizer()),
+              "[ReportServer:gave no complete answer within 1 s]");
+  }
+  EXPECT_THAT(said(server.echo(address).value(), MarkedLocalizer()),
+              testing::StartsWith("[ReportServer:cannot be reached: "))
+      << "the port is closed";
+  address.tls = exchange::TlsSettings{.authorityFile = "none.pem"};
+  EXPECT_EQ(said(server.echo(address).value(), MarkedLocalizer()),
+            "[ReportServer:none.pem holds no certificate in PEM that can be read]");
 }
 
 }  // namespace

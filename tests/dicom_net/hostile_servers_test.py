@@ -302,7 +302,7 @@ class AServerThatFindsWhatItWasNotAskedFor(Case):
         self.assertEqual(outcome.status, 0, outcome.err)
         self.assertEqual(outcome.out, '{"patientID":"AB-123","studyDate":"2026-11-13","study":"1.2.4.1",'
                                       '"series":"1.2.4.2","instance":"1.2.4.3"}\n')
-        self.assertIn("1 answers were left out: they are of another patient", outcome.err)
+        self.assertIn("1 answer was left out: it is of another patient", outcome.err)
 
     def test_shows_no_other_day_or_study(self):
         self.assertEqual(self.found([report()], "--from", "2026-11-14").out, "")

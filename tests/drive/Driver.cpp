@@ -174,7 +174,9 @@ Json summaryFactsJson(const NCDocument& document) {
 }
 
 /// Stories have no paper.
-std::variant<summary::Typesetter*, std::string> noTypesetter() { return "nothing is put on paper here"; }
+std::variant<summary::Typesetter*, foundation::Sentence> noTypesetter() {
+  return foundation::Sentence::verbatim("nothing is put on paper here");
+}
 
 Json optionalJson(const std::optional<std::string>& text) { return text ? Json(*text) : Json(); }
 

@@ -16,6 +16,12 @@ using Json = Importing::Json;
 
 namespace {
 
+Json inEnglish(const std::vector<foundation::Sentence>& sentences) {
+  Json all = Json::array();
+  for (const foundation::Sentence& each : sentences) all.push_back(english(each));
+  return all;
+}
+
 Json textOrNull(const std::string& text) { return text.empty() ? Json() : Json(text); }
 
 }  // namespace
@@ -24,13 +30,13 @@ Json Importing::begin(const Json& paths, app::NCDocument& document) {
   import_.reset();
   const auto files = paths.get<std::vector<std::string>>();
   reports::FoundInFiles found = reports::findingsInFiles(files, document.services().files);
-  if (found.findings.empty()) return {{"failures", found.failures}};
+  if (found.findings.empty()) return {{"failures", inEnglish(found.failures)}};
   if (!document.commitEditing()) throw std::runtime_error("a field refuses its text");
   app::NCDocument& target = document.documentOfPatient(found.findings);
   document_ = &target;
   import_.emplace(target, std::move(found.findings));
   Json answer = description();
-  answer["failures"] = found.failures;
+  answer["failures"] = inEnglish(found.failures);
   return answer;
 }
 

@@ -7,6 +7,8 @@
 
 #include "Reports.h"
 #include "exchange/FindingsJson.h"
+#include "support/InEnglish.h"
+#include "support/MarkedLocalizer.h"
 
 namespace nascor::tests {
 namespace {
@@ -200,7 +202,7 @@ TEST(AFemurUnderAPrivateCode, isTakenInItsSectionWhereThereIsNoOther) {
   };
   Findings findings = found({bones({number(femur, "44.9")})});
   EXPECT_EQ(findings.fetuses.at(0).lengths[3]->mm, 44.9);
-  EXPECT_THAT(findings.warnings, ElementsAre(HasSubstr("private")));
+  EXPECT_THAT(inEnglish(findings.warnings), ElementsAre(HasSubstr("private")));
 
   findings = found({bones({number(femur, "44.9"), number(term::fl, "45.2")})});
   EXPECT_EQ(findings.fetuses.at(0).lengths[3]->mm, 45.2);
@@ -233,7 +235,7 @@ TEST(TheEDD, isTheOneThatIsEstablishedElseTheOneByTheLastPeriod) {
   ASSERT_THAT(findings.notTaken, SizeIs(2));
   EXPECT_EQ(findings.notTaken[0].what, "edd");
   EXPECT_EQ(findings.notTaken[1].what, "lmp");
-  EXPECT_THAT(findings.notTaken[1].why, HasSubstr("2026-05-28"));
+  EXPECT_THAT(inEnglish(findings.notTaken[1].why), HasSubstr("2026-05-28"));
 }
 
 TEST(TheDayOfTheExamination, isTheStudyDateElseTheContentDate) {
@@ -261,9 +263,9 @@ TEST(Counts, areWholeOrNotTaken) {
 
 TEST(TheNumberOfFetuses, isComparedWithThoseInTheReport) {
   const auto warnings = [](const char* count) {
-    return found({summary({number(term::numberOfFetusesToo, count, "1")}),
-                  biometry({text(term::fetusID, "1"), number(term::bpd, "1")})})
-        .warnings;
+    return inEnglish(found({summary({number(term::numberOfFetusesToo, count, "1")}),
+                            biometry({text(term::fetusID, "1"), number(term::bpd, "1")})})
+                         .warnings);
   };
   EXPECT_THAT(warnings("1"), IsEmpty());
   EXPECT_THAT(warnings("2"), ElementsAre(HasSubstr("2 fetuses")));
@@ -271,10 +273,11 @@ TEST(TheNumberOfFetuses, isComparedWithThoseInTheReport) {
 
 /// A weight of the lengths HC 227.3, AC 202.8, FL 44.9, which weigh 741 g by HC, AC and FL (Hadlock 1985).
 std::vector<std::string> warningsOfWeight(const char* value, const char* unit, const Term& equation) {
-  return found({summary({container(term::fetusSummary,
-                                   {number(term::efw, value, unit, {code(term::equation, equation)})})}),
-                biometry({number(term::hc, "227.3"), number(term::ac, "202.8"), number(term::fl, "44.9")})})
-      .warnings;
+  const Findings findings =
+      found({summary({container(term::fetusSummary,
+                                {number(term::efw, value, unit, {code(term::equation, equation)})})}),
+             biometry({number(term::hc, "227.3"), number(term::ac, "202.8"), number(term::fl, "44.9")})});
+  return inEnglish(findings.warnings);
 }
 
 TEST(TheWeightOfAReport, isComparedByItsOwnEquation) {
@@ -299,14 +302,36 @@ TEST(TheWeightOfAReport, isTheFlaggedOneElseTheFirst) {
 TEST(OtherReports, areRefusedInASentence) {
   auto other = report({});
   other.sopClass = "1.2.840.10008.5.1.4.1.1.88.11";
-  EXPECT_TRUE(std::holds_alternative<std::string>(exchange::findingsIn(other)));
+  EXPECT_TRUE(std::holds_alternative<foundation::Sentence>(exchange::findingsIn(other)));
   other.sopClass = exchange::kEnhancedSR;
   EXPECT_TRUE(std::holds_alternative<Findings>(exchange::findingsIn(other)));
   other.hasContent = false;
-  EXPECT_TRUE(std::holds_alternative<std::string>(exchange::findingsIn(other)));
+  EXPECT_TRUE(std::holds_alternative<foundation::Sentence>(exchange::findingsIn(other)));
   other.hasContent = true;
   other.root.name.scheme = "99X";
-  EXPECT_TRUE(std::holds_alternative<std::string>(exchange::findingsIn(other)));
+  EXPECT_TRUE(std::holds_alternative<foundation::Sentence>(exchange::findingsIn(other)));
+}
+
+TEST(WhatIsSaidOfAReport, isInTheLanguageOfTheReader) {
+  const Findings findings =
+      found({biometry({text(term::fetusID, "A"), number(term::bpd, "60.9", "mm", {derived(kCalculated)}),
+                       number(term::hc, "1", "[in_i]"), number(term::fl, "1", "mm", {flagged()}),
+                       number(term::fl, "2", "mm", {flagged()}), number(term::fl, "3")}),
+             summary({date(term::edd, "20270230"), number(term::gravida, "x", "1")})});
+  const MarkedLocalizer marked;
+  std::vector<std::string> said;
+  for (const auto& each : findings.notTaken) said.push_back(foundation::said(each.why, marked));
+  EXPECT_THAT(said, testing::UnorderedElementsAre(
+                        R"([Findings:the unit "[in_i]" is neither mm nor cm])",
+                        R"([Findings:EDD: "20270230" is no day])", R"([Findings:"x" is no count])",
+                        "[Findings:a [Findings:flagged] value is taken before a [Findings:plain] one]"));
+  said.clear();
+  for (const auto& each : findings.warnings) said.push_back(foundation::said(each, marked));
+  const std::string fetus = "[Findings:[Findings:fetus A: ";
+  EXPECT_THAT(said,
+              ElementsAre(fetus + "[Findings:BPD]] is [Findings:calculated], not measured]",
+                          fetus + "[Findings:FL]]: several [Findings:flagged] values, 1, 2 mm; their mean is "
+                                  "taken]"));
 }
 
 TEST(TheJsonOfFindings, hasEveryKeyInItsOrder) {

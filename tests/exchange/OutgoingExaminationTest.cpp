@@ -12,6 +12,7 @@
 #include "exchange/FhirBundle.h"
 #include "exchange/FhirReader.h"
 #include "support/FixedOffsetCalendar.h"
+#include "support/InEnglish.h"
 
 namespace nascor::tests {
 namespace {
@@ -77,7 +78,7 @@ TEST(ABundleOfADocument, readsBackAsWhatWasMeasured) {
   const auto examinations = exchange::outgoingExaminations(twins(), kSydney);
   const auto reports =
       exchange::reportsInBundle(exchange::writeFhir(examinations, exchange::FhirForm::bundle));
-  ASSERT_EQ(reports.index(), 0U) << std::get<std::string>(reports);
+  ASSERT_EQ(reports.index(), 0U) << inEnglish(std::get<1>(reports));
   ASSERT_THAT(std::get<0>(reports), SizeIs(1));
   expectTwins(readBack(std::get<0>(reports)[0]));
 }
@@ -90,7 +91,7 @@ TEST(WhatLeaves, isNoLengthThatIsNone) {
   lengths.setAC(0);
   const auto examinations = exchange::outgoingExaminations(patient, kSydney);
   EXPECT_THAT(examinations[0].fetuses[0].lengths, SizeIs(1));
-  EXPECT_THAT(examinations[0].warnings,
+  EXPECT_THAT(inEnglish(examinations[0].warnings),
               ElementsAre(HasSubstr("fetus 1: BPD nan"), HasSubstr("fetus 1: HC -1")));
   EXPECT_FALSE(examinations[0].fetuses[0].efw.has_value());
 }
@@ -210,13 +211,16 @@ TEST(ABundle, isRefusedWhereItIsNestedTooDeep) {
   const auto nested = [](std::size_t depth) {
     return R"({"resourceType":"Bundle","entry":)" + std::string(depth, '[') + std::string(depth, ']') + "}";
   };
-  const auto said = [&](std::size_t depth) { return std::get<1>(exchange::reportsInBundle(nested(depth))); };
+  const auto said = [&](std::size_t depth) {
+    return inEnglish(std::get<1>(exchange::reportsInBundle(nested(depth))));
+  };
   EXPECT_EQ(said(127), "is a FHIR bundle without an examination");
   EXPECT_EQ(said(128), "is nested deeper than any FHIR bundle");
   // What stands in texts is none.
   const std::string inText =
       R"({"resourceType":"Bundle","id":")" + std::string(200, '[') + R"(\"[","entry":[]})";
-  EXPECT_EQ(std::get<1>(exchange::reportsInBundle(inText)), "is a FHIR bundle without an examination");
+  EXPECT_EQ(inEnglish(std::get<1>(exchange::reportsInBundle(inText))),
+            "is a FHIR bundle without an examination");
 }
 
 TEST(ABundleWithWrongThings, losesThemWithAWord) {
@@ -240,8 +244,8 @@ TEST(ABundleWithWrongThings, losesThemWithAWord) {
   EXPECT_FALSE(wrong.fetuses.at(0).lengths[3].has_value());
   EXPECT_EQ(wrong.fetuses.at(0).lengths[2]->mm, 202.8);
   EXPECT_THAT(wrong.notTaken, SizeIs(1));
-  EXPECT_THAT(wrong.warnings, testing::Contains(HasSubstr("entered-in-error")));
-  EXPECT_THAT(wrong.warnings, testing::Contains(HasSubstr("another fetus")));
+  EXPECT_THAT(inEnglish(wrong.warnings), testing::Contains(HasSubstr("entered-in-error")));
+  EXPECT_THAT(inEnglish(wrong.warnings), testing::Contains(HasSubstr("another fetus")));
 }
 
 TEST(TheLetterOfAFetus, goesBeyondTwentySix) {

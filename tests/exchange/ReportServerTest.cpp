@@ -7,6 +7,8 @@
 
 #include <functional>
 
+#include "support/InEnglish.h"
+
 namespace nascor::tests {
 namespace {
 
@@ -36,7 +38,7 @@ TEST_P(AnAddressOfAServer, isLookedAtBeforeItIsUsed) {
     EXPECT_EQ(fault, std::nullopt);
   } else {
     ASSERT_NE(fault, std::nullopt);
-    EXPECT_THAT(*fault, HasSubstr(GetParam().says));
+    EXPECT_THAT(inEnglish(fault), HasSubstr(GetParam().says));
   }
 }
 
@@ -85,7 +87,7 @@ class AQuery : public testing::TestWithParam<QueryCase> {};
 
 TEST_P(AQuery, neverAsksForMoreThanItSays) {
   const auto fault = faultOf(GetParam().query);
-  EXPECT_THAT(fault.value_or(""), HasSubstr(GetParam().says));
+  EXPECT_THAT(inEnglish(fault), HasSubstr(GetParam().says));
   EXPECT_EQ(fault.has_value(), !std::string(GetParam().says).empty());
 }
 
@@ -133,15 +135,16 @@ struct CountingServer final : exchange::ReportServer {
   int calls = 0;
 
  private:
-  std::optional<std::string> doEcho(const ServerAddress&) override {
+  std::optional<foundation::Sentence> doEcho(const ServerAddress&) override {
     ++calls;
     return std::nullopt;
   }
-  std::variant<FoundReports, std::string> doFind(const ServerAddress&, const ReportQuery&) override {
+  std::variant<FoundReports, foundation::Sentence> doFind(const ServerAddress&, const ReportQuery&) override {
     ++calls;
     return FoundReports{};
   }
-  std::variant<FetchedReports, std::string> doFetch(const ServerAddress&, const ReportQuery&) override {
+  std::variant<FetchedReports, foundation::Sentence> doFetch(const ServerAddress&,
+                                                             const ReportQuery&) override {
     ++calls;
     return FetchedReports{};
   }

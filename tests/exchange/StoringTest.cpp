@@ -8,6 +8,8 @@
 #include "Reports.h"
 #include "foundation/IsoDate.h"
 #include "support/FixedOffsetCalendar.h"
+#include "support/InEnglish.h"
+#include "support/MarkedLocalizer.h"
 
 namespace nascor::tests {
 namespace {
@@ -50,9 +52,9 @@ class ADocument : public testing::Test {
   std::vector<std::string> store(const Findings& what, const Confirmation& confirmation = {},
                                  bool isNew = false) {
     auto stored = exchange::storeFindings(what, confirmation, isNew, calendar, patient);
-    if (auto* refusal = std::get_if<std::string>(&stored)) ADD_FAILURE() << *refusal;
+    if (auto* refusal = std::get_if<foundation::Sentence>(&stored)) ADD_FAILURE() << inEnglish(*refusal);
     const auto* values = std::get_if<exchange::Stored>(&stored);
-    return values ? exchange::warningsOf(*values, what) : std::vector<std::string>{};
+    return values ? inEnglish(exchange::warningsOf(*values, what)) : std::vector<std::string>{};
   }
 
   /// Why nothing is stored; nothing has changed then.
@@ -61,8 +63,8 @@ class ADocument : public testing::Test {
     EXPECT_THAT(patient.ncRecordsArray(), SizeIs(1));
     EXPECT_EQ(measured(0).bpd(), 0.0);
     EXPECT_EQ(measured(1).bpd(), 0.0);
-    const auto* sentence = std::get_if<std::string>(&stored);
-    return sentence ? *sentence : "";
+    const auto* sentence = std::get_if<foundation::Sentence>(&stored);
+    return sentence ? inEnglish(*sentence) : "";
   }
 
   model::MeasurementsRecord& measured(std::int64_t fetus) {
@@ -113,8 +115,30 @@ TEST_F(ADocument, takesNoReportWhoseIdCannotBeRead) {
   EXPECT_THAT(refusal(unreadable), HasSubstr("characters that cannot be read"));
   model::PatientRecord blank;
   blank.setNumberOfFetuses(1);
-  EXPECT_TRUE(
-      std::holds_alternative<std::string>(exchange::storeFindings(unreadable, {}, true, calendar, blank)));
+  EXPECT_TRUE(std::holds_alternative<foundation::Sentence>(
+      exchange::storeFindings(unreadable, {}, true, calendar, blank)));
+}
+
+TEST_F(ADocument, isRefusedInTheLanguageOfTheReader) {
+  const MarkedLocalizer marked;
+  const auto why = [&](const Findings& what) {
+    const auto stored = exchange::storeFindings(what, {}, false, calendar, patient);
+    return said(std::get<foundation::Sentence>(stored), marked);
+  };
+  EXPECT_EQ(why(findings("A", 60.9, 0)),
+            "[Findings:[Findings:fetus \"A\"] of the report may be any of the document's; nothing is stored "
+            "unless its number is given]");
+  EXPECT_EQ(
+      why(findings(nullptr, 60.9, 0)),
+      "[Findings:[Findings:a fetus without an ID] of the report may be any of the document's; nothing is "
+      "stored unless its number is given]");
+
+  const Findings tooLong = findings("1", 250, 0);
+  const auto stored = exchange::storeFindings(tooLong, {}, false, calendar, patient);
+  const auto warnings = exchange::warningsOf(std::get<exchange::Stored>(stored), tooLong);
+  ASSERT_THAT(warnings, SizeIs(1));
+  EXPECT_EQ(said(warnings[0], marked),
+            "[Findings:fetus 1: [Findings:BPD] 250 mm is beyond what a document takes]");
 }
 
 TEST_F(ADocument, isToldThatAReportSpeaksOfOtherTwins) {
@@ -207,7 +231,8 @@ TEST_F(ADocument, thatIsNewTakesPatientAndFetusesFromTheReport) {
 
   Findings six = findings("6", 60.9, 0);
   six.numberOfFetuses = 6;
-  EXPECT_TRUE(std::holds_alternative<std::string>(exchange::storeFindings(six, {}, true, calendar, patient)));
+  EXPECT_TRUE(std::holds_alternative<foundation::Sentence>(
+      exchange::storeFindings(six, {}, true, calendar, patient)));
 }
 
 }  // namespace

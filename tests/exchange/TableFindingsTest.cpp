@@ -6,6 +6,8 @@
 #include <gmock/gmock.h>
 
 #include "exchange/Storing.h"
+#include "support/InEnglish.h"
+#include "support/MarkedLocalizer.h"
 
 namespace nascor::tests {
 namespace {
@@ -24,8 +26,8 @@ const std::string kHeader = "reference_id,exam_date,fetus,bpd_mm,hc_mm,ac_mm,fl_
 /// A table that fits.
 std::vector<Findings> taken(const std::string& table) {
   const auto found = findingsInTable(table).value();
-  if (const auto* why = std::get_if<std::vector<std::string>>(&found)) {
-    ADD_FAILURE() << testing::PrintToString(*why);
+  if (const auto* why = std::get_if<std::vector<foundation::Sentence>>(&found)) {
+    ADD_FAILURE() << testing::PrintToString(inEnglish(*why));
     return {};
   }
   return std::get<0>(found);
@@ -34,9 +36,9 @@ std::vector<Findings> taken(const std::string& table) {
 /// The sentences about a table that does not, but for the last, which says that nothing was taken.
 std::vector<std::string> faultsOf(const std::string& table) {
   const auto found = findingsInTable(table).value();
-  const auto* sentences = std::get_if<std::vector<std::string>>(&found);
+  const auto* sentences = std::get_if<std::vector<foundation::Sentence>>(&found);
   if (!sentences || sentences->empty()) return {"none"};
-  std::vector<std::string> faults = *sentences;
+  std::vector<std::string> faults = inEnglish(*sentences);
   EXPECT_EQ(faults.back(), "nothing of this table is taken until every row of it fits");
   faults.pop_back();
   return faults;
@@ -95,7 +97,7 @@ TEST(ATable, mayComeFromAnySpreadsheet) {
   ASSERT_THAT(all[0].fetuses, SizeIs(1));
   EXPECT_EQ(all[0].fetuses[0].id, std::nullopt);
   EXPECT_THAT(lengthsOf(all[0].fetuses[0]), ElementsAre(60.9, -1, -1, -1));
-  EXPECT_THAT(all[0].warnings,
+  EXPECT_THAT(inEnglish(all[0].warnings),
               ElementsAre("there is no column hc_mm or hc, ac_mm or ac, fl_mm or fl: never measured"));
   ASSERT_THAT(all[0].notTaken, SizeIs(1));
   EXPECT_EQ(all[0].notTaken[0].what, "note");
@@ -121,7 +123,8 @@ TEST(ATable, knowsAllOfAPatientsFetusesFromTheFirstExaminationOn) {
                          "A,2026-11-27,1,62,,,,\n");
   ASSERT_THAT(all, SizeIs(3));
   EXPECT_EQ(all[0].numberOfFetuses, 2);
-  EXPECT_THAT(all[0].warnings, ElementsAre("the report says that there are 2 fetuses, and holds 1"));
+  EXPECT_THAT(inEnglish(all[0].warnings),
+              ElementsAre("the report says that there are 2 fetuses, and holds 1"));
   EXPECT_EQ(all[1].numberOfFetuses, std::nullopt);
   EXPECT_EQ(all[2].numberOfFetuses, 2);
   EXPECT_THAT(all[2].warnings, IsEmpty());
@@ -270,7 +273,7 @@ class AHeaderThatDoesNotFit : public testing::TestWithParam<BadHeader> {};
 TEST_P(AHeaderThatDoesNotFit, isOneSentence) {
   const auto found = findingsInTable(GetParam().table).value();
   ASSERT_EQ(found.index(), 1U);
-  EXPECT_THAT(std::get<1>(found), ElementsAre(GetParam().sentence));
+  EXPECT_THAT(inEnglish(std::get<1>(found)), ElementsAre(GetParam().sentence));
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -284,6 +287,19 @@ INSTANTIATE_TEST_SUITE_P(
                   "stand in the header"},
         BadHeader{"noRows", "exam_date,bpd_mm\r\n", "is a table without an examination"}),
     [](const auto& row) { return std::string(row.param.name); });
+
+TEST(WhatIsSaidOfATable, isInTheLanguageOfTheReader) {
+  const auto found = findingsInTable("exam_date,bpd_mm,gravida\nx,60,-1\n2026-11-13,60\n").value();
+  std::vector<std::string> said;
+  for (const auto& each : std::get<1>(found)) said.push_back(foundation::said(each, MarkedLocalizer()));
+  EXPECT_THAT(
+      said,
+      ElementsAre(
+          R"([Findings:line 2: [Findings:exam_date: [Findings:"x" is no day; write it like 2026-11-13]]; )"
+          R"([Findings:gravida: [Findings:"-1" is no whole number from 0 on]]])",
+          "[Findings:line 3: [Reading:the header has 3 cells, this row 2]]",
+          "[Findings:nothing of this table is taken until every row of it fits]"));
+}
 
 TEST(ATable, isKnownByItsHeader) {
   for (const char* header :
@@ -300,10 +316,10 @@ TEST(SeveralPatients, areNamed) {
   const auto one = taken(kHeader + "A,2026-11-13,0,60,,,,\n A,2026-11-27,0,60,,,,\n");
   EXPECT_EQ(severalPatientsFault(one), std::nullopt);
   const auto two = taken(kHeader + "B,2026-11-13,0,60,,,,\nA,2026-11-27,0,60,,,,\n");
-  EXPECT_THAT(severalPatientsFault(two).value_or(""), HasSubstr("(\"A\", \"B\")"));
+  EXPECT_THAT(inEnglish(severalPatientsFault(two)), HasSubstr("(\"A\", \"B\")"));
   std::string many = kHeader;
   for (char id = 'A'; id <= 'H'; ++id) many += std::string(1, id) + ",2026-11-13,0,60,,,,\n";
-  EXPECT_THAT(severalPatientsFault(taken(many)).value_or(""), HasSubstr("\"D\", \"E\", 3 more)"));
+  EXPECT_THAT(inEnglish(severalPatientsFault(taken(many))), HasSubstr("\"D\", \"E\", 3 more)"));
 }
 
 }  // namespace

@@ -29,7 +29,7 @@ using testing::IsEmpty;
 class FakeServer final : public exchange::ReportServer {
  public:
   std::vector<ReportPlace> places;
-  std::optional<std::string> fault;
+  std::optional<foundation::Sentence> fault;
   std::vector<std::string> asked;
   std::vector<std::string> sent;
   std::atomic<bool> isSlow = false;
@@ -44,18 +44,18 @@ class FakeServer final : public exchange::ReportServer {
     isSlow.wait(true);
     asked.push_back(std::string(what) + " " + address.host + " " + more);
   }
-  std::optional<std::string> doEcho(const ServerAddress& address) override {
+  std::optional<foundation::Sentence> doEcho(const ServerAddress& address) override {
     note("echo", address);
     return fault;
   }
-  std::variant<exchange::FoundReports, std::string> doFind(const ServerAddress& address,
-                                                           const ReportQuery& query) override {
+  std::variant<exchange::FoundReports, foundation::Sentence> doFind(const ServerAddress& address,
+                                                                    const ReportQuery& query) override {
     note("find", address, query.patientID);
     if (fault) return *fault;
     return exchange::FoundReports{.places = places, .warnings = {}};
   }
-  std::variant<exchange::FetchedReports, std::string> doFetch(const ServerAddress& address,
-                                                              const ReportQuery& query) override {
+  std::variant<exchange::FetchedReports, foundation::Sentence> doFetch(const ServerAddress& address,
+                                                                       const ReportQuery& query) override {
     note("fetch", address, query.study);
     exchange::FetchedReports fetched;
     for (const ReportPlace& place : places) {
@@ -77,10 +77,11 @@ class FakeServer final : public exchange::ReportServer {
 /// Writes the day of a report and nothing else.
 class FakeFiles final : public exchange::ReportFiles {
  public:
-  std::variant<exchange::StructuredReport, std::string> read(std::span<const std::byte>) override {
-    return "is not read here";
+  std::variant<exchange::StructuredReport, foundation::Sentence> read(std::span<const std::byte>) override {
+    return foundation::Sentence::verbatim("is not read here");
   }
-  std::variant<std::vector<std::byte>, std::string> write(const exchange::StructuredReport& report) override {
+  std::variant<std::vector<std::byte>, foundation::Sentence> write(
+      const exchange::StructuredReport& report) override {
     const std::string text = report.patientID + " " + report.studyDate;
     const auto bytes = std::as_bytes(std::span(text));
     return std::vector<std::byte>(bytes.begin(), bytes.end());
@@ -98,7 +99,9 @@ class TheServerMenu : public WindowTest {
          .perform = [this](const qt::DocumentAction& action) { action(document()); },
          .task = task,
          .server = [this] { return findServer; },
-         .reportFiles = [this]() -> std::variant<exchange::ReportFiles*, std::string> { return &files; },
+         .reportFiles = [this]() -> std::variant<exchange::ReportFiles*, foundation::Sentence> {
+           return &files;
+         },
          .import =
              [this](std::vector<std::vector<std::byte>> all, app::NCDocument&) {
                for (const auto& each : all)
@@ -144,7 +147,7 @@ class TheServerMenu : public WindowTest {
 
   FakeServer server;
   FakeFiles files;
-  std::variant<exchange::ReportServer*, std::string> findServer = &server;
+  std::variant<exchange::ReportServer*, foundation::Sentence> findServer = &server;
   ScriptedAlerts alerts;
   std::vector<std::string> imported;
   std::string proposed;
@@ -167,7 +170,7 @@ TEST_F(TheServerMenu, asksNobodyUntilAServerIsNamed) {
 }
 
 TEST_F(TheServerMenu, keepsTheServerThatIsNamedAndTriesItWhenTold) {
-  server.fault = "the server refuses the title";
+  server.fault = foundation::Sentence::verbatim("the server refuses the title");
   then<QDialog>([this](QDialog& dialog) {
     const auto line = [&](const char* name) { return dialog.findChild<QLineEdit*>(QLatin1String(name)); };
     auto* answer = dialog.findChild<QLabel*>(QStringLiteral("serverAnswer"));
@@ -251,7 +254,7 @@ TEST_F(TheServerMenu, tellsWhatTheServerSaysAndWhereItHasNothing) {
   item("fetchReportsAction").trigger();
   ASSERT_EQ(alerts.told.size(), 1U);
   EXPECT_THAT(alerts.told[0], HasSubstr("no report of the patient ZZ-1"));
-  server.fault = "the server cannot be reached";
+  server.fault = foundation::Sentence::verbatim("the server cannot be reached");
   thenAskFor("ZZ-1");
   item("fetchReportsAction").trigger();
   ASSERT_EQ(alerts.told.size(), 2U);
@@ -289,7 +292,7 @@ TEST_F(TheServerMenu, needNotBeWaitedFor) {
 
 TEST_F(TheServerMenu, saysWhereNothingSpeaksToServers) {
   setUp();
-  findServer = std::string("the module is not installed");
+  findServer = foundation::Sentence::verbatim("the module is not installed");
   thenAskFor("AB-123");
   item("fetchReportsAction").trigger();
   ASSERT_EQ(alerts.told.size(), 1U);

@@ -92,8 +92,8 @@ FoundInAll findAndPrint(const std::vector<std::string>& files, Console& console)
       continue;
     }
     auto reports = reports::findingsIn(*bytes);
-    if (const auto* sentences = std::get_if<std::vector<std::string>>(&reports)) {
-      for (const std::string& why : *sentences) console.complain(nameOf(file), Sentence::verbatim(why));
+    if (const auto* sentences = std::get_if<std::vector<Sentence>>(&reports)) {
+      for (const Sentence& why : *sentences) console.complain(nameOf(file), why);
       found.isWhole = false;
       continue;
     }
@@ -173,11 +173,11 @@ void store(const std::vector<Found>& all, const Arguments& arguments, Console& c
   }
   bool isNew = isNewDocument;
   bool isRefused = false;
-  std::vector<std::pair<std::string, std::string>> warnings;
+  std::vector<std::pair<std::string, Sentence>> warnings;
   for (const Found& found : all) {
     const std::string file = nameOf(found.file);
-    const auto refuse = [&](const std::string& why) {
-      console.complain(file, Sentence::verbatim(why));
+    const auto refuse = [&](const Sentence& why) {
+      console.complain(file, why);
       isRefused = true;
     };
     if (const auto why = exchange::severalPatientsFault(found.findings)) {
@@ -186,17 +186,17 @@ void store(const std::vector<Found>& all, const Arguments& arguments, Console& c
     }
     for (const exchange::Findings& findings : found.findings) {
       const auto taken = exchange::storeFindings(findings, confirmation, isNew, calendar, patient);
-      if (const auto* why = std::get_if<std::string>(&taken)) {
+      if (const auto* why = std::get_if<Sentence>(&taken)) {
         refuse(*why);
         continue;
       }
       isNew = false;
-      for (const std::string& warning : warningsOf(std::get<exchange::Stored>(taken), findings))
+      for (const Sentence& warning : warningsOf(std::get<exchange::Stored>(taken), findings))
         warnings.emplace_back(file, warning);
     }
   }
   if (isRefused) return;
-  for (const auto& [file, warning] : warnings) console.warn(file, Sentence::verbatim(warning));
+  for (const auto& [file, warning] : warnings) console.warn(file, warning);
   document.writeExpected(model::archivedPatient(patient), stored->contents);
 }
 

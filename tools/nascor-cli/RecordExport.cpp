@@ -34,13 +34,12 @@ std::optional<Sentence> faultOf(const std::string& patientID) {
 void writeReports(const std::string& file, const std::string& name,
                   std::span<const OutgoingExamination> examinations, Target& target, Console& console) {
   const auto files = reports::reportFiles();
-  if (const auto* why = std::get_if<std::string>(&files))
+  if (const auto* why = std::get_if<Sentence>(&files))
     return console.complain(nameOf(file), Sentence("CommandLine", "cannot be written: %1").with(*why));
   for (std::size_t i = 0; i < examinations.size(); ++i) {
     if (const auto fault = faultOf(examinations[i].patientID)) return console.complain(nameOf(file), *fault);
     const auto bytes = std::get<exchange::ReportFiles*>(files)->write(reportOf(examinations[i]));
-    if (const auto* why = std::get_if<std::string>(&bytes))
-      return console.complain(nameOf(file), Sentence::verbatim(*why));
+    if (const auto* why = std::get_if<Sentence>(&bytes)) return console.complain(nameOf(file), *why);
     target.write(name + " " + std::to_string(i + 1) + ".dcm", std::get<std::vector<std::byte>>(bytes));
   }
 }
@@ -75,8 +74,7 @@ void exportRecords(const std::string& format, const Arguments& arguments, Consol
     if (examinations.empty())
       console.warn(nameOf(file), Sentence("CommandLine", "it holds no examination, and nothing is written"));
     for (const OutgoingExamination& examination : examinations) {
-      for (const std::string& warning : examination.warnings)
-        console.warn(nameOf(file), Sentence::verbatim(warning));
+      for (const Sentence& warning : examination.warnings) console.warn(nameOf(file), warning);
     }
     if (examinations.empty()) continue;
     if (format == "sr") {

@@ -53,7 +53,7 @@ ServerAddress addressIn(const Arguments& arguments) {
     address.tls = exchange::TlsSettings{.authorityFile = arguments.option("ca").value_or(""),
                                         .certificateFile = arguments.option("cert").value_or(""),
                                         .keyFile = arguments.option("key").value_or("")};
-  if (const auto fault = faultOf(address)) throw UsageError(Sentence::verbatim(*fault));
+  if (const auto fault = faultOf(address)) throw UsageError(*fault);
   return address;
 }
 
@@ -87,7 +87,7 @@ ReportQuery queryIn(const Arguments& arguments) {
     throw UsageError(Sentence("CommandLine", "--patient: the reference ID is empty"));
   if (arguments.has("study") && query.study.empty())
     throw UsageError(Sentence("CommandLine", "--study: the UID is empty"));
-  if (const auto fault = faultOf(query)) throw UsageError(Sentence::verbatim(*fault));
+  if (const auto fault = faultOf(query)) throw UsageError(*fault);
   return query;
 }
 
@@ -122,8 +122,7 @@ struct Call {
 };
 
 void echo(ReportServer& server, const Call& call) {
-  if (const auto why = server.echo(call.address))
-    return call.console.complain(placeOf(call.address), Sentence::verbatim(*why));
+  if (const auto why = server.echo(call.address)) return call.console.complain(placeOf(call.address), *why);
   call.console.out() += placeOf(call.address) + " answers as " + call.address.serverTitle;
   if (call.address.tls) call.console.out() += ", encrypted";
   call.console.lineDone();
@@ -131,8 +130,8 @@ void echo(ReportServer& server, const Call& call) {
 
 void find(ReportServer& server, const Call& call) {
   const auto found = server.find(call.address, queryIn(call.arguments));
-  if (const auto* why = std::get_if<std::string>(&found))
-    return call.console.complain(placeOf(call.address), Sentence::verbatim(*why));
+  if (const auto* why = std::get_if<Sentence>(&found))
+    return call.console.complain(placeOf(call.address), *why);
   const auto& [places, warnings] = std::get<exchange::FoundReports>(found);
   for (const ReportPlace& place : places) {
     foundation::JsonText json(call.console.out());
@@ -141,8 +140,7 @@ void find(ReportServer& server, const Call& call) {
     json.endObject();
     call.console.lineDone();
   }
-  for (const std::string& warning : warnings)
-    call.console.warn(placeOf(call.address), Sentence::verbatim(warning));
+  for (const Sentence& warning : warnings) call.console.warn(placeOf(call.address), warning);
 }
 
 void fetch(ReportServer& server, const Call& call) {
@@ -151,8 +149,7 @@ void fetch(ReportServer& server, const Call& call) {
   const auto fetched = server.fetch(call.address, query);
   Console& console = call.console;
   const std::string from = placeOf(call.address);
-  if (const auto* why = std::get_if<std::string>(&fetched))
-    return console.complain(from, Sentence::verbatim(*why));
+  if (const auto* why = std::get_if<Sentence>(&fetched)) return console.complain(from, *why);
   const auto& [reports, warnings] = std::get<exchange::FetchedReports>(fetched);
   std::error_code error;
   if (!reports.empty()) std::filesystem::create_directories(folder, error);
@@ -174,7 +171,7 @@ void fetch(ReportServer& server, const Call& call) {
     json.endObject();
     console.lineDone();
   }
-  for (const std::string& warning : warnings) console.complain(from, Sentence::verbatim(warning));
+  for (const Sentence& warning : warnings) console.complain(from, warning);
   if (reports.empty() && warnings.empty())
     console.complain(from, Sentence("CommandLine", "has no such report"));
 }
@@ -195,7 +192,7 @@ void send(ReportServer& server, const Call& call) {
           nameOf(file),
           //: %1 is the address of a server, %2 what is wrong with it: "... is not sent: host:104 does not answer".
           isOver ? Sentence("CommandLine", "is not sent: %1 %2").with(placeOf(call.address), fault->sentence)
-                 : Sentence::verbatim(fault->sentence));
+                 : fault->sentence);
       continue;
     }
     foundation::JsonText json(call.console.out());
@@ -248,7 +245,7 @@ void runServer(const Arguments& arguments, Console& console) {
   check(*action, arguments);
   const ServerAddress address = addressIn(arguments);
   const auto server = reports::reportServer();
-  if (const auto* why = std::get_if<std::string>(&server))
+  if (const auto* why = std::get_if<Sentence>(&server))
     return console.complain(placeOf(address), Sentence("CommandLine", "is not contacted: %1").with(*why));
   if (!address.tls)
     console.warn(

@@ -78,7 +78,7 @@ std::variant<std::vector<std::byte>, Sentence> fileOf(const summary::Summary& su
     return std::vector<std::byte>(bytes.begin(), bytes.end());
   }
   const auto typesetter = typesetting::typesetter();
-  if (const auto* why = std::get_if<std::string>(&typesetter))
+  if (const auto* why = std::get_if<Sentence>(&typesetter))
     return Sentence("CommandLine", "cannot be put on paper: %1").with(*why);
   auto pdf = std::get<summary::Typesetter*>(typesetter)->pdf(summary, paper);
   if (auto* why = std::get_if<std::string>(&pdf)) return Sentence::verbatim(std::move(*why));

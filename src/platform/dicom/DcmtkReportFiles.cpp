@@ -29,6 +29,7 @@ using exchange::Code;
 using exchange::ContentItem;
 using exchange::StructuredReport;
 using exchange::ValueType;
+using foundation::Sentence;
 
 /// An element of a report: its tag and how its value is represented.
 struct Element {
@@ -228,13 +229,14 @@ DcmObject* firstIn(const Elements& item, const Element& element) {
 /// Texts of one character set as UTF-8.
 class Texts {
  public:
-  explicit Texts(std::string characterSet, std::vector<std::string>& warnings)
-      : name_(std::move(characterSet)), warnings_(&warnings) {
+  /// Puts its name among `unfit` for each text that is not in it.
+  explicit Texts(std::string characterSet, std::vector<std::string>& unfit)
+      : name_(std::move(characterSet)), unfit_(&unfit) {
     isKnown_ = converter_.selectCharacterSet(OFString(name_.data(), name_.size()), kUtf8).good();
   }
 
   const std::string& name() const { return name_; }
-  std::vector<std::string>* warnings() const { return warnings_; }
+  std::vector<std::string>* unfit() const { return unfit_; }
 
   /// Without blanks at its ends.
   std::string utf8(std::string_view bytes) {
@@ -248,7 +250,7 @@ class Texts {
   std::string converted(std::string_view bytes) {
     if (auto text = converted(converter_, isKnown_, bytes)) return std::move(*text);
     if (auto text = withoutEscape(bytes)) return std::move(*text);
-    warnings_->push_back("a text is not in the character set \"" + name_ + "\" that the file states");
+    unfit_->push_back(name_);
     return replaced(bytes);
   }
 
@@ -288,7 +290,7 @@ class Texts {
   }
 
   std::string name_;
-  std::vector<std::string>* warnings_;
+  std::vector<std::string>* unfit_;
   DcmSpecificCharacterSet converter_;
   bool isKnown_ = false;
 };
@@ -299,7 +301,8 @@ class Reader {
 
   StructuredReport report() const {
     StructuredReport report;
-    Texts texts(plain(dataset_, kCharacterSet), report.warnings);
+    std::vector<std::string> unfit;
+    Texts texts(plain(dataset_, kCharacterSet), unfit);
     report.sopClass = plain(dataset_, kSopClass);
     report.patientID = textOf(dataset_, kPatientID, texts);
     report.studyDate = plain(dataset_, kStudyDate);
@@ -307,8 +310,12 @@ class Reader {
     report.hasContent = firstIn(dataset_, kContent) != nullptr;
     if (report.hasContent) report.root = item(dataset_, texts);
     // Once is enough.
-    std::ranges::sort(report.warnings);
-    report.warnings.erase(std::unique(report.warnings.begin(), report.warnings.end()), report.warnings.end());
+    std::ranges::sort(unfit);
+    unfit.erase(std::unique(unfit.begin(), unfit.end()), unfit.end());
+    for (const std::string& set : unfit)
+      report.warnings.push_back(
+          Sentence("ReportFiles", "a text is not in the character set \"%1\" that the file states")
+              .with(set));
     return report;
   }
 
@@ -361,7 +368,7 @@ class Reader {
     // An item may state a character set of its own.
     std::optional<Texts> own;
     const std::string name = plain(from, kCharacterSet);
-    if (!name.empty() && name != around.name()) own.emplace(name, *around.warnings());
+    if (!name.empty() && name != around.name()) own.emplace(name, *around.unfit());
     Texts& texts = own ? *own : around;
     ContentItem item{.type = typeOf(from),
                      .relationship = plain(from, kRelationship),
@@ -485,9 +492,9 @@ DcmtkReportFiles::DcmtkReportFiles() {
   dcmDataDict.wrunlock();
 }
 
-std::variant<StructuredReport, std::string> DcmtkReportFiles::read(std::span<const std::byte> bytes) {
+std::variant<StructuredReport, Sentence> DcmtkReportFiles::read(std::span<const std::byte> bytes) {
   auto found = dataSetIn(bytes);
-  if (auto* fault = std::get_if<std::string>(&found)) return std::move(*fault);
+  if (auto* fault = std::get_if<Sentence>(&found)) return std::move(*fault);
   const auto& [elements, encoding] = std::get<DataSet>(found);
   // From a header in which it misses something DCMTK would guess the encoding, and then lengths.
   const E_TransferSyntax syntax = encoding.isBigEndian  ? EXS_BigEndianExplicit
@@ -500,14 +507,15 @@ std::variant<StructuredReport, std::string> DcmtkReportFiles::read(std::span<con
   dataset.transferInit();
   // Without transferEnd(): it walks along all elements, to make them ready for what is never done with them.
   const OFCondition status = dataset.read(stream, syntax);
-  if (status.bad()) return std::string("is damaged: ") + status.text();
+  //: %1 is what a library says, in English, as in all sentences about DICOM that end with a colon.
+  if (status.bad()) return Sentence("ReportFiles", "is damaged: %1").with(status.text());
   return Reader(dataset).report();
 }
 
-std::variant<std::vector<std::byte>, std::string> DcmtkReportFiles::write(const StructuredReport& report) {
+std::variant<std::vector<std::byte>, Sentence> DcmtkReportFiles::write(const StructuredReport& report) {
   DcmFileFormat file;
   if (const OFCondition status = Writer(*file.getDataset()).write(report); status.bad())
-    return std::string("cannot be written: ") + status.text();
+    return Sentence("ReportFiles", "cannot be written: %1").with(status.text());
 
   std::vector<std::byte> bytes;
   std::array<std::byte, 65536> buffer{};
@@ -528,7 +536,7 @@ std::variant<std::vector<std::byte>, std::string> DcmtkReportFiles::write(const 
   stream.flush();
   takeOver();
   file.transferEnd();
-  if (status.bad()) return std::string("cannot be written: ") + status.text();
+  if (status.bad()) return Sentence("ReportFiles", "cannot be written: %1").with(status.text());
   return bytes;
 }
 

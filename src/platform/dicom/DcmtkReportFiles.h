@@ -4,6 +4,7 @@
 #pragma once
 
 #include "exchange/StructuredReport.h"
+#include "foundation/Sentence.h"
 
 namespace nascor::dicom {
 
@@ -13,8 +14,10 @@ class DcmtkReportFiles final : public exchange::ReportFiles {
  public:
   DcmtkReportFiles();
 
-  std::variant<exchange::StructuredReport, std::string> read(std::span<const std::byte> bytes) override;
-  std::variant<std::vector<std::byte>, std::string> write(const exchange::StructuredReport& report) override;
+  std::variant<exchange::StructuredReport, foundation::Sentence> read(
+      std::span<const std::byte> bytes) override;
+  std::variant<std::vector<std::byte>, foundation::Sentence> write(
+      const exchange::StructuredReport& report) override;
 };
 
 }  // namespace nascor::dicom

@@ -7,9 +7,12 @@
 #include <array>
 #include <cstdint>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace nascor::dicom {
+
+using foundation::Sentence;
 
 namespace {
 
@@ -24,9 +27,11 @@ constexpr std::size_t kDeepest = 128;
 /// Elements and items. A thousand values take forty thousand; DCMTK takes two or three microseconds for each.
 constexpr std::size_t kMost = 100'000;
 
-constexpr std::string_view kCutOff = "is cut off: it ends before its end";
-constexpr std::string_view kDamaged = "is damaged: a part is longer than what holds it";
-constexpr std::string_view kUnknown = "is damaged: a part is of a kind that DICOM does not have";
+Sentence cutOff() { return Sentence("ReportFiles", "is cut off: it ends before its end"); }
+Sentence damaged() { return Sentence("ReportFiles", "is damaged: a part is longer than what holds it"); }
+Sentence unknown() {
+  return Sentence("ReportFiles", "is damaged: a part is of a kind that DICOM does not have");
+}
 
 /// A sequence, or an item of one, that is open.
 struct Level {
@@ -74,8 +79,9 @@ class Walk {
   explicit Walk(std::span<const std::byte> bytes)
       : bytes_(bytes), text_(reinterpret_cast<const char*>(bytes.data()), bytes.size()) {}
 
-  std::variant<DataSet, std::string> dataSet() {
-    if (text_.substr(std::min(kPreamble, text_.size()), 4) != "DICM") return "is no DICOM file";
+  std::variant<DataSet, Sentence> dataSet() {
+    if (text_.substr(std::min(kPreamble, text_.size()), 4) != "DICM")
+      return Sentence("ReportFiles", "is no DICOM file");
     at_ = kPreamble + 4;
     if (!header()) return fault_;
     const DataSet found{.bytes = bytes_.subspan(at_), .encoding = encoding_};
@@ -83,15 +89,15 @@ class Walk {
     return found;
   }
 
-  std::optional<std::string> faultOfElements(Encoding encoding) {
+  std::optional<Sentence> faultOfElements(Encoding encoding) {
     encoding_ = encoding;
     if (elements()) return std::nullopt;
     return fault_;
   }
 
  private:
-  bool refuse(std::string_view sentence) {
-    fault_ = sentence;
+  bool refuse(Sentence sentence) {
+    fault_ = std::move(sentence);
     return false;
   }
 
@@ -112,14 +118,14 @@ class Walk {
 
   /// Reads tag, representation and length at `at_` and steps behind them.
   bool readHeader(Encoding encoding, Header& result) {
-    if (!has(8)) return refuse(kCutOff);
+    if (!has(8)) return refuse(cutOff());
     result.tag = tagAt(at_, encoding.isBigEndian);
     const bool isDelimiter = result.tag >> 16U == kItem >> 16U;
     result.vr = encoding.isExplicit && !isDelimiter ? text_.substr(at_ + 4, 2) : std::string_view();
     const LengthSize size = result.vr.empty() ? LengthSize::four : lengthSizeOf(result.vr);
     // What is none DCMTK may take for one of its own, and then for a length what is none.
-    if (size == LengthSize::none) return refuse(kUnknown);
-    if (++count_ > kMost) return refuse("has more parts than any report");
+    if (size == LengthSize::none) return refuse(unknown());
+    if (++count_ > kMost) return refuse(Sentence("ReportFiles", "has more parts than any report"));
     if (result.vr.empty()) {
       result.length = number(at_ + 4, 4, encoding.isBigEndian);
       at_ += 8;
@@ -127,7 +133,7 @@ class Walk {
       result.length = number(at_ + 6, 2, encoding.isBigEndian);
       at_ += 8;
     } else {
-      if (!has(12)) return refuse(kCutOff);
+      if (!has(12)) return refuse(cutOff());
       result.length = number(at_ + 8, 4, encoding.isBigEndian);
       at_ += 12;
     }
@@ -137,16 +143,17 @@ class Walk {
   /// The group that says how the rest is encoded.
   bool header() {
     while (at_ < text_.size()) {
-      if (!has(2)) return refuse(kCutOff);
+      if (!has(2)) return refuse(cutOff());
       if (number(at_, 2, false) != 2) break;
       Header element;
       if (!readHeader({}, element)) return false;
-      if (element.length == kUndefined) return refuse(kDamaged);
-      if (!has(element.length)) return refuse(kCutOff);
+      if (element.length == kUndefined) return refuse(damaged());
+      if (!has(element.length)) return refuse(cutOff());
       if (element.tag == kTransferSyntax && !readSyntax(text_.substr(at_, element.length))) return false;
       at_ += element.length;
     }
-    return syntaxIsKnown_ || refuse("is a DICOM file that does not say how it is encoded");
+    return syntaxIsKnown_ ||
+           refuse(Sentence("ReportFiles", "is a DICOM file that does not say how it is encoded"));
   }
 
   bool readSyntax(std::string_view uid) {
@@ -157,7 +164,7 @@ class Walk {
     } else if (uid == "1.2.840.10008.1.2.2") {
       encoding_ = {.isExplicit = true, .isBigEndian = true};
     } else if (uid != "1.2.840.10008.1.2.1") {
-      return refuse("is a compressed DICOM file; reports are read uncompressed");
+      return refuse(Sentence("ReportFiles", "is a compressed DICOM file; reports are read uncompressed"));
     }
     return true;
   }
@@ -165,10 +172,10 @@ class Walk {
   bool elements() {
     while (true) {
       while (!levels_.empty() && !levels_.back().isUndefined && at_ >= levels_.back().end) {
-        if (at_ > levels_.back().end) return refuse(kDamaged);
+        if (at_ > levels_.back().end) return refuse(damaged());
         levels_.pop_back();
       }
-      if (at_ == text_.size()) return levels_.empty() || refuse(kCutOff);
+      if (at_ == text_.size()) return levels_.empty() || refuse(cutOff());
       if (!element()) return false;
     }
   }
@@ -181,14 +188,14 @@ class Walk {
     if (inSequence) return itemOrEnd(header);
     if (header.tag == kItemEnd && !levels_.empty() && levels_.back().isUndefined) {
       levels_.pop_back();
-      return header.length == 0 || refuse(kDamaged);
+      return header.length == 0 || refuse(damaged());
     }
-    if (header.tag >> 16U == kItem >> 16U) return refuse(kDamaged);
+    if (header.tag >> 16U == kItem >> 16U) return refuse(damaged());
     if (!lengthFits(header.length)) return false;
 
     if (header.length == kUndefined) {
       constexpr std::array<std::string_view, 5> kMayBeSequences{"", "OB", "OW", "SQ", "UN"};
-      if (std::ranges::find(kMayBeSequences, header.vr) == kMayBeSequences.end()) return refuse(kDamaged);
+      if (std::ranges::find(kMayBeSequences, header.vr) == kMayBeSequences.end()) return refuse(damaged());
       const bool isUnknown = header.vr == "UN";
       return open({.end = 0,
                    .isUndefined = true,
@@ -207,9 +214,9 @@ class Walk {
     Level& sequence = levels_.back();
     if (header.tag == kSequenceEnd && sequence.isUndefined) {
       levels_.pop_back();
-      return header.length == 0 || refuse(kDamaged);
+      return header.length == 0 || refuse(damaged());
     }
-    if (header.tag != kItem) return refuse(kDamaged);
+    if (header.tag != kItem) return refuse(damaged());
     if (!lengthFits(header.length)) return false;
     const bool isUndefined = header.length == kUndefined;
     return open({.end = isUndefined ? 0 : at_ + header.length,
@@ -221,14 +228,15 @@ class Walk {
   /// Whether that many bytes lie within what is open.
   bool lengthFits(std::uint32_t length) {
     if (length == kUndefined) return true;
-    if (!has(length)) return refuse(kCutOff);
+    if (!has(length)) return refuse(cutOff());
     const auto holder =
         std::find_if(levels_.rbegin(), levels_.rend(), [](const Level& level) { return !level.isUndefined; });
-    return holder == levels_.rend() || at_ + length <= holder->end || refuse(kDamaged);
+    return holder == levels_.rend() || at_ + length <= holder->end || refuse(damaged());
   }
 
   bool open(const Level& level) {
-    if (levels_.size() >= kDeepest) return refuse("is nested deeper than any report");
+    if (levels_.size() >= kDeepest)
+      return refuse(Sentence("ReportFiles", "is nested deeper than any report"));
     levels_.push_back(level);
     return true;
   }
@@ -240,16 +248,14 @@ class Walk {
   Encoding encoding_;
   bool syntaxIsKnown_ = false;
   std::vector<Level> levels_;
-  std::string fault_;
+  Sentence fault_;
 };
 
 }  // namespace
 
-std::variant<DataSet, std::string> dataSetIn(std::span<const std::byte> bytes) {
-  return Walk(bytes).dataSet();
-}
+std::variant<DataSet, Sentence> dataSetIn(std::span<const std::byte> bytes) { return Walk(bytes).dataSet(); }
 
-std::optional<std::string> faultIn(const DataSet& elements) {
+std::optional<Sentence> faultIn(const DataSet& elements) {
   return Walk(elements.bytes).faultOfElements(elements.encoding);
 }
 

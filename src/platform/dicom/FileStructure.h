@@ -6,8 +6,9 @@
 #include <cstddef>
 #include <optional>
 #include <span>
-#include <string>
 #include <variant>
+
+#include "foundation/Sentence.h"
 
 namespace nascor::dicom {
 
@@ -25,10 +26,10 @@ struct DataSet {
 
 /// Looks at the structure of a DICOM file alone: that it has its header, that every element lies within what holds it,
 /// that nothing is cut off, that it has no more elements than any report, and that sequences are not nested deeper than a
-/// report ever nests them (DCMTK reads them by recursion). Its data set when all is well, within `bytes`, else a sentence.
-std::variant<DataSet, std::string> dataSetIn(std::span<const std::byte> bytes);
+/// report ever nests them (DCMTK reads them by recursion). Its data set when all is well, within `bytes`, else what is wrong.
+std::variant<DataSet, foundation::Sentence> dataSetIn(std::span<const std::byte> bytes);
 
 /// The same look at elements that came without a header; nothing when all is well.
-std::optional<std::string> faultIn(const DataSet& elements);
+std::optional<foundation::Sentence> faultIn(const DataSet& elements);
 
 }  // namespace nascor::dicom

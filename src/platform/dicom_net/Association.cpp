@@ -17,6 +17,8 @@
 
 namespace nascor::dicom_net {
 
+using foundation::Sentence;
+
 namespace {
 
 /// How long a server has to answer the end of a connection. The work is done by then, so its answer is not needed.
@@ -67,18 +69,21 @@ std::string reasonIn(const OFCondition& condition) {
   return text;
 }
 
-std::string rejection(T_ASC_Parameters* parameters, const exchange::ServerAddress& address) {
+Sentence rejection(T_ASC_Parameters* parameters, const exchange::ServerAddress& address) {
   T_ASC_RejectParameters reject{};
   ASC_getRejectParameters(parameters, &reject);
   switch (reject.reason) {
     case ASC_REASON_SU_CALLEDAETITLENOTRECOGNIZED:
-      return "refuses the connection: its title is not \"" + address.serverTitle + "\"";
+      return Sentence("ReportServer", "refuses the connection: its title is not \"%1\"")
+          .with(address.serverTitle);
     case ASC_REASON_SU_CALLINGAETITLENOTRECOGNIZED:
-      return "refuses the connection: the title \"" + address.ownTitle +
-             "\" of this program must be entered there first";
+      return Sentence("ReportServer",
+                      "refuses the connection: the title \"%1\" of this program must be entered there first")
+          .with(address.ownTitle);
     case ASC_REASON_SP_PRES_TEMPORARYCONGESTION:
-    case ASC_REASON_SP_PRES_LOCALLIMITEXCEEDED: return "refuses the connection: it is busy; try again later";
-    default: return "refuses the connection, and does not say why";
+    case ASC_REASON_SP_PRES_LOCALLIMITEXCEEDED:
+      return Sentence("ReportServer", "refuses the connection: it is busy; try again later");
+    default: return Sentence("ReportServer", "refuses the connection, and does not say why");
   }
 }
 
@@ -96,12 +101,14 @@ Association::Association(const exchange::ServerAddress& address, std::span<const
     : address_(address), deadline_(address.timeout) {
   if (!dcmDataDict.isDictionaryLoaded())
     throw Failure(
-        "DCMTK does not find its data dictionary (DCMDICTPATH), without which it does not use the network");
+        Sentence("ReportServer",
+                 "DCMTK does not find its data dictionary (DCMDICTPATH), without which it does not use the "
+                 "network"));
   auto layer = transportTo(address_, deadline_, seen_);
-  if (auto* why = std::get_if<std::string>(&layer)) throw Failure(*why);
+  if (auto* why = std::get_if<Sentence>(&layer)) throw Failure(*why);
   layer_ = std::move(std::get<0>(layer));
   const auto host = addressOfHost(address_.host, deadline_.remaining());
-  if (const auto* why = std::get_if<std::string>(&host)) throw Failure(*why);
+  if (const auto* why = std::get_if<Sentence>(&host)) throw Failure(*why);
 
   try {
     OFCondition condition = ASC_initializeNetwork(NET_REQUESTOR, 0, seconds(), &network_);
@@ -156,8 +163,11 @@ void Association::open(const std::string& host) {
   if (condition.good()) return;
   if (condition == DUL_ASSOCIATIONREJECTED) throw Failure(rejection(parameters_, address_));
   if (deadline_.isPassed() || !seen_.isConnected || !address_.tls || seen_.isSecured) fail(condition);
-  if (!seen_.refusal.empty()) throw Failure("shows a certificate that is not accepted: " + seen_.refusal);
-  throw Failure("does not make an encrypted connection: " + reasonIn(condition));
+  if (!seen_.refusal.empty())
+    throw Failure(
+        Sentence("ReportServer", "shows a certificate that is not accepted: %1").with(seen_.refusal));
+  throw Failure(
+      Sentence("ReportServer", "does not make an encrypted connection: %1").with(reasonIn(condition)));
 }
 
 int Association::seconds() const {
@@ -165,28 +175,31 @@ int Association::seconds() const {
 }
 
 void Association::fail(const OFCondition& condition) const {
-  if (seen_.gate.isBroken()) throw Failure("answers what is not DICOM");
+  if (seen_.gate.isBroken()) throw Failure(Sentence("ReportServer", "answers what is not DICOM"));
   const bool isTime =
       deadline_.isPassed() || condition == DIMSE_NODATAAVAILABLE || condition == DUL_READTIMEOUT;
-  const std::string time = std::to_string(address_.timeout.count()) + " s";
+  const auto seconds = address_.timeout.count();
   if (!seen_.isConnected)
-    throw Failure(isTime ? "cannot be reached within " + time : "cannot be reached: " + reasonIn(condition));
-  if (isTime) throw Failure("gave no complete answer within " + time);
+    throw Failure(isTime ? Sentence("ReportServer", "cannot be reached within %1 s").with(seconds)
+                         : Sentence("ReportServer", "cannot be reached: %1").with(reasonIn(condition)));
+  if (isTime) throw Failure(Sentence("ReportServer", "gave no complete answer within %1 s").with(seconds));
   if (condition == DUL_PEERABORTEDASSOCIATION && !seen_.isEnded)
-    throw Failure("broke off the connection without saying why");
+    throw Failure(Sentence("ReportServer", "broke off the connection without saying why"));
   if (seen_.isEnded || condition == DUL_PEERREQUESTEDRELEASE)
     throw Failure(seen_.gate.sawAny()
-                      ? "ended the connection before its answer was complete"
-                      : "ended the connection without an answer; the connection may have to be "
-                        "encrypted, or must not be");
-  throw Failure("gave an answer that is not understood: " + reasonIn(condition));
+                      ? Sentence("ReportServer", "ended the connection before its answer was complete")
+                      : Sentence("ReportServer",
+                                 "ended the connection without an answer; the connection may have to be "
+                                 "encrypted, or must not be"));
+  throw Failure(
+      Sentence("ReportServer", "gave an answer that is not understood: %1").with(reasonIn(condition)));
 }
 
 T_ASC_PresentationContextID Association::contextOf(const char* uid) const {
   return ASC_findAcceptedPresentationContextID(association_, uid);
 }
 
-T_ASC_PresentationContextID Association::requiredContext(const char* uid, const std::string& without) const {
+T_ASC_PresentationContextID Association::requiredContext(const char* uid, const Sentence& without) const {
   const T_ASC_PresentationContextID context = contextOf(uid);
   if (context == 0) throw Failure(without);
   return context;
@@ -224,7 +237,7 @@ Received Association::receiveData(T_ASC_PresentationContextID context, std::size
   if (condition != EC_Normal || deadline_.isPassed()) fail(condition);
   T_ASC_PresentationContext accepted{};
   if (used != context || ASC_findAcceptedPresentationContext(association_->params, used, &accepted).bad())
-    throw Failure("gave an answer in a context that was not agreed on");
+    throw Failure(Sentence("ReportServer", "gave an answer in a context that was not agreed on"));
   return {.bytes = std::move(consumer.bytes),
           .isExplicit =
               std::string_view(accepted.acceptedTransferSyntax) == UID_LittleEndianExplicitTransferSyntax,

@@ -6,11 +6,12 @@
 #include <csignal>
 #include <cstddef>
 #include <cstdint>
+#include <exception>
 #include <memory>
 #include <optional>
 #include <span>
-#include <stdexcept>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <dcmtk/config/osconfig.h>
@@ -21,13 +22,20 @@
 #include "dicom_net/Deadline.h"
 #include "dicom_net/Transport.h"
 #include "exchange/ReportServer.h"
+#include "foundation/Sentence.h"
 
 namespace nascor::dicom_net {
 
-/// Why an operation ended: one sentence.
-class Failure : public std::runtime_error {
+/// Why an operation ended. It never leaves this room, which cannot say a sentence: that is in the program.
+class Failure : public std::exception {
  public:
-  using std::runtime_error::runtime_error;
+  explicit Failure(foundation::Sentence sentence)
+      : sentence_(std::make_shared<const foundation::Sentence>(std::move(sentence))) {}
+
+  const foundation::Sentence& sentence() const { return *sentence_; }
+
+ private:
+  std::shared_ptr<const foundation::Sentence> sentence_;  // an error is copied without a throw
 };
 
 /// A kind of object or service that the connection is for.
@@ -55,7 +63,7 @@ class Association {
   /// The context of a kind, with 0 when the server does not take it.
   T_ASC_PresentationContextID contextOf(const char* uid) const;
   /// The same; throws with `without`, what the server does not do.
-  T_ASC_PresentationContextID requiredContext(const char* uid, const std::string& without) const;
+  T_ASC_PresentationContextID requiredContext(const char* uid, const foundation::Sentence& without) const;
 
   DIC_US nextMessage();
   void send(T_ASC_PresentationContextID context, T_DIMSE_Message& message, DcmDataset* data);

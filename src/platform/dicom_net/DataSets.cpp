@@ -42,7 +42,7 @@ std::string headerElement(std::uint32_t element, std::string_view vr, std::strin
 
 }  // namespace
 
-std::variant<std::unique_ptr<DcmDataset>, std::string> parsed(const dicom::DataSet& elements) {
+std::variant<std::unique_ptr<DcmDataset>, foundation::Sentence> parsed(const dicom::DataSet& elements) {
   if (auto fault = dicom::faultIn(elements)) return *fault;
   const auto& encoding = elements.encoding;
   DcmInputBufferStream stream;
@@ -54,7 +54,7 @@ std::variant<std::unique_ptr<DcmDataset>, std::string> parsed(const dicom::DataS
                                                    : encoding.isExplicit ? EXS_LittleEndianExplicit
                                                                          : EXS_LittleEndianImplicit);
   dataset->transferEnd();
-  if (status.bad()) return std::string("is damaged: ") + status.text();
+  if (status.bad()) return foundation::Sentence("ReportFiles", "is damaged: %1").with(status.text());
   return dataset;
 }
 

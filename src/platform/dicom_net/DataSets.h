@@ -15,11 +15,12 @@
 #include <dcmtk/dcmdata/dctk.h>
 
 #include "dicom/FileStructure.h"
+#include "foundation/Sentence.h"
 
 namespace nascor::dicom_net {
 
 /// The elements, whose structure was looked at first; or what is wrong with it, in a sentence without its subject.
-std::variant<std::unique_ptr<DcmDataset>, std::string> parsed(const dicom::DataSet& elements);
+std::variant<std::unique_ptr<DcmDataset>, foundation::Sentence> parsed(const dicom::DataSet& elements);
 
 /// A value that is plain ASCII wherever it is right, without blanks at its ends; empty for none.
 std::string plainIn(DcmItem& item, const DcmTagKey& tag);

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "exchange/ReportServer.h"
+#include "foundation/Sentence.h"
 
 namespace nascor::dicom_net {
 
@@ -15,11 +16,11 @@ class DcmtkReportServer final : public exchange::ReportServer {
   DcmtkReportServer();
 
  private:
-  std::optional<std::string> doEcho(const exchange::ServerAddress& address) override;
-  std::variant<exchange::FoundReports, std::string> doFind(const exchange::ServerAddress& address,
-                                                           const exchange::ReportQuery& query) override;
-  std::variant<exchange::FetchedReports, std::string> doFetch(const exchange::ServerAddress& address,
-                                                              const exchange::ReportQuery& query) override;
+  std::optional<foundation::Sentence> doEcho(const exchange::ServerAddress& address) override;
+  std::variant<exchange::FoundReports, foundation::Sentence> doFind(
+      const exchange::ServerAddress& address, const exchange::ReportQuery& query) override;
+  std::variant<exchange::FetchedReports, foundation::Sentence> doFetch(
+      const exchange::ServerAddress& address, const exchange::ReportQuery& query) override;
   std::optional<exchange::SendFault> doSend(const exchange::ServerAddress& address,
                                             std::span<const std::byte> file) override;
 };

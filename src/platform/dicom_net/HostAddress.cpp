@@ -19,16 +19,18 @@
 
 namespace nascor::dicom_net {
 
+using foundation::Sentence;
+
 namespace {
 
 /// What a thread that looks for an address leaves for the one that waits, which may be gone by then.
 struct Answer {
   std::mutex mutex;
   std::condition_variable isHere;
-  std::optional<std::variant<HostAddress, std::string>> value;
+  std::optional<std::variant<HostAddress, Sentence>> value;
 };
 
-std::variant<HostAddress, std::string> lookedUp(const std::string& name) {
+std::variant<HostAddress, Sentence> lookedUp(const std::string& name) {
   addrinfo wanted{};
   wanted.ai_family = AF_INET;
   wanted.ai_socktype = SOCK_STREAM;
@@ -36,7 +38,7 @@ std::variant<HostAddress, std::string> lookedUp(const std::string& name) {
   const int error = ::getaddrinfo(name.c_str(), nullptr, &wanted, &found);
   const std::unique_ptr<addrinfo, decltype(&::freeaddrinfo)> owner(found, &::freeaddrinfo);
   if (error != 0 || !found)
-    return "there is no IPv4 address of this host: " + std::string(::gai_strerror(error));
+    return Sentence("ReportServer", "there is no IPv4 address of this host: %1").with(::gai_strerror(error));
   std::array<char, INET_ADDRSTRLEN> digits{};
   const auto* address = reinterpret_cast<const sockaddr_in*>(found->ai_addr);
   ::inet_ntop(AF_INET, &address->sin_addr, digits.data(), digits.size());
@@ -45,8 +47,7 @@ std::variant<HostAddress, std::string> lookedUp(const std::string& name) {
 
 }  // namespace
 
-std::variant<HostAddress, std::string> addressOfHost(const std::string& name,
-                                                     std::chrono::milliseconds time) {
+std::variant<HostAddress, Sentence> addressOfHost(const std::string& name, std::chrono::milliseconds time) {
   in_addr number{};
   if (::inet_pton(AF_INET, name.c_str(), &number) == 1) return HostAddress{name};
 
@@ -61,7 +62,7 @@ std::variant<HostAddress, std::string> addressOfHost(const std::string& name,
   }).detach();
   std::unique_lock lock(answer->mutex);
   if (!answer->isHere.wait_for(lock, time, [&] { return answer->value.has_value(); }))
-    return "the address of this host was not found in time";
+    return Sentence("ReportServer", "the address of this host was not found in time");
   return *answer->value;
 }
 

@@ -7,6 +7,8 @@
 #include <string>
 #include <variant>
 
+#include "foundation/Sentence.h"
+
 namespace nascor::dicom_net {
 
 /// An IPv4 address of a host.
@@ -15,6 +17,7 @@ struct HostAddress {
 };
 
 /// The first IPv4 address that the system knows for a name; a sentence when it knows none within that time.
-std::variant<HostAddress, std::string> addressOfHost(const std::string& name, std::chrono::milliseconds time);
+std::variant<HostAddress, foundation::Sentence> addressOfHost(const std::string& name,
+                                                              std::chrono::milliseconds time);
 
 }  // namespace nascor::dicom_net

@@ -22,6 +22,7 @@ namespace {
 using exchange::FoundReports;
 using exchange::ReportPlace;
 using exchange::ReportQuery;
+using foundation::Sentence;
 
 /// An answer names one report with a few texts.
 constexpr std::size_t kLongestAnswer = 65536;
@@ -47,8 +48,9 @@ class Search {
   Search(const ReportQuery& query, Association& association)
       : query_(query),
         association_(association),
-        context_(association.requiredContext(UID_FINDStudyRootQueryRetrieveInformationModel,
-                                             "does not search for reports (C-FIND of the study root)")) {}
+        context_(association.requiredContext(
+            UID_FINDStudyRootQueryRetrieveInformationModel,
+            Sentence("ReportServer", "does not search for reports (C-FIND of the study root)"))) {}
 
   FoundReports run() {
     for (const ReportPlace& study : studies()) {
@@ -63,13 +65,19 @@ class Search {
     });
     if (isCut_)
       found_.warnings.push_back(
-          "at most " + std::to_string(exchange::kMostReports) +
-          " reports are taken, and there are others; name a patient, a study or fewer days");
-    if (ignored_ > 0)
-      found_.warnings.push_back(
-          std::to_string(ignored_) +
-          " answers were left out: they are of another patient, study or day, or name no "
-          "report by proper UIDs");
+          Sentence(
+              "ReportServer",
+              "at most %1 reports are taken, and there are others; name a patient, a study or fewer days")
+              .with(exchange::kMostReports));
+    if (ignored_ > 0) {
+      const auto one = Sentence("ReportServer",
+                                "%1 answer was left out: it is of another patient, study or day, or names no "
+                                "report by proper UIDs");
+      const auto many = Sentence("ReportServer",
+                                 "%1 answers were left out: they are of another patient, study or day, or "
+                                 "name no report by proper UIDs");
+      found_.warnings.push_back(Sentence::counted(ignored_, one.with(ignored_), many.with(ignored_)));
+    }
     return std::move(found_);
   }
 
@@ -165,7 +173,7 @@ class Search {
       if (status.good())
         status = question.putAndInsertOFStringArray(key.tag, OFString(key.value.data(), key.value.size()));
     }
-    if (status.bad()) throw Failure(std::string("cannot be asked: ") + status.text());
+    if (status.bad()) throw Failure(Sentence("ReportServer", "cannot be asked: %1").with(status.text()));
 
     T_DIMSE_Message message{};
     message.CommandField = DIMSE_C_FIND_RQ;
@@ -186,7 +194,7 @@ class Search {
       const T_DIMSE_Message answer = association_.receive(context);
       if (answer.CommandField != DIMSE_C_FIND_RSP || context != context_ ||
           findResponse(answer).MessageIDBeingRespondedTo != asked)
-        throw Failure("gave an answer that was not asked for");
+        throw Failure(Sentence("ReportServer", "gave an answer that was not asked for"));
       const T_DIMSE_C_FindRSP& response = findResponse(answer);
       Received data;
       if (response.DataSetType != DIMSE_DATASET_NULL)
@@ -196,7 +204,8 @@ class Search {
         constexpr DIC_US kCancelled = 0xFE00;
         if (response.DimseStatus == STATUS_Success || (isStopped && response.DimseStatus == kCancelled))
           return;
-        throw Failure(std::string("does not search: ") + DU_cfindStatusString(response.DimseStatus));
+        throw Failure(
+            Sentence("ReportServer", "does not search: %1").with(DU_cfindStatusString(response.DimseStatus)));
       }
       if (++count > exchange::kMostReports) {
         // The others are passed over, and few servers look whether they may stop.

@@ -4,6 +4,7 @@
 #include "dicom_net/Transport.h"
 
 #include <cerrno>
+#include <optional>
 #include <span>
 #include <utility>
 
@@ -19,6 +20,8 @@
 #include <sys/time.h>
 
 namespace nascor::dicom_net {
+
+using foundation::Sentence;
 
 namespace {
 
@@ -124,27 +127,33 @@ class SecureLayer final : public DcmTransportLayer {
   SecureLayer(Deadline& deadline, Seen& seen)
       : tls_(NET_REQUESTOR, nullptr, OFTrue), deadline_(deadline), seen_(seen) {}
 
-  /// What cannot be used, as a sentence; empty for nothing.
-  std::string prepare(const exchange::TlsSettings& settings, const std::string& host) {
+  /// What cannot be used; nothing where all can.
+  std::optional<Sentence> prepare(const exchange::TlsSettings& settings, const std::string& host) {
     SSL_CTX* context = tls_.getNativeHandle();
-    if (context == nullptr) return "encrypted connections are not there: OpenSSL does not begin";
+    if (context == nullptr)
+      return Sentence("ReportServer", "encrypted connections are not there: OpenSSL does not begin");
     // TLS 1.2 and later, with ephemeral keys (forward secrecy) and AEAD ciphers, which detect changes on the way.
     if (SSL_CTX_set_min_proto_version(context, TLS1_2_VERSION) != 1 ||
         SSL_CTX_set_cipher_list(context, "ECDHE+AESGCM:ECDHE+CHACHA20:DHE+AESGCM") != 1)
-      return "encrypted connections are not there: OpenSSL has none of their ciphers";
+      return Sentence("ReportServer",
+                      "encrypted connections are not there: OpenSSL has none of their ciphers");
     SSL_CTX_set_security_level(context, 2);
     if (tls_.addTrustedCertificateFile(settings.authorityFile.c_str(), DCF_Filetype_PEM).bad())
-      return settings.authorityFile + " holds no certificate in PEM that can be read";
+      return Sentence("ReportServer", "%1 holds no certificate in PEM that can be read")
+          .with(settings.authorityFile);
     if (!settings.certificateFile.empty()) {
       // A key with a password is refused: nothing here may ask for it.
       tls_.setPrivateKeyPasswd("");
       if (tls_.setPrivateKeyFile(settings.keyFile.c_str(), DCF_Filetype_PEM).bad())
-        return settings.keyFile + " holds no key in PEM that can be read without a password";
+        return Sentence("ReportServer", "%1 holds no key in PEM that can be read without a password")
+            .with(settings.keyFile);
       // Not by DCMTK, which loses the certificate's key each time; and this takes those of authorities between, too.
       if (SSL_CTX_use_certificate_chain_file(context, settings.certificateFile.c_str()) != 1)
-        return settings.certificateFile + " holds no certificate in PEM that can be read";
+        return Sentence("ReportServer", "%1 holds no certificate in PEM that can be read")
+            .with(settings.certificateFile);
       if (!tls_.checkPrivateKeyMatchesCertificate())
-        return settings.keyFile + " is not the key of " + settings.certificateFile;
+        return Sentence("ReportServer", "%1 is not the key of %2")
+            .with(settings.keyFile, settings.certificateFile);
     }
     tls_.setCertificateVerification(DCV_requireCertificate);
     // A certificate of another server of the same authority is refused.
@@ -153,9 +162,10 @@ class SecureLayer final : public DcmTransportLayer {
     const bool isNumber = ::inet_pton(AF_INET, host.c_str(), &number) == 1;
     const int isSet = isNumber ? X509_VERIFY_PARAM_set1_ip_asc(wanted, host.c_str())
                                : X509_VERIFY_PARAM_set1_host(wanted, host.c_str(), host.size());
-    if (isSet != 1) return "the name of the host cannot be looked for in a certificate";
+    if (isSet != 1)
+      return Sentence("ReportServer", "the name of the host cannot be looked for in a certificate");
     SSL_CTX_set_cert_verify_callback(context, &SecureLayer::verify, &seen_);
-    return {};
+    return std::nullopt;
   }
 
   DcmTransportConnection* createConnection(DcmNativeSocketType socket, OFBool /*useSecureLayer*/) override {
@@ -179,11 +189,11 @@ class SecureLayer final : public DcmTransportLayer {
 
 }  // namespace
 
-std::variant<std::unique_ptr<DcmTransportLayer>, std::string> transportTo(
-    const exchange::ServerAddress& address, Deadline& deadline, Seen& seen) {
+std::variant<std::unique_ptr<DcmTransportLayer>, Sentence> transportTo(const exchange::ServerAddress& address,
+                                                                       Deadline& deadline, Seen& seen) {
   if (!address.tls) return std::make_unique<PlainLayer>(deadline, seen);
   auto layer = std::make_unique<SecureLayer>(deadline, seen);
-  if (std::string fault = layer->prepare(*address.tls, address.host); !fault.empty()) return fault;
+  if (auto fault = layer->prepare(*address.tls, address.host)) return std::move(*fault);
   return layer;
 }
 

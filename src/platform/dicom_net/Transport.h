@@ -14,6 +14,7 @@
 #include "dicom_net/Deadline.h"
 #include "dicom_net/PduGate.h"
 #include "exchange/ReportServer.h"
+#include "foundation/Sentence.h"
 
 namespace nascor::dicom_net {
 
@@ -28,7 +29,7 @@ struct Seen {
 
 /// What gives DCMTK its connections: plain, or encrypted alone. All are cut at the deadline. `deadline` and `seen` outlive
 /// it. A sentence when a file of the settings cannot be used.
-std::variant<std::unique_ptr<DcmTransportLayer>, std::string> transportTo(
+std::variant<std::unique_ptr<DcmTransportLayer>, foundation::Sentence> transportTo(
     const exchange::ServerAddress& address, Deadline& deadline, Seen& seen);
 
 }  // namespace nascor::dicom_net

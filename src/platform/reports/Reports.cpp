@@ -19,6 +19,8 @@
 
 namespace nascor::reports {
 
+using foundation::Sentence;
+
 namespace {
 
 std::string_view textOf(std::span<const std::byte> bytes) {
@@ -50,18 +52,26 @@ std::optional<std::vector<exchange::StructuredReport>> reportsOfOwnJson(std::str
   }
 }
 
+/// "PATH: No such file or directory."
+Sentence failureOf(const std::string& path, const foundation::FileError& error) {
+  // Such a reason names the file itself.
+  if (!error.details.empty()) return Sentence::verbatim(error.reason);
+  //: %1 is the path of a file, %2 what the operating system says of it.
+  return Sentence("ReportFiles", "%1: %2").with(path, Sentence::ofSystem(error.reason));
+}
+
 }  // namespace
 
-std::variant<exchange::ReportFiles*, std::string> reportFiles() {
+std::variant<exchange::ReportFiles*, Sentence> reportFiles() {
   const auto found = posix::moduleFunction<exchange::ReportFiles* (*)()>("nascor-dicom", "nascorReportFiles");
-  if (const auto* why = std::get_if<std::string>(&found)) return *why;
+  if (const auto* why = std::get_if<Sentence>(&found)) return *why;
   return std::get<0>(found)();
 }
 
-std::variant<exchange::ReportServer*, std::string> reportServer() {
+std::variant<exchange::ReportServer*, Sentence> reportServer() {
   const auto found =
       posix::moduleFunction<exchange::ReportServer* (*)()>("nascor-dicom-net", "nascorReportServer");
-  if (const auto* why = std::get_if<std::string>(&found)) return *why;
+  if (const auto* why = std::get_if<Sentence>(&found)) return *why;
   return std::get<0>(found)();
 }
 
@@ -70,31 +80,32 @@ bool isReport(std::span<const std::byte> bytes) {
   return isDicom(text) || isObject(text) || exchange::findingsInTable(text).has_value();
 }
 
-std::variant<std::vector<exchange::StructuredReport>, std::string> reportsIn(
-    std::span<const std::byte> bytes) {
+std::variant<std::vector<exchange::StructuredReport>, Sentence> reportsIn(std::span<const std::byte> bytes) {
   const std::string_view text = textOf(bytes);
   if (isObject(text)) return exchange::reportsInBundle(text);
   if (!isDicom(text))
-    return "is no report that is read: no DICOM file, no FHIR bundle, and no table whose first line names "
-           "exam_date and lengths such as bpd_mm, with commas between";
+    return Sentence("ReportFiles",
+                    "is no report that is read: no DICOM file, no FHIR bundle, and no table whose first line "
+                    "names exam_date and lengths such as bpd_mm, with commas between");
 
   const auto files = reportFiles();
-  if (const auto* why = std::get_if<std::string>(&files)) return "cannot be read: " + *why;
+  if (const auto* why = std::get_if<Sentence>(&files))
+    return Sentence("ReportFiles", "cannot be read: %1").with(*why);
   auto report = std::get<exchange::ReportFiles*>(files)->read(bytes);
-  if (auto* why = std::get_if<std::string>(&report)) return std::move(*why);
+  if (auto* why = std::get_if<Sentence>(&report)) return std::move(*why);
   std::vector<exchange::StructuredReport> reports;
   reports.push_back(std::move(std::get<exchange::StructuredReport>(report)));
   return reports;
 }
 
-std::variant<std::vector<exchange::Findings>, std::vector<std::string>> findingsIn(
+std::variant<std::vector<exchange::Findings>, std::vector<Sentence>> findingsIn(
     std::span<const std::byte> bytes) {
   const std::string_view text = textOf(bytes);
   if (!isDicom(text)) {
     if (auto found = exchange::findingsInTable(text)) return std::move(*found);
   }
   auto reports = reportsIn(bytes);
-  if (auto* why = std::get_if<std::string>(&reports)) {
+  if (auto* why = std::get_if<Sentence>(&reports)) {
     auto own = isObject(text) ? reportsOfOwnJson(text) : std::nullopt;
     if (!own) return std::vector{std::move(*why)};
     reports = std::move(*own);
@@ -102,7 +113,7 @@ std::variant<std::vector<exchange::Findings>, std::vector<std::string>> findings
   std::vector<exchange::Findings> all;
   for (const exchange::StructuredReport& report : std::get<0>(reports)) {
     auto findings = exchange::findingsIn(report);
-    if (auto* why = std::get_if<std::string>(&findings)) return std::vector{std::move(*why)};
+    if (auto* why = std::get_if<Sentence>(&findings)) return std::vector{std::move(*why)};
     all.push_back(std::move(std::get<exchange::Findings>(findings)));
   }
   return all;
@@ -114,7 +125,7 @@ FoundInFiles findingsInFiles(std::span<const std::string> paths, const foundatio
   for (const std::string& path : paths) {
     const auto contents = files.contents(path);
     if (const auto* error = std::get_if<foundation::FileError>(&contents)) {
-      all.failures.push_back(foundation::sentenceAbout(path, *error));
+      all.failures.push_back(failureOf(path, *error));
       continue;
     }
     auto found = findingsIn(std::get<std::vector<std::byte>>(contents));
@@ -122,12 +133,18 @@ FoundInFiles findingsInFiles(std::span<const std::string> paths, const foundatio
       std::ranges::move(*findings, std::back_inserter(all.findings));
       continue;
     }
-    const std::string start = std::filesystem::path(path).filename().string() + ": ";
-    const auto& sentences = std::get<std::vector<std::string>>(found);
+    const std::string name = std::filesystem::path(path).filename().string();
+    const auto& sentences = std::get<std::vector<Sentence>>(found);
     for (std::size_t i = 0; i < std::min(sentences.size(), kMostSentences); ++i)
-      all.failures.push_back(start + sentences[i] + ".");
-    if (sentences.size() > kMostSentences)
-      all.failures.push_back(start + std::to_string(sentences.size() - kMostSentences) + " more rows.");
+      //: %1 is the name of a file, %2 a sentence about it that begins with a small letter.
+      all.failures.push_back(Sentence("ReportFiles", "%1: %2.").with(name, sentences[i]));
+    if (sentences.size() > kMostSentences) {
+      const std::size_t others = sentences.size() - kMostSentences;
+      //: %2 rows of the file %1 do not fit either.
+      const auto one = Sentence("ReportFiles", "%1: %2 more row.");
+      const auto many = Sentence("ReportFiles", "%1: %2 more rows.");
+      all.failures.push_back(Sentence::counted(others, one.with(name, others), many.with(name, others)));
+    }
   }
   return all;
 }

@@ -7,9 +7,9 @@
 
 namespace nascor::typesetting {
 
-std::variant<summary::Typesetter*, std::string> typesetter() {
+std::variant<summary::Typesetter*, foundation::Sentence> typesetter() {
   const auto found = posix::moduleFunction<summary::Typesetter* (*)()>("nascor-typeset", "nascorTypesetter");
-  if (const auto* why = std::get_if<std::string>(&found)) return *why;
+  if (const auto* why = std::get_if<foundation::Sentence>(&found)) return *why;
   return std::get<0>(found)();
 }
 

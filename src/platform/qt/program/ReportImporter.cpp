@@ -11,6 +11,7 @@
 #include "app/ReportImport.h"
 #include "base/Text.h"
 #include "foundation/Localizer.h"
+#include "foundation/Sentence.h"
 #include "reports/Reports.h"
 #include "window/ImportDialog.h"
 #include "window/QtAlerts.h"
@@ -18,6 +19,7 @@
 namespace nascor::qt {
 
 using app::NCDocument;
+using foundation::Sentence;
 
 bool ReportImporter::isReport(const QString& path) const {
   QFile file(path);
@@ -56,11 +58,10 @@ void ReportImporter::importFetched(std::span<const std::vector<std::byte>> files
     if (auto* findings = std::get_if<0>(&found)) {
       std::ranges::move(*findings, std::back_inserter(all.findings));
     } else {
-      for (const std::string& why : std::get<1>(found))
-        all.failures.push_back(
-            foundation::format(services_.localizer.text("ReportImport", "Fetched report %ld"),
-                               {&file - files.data() + 1}) +
-            ": " + why + ".");
+      const std::string name = foundation::format(
+          services_.localizer.text("ReportImport", "Fetched report %ld"), {&file - files.data() + 1});
+      for (const Sentence& why : std::get<1>(found))
+        all.failures.push_back(Sentence("ReportFiles", "%1: %2.").with(name, why));
     }
   }
   import(std::move(all), &document);
@@ -68,13 +69,11 @@ void ReportImporter::importFetched(std::span<const std::vector<std::byte>> files
 
 bool ReportImporter::import(reports::FoundInFiles found, NCDocument* document) {
   if (!found.failures.empty()) {
-    std::string sentences;
-    for (const std::string& failure : found.failures)
-      sentences += (sentences.empty() ? "" : "\n\n") + failure;
-    alerts_.tell(services_.localizer.text("ReportImport", found.failures.size() == 1
-                                                              ? "The report cannot be imported."
-                                                              : "These reports cannot be imported."),
-                 sentences);
+    const foundation::Localizer& localizer = services_.localizer;
+    alerts_.tell(found.failures.size() == 1
+                     ? localizer.text("ReportImport", "The report cannot be imported.")
+                     : localizer.text("ReportImport", "These reports cannot be imported."),
+                 said(Sentence::joined(found.failures, "\n\n"), localizer));
   }
   if (found.findings.empty()) return false;
 

@@ -60,8 +60,8 @@ struct WindowEnvironment {
   std::function<void()> quit;
   summary::FindTypesetter typesetter;
   ServerTask& serverTask;
-  std::function<std::variant<exchange::ReportServer*, std::string>()> reportServer;
-  std::function<std::variant<exchange::ReportFiles*, std::string>()> reportFiles;
+  std::function<std::variant<exchange::ReportServer*, foundation::Sentence>()> reportServer;
+  std::function<std::variant<exchange::ReportFiles*, foundation::Sentence>()> reportFiles;
   /// Shows reports, the bytes of their files, before they are stored in that document.
   std::function<void(std::vector<std::vector<std::byte>>, app::NCDocument&)> importReports;
 };

@@ -30,16 +30,11 @@ namespace nascor::qt {
 
 using app::NCDocument;
 using exchange::ReportPlace;
+using foundation::Sentence;
 
 namespace {
 
 constexpr int kMessageTime = 10'000;  // ms
-
-QString sentencesOf(const std::vector<std::string>& sentences) {
-  QStringList lines;
-  for (const std::string& each : sentences) lines << fromUtf8(foundation::shownLine(each));
-  return lines.join(u'\n');
-}
 
 }  // namespace
 
@@ -66,6 +61,19 @@ QAction* ServerMenu::add(QMenu& menu, const char* name, const QString& text, con
   return item;
 }
 
+std::string ServerMenu::inWords(const Sentence& sentence) const {
+  return said(sentence, environment_.services.localizer);
+}
+
+std::string ServerMenu::inLines(const std::vector<Sentence>& sentences) const {
+  std::string lines;
+  for (const Sentence& each : sentences) {
+    if (!lines.empty()) lines += '\n';
+    lines += foundation::shownLine(inWords(each));
+  }
+  return lines;
+}
+
 std::optional<exchange::ServerAddress> ServerMenu::address() {
   auto address = preferredServer(environment_.services.defaults);
   if (!address) {
@@ -79,20 +87,20 @@ std::optional<exchange::ServerAddress> ServerMenu::address() {
 template <class Result>
 std::optional<Result> ServerMenu::ask(
     const QString& what, const std::string& failure,
-    std::function<std::variant<Result, std::string>(exchange::ReportServer&)> question) {
+    std::function<std::variant<Result, Sentence>(exchange::ReportServer&)> question) {
   const auto found = environment_.server();
-  if (const auto* why = std::get_if<std::string>(&found)) {
-    environment_.alerts.tell(failure, *why);
+  if (const auto* why = std::get_if<Sentence>(&found)) {
+    environment_.alerts.tell(failure, inWords(*why));
     return std::nullopt;
   }
   // The work outlives this call where the user does not wait for it.
-  auto answer = std::make_shared<std::variant<Result, std::string>>();
+  auto answer = std::make_shared<std::variant<Result, Sentence>>();
   exchange::ReportServer* server = std::get<exchange::ReportServer*>(found);
   const bool isAnswered = environment_.task.run(
       window_, what, [answer, server, question = std::move(question)] { *answer = question(*server); });
   if (!isAnswered) return std::nullopt;
-  if (const auto* why = std::get_if<std::string>(answer.get())) {
-    environment_.alerts.tell(failure, *why);
+  if (const auto* why = std::get_if<Sentence>(answer.get())) {
+    environment_.alerts.tell(failure, inWords(*why));
     return std::nullopt;
   }
   return std::move(std::get<Result>(*answer));
@@ -140,13 +148,13 @@ void ServerMenu::fetch(NCDocument& document) {
     }
     if (!fetched->warnings.empty())
       environment_.alerts.tell(toUtf8(said("ServerMenu", "Not all reports were fetched.")),
-                               toUtf8(sentencesOf(fetched->warnings)));
+                               inLines(fetched->warnings));
   }
   if (!files.empty()) environment_.import(std::move(files), document);
 }
 
 std::vector<ReportPlace> ServerMenu::choose(const std::vector<ReportPlace>& places,
-                                            const std::vector<std::string>& warnings) {
+                                            const std::vector<Sentence>& warnings) {
   QDialog dialog(&window_);
   dialog.setObjectName(QStringLiteral("fetchDialog"));
   dialog.setWindowTitle(said("ServerMenu", "Fetch Reports"));
@@ -171,7 +179,7 @@ std::vector<ReportPlace> ServerMenu::choose(const std::vector<ReportPlace>& plac
   table->selectRow(0);
   layout->addWidget(table);
   if (!warnings.empty()) {
-    auto* label = new QLabel(sentencesOf(warnings));
+    auto* label = new QLabel(fromUtf8(inLines(warnings)));
     label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);
     layout->addWidget(label);
@@ -204,9 +212,11 @@ void ServerMenu::send(NCDocument& document) {
                                        &exchange::OutgoingExamination::place);
   if (shown == all.end()) return;
   const auto files = environment_.reportFiles();
-  if (const auto* why = std::get_if<std::string>(&files)) return environment_.alerts.tell(failure, *why);
+  if (const auto* why = std::get_if<Sentence>(&files))
+    return environment_.alerts.tell(failure, inWords(*why));
   const auto written = std::get<exchange::ReportFiles*>(files)->write(exchange::reportOf(*shown));
-  if (const auto* why = std::get_if<std::string>(&written)) return environment_.alerts.tell(failure, *why);
+  if (const auto* why = std::get_if<Sentence>(&written))
+    return environment_.alerts.tell(failure, inWords(*why));
 
   const foundation::Localizer& localizer = environment_.services.localizer;
   const QString day =
@@ -214,7 +224,7 @@ void ServerMenu::send(NCDocument& document) {
   QString information = said("ServerMenu", "Patient %1, examination %2, to %3.")
                             .arg(fromUtf8(foundation::shownLine(shown->patientID)), day, serverName(*server));
   if (!server->tls) information += u'\n' + said("ServerMenu", "The connection is not encrypted.");
-  if (!shown->warnings.empty()) information += u'\n' + sentencesOf(shown->warnings);
+  if (!shown->warnings.empty()) information += u'\n' + fromUtf8(inLines(shown->warnings));
   if (environment_.alerts.runModal(
           {.message = toUtf8(said("ServerMenu", "Send this examination to the server?")),
            .information = toUtf8(information),
@@ -224,7 +234,7 @@ void ServerMenu::send(NCDocument& document) {
     return;
   const auto sent = ask<bool>(said("ServerMenu", "Sending to %1...").arg(serverName(*server)), failure,
                               [server = *server, bytes = std::get<std::vector<std::byte>>(written)](
-                                  exchange::ReportServer& asked) -> std::variant<bool, std::string> {
+                                  exchange::ReportServer& asked) -> std::variant<bool, Sentence> {
                                 if (const auto fault = asked.send(server, bytes)) return fault->sentence;
                                 return true;
                               });
@@ -234,18 +244,19 @@ void ServerMenu::send(NCDocument& document) {
 }
 
 void ServerMenu::editSettings() {
-  askForServer(window_, environment_.services.defaults,
-               [this](const exchange::ServerAddress& address) -> std::optional<QString> {
-                 const auto found = environment_.server();
-                 if (const auto* why = std::get_if<std::string>(&found)) return fromUtf8(*why);
-                 auto answer = std::make_shared<std::optional<std::string>>();
-                 exchange::ReportServer* server = std::get<exchange::ReportServer*>(found);
-                 const bool isAnswered = environment_.task.run(
-                     window_, said("ServerMenu", "Asking %1...").arg(serverName(address)),
-                     [answer, server, address] { *answer = server->echo(address); });
-                 if (!isAnswered) return said("ServerMenu", "The answer was not waited for.");
-                 return *answer ? std::optional(fromUtf8(foundation::shownLine(**answer))) : std::nullopt;
-               });
+  askForServer(
+      window_, environment_.services.defaults, environment_.services.localizer,
+      [this](const exchange::ServerAddress& address) -> std::optional<QString> {
+        const auto found = environment_.server();
+        if (const auto* why = std::get_if<Sentence>(&found)) return fromUtf8(inWords(*why));
+        auto answer = std::make_shared<std::optional<Sentence>>();
+        exchange::ReportServer* server = std::get<exchange::ReportServer*>(found);
+        const bool isAnswered =
+            environment_.task.run(window_, said("ServerMenu", "Asking %1...").arg(serverName(address)),
+                                  [answer, server, address] { *answer = server->echo(address); });
+        if (!isAnswered) return said("ServerMenu", "The answer was not waited for.");
+        return *answer ? std::optional(fromUtf8(foundation::shownLine(inWords(**answer)))) : std::nullopt;
+      });
 }
 
 }  // namespace nascor::qt

@@ -14,6 +14,7 @@
 #include "app/NCDocument.h"
 #include "exchange/ReportServer.h"
 #include "exchange/StructuredReport.h"
+#include "foundation/Sentence.h"
 #include "foundation/Services.h"
 #include "framework/Alerts.h"
 #include "window/Perform.h"
@@ -28,8 +29,8 @@ struct ServerEnvironment {
   Perform perform;
   ServerTask& task;
   /// What speaks to servers, and what reads and writes reports; or why there is nothing that does.
-  std::function<std::variant<exchange::ReportServer*, std::string>()> server;
-  std::function<std::variant<exchange::ReportFiles*, std::string>()> reportFiles;
+  std::function<std::variant<exchange::ReportServer*, foundation::Sentence>()> server;
+  std::function<std::variant<exchange::ReportFiles*, foundation::Sentence>()> reportFiles;
   /// Shows reports before they are stored in the document: the bytes of their files.
   std::function<void(std::vector<std::vector<std::byte>>, app::NCDocument&)> import;
 };
@@ -51,10 +52,13 @@ class ServerMenu final : public QObject {
   template <class Result>
   std::optional<Result> ask(
       const QString& what, const std::string& failure,
-      std::function<std::variant<Result, std::string>(exchange::ReportServer&)> question);
+      std::function<std::variant<Result, foundation::Sentence>(exchange::ReportServer&)> question);
+  /// A sentence, or several a line each, in the user's language.
+  std::string inWords(const foundation::Sentence& sentence) const;
+  std::string inLines(const std::vector<foundation::Sentence>& sentences) const;
   /// Which of them; empty for none.
   std::vector<exchange::ReportPlace> choose(const std::vector<exchange::ReportPlace>& places,
-                                            const std::vector<std::string>& warnings);
+                                            const std::vector<foundation::Sentence>& warnings);
 
   QMainWindow& window_;
   ServerEnvironment environment_;

@@ -150,7 +150,7 @@ QString serverName(const ServerAddress& address) {
       .arg(fromUtf8(address.serverTitle), fromUtf8(address.host), QString::number(address.port));
 }
 
-void askForServer(QWidget& window, foundation::UserDefaults& defaults,
+void askForServer(QWidget& window, foundation::UserDefaults& defaults, const foundation::Localizer& localizer,
                   const std::function<std::optional<QString>(const ServerAddress&)>& tries) {
   QDialog dialog(&window);
   dialog.setObjectName(QStringLiteral("serverSettings"));
@@ -195,8 +195,7 @@ void askForServer(QWidget& window, foundation::UserDefaults& defaults,
     if (isNone) {
       answer->setText(said("ServerSettings", "Without a host, Nascor contacts no server."));
     } else if (fault) {
-      const QString sentence = fromUtf8(*fault);
-      answer->setText(sentence.left(1).toUpper() + sentence.mid(1) + u'.');
+      answer->setText(fromUtf8(saidAlone(*fault, localizer)));
     } else if (!isEncrypted) {
       answer->setText(said("ServerSettings", "Reports will cross the network in clear."));
     } else {

@@ -8,6 +8,7 @@
 #include <optional>
 
 #include "exchange/ReportServer.h"
+#include "foundation/Localizer.h"
 #include "foundation/UserDefaults.h"
 
 namespace nascor::qt {
@@ -18,7 +19,7 @@ std::optional<exchange::ServerAddress> preferredServer(const foundation::UserDef
 QString serverName(const exchange::ServerAddress& address);
 
 /// Asks for the server, and lets the user try it by `tries`, which says why it does not answer, or nothing.
-void askForServer(QWidget& window, foundation::UserDefaults& defaults,
+void askForServer(QWidget& window, foundation::UserDefaults& defaults, const foundation::Localizer& localizer,
                   const std::function<std::optional<QString>(const exchange::ServerAddress&)>& tries);
 
 }  // namespace nascor::qt

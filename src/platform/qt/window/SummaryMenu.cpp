@@ -101,7 +101,8 @@ void SummaryMenu::printSummary(NCDocument& document) {
 
 std::optional<std::string> SummaryMenu::printInto(QPrinter& printer, const summary::Summary& summary) {
   const auto typesetter = environment_.typesetter();
-  if (const auto* why = std::get_if<std::string>(&typesetter)) return *why;
+  if (const auto* why = std::get_if<foundation::Sentence>(&typesetter))
+    return said(*why, environment_.services.localizer);
   summary::Typesetter& setter = *std::get<summary::Typesetter*>(typesetter);
   const QSizeF size = printer.pageLayout().fullRect(QPageLayout::Point).size();
   const summary::Paper paper{.width = size.width(), .height = size.height()};
