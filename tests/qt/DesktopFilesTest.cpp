@@ -50,6 +50,17 @@ TEST(TheDesktopEntry, namesTheWindowsClassAndTheIconByTheApplicationsId) {
   EXPECT_TRUE(QFile::exists(QStringLiteral(NASCOR_DESKTOP "/org.nascor.Nascor.svg")));
 }
 
+TEST(TheDesktopEntry, isFoundByWordsOfEveryLanguage) {
+  QFile entry(QStringLiteral(NASCOR_DESKTOP "/org.nascor.Nascor.desktop"));
+  ASSERT_TRUE(entry.open(QIODevice::ReadOnly));
+  const QString text = QString::fromUtf8(entry.readAll());
+  for (const char* key : {"GenericName", "Comment", "Keywords"}) {
+    for (const char* language : {"", "[de]", "[es]", "[fr]"})
+      EXPECT_TRUE(text.contains(QStringLiteral("\n%1%2=").arg(QLatin1String(key), QLatin1String(language))))
+          << key << language;
+  }
+}
+
 TEST(TheApplicationsIcon, isPaintedInTheSizesOfTitleBarsAndLists) {
   const QIcon icon = qt::applicationIcon();
   EXPECT_EQ(icon.availableSizes(), (QList<QSize>{{16, 16}, {32, 32}, {64, 64}}));
