@@ -179,6 +179,138 @@
     </message>
 </context>
 <context>
+    <name>Check</name>
+    <message>
+        <source>its byte order is big</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the old place of the gravidity holds &quot;%1&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the old place of the gravidity holds nothing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 list is missing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 lists are missing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 record stands in several places</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 records stand in several places</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 byte follows the patient</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 bytes follow the patient</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 has version %2, older than %3</source>
+        <extracomment>%1 is the name of a class of a document&apos;s file, as in the next one.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 has version %2, newer than %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the identifier is missing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the EDD is missing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the EDD is %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the EDD, %1 s from 2001-01-01, is outside the years 1 to 9999</source>
+        <extracomment>2001-01-01 is the day from which seconds count.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the gravidity %1 is negative</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the growth standard %1 is unknown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the weight formula %1 is unknown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the CRL formula %1 is unknown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the planned delivery, %1 days from 40 weeks, is outside %2 to %3 days</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the number of fetuses, %1, is outside %2 to %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is no examination</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the note is missing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the date is missing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the date is %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the date, %1 s from 2001-01-01, is outside the years 1 to 9999</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it is earlier than the one before it</source>
+        <extracomment>&quot;It&quot; is an examination.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it has %1 fetus, the patient %2</source>
+        <extracomment>&quot;It&quot; is an examination; %2 are the fetuses of the patient.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it has %1 fetuses, the patient %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>examination %1, fetus %2: %3</source>
+        <extracomment>%3 is a sentence about that fetus of that examination, which begins with a small letter.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>examination %1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>CommandHelp</name>
     <message>
         <source>growth standards by number or name, intergrowth-2014, with commas between; without it all four</source>
@@ -904,7 +1036,7 @@ Files of the same names are replaced, but with --no-clobber. SOURCE_DATE_EPOCH, 
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>growth standards by number or name, intergrowth-2014, with commas between; or all four</source>
+        <source>growth standards by number or name, intergrowth-2014, with commas between; all for all four</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1395,6 +1527,10 @@ Files of the same names are replaced, but with --no-clobber. SOURCE_DATE_EPOCH, 
     <message>
         <source>%1: expected one of %2, but &quot;%3&quot; was given</source>
         <extracomment>%1 is an option or an operand, %2 a list of names.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of %2 values differs</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

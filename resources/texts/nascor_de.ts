@@ -179,6 +179,138 @@
     </message>
 </context>
 <context>
+    <name>Check</name>
+    <message>
+        <source>its byte order is big</source>
+        <translation>die Bytereihenfolge ist Big-Endian</translation>
+    </message>
+    <message>
+        <source>the old place of the gravidity holds &quot;%1&quot;</source>
+        <translation>an der alten Stelle der Gravidität steht „%1“</translation>
+    </message>
+    <message>
+        <source>the old place of the gravidity holds nothing</source>
+        <translation>die alte Stelle der Gravidität ist leer</translation>
+    </message>
+    <message>
+        <source>%1 list is missing</source>
+        <translation>%1 Liste fehlt</translation>
+    </message>
+    <message>
+        <source>%1 lists are missing</source>
+        <translation>%1 Listen fehlen</translation>
+    </message>
+    <message>
+        <source>%1 record stands in several places</source>
+        <translation>%1 Datensatz steht an mehreren Stellen</translation>
+    </message>
+    <message>
+        <source>%1 records stand in several places</source>
+        <translation>%1 Datensätze stehen an mehreren Stellen</translation>
+    </message>
+    <message>
+        <source>%1 byte follows the patient</source>
+        <translation>%1 Byte folgt auf die Patientin</translation>
+    </message>
+    <message>
+        <source>%1 bytes follow the patient</source>
+        <translation>%1 Byte folgen auf die Patientin</translation>
+    </message>
+    <message>
+        <source>%1 has version %2, older than %3</source>
+        <extracomment>%1 is the name of a class of a document&apos;s file, as in the next one.</extracomment>
+        <translation>%1 hat Version %2, älter als %3</translation>
+    </message>
+    <message>
+        <source>%1 has version %2, newer than %3</source>
+        <translation>%1 hat Version %2, neuer als %3</translation>
+    </message>
+    <message>
+        <source>the identifier is missing</source>
+        <translation>die Patienten-ID fehlt</translation>
+    </message>
+    <message>
+        <source>the EDD is missing</source>
+        <translation>der ET fehlt</translation>
+    </message>
+    <message>
+        <source>the EDD is %1</source>
+        <translation>der ET ist %1</translation>
+    </message>
+    <message>
+        <source>the EDD, %1 s from 2001-01-01, is outside the years 1 to 9999</source>
+        <extracomment>2001-01-01 is the day from which seconds count.</extracomment>
+        <translation>der ET, %1 s ab 2001-01-01, liegt außerhalb der Jahre 1 bis 9999</translation>
+    </message>
+    <message>
+        <source>the gravidity %1 is negative</source>
+        <translation>die Gravidität %1 ist negativ</translation>
+    </message>
+    <message>
+        <source>the growth standard %1 is unknown</source>
+        <translation>der Wachstumsstandard %1 ist unbekannt</translation>
+    </message>
+    <message>
+        <source>the weight formula %1 is unknown</source>
+        <translation>die Gewichtsformel %1 ist unbekannt</translation>
+    </message>
+    <message>
+        <source>the CRL formula %1 is unknown</source>
+        <translation>die SSL-Formel %1 ist unbekannt</translation>
+    </message>
+    <message>
+        <source>the planned delivery, %1 days from 40 weeks, is outside %2 to %3 days</source>
+        <translation>die geplante Entbindung, %1 Tage ab 40 Wochen, liegt außerhalb von %2 bis %3 Tagen</translation>
+    </message>
+    <message>
+        <source>the number of fetuses, %1, is outside %2 to %3</source>
+        <translation>die Anzahl der Feten, %1, liegt außerhalb von %2 bis %3</translation>
+    </message>
+    <message>
+        <source>there is no examination</source>
+        <translation>es gibt keine Untersuchung</translation>
+    </message>
+    <message>
+        <source>the note is missing</source>
+        <translation>die Notiz fehlt</translation>
+    </message>
+    <message>
+        <source>the date is missing</source>
+        <translation>das Datum fehlt</translation>
+    </message>
+    <message>
+        <source>the date is %1</source>
+        <translation>das Datum ist %1</translation>
+    </message>
+    <message>
+        <source>the date, %1 s from 2001-01-01, is outside the years 1 to 9999</source>
+        <translation>das Datum, %1 s ab 2001-01-01, liegt außerhalb der Jahre 1 bis 9999</translation>
+    </message>
+    <message>
+        <source>it is earlier than the one before it</source>
+        <extracomment>&quot;It&quot; is an examination.</extracomment>
+        <translation>sie liegt vor der vorhergehenden</translation>
+    </message>
+    <message>
+        <source>it has %1 fetus, the patient %2</source>
+        <extracomment>&quot;It&quot; is an examination; %2 are the fetuses of the patient.</extracomment>
+        <translation>sie hat %1 Fetus, die Patientin %2</translation>
+    </message>
+    <message>
+        <source>it has %1 fetuses, the patient %2</source>
+        <translation>sie hat %1 Feten, die Patientin %2</translation>
+    </message>
+    <message>
+        <source>examination %1, fetus %2: %3</source>
+        <extracomment>%3 is a sentence about that fetus of that examination, which begins with a small letter.</extracomment>
+        <translation>Untersuchung %1, Fetus %2: %3</translation>
+    </message>
+    <message>
+        <source>examination %1: %2</source>
+        <translation>Untersuchung %1: %2</translation>
+    </message>
+</context>
+<context>
     <name>CommandHelp</name>
     <message>
         <source>growth standards by number or name, intergrowth-2014, with commas between; without it all four</source>
@@ -1041,8 +1173,8 @@ Dateien gleichen Namens werden ersetzt, außer mit --no-clobber. SOURCE_DATE_EPO
 </translation>
     </message>
     <message>
-        <source>growth standards by number or name, intergrowth-2014, with commas between; or all four</source>
-        <translation>Wachstumsstandards, Nummer oder Name, intergrowth-2014, mit Kommas dazwischen; all: alle vier</translation>
+        <source>growth standards by number or name, intergrowth-2014, with commas between; all for all four</source>
+        <translation>Wachstumsstandards, Nummer oder Name, intergrowth-2014, mit Kommas dazwischen; all für alle vier</translation>
     </message>
 </context>
 <context>
@@ -1533,6 +1665,10 @@ Dateien gleichen Namens werden ersetzt, außer mit --no-clobber. SOURCE_DATE_EPO
     <message>
         <source>it has no such fetus</source>
         <translation>hat keinen solchen Fetus</translation>
+    </message>
+    <message>
+        <source>%1 of %2 values differs</source>
+        <translation>%1 von %2 Werten weicht ab</translation>
     </message>
 </context>
 <context>

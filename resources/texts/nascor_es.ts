@@ -179,6 +179,138 @@
     </message>
 </context>
 <context>
+    <name>Check</name>
+    <message>
+        <source>its byte order is big</source>
+        <translation>su orden de bytes es big endian</translation>
+    </message>
+    <message>
+        <source>the old place of the gravidity holds &quot;%1&quot;</source>
+        <translation>en el antiguo lugar de las gestas figura «%1»</translation>
+    </message>
+    <message>
+        <source>the old place of the gravidity holds nothing</source>
+        <translation>el antiguo lugar de las gestas está vacío</translation>
+    </message>
+    <message>
+        <source>%1 list is missing</source>
+        <translation>falta %1 lista</translation>
+    </message>
+    <message>
+        <source>%1 lists are missing</source>
+        <translation>faltan %1 listas</translation>
+    </message>
+    <message>
+        <source>%1 record stands in several places</source>
+        <translation>%1 registro figura en varios lugares</translation>
+    </message>
+    <message>
+        <source>%1 records stand in several places</source>
+        <translation>%1 registros figuran en varios lugares</translation>
+    </message>
+    <message>
+        <source>%1 byte follows the patient</source>
+        <translation>tras la paciente sigue %1 byte</translation>
+    </message>
+    <message>
+        <source>%1 bytes follow the patient</source>
+        <translation>tras la paciente siguen %1 bytes</translation>
+    </message>
+    <message>
+        <source>%1 has version %2, older than %3</source>
+        <extracomment>%1 is the name of a class of a document&apos;s file, as in the next one.</extracomment>
+        <translation>%1 tiene la versión %2, anterior a la %3</translation>
+    </message>
+    <message>
+        <source>%1 has version %2, newer than %3</source>
+        <translation>%1 tiene la versión %2, posterior a la %3</translation>
+    </message>
+    <message>
+        <source>the identifier is missing</source>
+        <translation>falta el identificador</translation>
+    </message>
+    <message>
+        <source>the EDD is missing</source>
+        <translation>falta la FPP</translation>
+    </message>
+    <message>
+        <source>the EDD is %1</source>
+        <translation>la FPP es %1</translation>
+    </message>
+    <message>
+        <source>the EDD, %1 s from 2001-01-01, is outside the years 1 to 9999</source>
+        <extracomment>2001-01-01 is the day from which seconds count.</extracomment>
+        <translation>la FPP, a %1 s de 2001-01-01, queda fuera de los años 1 a 9999</translation>
+    </message>
+    <message>
+        <source>the gravidity %1 is negative</source>
+        <translation>el número de gestas, %1, es negativo</translation>
+    </message>
+    <message>
+        <source>the growth standard %1 is unknown</source>
+        <translation>el estándar de crecimiento %1 es desconocido</translation>
+    </message>
+    <message>
+        <source>the weight formula %1 is unknown</source>
+        <translation>la fórmula de peso %1 es desconocida</translation>
+    </message>
+    <message>
+        <source>the CRL formula %1 is unknown</source>
+        <translation>la fórmula de LCC %1 es desconocida</translation>
+    </message>
+    <message>
+        <source>the planned delivery, %1 days from 40 weeks, is outside %2 to %3 days</source>
+        <translation>el parto programado, a %1 días de las 40 semanas, queda fuera del intervalo de %2 a %3 días</translation>
+    </message>
+    <message>
+        <source>the number of fetuses, %1, is outside %2 to %3</source>
+        <translation>el número de fetos, %1, queda fuera del intervalo de %2 a %3</translation>
+    </message>
+    <message>
+        <source>there is no examination</source>
+        <translation>no hay ninguna exploración</translation>
+    </message>
+    <message>
+        <source>the note is missing</source>
+        <translation>falta la nota</translation>
+    </message>
+    <message>
+        <source>the date is missing</source>
+        <translation>falta la fecha</translation>
+    </message>
+    <message>
+        <source>the date is %1</source>
+        <translation>la fecha es %1</translation>
+    </message>
+    <message>
+        <source>the date, %1 s from 2001-01-01, is outside the years 1 to 9999</source>
+        <translation>la fecha, a %1 s de 2001-01-01, queda fuera de los años 1 a 9999</translation>
+    </message>
+    <message>
+        <source>it is earlier than the one before it</source>
+        <extracomment>&quot;It&quot; is an examination.</extracomment>
+        <translation>es anterior a la que la precede</translation>
+    </message>
+    <message>
+        <source>it has %1 fetus, the patient %2</source>
+        <extracomment>&quot;It&quot; is an examination; %2 are the fetuses of the patient.</extracomment>
+        <translation>tiene %1 feto; la paciente, %2</translation>
+    </message>
+    <message>
+        <source>it has %1 fetuses, the patient %2</source>
+        <translation>tiene %1 fetos; la paciente, %2</translation>
+    </message>
+    <message>
+        <source>examination %1, fetus %2: %3</source>
+        <extracomment>%3 is a sentence about that fetus of that examination, which begins with a small letter.</extracomment>
+        <translation>exploración %1, feto %2: %3</translation>
+    </message>
+    <message>
+        <source>examination %1: %2</source>
+        <translation>exploración %1: %2</translation>
+    </message>
+</context>
+<context>
     <name>CommandHelp</name>
     <message>
         <source>growth standards by number or name, intergrowth-2014, with commas between; without it all four</source>
@@ -1031,8 +1163,8 @@ desde 1970, sustituye al momento presente.
 </translation>
     </message>
     <message>
-        <source>growth standards by number or name, intergrowth-2014, with commas between; or all four</source>
-        <translation>estándares de crecimiento por número o nombre, intergrowth-2014, separados por comas; o all, los cuatro</translation>
+        <source>growth standards by number or name, intergrowth-2014, with commas between; all for all four</source>
+        <translation>estándares de crecimiento por número o nombre, intergrowth-2014, separados por comas; all para los cuatro</translation>
     </message>
 </context>
 <context>
@@ -1523,6 +1655,10 @@ desde 1970, sustituye al momento presente.
     <message>
         <source>it has no such fetus</source>
         <translation>no tiene ese feto</translation>
+    </message>
+    <message>
+        <source>%1 of %2 values differs</source>
+        <translation>%1 de %2 valores difiere</translation>
     </message>
 </context>
 <context>

@@ -179,6 +179,138 @@
     </message>
 </context>
 <context>
+    <name>Check</name>
+    <message>
+        <source>its byte order is big</source>
+        <translation>son ordre des octets est gros-boutiste (big endian)</translation>
+    </message>
+    <message>
+        <source>the old place of the gravidity holds &quot;%1&quot;</source>
+        <translation>l’ancien emplacement de la gestité contient «&#xa0;%1&#xa0;»</translation>
+    </message>
+    <message>
+        <source>the old place of the gravidity holds nothing</source>
+        <translation>l’ancien emplacement de la gestité est vide</translation>
+    </message>
+    <message>
+        <source>%1 list is missing</source>
+        <translation>%1 liste manque</translation>
+    </message>
+    <message>
+        <source>%1 lists are missing</source>
+        <translation>%1 listes manquent</translation>
+    </message>
+    <message>
+        <source>%1 record stands in several places</source>
+        <translation>%1 enregistrement figure à plusieurs endroits</translation>
+    </message>
+    <message>
+        <source>%1 records stand in several places</source>
+        <translation>%1 enregistrements figurent à plusieurs endroits</translation>
+    </message>
+    <message>
+        <source>%1 byte follows the patient</source>
+        <translation>%1 octet suit la patiente</translation>
+    </message>
+    <message>
+        <source>%1 bytes follow the patient</source>
+        <translation>%1&#xa0;octets suivent la patiente</translation>
+    </message>
+    <message>
+        <source>%1 has version %2, older than %3</source>
+        <extracomment>%1 is the name of a class of a document&apos;s file, as in the next one.</extracomment>
+        <translation>%1 est en version %2, antérieure à %3</translation>
+    </message>
+    <message>
+        <source>%1 has version %2, newer than %3</source>
+        <translation>%1 est en version %2, postérieure à %3</translation>
+    </message>
+    <message>
+        <source>the identifier is missing</source>
+        <translation>l’identifiant manque</translation>
+    </message>
+    <message>
+        <source>the EDD is missing</source>
+        <translation>la DPA manque</translation>
+    </message>
+    <message>
+        <source>the EDD is %1</source>
+        <translation>la DPA vaut %1</translation>
+    </message>
+    <message>
+        <source>the EDD, %1 s from 2001-01-01, is outside the years 1 to 9999</source>
+        <extracomment>2001-01-01 is the day from which seconds count.</extracomment>
+        <translation>la DPA, à %1&#xa0;s du 2001-01-01, est en dehors des années 1 à 9999</translation>
+    </message>
+    <message>
+        <source>the gravidity %1 is negative</source>
+        <translation>la gestité %1 est négative</translation>
+    </message>
+    <message>
+        <source>the growth standard %1 is unknown</source>
+        <translation>le standard de croissance %1 est inconnu</translation>
+    </message>
+    <message>
+        <source>the weight formula %1 is unknown</source>
+        <translation>la formule de poids %1 est inconnue</translation>
+    </message>
+    <message>
+        <source>the CRL formula %1 is unknown</source>
+        <translation>la formule LCC %1 est inconnue</translation>
+    </message>
+    <message>
+        <source>the planned delivery, %1 days from 40 weeks, is outside %2 to %3 days</source>
+        <translation>l’accouchement programmé, à %1 jours de 40&#xa0;SA, est en dehors de la plage de %2 à %3 jours</translation>
+    </message>
+    <message>
+        <source>the number of fetuses, %1, is outside %2 to %3</source>
+        <translation>le nombre de fœtus, %1, est en dehors de la plage de %2 à %3</translation>
+    </message>
+    <message>
+        <source>there is no examination</source>
+        <translation>il n’y a pas d’examen</translation>
+    </message>
+    <message>
+        <source>the note is missing</source>
+        <translation>la note manque</translation>
+    </message>
+    <message>
+        <source>the date is missing</source>
+        <translation>la date manque</translation>
+    </message>
+    <message>
+        <source>the date is %1</source>
+        <translation>la date vaut %1</translation>
+    </message>
+    <message>
+        <source>the date, %1 s from 2001-01-01, is outside the years 1 to 9999</source>
+        <translation>la date, à %1&#xa0;s du 2001-01-01, est en dehors des années 1 à 9999</translation>
+    </message>
+    <message>
+        <source>it is earlier than the one before it</source>
+        <extracomment>&quot;It&quot; is an examination.</extracomment>
+        <translation>il est antérieur à celui qui le précède</translation>
+    </message>
+    <message>
+        <source>it has %1 fetus, the patient %2</source>
+        <extracomment>&quot;It&quot; is an examination; %2 are the fetuses of the patient.</extracomment>
+        <translation>fœtus&#xa0;: %1 pour cet examen, %2 pour la patiente</translation>
+    </message>
+    <message>
+        <source>it has %1 fetuses, the patient %2</source>
+        <translation>fœtus&#xa0;: %1 pour cet examen, %2 pour la patiente</translation>
+    </message>
+    <message>
+        <source>examination %1, fetus %2: %3</source>
+        <extracomment>%3 is a sentence about that fetus of that examination, which begins with a small letter.</extracomment>
+        <translation>examen %1, fœtus %2&#xa0;: %3</translation>
+    </message>
+    <message>
+        <source>examination %1: %2</source>
+        <translation>examen %1&#xa0;: %2</translation>
+    </message>
+</context>
+<context>
     <name>CommandHelp</name>
     <message>
         <source>growth standards by number or name, intergrowth-2014, with commas between; without it all four</source>
@@ -1035,8 +1167,8 @@ SOURCE_DATE_EPOCH, en secondes depuis 1970, prend la place de l’instant prése
 </translation>
     </message>
     <message>
-        <source>growth standards by number or name, intergrowth-2014, with commas between; or all four</source>
-        <translation>standards de croissance par numéro ou nom, ou intergrowth-2014, avec virgules&#xa0;; ou all (les quatre)</translation>
+        <source>growth standards by number or name, intergrowth-2014, with commas between; all for all four</source>
+        <translation>standards de croissance par numéro ou nom, ou intergrowth-2014, avec virgules&#xa0;; all pour les quatre</translation>
     </message>
 </context>
 <context>
@@ -1527,6 +1659,10 @@ SOURCE_DATE_EPOCH, en secondes depuis 1970, prend la place de l’instant prése
     <message>
         <source>it has no such fetus</source>
         <translation>n’a pas ce fœtus</translation>
+    </message>
+    <message>
+        <source>%1 of %2 values differs</source>
+        <translation>valeur qui diffère&#xa0;: %1 sur %2</translation>
     </message>
 </context>
 <context>

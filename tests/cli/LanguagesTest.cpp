@@ -103,13 +103,18 @@ std::string shown(const Line& line) {
   return text;
 }
 
-/// The texts of a table as the translators have it.
-std::set<Key> keysOf(const std::string& xml) {
-  std::set<Key> keys;
+/// The texts of a table as the translators have it, each with its translation.
+std::map<Key, std::string> textsOf(const std::string& xml) {
+  std::map<Key, std::string> texts;
+  Key last;
   std::string table;
   const auto unescaped = [](std::string text) {
-    for (const auto& [name, sign] : std::vector<std::pair<std::string, const char*>>{
-             {"&quot;", "\""}, {"&apos;", "'"}, {"&lt;", "<"}, {"&gt;", ">"}, {"&amp;", "&"}}) {
+    for (const auto& [name, sign] : std::vector<std::pair<std::string, const char*>>{{"&quot;", "\""},
+                                                                                     {"&apos;", "'"},
+                                                                                     {"&#xa0;", "\u00a0"},
+                                                                                     {"&lt;", "<"},
+                                                                                     {"&gt;", ">"},
+                                                                                     {"&amp;", "&"}}) {
       for (std::size_t at = 0; (at = text.find(name, at)) != std::string::npos; ++at)
         text.replace(at, name.size(), sign);
     }
@@ -122,9 +127,10 @@ std::set<Key> keysOf(const std::string& xml) {
       return unescaped(xml.substr(begin, xml.find("</", begin) - begin));
     };
     if (const auto name = element("<name>")) table = *name;
-    if (const auto source = element("<source>")) keys.emplace(table, *source);
+    if (const auto source = element("<source>")) texts[last = Key(table, *source)] = "";
+    if (const auto translation = element("<translation>")) texts[last] = *translation;
   }
-  return keys;
+  return texts;
 }
 
 class EveryLanguage : public testing::Test {
@@ -136,6 +142,9 @@ class EveryLanguage : public testing::Test {
     folder.write("cut.nascor", twins.substr(0, twins.size() / 2));
     folder.write("bad.nascor", "garbage");
     folder.write("empty.nascor", "");
+    folder.write("bad.csv", "exam_date,bpd_mm,edd\n2026-13-40,60,x\n2026-11-13,250,\n1\n");
+    folder.write("bare.csv", "exam_date,fl_mm\n2026-11-13,30\n");
+    folder.write("bad.json", "{");
     std::filesystem::create_directory(folder.path("empty"));
   }
 
@@ -263,6 +272,8 @@ TEST_F(EveryLanguage, hasEachLineOfStandardErrorInATable) {
       {{"import", "--patient=", "x"}},
       {{"import", "--fetus", "x", "y"}},
       {{"import", "--fetus", "a=1", "--fetus", "a=2", "y"}},
+      {{"import", "none.dcm", "cut.nascor", "bad.csv", "bad.json", "twins.nascor"}},
+      {{"import", "bare.csv", "--into", "twins.nascor"}},
       {{"export", "twins.nascor", "--format", "sr"}},
       {{"export", "twins.nascor", "--format", "sr", "--pages", "all", "--out", "o"}},
       {{"export", "twins.nascor", "--format", "sr", "--ndjson"}},
@@ -286,6 +297,11 @@ TEST_F(EveryLanguage, hasEachLineOfStandardErrorInATable) {
       {{"server", "find", "--patient="}},
       {{"server", "find", "--study="}},
       {{"server", "find", "--from", "x"}},
+      {{"server", "find", "--host", "a:1", "--port", "1", "--called", "A"}},
+      {{"server", "find", "--host", "a", "--port", "0", "--called", "A"}},
+      {{"server", "find", "--host", "a", "--port", "1", "--called", "A\\B"}},
+      {{"server", "find", "--host", "a", "--port", "1", "--called", "A", "--patient", "*"}},
+      {{"server", "echo", "--host", "127.0.0.1", "--port", "1", "--called", "A"}},
   };
   for (const Line& line : lines) {
     const Outcome outcome = in(marking, line);
@@ -298,7 +314,7 @@ TEST_F(EveryLanguage, hasEachLineOfStandardErrorInATable) {
     }
   }
 
-  const std::set<Key> table = keysOf(contentsOfFile(NASCOR_TEXTS "/nascor.ts"));
+  const auto table = textsOf(contentsOfFile(NASCOR_TEXTS "/nascor.ts"));
   const auto keys = asked();
   EXPECT_GT(keys.size(), 200U);
   for (const Key& key : keys) {
@@ -316,7 +332,6 @@ TEST_F(EveryLanguage, hasTheSameBytesForPrograms) {
       {{"rows", "."}},
       {{"rows", "--identify", "--format", "jsonl", "--standard", "all", ".", "none"}},
       {{"calc"}, "ga_weeks,bpd_mm\n20,45\n20,4x\n60,90\n1\n"},
-      {{"check", "twins.nascor", "no-edd.nascor"}},
       {{"check", "--json", "twins.nascor", "no-edd.nascor"}},
       {{"json", "twins.nascor"}},
       {{"make", "-"}, R"({"gravida":99999999999})"},
@@ -337,6 +352,7 @@ TEST_F(EveryLanguage, hasTheSameBytesForPrograms) {
       {{"due", "--db", "a.db", "--from", "2026-01-01", "--days", "9999"}},
       {{"due", "--json", "--db", "a.db", "--from", "2026-01-01", "--days", "9999"}},
       {{"export", "--format", "fhir", "--ndjson", "twins.nascor"}},
+      {{"import", "bare.csv"}},
   };
   for (const Line& line : lines) {
     const Outcome expected = in(english, line);
@@ -365,6 +381,14 @@ TEST_F(EveryLanguage, hasItsHelp) {
   }
 }
 
+TEST_F(EveryLanguage, hasItsOddities) {
+  const Line line{{"check", "twins.nascor", "no-edd.nascor"}};
+  const Outcome outcome = in(marking, line);
+  EXPECT_EQ(outcome.out, "no-edd.nascor: the EDD is missing" + std::string(kMark) + "\n");
+  EXPECT_EQ(outcome.status, 0);
+  EXPECT_EQ(in(english, line).out, "no-edd.nascor: the EDD is missing\n");
+}
+
 TEST_F(EveryLanguage, hasItsSummary) {
   const Line line{{"summary", "twins.nascor", "--format", "html", "--out", "-"}};
   const std::string text = in(marking, line).out;
@@ -378,6 +402,13 @@ class TheProgram : public testing::Test {
   TheProgram() {
     std::filesystem::create_directory(folder.path("bin"));
     std::filesystem::copy_file(NASCOR_CLI, program);
+  }
+  /// As the program is installed.
+  void writeFrench() {
+    std::map<std::string, std::string> texts;
+    for (const auto& [key, translation] : textsOf(contentsOfFile(NASCOR_TEXTS "/nascor_fr.ts")))
+      texts.emplace(gettextKey(key.first, key.second), translation);
+    write("fr", std::move(texts));
   }
   void write(const char* language, std::map<std::string, std::string> texts) {
     writeCatalogue(folder.path("share/locale"), language, std::move(texts));
@@ -407,6 +438,55 @@ TEST_F(TheProgram, speaksTheLanguageOfACatalogueBesideIt) {
   EXPECT_EQ(in("en", {"calc"}).err, "standard input: there is no header\n");
   EXPECT_THAT(in("qq", {"weight"}).err, StartsWith("nascor-cli: a length is missing\nAufruf: "))
       << "what is not translated is English";
+}
+
+TEST_F(TheProgram, saysInFrenchWhyATableIsNotTaken) {
+  writeFrench();
+  const std::string table = folder.write("a.csv", "exam_date,bpd_mm\n2026-13-40,60\n2026-11-13,250\n");
+  EXPECT_EQ(in("fr", {"import", table}).err,
+            table +
+                ": ligne 2\u00a0: exam_date\u00a0: \"2026-13-40\" n\u2019est pas un jour\u00a0; "
+                "\u00e9crivez-le comme 2026-11-13\n" +
+                table +
+                ": ligne 3\u00a0: bpd_mm\u00a0: \"250\" d\u00e9passe ce qu\u2019un document accepte, de 0 "
+                "\u00e0 200\u00a0mm\n" +
+                table +
+                ": rien de ce tableau n\u2019est repris tant que toutes ses lignes ne conviennent pas\n");
+  EXPECT_EQ(in("en", {"import", table}).err,
+            table + ": line 2: exam_date: \"2026-13-40\" is no day; write it like 2026-11-13\n" + table +
+                ": line 3: bpd_mm: \"250\" is beyond what a document takes, 0 to 200 mm\n" + table +
+                ": nothing of this table is taken until every row of it fits\n");
+}
+
+TEST_F(TheProgram, saysInFrenchWhatOfAReportIsNotStored) {
+  writeFrench();
+  const std::string table = folder.write("a.csv", "exam_date,bpd_mm,note\n2026-11-13,60,x\n");
+  const std::string document = folder.path("a.nascor");
+  const Outcome first = in("fr", {"import", table, "--out", document});
+  EXPECT_THAT(first.out,
+              HasSubstr(R"("why":"a note is not taken"}],"warnings":["there is no column hc_mm or hc,)"))
+      << "programs read it";
+  const std::string other = folder.write("b.csv", "exam_date,bpd_mm\n2026-11-13,61\n");
+  EXPECT_EQ(in("fr", {"import", other, "--into", document}).err,
+            other +
+                ": le rapport ne nomme aucune patiente\u00a0; rien n\u2019est enregistr\u00e9 \u00e0 moins "
+                "d\u2019indiquer l\u2019identifiant\n");
+  EXPECT_EQ(in("fr", {"import", other, "--into", document, "--patient", "A"}).err,
+            other + ": f\u0153tus 1\u00a0: BIP reste \u00e0 60\u00a0mm\u00a0; le rapport dit 61\u00a0mm\n");
+}
+
+TEST_F(TheProgram, saysInFrenchThatAServerDoesNotAnswer) {
+  writeFrench();
+  const std::vector<std::string> echo{"server", "echo", "--host",   "127.0.0.1",
+                                      "--port", "1",    "--called", "A"};
+  EXPECT_EQ(in("fr", echo).err,
+            "127.0.0.1:1: n\u2019est pas contact\u00e9\u00a0: le module nascor-dicom-net n\u2019est pas "
+            "install\u00e9\n");
+  const auto modules = std::filesystem::path(NASCOR_CLI).parent_path().parent_path() / "lib";
+  if (!std::filesystem::exists(modules / "nascor/nascor-dicom-net.so"))
+    GTEST_SKIP() << "the network of DICOM is not built";
+  std::filesystem::create_directory_symlink(modules, folder.path("lib"));
+  EXPECT_THAT(in("fr", echo).err, HasSubstr("\n127.0.0.1:1: ne peut pas \u00eatre joint\u00a0: "));
 }
 
 TEST_F(TheProgram, comesToNoHarmByACatalogueWithOtherPlaceHolders) {

@@ -52,7 +52,7 @@ UnarchivedPatient goodDocument() {
 std::vector<std::string> textsOf(const UnarchivedPatient& document) {
   std::vector<std::string> texts;
   for (const cli::Oddity& oddity : cli::odditiesOf(document, FixedOffsetCalendar())) {
-    texts.push_back(std::string(oddity.kind) + ": " + oddity.text);
+    texts.push_back(std::string(oddity.kind) + ": " + english(oddity.text));
   }
   return texts;
 }

@@ -68,7 +68,10 @@ TEST(SelfTest, complainsOfAWrongNumberThatIsPlanted) {
   EXPECT_FALSE(told.allWell);
   EXPECT_THAT(told.out, HasSubstr(std::string(examples.front().group) + "\t"));
   EXPECT_TRUE(told.out.ends_with("\t1\n")) << told.out;
-  EXPECT_EQ(told.err, "self-test: 1 of " + std::to_string(examples.size()) + " values differ\n");
+  const std::string all = std::to_string(examples.size());
+  EXPECT_EQ(told.err, "self-test: 1 of " + all + " values differs\n");
+  examples.back().expected += 1.0;
+  EXPECT_EQ(toldOf(examples).err, "self-test: 2 of " + all + " values differ\n");
 }
 
 }  // namespace

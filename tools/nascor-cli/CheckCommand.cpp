@@ -23,7 +23,7 @@ void writeJson(Console& console, const std::string& path, const std::vector<Oddi
     oddity.examination ? json.integer(static_cast<std::int64_t>(*oddity.examination)) : json.null();
     json.key("fetus");
     oddity.fetus ? json.integer(static_cast<std::int64_t>(*oddity.fetus)) : json.null();
-    json.key("text").text(oddity.text).endObject();
+    json.key("text").text(english(oddity.text)).endObject();
   }
   json.endArray().endObject();
   console.lineDone();
@@ -40,7 +40,7 @@ void runCheck(const Arguments& arguments, Console& console) {
       continue;
     }
     for (const Oddity& oddity : oddities) {
-      console.out() += oneLine(nameOf(path)) + ": " + oneLine(oddity.text);
+      console.out() += oneLine(nameOf(path)) + ": " + oneLine(said(oddity.text, console.localizer()));
       console.lineDone();
     }
     if (oddities.empty() && arguments.has("verbose")) {

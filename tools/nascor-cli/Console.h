@@ -36,7 +36,8 @@ inline constexpr std::string_view kStandardInput = foundation::translatable("Com
 /// What stands where the source of a warning would, when it is about what was typed.
 inline constexpr std::string_view kWarning = foundation::translatable("CommandLine", "warning");
 
-/// Standard output, which is the same in every language but for help, and standard error, which speaks the user's.
+/// Standard output, which is the same in every language but for help and the lines of `check`, and standard error, which
+/// speaks the user's.
 class Console {
  public:
   /// `localizer` lives as long as this.

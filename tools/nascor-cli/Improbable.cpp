@@ -7,7 +7,7 @@
 
 #include "calc/Dating.h"
 #include "calc/EditingBounds.h"
-#include "cli_commands/Table.h"
+#include "exchange/Codes.h"
 #include "foundation/Localizer.h"
 #include "foundation/NumberText.h"
 
@@ -28,7 +28,7 @@ std::string lengthText(double millimetres) {
 }  // namespace
 
 Sentence improbableText(Improbable what, calc::Measurement measurement, const calc::Biometry& lengths) {
-  const std::string name = inCapitals(calc::nameOf(measurement));
+  const Sentence name = exchange::labelOf(static_cast<std::size_t>(measurement));
   const std::string length = lengthText(lengths.*calc::memberFor(measurement));
   switch (what) {
     case Improbable::outsideBounds: {

@@ -23,6 +23,7 @@ namespace nascor::cli {
 
 namespace {
 
+using foundation::Sentence;
 using foundation::shortestText;
 using model::NCRecord;
 using model::PatientRecord;
@@ -44,79 +45,96 @@ class Check {
 
  private:
   void file() {
-    if (facts_.byteOrder == archive::ByteOrder::big) add("byteOrder", "its byte order is big");
+    if (facts_.byteOrder == archive::ByteOrder::big)
+      add("byteOrder", Sentence("Check", "its byte order is big"));
     version(model::class_name::patientRecord, facts_.patientVersion, model::class_version::patientRecord);
     version(model::class_name::ncRecord, facts_.ncRecordVersion, model::class_version::ncRecord);
     version(model::class_name::measurementsRecord, facts_.measurementsVersion,
             model::class_version::measurementsRecord);
     if (facts_.patientVersion >= model::class_version::patientWithGravida &&
         facts_.gravidityText != model::class_version::gravidityPlaceholder) {
-      add("gravidityText", facts_.gravidityText
-                               ? "the old place of the gravidity holds " + inQuotes(*facts_.gravidityText)
-                               : "the old place of the gravidity holds nothing");
+      add("gravidityText",
+          facts_.gravidityText
+              ? Sentence("Check", "the old place of the gravidity holds \"%1\"").with(*facts_.gravidityText)
+              : Sentence("Check", "the old place of the gravidity holds nothing"));
     }
     if (facts_.missingArrays > 0)
-      add("missingList", counted(facts_.missingArrays, "list is", "lists are") + " missing");
+      add("missingList", counted(facts_.missingArrays, Sentence("Check", "%1 list is missing"),
+                                 Sentence("Check", "%1 lists are missing")));
     if (facts_.sharedRecords > 0) {
       add("sharedRecord",
-          counted(facts_.sharedRecords, "record stands", "records stand") + " in several places");
+          counted(facts_.sharedRecords, Sentence("Check", "%1 record stands in several places"),
+                  Sentence("Check", "%1 records stand in several places")));
     }
     if (facts_.trailingBytes > 0) {
-      add("trailingBytes", counted(facts_.trailingBytes, "byte follows", "bytes follow") + " the patient");
+      add("trailingBytes", counted(facts_.trailingBytes, Sentence("Check", "%1 byte follows the patient"),
+                                   Sentence("Check", "%1 bytes follow the patient")));
     }
   }
 
   void version(std::string_view className, std::optional<std::int64_t> found, std::int64_t written) {
     if (!found || *found == written) return;
-    add("classVersion", std::string(className) + " has version " + std::to_string(*found) +
-                            (*found < written ? ", older than " : ", newer than ") + std::to_string(written));
+    //: %1 is the name of a class of a document's file, as in the next one.
+    const auto text = *found < written ? Sentence("Check", "%1 has version %2, older than %3")
+                                       : Sentence("Check", "%1 has version %2, newer than %3");
+    add("classVersion", text.with(className, *found, written));
   }
 
   void patient() {
-    if (!patient_.maternalIDString()) add("missingText", "the identifier is missing");
-    date(patient_.edd(), "EDD");
+    if (!patient_.maternalIDString()) add("missingText", Sentence("Check", "the identifier is missing"));
+    date(patient_.edd(), Sentence("Check", "the EDD is missing"), Sentence("Check", "the EDD is %1"),
+         //: 2001-01-01 is the day from which seconds count.
+         Sentence("Check", "the EDD, %1 s from 2001-01-01, is outside the years 1 to 9999"));
     if (patient_.gravida() < calc::kLeastGravida) {
-      add("bounds", "the gravidity " + std::to_string(patient_.gravida()) + " is negative");
+      add("bounds", Sentence("Check", "the gravidity %1 is negative").with(patient_.gravida()));
     }
-    identifier("growth standard", patient_.standard(), calc::growthStandard(patient_.standard()) != nullptr);
-    identifier("weight formula", patient_.fetalWeightStandard(),
+    identifier(Sentence("Check", "the growth standard %1 is unknown"), patient_.standard(),
+               calc::growthStandard(patient_.standard()) != nullptr);
+    identifier(Sentence("Check", "the weight formula %1 is unknown"), patient_.fetalWeightStandard(),
                calc::weightFormula(patient_.fetalWeightStandard()) != nullptr);
-    identifier("CRL formula", patient_.crlStandard(), calc::crlFormula(patient_.crlStandard()) != nullptr);
+    identifier(Sentence("Check", "the CRL formula %1 is unknown"), patient_.crlStandard(),
+               calc::crlFormula(patient_.crlStandard()) != nullptr);
     const auto days = calc::plannedDeliveryDays(patient_.standard());
     const double planned = calc::deliveryAdjustment(patient_.extrapolatedGestation());
     if (!days.permit(planned)) {
-      add("plannedDelivery", "the planned delivery, " + shortestText(planned) +
-                                 " days from 40 weeks, is outside " + shortestText(days.least) + " to " +
-                                 shortestText(days.greatest) + " days");
+      add("plannedDelivery",
+          Sentence("Check", "the planned delivery, %1 days from 40 weeks, is outside %2 to %3 days")
+              .with(shortestText(planned), shortestText(days.least), shortestText(days.greatest)));
     }
     const std::int64_t fetuses = patient_.numberOfFetuses();
     if (fetuses < calc::kFewestFetuses || fetuses > calc::kMostFetuses) {
-      add("fetusCount", "the number of fetuses, " + std::to_string(fetuses) + ", is outside " +
-                            std::to_string(calc::kFewestFetuses) + " to " +
-                            std::to_string(calc::kMostFetuses));
+      add("fetusCount", Sentence("Check", "the number of fetuses, %1, is outside %2 to %3")
+                            .with(fetuses, calc::kFewestFetuses, calc::kMostFetuses));
     }
-    if (patient_.ncRecordsArray().empty()) add("noExamination", "there is no examination");
+    if (patient_.ncRecordsArray().empty()) add("noExamination", Sentence("Check", "there is no examination"));
   }
 
-  void identifier(std::string_view what, std::int64_t value, bool isKnown) {
-    if (!isKnown)
-      add("unknownStandard", "the " + std::string(what) + " " + std::to_string(value) + " is unknown");
+  void identifier(const Sentence& text, std::int64_t value, bool isKnown) {
+    if (!isKnown) add("unknownStandard", text.with(value));
   }
 
   void examination(std::size_t index) {
     const NCRecord& examination = *patient_.ncRecordsArray()[index];
     examination_ = index + 1;
-    if (!examination.note()) add("missingText", "the note is missing");
-    date(examination.examDate(), "date");
+    if (!examination.note()) add("missingText", Sentence("Check", "the note is missing"));
+    date(examination.examDate(), Sentence("Check", "the date is missing"),
+         Sentence("Check", "the date is %1"),
+         Sentence("Check", "the date, %1 s from 2001-01-01, is outside the years 1 to 9999"));
     if (index > 0 && std::is_lt(examination.compare(*patient_.ncRecordsArray()[index - 1]))) {
-      add("order", "it is earlier than the one before it");
+      //: "It" is an examination.
+      add("order", Sentence("Check", "it is earlier than the one before it"));
     }
     const double age = ageAt(examination);
-    if (const auto what = calc::improbableAge(age)) add(kindOf(*what), english(improbableText(*what, age)));
+    if (const auto what = calc::improbableAge(age)) add(kindOf(*what), improbableText(*what, age));
     const auto& measurements = examination.measurements();
     if (!std::cmp_equal(measurements.size(), patient_.numberOfFetuses())) {
-      add("fetusCount", "it has " + counted(measurements.size(), "fetus", "fetuses") + ", the patient " +
-                            std::to_string(patient_.numberOfFetuses()));
+      const std::int64_t patients = patient_.numberOfFetuses();
+      const std::size_t fetuses = measurements.size();
+      //: "It" is an examination; %2 are the fetuses of the patient.
+      const auto one = Sentence("Check", "it has %1 fetus, the patient %2");
+      const auto many = Sentence("Check", "it has %1 fetuses, the patient %2");
+      add("fetusCount",
+          Sentence::counted(fetuses, one.with(fetuses, patients), many.with(fetuses, patients)));
     }
     for (std::size_t fetus = 0; fetus < measurements.size(); ++fetus) {
       fetus_ = fetus + 1;
@@ -124,7 +142,7 @@ class Check {
       for (const calc::Measurement measurement : calc::kMeasurements) {
         for (const calc::Improbable what :
              calc::improbableLength(measurement, lengths, age, tableOf(measurement))) {
-          add(kindOf(what), english(improbableText(what, measurement, lengths)));
+          add(kindOf(what), improbableText(what, measurement, lengths));
         }
       }
     }
@@ -154,33 +172,32 @@ class Check {
     return tables_[static_cast<std::size_t>(measurement)];
   }
 
-  void date(const std::optional<foundation::Date>& date, const std::string& name) {
+  void date(const std::optional<foundation::Date>& date, const Sentence& missing, const Sentence& noNumber,
+            const Sentence& outside) {
     if (!date) {
-      add("missingDate", "the " + name + " is missing");
+      add("missingDate", missing);
     } else if (!std::isfinite(date->secondsSince2001)) {
-      add("date", "the " + name + " is " + shortestText(date->secondsSince2001));
+      add("date", noNumber.with(shortestText(date->secondsSince2001)));
     } else if (isoDayText(*date, calendar_).empty()) {
-      add("date", "the " + name + ", " + shortestText(date->secondsSince2001) +
-                      " s from 2001-01-01, is outside the years 1 to 9999");
+      add("date", outside.with(shortestText(date->secondsSince2001)));
     }
   }
 
-  void add(std::string_view kind, const std::string& sentence) {
-    std::string text;
-    if (examination_) text += "examination " + std::to_string(*examination_);
-    if (fetus_) text += ", fetus " + std::to_string(*fetus_);
-    if (!text.empty()) text += ": ";
+  void add(std::string_view kind, const Sentence& what) {
     oddities_.push_back(
-        {.kind = kind, .text = text + sentence, .examination = examination_, .fetus = fetus_});
+        {.kind = kind, .text = withItsPlace(what), .examination = examination_, .fetus = fetus_});
   }
 
-  static std::string counted(std::size_t count, std::string_view one, std::string_view many) {
-    return std::to_string(count) + " " + std::string(count == 1 ? one : many);
+  Sentence withItsPlace(const Sentence& what) const {
+    if (!examination_) return what;
+    //: %3 is a sentence about that fetus of that examination, which begins with a small letter.
+    if (fetus_) return Sentence("Check", "examination %1, fetus %2: %3").with(*examination_, *fetus_, what);
+    return Sentence("Check", "examination %1: %2").with(*examination_, what);
   }
 
-  static std::string inQuotes(const std::string& text) { return '"' + text + '"'; }
-
-  /// What stands in the old place since the gravidity is a number of its own.
+  static Sentence counted(std::size_t count, const Sentence& one, const Sentence& many) {
+    return Sentence::counted(count, one.with(count), many.with(count));
+  }
 
   const model::ArchiveFacts& facts_;
   const PatientRecord& patient_;

@@ -5,19 +5,19 @@
 
 #include <cstddef>
 #include <optional>
-#include <string>
 #include <string_view>
 #include <vector>
 
 #include "foundation/Calendar.h"
+#include "foundation/Sentence.h"
 #include "model/PatientFile.h"
 
 namespace nascor::cli {
 
 /// Something in a document that the program accepts but would not have written, or that a reader should know.
 struct Oddity {
-  std::string_view kind;  ///< for programs; docs/json.md lists them
-  std::string text;       ///< for people: one sentence without a full stop, naming examination and fetus
+  std::string_view kind;      ///< for programs; docs/json.md lists them
+  foundation::Sentence text;  ///< for people: without a full stop, naming examination and fetus
   std::optional<std::size_t> examination{};  ///< from 1, where it concerns one
   std::optional<std::size_t> fetus{};        ///< from 1, where it concerns one
 };

@@ -340,7 +340,7 @@ Command rowsCommand() {
       {"standard", "LIST",
        translatable(
            "CommandHelp",
-           "growth standards by number or name, intergrowth-2014, with commas between; or all four")},
+           "growth standards by number or name, intergrowth-2014, with commas between; all for all four")},
       {"formula", "N", translatable("CommandHelp", "one weight, by number or name, instead of all eight")},
       {"columns", "LIST",
        translatable("CommandHelp", "only these columns, in this order, with commas between")},

@@ -35,8 +35,11 @@ void printSelfTest(std::span<const selftest::Example> examples, bool asJson, Con
   }
   const auto& total = results.back();
   if (total.differences > 0) {
+    const auto one = Sentence("CommandLine", "%1 of %2 values differs");
+    const auto many = Sentence("CommandLine", "%1 of %2 values differ");
     console.complain("self-test",
-                     Sentence("CommandLine", "%1 of %2 values differ").with(total.differences, total.values));
+                     Sentence::counted(total.differences, one.with(total.differences, total.values),
+                                       many.with(total.differences, total.values)));
   }
 }
 
