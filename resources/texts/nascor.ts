@@ -2692,11 +2692,6 @@ Files of the same names are replaced, but with --no-clobber. SOURCE_DATE_EPOCH, 
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>there is no column %1: never measured</source>
-        <extracomment>%1 are names of columns, &quot;bpd_mm or bpd&quot;, with commas between.</extracomment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>the cell is empty; write the day of the examination like 2026-11-13</source>
         <translation type="unfinished"></translation>
     </message>
@@ -2786,6 +2781,19 @@ Files of the same names are replaced, but with --no-clobber. SOURCE_DATE_EPOCH, 
     </message>
     <message>
         <source>fetus counts from 0, and no row of this examination has 0; where it counts from 1, call the column fetus_number</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is no column %1_mm or %1: never measured</source>
+        <extracomment>%1 to %3 are bpd, hc, ac or fl: &quot;there is no column bpd_mm or bpd: never measured&quot;.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is no column %1_mm or %1, %2_mm or %2: never measured</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is no column %1_mm or %1, %2_mm or %2, %3_mm or %3: never measured</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

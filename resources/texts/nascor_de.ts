@@ -2829,11 +2829,6 @@ Dateien gleichen Namens werden ersetzt, außer mit --no-clobber. SOURCE_DATE_EPO
         <translation>die Spalten fetus, die ab 0 zählt, und fetus_number, ab 1, können nicht beide in der Kopfzeile stehen</translation>
     </message>
     <message>
-        <source>there is no column %1: never measured</source>
-        <extracomment>%1 are names of columns, &quot;bpd_mm or bpd&quot;, with commas between.</extracomment>
-        <translation>die Spalte %1 fehlt: gilt als nie gemessen</translation>
-    </message>
-    <message>
         <source>the cell is empty; write the day of the examination like 2026-11-13</source>
         <translation>die Zelle ist leer; schreiben Sie den Tag der Untersuchung wie 2026-11-13</translation>
     </message>
@@ -2924,6 +2919,19 @@ Dateien gleichen Namens werden ersetzt, außer mit --no-clobber. SOURCE_DATE_EPO
     <message>
         <source>fetus counts from 0, and no row of this examination has 0; where it counts from 1, call the column fetus_number</source>
         <translation>fetus zählt ab 0, und keine Zeile dieser Untersuchung hat 0; wenn sie ab 1 zählt, nennen Sie die Spalte fetus_number</translation>
+    </message>
+    <message>
+        <source>there is no column %1_mm or %1: never measured</source>
+        <extracomment>%1 to %3 are bpd, hc, ac or fl: &quot;there is no column bpd_mm or bpd: never measured&quot;.</extracomment>
+        <translation>die Spalte %1_mm oder %1 fehlt: gilt als nie gemessen</translation>
+    </message>
+    <message>
+        <source>there is no column %1_mm or %1, %2_mm or %2: never measured</source>
+        <translation>die Spalte %1_mm oder %1, %2_mm oder %2 fehlt: gilt als nie gemessen</translation>
+    </message>
+    <message>
+        <source>there is no column %1_mm or %1, %2_mm or %2, %3_mm or %3: never measured</source>
+        <translation>die Spalte %1_mm oder %1, %2_mm oder %2, %3_mm oder %3 fehlt: gilt als nie gemessen</translation>
     </message>
 </context>
 <context>

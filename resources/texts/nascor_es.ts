@@ -2819,11 +2819,6 @@ desde 1970, sustituye al momento presente.
         <translation>las columnas fetus, que cuenta desde 0, y fetus_number, desde 1, no pueden figurar ambas en la cabecera</translation>
     </message>
     <message>
-        <source>there is no column %1: never measured</source>
-        <extracomment>%1 are names of columns, &quot;bpd_mm or bpd&quot;, with commas between.</extracomment>
-        <translation>no hay ninguna columna %1: nunca medida</translation>
-    </message>
-    <message>
         <source>the cell is empty; write the day of the examination like 2026-11-13</source>
         <translation>la celda está vacía; escriba el día de la exploración como 2026-11-13</translation>
     </message>
@@ -2914,6 +2909,19 @@ desde 1970, sustituye al momento presente.
     <message>
         <source>fetus counts from 0, and no row of this examination has 0; where it counts from 1, call the column fetus_number</source>
         <translation>fetus cuenta desde 0, y ninguna fila de esta exploración tiene 0; si cuenta desde 1, llame a la columna fetus_number</translation>
+    </message>
+    <message>
+        <source>there is no column %1_mm or %1: never measured</source>
+        <extracomment>%1 to %3 are bpd, hc, ac or fl: &quot;there is no column bpd_mm or bpd: never measured&quot;.</extracomment>
+        <translation>no hay ninguna columna %1_mm o %1: nunca medida</translation>
+    </message>
+    <message>
+        <source>there is no column %1_mm or %1, %2_mm or %2: never measured</source>
+        <translation>no hay ninguna columna %1_mm o %1, %2_mm o %2: nunca medida</translation>
+    </message>
+    <message>
+        <source>there is no column %1_mm or %1, %2_mm or %2, %3_mm or %3: never measured</source>
+        <translation>no hay ninguna columna %1_mm o %1, %2_mm o %2, %3_mm o %3: nunca medida</translation>
     </message>
 </context>
 <context>

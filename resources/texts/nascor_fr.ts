@@ -2823,11 +2823,6 @@ SOURCE_DATE_EPOCH, en secondes depuis 1970, prend la place de l’instant prése
         <translation>les colonnes fetus, qui compte à partir de 0, et fetus_number, à partir de 1, ne peuvent pas figurer toutes deux dans l’en-tête</translation>
     </message>
     <message>
-        <source>there is no column %1: never measured</source>
-        <extracomment>%1 are names of columns, &quot;bpd_mm or bpd&quot;, with commas between.</extracomment>
-        <translation>il n’y a pas de colonne %1&#xa0;: jamais mesuré</translation>
-    </message>
-    <message>
         <source>the cell is empty; write the day of the examination like 2026-11-13</source>
         <translation>la cellule est vide&#xa0;; écrivez le jour de l’examen comme 2026-11-13</translation>
     </message>
@@ -2918,6 +2913,19 @@ SOURCE_DATE_EPOCH, en secondes depuis 1970, prend la place de l’instant prése
     <message>
         <source>fetus counts from 0, and no row of this examination has 0; where it counts from 1, call the column fetus_number</source>
         <translation>fetus compte à partir de 0, et aucune ligne de cet examen n’a 0&#xa0;; si elle compte à partir de 1, nommez la colonne fetus_number</translation>
+    </message>
+    <message>
+        <source>there is no column %1_mm or %1: never measured</source>
+        <extracomment>%1 to %3 are bpd, hc, ac or fl: &quot;there is no column bpd_mm or bpd: never measured&quot;.</extracomment>
+        <translation>il n’y a pas de colonne %1_mm ou %1&#xa0;: jamais mesuré</translation>
+    </message>
+    <message>
+        <source>there is no column %1_mm or %1, %2_mm or %2: never measured</source>
+        <translation>il n’y a pas de colonne %1_mm ou %1, %2_mm ou %2&#xa0;: jamais mesuré</translation>
+    </message>
+    <message>
+        <source>there is no column %1_mm or %1, %2_mm or %2, %3_mm or %3: never measured</source>
+        <translation>il n’y a pas de colonne %1_mm ou %1, %2_mm ou %2, %3_mm ou %3&#xa0;: jamais mesuré</translation>
     </message>
 </context>
 <context>

@@ -115,16 +115,23 @@ class RowReader {
   bool has(std::size_t column) const { return places_[column].has_value(); }
   const std::string& nameOf(std::size_t column) const { return names_.at(column); }
 
-  /// Says which lengths the table has no column for; nothing when it has all.
+  /// Says which lengths the table has no column for; nothing when it has all. Every examination of a table holds a copy, so
+  /// its arguments are few and short.
   std::optional<Sentence> warning() const {
-    std::vector<Sentence> missing;
+    std::vector<std::string_view> missing;
     for (std::size_t length = 0; length < kStoredLengths; ++length) {
-      if (!has(length)) missing.push_back(rows::namesOf(kColumns.at(length)));
+      if (!has(length)) missing.push_back(kColumns.at(length).shortName);
     }
     if (missing.empty()) return std::nullopt;
-    //: %1 are names of columns, "bpd_mm or bpd", with commas between.
-    return Sentence("Findings", "there is no column %1: never measured")
-        .with(Sentence::joined(std::move(missing), ", "));
+    //: %1 to %3 are bpd, hc, ac or fl: "there is no column bpd_mm or bpd: never measured".
+    if (missing.size() == 1)
+      return Sentence("Findings", "there is no column %1_mm or %1: never measured").with(missing[0]);
+    if (missing.size() == 2)
+      return Sentence("Findings", "there is no column %1_mm or %1, %2_mm or %2: never measured")
+          .with(missing[0], missing[1]);
+    // A table of examinations names one length at least.
+    return Sentence("Findings", "there is no column %1_mm or %1, %2_mm or %2, %3_mm or %3: never measured")
+        .with(missing[0], missing[1], missing[2]);
   }
 
   /// The row, whose texts last until the next call; nothing when it has a `fault`.

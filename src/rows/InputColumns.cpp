@@ -68,10 +68,6 @@ std::vector<std::optional<std::size_t>> placesOf(std::span<const InputColumn> co
   return places;
 }
 
-Sentence namesOf(const InputColumn& column) {
-  return Sentence("Reading", "%1 or %2").with(column.name, column.shortName);
-}
-
 std::optional<double> plainNumber(std::string_view text) {
   // Both whole numbers of the quotient are doubles, so that its one rounding is to the nearest.
   constexpr std::size_t kMostDigits = 15;

@@ -39,9 +39,6 @@ inline constexpr std::array<InputColumn, 5> kMeasuredColumns{
 std::vector<std::optional<std::size_t>> placesOf(std::span<const InputColumn> columns,
                                                  std::span<const CsvCell> header);
 
-/// How a column that is missing could have been called: "bpd_mm or bpd".
-foundation::Sentence namesOf(const InputColumn& column);
-
 /// The number in a cell that holds an age or a length. 0.0, not measured, for an empty cell, blanks, zeros, `NA` and `nan`
 /// in any letters, with or without a sign. Blanks around a number, a plus sign, exponents, `.5` and `5.` are fine.
 /// Nothing for any other text: units, commas, hexadecimals, infinities, what a double cannot hold.
