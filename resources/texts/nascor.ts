@@ -1100,16 +1100,6 @@ Files of the same names are replaced, but with --no-clobber. SOURCE_DATE_EPOCH, 
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%1: 1 required  missing</source>
-        <extracomment>An option stands there without its value.</extracomment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1: At Most 1 required but received %2</source>
-        <extracomment>An option that may stand there once stands there %2 times.</extracomment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>help explains one command</source>
         <translation type="unfinished"></translation>
     </message>
@@ -1172,10 +1162,6 @@ Files of the same names are replaced, but with --no-clobber. SOURCE_DATE_EPOCH, 
     </message>
     <message>
         <source>pages are no text for a terminal; give --out DIR or send standard output to a file</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1; the pages are painted by this program</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1531,6 +1517,26 @@ Files of the same names are replaced, but with --no-clobber. SOURCE_DATE_EPOCH, 
     </message>
     <message>
         <source>%1 of %2 values differs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 has no value</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 can be given once, and stands there %2 times</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1; the application, which is installed apart, paints the pages</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, by --patient</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a decimal number with a point, such as 61.2</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -3961,10 +3967,6 @@ Files of the same names are replaced, but with --no-clobber. SOURCE_DATE_EPOCH, 
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>the folder could not be made</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>it has no such fetus or page</source>
         <translation type="unfinished"></translation>
     </message>
@@ -3990,6 +3992,10 @@ Files of the same names are replaced, but with --no-clobber. SOURCE_DATE_EPOCH, 
     </message>
     <message>
         <source>it is there already, and stays as it is</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the folder could not be made (%1)</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -4641,6 +4647,10 @@ Files of the same names are replaced, but with --no-clobber. SOURCE_DATE_EPOCH, 
         <source>Examination of %1</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>What it holds:</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>References</name>
@@ -4802,6 +4812,14 @@ Files of the same names are replaced, but with --no-clobber. SOURCE_DATE_EPOCH, 
     </message>
     <message>
         <source>&amp;All References</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 values. The program answers each of them alike.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>worked out apart from the program, in decimal arithmetic</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -5761,6 +5779,10 @@ Files of the same names are replaced, but with --no-clobber. SOURCE_DATE_EPOCH, 
         <source>There is no program that shows %1.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>There is no program that shows PDF files. Please install one, or open the page for browsers that lies beside %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>WaitingReports</name>
@@ -5855,6 +5877,11 @@ Files of the same names are replaced, but with --no-clobber. SOURCE_DATE_EPOCH, 
     <message>
         <source>.</source>
         <extracomment>The decimal sign: a point or a comma.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1</source>
+        <extracomment>The first day of a month, as it stands in &quot;1 March 2027&quot;.</extracomment>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -13,7 +13,7 @@
     </message>
     <message>
         <source>Nascor Standard: </source>
-        <translation>Nascor-Standard: </translation>
+        <translation>Wachstumsstandard: </translation>
     </message>
     <message>
         <source>Menstrual Age (Weeks)</source>
@@ -117,7 +117,7 @@
     </message>
     <message>
         <source>Centiles: %1, which fits weights by another formula alone: %2</source>
-        <translation>Perzentilen: %1, passt nur zu Gewichten nach einer anderen Formel: %2</translation>
+        <translation>Perzentilen: %1, gilt nur für Gewichte nach einer anderen Formel: %2</translation>
     </message>
     <message>
         <source>Centiles: %1</source>
@@ -186,11 +186,11 @@
     </message>
     <message>
         <source>the old place of the gravidity holds &quot;%1&quot;</source>
-        <translation>an der alten Stelle der Gravidität steht „%1“</translation>
+        <translation>an der alten Stelle der Gravida steht „%1“</translation>
     </message>
     <message>
         <source>the old place of the gravidity holds nothing</source>
-        <translation>die alte Stelle der Gravidität ist leer</translation>
+        <translation>die alte Stelle der Gravida ist leer</translation>
     </message>
     <message>
         <source>%1 list is missing</source>
@@ -244,7 +244,7 @@
     </message>
     <message>
         <source>the gravidity %1 is negative</source>
-        <translation>die Gravidität %1 ist negativ</translation>
+        <translation>die Gravida %1 ist negativ</translation>
     </message>
     <message>
         <source>the growth standard %1 is unknown</source>
@@ -1237,16 +1237,6 @@ Dateien gleichen Namens werden ersetzt, außer mit --no-clobber. SOURCE_DATE_EPO
         <translation>es gibt keine Option „%1“</translation>
     </message>
     <message>
-        <source>%1: 1 required  missing</source>
-        <extracomment>An option stands there without its value.</extracomment>
-        <translation>%1: der Wert fehlt</translation>
-    </message>
-    <message>
-        <source>%1: At Most 1 required but received %2</source>
-        <extracomment>An option that may stand there once stands there %2 times.</extracomment>
-        <translation>%1: nur einmal erlaubt, steht aber %2-mal da</translation>
-    </message>
-    <message>
         <source>help explains one command</source>
         <translation>help erklärt nur einen Befehl</translation>
     </message>
@@ -1310,10 +1300,6 @@ Dateien gleichen Namens werden ersetzt, außer mit --no-clobber. SOURCE_DATE_EPO
     <message>
         <source>pages are no text for a terminal; give --out DIR or send standard output to a file</source>
         <translation>Seiten sind kein Text für ein Terminal; geben Sie --out DIR an oder leiten Sie die Standardausgabe in eine Datei</translation>
-    </message>
-    <message>
-        <source>%1; the pages are painted by this program</source>
-        <translation>%1; dieses Programm zeichnet die Seiten</translation>
     </message>
     <message>
         <source>--format: expected sr or fhir; pages are painted by the application, which is not built here</source>
@@ -1670,6 +1656,26 @@ Dateien gleichen Namens werden ersetzt, außer mit --no-clobber. SOURCE_DATE_EPO
         <source>%1 of %2 values differs</source>
         <translation>%1 von %2 Werten weicht ab</translation>
     </message>
+    <message>
+        <source>%1 has no value</source>
+        <translation>%1 hat keinen Wert</translation>
+    </message>
+    <message>
+        <source>%1 can be given once, and stands there %2 times</source>
+        <translation>%1 kann nur einmal angegeben werden und steht %2-mal da</translation>
+    </message>
+    <message>
+        <source>%1; the application, which is installed apart, paints the pages</source>
+        <translation>%1; die Seiten zeichnet die Anwendung, die gesondert installiert wird</translation>
+    </message>
+    <message>
+        <source>%1, by --patient</source>
+        <translation>%1, mit --patient</translation>
+    </message>
+    <message>
+        <source>a decimal number with a point, such as 61.2</source>
+        <translation>eine Dezimalzahl mit Punkt, etwa 61.2</translation>
+    </message>
 </context>
 <context>
     <name>Compare</name>
@@ -1899,7 +1905,7 @@ Dateien gleichen Namens werden ersetzt, außer mit --no-clobber. SOURCE_DATE_EPO
     </message>
     <message>
         <source>%1 fits weights by another formula alone: %2.</source>
-        <translation>%1 passt nur zu Gewichten nach einer anderen Formel: %2.</translation>
+        <translation>%1 gilt nur für Gewichte nach einer anderen Formel: %2.</translation>
     </message>
     <message>
         <source>%1 has no place for this value.</source>
@@ -1926,7 +1932,7 @@ Dateien gleichen Namens werden ersetzt, außer mit --no-clobber. SOURCE_DATE_EPO
     </message>
     <message>
         <source>What was entered here besides reference ID and gravidity will be lost.</source>
-        <translation>Was hier außer Patienten-ID und Gravidität eingegeben wurde, geht verloren.</translation>
+        <translation>Was hier außer Patienten-ID und Gravida eingegeben wurde, geht verloren.</translation>
     </message>
     <message>
         <source>This patient has a document already.</source>
@@ -2046,7 +2052,7 @@ Dateien gleichen Namens werden ersetzt, außer mit --no-clobber. SOURCE_DATE_EPO
     </message>
     <message>
         <source>Read-only, it can be saved only under another name. A copy is a new document.</source>
-        <translation>Zum Lesen geöffnet, kann es nur unter einem anderen Namen gespeichert werden. Eine Kopie ist ein neues Dokument.</translation>
+        <translation>Schreibgeschützt geöffnet, kann es nur unter einem anderen Namen gespeichert werden. Eine Kopie ist ein neues Dokument.</translation>
     </message>
     <message>
         <source>Open Read-Only</source>
@@ -2356,7 +2362,7 @@ Dateien gleichen Namens werden ersetzt, außer mit --no-clobber. SOURCE_DATE_EPO
     </message>
     <message>
         <source>Late in pregnancy, dating by size reads growth as age: a fetus that is small or large is taken for a younger or an older one.</source>
-        <translation>Spät in der Schwangerschaft liest die Datierung nach der Größe Wachstum als Alter: Ein kleiner Fetus gilt als jünger, ein großer als älter.</translation>
+        <translation>Spät in der Schwangerschaft ist eine Datierung nach der Größe unzuverlässig: Ein kleiner Fetus erscheint jünger, ein großer älter.</translation>
     </message>
 </context>
 <context>
@@ -2578,7 +2584,7 @@ Dateien gleichen Namens werden ersetzt, außer mit --no-clobber. SOURCE_DATE_EPO
     <message>
         <source>gravida</source>
         <extracomment>Stands in &quot;the report gives several numbers for %1; the first is taken&quot;, as the next one.</extracomment>
-        <translation>die Gravidität</translation>
+        <translation>die Gravida</translation>
     </message>
     <message>
         <source>numberOfFetuses</source>
@@ -2814,7 +2820,7 @@ Dateien gleichen Namens werden ersetzt, außer mit --no-clobber. SOURCE_DATE_EPO
     </message>
     <message>
         <source>the gravidity stays %1; the report says %2</source>
-        <translation>die Gravidität bleibt %1; der Bericht sagt %2</translation>
+        <translation>die Gravida bleibt %1; der Bericht sagt %2</translation>
     </message>
     <message>
         <source>the number of fetuses stays %1; the report says %2</source>
@@ -3072,7 +3078,7 @@ Dateien gleichen Namens werden ersetzt, außer mit --no-clobber. SOURCE_DATE_EPO
     </message>
     <message>
         <source>&amp;Gravidity</source>
-        <translation>&amp;Gravidität</translation>
+        <translation>&amp;Gravida</translation>
     </message>
     <message>
         <source>Number of pregnancies, this one included: a whole number, 0 or more</source>
@@ -3384,7 +3390,7 @@ Dateien gleichen Namens werden ersetzt, außer mit --no-clobber. SOURCE_DATE_EPO
     </message>
     <message>
         <source>Linked with Qt %1 (GNU LGPL 3), the D-Bus library (AFL 2.1 or GNU GPL 2) and the GNU C++ library (GNU GPL 3 with the GCC Runtime Library Exception).</source>
-        <translation>Gelinkt mit Qt %1 (GNU LGPL 3), der D-Bus-Bibliothek (AFL 2.1 oder GNU GPL 2) und der GNU-C++-Bibliothek (GNU GPL 3 mit der GCC Runtime Library Exception).</translation>
+        <translation>Verwendet Qt %1 (GNU LGPL 3), die D-Bus-Bibliothek (AFL 2.1 oder GNU GPL 2) und die GNU-Bibliothek für C⁠+⁠+ (GNU GPL 3 mit der GCC Runtime Library Exception).</translation>
     </message>
     <message>
         <source>d MMMM yyyy</source>
@@ -3480,7 +3486,7 @@ Dateien gleichen Namens werden ersetzt, außer mit --no-clobber. SOURCE_DATE_EPO
     </message>
     <message>
         <source>All %1 worked examples give the expected results.</source>
-        <translation>Alle %1 Rechenbeispiele ergeben die bekannten Werte.</translation>
+        <translation>Alle %1 Rechenbeispiele stimmen mit den bekannten Werten überein.</translation>
     </message>
     <message>
         <source>%1 of %2 worked examples come out otherwise.</source>
@@ -3554,7 +3560,7 @@ Dateien gleichen Namens werden ersetzt, außer mit --no-clobber. SOURCE_DATE_EPO
     <name>NCDocument</name>
     <message>
         <source>The gravidity %ld will be read as %ld. A file holds gravidities up to %ld.</source>
-        <translation>Die Gravidität %ld wird als %ld gelesen werden. Eine Datei fasst Graviditäten bis %ld.</translation>
+        <translation>Die Gravida %ld wird als %ld gelesen werden. Eine Datei fasst Gravida-Werte bis %ld.</translation>
     </message>
     <message>
         <source>EDD is already specified</source>
@@ -3582,7 +3588,7 @@ Dateien gleichen Namens werden ersetzt, außer mit --no-clobber. SOURCE_DATE_EPO
     </message>
     <message>
         <source>Gravidity:</source>
-        <translation>Gravidität:</translation>
+        <translation>Gravida:</translation>
     </message>
     <message>
         <source>Fetus:</source>
@@ -3610,7 +3616,7 @@ Dateien gleichen Namens werden ersetzt, außer mit --no-clobber. SOURCE_DATE_EPO
     </message>
     <message>
         <source>Gravidity is already specified</source>
-        <translation>Die Gravidität ist bereits festgelegt</translation>
+        <translation>Die Gravida ist bereits festgelegt</translation>
     </message>
     <message>
         <source>Are you sure you want to modify it?</source>
@@ -3798,7 +3804,7 @@ Dateien gleichen Namens werden ersetzt, außer mit --no-clobber. SOURCE_DATE_EPO
     </message>
     <message>
         <source>The formula dates these lengths, in mm:</source>
-        <translation>Die Formel datiert diese Längen, in mm:</translation>
+        <translation>Die Formel gilt für diese Längen, in mm:</translation>
     </message>
     <message>
         <source>There is no such cycle.</source>
@@ -3818,7 +3824,7 @@ Dateien gleichen Namens werden ersetzt, außer mit --no-clobber. SOURCE_DATE_EPO
     </message>
     <message>
         <source>Lengths that will be removed with it: %ld.</source>
-        <translation>Maße, die mit entfernt werden: %ld.</translation>
+        <translation>Maße, die ebenfalls entfernt werden: %ld.</translation>
     </message>
     <message>
         <source>Last examination:</source>
@@ -3826,23 +3832,23 @@ Dateien gleichen Namens werden ersetzt, außer mit --no-clobber. SOURCE_DATE_EPO
     </message>
     <message>
         <source>No lengths, so no marks. Type BPD, HC, AC or FL beside the page.</source>
-        <translation>Keine Maße, daher keine Messpunkte. BPD, KU, AU oder FL neben der Seite eingeben.</translation>
+        <translation>Keine Maße, daher keine Messpunkte. BPD, KU, AU oder FL links eingeben.</translation>
     </message>
     <message>
         <source>No BPD, so no marks. Type it beside the page.</source>
-        <translation>Kein BPD, daher keine Messpunkte. Bitte neben der Seite eingeben.</translation>
+        <translation>Kein BPD, daher keine Messpunkte. Bitte links eingeben.</translation>
     </message>
     <message>
         <source>No HC, so no marks. Type it beside the page.</source>
-        <translation>Kein KU, daher keine Messpunkte. Bitte neben der Seite eingeben.</translation>
+        <translation>Kein KU, daher keine Messpunkte. Bitte links eingeben.</translation>
     </message>
     <message>
         <source>No AC, so no marks. Type it beside the page.</source>
-        <translation>Kein AU, daher keine Messpunkte. Bitte neben der Seite eingeben.</translation>
+        <translation>Kein AU, daher keine Messpunkte. Bitte links eingeben.</translation>
     </message>
     <message>
         <source>No FL, so no marks. Type it beside the page.</source>
-        <translation>Keine FL, daher keine Messpunkte. Bitte neben der Seite eingeben.</translation>
+        <translation>Keine FL, daher keine Messpunkte. Bitte links eingeben.</translation>
     </message>
     <message>
         <source>No weight, so no marks. Type the lengths that the formula needs.</source>
@@ -3850,7 +3856,7 @@ Dateien gleichen Namens werden ersetzt, außer mit --no-clobber. SOURCE_DATE_EPO
     </message>
     <message>
         <source>No lengths. Type BPD, HC, AC or FL beside the page.</source>
-        <translation>Keine Maße. BPD, KU, AU oder FL neben der Seite eingeben.</translation>
+        <translation>Keine Maße. BPD, KU, AU oder FL links eingeben.</translation>
     </message>
     <message>
         <source>No examination. Patient &gt; Add Examination</source>
@@ -3878,11 +3884,11 @@ Dateien gleichen Namens werden ersetzt, außer mit --no-clobber. SOURCE_DATE_EPO
     </message>
     <message>
         <source>No date, so no ages. Type it beside the page.</source>
-        <translation>Kein Datum, daher keine SSW. Bitte neben der Seite eingeben.</translation>
+        <translation>Kein Datum, daher keine SSW. Bitte links eingeben.</translation>
     </message>
     <message>
         <source>No date, so no marks. Type it beside the page.</source>
-        <translation>Kein Datum, daher keine Messpunkte. Bitte neben der Seite eingeben.</translation>
+        <translation>Kein Datum, daher keine Messpunkte. Bitte links eingeben.</translation>
     </message>
     <message>
         <source>Obstetric ultrasound biometry</source>
@@ -3894,7 +3900,7 @@ Dateien gleichen Namens werden ersetzt, außer mit --no-clobber. SOURCE_DATE_EPO
     </message>
     <message>
         <source>Usually a cycle has 24 to 38 days, its luteal phase 11 to 17.</source>
-        <translation>Gewöhnlich hat ein Zyklus 24 bis 38 Tage, seine Lutealphase 11 bis 17.</translation>
+        <translation>Üblich sind 24 bis 38 Tage für den Zyklus und 11 bis 17 für die Lutealphase.</translation>
     </message>
     <message>
         <source>Type whole days.</source>
@@ -3938,7 +3944,7 @@ Dateien gleichen Namens werden ersetzt, außer mit --no-clobber. SOURCE_DATE_EPO
     </message>
     <message>
         <source>Gravidity</source>
-        <translation>Gravidität</translation>
+        <translation>Gravida</translation>
     </message>
     <message>
         <source>Examination Date</source>
@@ -4098,10 +4104,6 @@ Dateien gleichen Namens werden ersetzt, außer mit --no-clobber. SOURCE_DATE_EPO
         <translation>enthält keine Patientin</translation>
     </message>
     <message>
-        <source>the folder could not be made</source>
-        <translation>der Ordner konnte nicht angelegt werden</translation>
-    </message>
-    <message>
         <source>it has no such fetus or page</source>
         <translation>hat keinen solchen Fetus oder keine solche Seite</translation>
     </message>
@@ -4128,6 +4130,10 @@ Dateien gleichen Namens werden ersetzt, außer mit --no-clobber. SOURCE_DATE_EPO
     <message>
         <source>it is there already, and stays as it is</source>
         <translation>ist bereits vorhanden und bleibt, wie es ist</translation>
+    </message>
+    <message>
+        <source>the folder could not be made (%1)</source>
+        <translation>der Ordner konnte nicht angelegt werden (%1)</translation>
     </message>
 </context>
 <context>
@@ -4708,7 +4714,7 @@ Dateien gleichen Namens werden ersetzt, außer mit --no-clobber. SOURCE_DATE_EPO
     </message>
     <message>
         <source>Gravidity</source>
-        <translation>Gravidität</translation>
+        <translation>Gravida</translation>
     </message>
     <message>
         <source>Nascor ended before the changes of this document were saved. Do you want to recover them?</source>
@@ -4777,6 +4783,10 @@ Dateien gleichen Namens werden ersetzt, außer mit --no-clobber. SOURCE_DATE_EPO
     <message>
         <source>Examination of %1</source>
         <translation>Untersuchung vom %1</translation>
+    </message>
+    <message>
+        <source>What it holds:</source>
+        <translation>Was es enthält:</translation>
     </message>
 </context>
 <context>
@@ -4941,6 +4951,14 @@ Dateien gleichen Namens werden ersetzt, außer mit --no-clobber. SOURCE_DATE_EPO
         <source>&amp;All References</source>
         <translation>&amp;Alle Quellen</translation>
     </message>
+    <message>
+        <source>%1 values. The program answers each of them alike.</source>
+        <translation>%1 Werte geprüft, keine Abweichung.</translation>
+    </message>
+    <message>
+        <source>worked out apart from the program, in decimal arithmetic</source>
+        <translation>außerhalb des Programms in Dezimalarithmetik berechnet</translation>
+    </message>
 </context>
 <context>
     <name>ReportFiles</name>
@@ -5081,7 +5099,7 @@ Dateien gleichen Namens werden ersetzt, außer mit --no-clobber. SOURCE_DATE_EPO
     </message>
     <message>
         <source>Gravidity</source>
-        <translation>Gravidität</translation>
+        <translation>Gravida</translation>
     </message>
     <message>
         <source>The reference ID of the report has characters that cannot be read.</source>
@@ -5682,7 +5700,7 @@ Dateien gleichen Namens werden ersetzt, außer mit --no-clobber. SOURCE_DATE_EPO
     </message>
     <message>
         <source>Gravidity</source>
-        <translation>Gravidität</translation>
+        <translation>Gravida</translation>
     </message>
     <message>
         <source>EDD</source>
@@ -5734,7 +5752,7 @@ Dateien gleichen Namens werden ersetzt, außer mit --no-clobber. SOURCE_DATE_EPO
     </message>
     <message>
         <source>A weight is given above 100 g.</source>
-        <translation>Ein Gewicht wird erst über 100 g angegeben.</translation>
+        <translation>Gewichte werden erst über 100 g angegeben.</translation>
     </message>
     <message>
         <source>Measurements</source>
@@ -5810,7 +5828,7 @@ Dateien gleichen Namens werden ersetzt, außer mit --no-clobber. SOURCE_DATE_EPO
     </message>
     <message>
         <source>Since the last examination before that has the measure: change a week, what the growth standard expects, and change of z.</source>
-        <translation>Seit der letzten Untersuchung davor mit dieser Messgröße: Änderung pro Woche, nach dem Wachstumsstandard erwartete Änderung und z-Änderung.</translation>
+        <translation>Seit der vorigen Untersuchung, bei der diese Größe gemessen wurde: Änderung pro Woche, nach dem Wachstumsstandard erwartete Änderung und z-Änderung.</translation>
     </message>
     <message>
         <source>Lengths: z and centile by %1. Weight: by the formula %2, z and centile by %3.</source>
@@ -5897,6 +5915,10 @@ Dateien gleichen Namens werden ersetzt, außer mit --no-clobber. SOURCE_DATE_EPO
     <message>
         <source>There is no program that shows %1.</source>
         <translation>Es gibt kein Programm, das %1 anzeigt.</translation>
+    </message>
+    <message>
+        <source>There is no program that shows PDF files. Please install one, or open the page for browsers that lies beside %1.</source>
+        <translation>Es gibt kein Programm, das PDF-Dateien anzeigt. Bitte installieren Sie eines, oder öffnen Sie die Seite für Browser neben %1.</translation>
     </message>
 </context>
 <context>
@@ -5993,6 +6015,11 @@ Dateien gleichen Namens werden ersetzt, außer mit --no-clobber. SOURCE_DATE_EPO
         <source>.</source>
         <extracomment>The decimal sign: a point or a comma.</extracomment>
         <translation>,</translation>
+    </message>
+    <message>
+        <source>1</source>
+        <extracomment>The first day of a month, as it stands in &quot;1 March 2027&quot;.</extracomment>
+        <translation>1</translation>
     </message>
 </context>
 <context>

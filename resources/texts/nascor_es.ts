@@ -1227,16 +1227,6 @@ desde 1970, sustituye al momento presente.
         <translation>no existe la opción «%1»</translation>
     </message>
     <message>
-        <source>%1: 1 required  missing</source>
-        <extracomment>An option stands there without its value.</extracomment>
-        <translation>%1: falta su valor</translation>
-    </message>
-    <message>
-        <source>%1: At Most 1 required but received %2</source>
-        <extracomment>An option that may stand there once stands there %2 times.</extracomment>
-        <translation>%1: se admite una sola vez, pero figura %2 veces</translation>
-    </message>
-    <message>
         <source>help explains one command</source>
         <translation>help explica un solo comando</translation>
     </message>
@@ -1300,10 +1290,6 @@ desde 1970, sustituye al momento presente.
     <message>
         <source>pages are no text for a terminal; give --out DIR or send standard output to a file</source>
         <translation>las páginas no son texto para una terminal; indique --out DIR o dirija la salida estándar a un archivo</translation>
-    </message>
-    <message>
-        <source>%1; the pages are painted by this program</source>
-        <translation>%1; las páginas las dibuja este programa</translation>
     </message>
     <message>
         <source>--format: expected sr or fhir; pages are painted by the application, which is not built here</source>
@@ -1659,6 +1645,26 @@ desde 1970, sustituye al momento presente.
     <message>
         <source>%1 of %2 values differs</source>
         <translation>%1 de %2 valores difiere</translation>
+    </message>
+    <message>
+        <source>%1 has no value</source>
+        <translation>%1 no tiene valor</translation>
+    </message>
+    <message>
+        <source>%1 can be given once, and stands there %2 times</source>
+        <translation>%1 solo puede indicarse una vez, y figura %2 veces</translation>
+    </message>
+    <message>
+        <source>%1; the application, which is installed apart, paints the pages</source>
+        <translation>%1; las páginas las dibuja la aplicación, que se instala aparte</translation>
+    </message>
+    <message>
+        <source>%1, by --patient</source>
+        <translation>%1, con --patient</translation>
+    </message>
+    <message>
+        <source>a decimal number with a point, such as 61.2</source>
+        <translation>un número decimal con punto, como 61.2</translation>
     </message>
 </context>
 <context>
@@ -4088,10 +4094,6 @@ desde 1970, sustituye al momento presente.
         <translation>no contiene ninguna paciente</translation>
     </message>
     <message>
-        <source>the folder could not be made</source>
-        <translation>no se pudo crear la carpeta</translation>
-    </message>
-    <message>
         <source>it has no such fetus or page</source>
         <translation>no tiene ese feto o esa página</translation>
     </message>
@@ -4118,6 +4120,10 @@ desde 1970, sustituye al momento presente.
     <message>
         <source>it is there already, and stays as it is</source>
         <translation>ya existe y se queda como está</translation>
+    </message>
+    <message>
+        <source>the folder could not be made (%1)</source>
+        <translation>no se pudo crear la carpeta (%1)</translation>
     </message>
 </context>
 <context>
@@ -4768,6 +4774,10 @@ desde 1970, sustituye al momento presente.
         <source>Examination of %1</source>
         <translation>Exploración del %1</translation>
     </message>
+    <message>
+        <source>What it holds:</source>
+        <translation>Lo que contiene:</translation>
+    </message>
 </context>
 <context>
     <name>References</name>
@@ -4930,6 +4940,14 @@ desde 1970, sustituye al momento presente.
     <message>
         <source>&amp;All References</source>
         <translation>&amp;Todas las referencias</translation>
+    </message>
+    <message>
+        <source>%1 values. The program answers each of them alike.</source>
+        <translation>%1 valores. El programa da cada uno de ellos igual.</translation>
+    </message>
+    <message>
+        <source>worked out apart from the program, in decimal arithmetic</source>
+        <translation>calculado aparte del programa, en aritmética decimal</translation>
     </message>
 </context>
 <context>
@@ -5888,6 +5906,10 @@ desde 1970, sustituye al momento presente.
         <source>There is no program that shows %1.</source>
         <translation>No hay ningún programa que muestre %1.</translation>
     </message>
+    <message>
+        <source>There is no program that shows PDF files. Please install one, or open the page for browsers that lies beside %1.</source>
+        <translation>No hay ningún programa que muestre archivos PDF. Instale uno, o abra la página para navegadores que está junto a %1.</translation>
+    </message>
 </context>
 <context>
     <name>WaitingReports</name>
@@ -5983,6 +6005,11 @@ desde 1970, sustituye al momento presente.
         <source>.</source>
         <extracomment>The decimal sign: a point or a comma.</extracomment>
         <translation>,</translation>
+    </message>
+    <message>
+        <source>1</source>
+        <extracomment>The first day of a month, as it stands in &quot;1 March 2027&quot;.</extracomment>
+        <translation>1</translation>
     </message>
 </context>
 <context>

@@ -13,7 +13,7 @@
     </message>
     <message>
         <source>Nascor Standard: </source>
-        <translation>Standard Nascor&#xa0;: </translation>
+        <translation>Standard de croissance&#xa0;: </translation>
     </message>
     <message>
         <source>Menstrual Age (Weeks)</source>
@@ -41,7 +41,7 @@
     </message>
     <message>
         <source>Estimated Fetal Weight (g)</source>
-        <translation>Estim. poids fœtal (g)</translation>
+        <translation>Estimation du poids fœtal (g)</translation>
     </message>
     <message>
         <source>g</source>
@@ -128,7 +128,7 @@
     <name>AdjustDelivery</name>
     <message>
         <source>Adjust Delivery</source>
-        <translation>Programmer l’accouchement</translation>
+        <translation>Planifier l’accouchement</translation>
     </message>
     <message>
         <source>Estimated date of delivery</source>
@@ -144,7 +144,7 @@
     </message>
     <message>
         <source>Delivery planned on</source>
-        <translation>Accouchement programmé le</translation>
+        <translation>Accouchement envisagé le</translation>
     </message>
     <message>
         <source>The day on which delivery is planned</source>
@@ -156,7 +156,7 @@
     </message>
     <message>
         <source>Menstrual age at the planned delivery, in weeks and days</source>
-        <translation>Âge gestationnel à l’accouchement programmé, en semaines d’aménorrhée et jours</translation>
+        <translation>Âge gestationnel à l’accouchement envisagé, en semaines d’aménorrhée et jours</translation>
     </message>
     <message>
         <source>%1 to %2 days</source>
@@ -164,7 +164,7 @@
     </message>
     <message>
         <source>Days from the EDD to the planned delivery, %1</source>
-        <translation>Jours entre la DPA et l’accouchement programmé, %1</translation>
+        <translation>Jours entre la DPA et l’accouchement envisagé, %1</translation>
     </message>
 </context>
 <context>
@@ -260,7 +260,7 @@
     </message>
     <message>
         <source>the planned delivery, %1 days from 40 weeks, is outside %2 to %3 days</source>
-        <translation>l’accouchement programmé, à %1 jours de 40&#xa0;SA, est en dehors de la plage de %2 à %3 jours</translation>
+        <translation>l’accouchement envisagé, à %1 jours de 40&#xa0;SA, est en dehors de la plage de %2 à %3 jours</translation>
     </message>
     <message>
         <source>the number of fetuses, %1, is outside %2 to %3</source>
@@ -858,7 +858,7 @@ the JSON, among others: file, maternalIDString, edd, fetuses, in each examinatio
 bpd, hc, ac, fl in mm; efw in g) and projected; docs/json.md lists them all.
 </source>
         <translation>Date et Menstrual Age sont ceux du dernier examen. Les jours sont ceux du fuseau horaire local. La
-projection figure quand le dernier examen se situe entre 30 SA et l’accouchement programmé. Clés du
+projection figure quand le dernier examen se situe entre 30 SA et l’accouchement envisagé. Clés du
 JSON, entre autres&#xa0;: file, maternalIDString, edd, fetuses, et dans chacun examinations (age en SA&#xa0;;
 bpd, hc, ac, fl en mm&#xa0;; efw en g) et projected&#xa0;; docs/json.md les énumère toutes.
 </translation>
@@ -1231,16 +1231,6 @@ SOURCE_DATE_EPOCH, en secondes depuis 1970, prend la place de l’instant prése
         <translation>il n’y a pas d’option «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
-        <source>%1: 1 required  missing</source>
-        <extracomment>An option stands there without its value.</extracomment>
-        <translation>%1&#xa0;: la valeur manque</translation>
-    </message>
-    <message>
-        <source>%1: At Most 1 required but received %2</source>
-        <extracomment>An option that may stand there once stands there %2 times.</extracomment>
-        <translation>%1&#xa0;: ne peut figurer qu’une fois, mais figure %2 fois</translation>
-    </message>
-    <message>
         <source>help explains one command</source>
         <translation>help explique une seule commande</translation>
     </message>
@@ -1304,10 +1294,6 @@ SOURCE_DATE_EPOCH, en secondes depuis 1970, prend la place de l’instant prése
     <message>
         <source>pages are no text for a terminal; give --out DIR or send standard output to a file</source>
         <translation>des pages ne sont pas un texte pour un terminal&#xa0;; indiquez --out DIR ou envoyez la sortie standard dans un fichier</translation>
-    </message>
-    <message>
-        <source>%1; the pages are painted by this program</source>
-        <translation>%1&#xa0;; c’est ce programme qui dessine les pages</translation>
     </message>
     <message>
         <source>--format: expected sr or fhir; pages are painted by the application, which is not built here</source>
@@ -1664,6 +1650,26 @@ SOURCE_DATE_EPOCH, en secondes depuis 1970, prend la place de l’instant prése
         <source>%1 of %2 values differs</source>
         <translation>valeur qui diffère&#xa0;: %1 sur %2</translation>
     </message>
+    <message>
+        <source>%1 has no value</source>
+        <translation>%1 n’a pas de valeur</translation>
+    </message>
+    <message>
+        <source>%1 can be given once, and stands there %2 times</source>
+        <translation>%1 ne s’indique qu’une fois, et figure %2 fois</translation>
+    </message>
+    <message>
+        <source>%1; the application, which is installed apart, paints the pages</source>
+        <translation>%1&#xa0;; c’est l’application, à installer séparément, qui dessine les pages</translation>
+    </message>
+    <message>
+        <source>%1, by --patient</source>
+        <translation>%1, par --patient</translation>
+    </message>
+    <message>
+        <source>a decimal number with a point, such as 61.2</source>
+        <translation>un nombre décimal avec un point, comme 61.2</translation>
+    </message>
 </context>
 <context>
     <name>Compare</name>
@@ -1829,7 +1835,7 @@ SOURCE_DATE_EPOCH, en secondes depuis 1970, prend la place de l’instant prése
     </message>
     <message>
         <source>Measure</source>
-        <translation>Paramètre</translation>
+        <translation>Mesure</translation>
     </message>
     <message>
         <source>Per Week</source>
@@ -3274,7 +3280,7 @@ SOURCE_DATE_EPOCH, en secondes depuis 1970, prend la place de l’instant prése
     </message>
     <message>
         <source>Show &amp;All</source>
-        <translation>&amp;Tout afficher</translation>
+        <translation>Afficher &amp;tous les fœtus</translation>
     </message>
     <message>
         <source>&amp;References</source>
@@ -3474,7 +3480,7 @@ SOURCE_DATE_EPOCH, en secondes depuis 1970, prend la place de l’instant prése
     </message>
     <message>
         <source>All %1 worked examples give the expected results.</source>
-        <translation>Les %1 exemples de calcul donnent tous le résultat connu.</translation>
+        <translation>Les %1 exemples de calcul donnent tous le résultat attendu.</translation>
     </message>
     <message>
         <source>%1 of %2 worked examples come out otherwise.</source>
@@ -3537,7 +3543,7 @@ SOURCE_DATE_EPOCH, en secondes depuis 1970, prend la place de l’instant prése
     </message>
     <message>
         <source>Show All</source>
-        <translation>Tout afficher</translation>
+        <translation>Afficher tous les fœtus</translation>
     </message>
     <message>
         <source>Further References</source>
@@ -3688,11 +3694,11 @@ SOURCE_DATE_EPOCH, en secondes depuis 1970, prend la place de l’instant prése
     </message>
     <message>
         <source>The EDD is empty now. This is no date: </source>
-        <translation>La DPA est vide maintenant. Ceci n’est pas une date&#xa0;: </translation>
+        <translation>La DPA a été effacée. Ceci n’est pas une date&#xa0;: </translation>
     </message>
     <message>
         <source>The examination has no date now. This is no date: </source>
-        <translation>L’examen n’a plus de date maintenant. Ceci n’est pas une date&#xa0;: </translation>
+        <translation>La date de l’examen a été effacée. Ceci n’est pas une date&#xa0;: </translation>
     </message>
     <message>
         <source>The examination is before the last period.</source>
@@ -3756,7 +3762,7 @@ SOURCE_DATE_EPOCH, en secondes depuis 1970, prend la place de l’instant prése
     </message>
     <message>
         <source>An examination would be above 45 weeks.</source>
-        <translation>Un examen dépasserait 45&#xa0;SA.</translation>
+        <translation>Un examen se situerait au-delà de 45&#xa0;SA.</translation>
     </message>
     <message>
         <source>The same day as the current EDD.</source>
@@ -3792,7 +3798,7 @@ SOURCE_DATE_EPOCH, en secondes depuis 1970, prend la place de l’instant prése
     </message>
     <message>
         <source>The formula dates these lengths, in mm:</source>
-        <translation>La formule date ces longueurs, en mm&#xa0;:</translation>
+        <translation>La formule admet ces longueurs, en mm&#xa0;:</translation>
     </message>
     <message>
         <source>There is no such cycle.</source>
@@ -3964,7 +3970,7 @@ SOURCE_DATE_EPOCH, en secondes depuis 1970, prend la place de l’instant prése
     </message>
     <message>
         <source>Planned Delivery</source>
-        <translation>le changement d’accouchement programmé</translation>
+        <translation>le changement d’accouchement envisagé</translation>
     </message>
     <message>
         <source>Lines join the marks of each fetus.</source>
@@ -4092,10 +4098,6 @@ SOURCE_DATE_EPOCH, en secondes depuis 1970, prend la place de l’instant prése
         <translation>ne contient pas de patiente</translation>
     </message>
     <message>
-        <source>the folder could not be made</source>
-        <translation>le dossier n’a pas pu être créé</translation>
-    </message>
-    <message>
         <source>it has no such fetus or page</source>
         <translation>il n’a pas ce fœtus ou cette page</translation>
     </message>
@@ -4122,6 +4124,10 @@ SOURCE_DATE_EPOCH, en secondes depuis 1970, prend la place de l’instant prése
     <message>
         <source>it is there already, and stays as it is</source>
         <translation>existe déjà, et reste tel quel</translation>
+    </message>
+    <message>
+        <source>the folder could not be made (%1)</source>
+        <translation>le dossier n’a pas pu être créé (%1)</translation>
     </message>
 </context>
 <context>
@@ -4694,7 +4700,7 @@ SOURCE_DATE_EPOCH, en secondes depuis 1970, prend la place de l’instant prése
     </message>
     <message>
         <source>Planned delivery</source>
-        <translation>Accouchement programmé</translation>
+        <translation>Accouchement envisagé</translation>
     </message>
     <message>
         <source>Formula for the crown-rump length</source>
@@ -4746,7 +4752,7 @@ SOURCE_DATE_EPOCH, en secondes depuis 1970, prend la place de l’instant prése
     </message>
     <message>
         <source>Last kept:</source>
-        <translation>Gardé en dernier&#xa0;:</translation>
+        <translation>Dernière copie de secours&#xa0;:</translation>
     </message>
     <message>
         <source>An examination that was removed</source>
@@ -4771,6 +4777,10 @@ SOURCE_DATE_EPOCH, en secondes depuis 1970, prend la place de l’instant prése
     <message>
         <source>Examination of %1</source>
         <translation>Examen du %1</translation>
+    </message>
+    <message>
+        <source>What it holds:</source>
+        <translation>Ce qu’il contient&#xa0;:</translation>
     </message>
 </context>
 <context>
@@ -4865,7 +4875,7 @@ SOURCE_DATE_EPOCH, en secondes depuis 1970, prend la place de l’instant prése
     </message>
     <message>
         <source>Lengths in mm, weights in g; w is the age in weeks, d in days, g in tens of weeks. What stands side by side is multiplied.</source>
-        <translation>Mesures en mm, poids en g&#xa0;; w est l’âge en semaines, d en jours, g en dizaines de semaines. Ce qui est juxtaposé est multiplié.</translation>
+        <translation>Mesures en mm, poids en g&#xa0;; w est l’âge en semaines, d en jours, g en dizaines de semaines. Deux termes accolés se multiplient.</translation>
     </message>
     <message>
         <source>Week</source>
@@ -4934,6 +4944,14 @@ SOURCE_DATE_EPOCH, en secondes depuis 1970, prend la place de l’instant prése
     <message>
         <source>&amp;All References</source>
         <translation>Toutes les &amp;références</translation>
+    </message>
+    <message>
+        <source>%1 values. The program answers each of them alike.</source>
+        <translation>%1 valeurs. Le programme les retrouve toutes.</translation>
+    </message>
+    <message>
+        <source>worked out apart from the program, in decimal arithmetic</source>
+        <translation>calculé sans le programme, en arithmétique décimale</translation>
     </message>
 </context>
 <context>
@@ -5688,7 +5706,7 @@ SOURCE_DATE_EPOCH, en secondes depuis 1970, prend la place de l’instant prése
     </message>
     <message>
         <source>Planned delivery</source>
-        <translation>Accouchement programmé</translation>
+        <translation>Accouchement envisagé</translation>
     </message>
     <message>
         <source>Growth standard</source>
@@ -5892,6 +5910,10 @@ SOURCE_DATE_EPOCH, en secondes depuis 1970, prend la place de l’instant prése
         <source>There is no program that shows %1.</source>
         <translation>Il n’y a pas de programme pour afficher %1.</translation>
     </message>
+    <message>
+        <source>There is no program that shows PDF files. Please install one, or open the page for browsers that lies beside %1.</source>
+        <translation>Il n’y a pas de programme pour afficher les fichiers PDF. Veuillez en installer un, ou ouvrir la page pour navigateur qui se trouve à côté de %1.</translation>
+    </message>
 </context>
 <context>
     <name>WaitingReports</name>
@@ -5987,6 +6009,11 @@ SOURCE_DATE_EPOCH, en secondes depuis 1970, prend la place de l’instant prése
         <source>.</source>
         <extracomment>The decimal sign: a point or a comma.</extracomment>
         <translation>,</translation>
+    </message>
+    <message>
+        <source>1</source>
+        <extracomment>The first day of a month, as it stands in &quot;1 March 2027&quot;.</extracomment>
+        <translation>1er</translation>
     </message>
 </context>
 <context>

@@ -241,9 +241,9 @@ std::string Recovery::informationOf(const RecoveryFile& file, const PatientRecor
               : localizer.text("Recovery", "An examination without a date"));
     }
   }
-  information.append("\n\n").append(file.origin.document.empty()
-                                     ? localizer.text("Recovery", "What it holds:")
-                                     : localizer.text("Recovery", "What differs from the saved document:"));
+  information.append("\n\n").append(
+      file.origin.document.empty() ? localizer.text("Recovery", "What it holds:")
+                                   : localizer.text("Recovery", "What differs from the saved document:"));
   for (std::size_t i = 0; i < std::min(lines.size(), kMostLines); ++i)
     information.append("\n").append(lines[i]);
   if (lines.size() > kMostLines) information += "\n\u2026";

@@ -117,7 +117,7 @@ Table weightsTable(const std::vector<Weight>& weights, std::int64_t chosen, cons
   for (const calc::Reference& reference : calc::references()) {
     if (!calc::covers(reference, Quantity::efw)) continue;
     table.columns.push_back(
-        {.title = std::string(reference.label),
+        {.title = writer.text("Compare", "Centile").append(", ").append(reference.label),
          .isNumber = true,
          .explanation = writer.text("Compare", "The centile in this population of weights.")});
   }

@@ -1,16 +1,20 @@
 // SPDX-FileCopyrightText: 2026 The Nascor developers
 // SPDX-License-Identifier: MIT
 
+#include "foundation/Localizer.h"
 #include "selftest/Examples.h"
 
 namespace nascor::selftest {
+
+using foundation::translatable;
+
 namespace {
 
 // Worked out by computed_examples.py, which see; to change this file, change and run that.
 
 // clang-format off
 
-constexpr std::string_view kComputed = "worked out apart from the program, in decimal arithmetic";
+constexpr std::string_view kComputed = translatable("References", "worked out apart from the program, in decimal arithmetic");
 constexpr std::string_view kDocument = "what was typed into the document";
 
 constexpr std::array<Example, 882> kExamples{{

@@ -272,10 +272,11 @@ def main():
     else:
         with open(os.path.join(HERE, "ComputedExamples.cpp")) as file:
             rows.extend(line.rstrip("\n") for line in file if line.startswith('    {"who-2017",'))
-    print('#include "selftest/Examples.h"\n\nnamespace nascor::selftest {\nnamespace {\n')
+    print('#include "foundation/Localizer.h"\n#include "selftest/Examples.h"\n\nnamespace nascor::selftest {\n\n'
+          'using foundation::translatable;\n\nnamespace {\n')
     print("// Worked out by computed_examples.py, which see; to change this file, change and run that.\n")
     print("// clang-format off\n")
-    print(f'constexpr std::string_view kComputed = "{COMPUTED}";')
+    print(f'constexpr std::string_view kComputed = translatable("References", "{COMPUTED}");')
     print('constexpr std::string_view kDocument = "what was typed into the document";\n')
     print(f"constexpr std::array<Example, {len(rows)}> kExamples{{{{")
     print("\n".join(rows))

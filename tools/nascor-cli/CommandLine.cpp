@@ -185,8 +185,7 @@ Sentence parsersSentence(const std::string& text) {
   constexpr std::string_view kMissing = ": 1 required  missing";
   constexpr std::string_view kSeveral = ": At Most 1 required but received ";
   if (text.ends_with(kMissing)) {
-    return Sentence("CommandLine", "%1 has no value")
-        .with(text.substr(0, text.size() - kMissing.size()));
+    return Sentence("CommandLine", "%1 has no value").with(text.substr(0, text.size() - kMissing.size()));
   }
   if (const std::size_t at = text.find(kSeveral); at != std::string::npos) {
     return Sentence("CommandLine", "%1 can be given once, and stands there %2 times")

@@ -90,7 +90,8 @@ void exportPages(const std::string& format, const Arguments& arguments, Console&
   ::execv(program.c_str(), pointers.data());
   const Sentence reason = Sentence::ofSystem(std::generic_category().message(errno));
   console.complain(program,
-                   Sentence("CommandLine", "%1; the application, which is installed apart, paints the pages").with(reason));
+                   Sentence("CommandLine", "%1; the application, which is installed apart, paints the pages")
+                       .with(reason));
 }
 
 #ifdef NASCOR_PAGES

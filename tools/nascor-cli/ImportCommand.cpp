@@ -176,8 +176,10 @@ void store(const std::vector<Found>& all, const Arguments& arguments, Console& c
   std::vector<std::pair<std::string, Sentence>> warnings;
   for (const Found& found : all) {
     const std::string file = nameOf(found.file);
+    std::set<std::string> saidOfFile;
     const auto refuse = [&](const Sentence& why) {
-      console.complain(file, why);
+      // Each of its examinations may have the same fault.
+      if (saidOfFile.insert(english(why)).second) console.complain(file, why);
       isRefused = true;
     };
     if (const auto why = exchange::severalPatientsFault(found.findings)) {
@@ -187,7 +189,11 @@ void store(const std::vector<Found>& all, const Arguments& arguments, Console& c
     for (const exchange::Findings& findings : found.findings) {
       const auto taken = exchange::storeFindings(findings, confirmation, isNew, calendar, patient);
       if (const auto* why = std::get_if<Sentence>(&taken)) {
-        refuse(*why);
+        using Doubt = exchange::PatientDoubt;
+        const Doubt doubt = exchange::patientDoubt(findings, isNew, patient.maternalIDString().value_or(""));
+        const bool helpsToNameHer =
+            !confirmation.patientID && doubt != Doubt::none && doubt != Doubt::isAnother;
+        refuse(helpsToNameHer ? Sentence("CommandLine", "%1, by --patient").with(*why) : *why);
         continue;
       }
       isNew = false;

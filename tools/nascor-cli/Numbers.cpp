@@ -22,7 +22,11 @@ std::optional<double> numberFromText(std::string_view text) {
 
 double requiredNumber(std::string_view what, const std::string& text) {
   const auto value = numberFromText(text);
-  if (!value) refuseValue(what, Sentence("CommandLine", "a decimal number"), text);
+  if (!value) {
+    const Sentence number = Sentence("CommandLine", "a decimal number");
+    const Sentence withPoint = Sentence("CommandLine", "a decimal number with a point, such as 61.2");
+    refuseValue(what, text.find(',') == std::string::npos ? number : withPoint, text);
+  }
   return *value;
 }
 

@@ -70,8 +70,10 @@ std::string GettextLocalizer::longDateText(const foundation::CivilDay& day) cons
       translatable("Writing", "November"),  translatable("Writing", "December")};
   if (!isValid(day)) return {};
   const std::string month = text("Writing", kMonths.at(static_cast<std::size_t>(day.month) - 1));
+  //: The first day of a month, as it stands in "1 March 2027".
+  const std::string number = day.day == 1 ? text("Writing", "1") : std::to_string(day.day);
   //: A day: %1 is its number, %2 the month in words, %3 the year, as in "4 March 2027".
-  return said(foundation::Sentence("Writing", "%1 %2 %3").with(day.day, month, day.year), *this);
+  return said(foundation::Sentence("Writing", "%1 %2 %3").with(number, month, day.year), *this);
 }
 
 char GettextLocalizer::decimalSign() const {

@@ -46,8 +46,12 @@ QString longDateFormOf(const QLocale& locale) {
 QtLocalizer::QtLocalizer(const QLocale& locale) : locale_(locale), shortDateForm_(shortDateFormOf(locale)) {}
 
 std::string QtLocalizer::longDateText(const foundation::CivilDay& day) const {
-  return toUtf8(
-      locale_.toString(QDate(static_cast<int>(day.year), day.month, day.day), longDateFormOf(locale_)));
+  QString text =
+      locale_.toString(QDate(static_cast<int>(day.year), day.month, day.day), longDateFormOf(locale_));
+  // The first of a month alone is an ordinal there, for which forms of dates have no sign.
+  if (locale_.language() == QLocale::French && text.startsWith(QLatin1String("1 ")))
+    text.insert(1, QLatin1String("er"));
+  return toUtf8(text);
 }
 
 char QtLocalizer::decimalSign() const {

@@ -9,14 +9,17 @@
 #include <QFileInfo>
 #include <QSet>
 #include <algorithm>
+#include <filesystem>
 #include <memory>
 #include <stdexcept>
+#include <system_error>
 #include <variant>
 
 #include "app/NCAppController.h"
 #include "app/NCDocument.h"
 #include "base/Text.h"
 #include "foundation/FileStore.h"
+#include "foundation/Sentence.h"
 #include "foundation/UserDefaults.h"
 #include "foundation/Utf8.h"
 #include "framework/DocumentController.h"
@@ -102,7 +105,12 @@ class Export {
 
   WrittenPages run() {
     if (!wanted_.writeOneFile && !QDir().mkpath(wanted_.folder)) {
-      result_.sentences << about(wanted_.folder, said("PageFiles", "the folder could not be made"));
+      std::error_code error;
+      std::filesystem::create_directories(QFile::encodeName(wanted_.folder).toStdString(), error);
+      const QString reason =
+          fromUtf8(foundation::said(foundation::Sentence::ofSystem(error.message()), services_.localizer));
+      result_.sentences << about(wanted_.folder,
+                                 said("PageFiles", "the folder could not be made (%1)").arg(reason));
       return result_;
     }
     const int total = static_cast<int>(wanted_.files.size());

@@ -47,9 +47,10 @@ bool QtViewer::open(const std::string& url) {
   if (QDesktopServices::openUrl(target)) return true;
   // Guide and handbook.
   if (name.endsWith(QLatin1String(".pdf"))) {
-    return fail(said("Viewer",
-                     "There is no program that shows PDF files. Please install one, or open the page for browsers "
-                     "that lies beside %1."));
+    return fail(
+        said("Viewer",
+             "There is no program that shows PDF files. Please install one, or open the page for browsers "
+             "that lies beside %1."));
   }
   return fail(said("Viewer", "There is no program that shows %1."));
 }

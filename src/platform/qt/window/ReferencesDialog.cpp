@@ -104,10 +104,11 @@ QString examplesText(const std::vector<selftest::Example>& examples, const found
   if (examples.empty()) return {};
   const auto differing = static_cast<int>(
       std::ranges::count_if(examples, [](const auto& example) { return !selftest::agrees(example); }));
-  QString text =
-      QStringLiteral("<p>%1</p>")
-          .arg(said("References", "%1 values, of which %2 differ from what the program answers now.")
-                   .arg(QString::number(examples.size()), QString::number(differing)));
+  const QString verdict =
+      differing == 0 ? said("References", "%1 values. The program answers each of them alike.")
+                     : said("References", "%1 values, of which %2 differ from what the program answers now.");
+  QString text = QStringLiteral("<p>%1</p>")
+                     .arg(verdict.arg(QString::number(examples.size()), QString::number(differing)));
   text += QStringLiteral("<table cellpadding=\"2\"><tr>");
   for (const QString& title : {said("References", "Example"), said("References", "Expected"),
                                said("References", "Program"), said("References", "Source")})
@@ -116,9 +117,11 @@ QString examplesText(const std::vector<selftest::Example>& examples, const found
   for (const selftest::Example& example : examples) {
     text +=
         QStringLiteral(
-            "<tr><td>%1</td><td align=\"right\">%2</td><td align=\"right\">%3</td><td>%4</td></tr>")
+            "<tr><td>%1</td><td align=\"right\"><nobr>%2</nobr></td><td align=\"right\"><nobr>%3</nobr></td>"
+            "<td>%4</td></tr>")
             .arg(escaped(selftest::questionText(example, localizer)), numberText(example.expected, localizer),
-                 numberText(selftest::answerTo(example), localizer), escaped(example.source));
+                 numberText(selftest::answerTo(example), localizer),
+                 escaped(localizer.text("References", example.source)));
   }
   return text + QStringLiteral("</table>");
 }
