@@ -34,24 +34,24 @@ Sentence Sentence::ofSystem(std::string text) {
 Sentence Sentence::joined(std::vector<Sentence> parts, std::string_view between) {
   Sentence sentence = verbatim(std::string(between));
   sentence.kind_ = Kind::joined;
-  sentence.parts_ = std::move(parts);
+  sentence.take(std::move(parts));
   return sentence;
 }
 
 /// A place holder without an argument stands as it is, and arguments without a place holder are dropped: a translation
 /// cannot do more harm than that.
 std::string Sentence::filled(std::string_view text, const Localizer& localizer) const {
+  const std::size_t count = parts_ ? parts_->size() : 0;
   std::string result;
   for (std::size_t from = 0;;) {
     const std::size_t sign = std::min(text.find('%', from), text.size());
     result += text.substr(from, sign - from);
     if (sign == text.size()) return result;
     const char digit = sign + 1 < text.size() ? text[sign + 1] : '\0';
-    const std::size_t place =
-        digit >= '1' && digit <= '9' ? static_cast<std::size_t>(digit - '1') : parts_.size();
-    const bool isHolder = place < parts_.size();
+    const std::size_t place = digit >= '1' && digit <= '9' ? static_cast<std::size_t>(digit - '1') : count;
+    const bool isHolder = place < count;
     if (isHolder) {
-      result += said(parts_[place], localizer);
+      result += said((*parts_)[place], localizer);
     } else {
       result += '%';
     }
@@ -67,11 +67,11 @@ std::string said(const Sentence& sentence, const Localizer& localizer) {
       const std::string own = localizer.text("Files", sentence.text_);
       return own == sentence.text_ ? localizer.text(kSystemTable, own) : own;
     }
-    case counted: return said(sentence.parts_[isOne(sentence.count_, localizer) ? 0 : 1], localizer);
+    case counted: return said((*sentence.parts_)[isOne(sentence.count_, localizer) ? 0 : 1], localizer);
     case joined: {
       std::string all;
-      for (const Sentence& part : sentence.parts_)
-        all.append(&part == &sentence.parts_.front() ? "" : sentence.text_).append(said(part, localizer));
+      for (const Sentence& part : *sentence.parts_)
+        all.append(&part == &sentence.parts_->front() ? "" : sentence.text_).append(said(part, localizer));
       return all;
     }
     case verbatim: break;

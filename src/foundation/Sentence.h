@@ -35,9 +35,11 @@ class Sentence {
   /// With texts, whole numbers or other sentences in place of %1, %2, ...
   template <class... Arguments>
   Sentence with(Arguments&&... arguments) const {
+    std::vector<Sentence> parts;
+    parts.reserve(sizeof...(arguments));
+    (parts.push_back(part(std::forward<Arguments>(arguments))), ...);
     Sentence whole = *this;
-    whole.parts_.reserve(sizeof...(arguments));
-    (whole.parts_.push_back(part(std::forward<Arguments>(arguments))), ...);
+    whole.take(std::move(parts));
     return whole;
   }
 
@@ -55,9 +57,11 @@ class Sentence {
     Sentence sentence;
     sentence.kind_ = Kind::counted;
     sentence.count_ = count;
-    sentence.parts_.reserve(2);
-    sentence.parts_.push_back(std::move(one));
-    sentence.parts_.push_back(std::move(many));
+    std::vector<Sentence> parts;
+    parts.reserve(2);
+    parts.push_back(std::move(one));
+    parts.push_back(std::move(many));
+    sentence.take(std::move(parts));
     return sentence;
   }
   /// All of them, with `between` between.
@@ -76,13 +80,16 @@ class Sentence {
 
   friend std::string said(const Sentence& sentence, const Localizer& localizer);
   std::string filled(std::string_view text, const Localizer& localizer) const;
+  void take(std::vector<Sentence> parts) {
+    parts_ = std::make_shared<const std::vector<Sentence>>(std::move(parts));
+  }
 
   Kind kind_ = Kind::verbatim;
   std::string_view table_{};
   std::string_view key_{};
   std::string text_{};
   std::uint64_t count_ = 0;
-  std::vector<Sentence> parts_{};
+  std::shared_ptr<const std::vector<Sentence>> parts_{};  ///< null for none; copies share them
 };
 
 /// The sentence in the user's language; what a table does not have is English.
