@@ -158,7 +158,8 @@ class Bundle {
   /// Whether an observation is there and counts.
   static bool holds(const Json& observation, StructuredReport& report) {
     if (textIn(observation, "resourceType") != "Observation") {
-      report.warnings.push_back(Sentence("Findings", "a result of the examination is not in the bundle"));
+      const Sentence missing = Sentence("Findings", "a result of the examination is not in the bundle");
+      report.warnings.push_back(missing);
       return false;
     }
     const std::string status = textIn(observation, "status");
