@@ -470,7 +470,7 @@ TEST_F(TheProgram, saysInFrenchWhatOfAReportIsNotStored) {
   EXPECT_EQ(in("fr", {"import", other, "--into", document}).err,
             other +
                 ": le rapport ne nomme aucune patiente\u00a0; rien n\u2019est enregistr\u00e9 \u00e0 moins "
-                "d\u2019indiquer l\u2019identifiant\n");
+                "d\u2019indiquer l\u2019identifiant, par --patient\n");
   EXPECT_EQ(in("fr", {"import", other, "--into", document, "--patient", "A"}).err,
             other + ": f\u0153tus 1\u00a0: BIP reste \u00e0 60\u00a0mm\u00a0; le rapport dit 61\u00a0mm\n");
 }
