@@ -148,7 +148,7 @@
     </message>
     <message>
         <source>The day on which delivery is planned</source>
-        <translation>Le jour pour lequel l’accouchement est programmé</translation>
+        <translation>Le jour pour lequel l’accouchement est prévu</translation>
     </message>
     <message>
         <source>Age at that date</source>
@@ -3276,7 +3276,7 @@ SOURCE_DATE_EPOCH, en secondes depuis 1970, prend la place de l’instant prése
     </message>
     <message>
         <source>&amp;Adjust Delivery...</source>
-        <translation>Pro&amp;grammer l’accouchement...</translation>
+        <translation>Pl&amp;anifier l’accouchement...</translation>
     </message>
     <message>
         <source>Show &amp;All</source>

@@ -30,7 +30,7 @@ std::optional<Sentence> patientFault(const Findings& findings, const Confirmatio
   if (confirmation.patientID) {
     const bool fits = documentID.empty() || documentID == *confirmation.patientID;
     if (fits) return std::nullopt;
-    return Sentence("Findings", "the document is of patient \"%1\", not \"%2\"")
+    return Sentence("Findings", R"(the document is of patient "%1", not "%2")")
         .with(documentID, *confirmation.patientID);
   }
   switch (patientDoubt(findings, isNew, documentID)) {
@@ -46,7 +46,7 @@ std::optional<Sentence> patientFault(const Findings& findings, const Confirmatio
       return Sentence("Findings", "the document names no patient; nothing is stored unless the ID is given");
     case PatientDoubt::isAnother: break;
   }
-  return Sentence("Findings", "the report is of patient \"%1\", the document of \"%2\"")
+  return Sentence("Findings", R"(the report is of patient "%1", the document of "%2")")
       .with(*findings.patientID, documentID);
 }
 
@@ -294,8 +294,10 @@ std::vector<Sentence> warningsOf(const Stored& stored, const Findings& findings)
     const bool isStored = length.fate == Fate::stored || length.fate == Fate::isThereAlready;
     if (!isStored) warnings.push_back(warningOf(length, findings));
   }
-  if (std::ranges::none_of(findings.fetuses, isMeasured))
-    warnings.push_back(Sentence("Findings", "the report holds no length that is stored"));
+  if (std::ranges::none_of(findings.fetuses, isMeasured)) {
+    const Sentence nothing = Sentence("Findings", "the report holds no length that is stored");
+    warnings.push_back(nothing);
+  }
   return warnings;
 }
 

@@ -80,7 +80,7 @@ std::string said(const Sentence& sentence, const Localizer& localizer) {
 }
 
 std::string saidAlone(const Sentence& sentence, const Localizer& localizer) {
-  const std::string text = said(sentence, localizer);
+  std::string text = said(sentence, localizer);
   if (text.empty()) return text;
   const std::size_t first = lengthOfBeginning(text, 1);
   std::string alone = localizer.upperCased(text.substr(0, first)) + text.substr(first);

@@ -88,8 +88,8 @@ TEST(TheTablesOfAComparison, setTheEightWeightsSideBySide) {
   patient.setFetalWeightStandard(1);
   const Table weights = table("weights", patient);
   ASSERT_EQ(weights.rows.size(), 8U);
-  EXPECT_THAT(titlesOf(weights), ElementsAre("Formula", "g", "Difference", "INTERGROWTH-21st (2020)",
-                                             "Hadlock (1991)", "WHO (2017)", "Remark"));
+  EXPECT_THAT(titlesOf(weights), ElementsAre("Formula", "g", "Difference", "Centile, INTERGROWTH-21st (2020)",
+                                             "Centile, Hadlock (1991)", "Centile, WHO (2017)", "Remark"));
   EXPECT_EQ(weights.rows.at(1).cells.at(2).text, "+0");
   EXPECT_TRUE(weights.rows.at(1).isChosen);
   EXPECT_EQ(weights.rows.at(0).remark, "");

@@ -201,7 +201,7 @@ TEST_F(WritingPages, saysThatTheFolderCouldNotBeMade) {
   wanted.folder = inTheWay + QStringLiteral("/pages");
   const auto written = qt::exportPages(wanted, platform.services());
   EXPECT_EQ(written.sentences,
-            QStringList{inTheWay + QStringLiteral("/pages: the folder could not be made")});
+            QStringList{inTheWay + QStringLiteral("/pages: the folder could not be made (Not a directory)")});
 }
 
 TEST_F(WritingPages, writesAllPagesOfADocumentIntoOnePdf) {

@@ -175,7 +175,7 @@ TEST_F(TheServerMenu, keepsTheServerThatIsNamedAndTriesItWhenTold) {
     const auto line = [&](const char* name) { return dialog.findChild<QLineEdit*>(QLatin1String(name)); };
     auto* answer = dialog.findChild<QLabel*>(QStringLiteral("serverAnswer"));
     auto* test = dialog.findChild<QPushButton*>(QStringLiteral("testServer"));
-    EXPECT_THAT(answer->text().toStdString(), HasSubstr("speaks to no server"));
+    EXPECT_THAT(answer->text().toStdString(), HasSubstr("contacts no server"));
     EXPECT_FALSE(test->isEnabled());
     line("serverHost")->setText(QStringLiteral("archive.example"));
     EXPECT_FALSE(dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->isEnabled());

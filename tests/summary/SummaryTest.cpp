@@ -70,8 +70,8 @@ TEST(ASummary, namesTheReferenceOfAWeight) {
   const std::vector<Column>& columns = fetus.weights.columns;
   std::vector<std::string> titles;
   for (const Column& column : columns) titles.push_back(column.title);
-  EXPECT_THAT(titles, ElementsAre("Formula", "g", "Difference", "INTERGROWTH-21st (2020)", "Hadlock (1991)",
-                                  "WHO (2017)"));
+  EXPECT_THAT(titles, ElementsAre("Formula", "g", "Difference", "Centile, INTERGROWTH-21st (2020)",
+                                  "Centile, Hadlock (1991)", "Centile, WHO (2017)"));
   ASSERT_THAT(fetus.weights.rows, SizeIs(8));
   EXPECT_TRUE(fetus.weights.rows[0].isChosen);
   // The same population gives the same centile in both tables.

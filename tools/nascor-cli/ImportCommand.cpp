@@ -154,6 +154,16 @@ std::optional<Stored> documentFor(const Arguments& arguments, Console& console) 
   return Stored{.document = std::move(document)};
 }
 
+/// Why findings are not stored, and by which option they would be.
+Sentence withRemedy(const Sentence& why, const exchange::Findings& findings,
+                    const exchange::Confirmation& confirmation, bool isNew,
+                    const model::PatientRecord& patient) {
+  using Doubt = exchange::PatientDoubt;
+  const Doubt doubt = exchange::patientDoubt(findings, isNew, patient.maternalIDString().value_or(""));
+  const bool helpsToNameHer = !confirmation.patientID && doubt != Doubt::none && doubt != Doubt::isAnother;
+  return helpsToNameHer ? Sentence("CommandLine", "%1, by --patient").with(why) : why;
+}
+
 /// All of them, or nothing is written.
 void store(const std::vector<Found>& all, const Arguments& arguments, Console& console) {
   const exchange::Confirmation confirmation = confirmationIn(arguments);
@@ -189,11 +199,7 @@ void store(const std::vector<Found>& all, const Arguments& arguments, Console& c
     for (const exchange::Findings& findings : found.findings) {
       const auto taken = exchange::storeFindings(findings, confirmation, isNew, calendar, patient);
       if (const auto* why = std::get_if<Sentence>(&taken)) {
-        using Doubt = exchange::PatientDoubt;
-        const Doubt doubt = exchange::patientDoubt(findings, isNew, patient.maternalIDString().value_or(""));
-        const bool helpsToNameHer =
-            !confirmation.patientID && doubt != Doubt::none && doubt != Doubt::isAnother;
-        refuse(helpsToNameHer ? Sentence("CommandLine", "%1, by --patient").with(*why) : *why);
+        refuse(withRemedy(*why, findings, confirmation, isNew, patient));
         continue;
       }
       isNew = false;

@@ -131,7 +131,7 @@ class Fetch {
       return Sentence("ReportServer", "was not taken: the server gave another report than it was asked for");
     if (patientIDIn(dataset) != place.patientID)
       return Sentence("ReportServer",
-                      "was not taken: it is of \"%1\", although the server lists it under \"%2\"")
+                      R"(was not taken: it is of "%1", although the server lists it under "%2")")
           .with(patientIDIn(dataset), place.patientID);
     return fileOf(elements, sopClass, place.instance);
   }
@@ -151,9 +151,10 @@ FetchedReports fetched(const ServerAddress& address, const ReportQuery& query) {
     Fetch fetch(association);
     for (ReportPlace& place : found.places) {
       if (bytes > exchange::kMostReportBytes) {
-        result.warnings.push_back(
+        const Sentence left =
             Sentence("ReportServer",
-                     "the other reports were not fetched: these are as many bytes as are taken at once"));
+                     "the other reports were not fetched: these are as many bytes as are taken at once");
+        result.warnings.push_back(left);
         break;
       }
       auto file = fetch.file(place);
