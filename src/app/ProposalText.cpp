@@ -25,9 +25,8 @@ std::string differenceText(std::int64_t days, const foundation::Localizer& local
   if (days == 0) return localizer.text("NCDocument", "The same day as the current EDD.");
   if (days == 1) return localizer.text("NCDocument", "One day later than the current EDD.");
   if (days == -1) return localizer.text("NCDocument", "One day earlier than the current EDD.");
-  return foundation::format(days > 0
-                                ? localizer.text("NCDocument", "%ld days later than the current EDD.")
-                                : localizer.text("NCDocument", "%ld days earlier than the current EDD."),
+  return foundation::format(days > 0 ? localizer.text("NCDocument", "%ld days later than the current EDD.")
+                                     : localizer.text("NCDocument", "%ld days earlier than the current EDD."),
                             {std::abs(days)});
 }
 

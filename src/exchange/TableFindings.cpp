@@ -271,7 +271,8 @@ class Table {
     if (isHopeless())
       faults_.push_back(Sentence("Findings", "what stands behind line %1 was not looked at").with(lastLine_));
     if (!faults_.empty()) {
-      const Sentence whole = Sentence("Findings", "nothing of this table is taken until every row of it fits");
+      const Sentence whole =
+          Sentence("Findings", "nothing of this table is taken until every row of it fits");
       faults_.push_back(whole);
       return std::move(faults_);
     }

@@ -69,9 +69,8 @@ DocumentController::Opening DocumentController::askHowToOpen(const std::string& 
   const auto& localizer = services_.localizer;
   std::string information =
       path + "\n\n" + holderText(holder, services_.calendar, services_.localizer, "\n") + "\n\n" +
-      localizer.text(
-          "CorvelDocument",
-          "Read-only, it can be saved only under another name. A copy is a new document.");
+      localizer.text("CorvelDocument",
+                     "Read-only, it can be saved only under another name. A copy is a new document.");
   std::vector<std::pair<Opening, std::string>> ways{
       {Opening::readOnly, localizer.text("CorvelDocument", "Open Read-Only")},
       {Opening::asCopy, localizer.text("CorvelDocument", "Open a Copy")}};

@@ -197,9 +197,9 @@ TEST_F(CompareDialog, copiesTheRowsAsTheyAreSortedOrThoseThatAreSelected) {
   clickHeader("compare-fetuses", 1);
   clickHeader("compare-fetuses", 1);
   clickButton("compareCopyButton");
-  EXPECT_EQ(
-      clipboard(),
-      "Fetus\tBPD\tHC\tAC\tFL\tEFW\tDiscordance (%)\nTwin 2\t90.0\t-\t-\t-\t-\t-\nTwin 1\t50.0\t-\t-\t-\t-\t-\n");
+  EXPECT_EQ(clipboard(),
+            "Fetus\tBPD\tHC\tAC\tFL\tEFW\tDiscordance (%)\nTwin 2\t90.0\t-\t-\t-\t-\t-\nTwin "
+            "1\t50.0\t-\t-\t-\t-\t-\n");
   QTableView& fetuses = table("compare-fetuses");
   QDialog& compare = dialog();
   compare.activateWindow();
