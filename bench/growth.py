@@ -55,8 +55,10 @@ def plot(panels):
     """An SVG of the panels side by side: ratios to the first figure of each line over a tenfold axis."""
     width, height, left, top = 460, 300, 60, 50
     colours = {"processor time": "#1b6ca8", "instructions": "#b3541e", "memory": "#3b7d3b"}
-    # The lines that tools/licence-lines looks for.
-    out = ["<!-- SPDX-FileCopyrightText: 2026 The Nascor developers -->", "<!-- SPDX-License-Identifier: MIT -->", "",
+    # The plot is under the licence of this file.
+    with open(__file__, encoding="utf-8") as file:
+        licence = [f"<!-- {line.removeprefix('# ')} -->" for line in file.read().splitlines()[1:3]]
+    out = [*licence, "",
            f'<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 {len(panels) * width} {height + 80}" '
            'font-family="sans-serif" font-size="13">',
            f'<rect width="{len(panels) * width}" height="{height + 80}" fill="white"/>']
