@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <cstdint>
+#include <functional>
 #include <limits>
 #include <string>
 #include <utility>
@@ -102,7 +103,8 @@ INSTANTIATE_TEST_SUITE_P(
         RealCase{'f', 2147483520.0, "82 80 ff ff 7f"}, RealCase{'f', 2147483648.0, "83 00 00 00 4f"},
         RealCase{'f', -2147483648.0, "82 00 00 00 80"}, RealCase{'f', 0.5647059082984924, "83 91 90 10 3f"},
         RealCase{'f', 25.299999237060547, "83 66 66 ca 41"},
-        RealCase{'f', 3.402820018375656e+38, "83 ee ff 7f 7f"}, RealCase{'f', kInfinity, "83 00 00 80 7f"},
+        RealCase{'f', 3.402820018375656e+38, "83 ee ff 7f 7f"},
+        RealCase{'f', 3.4028234663852886e+38, "83 ff ff 7f 7f"}, RealCase{'f', kInfinity, "83 00 00 80 7f"},
         RealCase{'f', -kInfinity, "83 00 00 80 ff"}, RealCase{'f', kNaN, "83 00 00 c0 7f"}));
 
 INSTANTIATE_TEST_SUITE_P(doubles, WritingAReal,
@@ -199,6 +201,23 @@ TEST(WritingObjects, numbersAnObjectBeforeItsClassAndAClassBeforeItsSuperclass) 
                   "92 84 84 84 08 'NSString' 01 95 86"
                   "92 84 95 86"
                   "92 92 92 85 86"));
+}
+
+TEST(WritingObjects, keepsAClassApartFromTheOneItComesFrom) {
+  // The root is known already where the second class is written first.
+  const ClassDescription second{"B", 0, &kRoot};
+  WrittenClass known{&second};
+  EXPECT_EQ(written([&](TypedStreamWriter& writer) {
+              writer.putObject(kRoot);
+              writer.endObject();
+              for (int i = 0; i < 2; ++i) {
+                writer.putObject(known);
+                writer.endObject();
+              }
+            }),
+            bytes("84 01 '@' 84 84 84 08 'NSObject' 00 85 86"
+                  "92 84 84 84 01 'B' 00 93 86"
+                  "92 84 95 86"));
 }
 
 TEST(WritingObjects, writesClassesAsValues) {
@@ -329,6 +348,22 @@ TEST(CallingTheWriterWrongly, isRefused) {
   writer.writeBytes(bytes("01 02"));
   EXPECT_THROW(writer.writeReference(0), std::logic_error);  // nothing written yet
   EXPECT_THROW(std::move(writer).finish(), std::logic_error);
+}
+
+TEST(CallingTheWriterWrongly, isRefusedAtTheEndToo) {
+  const auto refusal = [](const std::function<void(TypedStreamWriter&)>& put) -> std::string {
+    TypedStreamWriter writer;
+    put(writer);
+    try {
+      std::move(writer).finish();
+    } catch (const std::logic_error& error) {
+      return error.what();
+    }
+    return "";
+  };
+  EXPECT_EQ(refusal([](TypedStreamWriter& writer) { writer.beginGroup("i"); }),
+            "values of the open group are left");
+  EXPECT_EQ(refusal([](TypedStreamWriter& writer) { writer.putObject(kRoot); }), "an object is still open");
 }
 
 TEST(CallingTheWriterWrongly, includesReferencesToAnotherKind) {

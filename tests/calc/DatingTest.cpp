@@ -332,6 +332,11 @@ TEST(PlannedDays, areWholeWhereSinglePrecisionMissesThemAndNoneTooMany) {
       {39.428569793701172, kWesterway, -4.0},  // 39 3/7 in single precision
       {40.142856597900391, kWesterway, 1.0},   // 40 1/7
       {39.999, kWesterway, (39.999 - 40.0) * 7.0},
+      // A thousandth of a day to either side is the border.
+      {40.0 + 3.00099 / 7.0, kWesterway, 3.0},
+      {40.0 + 3.00101 / 7.0, kWesterway, ((40.0 + 3.00101 / 7.0) - 40.0) * 7.0},
+      {40.0 + 2.99901 / 7.0, kWesterway, 3.0},
+      {40.0 + 2.99899 / 7.0, kWesterway, ((40.0 + 2.99899 / 7.0) - 40.0) * 7.0},
       {40.5, kWesterway, 3.5},
       {40.5, kCFEF, 0.0},
       {41.0, kWesterway, 7.0},

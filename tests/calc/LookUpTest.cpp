@@ -226,6 +226,11 @@ TEST(MeanAndSDForGestation, areWhatAScanFindsWhereRowsAreNoWeekApart) {
     apart.push_back(DatabaseRecord::initWithData(10.0 + 2.5 * i, 20.0 + i * i, 1.0 + i));
     close.push_back(DatabaseRecord::initWithData(10.0 + 0.25 * i, 20.0 + i * i, 1.0 + i));
   }
+  // On its last row, too, a table is interpolated: 8.7 + 1.0 * (51.9 - 8.7) is no 51.9.
+  const ReferenceTable steep{DatabaseRecord::initWithData(10.0, 8.7, 8.7),
+                             DatabaseRecord::initWithData(11.0, 51.9, 51.9)};
+  EXPECT_TRUE(isExactly(meanForGestation(steep, 11.0), 51.900000000000006));
+  expectWhatAScanFinds(steep, "steep");
   expectWhatAScanFinds(apart, "apart");
   expectWhatAScanFinds(close, "close");
 }

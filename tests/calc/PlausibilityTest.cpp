@@ -5,9 +5,11 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
 #include <cmath>
 
 #include "ExpectedValues.h"
+#include "calc/Standards.h"
 
 namespace nascor::calc {
 namespace {
@@ -98,6 +100,12 @@ TEST(ImprobableLength, withoutAnAgeIsShorterThanAnyStandardBegins) {
     EXPECT_THAT(about(row.measurement, row.tooShort, 0.0), ElementsAre(Improbable::shorterThanAnywhere))
         << nameOf(row.measurement);
   }
+  double shortest = 1000.0;
+  for (const GrowthStandard& standard : growthStandards())
+    shortest = std::min(shortest, standard.row(Measurement::bpd, standard.firstWeek).mean());
+  EXPECT_THAT(about(Measurement::bpd, {.bpd = shortest}, 0.0), IsEmpty()) << "the shortest mean itself";
+  EXPECT_THAT(about(Measurement::bpd, {.bpd = std::nextafter(shortest, 0.0)}, 0.0),
+              ElementsAre(Improbable::shorterThanAnywhere));
   EXPECT_THAT(about(Measurement::bpd, {.bpd = 12.0}, 10.0), IsEmpty()) << "at a known age it may be right";
 }
 

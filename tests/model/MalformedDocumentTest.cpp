@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 
 #include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <unistd.h>
 
 #include <cstddef>
 #include <cstdint>
@@ -16,6 +18,7 @@
 #include "StreamBuilder.h"
 #include "archive/FormatError.h"
 #include "model/PatientFile.h"
+#include "support/Spent.h"
 
 namespace nascor::model {
 namespace {
@@ -421,6 +424,22 @@ TEST(APatientThatStatesAnEarlierVersionThanItsValues, isRefused) {
 }
 
 // ---- The root
+
+// A file may state any count: what is made ready for it follows the size of the file.
+TEST(AnAbsurdCount, takesNoMemory) {
+  if (tests::kIsSanitized) GTEST_SKIP() << "a sanitizer needs the memory";
+  PatientParts parts;
+  parts.ncRecordsArray = arrayOf(2147483647, kExamination);
+  const Bytes bytes = parts.bytes();
+  EXPECT_EXIT(
+      {
+        rlimit limit{};
+        limit.rlim_cur = limit.rlim_max = 1U << 30;
+        ::setrlimit(RLIMIT_AS, &limit);
+        ::_exit(refusalOf(bytes) ? 0 : 1);
+      },
+      testing::ExitedWithCode(0), "");
+}
 
 class AWrongRoot : public testing::TestWithParam<Put> {};
 

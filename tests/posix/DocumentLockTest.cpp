@@ -6,21 +6,28 @@
 #include <fcntl.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <pwd.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <algorithm>
 #include <array>
+#include <cerrno>
 #include <csignal>
 #include <cstdlib>
+#include <ctime>
 #include <filesystem>
 #include <fstream>
 #include <functional>
+#include <ios>
 #include <iterator>
+#include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
+#include "FailingCalls.h"
 #include "posix/Machine.h"
 #include "posix/PosixFileStore.h"
 
@@ -97,11 +104,15 @@ TEST_F(TheLockOfADocument, liesBesideItForItsOwnerAloneAndGoesWithItsObject) {
 }
 
 TEST_F(TheLockOfADocument, isReadByThoseWhoMayWriteTheDocument) {
-  ASSERT_EQ(::chmod(document().c_str(), 0660), 0);
-  const FileClaim claimed = claim();
-  struct stat status {};
-  ASSERT_EQ(::stat(lock().c_str(), &status), 0);
-  EXPECT_EQ(status.st_mode & 0777, 0640U);
+  const std::vector<std::pair<mode_t, mode_t>> modes{{0600, 0600}, {0640, 0600}, {0620, 0600}, {0660, 0640},
+                                                     {0664, 0640}, {0606, 0604}, {0666, 0644}, {0777, 0644}};
+  for (const auto& [ofDocument, ofLock] : modes) {
+    ASSERT_EQ(::chmod(document().c_str(), ofDocument), 0);
+    const FileClaim claimed = claim();
+    struct stat status {};
+    ASSERT_EQ(::stat(lock().c_str(), &status), 0);
+    EXPECT_EQ(status.st_mode & 0777, ofLock) << std::oct << ofDocument;
+  }
 }
 
 TEST_F(TheLockOfADocument, isGivenToOneAlone) {
@@ -112,7 +123,7 @@ TEST_F(TheLockOfADocument, isGivenToOneAlone) {
   ASSERT_TRUE(second.holder);
   EXPECT_EQ(second.holder->process, ::getpid());
   EXPECT_EQ(second.holder->host, thisMachine().host);
-  EXPECT_FALSE(second.holder->user.empty());
+  EXPECT_EQ(second.holder->user, ::getpwuid(::geteuid())->pw_name);
   EXPECT_FALSE(second.holder->mayBeGone);
   EXPECT_GT(second.holder->since.secondsSince2001, 0.0);
   EXPECT_TRUE(first.lock->isHeld());
@@ -188,6 +199,12 @@ TEST_F(TheLockOfADocument, thatSaysNothingIsHeldForAMinute) {
                                         timespec{.tv_sec = 1, .tv_nsec = 0}};
   ASSERT_EQ(::utimensat(AT_FDCWD, lock().c_str(), longAgo.data(), 0), 0);
   EXPECT_TRUE(claim().lock);
+  for (const auto& [age, isFree] : {std::pair{50, false}, {70, true}}) {
+    std::ofstream(lock()) << "";
+    const timespec then{.tv_sec = ::time(nullptr) - age, .tv_nsec = 0};
+    ASSERT_EQ(::utimensat(AT_FDCWD, lock().c_str(), std::array{then, then}.data(), 0), 0);
+    EXPECT_EQ(claim().lock != nullptr, isFree) << age << " s";
+  }
 }
 
 TEST_F(TheLockOfADocument, waitsForNoPipeAndFollowsNoLink) {
@@ -206,16 +223,64 @@ TEST_F(TheLockOfADocument, isMadeForTheLongestNames) {
   EXPECT_TRUE(first.lock);
   EXPECT_TRUE(store_.claim(name, Claim::ifFree).holder);
   EXPECT_TRUE(store_.claim(folder_ + "/" + std::string(255, 'n'), Claim::ifFree).lock) << "of another name";
+  EXPECT_TRUE(store_.claim(folder_ + "/" + std::string(255, '\x80'), Claim::ifFree).lock) << "no characters";
 }
 
 TEST_F(TheLockOfADocument, isMadeForNothingThatIsNoFile) {
   fs::create_directory(folder_ + "/folder");
   for (const std::string& path :
-       {folder_ + "/folder", std::string("/dev/null"), folder_ + "/none/file", std::string()}) {
+       {folder_ + "/folder", std::string("/dev/null"), folder_ + "/none/file", document() + "/within",
+        folder_ + "/" + std::string(300, 'n') + "/file", std::string()}) {
     const FileClaim none = store_.claim(path, Claim::ifFree);
     EXPECT_FALSE(none.lock) << path;
     EXPECT_FALSE(none.holder) << path;
   }
+}
+
+TEST_F(TheLockOfADocument, isNotMadeTwiceWhereFilesCannotBeMade) {
+  tests::FailingCalls calls;
+  int asked = 0;
+  calls.linkat = [&] { return ++asked, EROFS; };
+  calls.open = [&](const std::string& path) {
+    return path == lock() ? std::optional(ENOENT) : std::optional(EROFS);
+  };
+  calls.renameat2 = [&] { return EROFS; };
+  const FileClaim none = claim();
+  EXPECT_FALSE(none.lock);
+  EXPECT_FALSE(none.holder);
+  EXPECT_LE(asked, 1);
+  EXPECT_THAT(names(), ElementsAre("AB-1.nascor"));
+}
+
+TEST_F(TheLockOfADocument, isNotRemovedWhileAnotherProgramLooksAtIt) {
+  const FileClaim first = claim();
+  tests::FailingCalls calls;
+  int asked = 0;
+  calls.flock = [&]() -> std::optional<int> {
+    return ++asked == 1 ? std::optional(EWOULDBLOCK) : std::nullopt;
+  };
+  const FileClaim second = claim(Claim::inAnyCase);
+  EXPECT_TRUE(second.lock) << "once the other is ready";
+  EXPECT_GE(asked, 2);
+  EXPECT_FALSE(first.lock->isHeld());
+}
+
+TEST_F(TheLockOfADocument, isFreeWhereItGoesWhileItIsLookedAt) {
+  leave([](LockRecord& record) { record.machine = record.boot = record.host = "another"; });
+  tests::FailingCalls calls;
+  calls.open = [&](const std::string& path) -> std::optional<int> {
+    if (path != lock()) return std::nullopt;
+    fs::remove(lock());
+    return ENOENT;
+  };
+  EXPECT_TRUE(claim().lock);
+}
+
+TEST_F(TheLockOfADocument, isRemovedWhereThereAreNoLocksOfTheSystem) {
+  leaveByAnother(SIGKILL);
+  tests::FailingCalls calls;
+  calls.flock = [] { return ENOLCK; };
+  EXPECT_TRUE(claim().lock);
 }
 
 TEST_F(TheLockOfADocument, isNeverGivenToTwoOfManyProcesses) {
@@ -230,7 +295,10 @@ TEST_F(TheLockOfADocument, isNeverGivenToTwoOfManyProcesses) {
       for (int turn = 0; turn < kTurns; ++turn) {
         PosixFileStore store;
         const FileClaim held = store.claim(document(), Claim::ifFree);
-        if (!held.lock) continue;
+        if (!held.lock) {
+          isAlone = isAlone && held.holder;  // else nobody would be told
+          continue;
+        }
         const std::string mark = folder_ + "/mine";
         isAlone = isAlone && ::mkdir(mark.c_str(), 0700) == 0;
         ::rmdir(mark.c_str());

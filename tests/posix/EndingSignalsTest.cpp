@@ -8,7 +8,11 @@
 #include <sys/prctl.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <csignal>
+#include <iostream>
+
+#include "FailingCalls.h"
 
 namespace nascor::posix {
 namespace {
@@ -28,10 +32,11 @@ TEST_P(AnEndingSignal, isReadableBeforeItEndsTheProgram) {
         if (isReadable(signals.descriptor())) ::_exit(1);
         ::raise(GetParam());
         if (!isReadable(signals.descriptor())) ::_exit(2);
+        std::cerr << "alive";
         signals.obey();
         ::_exit(3);
       },
-      testing::KilledBySignal(GetParam()), "");
+      testing::KilledBySignal(GetParam()), "alive");
 }
 
 TEST_P(AnEndingSignal, endsAProgramThatDoesNotHearAtTheSecondTime) {
@@ -39,10 +44,11 @@ TEST_P(AnEndingSignal, endsAProgramThatDoesNotHearAtTheSecondTime) {
       {
         const EndingSignals signals;
         ::raise(GetParam());
+        std::cerr << "alive";
         ::raise(GetParam());
         ::_exit(3);
       },
-      testing::KilledBySignal(GetParam()), "");
+      testing::KilledBySignal(GetParam()), "alive");
 }
 
 TEST_P(AnEndingSignal, thatTheProgramWasToldToIgnoreIsIgnored) {
@@ -54,6 +60,32 @@ TEST_P(AnEndingSignal, thatTheProgramWasToldToIgnoreIsIgnored) {
         ::_exit(isReadable(signals.descriptor()) ? 1 : 0);
       },
       testing::ExitedWithCode(0), "");
+}
+
+TEST_P(AnEndingSignal, endsTheProgramAsUsualWhereTheSystemHasNothingToReadItFrom) {
+  EXPECT_EXIT(
+      {
+        tests::FailingCalls calls;
+        calls.pipe2 = [] { return EMFILE; };
+        const EndingSignals signals;
+        if (signals.descriptor() != -1) ::_exit(1);
+        signals.obey();
+        std::cerr << "alive";
+        ::raise(GetParam());
+        ::_exit(3);
+      },
+      testing::KilledBySignal(GetParam()), "alive");
+}
+
+TEST_P(AnEndingSignal, endsTheProgramAsUsualOnceNobodyHearsIt) {
+  EXPECT_EXIT(
+      {
+        { const EndingSignals signals; }
+        std::cerr << "alive";
+        ::raise(GetParam());
+        ::_exit(3);
+      },
+      testing::KilledBySignal(GetParam()), "alive");
 }
 
 INSTANTIATE_TEST_SUITE_P(ofBothKinds, AnEndingSignal, testing::Values(SIGTERM, SIGHUP),

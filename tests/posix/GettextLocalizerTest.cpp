@@ -4,9 +4,11 @@
 #include "posix/GettextLocalizer.h"
 
 #include <gtest/gtest.h>
+#include <libintl.h>
 
 #include <clocale>
 #include <cstdlib>
+#include <string>
 #include <system_error>
 
 #include "foundation/Sentence.h"
@@ -55,6 +57,15 @@ TEST_F(Gettext, findsTheTextsOfEachTable) {
   EXPECT_EQ(localizer.text("", "mm"), "MM");
 }
 
+TEST_F(Gettext, hasTheSystemsSentencesFromTheSystemsCatalogue) {
+  tests::writeCatalogue(folder, "qq", {{"Permission denied", "verboten"}}, "libc");
+  const std::string before = ::bindtextdomain("libc", nullptr);
+  ::bindtextdomain("libc", folder.c_str());
+  EXPECT_EQ(GettextLocalizer(folder).text(foundation::kSystemTable, "Permission denied"), "verboten");
+  EXPECT_EQ(GettextLocalizer(folder).text("Other", "Permission denied"), "Permission denied");
+  ::bindtextdomain("libc", before.c_str());
+}
+
 TEST_F(Gettext, isEnglishWhereThereIsNoTranslation) {
   tests::writeCatalogue(folder, "qq", {{gettextKey("T", "a"), "b"}});
   EXPECT_EQ(GettextLocalizer(folder).text("T", "other"), "other");
@@ -97,6 +108,13 @@ TEST_F(Gettext, leavesTheLocaleOfTheProgramAlone) {
   EXPECT_EQ(GettextLocalizer(folder).text("T", "a"), "b");
   EXPECT_STREQ(std::setlocale(LC_ALL, nullptr), "C");
   EXPECT_EQ(std::generic_category().message(ENOENT), "No such file or directory");
+}
+
+TEST_F(Gettext, asksTheSystemForItsOwnSentences) {
+  tests::writeCatalogue(folder, "qq", {{"Permission denied", "verboten"}}, "libc");
+  ::bindtextdomain("libc", folder.c_str());
+  EXPECT_EQ(GettextLocalizer(folder).text(foundation::kSystemTable, "Permission denied"), "verboten");
+  EXPECT_EQ(GettextLocalizer(folder).text("Other", "Permission denied"), "Permission denied");
 }
 
 TEST_F(Gettext, isEnglishWhereTheCatalogueIsCut) {

@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <cstdlib>
 #include <limits>
 #include <string>
 
@@ -76,6 +77,20 @@ TEST(PosixCalendar, readsTheZoneWhenItIsMade) {
   const tests::ScopedTimeZone first("Asia/Tokyo");
   ASSERT_EQ(PosixCalendar().offsetFromUtc({0.0}), 9.0 * 3600.0);
   ::setenv("TZ", "Asia/Kolkata", 1);
+  EXPECT_EQ(PosixCalendar().offsetFromUtc({0.0}), 5.5 * 3600.0);
+}
+
+TEST(ATimeZone, isChosenByItsNameAlone) {
+  const tests::ScopedTimeZone before("Asia/Tokyo");
+  for (const char* unknown : {"", "Nowhere", "/etc/localtime", "../zoneinfo/UTC", "Europe"}) {
+    EXPECT_FALSE(chooseTimeZone(unknown)) << unknown;
+    EXPECT_STREQ(std::getenv("TZ"), "Asia/Tokyo") << unknown;
+  }
+  EXPECT_FALSE(chooseTimeZone(std::string("UTC\0x", 5)));
+  for (const char* known : {"UTC", "Asia/Kolkata"}) {
+    EXPECT_TRUE(chooseTimeZone(known));
+    EXPECT_STREQ(std::getenv("TZ"), known);
+  }
   EXPECT_EQ(PosixCalendar().offsetFromUtc({0.0}), 5.5 * 3600.0);
 }
 

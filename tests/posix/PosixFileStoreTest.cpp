@@ -15,16 +15,19 @@
 
 #include <algorithm>
 #include <array>
+#include <cerrno>
 #include <csignal>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <functional>
 #include <iterator>
+#include <optional>
 #include <string>
 #include <thread>
 #include <vector>
 
+#include "FailingCalls.h"
 #include "posix/NewFile.h"
 
 namespace nascor::posix {
@@ -350,6 +353,15 @@ TEST_F(PosixFileStoreTest, makesTheFileThatALinkMeansWhenThereIsNone) {
   EXPECT_EQ(mode("target"), 0600U);
 }
 
+TEST_F(PosixFileStoreTest, followsFortyLinksAsTheSystemDoes) {
+  fs::create_symlink("file", path("link1"));
+  for (int i = 2; i <= 40; ++i)
+    fs::create_symlink("link" + std::to_string(i - 1), path("link" + std::to_string(i)));
+  ASSERT_EQ(whyNotReplaced(path("link39")), "");
+  EXPECT_EQ(text("link39"), "new");
+  EXPECT_EQ(whyNotReplaced(path("link40")), "Too many levels of symbolic links");
+}
+
 // Failing: the old file stays byte for byte, and no temporary file is left.
 
 TEST_F(PosixFileStoreTest, keepsTheOldFileWhenTheDiskIsFull) {
@@ -459,6 +471,65 @@ TEST_F(PosixFileStoreTest, replacesWhatIsExpectedAlone) {
   EXPECT_EQ(attempt(std::nullopt), std::nullopt);
   EXPECT_EQ(text("file"), "new");
   EXPECT_THAT(names(), testing::ElementsAre("file"));
+}
+
+TEST_F(PosixFileStoreTest, saysWhyWhatIsExpectedCannotBeRead) {
+  put("file", "old");
+  tests::FailingCalls calls;
+  int error = EACCES;
+  calls.open = [&](const std::string& opened) -> std::optional<int> {
+    if (opened != path("file")) return std::nullopt;
+    if (error == ENOENT) fs::remove(path("file"));
+    return error;
+  };
+  const auto attempt = [&] { return store_.replaceExpected(path("file"), bytesOf("new"), bytesOf("old")); };
+  const auto unreadable = attempt();
+  ASSERT_TRUE(unreadable);
+  EXPECT_EQ(unreadable->reason, "Permission denied");
+  EXPECT_NE(unreadable->kind, foundation::FileError::Kind::isChanged);
+  error = ENOENT;
+  const auto gone = attempt();
+  ASSERT_TRUE(gone);
+  EXPECT_EQ(gone->kind, foundation::FileError::Kind::isChanged);
+  EXPECT_THAT(names(), testing::IsEmpty());
+}
+
+// File systems that cannot do everything.
+
+TEST_F(PosixFileStoreTest, takesThePermissionsOfAFileSystemThatHasNone) {
+  for (const int error : {EPERM, ENOTSUP, ENOSYS}) {
+    tests::FailingCalls calls;
+    calls.fchmod = [error] { return error; };
+    fs::remove(path("file"));
+    EXPECT_EQ(whyNotReplaced(path("file"), "first"), "") << error << ", a file of its owner alone";
+    EXPECT_EQ(text("file"), "first");
+    ASSERT_EQ(::chmod(path("file").c_str(), 0640), 0);
+    EXPECT_NE(whyNotReplaced(path("file")), "") << error << ", those who could read it could no more";
+    EXPECT_EQ(text("file"), "first");
+  }
+  tests::FailingCalls calls;
+  calls.fchmod = [] { return EIO; };
+  EXPECT_EQ(whyNotReplaced(path("other")), "Input/output error");
+  EXPECT_THAT(names(), testing::ElementsAre("file"));
+}
+
+TEST_F(PosixFileStoreTest, flushesTheWholeFileSystemWhereAFolderCannotBe) {
+  const auto attempt = [&](int folderError, std::optional<int> wholeError) {
+    tests::FailingCalls calls;
+    int flushed = 0;
+    // The first is the file's own.
+    calls.fsync = [&]() { return ++flushed == 1 ? std::nullopt : std::optional(folderError); };
+    calls.syncfs = [&] { return wholeError; };
+    const auto error = store_.replaceContents(path("file"), bytesOf("new"));
+    if (!error) return std::string();
+    EXPECT_EQ(error->kind, foundation::FileError::Kind::isWritten);
+    return error->reason;
+  };
+  for (const int error : {EINVAL, EBADF, ENOTSUP}) {
+    EXPECT_EQ(attempt(error, std::nullopt), "") << error;
+    EXPECT_EQ(attempt(error, EIO), "Input/output error") << error;
+  }
+  EXPECT_EQ(attempt(ENOSPC, std::nullopt), "No space left on device");
 }
 
 TEST_F(PosixFileStoreTest, removesWhatKilledProgramsHaveLeftAndNothingElse) {
@@ -572,6 +643,18 @@ TEST_F(PosixFileStoreTest, keepsTheAccessListOfAReplacedFile) {
 
   EXPECT_EQ(readList(path("file")), list);
   EXPECT_EQ(mode("file"), 0660U);
+}
+
+TEST_F(PosixFileStoreTest, keepsTheAccessListInAFolderThatGivesAnother) {
+  put("file", "old", 0600);
+  const std::string list = accessList(6, 0, 6);
+  const std::string ofFolder = accessList(4, 4, 4);
+  if (::setxattr(path("file").c_str(), kAccessList, list.data(), list.size(), 0) != 0 ||
+      ::setxattr(folder_.c_str(), "system.posix_acl_default", ofFolder.data(), ofFolder.size(), 0) != 0) {
+    GTEST_SKIP() << "no access lists in this file system";
+  }
+  ASSERT_EQ(whyNotReplaced(path("file")), "");
+  EXPECT_EQ(readList(path("file")), list);
 }
 
 TEST_F(PosixFileStoreTest, takesNoAccessListFromTheFolderThatTheReplacedFileDidNotHave) {

@@ -10,6 +10,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <chrono>
 #include <csignal>
 #include <cstdlib>
 #include <filesystem>
@@ -77,6 +78,7 @@ TEST_F(ARecoveryFolder, isItsOwnersAloneWhateverTheUmask) {
     EXPECT_EQ(modeOf(scratch_ / "state"), mode_t{0700});
     for (const std::string& name : names()) EXPECT_EQ(modeOf(path() + "/" + name), mode_t{0600}) << name;
     EXPECT_EQ(names().size(), 3U) << "document, its origin, and the lock";
+    EXPECT_TRUE(names().front().starts_with(std::to_string(::getpid()) + "-1.")) << names().front();
   }
 }
 
@@ -107,6 +109,31 @@ TEST_F(ARecoveryFolder, keepsTheLastOfEachDocument) {
   EXPECT_THAT(textsOf(files), testing::UnorderedElementsAre("two", "other"));
   for (const auto& file : files)
     EXPECT_EQ(file.origin.document, textOf(file) == "two" ? "/documents/a.nascor" : "");
+}
+
+TEST_F(ARecoveryFolder, tellsOfTheOldestFirst) {
+  RecoveryFolder kept(path());
+  for (const std::uint64_t number : {1U, 2U, 3U})
+    ASSERT_FALSE(kept.keep(number, {""}, bytesOf(std::to_string(number))));
+  const auto now = fs::file_time_type::clock::now();
+  for (const auto& file : kept.files()) {
+    if (textOf(file) == "1") fs::last_write_time(file.path, now);
+    if (textOf(file) == "2") fs::last_write_time(file.path, now - std::chrono::minutes(2));
+    if (textOf(file) == "3") fs::last_write_time(file.path, now - std::chrono::minutes(1));
+  }
+  EXPECT_THAT(textsOf(kept.files()), ElementsAre("2", "3", "1"));
+  for (const auto& file : kept.files()) fs::last_write_time(file.path, now);
+  EXPECT_THAT(textsOf(kept.files()), ElementsAre("1", "2", "3")) << "of the same moment by their names";
+}
+
+TEST_F(ARecoveryFolder, isMadeByAProgramWithoutInputToo) {
+  EXPECT_EXIT(
+      {
+        ::close(0);  // the next file gets this number
+        RecoveryFolder kept(path());
+        ::_exit(kept.keep(1, {""}, bytesOf("one")) ? 1 : 0);
+      },
+      testing::ExitedWithCode(0), "");
 }
 
 TEST_F(ARecoveryFolder, isEmptyAfterACleanEnd) {

@@ -40,10 +40,10 @@ inline std::string compiledCatalogue(std::map<std::string, std::string> texts) {
 
 /// Makes the catalogue of a language in a folder of catalogues.
 inline void writeCatalogue(const std::string& folder, const std::string& language,
-                           std::map<std::string, std::string> texts) {
+                           std::map<std::string, std::string> texts, const std::string& domain = "nascor") {
   const std::filesystem::path place = std::filesystem::path(folder) / language / "LC_MESSAGES";
   std::filesystem::create_directories(place);
-  std::ofstream(place / "nascor.mo", std::ios::binary) << compiledCatalogue(std::move(texts));
+  std::ofstream(place / (domain + ".mo"), std::ios::binary) << compiledCatalogue(std::move(texts));
 }
 
 }  // namespace nascor::tests
