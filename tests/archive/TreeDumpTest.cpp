@@ -133,6 +133,17 @@ TEST(DumpingAsText, putsTheValuesOfAGroupUnderItsTypes) {
 )");
 }
 
+TEST(DumpingAsText, goesBackBehindAGroupOfSeveralValues) {
+  EXPECT_EQ(dumpAsText(little("84 02 '@i' 84 84 84 01 'A' 00 85 84 01 'i' 05 86 07 94 08")),
+            R"(typed stream, little-endian, system version 1000
+      16  group "@i"
+      20    @ object 0: A (class 1, version 0)
+      30      i 5
+      32    i 7
+      34  i 8
+)");
+}
+
 TEST(DumpingAsText, printsTypesWithoutSignAsTheyAre) {
   EXPECT_NE(dumpAsText(little("84 01 'I' ff")).find("I 4294967295\n"), std::string::npos);
   EXPECT_NE(dumpAsText(little("84 01 'i' ff")).find("i -1\n"), std::string::npos);
