@@ -16,8 +16,12 @@
 #include <QTest>
 #include <QtGlobal>
 #include <algorithm>
+#include <iostream>
 #include <memory>
+#include <random>
+#include <regex>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "Caller.h"
@@ -38,11 +42,12 @@ constexpr int kPatience = 60'000;
 const std::string kLimitsExceeded = "org.freedesktop.DBus.Error.LimitsExceeded";
 const QString kInvalidArguments = QStringLiteral("org.freedesktop.DBus.Error.InvalidArgs");
 
-QString textOfFile(const QString& path) {
+QByteArray bytesOfFile(const QString& path) {
   QFile file(path);
   if (!file.open(QIODevice::ReadOnly)) throw std::runtime_error("there is no file " + path.toStdString());
-  return QString::fromUtf8(file.readAll());
+  return file.readAll();
 }
+QString textOfFile(const QString& path) { return QString::fromUtf8(bytesOfFile(path)); }
 
 class AScript : public testing::Test {
  protected:
@@ -517,6 +522,65 @@ INSTANTIATE_TEST_SUITE_P(inTwoLanguages, AnExample,
                          testing::Values("make-and-export.sh", "make_and_export.py"), [](const auto& row) {
                            return std::string(row.param).ends_with("py") ? "python" : "shell";
                          });
+
+/// The circumference of a head that was written down last; each is larger than the one before.
+double lastIn(const std::string& json) {
+  static const std::regex kCircumference("\"hc\":([0-9.]+)");
+  double last = 0.0;
+  for (std::sregex_iterator found(json.begin(), json.end(), kCircumference), end; found != end; ++found)
+    last = std::max(last, std::stod((*found)[1]));
+  return last;
+}
+
+// As many times as NASCOR_KILLS says, at moments of which NASCOR_KILL_SEED is the beginning.
+TEST_F(AScript, losesNoMoreThanTheLastTwoSecondsWhereTheProgramIsKilled) {
+  const int kills = qEnvironmentVariable("NASCOR_KILLS", QStringLiteral("3")).toInt();
+  const auto seed = qEnvironmentVariableIsSet("NASCOR_KILL_SEED")
+                        ? qEnvironmentVariable("NASCOR_KILL_SEED").toUInt()
+                        : std::random_device()();
+  std::cout << "NASCOR_KILL_SEED=" << seed << std::endl;
+  std::mt19937 chance(seed);
+  const QString path = file("a.nascor", singleton());
+  const auto untouched = documentBytes(singleton());
+  const QString recovery = QDir(home.path()).filePath(QStringLiteral("nascor/recovery"));
+  const QString cli = QStringLiteral(NASCOR_CLI);
+  constexpr qint64 kLongestLoss = 2000;  // ms
+  qint64 longestLoss = 0;
+  for (int i = 0; i < kills; ++i) {
+    ASSERT_NO_FATAL_FAILURE(start({path}));
+    const auto lifetime = static_cast<qint64>(chance() % 6000);
+    std::vector<std::pair<qint64, double>> written;  // when it was answered, and what
+    QElapsedTimer clock;
+    clock.start();
+    for (double value = 350.0; clock.elapsed() < lifetime; value += 0.25) {
+      ASSERT_EQ(script->set(first, "hc", value).errorName(), QString());
+      written.emplace_back(clock.elapsed(), value);
+      QTest::qWait(static_cast<int>(chance() % 80));
+    }
+    const qint64 end = clock.elapsed();
+    nascor.kill();
+    ASSERT_TRUE(nascor.waitForFinished(kPatience));
+    script.reset();
+
+    EXPECT_EQ(bytesOfFile(path), untouched) << "nobody has saved";
+    double last = 0.0;
+    for (const QString& name : QDir(recovery).entryList({QStringLiteral("*.nascor")}, QDir::Files)) {
+      const Answer read = run(cli, {QStringLiteral("json"), recovery + "/" + name});
+      EXPECT_EQ(read.status, 0) << read.error;
+      last = std::max(last, lastIn(read.output));
+    }
+    EXPECT_EQ(run(cli, {QStringLiteral("recover")}, environment).status, 0);
+    for (const auto& [moment, value] : written) {
+      if (value <= last) continue;
+      longestLoss = std::max(longestLoss, end - moment);
+      EXPECT_LE(end - moment, kLongestLoss) << value << " was written after " << moment << " ms, " << last
+                                            << " was kept, and the program killed after " << end;
+      break;
+    }
+    QDir(recovery).removeRecursively();
+  }
+  std::cout << kills << " kills, at most " << longestLoss << " ms lost" << std::endl;
+}
 
 /// The bus starts the application as the installed service file says, whatever prefix the installation was given.
 TEST(ABusWithAnInstallation, startsTheApplicationForAScript) {
