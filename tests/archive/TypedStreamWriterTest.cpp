@@ -210,14 +210,16 @@ TEST(WritingObjects, keepsAClassApartFromTheOneItComesFrom) {
   EXPECT_EQ(written([&](TypedStreamWriter& writer) {
               writer.putObject(kRoot);
               writer.endObject();
-              for (int i = 0; i < 2; ++i) {
-                writer.putObject(known);
+              for (const Label label : {2U, 4U, 5U, 6U}) {
+                EXPECT_EQ(writer.putObject(known), label);
                 writer.endObject();
               }
+              for (const Label label : {0U, 2U, 5U, 6U}) writer.putReference(label);
             }),
             bytes("84 01 '@' 84 84 84 08 'NSObject' 00 85 86"
                   "92 84 84 84 01 'B' 00 93 86"
-                  "92 84 95 86"));
+                  "92 84 95 86 92 84 95 86 92 84 95 86"
+                  "92 92 92 94 92 97 92 98"));
 }
 
 TEST(WritingObjects, writesClassesAsValues) {

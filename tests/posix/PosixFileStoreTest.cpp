@@ -513,6 +513,34 @@ TEST_F(PosixFileStoreTest, takesThePermissionsOfAFileSystemThatHasNone) {
   EXPECT_THAT(names(), testing::ElementsAre("file"));
 }
 
+TEST_F(PosixFileStoreTest, writesWhereAFileCannotGetItsNameLater) {
+  tests::FailingCalls calls;
+  calls.linkat = [] { return EPERM; };
+  EXPECT_EQ(whyNotReplaced(path("file"), "first"), "");
+  EXPECT_EQ(text("file"), "first");
+  EXPECT_EQ(whyNotReplaced(path("file"), "second"), "");
+  EXPECT_EQ(text("file"), "second");
+  EXPECT_THAT(names(), testing::ElementsAre("file"));
+}
+
+TEST_F(PosixFileStoreTest, replacesAFileThatComesWhileItIsMade) {
+  tests::FailingCalls calls;
+  calls.linkat = [&]() -> std::optional<int> {
+    if (fs::exists(path("file"))) return std::nullopt;
+    put("file", "another's", 0640);
+    return EEXIST;
+  };
+  EXPECT_EQ(whyNotReplaced(path("file")), "");
+  EXPECT_EQ(text("file"), "new");
+  EXPECT_EQ(mode("file"), 0640U);
+
+  fs::remove(path("file"));
+  const auto error = store_.replaceExpected(path("file"), bytesOf("new"), std::nullopt);
+  ASSERT_TRUE(error);
+  EXPECT_EQ(error->kind, foundation::FileError::Kind::isChanged) << "none was expected";
+  EXPECT_EQ(text("file"), "another's");
+}
+
 TEST_F(PosixFileStoreTest, flushesTheWholeFileSystemWhereAFolderCannotBe) {
   const auto attempt = [&](int folderError, std::optional<int> wholeError) {
     tests::FailingCalls calls;
