@@ -510,5 +510,19 @@ TEST(CallingTheReaderOutOfOrder, isAMistakeOfTheProgramNotOfTheFile) {
   EXPECT_THROW(reader.expectGroup("i"), std::logic_error);
 }
 
+TEST(ReadingAnotherTypeThanStandsThere, isRefusedByTheStream) {
+  const Bytes stream = little("84 01 'i' 85");  // what would be a nil of another type
+  const auto refuses = [&](auto read) {
+    TypedStreamReader reader(stream);
+    reader.beginGroup();
+    EXPECT_THROW(read(reader), FormatError);
+  };
+  refuses([](TypedStreamReader& reader) { reader.readCString(); });
+  refuses([](TypedStreamReader& reader) { reader.readString(); });
+  refuses([](TypedStreamReader& reader) { reader.readClass(); });
+  refuses([](TypedStreamReader& reader) { reader.readReal(); });
+  refuses([](TypedStreamReader& reader) { reader.beginObject(); });
+}
+
 }  // namespace
 }  // namespace nascor::archive

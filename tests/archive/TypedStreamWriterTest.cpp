@@ -335,6 +335,10 @@ TEST(CallingTheWriterWrongly, isRefused) {
   EXPECT_THROW(writer.endObject(), std::logic_error);      // none open
   writer.beginGroup("fiC[2c]@");
   EXPECT_THROW(writer.beginGroup("i"), std::logic_error);  // values left
+  EXPECT_THROW(writer.putInt(1), std::logic_error);
+  EXPECT_THROW(writer.putFloat(1), std::logic_error);
+  EXPECT_THROW(writer.putString(""), std::logic_error);
+  EXPECT_THROW(writer.putNil(), std::logic_error);
   EXPECT_THROW(writer.writeInteger(1), std::logic_error);  // a real is due
   EXPECT_THROW(writer.writeReal(0.1), std::logic_error);   // not a float
   EXPECT_THROW(writer.writeReal(1e300), std::logic_error);

@@ -83,6 +83,15 @@ TEST(TwoPatients, differInTheirExaminations) {
                   "examinations[1].measurements[0].fl", "examinations[1].measurements[1]"));
 }
 
+TEST(TwoPatients, differInASingleValueOfTheFirstExamination) {
+  PatientRecord after = patient();
+  after.ncRecordsArray().front()->measurements().front().setAC(7);
+  EXPECT_THAT(keys(patient(), after), ElementsAre("examinations[0].measurements[0].ac"));
+  after.ncRecordsArray()[1]->setNote("later");
+  EXPECT_THAT(keys(patient(), after),
+              ElementsAre("examinations[0].measurements[0].ac", "examinations[1].note"));
+}
+
 TEST(TwoPatients, areComparedWithoutWhatIsAlikeAtBothEnds) {
   PatientRecord after = patient();
   after.ncRecordsArray().insert(after.ncRecordsArray().begin() + 1, examinationOn(15, 40));

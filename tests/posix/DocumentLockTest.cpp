@@ -276,6 +276,39 @@ TEST_F(TheLockOfADocument, isFreeWhereItGoesWhileItIsLookedAt) {
   EXPECT_TRUE(claim().lock);
 }
 
+TEST_F(TheLockOfADocument, isMadeWhereFilesHaveNamesFromTheBeginning) {
+  tests::FailingCalls calls;
+  calls.open = [&](const std::string& path) {
+    return fs::is_directory(path) ? std::optional(EOPNOTSUPP) : std::nullopt;
+  };
+  calls.linkat = [] { return EPERM; };
+  FileClaim first = claim();
+  EXPECT_TRUE(first.lock);
+  EXPECT_TRUE(claim().holder);
+  first.lock.reset();
+  EXPECT_THAT(names(), ElementsAre("AB-1.nascor"));
+}
+
+TEST_F(TheLockOfADocument, keepsNobodyFromHerDocumentWhereItCannotBeRemoved) {
+  leaveByAnother(SIGKILL);
+  tests::FailingCalls calls;
+  calls.unlink = [] { return EACCES; };
+  const FileClaim none = claim();
+  EXPECT_FALSE(none.lock);
+  EXPECT_FALSE(none.holder);
+}
+
+TEST_F(TheLockOfADocument, bearsTheSameNameInEveryVersion) {
+  EXPECT_EQ(lockPathOf("/a/AB-1.nascor"), "/a/.AB-1.nascor.lock");
+  // 249 bytes are the most that find room with the point and ".lock"; what is longer is cut at a character's beginning.
+  const std::string longest(249, 'n');
+  EXPECT_EQ(lockPathOf("/a/" + longest), "/a/." + longest + ".lock");
+  const std::string longer(250, 'n');
+  EXPECT_EQ(lockPathOf("/a/" + longer), "/a/." + std::string(200, 'n') + "-" + digest(longer) + ".lock");
+  const std::string accented = std::string(199, 'n') + "\u00e4" + std::string(60, 'n');
+  EXPECT_EQ(lockPathOf("/a/" + accented), "/a/." + std::string(199, 'n') + "-" + digest(accented) + ".lock");
+}
+
 TEST_F(TheLockOfADocument, isRemovedWhereThereAreNoLocksOfTheSystem) {
   leaveByAnother(SIGKILL);
   tests::FailingCalls calls;

@@ -66,6 +66,7 @@ int renameat2(int from, const char* path, int to, const char* target, unsigned f
   return answered(&FailingCalls::renameat2, SYS_renameat2, from, path, to, target, flags);
 }
 int pipe2(int* ends, int flags) noexcept { return answered(&FailingCalls::pipe2, SYS_pipe2, ends, flags); }
+int unlink(const char* path) noexcept { return answered(&FailingCalls::unlink, SYS_unlink, path); }
 int open(const char* path, int flags, ...) {
   va_list more;
   va_start(more, flags);

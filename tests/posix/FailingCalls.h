@@ -27,6 +27,7 @@ struct FailingCalls {
   Answer renameat2{};
   std::function<std::optional<int>(const std::string& path)> open{};
   Answer pipe2{};
+  Answer unlink{};
   bool hidesKinds = false;  ///< The list of a folder does not say what each name is.
 };
 

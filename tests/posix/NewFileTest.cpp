@@ -117,6 +117,26 @@ TEST_F(ANewFile, isMadeAnewWhereAnotherProgramTookItForALeftover) {
   EXPECT_EQ(names().size(), 1U);
 }
 
+TEST_F(ANewFile, isMadeWhereThereAreNoLocks) {
+  tests::FailingCalls calls;
+  calls.flock = [] { return ENOLCK; };
+  errno = EWOULDBLOCK;  // from before
+  const NewFile fresh(folder_, true);
+  EXPECT_TRUE(fresh.isOpen());
+  EXPECT_TRUE(fresh.hasName());
+  EXPECT_EQ(names().size(), 1U);
+}
+
+TEST_F(ANewFile, isMadeWhateverAnEarlierCallAnswered) {
+  tests::FailingCalls calls;
+  calls.flock = [&] {
+    errno = EWOULDBLOCK;
+    return std::nullopt;
+  };
+  const NewFile fresh(folder_, true);
+  EXPECT_TRUE(fresh.isOpen());
+}
+
 TEST_F(ANewFile, isALeftoverByItsAgeAloneWhereThereAreNoLocks) {
   for (int i = 0; i < 3; ++i) {
     const pid_t child = ::fork();

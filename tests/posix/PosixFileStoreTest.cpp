@@ -541,6 +541,25 @@ TEST_F(PosixFileStoreTest, replacesAFileThatComesWhileItIsMade) {
   EXPECT_EQ(text("file"), "another's");
 }
 
+TEST_F(PosixFileStoreTest, waitsForAnotherProgramThatReplacesAFileOfTheFolder) {
+  put("file", "old");
+  for (const int error : {EWOULDBLOCK, EINTR}) {
+    tests::FailingCalls calls;
+    int asked = 0;
+    // The first is for the new file itself.
+    calls.flock = [&]() -> std::optional<int> {
+      return ++asked == 2 || asked == 3 ? std::optional(error) : std::nullopt;
+    };
+    EXPECT_EQ(store_.replaceExpected(path("file"), bytesOf("old"), bytesOf("old")), std::nullopt);
+    EXPECT_GE(asked, 4) << error;
+  }
+  tests::FailingCalls calls;
+  int asked = 0;
+  calls.flock = [&] { return ++asked, ENOLCK; };
+  EXPECT_EQ(store_.replaceExpected(path("file"), bytesOf("new"), bytesOf("old")), std::nullopt);
+  EXPECT_EQ(asked, 2) << "one that knows no locks is asked once";
+}
+
 TEST_F(PosixFileStoreTest, flushesTheWholeFileSystemWhereAFolderCannotBe) {
   const auto attempt = [&](int folderError, std::optional<int> wholeError) {
     tests::FailingCalls calls;

@@ -3,6 +3,7 @@
 
 #include "posix/RecoveryFolder.h"
 
+#include <fcntl.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
@@ -10,9 +11,11 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <array>
 #include <chrono>
 #include <csignal>
 #include <cstdlib>
+#include <ctime>
 #include <filesystem>
 #include <fstream>
 #include <string>
@@ -131,7 +134,9 @@ TEST_F(ARecoveryFolder, isMadeByAProgramWithoutInputToo) {
       {
         ::close(0);  // the next file gets this number
         RecoveryFolder kept(path());
-        ::_exit(kept.keep(1, {""}, bytesOf("one")) ? 1 : 0);
+        const bool isKept = !kept.keep(1, {""}, bytesOf("one"));
+        const std::string file = path() + "/" + std::to_string(::getpid()) + "-1.nascor";
+        ::_exit(isKept && fs::exists(file) ? 0 : 1);
       },
       testing::ExitedWithCode(0), "");
 }
@@ -210,6 +215,15 @@ TEST_F(ARecoveryFolder, losesWhatAKillLeftUnfinished) {
   fs::last_write_time(path() + "/.nascor-abcdef", fs::file_time_type::clock::now() - std::chrono::hours(2));
   folder().takeAbandoned();
   EXPECT_THAT(names(), ElementsAre(".nascor-ghijkl"));
+  const auto age = [&](int seconds) {
+    const timespec then{.tv_sec = ::time(nullptr) - seconds, .tv_nsec = 0};
+    const std::string file = path() + "/.nascor-ghijkl";
+    EXPECT_EQ(::utimensat(AT_FDCWD, file.c_str(), std::array{then, then}.data(), 0), 0);
+    folder().takeAbandoned();
+    return names().size();
+  };
+  EXPECT_EQ(age(3590), 1U);
+  EXPECT_EQ(age(3601), 0U);
 }
 
 TEST(TheUsualRecoveryFolder, liesInTheStateFolder) {
