@@ -277,16 +277,18 @@ TEST_F(TheLockOfADocument, isFreeWhereItGoesWhileItIsLookedAt) {
 }
 
 TEST_F(TheLockOfADocument, isMadeWhereFilesHaveNamesFromTheBeginning) {
-  tests::FailingCalls calls;
-  calls.open = [&](const std::string& path) {
-    return fs::is_directory(path) ? std::optional(EOPNOTSUPP) : std::nullopt;
-  };
-  calls.linkat = [] { return EPERM; };
-  FileClaim first = claim();
-  EXPECT_TRUE(first.lock);
-  EXPECT_TRUE(claim().holder);
-  first.lock.reset();
-  EXPECT_THAT(names(), ElementsAre("AB-1.nascor"));
+  for (const bool knowsUnnamed : {false, true}) {
+    tests::FailingCalls calls;
+    calls.open = [&](const std::string& path) {
+      return !knowsUnnamed && fs::is_directory(path) ? std::optional(EOPNOTSUPP) : std::nullopt;
+    };
+    calls.linkat = [] { return EPERM; };
+    FileClaim first = claim();
+    EXPECT_TRUE(first.lock) << knowsUnnamed;
+    EXPECT_TRUE(claim().holder) << knowsUnnamed;
+    first.lock.reset();
+    EXPECT_THAT(names(), ElementsAre("AB-1.nascor"));
+  }
 }
 
 TEST_F(TheLockOfADocument, keepsNobodyFromHerDocumentWhereItCannotBeRemoved) {
