@@ -207,14 +207,14 @@ TEST_F(TheApplicationOfDocuments, saysThatItOpensNoLinks) {
   openBlank();
   const QString path = file(QStringLiteral("a.nascor"), documentBytes(singleton()));
   answers = {"OK"};
-  drop(widget<QWidget>("tabView"),
-       {QUrl(QStringLiteral("http://example.org/b.nascor")),
-        QUrl(QStringLiteral("file://elsewhere/c.nascor")), QUrl(QStringLiteral("file://localhost") + path)});
+  drop(widget<QWidget>("tabView"), {QUrl(QStringLiteral("http://example.org/b.nascor")),
+                                    QUrl(QStringLiteral("file://other.example/c.nascor")),
+                                    QUrl(QStringLiteral("file://localhost") + path)});
   ASSERT_TRUE(QTest::qWaitFor([&] { return asked.size() == 1; }));
   EXPECT_EQ(asked[0].message, "Nascor opens files of this machine only.");
   EXPECT_EQ(
       asked[0].information,
-      "http://example.org/b.nascor\nfile://elsewhere/c.nascor\n\nPlease save what the link leads to as a "
+      "http://example.org/b.nascor\nfile://other.example/c.nascor\n\nPlease save what the link leads to as a "
       "file here, and open that.");
   EXPECT_THAT(titles(), ElementsAre("a.nascor[*]"));
 }
