@@ -3,7 +3,7 @@
 
 // Documents of as many examinations as wanted, as a tar stream on standard output.
 //
-//   many-examinations EXAMINATIONS DOCUMENTS
+//   many-examinations EXAMINATIONS DOCUMENTS [FETUSES]
 
 #include <cstdio>
 #include <cstdlib>
@@ -16,21 +16,24 @@ namespace {
 
 using namespace nascor;
 
-/// One fetus, seen at as many moments between 12 and 40 weeks.
-model::PatientRecord patient(int examinations) {
+/// Fetuses, seen at as many moments between 12 and 40 weeks, each a little smaller than the one before.
+model::PatientRecord patient(int examinations, int fetuses) {
   constexpr double kWeek = 604800.0;
   constexpr double kEDD = 830000000.0;
   model::PatientRecord patient;
   patient.setMaternalIDString("NC-0000000");
   patient.setEDD(foundation::Date{kEDD});
-  patient.setNumberOfFetuses(1);
+  patient.setNumberOfFetuses(fetuses);
   for (int i = 0; i < examinations; ++i) {
     const double week = 12.0 + 28.0 * (i + 0.5) / examinations;
     auto examination = std::make_unique<model::NCRecord>();
     examination->setNote("Growth scan");
     examination->setExamDate(foundation::Date{kEDD - (40.0 - week) * kWeek});
-    examination->measurements().emplace_back(
-        calc::Biometry{.bpd = 2.4 * week, .hc = 8.6 * week, .ac = 8.4 * week, .fl = 1.8 * week});
+    for (int fetus = 0; fetus < fetuses; ++fetus) {
+      const double size = week - 0.2 * fetus;
+      examination->measurements().emplace_back(
+          calc::Biometry{.bpd = 2.4 * size, .hc = 8.6 * size, .ac = 8.4 * size, .fl = 1.8 * size});
+    }
     patient.ncRecordsArray().push_back(std::move(examination));
   }
   return patient;
@@ -39,13 +42,15 @@ model::PatientRecord patient(int examinations) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  const int examinations = argc == 3 ? std::atoi(argv[1]) : 0;
-  const int documents = argc == 3 ? std::atoi(argv[2]) : 0;
-  if (examinations < 1 || documents < 1) {
-    std::fputs("usage: many-examinations EXAMINATIONS DOCUMENTS\n", stderr);
+  const auto argument = [&](int place) { return place < argc ? std::atoi(argv[place]) : 0; };
+  const int examinations = argument(1);
+  const int documents = argument(2);
+  const int fetuses = argc == 4 ? argument(3) : 1;
+  if (examinations < 1 || documents < 1 || fetuses < 1 || argc > 4) {
+    std::fputs("usage: many-examinations EXAMINATIONS DOCUMENTS [FETUSES]\n", stderr);
     return 2;
   }
-  const auto bytes = model::archivedPatient(patient(examinations));
+  const auto bytes = model::archivedPatient(patient(examinations, fetuses));
   const auto send = [](const std::string& tar) {
     return std::fwrite(tar.data(), 1, tar.size(), stdout) == tar.size();
   };

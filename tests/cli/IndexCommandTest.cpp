@@ -18,6 +18,8 @@
 
 #include "Csv.h"
 #include "Process.h"
+#include "foundation/NumberText.h"
+#include "sqlite/Database.h"
 #include "synthetic_clinic/Clinic.h"
 
 namespace nascor::tests {
@@ -117,6 +119,108 @@ TEST(AnIndex, holdsBadDocumentsWithoutRowsAndReadsThemAgainWhenTheyChange) {
   EXPECT_EQ(second.status, 0) << second.err;
   EXPECT_EQ(second.out, "documents 2, added 0, changed 1, removed 0, unreadable 0\n");
   EXPECT_EQ(clinic.all().size(), 2U);
+}
+
+/// The cells of `rows` in the names of the index; by file, examination and fetus.
+using Cells = std::map<std::string, std::string>;
+using Examinations = std::map<std::string, Cells>;
+
+constexpr std::array kExaminationColumns{"exam_date", "ga_weeks", "bpd_mm", "hc_mm", "ac_mm", "fl_mm",
+                                         "efw_g",     "bpd_z",    "hc_z",   "ac_z",  "fl_z",  "note"};
+
+Examinations examinationsOfRows(const IndexedClinic& clinic) {
+  // The weight that the index has is that of the document's own formula.
+  std::map<std::string, std::string> formulas;
+  sqlite::Database database(clinic.database(), sqlite::Database::Access::read);
+  sqlite::Statement statement = database.prepare("SELECT path, formula FROM documents");
+  while (statement.next()) formulas[std::string(statement.text(0))] = statement.text(1);
+
+  Examinations examinations;
+  const Outcome outcome = run({"rows", clinic.folder(), "--file", "path", "--identify"});
+  for (const CsvRow& row : rowsOf(outcome.out)) {
+    if (row.at("exam").empty()) continue;
+    const std::string file = row.at("file").substr(clinic.folder().size() + 1);
+    Cells& cells = examinations[file + " " + row.at("exam") + " " + row.at("fetus")];
+    for (const char* column : kExaminationColumns) {
+      cells[column] =
+          row.at(column == std::string("efw_g") ? "efw_" + formulas[file] + "_g" : std::string(column));
+    }
+  }
+  return examinations;
+}
+
+/// By the places that the documents tell.
+Examinations examinationsOfIndex(const IndexedClinic& clinic) {
+  std::string columns;
+  for (const char* column : kExaminationColumns) columns += std::string(", ") + column;
+  sqlite::Database database(clinic.database(), sqlite::Database::Access::read);
+  sqlite::Statement statement = database.prepare(
+      "SELECT path || ' ' || exam || ' ' || fetus, document = documents.id" + columns +
+      " FROM documents JOIN rows ON rows.id >= first_row AND rows.id < first_row + row_count");
+  Examinations examinations;
+  while (statement.next()) {
+    EXPECT_EQ(statement.integer(1), 1) << statement.text(0);
+    Cells& cells = examinations[std::string(statement.text(0))];
+    for (std::size_t i = 0; i < kExaminationColumns.size(); ++i) {
+      const int column = 2 + static_cast<int>(i);
+      const bool isText = kExaminationColumns.at(i) == std::string("exam_date") ||
+                          kExaminationColumns.at(i) == std::string("note");
+      std::string& cell = cells[kExaminationColumns.at(i)];
+      if (!statement.isNull(column))
+        cell =
+            isText ? std::string(statement.text(column)) : foundation::shortestText(statement.real(column));
+    }
+  }
+  return examinations;
+}
+
+TEST(AnIndex, holdsTheCellsOfRowsForOtherPrograms) {
+  const IndexedClinic clinic;
+  clinic.writePatients(0, 150);
+  clinic.index();
+  EXPECT_GT(examinationsOfIndex(clinic).size(), 500U);
+  EXPECT_EQ(examinationsOfIndex(clinic), examinationsOfRows(clinic));
+  // The last ones go, so that their numbers are given again, some in the middle go, and others change.
+  for (const std::uint64_t gone : {149U, 148U, 70U, 71U, 72U}) {
+    std::filesystem::remove(clinic.folder() + "/" + clinic::Clinic().document(gone).name);
+  }
+  clinic.write(clinic::Clinic().document(147).name, patient("last", "2027-04-10", 151.4));
+  clinic.write(clinic::Clinic().document(3).name, "no document any more");
+  clinic.write(clinic::Clinic().document(90).name, patient("middle", "2027-04-11", 140.0));
+  clinic.writePatients(150, 10);
+  EXPECT_EQ(clinic.index().out.substr(0, 40), "documents 155, added 10, changed 3, remo");
+  EXPECT_EQ(examinationsOfIndex(clinic), examinationsOfRows(clinic));
+  sqlite::Database database(clinic.database(), sqlite::Database::Access::read);
+  sqlite::Statement orphans = database.prepare(
+      "SELECT count(*) FROM rows WHERE NOT EXISTS (SELECT 1 FROM documents WHERE id = document)");
+  ASSERT_TRUE(orphans.next());
+  EXPECT_EQ(orphans.integer(0), 0);
+}
+
+TEST(AnIndex, ofAnOlderVersionIsMadeAnewAndOfANewerOneIsLeft) {
+  const IndexedClinic clinic;
+  clinic.writePatients(0, 20);
+  clinic.index();
+  const auto expected = clinic.all();
+  const auto setVersion = [&](const std::string& version) {
+    sqlite::Database database(clinic.database(), sqlite::Database::Access::write);
+    database.execute("PRAGMA user_version = " + version);
+  };
+  setVersion("1; DELETE FROM rows; DROP INDEX documents_by_edd; ALTER TABLE documents DROP COLUMN first_row");
+  EXPECT_EQ(run({"due", "--db", clinic.database()}).status, 1);
+  std::filesystem::create_directories(clinic.scratch.path("other"));
+  EXPECT_THAT(run({"index", clinic.scratch.path("other"), "--db", clinic.database()}).err,
+              HasSubstr("is the index of "));
+  EXPECT_THAT(clinic.index().out, HasSubstr("added 20,"));
+  EXPECT_EQ(clinic.all(), expected);
+  EXPECT_EQ(examinationsOfIndex(clinic), examinationsOfRows(clinic));
+
+  setVersion("99");
+  const Outcome newer = clinic.index();
+  EXPECT_EQ(newer.status, 1);
+  EXPECT_THAT(newer.err, HasSubstr("was made by another version of this program"));
+  setVersion("2");
+  EXPECT_EQ(clinic.all(), expected);
 }
 
 TEST(AnIndex, isReadableByItsOwnerAlone) {

@@ -4,7 +4,6 @@
 #include "cli_commands/ClinicIndex.h"
 
 #include <algorithm>
-#include <cmath>
 #include <ctime>
 #include <filesystem>
 #include <system_error>
@@ -14,6 +13,7 @@
 
 #include "cli_commands/DocumentSource.h"
 #include "cli_commands/IndexEntry.h"
+#include "cli_commands/IndexTables.h"
 #include "cli_commands/OrderedWork.h"
 #include "foundation/IsoDate.h"
 #include "posix/FolderWalk.h"
@@ -28,39 +28,6 @@ using sqlite::Statement;
 
 /// "NASC": says that a database is of this program.
 constexpr std::int64_t kApplication = 0x4E415343;
-/// Of the tables below and of what stands in them. An index of another version is made anew.
-constexpr std::int64_t kVersion = 1;
-
-constexpr const char* kTables = R"(
-  CREATE TABLE about (name TEXT PRIMARY KEY, value TEXT NOT NULL) WITHOUT ROWID;
-  CREATE TABLE documents (
-    id INTEGER PRIMARY KEY,
-    path TEXT NOT NULL UNIQUE,
-    stamp TEXT NOT NULL,
-    error TEXT,
-    reference_id TEXT,
-    edd TEXT,
-    standard INTEGER,
-    formula INTEGER,
-    fetuses INTEGER,
-    last_exam TEXT,
-    last_ga_weeks REAL,
-    last_ac_z REAL);
-  CREATE INDEX documents_by_edd ON documents (edd) WHERE edd IS NOT NULL;
-  CREATE TABLE rows (
-    document INTEGER NOT NULL,
-    exam INTEGER NOT NULL,
-    fetus INTEGER NOT NULL,
-    exam_date TEXT,
-    ga_weeks REAL,
-    bpd_mm REAL, hc_mm REAL, ac_mm REAL, fl_mm REAL,
-    efw_g REAL,
-    bpd_z REAL, hc_z REAL, ac_z REAL, fl_z REAL,
-    note TEXT,
-    PRIMARY KEY (document, exam, fetus)) WITHOUT ROWID;
-  CREATE VIRTUAL TABLE texts USING fts5 (
-    reference_id, path, content = 'documents', content_rowid = 'id', tokenize = 'trigram');
-)";
 
 std::int64_t integerOf(Database& database, const std::string& question) {
   Statement statement = database.prepare(question);
@@ -111,22 +78,24 @@ bool isFresh(const struct stat& status) {
 /// The stamp of a document that is read again the next time, though it may be the same.
 std::string doubtful(const std::string& stamp) { return "?" + stamp; }
 
-std::optional<double> unlessUnknown(double value) {
-  return value == 0.0 || !std::isfinite(value) ? std::nullopt : std::optional(value);
-}
-
-std::optional<double> unlessInfinite(double value) {
-  return std::isfinite(value) ? std::optional(value) : std::nullopt;
-}
-
-std::optional<std::string_view> unlessEmpty(std::string_view text) {
-  return text.empty() ? std::nullopt : std::optional(text);
-}
-
 std::string withSlash(std::string folder) {
   if (!folder.ends_with('/')) folder += '/';
   return folder;
 }
+
+/// A document that the index does not have as it is now.
+struct Found {
+  std::string path;
+  std::string stamp;  ///< as it was before it is read
+  /// Its number in the index, where an older state of it stands there.
+  std::optional<std::int64_t> known{};
+  bool isCounted = true;  ///< it is new or has changed; the others may have
+};
+
+struct ReadDocument {
+  Found found;
+  IndexEntry entry;
+};
 
 }  // namespace
 
@@ -143,15 +112,14 @@ class ClinicIndex::Update {
         known_(known.prepare("SELECT id, path, stamp FROM documents ORDER BY path")),
         forgetTexts_(database.prepare("INSERT INTO texts (texts, rowid, reference_id, path) "
                                       "SELECT 'delete', id, reference_id, path FROM documents WHERE id = ?")),
-        forgetRows_(database.prepare("DELETE FROM rows WHERE document = ?")),
+        forgetRows_(
+            database.prepare("DELETE FROM rows WHERE id >= (SELECT first_row FROM documents WHERE id = ?1) "
+                             "AND id < (SELECT first_row + row_count FROM documents WHERE id = ?1)")),
         forgetDocument_(database.prepare("DELETE FROM documents WHERE id = ?")),
-        addDocument_(database.prepare(
-            "INSERT INTO documents (path, stamp, error, reference_id, edd, standard, formula, "
-            "fetuses, last_exam, last_ga_weeks, last_ac_z) "
-            "VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)")),
+        addDocuments_(insertion("documents", addition_.documents())),
+        addRows_(insertion("rows", addition_.examinations())),
         addTexts_(database.prepare("INSERT INTO texts (rowid, reference_id, path) "
-                                   "SELECT id, reference_id, path FROM documents WHERE id >= ?")),
-        addRow_(database.prepare("INSERT INTO rows VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)")) {}
+                                   "SELECT id, reference_id, path FROM documents WHERE id >= ?")) {}
 
   IndexChanges run() {
     posix::FolderWalk walk(folder_, std::string(kDocumentSuffix));
@@ -170,6 +138,7 @@ class ClinicIndex::Update {
     known_.reset();
     writeAll();
     commit();
+    database_.execute(kIndexByDay);
     return changes_;
   }
 
@@ -179,22 +148,17 @@ class ClinicIndex::Update {
   static constexpr std::size_t kBytesInBatch = 1U << 20U;
   static constexpr std::size_t kBatchesAtOnce = 3;
 
-  /// A document that the index does not have as it is now.
-  struct Found {
-    std::string path;
-    std::string stamp;  ///< as it was before it is read
-    /// Its number in the index, where an older state of it stands there.
-    std::optional<std::int64_t> known{};
-    bool isCounted = true;  ///< it is new or has changed; the others may have
-  };
   struct Batch {
     std::vector<Found> documents{};
     std::size_t bytes = 0;
   };
-  struct ReadDocument {
-    Found found;
-    IndexEntry entry;
-  };
+  /// The statement that copies rows of the addition into `table`.
+  template <class Rows>
+  Statement insertion(const std::string& table, const Rows& rows) {
+    const std::string source = "added_" + table;
+    database_.show(rows, source, rows.columns());
+    return database_.prepare("INSERT INTO " + table + " (" + rows.columns() + ") SELECT * FROM " + source);
+  }
 
   std::vector<ReadDocument> readDocuments(Batch batch) const {
     std::vector<ReadDocument> documents;
@@ -275,7 +239,15 @@ class ClinicIndex::Update {
     if (!batch_.documents.empty()) reading_.add(std::exchange(batch_, {}));
   }
   void writeBatch() {
-    for (const ReadDocument& document : reading_.take()) write(document);
+    std::vector<ReadDocument> documents = reading_.take();
+    for (ReadDocument& document : documents) prepareToAdd(document);
+    const std::int64_t first = behindGreatest("documents");
+    if (!firstAdded_) firstAdded_ = first;
+    addition_.begin(first, behindGreatest("rows"));
+    for (const auto& [found, entry] : documents) addition_.add({within(found.path), found.stamp, entry});
+    addDocuments_.run();
+    addRows_.run();
+    commitOften();
   }
   /// Everything that was found until now.
   void writeAll() {
@@ -283,61 +255,20 @@ class ClinicIndex::Update {
     while (reading_.count() > 0) writeBatch();
   }
 
-  void write(const ReadDocument& document) {
-    const Found& found = document.found;
+  void prepareToAdd(ReadDocument& document) {
+    Found& found = document.found;
     change();
     if (found.known) forget(*found.known);
     if (found.isCounted) ++(found.known ? changes_.changed : changes_.added);
-    if (document.entry.fault) {
-      addUnreadable(found, document.entry);
-    } else {
-      addPatient(found, document.entry);
-    }
-    commitOften();
-  }
-
-  void addUnreadable(const Found& found, const IndexEntry& entry) {
-    complain_(found.path, *entry.fault);
+    if (!document.entry.fault) return;
+    complain_(found.path, *document.entry.fault);
     // It may be readable tomorrow with the same times.
-    const bool isDoubtful = entry.isFileAtFault && !found.stamp.starts_with('?');
-    // Other programs read the index: it is the same in every language.
-    addDocument_.bind(1, within(found.path))
-        .bind(2, isDoubtful ? doubtful(found.stamp) : found.stamp)
-        .bind(3, std::string_view(english(*entry.fault)));
-    for (int parameter = 4; parameter <= 11; ++parameter) addDocument_.bindNull(parameter);
-    addedDocument();
+    if (document.entry.isFileAtFault && !found.stamp.starts_with('?')) found.stamp = doubtful(found.stamp);
   }
 
-  std::int64_t addedDocument() {
-    addDocument_.run();
-    const std::int64_t id = database_.lastInserted();
-    // Numbers grow from the greatest that is there.
-    if (!firstAdded_) firstAdded_ = id;
-    return id;
-  }
-
-  void addPatient(const Found& found, const IndexEntry& entry) {
-    const std::optional<std::string_view> referenceID = entry.referenceID;
-    addDocument_.bind(1, within(found.path)).bind(2, found.stamp).bindNull(3);
-    addDocument_.bind(4, referenceID).bind(5, unlessEmpty(entry.edd));
-    addDocument_.bind(6, entry.standard).bind(7, entry.formula).bind(8, entry.fetuses);
-    addDocument_.bind(9, unlessEmpty(entry.lastExam))
-        .bind(10, unlessUnknown(entry.lastAge))
-        .bind(11, entry.acZ);
-    const std::int64_t id = addedDocument();
-    for (const IndexedRow& row : entry.rows) addRow(id, row);
-  }
-
-  void addRow(std::int64_t id, const IndexedRow& row) {
-    addRow_.bind(1, id).bind(2, row.examination).bind(3, row.fetus);
-    addRow_.bind(4, unlessEmpty(row.examDate)).bind(5, unlessUnknown(row.age));
-    for (std::size_t i = 0; i < row.zScores.size(); ++i) {
-      const double length = row.lengths.*calc::memberFor(calc::kMeasurements.at(i));
-      addRow_.bind(6 + static_cast<int>(i), unlessUnknown(length));
-      addRow_.bind(11 + static_cast<int>(i), unlessInfinite(row.zScores.at(i)));
-    }
-    addRow_.bind(10, unlessUnknown(row.weight));
-    addRow_.bind(15, unlessEmpty(row.note)).run();
+  /// The number that the next row of `table` gets.
+  std::int64_t behindGreatest(const std::string& table) {
+    return integerOf(database_, "SELECT max(id) FROM " + table) + 1;
   }
 
   Database& database_;
@@ -348,9 +279,10 @@ class ClinicIndex::Update {
   Statement forgetTexts_;
   Statement forgetRows_;
   Statement forgetDocument_;
-  Statement addDocument_;
+  IndexAddition addition_;
+  Statement addDocuments_;
+  Statement addRows_;
   Statement addTexts_;
-  Statement addRow_;
   int pending_ = 0;
   std::optional<std::int64_t> firstAdded_;  // of the transaction
   IndexChanges changes_;
@@ -369,31 +301,42 @@ ClinicIndex::ClinicIndex(const std::string& database, const std::string& folder)
     //: Behind the name of a file, as are the next ones.
     throw IndexError(Sentence("CommandLine", "is a database of another program"));
   }
-  database_.execute("PRAGMA journal_mode = WAL; PRAGMA synchronous = NORMAL; PRAGMA cache_size = -8192;");
+  // Large pages, since most of them are written once and in order.
+  database_.execute(
+      "PRAGMA page_size = 16384; PRAGMA journal_mode = WAL; PRAGMA synchronous = NORMAL; PRAGMA cache_size = "
+      "-8192;");
   std::error_code error;
   const std::string absolute = std::filesystem::canonical(folder, error).string();
-  if (tables > 0 && integerOf(database_, "PRAGMA user_version") != kVersion) {
+  const std::int64_t version = integerOf(database_, "PRAGMA user_version");
+  if (version > kIndexVersion) {
     throw IndexError(
         Sentence("CommandLine", "was made by another version of this program: remove it, and make it anew"));
   }
+  if (tables > 0) checkFolder(absolute);
+  // One of an older version is made anew: whatever it holds is in the documents.
+  const bool isOutdated = tables > 0 && version < kIndexVersion;
   const std::string zone = zoneText(posix::PosixCalendar());
-  if (tables == 0) {
-    database_.execute("BEGIN IMMEDIATE; PRAGMA application_id = " + std::to_string(kApplication) +
-                      "; PRAGMA user_version = " + std::to_string(kVersion) + ";" + kTables);
+  if (tables == 0 || isOutdated) {
+    database_.execute(std::string("BEGIN IMMEDIATE;") + (isOutdated ? kNoIndexTables : "") +
+                      "PRAGMA application_id = " + std::to_string(kApplication) +
+                      "; PRAGMA user_version = " + std::to_string(kIndexVersion) + ";" + kIndexTables);
     setAbout(database_, "folder", absolute);
     setAbout(database_, "zone", zone);
     database_.execute("COMMIT");
     return;
-  }
-  if (const auto indexed = about(database_, "folder"); indexed != absolute && !absolute.empty()) {
-    const Sentence named = indexed ? Sentence::verbatim(*indexed) : Sentence("CommandLine", "no folder");
-    throw IndexError(Sentence("CommandLine", "is the index of %1, not of %2").with(named, absolute));
   }
   if (about(database_, "zone") != zone) {
     database_.execute("BEGIN IMMEDIATE; UPDATE documents SET stamp = '';");
     setAbout(database_, "zone", zone);
     database_.execute("COMMIT");
   }
+}
+
+void ClinicIndex::checkFolder(const std::string& absolute) {
+  const auto indexed = about(database_, "folder");
+  if (indexed == absolute || absolute.empty()) return;
+  const Sentence named = indexed ? Sentence::verbatim(*indexed) : Sentence("CommandLine", "no folder");
+  throw IndexError(Sentence("CommandLine", "is the index of %1, not of %2").with(named, absolute));
 }
 
 IndexChanges ClinicIndex::bringUpToDate(
@@ -428,7 +371,7 @@ std::string dayText(const foundation::CivilDay& day, const foundation::Calendar&
 IndexQueries::IndexQueries(const std::string& database) : database_(database, Database::Access::read) {
   if (integerOf(database_, "PRAGMA application_id") != kApplication)
     throw IndexError(Sentence("CommandLine", "is no index of this program"));
-  if (integerOf(database_, "PRAGMA user_version") != kVersion) {
+  if (integerOf(database_, "PRAGMA user_version") != kIndexVersion) {
     throw IndexError(
         Sentence("CommandLine", "was made by another version of this program: remove it, and make it anew"));
   }

@@ -32,7 +32,7 @@ struct IndexChanges {
 /// Keeps what the documents of one folder say in a database. Every change is made whole or not at all, so a process that is
 /// killed leaves an index that is right for the documents that it holds, and the next run goes on from there.
 ///
-/// A document is read again when its size, inode, or one of its times is another than when it was read. Throws DatabaseError
+/// An index of an older version of this program is made anew. A document is read again when its size, inode, or one of its times is another than when it was read. Throws DatabaseError
 /// and IndexError.
 class ClinicIndex {
  public:
@@ -46,6 +46,9 @@ class ClinicIndex {
 
  private:
   class Update;
+
+  /// Throws IndexError where the index is of another folder than `absolute`.
+  void checkFolder(const std::string& absolute);
 
   std::string path_;
   std::string folder_;

@@ -56,7 +56,7 @@ IndexReader::IndexReader() {
 
 IndexEntry IndexReader::entryOf(const std::string& path) const {
   IndexEntry entry;
-  auto contents = posix::PosixFileStore().contents(path);
+  auto contents = posix::PosixFileStore::contentsOfListed(path);
   if (const auto* error = std::get_if<foundation::FileError>(&contents)) {
     entry.fault = reasonOf(*error);
     entry.isFileAtFault = true;

@@ -10,6 +10,8 @@
 #include <sqlite3.h>
 #include <unistd.h>
 
+#include "sqlite/ShowRows.h"
+
 namespace nascor::sqlite {
 
 using foundation::Sentence;
@@ -116,6 +118,9 @@ Statement Database::prepare(std::string_view statement) {
   return Statement(prepared);
 }
 
-std::int64_t Database::lastInserted() const { return ::sqlite3_last_insert_rowid(database_.get()); }
+void Database::show(const RowSource& rows, const std::string& name, const std::string& columns) {
+  if (showRows(database_.get(), rows, name, columns) != SQLITE_OK)
+    throw DatabaseError(Sentence::verbatim(::sqlite3_errmsg(database_.get())));
+}
 
 }  // namespace nascor::sqlite

@@ -10,6 +10,7 @@
 #include <string_view>
 
 #include "foundation/Sentence.h"
+#include "sqlite/RowSource.h"
 
 struct sqlite3;
 struct sqlite3_stmt;
@@ -70,8 +71,9 @@ class Database {
   /// Runs statements that have no rows and no parameters.
   void execute(const std::string& statements);
   Statement prepare(std::string_view statement);
-  /// The number of the row that was inserted last.
-  std::int64_t lastInserted() const;
+  /// From now on statements of this database can read `rows`, which outlives them, as the table `name`, with these columns,
+  /// between commas.
+  void show(const RowSource& rows, const std::string& name, const std::string& columns);
 
  private:
   std::unique_ptr<sqlite3, int (*)(sqlite3*)> database_;
