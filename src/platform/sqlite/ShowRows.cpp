@@ -18,31 +18,34 @@ struct Shown {
   std::string declaration;
 };
 
-struct Table : sqlite3_vtab {
-  explicit Table(const RowSource& shown) : sqlite3_vtab{}, rows(shown) {}
-  const RowSource& rows;
+// The library knows both by their first members, whose places are theirs.
+struct Table {
+  sqlite3_vtab base;
+  const RowSource* rows;
 };
 
-struct Cursor : sqlite3_vtab_cursor {
-  explicit Cursor(const RowSource& shown) : sqlite3_vtab_cursor{}, rows(shown) {}
-  const RowSource& rows;
-  std::size_t row = 0;
+struct Cursor {
+  sqlite3_vtab_cursor base;
+  const RowSource* rows;
+  std::size_t row;
 };
 
-Cursor& of(sqlite3_vtab_cursor* cursor) { return static_cast<Cursor&>(*cursor); }
+const RowSource* rowsOf(sqlite3_vtab* table) { return reinterpret_cast<Table*>(table)->rows; }
+
+Cursor& of(sqlite3_vtab_cursor* cursor) { return *reinterpret_cast<Cursor*>(cursor); }
 
 int connect(sqlite3* database, void* data, int /*count*/, const char* const* /*arguments*/,
             sqlite3_vtab** table, char** /*message*/) {
   const Shown& shown = *static_cast<const Shown*>(data);
-  std::unique_ptr<Table> made(new (std::nothrow) Table(shown.rows));
+  std::unique_ptr<Table> made(new (std::nothrow) Table{{}, &shown.rows});
   if (!made) return SQLITE_NOMEM;
   const int result = ::sqlite3_declare_vtab(database, shown.declaration.c_str());
-  if (result == SQLITE_OK) *table = made.release();
+  if (result == SQLITE_OK) *table = &made.release()->base;
   return result;
 }
 
 int disconnect(sqlite3_vtab* table) {
-  delete static_cast<Table*>(table);
+  delete reinterpret_cast<Table*>(table);
   return SQLITE_OK;
 }
 
@@ -50,8 +53,10 @@ int disconnect(sqlite3_vtab* table) {
 int plan(sqlite3_vtab* /*table*/, sqlite3_index_info* /*info*/) { return SQLITE_OK; }
 
 int open(sqlite3_vtab* table, sqlite3_vtab_cursor** cursor) {
-  *cursor = new (std::nothrow) Cursor(static_cast<Table*>(table)->rows);
-  return *cursor == nullptr ? SQLITE_NOMEM : SQLITE_OK;
+  auto* made = new (std::nothrow) Cursor{{}, rowsOf(table), 0};
+  if (made == nullptr) return SQLITE_NOMEM;
+  *cursor = &made->base;
+  return SQLITE_OK;
 }
 
 int close(sqlite3_vtab_cursor* cursor) {
@@ -70,7 +75,7 @@ int next(sqlite3_vtab_cursor* cursor) {
   return SQLITE_OK;
 }
 
-int isAtEnd(sqlite3_vtab_cursor* cursor) { return of(cursor).row >= of(cursor).rows.count() ? 1 : 0; }
+int isAtEnd(sqlite3_vtab_cursor* cursor) { return of(cursor).row >= of(cursor).rows->count() ? 1 : 0; }
 
 int rowNumber(sqlite3_vtab_cursor* cursor, sqlite3_int64* number) {
   *number = static_cast<sqlite3_int64>(of(cursor).row);
@@ -78,7 +83,7 @@ int rowNumber(sqlite3_vtab_cursor* cursor, sqlite3_int64* number) {
 }
 
 int value(sqlite3_vtab_cursor* cursor, sqlite3_context* result, int column) {
-  const Value shown = of(cursor).rows.value(of(cursor).row, column);
+  const Value shown = of(cursor).rows->value(of(cursor).row, column);
   if (const auto* whole = std::get_if<std::int64_t>(&shown)) {
     ::sqlite3_result_int64(result, *whole);
   } else if (const auto* real = std::get_if<double>(&shown)) {
