@@ -1539,6 +1539,10 @@ Files of the same names are replaced, but with --no-clobber. SOURCE_DATE_EPOCH, 
         <source>a decimal number with a point, such as 61.2</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>--out: expected a folder, but &quot;%1&quot; is named like a file</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>Compare</name>

@@ -1676,6 +1676,10 @@ Dateien gleichen Namens werden ersetzt, außer mit --no-clobber. SOURCE_DATE_EPO
         <source>a decimal number with a point, such as 61.2</source>
         <translation>eine Dezimalzahl mit Punkt, etwa 61.2</translation>
     </message>
+    <message>
+        <source>--out: expected a folder, but &quot;%1&quot; is named like a file</source>
+        <translation>--out: erwartet wird ein Ordner, doch „%1“ heißt wie eine Datei</translation>
+    </message>
 </context>
 <context>
     <name>Compare</name>

@@ -1666,6 +1666,10 @@ desde 1970, sustituye al momento presente.
         <source>a decimal number with a point, such as 61.2</source>
         <translation>un número decimal con punto, como 61.2</translation>
     </message>
+    <message>
+        <source>--out: expected a folder, but &quot;%1&quot; is named like a file</source>
+        <translation>--out: se espera una carpeta, pero «%1» se llama como un archivo</translation>
+    </message>
 </context>
 <context>
     <name>Compare</name>

@@ -1670,6 +1670,10 @@ SOURCE_DATE_EPOCH, en secondes depuis 1970, prend la place de l’instant prése
         <source>a decimal number with a point, such as 61.2</source>
         <translation>un nombre décimal avec un point, comme 61.2</translation>
     </message>
+    <message>
+        <source>--out: expected a folder, but &quot;%1&quot; is named like a file</source>
+        <translation>--out&#xa0;: un dossier est attendu, mais «&#xa0;%1&#xa0;» porte un nom de fichier</translation>
+    </message>
 </context>
 <context>
     <name>Compare</name>

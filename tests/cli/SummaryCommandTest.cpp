@@ -110,6 +110,17 @@ TEST_F(Summary, refusesWrongUsageBeforeItWrites) {
                                              {kTwins, kSingleton, "--out", "-"}}) {
     EXPECT_EQ(summarise(arguments).status, 2);
   }
+  for (const char* format : {"html", "fhir"}) {
+    const std::string named = folder.path("one.HTML");
+    const Outcome outcome = run(
+        {format == std::string("html") ? "summary" : "export", kTwins, "--out", named, "--format", format});
+    EXPECT_EQ(outcome.status, 2);
+    EXPECT_THAT(outcome.err,
+                HasSubstr("--out: expected a folder, but \"" + named + "\" is named like a file"));
+    EXPECT_FALSE(std::filesystem::exists(named));
+  }
+  std::filesystem::create_directories(folder.path("there.pdf"));
+  EXPECT_EQ(summarise({kTwins, "--out", folder.path("there.pdf"), "--format", "html"}).status, 0);
   ::setenv("SOURCE_DATE_EPOCH", "today", 1);
   EXPECT_THAT(summarise({kTwins, "--out", out}).err, HasSubstr("SOURCE_DATE_EPOCH: expected whole seconds"));
   EXPECT_THAT(files(), IsEmpty());

@@ -15,6 +15,7 @@
 #include "cli_commands/Names.h"
 #include "cli_commands/RecordExport.h"
 #include "cli_commands/ReferenceText.h"
+#include "cli_commands/Target.h"
 #include "model/PatientPage.h"
 
 namespace nascor::cli {
@@ -47,8 +48,7 @@ std::string painter() {
 }
 
 void exportPages(const std::string& format, const Arguments& arguments, Console& console) {
-  const auto folder = arguments.option("out");
-  if (!folder || folder->empty()) throw UsageError(Sentence("CommandLine", "--out is missing"));
+  const std::string folder = outFolderIn(arguments);
   if (std::ranges::find(kFormats, format) == kFormats.end())
     throw UsageError(Sentence("CommandLine", "--format: expected pdf, png, svg, sr or fhir"));
   if (arguments.has("ndjson")) throw UsageError(Sentence("CommandLine", "--ndjson is for --format fhir"));
@@ -63,14 +63,14 @@ void exportPages(const std::string& format, const Arguments& arguments, Console&
   const std::string fetus = inSmallLetters(arguments.option("fetus").value_or("all"));
   checkFetus(fetus);
 
-  if (*folder == "-" && arguments.operands.size() > 1)
+  if (folder == "-" && arguments.operands.size() > 1)
     throw UsageError(Sentence("CommandLine", "--out - takes the pages of one document"));
-  if (*folder == "-" && console.outputIsTerminal())
+  if (folder == "-" && console.outputIsTerminal())
     throw UsageError(Sentence(
         "CommandLine", "pages are no text for a terminal; give --out DIR or send standard output to a file"));
 
   const std::string program = painter();
-  std::vector<std::string> words{program, "--quiet", "--write-pages", *folder,   "--format",
+  std::vector<std::string> words{program, "--quiet", "--write-pages", folder,    "--format",
                                  format,  "--pages", pages,           "--fetus", fetus};
   if (const auto overlay = arguments.option("overlay")) {
     words.emplace_back("--overlay");

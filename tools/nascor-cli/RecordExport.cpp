@@ -64,7 +64,7 @@ void check(const std::string& format, const Arguments& arguments) {
 void exportRecords(const std::string& format, const Arguments& arguments, Console& console) {
   check(format, arguments);
   const bool isLines = arguments.has("ndjson");
-  Target target(arguments.option("out").value_or(""), arguments.has("no-clobber"), console);
+  Target target(isLines ? std::string() : outFolderIn(arguments), arguments.has("no-clobber"), console);
   const posix::PosixCalendar calendar;
   for (const std::string& file : arguments.operands) {
     const auto document = documentIn(file, console);

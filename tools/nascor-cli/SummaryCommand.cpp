@@ -86,15 +86,14 @@ std::variant<std::vector<std::byte>, Sentence> fileOf(const summary::Summary& su
 }
 
 void runSummary(const Arguments& arguments, Console& console) {
-  const auto folder = arguments.option("out");
-  if (!folder || folder->empty()) throw UsageError(Sentence("CommandLine", "--out is missing"));
+  const std::string folder = outFolderIn(arguments);
   const std::string format = inSmallLetters(arguments.option("format").value_or("pdf"));
   if (format != "pdf" && format != "html")
     throw UsageError(Sentence("CommandLine", "--format: expected pdf or html"));
   const summary::Paper paper = paperIn(arguments);
   const auto fetus = fetusIn(arguments);
   const summary::Details details = detailsIn(arguments);
-  const bool isStandardOutput = *folder == "-";
+  const bool isStandardOutput = folder == "-";
   if (isStandardOutput && arguments.operands.size() > 1)
     throw UsageError(Sentence("CommandLine", "--out - takes the summary of one document"));
   if (isStandardOutput && format == "pdf" && console.outputIsTerminal())
@@ -103,7 +102,7 @@ void runSummary(const Arguments& arguments, Console& console) {
 
   const SummaryClock clock;
   const posix::PosixCalendar calendar;
-  Target target(*folder, arguments.has("no-clobber"), console);
+  Target target(folder, arguments.has("no-clobber"), console);
   for (const std::string& file : arguments.operands) {
     const auto document = documentIn(file, console);
     if (!document) continue;

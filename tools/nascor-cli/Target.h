@@ -8,10 +8,15 @@
 #include <span>
 #include <string>
 
+#include "cli_commands/Command.h"
 #include "cli_commands/Console.h"
 #include "posix/PosixFileStore.h"
 
 namespace nascor::cli {
+
+/// What --out names: a folder that need not be there, or "-". Throws UsageError where it is missing, and where it is named like
+/// a file of these programs: such a folder is not what was meant.
+std::string outFolderIn(const Arguments& arguments);
 
 /// A folder that files are written to; it is made when it is missing.
 class Target {
